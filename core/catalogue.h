@@ -1,0 +1,62 @@
+#pragma once
+
+#include "core/text.h"
+#include "delivery/payload.h"
+
+#include <span>
+
+namespace orvane {
+
+/// The catalogue's page on which an effect lies: its tab, and its sub-menu of "Special Effects".
+enum class CataloguePage
+{
+    ImageEffects,
+    TextEffects,
+    OtherEffects,
+};
+
+/// When an effect has files that must be published with the page.
+enum class FilesNeeded
+{
+    Never,
+    Always,
+    WhenListed, ///< when the author listed at least one
+};
+
+/// Everything fixed about one effect.
+struct CatalogueRow
+{
+    EffectKind Kind;
+    TextView MenuCommand; ///< the object name of the command that opens it
+    TextView Title;
+    TextView Description;
+    TextView Form; ///< the wizard window
+    TextView MarkerName;
+    FilesNeeded Files;
+    bool ScriptedHelp;
+    bool ReplaceInBody;
+    bool HasButton = true; ///< false for the second of two rows that open the same wizard
+};
+
+/// One command of a sub-menu of "Special Effects".
+struct EffectCommand
+{
+    TextView Name;
+    TextView Caption; ///< "&" marks the access key
+    CataloguePage Page;
+    EffectKind Kind; ///< the effect that it opens
+};
+
+/// All effects, in the order of their numbers.
+std::span<const CatalogueRow> Catalogue();
+
+/// The row of an effect, or null for a number without one.
+const CatalogueRow* FindRow(EffectKind kind);
+
+/// All effect commands, in menu order.
+std::span<const EffectCommand> EffectCommands();
+
+/// The command of that name, or null.
+const EffectCommand* FindCommand(TextView name);
+
+} // namespace orvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/fault.h"
+#include "core/text.h"
+
+#include <cstdint>
+
+namespace orvane {
+
+/// The leading number of any text: blanks, tabs and line ends are passed over, reading stops at the
+/// first character that cannot go on; 0 when nothing numeric leads.
+double Val(TextView text);
+
+/// Whether the whole text, apart from blanks around it, is one number.
+bool IsNumeric(TextView text);
+
+/// The whole text as a 16-bit number, halves rounded to even; TypeMismatch when it is no number,
+/// Overflow when it lies outside -32768 to 32767.
+Outcome<std::int16_t> ToInteger16(TextView text);
+
+/// The number with at most 15 significant digits and no trailing zeros, such as "0.5".
+Text NumberToText(double number);
+
+} // namespace orvane

@@ -1,0 +1,1 @@
+#include "core/qt_text.h"

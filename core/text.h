@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+/// A sequence of 16-bit characters; every text of the program is one.
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+inline constexpr TextView lineEnd = u"\r\n";
+
+/// The position, counted from 1, of the first place of `sought` in `text` at or behind `from`
+/// (counted from 1 as well); 0 when there is none or `from` is 0.
+std::size_t Find(TextView text, TextView sought, std::size_t from = 1);
+
+/// The same as Find(), with upper and lower case taken as equal.
+std::size_t FindIgnoringCase(TextView text, TextView sought, std::size_t from = 1);
+
+/// The position, counted from 1, of the last place of `sought` in `text`; 0 when there is none.
+std::size_t FindLast(TextView text, TextView sought);
+
+/// The first `count` characters of `text`, or all of it when it is shorter.
+TextView Left(TextView text, std::size_t count);
+
+/// The last `count` characters of `text`, or all of it when it is shorter.
+TextView Right(TextView text, std::size_t count);
+
+/// Up to `count` characters of `text` from position `from`, counted from 1; empty behind the end.
+TextView Mid(TextView text, std::size_t from, std::size_t count = TextView::npos);
+
+/// `text` without the blanks (0x20 alone) at both ends.
+TextView Trim(TextView text);
+
+/// The lower- or upper-case partner of a character, one to one and without locale.
+char16_t ToLower(char16_t character);
+char16_t ToUpper(char16_t character);
+
+/// `text` with every character in lower or upper case; its length stays.
+Text ToLower(TextView text);
+Text ToUpper(TextView text);
+
+bool EqualIgnoringCase(TextView left, TextView right);
+bool StartsWithIgnoringCase(TextView text, TextView start);
+bool EndsWithIgnoringCase(TextView text, TextView end);
+
+/// `text` with every exact occurrence of `old`, from left to right, replaced by `replacement`;
+/// `text` itself when `old` is empty.
+Text ReplaceAll(TextView text, TextView old, TextView replacement);
+
+/// The joined pieces, in one allocation.
+Text Join(std::initializer_list<TextView> pieces);
+
+/// Each byte as one character from 0 to 255.
+Text FromBytes(std::string_view bytes);
+
+/// The bytes of a text that FromBytes() could have given; throws std::logic_error for a character
+/// above 255.
+std::string ToBytes(TextView text);
+
+/// The text of UTF-8 bytes; an ill-formed sequence becomes U+FFFD.
+Text FromUtf8(std::string_view bytes);
+
+/// The UTF-8 bytes of a text; half of a surrogate pair becomes U+FFFD.
+std::string ToUtf8(TextView text);
+
+} // namespace orvane

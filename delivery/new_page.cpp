@@ -1,0 +1,34 @@
+#include "delivery/new_page.h"
+
+#include "core/template.h"
+#include "delivery/page_encoding.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr Template newPage(uR"page(
+<HTML>
+<HEAD>
+«HEADHTML»
+</HEAD>
+<BODY «BODYAttribute»>
+«BODYHTML»
+</BODY></HTML>
+)page");
+
+} // namespace
+
+Text NewPageText(const FinishedPayload& payload)
+{
+    return Fill(newPage, {{u"HEADHTML", payload.Effect.HEADHTML},
+                          {u"BODYAttribute", payload.BODYAttribute},
+                          {u"BODYHTML", payload.Effect.BODYHTML}});
+}
+
+std::string NewPageBytes(const FinishedPayload& payload)
+{
+    return EncodeForPage(NewPageText(payload), PageEncoding::Windows1252);
+}
+
+} // namespace orvane

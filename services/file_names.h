@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/fault.h"
+#include "core/text.h"
+
+namespace orvane {
+
+/// Between the folders of a path; texts from elsewhere may hold "\" as well.
+inline constexpr char16_t pathSeparator = u'/';
+
+/// The position of the last separator of either kind, counted from 1; 0 when there is none.
+std::size_t LastSeparator(TextView path);
+
+/// The name behind the last separator; the whole text when there is none.
+TextView GetFileName(TextView path);
+
+/// What stands before the last separator; InvalidProcedureCall when there is none.
+Outcome<Text> GetPath(TextView path);
+
+/// The part through the last separator, which it keeps; empty when there is none.
+TextView FolderOf(TextView path);
+
+/// The folder with one separator at its end.
+Text WithSeparator(TextView folder);
+
+/// The full path of a name in a folder.
+Text PathIn(TextView folder, TextView name);
+
+/// Whether the name fits one of the masks, such as "*.gif;*.jpg", upper and lower case taken as
+/// equal; "*" stands for any characters, "?" for one.
+bool MatchesMasks(TextView name, TextView masks);
+
+} // namespace orvane

@@ -1,0 +1,242 @@
+#include "tests/support/doubles.h"
+
+#include <algorithm>
+
+namespace orvane::testing {
+
+FakeDialogs::~FakeDialogs()
+{
+    EXPECT_TRUE(m_questions.empty()) << "expected but never asked: "
+                                     << ToUtf8(m_questions.empty() ? Text() : m_questions[0].Words);
+    EXPECT_TRUE(m_openFiles.empty() && m_saveFiles.empty() && m_folders.empty() &&
+                m_colors.empty() && m_fonts.empty() && m_boxes.empty())
+        << "an answer was prepared for a dialog that never came";
+}
+
+void FakeDialogs::ExpectAsk(Text words, bool answer)
+{
+    m_questions.push_back({std::move(words), answer});
+}
+
+void FakeDialogs::ExpectAskOrCancel(Text words, std::optional<bool> answer)
+{
+    m_questions.push_back({std::move(words), answer});
+}
+
+std::vector<Text> FakeDialogs::TakeSaid()
+{
+    return std::exchange(Said, {});
+}
+
+void FakeDialogs::AnswerOpenFile(std::optional<Text> path)
+{
+    m_openFiles.push_back(std::move(path));
+}
+void FakeDialogs::AnswerSaveFile(std::optional<Text> path)
+{
+    m_saveFiles.push_back(std::move(path));
+}
+void FakeDialogs::AnswerFolder(std::optional<Text> path)
+{
+    m_folders.push_back(std::move(path));
+}
+void FakeDialogs::AnswerColor(std::optional<std::int32_t> color)
+{
+    m_colors.push_back(color);
+}
+void FakeDialogs::AnswerFont(const FontChoice& font)
+{
+    m_fonts.push_back(font);
+}
+void FakeDialogs::AnswerBox(const PageBoxReply& reply)
+{
+    m_boxes.push_back(reply);
+}
+
+template <class Value>
+Value FakeDialogs::Next(std::deque<Value>& script, const char* what, Value otherwise)
+{
+    if (script.empty()) {
+        ADD_FAILURE() << "nobody expected a dialog: " << what;
+        return otherwise;
+    }
+    Value value = script.front();
+    script.pop_front();
+    return value;
+}
+
+void FakeDialogs::Say(TextView words, Tone tone)
+{
+    Said.emplace_back(words);
+    LastTone = tone;
+}
+
+bool FakeDialogs::Ask(TextView words, TextView title)
+{
+    return AskOrCancel(words, title).value_or(false);
+}
+
+std::optional<bool> FakeDialogs::AskOrCancel(TextView words, TextView title)
+{
+    Asked.emplace_back(words);
+    Titles.emplace_back(title);
+    const Question question = Next(m_questions, ToUtf8(words).c_str(), Question());
+    EXPECT_EQ(ToUtf8(question.Words), ToUtf8(words));
+    return question.Reply;
+}
+
+std::optional<Text> FakeDialogs::OpenFile(const FileRequest& request)
+{
+    Requests.push_back(request);
+    return Next(m_openFiles, "open file", std::optional<Text>());
+}
+
+std::optional<Text> FakeDialogs::SaveFile(const FileRequest& request)
+{
+    Requests.push_back(request);
+    return Next(m_saveFiles, "save file", std::optional<Text>());
+}
+
+std::optional<Text> FakeDialogs::PickFolder(TextView, TextView start)
+{
+    FolderStarts.emplace_back(start);
+    return Next(m_folders, "pick folder", std::optional<Text>());
+}
+
+std::optional<std::int32_t> FakeDialogs::PickColor()
+{
+    return Next(m_colors, "pick color", std::optional<std::int32_t>());
+}
+
+FontChoice FakeDialogs::PickFont(const FontChoice& start)
+{
+    FontStarts.push_back(start);
+    return Next(m_fonts, "pick font", start);
+}
+
+PageBoxReply FakeDialogs::Answer(const PageBox& box)
+{
+    Boxes.push_back(box);
+    return Next(m_boxes, "page box", PageBoxReply());
+}
+
+void FakeFileStore::FailAt(int call, Fault fault)
+{
+    m_faultAt[call] = fault;
+}
+void FakeFileStore::FailOn(TextView path, Fault fault)
+{
+    m_faultOn[Text(path)] = fault;
+}
+
+std::optional<Fault> FakeFileStore::NextFault(TextView path) const
+{
+    ++m_calls;
+    if (const auto found = m_faultAt.find(m_calls); found != m_faultAt.end())
+        return found->second;
+    if (const auto found = m_faultOn.find(Text(path)); found != m_faultOn.end())
+        return found->second;
+    return std::nullopt;
+}
+
+Fault FakeFileStore::MissingFault(TextView path) const
+{
+    const TextView folder = FolderOf(path);
+    return Folders.empty() || Folders.contains(Text(Left(folder, folder.size() - 1)))
+               ? Fault::FileNotFound
+               : Fault::PathNotFound;
+}
+
+bool FakeFileStore::FileExists(TextView path) const
+{
+    return Contents.contains(Text(path));
+}
+
+Outcome<std::string> FakeFileStore::Read(TextView path) const
+{
+    Reads.emplace_back(path);
+    if (const auto fault = NextFault(path))
+        return *fault;
+    const auto found = Contents.find(Text(path));
+    if (found == Contents.end())
+        return MissingFault(path);
+    return found->second;
+}
+
+Done FakeFileStore::Replace(TextView path, std::string_view bytes)
+{
+    Writes.emplace_back(path);
+    if (const auto fault = NextFault(path))
+        return *fault;
+    Contents[Text(path)] = bytes;
+    return {};
+}
+
+Done FakeFileStore::Copy(TextView from, TextView to)
+{
+    const auto bytes = Read(from);
+    if (const Fault* fault = FaultIn(bytes))
+        return *fault;
+    return Replace(to, ValueIn(bytes));
+}
+
+Done FakeFileStore::Remove(TextView path)
+{
+    Removals.emplace_back(path);
+    if (const auto fault = NextFault(path))
+        return *fault;
+    if (Contents.erase(Text(path)) == 0)
+        return MissingFault(path);
+    return {};
+}
+
+Done FakeFileStore::MakeFolder(TextView path)
+{
+    if (const auto fault = NextFault(path))
+        return *fault;
+    if (!Folders.insert(Text(path)).second)
+        return Fault::PathFileAccess;
+    return {};
+}
+
+std::vector<Text> FakeFileStore::Files(TextView folder) const
+{
+    std::vector<Text> names;
+    for (const auto& [path, bytes] : Contents)
+        if (FolderOf(path) == WithSeparator(folder))
+            names.emplace_back(GetFileName(path));
+    std::sort(names.begin(), names.end(),
+              [](const Text& a, const Text& b) { return ToLower(a) < ToLower(b); });
+    return names;
+}
+
+bool FakeFileStore::FolderExists(TextView path) const
+{
+    return Folders.contains(Text(path));
+}
+
+Text FakeSettings::Get(TextView section, TextView key, TextView otherwise,
+                       TextView application) const
+{
+    const auto found = Stored.find({Text(application), Text(section), Text(key)});
+    return found == Stored.end() ? Text(otherwise) : found->second;
+}
+
+void FakeSettings::Put(TextView section, TextView key, TextView value, TextView application)
+{
+    Writes.push_back(Join({section, u"/", key}));
+    Stored[{Text(application), Text(section), Text(key)}] = value;
+}
+
+bool FakeShell::Start(TextView program, TextView argument)
+{
+    Started.emplace_back(program, argument);
+    return Starts;
+}
+
+FakeDesk::FakeDesk()
+{
+    Core.ProgramFolder = u"/program";
+}
+
+} // namespace orvane::testing

@@ -1,0 +1,164 @@
+#pragma once
+
+#include "core/workbench.h"
+#include "services/file_names.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace orvane::testing {
+
+/// Dialogs that answer from a script and record what was asked. A question that nobody expected
+/// fails the test at once, an answer that nobody asked for fails it at the end.
+class FakeDialogs : public Dialogs
+{
+public:
+    ~FakeDialogs() override;
+
+    /// The next question must have these words and is answered so.
+    void ExpectAsk(Text words, bool answer);
+    void ExpectAskOrCancel(Text words, std::optional<bool> answer);
+    /// The next box must say this; without such a call Say() only records.
+    std::vector<Text> Said; ///< every box, in order; take it empty with TakeSaid()
+    std::vector<Text> TakeSaid();
+
+    void AnswerOpenFile(std::optional<Text> path);
+    void AnswerSaveFile(std::optional<Text> path);
+    void AnswerFolder(std::optional<Text> path);
+    void AnswerColor(std::optional<std::int32_t> color);
+    void AnswerFont(const FontChoice& font);
+    void AnswerBox(const PageBoxReply& reply);
+
+    std::vector<Text> Asked;            ///< the words of every question
+    std::vector<Text> Titles;           ///< the titles of every question
+    std::vector<FileRequest> Requests;  ///< of every file dialog
+    std::vector<Text> FolderStarts;     ///< of every folder dialog
+    std::vector<FontChoice> FontStarts; ///< of every font dialog
+    std::vector<PageBox> Boxes;         ///< of every page box
+    Tone LastTone = Tone::Plain;
+
+    void Say(TextView words, Tone tone) override;
+    bool Ask(TextView words, TextView title) override;
+    std::optional<bool> AskOrCancel(TextView words, TextView title) override;
+    std::optional<Text> OpenFile(const FileRequest& request) override;
+    std::optional<Text> SaveFile(const FileRequest& request) override;
+    std::optional<Text> PickFolder(TextView title, TextView start) override;
+    std::optional<std::int32_t> PickColor() override;
+    FontChoice PickFont(const FontChoice& start) override;
+    PageBoxReply Answer(const PageBox& box) override;
+
+private:
+    template <class Value>
+    Value Next(std::deque<Value>& script, const char* what, Value otherwise);
+
+    struct Question
+    {
+        Text Words;
+        std::optional<bool> Reply;
+    };
+    std::deque<Question> m_questions;
+    std::deque<std::optional<Text>> m_openFiles;
+    std::deque<std::optional<Text>> m_saveFiles;
+    std::deque<std::optional<Text>> m_folders;
+    std::deque<std::optional<std::int32_t>> m_colors;
+    std::deque<FontChoice> m_fonts;
+    std::deque<PageBoxReply> m_boxes;
+};
+
+/// A disk in memory that records every call and can be told to fail at a given one.
+class FakeFileStore : public FileStore
+{
+public:
+    std::map<Text, std::string> Contents;
+    std::set<Text> Folders;
+    std::vector<Text> Writes;   ///< paths of Replace() and of Copy()'s targets, in order
+    std::vector<Text> Removals; ///< paths of Remove(), in order
+    mutable std::vector<Text> Reads;
+
+    /// The call with this number, counted from 1 over all calls that can fail, fails so.
+    void FailAt(int call, Fault fault);
+    /// Every call that touches this path fails so.
+    void FailOn(TextView path, Fault fault);
+    int Calls() const { return m_calls; }
+
+    bool FileExists(TextView path) const override;
+    Outcome<std::string> Read(TextView path) const override;
+    Done Replace(TextView path, std::string_view bytes) override;
+    Done Copy(TextView from, TextView to) override;
+    Done Remove(TextView path) override;
+    Done MakeFolder(TextView path) override;
+    std::vector<Text> Files(TextView folder) const override;
+    bool FolderExists(TextView path) const override;
+
+private:
+    std::optional<Fault> NextFault(TextView path) const;
+    Fault MissingFault(TextView path) const;
+
+    mutable int m_calls = 0;
+    std::map<int, Fault> m_faultAt;
+    std::map<Text, Fault> m_faultOn;
+};
+
+/// Settings in memory.
+class FakeSettings : public Settings
+{
+public:
+    std::map<std::tuple<Text, Text, Text>, Text> Stored; ///< by application, section, key
+    std::vector<Text> Writes;                            ///< "section/key" of every Put()
+
+    Text Get(TextView section, TextView key, TextView otherwise,
+             TextView application) const override;
+    void Put(TextView section, TextView key, TextView value, TextView application) override;
+};
+
+/// A desktop that records what was opened and started.
+class FakeShell : public Shell
+{
+public:
+    std::vector<Text> Opened;
+    std::vector<std::pair<Text, Text>> Started;
+    bool Starts = true;
+    std::optional<Text> Browser;
+
+    void OpenWithShell(TextView target) override { Opened.emplace_back(target); }
+    bool Start(TextView program, TextView argument) override;
+    std::optional<Text> DefaultBrowser() override { return Browser; }
+};
+
+class FakeClipboard : public Clipboard
+{
+public:
+    Text Content;
+    void Put(TextView text) override { Content = text; }
+};
+
+/// A preview pane that records the pages it was sent to.
+class FakePreviewPane : public PreviewPane
+{
+public:
+    std::vector<Text> Navigated;
+    void Navigate(TextView path) override { Navigated.emplace_back(path); }
+};
+
+/// A workbench of doubles, with "/program" as the program's folder.
+struct FakeDesk
+{
+    OrvaneCore Core;
+    FakeDialogs Dialogs;
+    FakeFileStore Files;
+    FakeSettings Settings;
+    FakeShell Shell;
+    FakeClipboard Clipboard;
+    FakePreviewPane Pane;
+    Workbench Bench{Core, Dialogs, Files, Settings, Shell, Clipboard, Pane, u"1.2.3", std::nullopt};
+
+    FakeDesk();
+};
+
+} // namespace orvane::testing

@@ -1,0 +1,75 @@
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace orvane::testing {
+
+namespace {
+
+std::string Shown(std::string_view bytes)
+{
+    std::string shown;
+    for (const char byte : bytes) {
+        if (byte == '\r')
+            shown += "<CR>";
+        else if (byte == '\n')
+            shown += "<LF>";
+        else if (static_cast<unsigned char>(byte) < 0x20)
+            shown += "<" + std::to_string(byte) + ">";
+        else
+            shown.push_back(byte);
+    }
+    return shown;
+}
+
+std::string_view LineFrom(std::string_view bytes, std::size_t start)
+{
+    const std::size_t end = bytes.find('\n', start);
+    return bytes.substr(std::min(start, bytes.size()),
+                        end == std::string_view::npos ? end : end + 1 - start);
+}
+
+} // namespace
+
+void ExpectSameBytes(std::string_view expected, std::string_view actual)
+{
+    if (expected == actual)
+        return;
+    std::size_t start = 0;
+    for (int line = 1;; ++line) {
+        const auto wanted = LineFrom(expected, start);
+        const auto got = LineFrom(actual, start);
+        if (wanted != got) {
+            ADD_FAILURE() << "line " << line << " differs\n  expected: " << Shown(wanted)
+                          << "\n  actual:   " << Shown(got);
+            return;
+        }
+        start += wanted.size();
+    }
+}
+
+void ExpectSameText(TextView expected, TextView actual)
+{
+    ExpectSameBytes(ToUtf8(expected), ToUtf8(actual));
+    // Halves of surrogate pairs look alike as bytes.
+    EXPECT_TRUE(expected == actual);
+}
+
+std::string ExpectedBytes(const std::string& name)
+{
+    std::ifstream file(ORVANE_EXPECTED_FOLDER "/" + name, std::ios::binary);
+    EXPECT_TRUE(file.is_open()) << name;
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+Text ExpectedText(const std::string& name)
+{
+    return FromUtf8(ExpectedBytes(name));
+}
+
+} // namespace orvane::testing

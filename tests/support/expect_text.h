@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/text.h"
+
+#include <string>
+#include <string_view>
+
+namespace orvane::testing {
+
+/// Fails with the first line that differs, its CR, LF and control characters shown as signs.
+void ExpectSameText(TextView expected, TextView actual);
+void ExpectSameBytes(std::string_view expected, std::string_view actual);
+
+/// The bytes of a file of tests/expected; fails the test when it is missing.
+std::string ExpectedBytes(const std::string& name);
+
+/// The same, read as UTF-8.
+Text ExpectedText(const std::string& name);
+
+} // namespace orvane::testing
