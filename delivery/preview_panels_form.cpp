@@ -112,11 +112,10 @@ void PreviewForm::AddFinishPanel()
                      u"If you wish to upload your special effect to the Web, you must "
                      u"also upload the following files:",
                      {});
-    page.Note(u"If you need help transferring your special effect to the Web, ");
     auto* link = new LinkLabel(QStringLiteral("lblClickHere"), u"click here.");
     connect(link, &LinkLabel::Followed, this,
             [this] { m_bench.Help.ShowTopic(help_topics::transfer); });
-    page.Row({}, {link});
+    page.Row(u"If you need help transferring your special effect to the Web, ", {link});
 }
 
 } // namespace orvane
