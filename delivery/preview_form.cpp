@@ -1,10 +1,13 @@
 #include "delivery/preview_form.h"
 
 #include "core/qt_text.h"
+#include "delivery/auto_insert.h"
+#include "delivery/editor_help.h"
 #include "delivery/new_page.h"
 #include "services/file_names.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -17,6 +20,9 @@
 namespace orvane {
 
 namespace {
+
+/// The own topic of the three pages that show code to copy.
+constexpr int manualPagesTopic = 50;
 
 /// Shows the wait pointer for as long as it lives.
 class WaitCursor
@@ -81,7 +87,7 @@ void PreviewForm::showEvent(QShowEvent* event)
 void PreviewForm::Next()
 {
     if (Mode() == InsertMode::ManualCopy)
-        setWebPageEditor();
+        OfferEditorHelp();
     ChangePage(NextStep(m_step, Mode(), Facts()));
 }
 
@@ -150,9 +156,8 @@ void PreviewForm::ShowFinish()
     cmdCancel->setText(QStringLiteral("&Done"));
     cmdCancel->setFocus();
     if (m_payload.NeedsFiles && !std::exchange(m_filesListed, true))
-        for (const Text& name : m_payload.Effect.Required.Names)
-            if (!name.empty())
-                lstFilesToUpload->addItem(ToQt(name));
+        for (const Text& name : ListedFiles(m_payload))
+            lstFilesToUpload->addItem(ToQt(name));
 }
 
 void PreviewForm::Preview(PreviewMode mode)
@@ -172,6 +177,27 @@ void PreviewForm::BrowseForPage()
                                       GetFileName(*path), u"\""})));
 }
 
+void PreviewForm::InsertIntoPage()
+{
+    const Text name = FromQt(txtFileName->text());
+    if (const auto complaint = CheckPageName(name))
+        return Report(*complaint);
+    const Text page = PagePath(name, FromQt(QDir::currentPath()));
+    const KeptPages kept{PathIn(m_bench.StateFolder, u"first-backups"), m_bench.Today()};
+    switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_payload, kept)) {
+    case AutoInsertion::NothingDone:
+        return;
+    case AutoInsertion::Manual:
+        optInsertMode[1]->setChecked(true);
+        m_step.PageStep = 3;
+        Next();
+        return;
+    case AutoInsertion::Inserted:
+        if (CopyFiles(FolderOf(page)))
+            GoOnTo(9);
+    }
+}
+
 void PreviewForm::SaveWebPage()
 {
     const auto path = m_bench.Dialogs.SaveFile(NewPageRequest());
@@ -182,8 +208,29 @@ void PreviewForm::SaveWebPage()
         m_bench.Dialogs.Say(Words(*fault));
         return;
     }
+    if (const auto missing = CopyFiles(FolderOf(*path)))
+        GoOnTo(missing->empty() ? 9 : 8);
+}
+
+std::optional<MissingFiles> PreviewForm::CopyFiles(TextView folder)
+{
+    const auto copied = CopyRequiredFiles(Desk(), folder);
+    if (const Fault* fault = FaultIn(copied)) {
+        m_bench.Dialogs.Say(Words(*fault));
+        return std::nullopt;
+    }
+    return ValueIn(copied);
+}
+
+CopyDesk PreviewForm::Desk() const
+{
+    return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs};
+}
+
+void PreviewForm::GoOnTo(std::int16_t page)
+{
     ++m_step.StepNumber;
-    m_step.PageStep = 9;
+    m_step.PageStep = page;
     ChangePage(m_step);
 }
 
@@ -207,14 +254,13 @@ DeliveryFacts PreviewForm::Facts() const
     return FactsOf(m_payload, !m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty());
 }
 
-void PreviewForm::setWebPageEditor()
+void PreviewForm::OfferEditorHelp()
 {
-    // The page behind this one gives its own topic where the editor has none.
-    const Text editor = m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"");
-    const Text name = editor.empty() || editor == u"Other" ? Text(u"your Web Page editor") : editor;
-    m_editorTopic = 50;
+    const EditorHelp help = setWebPageEditor(m_bench.Settings.Get(u"Misc", u"HTMLEditor", u""),
+                                             m_payload.ScriptedHelp, manualPagesTopic);
+    m_editorTopic = help.Topic;
     for (LinkLabel* label : lblNeedHelp)
-        label->SetWords(Join({u"Need help inserting this effect into ", name, u"?"}));
+        label->SetWords(help.Caption);
 }
 
 } // namespace orvane

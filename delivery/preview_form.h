@@ -4,9 +4,11 @@
 #include "delivery/delivery_flow.h"
 #include "delivery/payload.h"
 #include "delivery/preview_page.h"
+#include "delivery/required_files.h"
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QListWidget;
 class QPlainTextEdit;
@@ -66,10 +68,15 @@ private:
     void ShowPageControls();
     void ShowFinish();
     void KeepEditor();
-    void setWebPageEditor();
+    void OfferEditorHelp();
     void Preview(PreviewMode mode);
     void BrowseForPage();
+    void InsertIntoPage();
     void SaveWebPage();
+    /// The missing names; nothing when a fault ended the copying and the author was told.
+    std::optional<MissingFiles> CopyFiles(TextView folder);
+    CopyDesk Desk() const;
+    void GoOnTo(std::int16_t page);
     void CopyCode(QPlainTextEdit* box);
     InsertMode Mode() const;
     DeliveryFacts Facts() const;

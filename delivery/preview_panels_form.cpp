@@ -69,7 +69,7 @@ void PreviewForm::AddPagePanel()
                              u"below.",
                              QStringLiteral("lblAutoStep2"));
     cmdAutoInsert = page.Button(QStringLiteral("cmdAutoInsert"), u"&Auto-insert");
-    cmdAutoInsert->setEnabled(false);
+    connect(cmdAutoInsert, &QPushButton::clicked, this, &PreviewForm::InsertIntoPage);
     page.Buttons({cmdAutoInsert, cmdSaveWebPage});
     lblBackupFile = page.Note({}, QStringLiteral("lblBackupFile"));
     lblAutoStep3 = page.Note(u"3. Open your Web page in a browser to see the special effect.",
@@ -112,6 +112,8 @@ void PreviewForm::AddFinishPanel()
                      u"If you wish to upload your special effect to the Web, you must "
                      u"also upload the following files:",
                      {});
+    for (const Text& name : FilesToUpload(m_payload))
+        lstFilesToUpload->addItem(ToQt(name));
     auto* link = new LinkLabel(QStringLiteral("lblClickHere"), u"click here.");
     connect(link, &LinkLabel::Followed, this,
             [this] { m_bench.Help.ShowTopic(help_topics::transfer); });

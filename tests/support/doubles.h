@@ -164,8 +164,17 @@ struct FakeDesk
     FakeClipboard Clipboard;
     FakePreviewPane Pane;
     FakeHelpViewer Help;
-    Workbench Bench{Core,      Dialogs, Files, Settings, Shell,
-                    Clipboard, Pane,    Help,  u"1.2.3", std::nullopt};
+    Workbench Bench{.Core = Core,
+                    .Dialogs = Dialogs,
+                    .Files = Files,
+                    .Settings = Settings,
+                    .Shell = Shell,
+                    .Clipboard = Clipboard,
+                    .Pane = Pane,
+                    .Help = Help,
+                    .Version = u"1.2.3",
+                    .StateFolder = u"/state",
+                    .Today = [] { return Text(u"2024-05-31"); }};
 
     FakeDesk();
 };
