@@ -1,5 +1,6 @@
 #include "core/settings_file.h"
 
+#include "core/program_folder.h"
 #include "services/file_names.h"
 
 #include <tuple>
@@ -8,7 +9,7 @@ namespace orvane {
 
 namespace {
 
-/// The text with backslash, line ends and the three signs that shape a line escaped.
+/// The text with backslash, line ends and the signs that shape a line escaped.
 Text Escaped(TextView text)
 {
     Text escaped;
@@ -17,7 +18,7 @@ Text Escaped(TextView text)
             escaped += u"\\r";
         else if (c == u'\n')
             escaped += u"\\n";
-        else if (c == u'\\' || c == u'=' || c == u']')
+        else if (Find(u"\\=[]", TextView(&c, 1)) != 0)
             escaped.append({u'\\', c});
         else
             escaped.push_back(c);
@@ -114,7 +115,8 @@ void SettingsFile::Put(TextView section, TextView key, TextView value, TextView 
     // A file that is there but cannot be read is left alone: writing would drop its other settings.
     if (fault && *fault != Fault::FileNotFound && *fault != Fault::PathNotFound)
         return;
-    if (!m_files.FolderExists(m_folder) && FaultIn(m_files.MakeFolder(m_folder)))
+    const Done folder = MakeFolders(m_files, m_folder);
+    if (FaultIn(folder))
         return;
     SettingsTable settings = fault ? SettingsTable() : ReadSettings(ValueIn(bytes));
     settings[{Text(section), Text(key)}] = value;

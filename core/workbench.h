@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/help_viewer.h"
 #include "core/orvane_core.h"
 #include "core/settings.h"
 #include "delivery/preview_pane.h"
@@ -22,6 +23,7 @@ struct Workbench
     orvane::Shell& Shell;
     orvane::Clipboard& Clipboard;
     PreviewPane& Pane;
+    HelpViewer& Help;
     Text Version;                               ///< of this program, such as "1.0.0"
     std::optional<Text> PlatformBrowserVersion; ///< nothing: the platform has no registry to ask
 };

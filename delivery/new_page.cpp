@@ -31,4 +31,19 @@ std::string NewPageBytes(const FinishedPayload& payload)
     return EncodeForPage(NewPageText(payload), PageEncoding::Windows1252);
 }
 
+Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payload)
+{
+    return files.Replace(path, NewPageBytes(payload));
+}
+
+FileRequest NewPageRequest()
+{
+    return {.Title = u"Save As", .Filter = Text(webPageFilter), .FilterIndex = 2};
+}
+
+FileRequest ExistingPageRequest()
+{
+    return {.Title = u"Browse...", .Filter = Text(webPageFilter), .FilterIndex = 2};
+}
+
 } // namespace orvane

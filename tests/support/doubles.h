@@ -146,6 +146,13 @@ public:
     void Navigate(TextView path) override { Navigated.emplace_back(path); }
 };
 
+class FakeHelpViewer : public HelpViewer
+{
+public:
+    std::vector<int> Shown;
+    void ShowTopic(int number) override { Shown.push_back(number); }
+};
+
 /// A workbench of doubles, with "/program" as the program's folder.
 struct FakeDesk
 {
@@ -156,7 +163,9 @@ struct FakeDesk
     FakeShell Shell;
     FakeClipboard Clipboard;
     FakePreviewPane Pane;
-    Workbench Bench{Core, Dialogs, Files, Settings, Shell, Clipboard, Pane, u"1.2.3", std::nullopt};
+    FakeHelpViewer Help;
+    Workbench Bench{Core,      Dialogs, Files, Settings, Shell,
+                    Clipboard, Pane,    Help,  u"1.2.3", std::nullopt};
 
     FakeDesk();
 };

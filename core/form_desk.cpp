@@ -1,0 +1,109 @@
+#include "core/form_desk.h"
+
+#include "core/about_form.h"
+#include "core/options_form.h"
+#include "core/ov_main_form.h"
+#include "core/startup.h"
+#include "delivery/preview_form.h"
+#include "effects/text/status_bar_ticker_form.h"
+
+#include <QCoreApplication>
+
+namespace orvane {
+
+namespace {
+
+using WizardMaker = std::unique_ptr<WizardForm> (*)(Workbench&, QWidget*);
+
+template <class Form>
+std::unique_ptr<WizardForm> Make(Workbench& bench, QWidget* parent)
+{
+    return std::make_unique<Form>(bench, parent);
+}
+
+/// The window of an effect; null while it has none.
+WizardMaker MakerOf(EffectKind kind)
+{
+    switch (kind) {
+    case EffectKind::StatusBarTicker:
+        return &Make<StatusBarTickerForm>;
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+FormDesk::FormDesk(Workbench& bench, QWidget* pane) : m_bench(bench), m_pane(pane) {}
+
+FormDesk::~FormDesk() = default;
+
+void FormDesk::Start()
+{
+    if (StartUp(m_bench) == FirstWindow::OVMain) {
+        ShowMainForm();
+    } else {
+        m_downloadForm = std::make_unique<DownloadForm>(m_bench);
+        connect(m_downloadForm.get(), &QDialog::finished, this, [] { QCoreApplication::quit(); });
+        m_downloadForm->show();
+    }
+    SetWizardParam(m_bench.Core);
+}
+
+void FormDesk::ShowMainForm()
+{
+    m_mainForm = std::make_unique<OVMainForm>(m_bench, &FormDesk::IsBuilt);
+    PrepareMainWindow(m_bench.Core);
+    connect(m_mainForm.get(), &OVMainForm::EffectWanted, this, &FormDesk::OpenEffect);
+    connect(m_mainForm.get(), &OVMainForm::PreferencesWanted, this,
+            [this] { ShowOptions(m_mainForm.get()); });
+    connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
+        AboutForm about(m_bench, m_mainForm.get());
+        ShowModally(about);
+    });
+    m_mainForm->show();
+}
+
+bool FormDesk::IsBuilt(EffectKind kind)
+{
+    return MakerOf(kind) != nullptr;
+}
+
+std::unique_ptr<WizardForm> FormDesk::MakeWizard(EffectKind kind, Workbench& bench, QWidget* parent)
+{
+    const WizardMaker maker = MakerOf(kind);
+    return maker == nullptr ? nullptr : maker(bench, parent);
+}
+
+void FormDesk::OpenEffect(const EffectCommand& command)
+{
+    const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get());
+    if (wizard == nullptr)
+        return;
+    emit WizardOpened();
+    while (true) {
+        ShowModally(*wizard);
+        const auto payload = wizard->TakePayload();
+        if (!payload)
+            return;
+        m_bench.Core.Payload = *payload;
+        PreviewForm preview(
+            m_bench, *payload, m_pane, [&] { ShowOptions(&preview); }, m_mainForm.get());
+        ShowModally(preview);
+        if (preview.End() == DeliveryEnd::Finished)
+            return;
+    }
+}
+
+void FormDesk::ShowOptions(QWidget* parent)
+{
+    OptionsForm options(m_bench, parent);
+    ShowModally(options);
+}
+
+void FormDesk::ShowModally(QDialog& window)
+{
+    window.exec();
+}
+
+} // namespace orvane

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/catalogue.h"
+#include "core/workbench.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QDialog;
+
+namespace orvane {
+
+class OVMainForm;
+class WizardForm;
+
+/// Knows all windows, and is the road of one effect: wizard, delivery wizard, and back or out.
+class FormDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `pane` is the widget of the bench's preview pane; null when it has none.
+    FormDesk(Workbench& bench, QWidget* pane);
+    ~FormDesk() override;
+
+    /// Shows the window that the program opens with.
+    void Start();
+
+    /// Whether the effect has a wizard.
+    static bool IsBuilt(EffectKind kind);
+
+    /// A fresh window of the effect, or null when it has no wizard.
+    static std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,
+                                                  QWidget* parent = nullptr);
+
+    /// Leads the author through the effect's wizard and its delivery until both are closed.
+    void OpenEffect(const EffectCommand& command);
+
+    OVMainForm* MainForm() const { return m_mainForm.get(); }
+
+signals:
+    /// A wizard came up, so that a preview may soon be wanted.
+    void WizardOpened();
+
+private:
+    void ShowModally(QDialog& window);
+    void ShowOptions(QWidget* parent);
+    void ShowMainForm();
+
+    Workbench& m_bench;
+    QWidget* m_pane;
+    std::unique_ptr<OVMainForm> m_mainForm;
+    std::unique_ptr<QDialog> m_downloadForm;
+};
+
+} // namespace orvane

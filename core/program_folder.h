@@ -1,0 +1,31 @@
+#pragma once
+
+#include "services/file_store.h"
+
+#include <functional>
+#include <optional>
+
+namespace orvane {
+
+/// Looks up an environment variable; nothing when it is not set.
+using Environment = std::function<std::optional<Text>(TextView name)>;
+
+/// The per-user folders of this program, without separators at their ends.
+struct UserFolders
+{
+    Text Program;  ///< applet classes, effect images, help, the preview page
+    Text Settings; ///< one file per application
+    Text State;    ///< untouched first backups
+};
+
+/// The folders as the desktop's conventions place them; ORVANE_HOME names another program folder
+/// and takes settings and state along.
+UserFolders FindUserFolders(const Environment& environment);
+
+/// Makes a folder and those above it that are missing.
+[[nodiscard]] Done MakeFolders(FileStore& files, TextView path);
+
+/// Makes the file hold these bytes unless it does already.
+[[nodiscard]] Done InstallFile(FileStore& files, TextView path, std::string_view bytes);
+
+} // namespace orvane

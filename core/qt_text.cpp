@@ -1,1 +1,0 @@
-#include "core/qt_text.h"

@@ -1,0 +1,220 @@
+#include "delivery/preview_form.h"
+
+#include "core/qt_text.h"
+#include "delivery/new_page.h"
+#include "services/file_names.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+#include <tuple>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+/// Shows the wait pointer for as long as it lives.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+} // namespace
+
+PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
+                         std::function<void()> showOptions, QWidget* parent)
+    : WizardFrame(QStringLiteral("Preview"), bench, parent),
+      m_payload(Finish(effect)),
+      m_pane(pane),
+      m_showOptions(std::move(showOptions))
+{
+    setWindowTitle(QStringLiteral("Preview Wizard"));
+    AddPreviewPanel();
+    AddEditorPanel();
+    AddMethodPanel();
+    AddPagePanel();
+    AddCodePanels();
+    for (const int unused : {7, 8})
+        AddPanel(MemberName(QStringLiteral("Picture1"), unused));
+    AddFinishPanel();
+    AddButtons(Buttons::Paged, QStringLiteral("cmdHelp"));
+    setMinimumSize(640, 520);
+    ChangePage(m_step);
+}
+
+PreviewForm::~PreviewForm()
+{
+    if (m_pane != nullptr) {
+        m_pane->hide();
+        m_pane->setParent(nullptr);
+    }
+    // It is gone already when the embedded browser was the last to show it.
+    std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
+    m_bench.Core.Payload.HEADHTML.clear();
+    m_bench.Core.Payload.BODYHTML.clear();
+}
+
+Done PreviewForm::SaveHTMLtoFile(TextView path)
+{
+    const WaitCursor wait;
+    return orvane::SaveHTMLtoFile(m_bench.Files, path, m_payload);
+}
+
+void PreviewForm::showEvent(QShowEvent* event)
+{
+    WizardFrame::showEvent(event);
+    if (std::exchange(m_isPreviewed, true))
+        return;
+    // Once the window is on screen, since the engine may take a moment.
+    QTimer::singleShot(0, this, [this] { Preview(PreviewMode::Inline); });
+}
+
+void PreviewForm::Next()
+{
+    if (Mode() == InsertMode::ManualCopy)
+        setWebPageEditor();
+    ChangePage(NextStep(m_step, Mode(), Facts()));
+}
+
+void PreviewForm::Previous()
+{
+    cmdNext->setEnabled(true);
+    cmdCancel->setText(QStringLiteral("&Cancel"));
+    ChangePage(PreviousStep(m_step, Mode(), Facts()));
+}
+
+void PreviewForm::ChangePage(DeliveryStep step)
+{
+    m_step = step;
+    if (step.PageStep <= 0) {
+        m_end = DeliveryEnd::BackToWizard;
+        accept();
+        return;
+    }
+    const DeliveryPage page = DescribePage(step, Mode());
+    SetHeading(page.Heading, page.SubHeading);
+    SetHelpTopic(page.HelpContext);
+    ShowPanel(page.Panel);
+    switch (step.PageStep) {
+    case 3:
+        KeepEditor();
+        break;
+    case 4:
+        ShowPageControls();
+        break;
+    case 5:
+        cmdPrevious->setEnabled(true);
+        break;
+    case 9:
+        ShowFinish();
+        break;
+    default:
+        break;
+    }
+}
+
+void PreviewForm::KeepEditor()
+{
+    const QListWidgetItem* editor = lstHTMLEditors->currentItem();
+    if (editor != nullptr && m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty())
+        m_bench.Settings.Put(u"Misc", u"HTMLEditor", FromQt(editor->text()));
+}
+
+void PreviewForm::ShowPageControls()
+{
+    const bool isNewPage = Mode() == InsertMode::NewPage;
+    lblAutoStep1->setText(isNewPage
+                              ? QStringLiteral("1. Save your new Web page by pressing the 'Save as "
+                                               "New Web page' button below.")
+                              : QStringLiteral("1. Find your Web page using the browse button "
+                                               "below."));
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             lblAutoStep2, lblAutoStep3, txtFileName, cmdBrowse, cmdAutoInsert, lblBackupFile})
+        control->setVisible(!isNewPage);
+    cmdSaveWebPage->setVisible(isNewPage);
+    (isNewPage ? static_cast<QWidget*>(cmdSaveWebPage) : txtFileName)->setFocus();
+}
+
+void PreviewForm::ShowFinish()
+{
+    cmdNext->setEnabled(false);
+    cmdCancel->setText(QStringLiteral("&Done"));
+    cmdCancel->setFocus();
+    if (m_payload.NeedsFiles && !std::exchange(m_filesListed, true))
+        for (const Text& name : m_payload.Effect.Required.Names)
+            if (!name.empty())
+                lstFilesToUpload->addItem(ToQt(name));
+}
+
+void PreviewForm::Preview(PreviewMode mode)
+{
+    const WaitCursor wait;
+    LinkToBrowser(m_bench, m_payload, mode, m_showOptions);
+}
+
+void PreviewForm::BrowseForPage()
+{
+    const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest());
+    if (!path)
+        return;
+    txtFileName->setText(ToQt(*path));
+    lblBackupFile->setText(ToQt(Join({u"A backup copy of your Web page will be created and stored "
+                                      u"as \"Backup of ",
+                                      GetFileName(*path), u"\""})));
+}
+
+void PreviewForm::SaveWebPage()
+{
+    const auto path = m_bench.Dialogs.SaveFile(NewPageRequest());
+    if (!path)
+        return;
+    const Done saved = SaveHTMLtoFile(*path);
+    if (const Fault* fault = FaultIn(saved)) {
+        m_bench.Dialogs.Say(Words(*fault));
+        return;
+    }
+    ++m_step.StepNumber;
+    m_step.PageStep = 9;
+    ChangePage(m_step);
+}
+
+void PreviewForm::CopyCode(QPlainTextEdit* box)
+{
+    box->selectAll();
+    m_bench.Clipboard.Put(FromQtLines(box->toPlainText()));
+    box->setFocus();
+}
+
+InsertMode PreviewForm::Mode() const
+{
+    for (std::size_t i = 0; i < optInsertMode.size(); ++i)
+        if (optInsertMode[i]->isChecked())
+            return static_cast<InsertMode>(i);
+    return InsertMode::AutoInsert;
+}
+
+DeliveryFacts PreviewForm::Facts() const
+{
+    return FactsOf(m_payload, !m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty());
+}
+
+void PreviewForm::setWebPageEditor()
+{
+    // The page behind this one gives its own topic where the editor has none.
+    const Text editor = m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"");
+    const Text name = editor.empty() || editor == u"Other" ? Text(u"your Web Page editor") : editor;
+    m_editorTopic = 50;
+    for (LinkLabel* label : lblNeedHelp)
+        label->SetWords(Join({u"Need help inserting this effect into ", name, u"?"}));
+}
+
+} // namespace orvane

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "core/wizard_frame.h"
+#include "delivery/delivery_flow.h"
+#include "delivery/payload.h"
+#include "delivery/preview_page.h"
+
+#include <array>
+#include <functional>
+
+class QListWidget;
+class QPlainTextEdit;
+class QRadioButton;
+
+namespace orvane {
+
+/// How the delivery wizard ended.
+enum class DeliveryEnd
+{
+    Finished,     ///< Done, Cancel or the window's frame: the effect's wizard is unloaded too
+    BackToWizard, ///< the author wants to change the effect
+};
+
+/// The delivery wizard: leads from a finished payload to an effect in the author's page.
+class PreviewForm : public WizardFrame
+{
+    Q_OBJECT
+
+public:
+    /// `pane` is the widget of the bench's preview pane; it is borrowed while this window lives and
+    /// may be null. `showOptions` opens the preferences.
+    PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
+                std::function<void()> showOptions, QWidget* parent = nullptr);
+
+    /// Gives the pane back, removes the preview page and empties the shared payload's code.
+    ~PreviewForm() override;
+
+    DeliveryEnd End() const { return m_end; }
+
+    /// Writes the new page around the effect; on failure the file keeps what it had.
+    [[nodiscard]] Done SaveHTMLtoFile(TextView path);
+
+protected:
+    void Next() override;
+    void Previous() override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void AddPreviewPanel();
+    void AddEditorPanel();
+    void AddMethodPanel();
+    void AddPagePanel();
+    /// What one of the three pages with code to copy is made of.
+    struct CodePanel
+    {
+        int Panel;
+        const char* Box;
+        const char* CopyButton;
+        TextView AccessibleName;
+    };
+    void AddCodePanel(const CodePanel& words, TextView code, TextView example);
+    void AddCodePanels();
+    void AddFinishPanel();
+
+    void ChangePage(DeliveryStep step);
+    void ShowPageControls();
+    void ShowFinish();
+    void KeepEditor();
+    void setWebPageEditor();
+    void Preview(PreviewMode mode);
+    void BrowseForPage();
+    void SaveWebPage();
+    void CopyCode(QPlainTextEdit* box);
+    InsertMode Mode() const;
+    DeliveryFacts Facts() const;
+
+    FinishedPayload m_payload;
+    QWidget* m_pane;
+    std::function<void()> m_showOptions;
+    DeliveryStep m_step;
+    DeliveryEnd m_end = DeliveryEnd::Finished;
+    int m_editorTopic = 0;
+    bool m_isPreviewed = false;
+    bool m_filesListed = false;
+
+    QListWidget* lstHTMLEditors;
+    std::array<QRadioButton*, insertModes.size()> optInsertMode{};
+    QLabel* lblAutoStep1;
+    QLabel* lblAutoStep2;
+    QLabel* lblAutoStep3;
+    QLineEdit* txtFileName;
+    QPushButton* cmdBrowse;
+    QPushButton* cmdAutoInsert;
+    QLabel* lblBackupFile;
+    QPushButton* cmdSaveWebPage;
+    std::array<LinkLabel*, 3> lblNeedHelp{};
+    QListWidget* lstFilesToUpload;
+};
+
+} // namespace orvane

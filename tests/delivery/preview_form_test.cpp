@@ -1,0 +1,224 @@
+#include "delivery/preview_form.h"
+
+#include "core/form_desk.h"
+#include "core/ov_main_form.h"
+#include "delivery/new_page.h"
+#include "effects/text/status_bar_ticker.h"
+#include "effects/text/status_bar_ticker_form.h"
+#include "tests/support/doubles.h"
+#include "tests/support/expect_text.h"
+#include "tests/support/qt_controls.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class PreviewFormTest : public ::testing::Test
+{
+protected:
+    PreviewFormTest()
+    {
+        m_desk.Core.Payload = m_payload;
+        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, [] {});
+        m_form->show();
+        LetRun();
+    }
+
+    Text Heading() { return WordsOf(*m_form, "lblHeading"); }
+
+    void Choose(int insertMode)
+    {
+        Find<QRadioButton>(*m_form, ("optInsertMode(" + std::to_string(insertMode) + ")").c_str())
+            ->click();
+    }
+
+    void KnowEditor(TextView name) { m_desk.Settings.Put(u"Misc", u"HTMLEditor", name, u"Orvane"); }
+
+    void ToMethodPage()
+    {
+        KnowEditor(u"Other");
+        Click(*m_form, "cmdNext");
+    }
+
+    FakeDesk m_desk;
+    EffectPayload m_payload = Generate(StatusBarTicker{u"Welcome to my page!"});
+    std::unique_ptr<PreviewForm> m_form;
+};
+
+TEST_F(PreviewFormTest, OpensWithThePreviewOnItsFirstPage)
+{
+    m_desk.Shell.Browser = u"/usr/bin/browser";
+    EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
+    EXPECT_EQ(m_desk.Pane.Navigated, std::vector<Text>{u"/program/ov-prvw.htm"});
+    Click(*m_form, "cmdRefresh");
+    EXPECT_EQ(m_desk.Pane.Navigated.size(), 2u);
+    Click(*m_form, "cmdPreview1");
+    EXPECT_EQ(m_desk.Shell.Opened, std::vector<Text>{u"/program/ov-prvw.htm"});
+}
+
+TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
+{
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Step 2: Select your Web page Editor");
+    Find<QListWidget>(*m_form, "lstHTMLEditors")->setCurrentRow(3);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(m_desk.Settings.Get(u"Misc", u"HTMLEditor", u"", u"Orvane"), u"DreamWeaver");
+    Click(*m_form, "cmdPrevious");
+    EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
+}
+
+TEST_F(PreviewFormTest, StoredEditorIsNotReplacedByTheSelection)
+{
+    Find<QListWidget>(*m_form, "lstHTMLEditors")->setCurrentRow(3);
+    KnowEditor(u"FrontPage");
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
+    EXPECT_EQ(m_desk.Settings.Get(u"Misc", u"HTMLEditor", u"", u"Orvane"), u"FrontPage");
+}
+
+TEST_F(PreviewFormTest, EveryPageIsAccessibleAndFits)
+{
+    KnowEditor(u"Other");
+    for (const int mode : {0, 2, 1}) {
+        Choose(mode);
+        for (int page = 0; page < 4; ++page) {
+            if (Find<QPushButton>(*m_form, "cmdNext")->isEnabled())
+                Click(*m_form, "cmdNext");
+            ExpectAccessible(*m_form);
+        }
+        while (Heading() != u"Step 1: Preview your special effect")
+            Click(*m_form, "cmdPrevious");
+    }
+}
+
+TEST_F(PreviewFormTest, PagesForAnExistingAndForANewPageShowTheirOwnControls)
+{
+    ToMethodPage();
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
+              u"1. Find your Web page using the browse button below.");
+    EXPECT_TRUE(Find<QWidget>(*m_form, "txtFileName")->isVisible());
+    EXPECT_FALSE(Find<QWidget>(*m_form, "cmdSaveWebPage")->isVisible());
+    Click(*m_form, "cmdPrevious");
+    Choose(2);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
+              u"1. Save your new Web page by pressing the 'Save as New Web page' button below.");
+    for (const char* name : {"txtFileName", "cmdBrowse", "cmdAutoInsert", "lblBackupFile",
+                             "lblAutoStep2", "lblAutoStep3"})
+        EXPECT_FALSE(Find<QWidget>(*m_form, name)->isVisible()) << name;
+}
+
+TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
+{
+    ToMethodPage();
+    Choose(2);
+    Click(*m_form, "cmdNext");
+    m_desk.Dialogs.AnswerSaveFile(std::nullopt);
+    Click(*m_form, "cmdSaveWebPage");
+    EXPECT_EQ(Heading(), u"Step 3: Create a new Web page");
+    m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
+    Click(*m_form, "cmdSaveWebPage");
+    ExpectSameBytes(ExpectedBytes("status_bar_ticker_new_page.html"),
+                    m_desk.Files.Contents.at(u"/site/index.html"));
+    EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Done");
+    EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdNext")->isEnabled());
+    Click(*m_form, "cmdCancel");
+    EXPECT_FALSE(m_form->isVisible());
+    EXPECT_EQ(m_form->End(), DeliveryEnd::Finished);
+}
+
+TEST_F(PreviewFormTest, FailedSaveSaysWhyAndStaysOnThePage)
+{
+    ToMethodPage();
+    Choose(2);
+    Click(*m_form, "cmdNext");
+    m_desk.Files.FailOn(u"/full/p.html", Fault::DiskFull);
+    m_desk.Dialogs.AnswerSaveFile(u"/full/p.html");
+    Click(*m_form, "cmdSaveWebPage");
+    EXPECT_EQ(m_desk.Dialogs.Said, std::vector<Text>{u"Disk full"});
+    EXPECT_EQ(Heading(), u"Step 3: Create a new Web page");
+}
+
+TEST_F(PreviewFormTest, CopyPutsTheExactCodeOnTheClipboard)
+{
+    const FinishedPayload finished = Finish(m_payload);
+    ToMethodPage();
+    Choose(1);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(WordsOf(*m_form, "lblSubHeading"),
+              u"Add the following HTML code to the HEAD section of your Web page.");
+    Click(*m_form, "cmdCopyHEADHTML");
+    ExpectSameText(finished.Effect.HEADHTML, m_desk.Clipboard.Content);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(WordsOf(*m_form, "lblBODYAttribExample"),
+              u"For example:  <BODY onLoad=\"scrollit_r2l(99)\" >");
+    Click(*m_form, "cmdCopyBODYAttrib");
+    EXPECT_EQ(m_desk.Clipboard.Content, u" onLoad=\"scrollit_r2l(99)\" ");
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Finished!");
+}
+
+TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
+{
+    ToMethodPage();
+    Click(*m_form, "cmdNext");
+    m_desk.Dialogs.AnswerOpenFile(u"/site/index.html");
+    Click(*m_form, "cmdBrowse");
+    EXPECT_EQ(m_desk.Dialogs.Requests.at(0).Title, u"Browse...");
+    EXPECT_EQ(m_desk.Dialogs.Requests.at(0).FilterIndex, 2);
+    EXPECT_EQ(WordsOf(*m_form, "txtFileName"), u"/site/index.html");
+    EXPECT_EQ(WordsOf(*m_form, "lblBackupFile"),
+              u"A backup copy of your Web page will be created and stored as \"Backup of "
+              u"index.html\"");
+    Type(*m_form, "txtFileName", u"x");
+    EXPECT_EQ(WordsOf(*m_form, "txtFileName"), u"/site/index.html");
+    EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
+}
+
+TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndEmptiesTheSharedCode)
+{
+    m_form.reset();
+    EXPECT_FALSE(m_desk.Files.Contents.contains(u"/program/ov-prvw.htm"));
+    EXPECT_EQ(m_desk.Core.Payload.HEADHTML, u"");
+}
+
+TEST(FormDeskTest, LeadsBackToTheWizardWithItsFieldAndOutOfBoth)
+{
+    FakeDesk desk;
+    FormDesk road(desk.Bench, nullptr);
+    road.Start();
+    EXPECT_NE(desk.Core.WizardParam, u"");
+    WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& wizard) {
+        Type(wizard, "txtStatusBarText", u"one");
+        WhenInFront<PreviewForm>([&](PreviewForm& preview) {
+            EXPECT_EQ(desk.Core.Payload, Generate(StatusBarTicker{u"one"}));
+            WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& again) {
+                EXPECT_EQ(again.Parameters().txtStatusBarText, u"one");
+                EXPECT_EQ(desk.Core.Payload.HEADHTML, u"");
+                Type(again, "txtStatusBarText", u"two");
+                WhenInFront<PreviewForm>([&](PreviewForm& second) {
+                    EXPECT_EQ(desk.Core.Payload, Generate(StatusBarTicker{u"two"}));
+                    second.reject();
+                });
+                Click(again, "cmdDone");
+            });
+            Click(preview, "cmdPrevious");
+        });
+        Click(wizard, "cmdDone");
+    });
+    road.OpenEffect(*FindCommand(u"mnuStatusBar"));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(road.MainForm()->isVisible());
+    EXPECT_EQ(desk.Core.Payload.HEADHTML, u"");
+}
+
+} // namespace
+} // namespace orvane

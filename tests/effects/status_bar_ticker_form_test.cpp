@@ -1,0 +1,69 @@
+#include "effects/text/status_bar_ticker_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QPushButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class StatusBarTickerFormTest : public ::testing::Test
+{
+protected:
+    FakeDesk m_desk;
+    StatusBarTickerForm m_form{m_desk.Bench};
+};
+
+TEST_F(StatusBarTickerFormTest, DoneHandsTheTypedTextOver)
+{
+    m_form.show();
+    Type(m_form, "txtStatusBarText", u" \"Hi\" Ω");
+    Click(m_form, "cmdDone");
+    EXPECT_EQ(m_form.TakePayload(), Generate({u" \"Hi\" Ω"}));
+    EXPECT_FALSE(m_form.isVisible());
+    EXPECT_EQ(m_form.Parameters().txtStatusBarText, u" \"Hi\" Ω");
+    EXPECT_EQ(m_form.TakePayload(), std::nullopt);
+}
+
+TEST_F(StatusBarTickerFormTest, EmptyTextKeepsTheWindowOpenWithTheFocusInIt)
+{
+    m_form.show();
+    m_form.activateWindow();
+    Press(m_form, Qt::Key_Return);
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              std::vector<Text>{u"Please enter the Status Bar scrolling text."});
+    EXPECT_TRUE(m_form.isVisible());
+    EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("txtStatusBarText"));
+    EXPECT_EQ(m_form.TakePayload(), std::nullopt);
+}
+
+TEST_F(StatusBarTickerFormTest, EscapeCancelsWithoutAQuestion)
+{
+    m_form.show();
+    Type(m_form, "txtStatusBarText", u"x");
+    Press(m_form, Qt::Key_Escape);
+    EXPECT_FALSE(m_form.isVisible());
+    EXPECT_EQ(m_form.TakePayload(), std::nullopt);
+}
+
+TEST_F(StatusBarTickerFormTest, EditAppletTakesThePastedTextAndEndsTheEdit)
+{
+    m_desk.Core.EditMode = true;
+    m_desk.Core.PastedApplet = Generate({u"Hello"}).HEADHTML;
+    m_form.EditApplet();
+    EXPECT_EQ(m_form.Parameters().txtStatusBarText, u"\"Hello");
+    EXPECT_FALSE(m_desk.Core.EditMode);
+}
+
+TEST_F(StatusBarTickerFormTest, HelpButtonOpensTheEffectsTopic)
+{
+    m_form.show();
+    Click(m_form, "cmdClickHereForHelp");
+    EXPECT_EQ(m_desk.Help.Shown, std::vector<int>{109});
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,134 @@
+#include "tests/support/qt_controls.h"
+
+#include "core/qt_text.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include <set>
+
+namespace orvane::testing {
+
+namespace {
+
+void SendKey(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text)
+{
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(&control, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+    QApplication::sendEvent(&control, &release);
+}
+
+/// Parts of the toolkit's own controls have names that begin so.
+bool IsInner(const QWidget& control)
+{
+    return control.objectName().startsWith(QLatin1String("qt_"));
+}
+
+bool TakesFocus(const QWidget& control)
+{
+    return (control.focusPolicy() & Qt::TabFocus) != 0 && !IsInner(control) &&
+           qobject_cast<const QComboBox*>(control.parentWidget()) == nullptr;
+}
+
+QString SpokenName(const QWidget& control)
+{
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&control);
+        button != nullptr && !button->text().isEmpty())
+        return button->text();
+    return control.accessibleName();
+}
+
+} // namespace
+
+void Type(QWidget& window, const char* name, TextView text)
+{
+    auto* control = Find<QWidget>(window, name);
+    if (control == nullptr)
+        return;
+    for (const QChar c : ToQt(text))
+        SendKey(*control, Qt::Key_unknown, Qt::NoModifier, QString(c));
+}
+
+void Click(QWidget& window, const char* name)
+{
+    auto* button = Find<QAbstractButton>(window, name);
+    if (button == nullptr)
+        return;
+    EXPECT_TRUE(button->isEnabled()) << name << " is disabled";
+    EXPECT_TRUE(button->isVisibleTo(&window)) << name << " is hidden";
+    button->click();
+    LetRun();
+}
+
+void Press(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    SendKey(control, key, modifiers, {});
+}
+
+Text WordsOf(QWidget& window, const char* name)
+{
+    auto* control = Find<QWidget>(window, name);
+    if (const auto* label = qobject_cast<QLabel*>(control))
+        return FromQt(label->text());
+    if (const auto* button = qobject_cast<QAbstractButton*>(control))
+        return FromQt(button->text());
+    if (const auto* line = qobject_cast<QLineEdit*>(control))
+        return FromQt(line->text());
+    if (const auto* box = qobject_cast<QComboBox*>(control))
+        return FromQt(box->currentText());
+    if (const auto* code = qobject_cast<QPlainTextEdit*>(control))
+        return FromQtLines(code->toPlainText());
+    return {};
+}
+
+void LetRun()
+{
+    for (int round = 0; round < 3; ++round)
+        QApplication::processEvents();
+}
+
+void Poll(const std::function<bool(QWidget* front, bool mayWait)>& action)
+{
+    constexpr int rounds = 2000;
+    auto* timer = new QTimer(QApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action, round = 0]() mutable {
+        // Stopped while the action runs: it may open windows with event loops of their own.
+        timer->stop();
+        if (action(QApplication::activeModalWidget(), ++round < rounds))
+            timer->deleteLater();
+        else
+            timer->start(1);
+    });
+    timer->start(1);
+}
+
+void ExpectAccessible(QWidget& window)
+{
+    std::set<QString> names;
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        const QString name = control->objectName();
+        if (!control->isVisibleTo(&window) || IsInner(*control))
+            continue;
+        EXPECT_TRUE(name.isEmpty() || names.insert(name).second)
+            << "twice on a page: " << name.toStdString();
+        if (TakesFocus(*control)) {
+            EXPECT_FALSE(name.isEmpty())
+                << "no object name: " << control->metaObject()->className();
+            EXPECT_FALSE(SpokenName(*control).isEmpty()) << "no name: " << name.toStdString();
+        }
+        if (const auto* label = qobject_cast<const QLabel*>(control)) {
+            const int needed = label->wordWrap() ? label->heightForWidth(label->width())
+                                                 : label->sizeHint().height();
+            EXPECT_GE(label->height(), needed) << "cut off: " << label->text().toStdString();
+        }
+    }
+}
+
+} // namespace orvane::testing
