@@ -89,7 +89,6 @@ public:
             const std::size_t name = m_rest.starts_with(u"</") ? 2 : 1;
             if (m_rest.starts_with(u"<!--")) {
                 // The dashes that open a comment may be those that close it.
-                m_rest.remove_prefix(2);
                 SkipThrough(u"-->");
             } else if (m_rest.starts_with(u"<meta") && IsNameEnd(5)) {
                 m_rest.remove_prefix(5);

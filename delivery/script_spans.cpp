@@ -75,7 +75,7 @@ CodeSpan NextScript(TextView code, std::size_t from)
         const std::size_t name = rest.starts_with(u"</") ? 2 : 1;
         if (rest.starts_with(u"<!--")) {
             // The dashes that open a comment may be those that close it.
-            at = Behind(code, u"-->", at + 2);
+            at = Behind(code, u"-->", at);
         } else if (IsTag(code, at, u"<script")) {
             const std::size_t begin = BehindTag(code, at);
             return {begin, EndOfScript(code, begin)};
