@@ -1,5 +1,6 @@
 #include "delivery/auto_insert.h"
 
+#include "core/program_folder.h"
 #include "delivery/page_edit.h"
 #include "services/file_names.h"
 
@@ -28,21 +29,6 @@ AutoInsertion Tell(Dialogs& dialogs, Fault fault)
 {
     dialogs.Say(fault == Fault::PermissionDenied ? openElsewhereWords : Words(fault));
     return AutoInsertion::NothingDone;
-}
-
-/// Makes every folder of a full path that is missing.
-Done MakeFolders(FileStore& files, TextView folder)
-{
-    for (std::size_t end = 1; end != TextView::npos;) {
-        end = folder.find(pathSeparator, end + 1);
-        const TextView part = folder.substr(0, end);
-        if (files.FolderExists(part))
-            continue;
-        const Done made = files.MakeFolder(part);
-        if (FaultIn(made))
-            return made;
-    }
-    return {};
 }
 
 bool IsMissing(const Outcome<std::string>& read)
