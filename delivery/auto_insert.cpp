@@ -1,5 +1,6 @@
 #include "delivery/auto_insert.h"
 
+#include "core/program_folder.h"
 #include "delivery/page_edit.h"
 #include "services/file_names.h"
 
