@@ -37,11 +37,11 @@ public:
 } // namespace
 
 PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
-                         std::function<void()> showOptions, QWidget* parent)
+                         PreviewWindows windows, QWidget* parent)
     : WizardFrame(QStringLiteral("Preview"), bench, parent),
       m_payload(Finish(effect)),
       m_pane(pane),
-      m_showOptions(std::move(showOptions))
+      m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     AddPreviewPanel();
@@ -49,8 +49,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
     AddMethodPanel();
     AddPagePanel();
     AddCodePanels();
-    for (const int unused : {7, 8})
-        AddPanel(MemberName(QStringLiteral("Picture1"), unused));
+    AddPublishPanel();
     AddFinishPanel();
     AddButtons(Buttons::Paged, QStringLiteral("cmdHelp"));
     setMinimumSize(640, 520);
@@ -63,6 +62,7 @@ PreviewForm::~PreviewForm()
         m_pane->hide();
         m_pane->setParent(nullptr);
     }
+    m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
     m_bench.Core.Payload.HEADHTML.clear();
@@ -81,7 +81,7 @@ void PreviewForm::showEvent(QShowEvent* event)
     if (std::exchange(m_isPreviewed, true))
         return;
     // Once the window is on screen, since the engine may take a moment.
-    QTimer::singleShot(0, this, [this] { Preview(PreviewMode::Inline); });
+    QTimer::singleShot(0, this, [this] { BeginPreview(); });
 }
 
 void PreviewForm::Next()
@@ -119,6 +119,9 @@ void PreviewForm::ChangePage(DeliveryStep step)
         break;
     case 5:
         cmdPrevious->setEnabled(true);
+        break;
+    case 8:
+        m_publishPanel->Begin();
         break;
     case 9:
         ShowFinish();
@@ -163,7 +166,33 @@ void PreviewForm::ShowFinish()
 void PreviewForm::Preview(PreviewMode mode)
 {
     const WaitCursor wait;
-    LinkToBrowser(m_bench, m_payload, mode, m_showOptions);
+    LinkToBrowser(m_bench, m_payload, mode, m_windows.ShowOptions);
+}
+
+void PreviewForm::BeginPreview()
+{
+    const MissingFiles missing = CopyRequiredFilesForPreview(Desk());
+    if (missing.empty())
+        return Preview(PreviewMode::Inline);
+    SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);
+    ShowPanel(7);
+    m_publishPanel->FindMissing(PublishMode::MissingForPreview, missing,
+                                m_bench.Core.ProgramFolder);
+}
+
+void PreviewForm::FinishCopying(const AfterCopying& after)
+{
+    m_publishPanel->Begin();
+    const DeliveryPage page =
+        DescribePage({static_cast<std::int16_t>(after.HeadingPage), m_step.StepNumber}, Mode());
+    SetHeading(page.Heading, page.SubHeading);
+    SetHelpTopic(page.HelpContext);
+    ShowPanel(after.Panel);
+    cmdNext->setEnabled(after.IsNextEnabled);
+    cmdPrevious->setEnabled(after.IsPreviousEnabled);
+    cmdCancel->setText(ToQt(after.CancelCaption));
+    if (after.IsPreviewed)
+        Preview(PreviewMode::Inline);
 }
 
 void PreviewForm::BrowseForPage()
@@ -193,6 +222,7 @@ void PreviewForm::InsertIntoPage()
         Next();
         return;
     case AutoInsertion::Inserted:
+        // What is missing was told; the last page comes all the same.
         if (CopyFiles(FolderOf(page)))
             GoOnTo(9);
     }

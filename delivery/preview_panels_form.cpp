@@ -1,5 +1,6 @@
 #include "core/page_builder.h"
 #include "core/qt_text.h"
+#include "delivery/ftp_panel.h"
 #include "delivery/preview_form.h"
 
 #include <QListWidget>
@@ -102,6 +103,22 @@ void PreviewForm::AddCodePanels()
     AddCodePanel({6, "txtBODYAttribute", "cmdCopyBODYAttrib", u"BODY attribute HTML code"},
                  m_payload.BODYAttribute,
                  Join({u"For example:  <BODY", m_payload.BODYAttribute, u">"}));
+}
+
+void PreviewForm::AddPublishPanel()
+{
+    m_publishPanel = new PublishPanel(Desk(), m_windows.MakeFolder);
+    PageBuilder(AddPanel(PanelName(7))).Fill(m_publishPanel);
+    connect(m_publishPanel, &PublishPanel::ControlsChanged, this,
+            [this](const PublishControls& controls) {
+                cmdPrevious->setVisible(controls.cmdPrevious);
+                cmdNext->setVisible(controls.cmdNext);
+            });
+    connect(m_publishPanel, &PublishPanel::CopyingDone, this,
+            [this] { FinishCopying(DoneCopying()); });
+    connect(m_publishPanel, &PublishPanel::PreviewWanted, this,
+            [this] { FinishCopying(PreviewAfterCopying()); });
+    PageBuilder(AddPanel(PanelName(8))).Fill(new FtpPanel(m_bench.Settings));
 }
 
 void PreviewForm::AddFinishPanel()
