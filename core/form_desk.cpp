@@ -105,8 +105,7 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload)
                 return makeDir.NewFolder();
             },
     };
-    preview =
-        std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
+    preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
     return preview->End();
 }

@@ -69,10 +69,10 @@ QWidget* PublishPanel::MakeFromSide()
 QWidget* PublishPanel::MakeToSide()
 {
     auto* side = new QWidget;
-    m_to = new FolderBoxes(m_desk.Files,
-                           {QStringLiteral("driveCopyTo"), QStringLiteral("dirCopyTo"),
-                            QStringLiteral("fileCopyTo")},
-                           u"*.*");
+    m_to = new FolderBoxes(
+        m_desk.Files,
+        {QStringLiteral("driveCopyTo"), QStringLiteral("dirCopyTo"), QStringLiteral("fileCopyTo")},
+        u"*.*");
     cmdNewFolder = MakeButton("cmdNewFolder", "Ne&w Folder...", &PublishPanel::MakeFolder);
     QVBoxLayout* column = MakeColumn(side);
     column->addWidget(m_to, 1);
