@@ -111,8 +111,12 @@ void PreviewForm::ChangePage(DeliveryStep step)
     SetHelpTopic(page.HelpContext);
     ShowPanel(page.Panel);
     switch (step.PageStep) {
+    case 2:
+        lstHTMLEditors->setFocus();
+        break;
     case 3:
         KeepEditor();
+        optInsertMode[static_cast<std::size_t>(Mode())]->setFocus();
         break;
     case 4:
         ShowPageControls();
