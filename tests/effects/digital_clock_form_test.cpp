@@ -253,9 +253,11 @@ TEST_F(DigitalClockFormTest, TypedFontsStayAsTheyAreWhenTheFieldIsLeft)
     m_form.SetParameters({.optDateTime = ClockContent::Time});
     m_form.ChangePage(4);
     m_form.activateWindow();
+    LetRun();
     for (const auto& [name, text] : std::vector<std::pair<const char*, TextView>>{
              {"cboFont", u"arial"}, {"cboFontSize", u"1"}, {"cboFontStyle", u"bold"}}) {
         Find<QWidget>(m_form, name)->setFocus();
+        ASSERT_TRUE(Find<QWidget>(m_form, name)->hasFocus());
         Retype(name, text);
         Find<QWidget>(m_form, "cmdNext")->setFocus();
         EXPECT_EQ(ToUtf8(WordsOf(m_form, name)), ToUtf8(text));
