@@ -5,6 +5,7 @@
 #include "core/ov_main_form.h"
 #include "core/startup.h"
 #include "delivery/preview_form.h"
+#include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "services/make_dir_form.h"
 
@@ -26,6 +27,8 @@ std::unique_ptr<WizardForm> Make(Workbench& bench, QWidget* parent)
 WizardMaker MakerOf(EffectKind kind)
 {
     switch (kind) {
+    case EffectKind::DigitalClock:
+        return &Make<DigitalClockForm>;
     case EffectKind::StatusBarTicker:
         return &Make<StatusBarTickerForm>;
     default:
