@@ -112,6 +112,8 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
     for (const Text& drive : m_driveList)
         m_drives->addItem(ToQt(drive));
     connect(m_drives, &QComboBox::activated, this, &FolderBoxes::PickDrive);
+    const int iconSide = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_folders->setIconSize({iconSide, iconSide});
     m_folders->setItemDelegate(new DepthDelegate(m_folders));
     const auto pick = [this] { PickFolder(m_folders->SelectedRow()); };
     connect(m_folders, &ActingList::Entered, this, pick);

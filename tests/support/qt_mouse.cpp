@@ -1,0 +1,91 @@
+#include "tests/support/qt_mouse.h"
+
+#include "core/qt_text.h"
+#include "tests/support/qt_controls.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+
+namespace orvane::testing {
+
+namespace {
+
+void Send(QListWidget& list, QEvent::Type type, Qt::MouseButton button, QPoint place)
+{
+    const QWidget& view = *list.viewport();
+    const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+    QMouseEvent event(type, place, view.mapToGlobal(place), button, held, Qt::NoModifier);
+    QApplication::sendEvent(list.viewport(), &event);
+}
+
+void ClickAt(QListWidget& list, QPoint place, bool isDouble)
+{
+    Send(list, QEvent::MouseButtonPress, Qt::LeftButton, place);
+    Send(list, QEvent::MouseButtonRelease, Qt::LeftButton, place);
+    if (isDouble) {
+        Send(list, QEvent::MouseButtonDblClick, Qt::LeftButton, place);
+        Send(list, QEvent::MouseButtonRelease, Qt::LeftButton, place);
+    }
+    LetRun();
+}
+
+/// The middle of a row, which is scrolled into sight.
+QPoint PlaceOf(QListWidget& list, int row)
+{
+    EXPECT_LT(row, list.count());
+    list.scrollToItem(list.item(row));
+    return list.visualItemRect(list.item(row)).center();
+}
+
+} // namespace
+
+std::vector<Text> RowsOf(QWidget& window, const char* name)
+{
+    std::vector<Text> rows;
+    const auto* list = Find<QListWidget>(window, name);
+    for (int row = 0; list != nullptr && row < list->count(); ++row)
+        rows.push_back(FromQt(list->item(row)->text()));
+    return rows;
+}
+
+int SelectedRowOf(QWidget& window, const char* name)
+{
+    const auto* list = Find<QListWidget>(window, name);
+    if (list == nullptr || list->selectedItems().isEmpty())
+        return -1;
+    return list->row(list->selectedItems().constFirst());
+}
+
+void ClickRow(QWidget& window, const char* name, int row)
+{
+    if (auto* list = Find<QListWidget>(window, name))
+        ClickAt(*list, PlaceOf(*list, row), false);
+}
+
+void DoubleClickRow(QWidget& window, const char* name, int row)
+{
+    if (auto* list = Find<QListWidget>(window, name))
+        ClickAt(*list, PlaceOf(*list, row), true);
+}
+
+void DoubleClickBelowRows(QWidget& window, const char* name)
+{
+    if (auto* list = Find<QListWidget>(window, name))
+        ClickAt(*list, list->viewport()->rect().bottomLeft() + QPoint(4, -4), true);
+}
+
+void RightPressRow(QWidget& window, const char* name, int row)
+{
+    auto* list = Find<QListWidget>(window, name);
+    if (list == nullptr)
+        return;
+    const QPoint place = PlaceOf(*list, row);
+    Send(*list, QEvent::MouseButtonPress, Qt::RightButton, place);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, place, list->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list->viewport(), &menu);
+    Send(*list, QEvent::MouseButtonRelease, Qt::RightButton, place);
+    LetRun();
+}
+
+} // namespace orvane::testing

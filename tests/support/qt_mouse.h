@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/text.h"
+
+#include <QListWidget>
+#include <QWidget>
+
+#include <vector>
+
+namespace orvane::testing {
+
+/// The words of a list box's rows; fails the test when there is no such list.
+std::vector<Text> RowsOf(QWidget& window, const char* name);
+
+/// The selected row of a list box, or -1.
+int SelectedRowOf(QWidget& window, const char* name);
+
+/// Presses and releases the left button on a row of a list box.
+void ClickRow(QWidget& window, const char* name, int row);
+
+/// Clicks a row twice in a row.
+void DoubleClickRow(QWidget& window, const char* name, int row);
+
+/// Clicks twice where a list box has no row.
+void DoubleClickBelowRows(QWidget& window, const char* name);
+
+/// Presses the right button on a row of a list box, with the menu that it asks for.
+void RightPressRow(QWidget& window, const char* name, int row);
+
+} // namespace orvane::testing
