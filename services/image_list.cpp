@@ -16,12 +16,6 @@ Complaint CannotMove(TextView listInMessages, TextView end)
             .Control = {}};
 }
 
-/// Whether `folder` is `drive` or lies somewhere in it.
-bool IsWithin(TextView folder, TextView drive)
-{
-    return WithSeparator(folder).starts_with(WithSeparator(drive));
-}
-
 } // namespace
 
 ImageListVariation AnimatorImageList()
@@ -116,15 +110,6 @@ void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name)
     }
     if (core.RequiredFileCount < std::numeric_limits<std::int16_t>::max())
         ++core.RequiredFileCount;
-}
-
-std::optional<std::size_t> DriveOf(const std::vector<Text>& drives, TextView folder)
-{
-    std::optional<std::size_t> longest;
-    for (std::size_t i = 0; i < drives.size(); ++i)
-        if (IsWithin(folder, drives[i]) && (!longest || drives[i].size() > drives[*longest].size()))
-            longest = i;
-    return longest;
 }
 
 } // namespace orvane

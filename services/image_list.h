@@ -92,8 +92,4 @@ void ClearRequiredFiles(OrvaneCore& core);
 /// nothing is recorded, and the count goes on.
 void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name);
 
-/// The entry of a drive box in which `folder` lies: the longest that holds it; nothing when none
-/// does.
-std::optional<std::size_t> DriveOf(const std::vector<Text>& drives, TextView folder);
-
 } // namespace orvane

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "core/workbench.h"
+#include "services/image_list.h"
+
+#include <QPoint>
+#include <QSize>
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace orvane {
+
+class FolderBoxes;
+class ParallelLists;
+
+/// The part of a window in which the author picks images and puts them in order: drive, folder and
+/// file box, the image list with the lists in step with it, and their buttons.
+class ImageListPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Starts in the folder used last, with an empty list and no files to copy.
+    ImageListPanel(Workbench& bench, const ImageListVariation& variation,
+                   QWidget* parent = nullptr);
+
+    /// From now on the fields grow to the size of each added picture.
+    void SetSizeFields(QLineEdit* width, QLineEdit* height);
+
+    const std::vector<ImageRow>& Rows() const { return m_list.Rows; }
+    std::optional<std::size_t> Selected() const { return m_list.Selected; }
+
+    /// Shows other rows, as from a file, with none selected; nothing is recorded for copying.
+    void SetRows(std::vector<ImageRow> rows);
+
+    /// Changes what is set for one image, and selects it. Expects a row that is there.
+    void SetRow(std::size_t index, ImageRow row);
+
+    /// Adds the file that is selected in the file box, without asking whether one is.
+    void AddImageToList();
+
+signals:
+    /// The author selected another row, or none.
+    void RowSelected();
+    void RowDoubleClicked();
+    /// A right press on the lists, or the menu key, while a row is selected.
+    void MenuRequested(QPoint globalPlace);
+
+private:
+    QPushButton* MakeButton(const QString& name, TextView caption);
+    QWidget* MakePreview();
+    void Arrange(QWidget* preview);
+    void Connect();
+    void LoadPicture();
+    void AddSelectedFile();
+    void GrowSizeFields();
+    void ShowList();
+    void Tell(const std::optional<Complaint>& complaint);
+
+    Workbench& m_bench;
+    const ImageListVariation m_variation;
+    ImageList m_list;
+    QSize m_pictureSize{0, 0}; ///< of the last picture that could be loaded
+    FolderBoxes* m_boxes;
+    ParallelLists* m_lists;
+    QPushButton* cmdAdd;
+    QPushButton* cmdMoveUp;
+    QPushButton* cmdMoveDown;
+    QPushButton* cmdDelete;
+    QLabel* m_preview = nullptr; ///< null when the variation shows none
+    QLineEdit* m_width = nullptr;
+    QLineEdit* m_height = nullptr;
+};
+
+} // namespace orvane
