@@ -4,6 +4,7 @@
 #include "core/orvane_core.h"
 #include "effects/applet/applet_tag_builder.h"
 #include "reedit/applet_values.h"
+#include "services/color.h"
 
 namespace orvane {
 
@@ -61,6 +62,14 @@ std::vector<ImageRow> ReadRows(TextView pasted)
 }
 
 } // namespace
+
+Text BackgroundOf(std::int32_t packedColor)
+{
+    CColor color;
+    color.ConvertHexToRGB(color.ConvertToRGBHex(packedColor));
+    return Join(
+        {NumberToText(color.Red), u",", NumberToText(color.Green), u",", NumberToText(color.Blue)});
+}
 
 std::optional<Complaint> Check(const AdvancedAnimator& animator)
 {

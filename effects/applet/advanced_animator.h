@@ -4,6 +4,7 @@
 #include "delivery/payload.h"
 #include "services/image_list.h"
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -20,6 +21,10 @@ struct AdvancedAnimator
     Text BackgroundColor; ///< red, green and blue as "255,128,0"; empty when none was picked
     bool operator==(const AdvancedAnimator&) const = default;
 };
+
+/// The stored text of a picked colour, packed as CColor::RGBColor is: its channels as decimal
+/// texts, joined by commas.
+Text BackgroundOf(std::int32_t packedColor);
 
 /// The first failing check in order, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const AdvancedAnimator& animator);

@@ -120,6 +120,13 @@ INSTANTIATE_TEST_SUITE_P(
                  u"HEIGHT=\"7 px\">"}),
     [](const auto& row) { return row.param.Name; });
 
+TEST(AdvancedAnimatorTest, StoresAColorByItsChannels)
+{
+    EXPECT_EQ(BackgroundOf(0x0080FF), u"255,128,0");
+    EXPECT_EQ(BackgroundOf(0), u"0,0,0");
+    EXPECT_EQ(BackgroundOf(0x000ABC), u"171,0,0"); // three digits are shifted by their padding
+}
+
 TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
 {
     AdvancedAnimator animator{.Rows = {{.FileName = u"a.gif"}}};
