@@ -6,6 +6,7 @@
 #include "core/startup.h"
 #include "delivery/preview_form.h"
 #include "effects/applet/advanced_animator_form.h"
+#include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "reedit/edit_applet_form.h"
 
@@ -29,6 +30,8 @@ WizardMaker MakerOf(EffectKind kind)
     switch (kind) {
     case EffectKind::AdvancedAnimator:
         return &Make<AdvancedAnimatorForm>;
+    case EffectKind::DigitalClock:
+        return &Make<DigitalClockForm>;
     case EffectKind::StatusBarTicker:
         return &Make<StatusBarTickerForm>;
     default:
