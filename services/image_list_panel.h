@@ -52,12 +52,11 @@ signals:
 private:
     QPushButton* MakeButton(const QString& name, TextView caption);
     QWidget* MakePreview();
-    void Arrange(QWidget* preview);
+    void Arrange();
     void Connect();
-    void LoadPicture();
+    void LoadSelectedPicture();
     void AddSelectedFile();
-    void GrowSizeFields();
-    void ShowList();
+    void EnableListButtons(bool isOn);
     void Tell(const std::optional<Complaint>& complaint);
 
     Workbench& m_bench;

@@ -1,0 +1,165 @@
+#include "services/image_list.h"
+
+#include "tests/support/doubles.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+ImageList ListOf(std::initializer_list<TextView> names, std::optional<std::size_t> selected)
+{
+    ImageList list{.Rows = {}, .Selected = selected};
+    for (const TextView name : names)
+        list.Rows.push_back({.FileName = Text(name)});
+    return list;
+}
+
+std::string Names(const ImageList& list)
+{
+    Text names;
+    for (const ImageRow& row : list.Rows)
+        names.append(row.FileName).append(u" ");
+    return ToUtf8(names);
+}
+
+struct Placing
+{
+    const char* Name;
+    std::optional<std::size_t> Selected;
+    const char* Order;
+    std::optional<std::size_t> SelectedAfter;
+};
+
+class ImagePlacingTest : public ::testing::TestWithParam<Placing>
+{
+};
+
+TEST_P(ImagePlacingTest, NewImageGoesInFrontOfTheSelectedOneOrToTheEnd)
+{
+    OrvaneCore core;
+    ImageList list = ListOf({u"a", u"b", u"c"}, GetParam().Selected);
+    EXPECT_EQ(AddImageToList(list, core, u"/x", u"new"), std::nullopt);
+    EXPECT_EQ(Names(list), GetParam().Order);
+    EXPECT_EQ(list.Selected, GetParam().SelectedAfter);
+}
+
+INSTANTIATE_TEST_SUITE_P(Selections, ImagePlacingTest,
+                         ::testing::Values(Placing{"None", std::nullopt, "a b c new ", {}},
+                                           Placing{"First", 0, "new a b c ", 1},
+                                           Placing{"Middle", 1, "a new b c ", 2},
+                                           Placing{"Last", 2, "a b c new ", 2}),
+                         [](const auto& row) { return row.param.Name; });
+
+TEST(ImageListTest, RefusesABlankInTheNameButNotAroundItNorInTheFolder)
+{
+    OrvaneCore core;
+    ImageList list = ListOf({u"a"}, 0);
+    const auto complaint = AddImageToList(list, core, u"/x", u"my pic.gif");
+    ASSERT_TRUE(complaint);
+    EXPECT_EQ(ToUtf8(complaint->Words),
+              "This special effect does not allow image filenames containing space "
+              "characters.\r\nPlease rename the image or select another image.");
+    EXPECT_EQ(list, ListOf({u"a"}, 0));
+    EXPECT_EQ(core.RequiredFileCount, 0);
+
+    EXPECT_EQ(AddImageToList(list, core, u"/my pictures", u" pic.gif"), std::nullopt);
+    EXPECT_EQ(list.Rows[1].FileName, u" pic.gif");
+    EXPECT_EQ(core.Required.Sources[0], u"/my pictures/ pic.gif");
+}
+
+TEST(ImageListTest, RecordsEachFileWithItsSourceThoughItLeavesTheList)
+{
+    OrvaneCore core;
+    ImageList list;
+    AddImageToList(list, core, u"/", u"a.gif");
+    AddImageToList(list, core, u"/x y", u"b.gif");
+    list.Selected = 0;
+    DeleteRow(list);
+    EXPECT_EQ(Names(list), "b.gif ");
+    EXPECT_EQ(core.Required.Names[0], u"a.gif");
+    EXPECT_EQ(core.Required.Sources[0], u"/a.gif");
+    EXPECT_EQ(core.Required.Names[1], u"b.gif");
+    EXPECT_EQ(core.Required.Sources[1], u"/x y/b.gif");
+    EXPECT_EQ(core.RequiredFileCount, 2);
+}
+
+TEST(ImageListTest, FiftySecondImageJoinsTheListButIsNotRecorded)
+{
+    OrvaneCore core;
+    ImageList list;
+    for (int i = 0; i < 52; ++i)
+        AddImageToList(list, core, u"/x", FromUtf8(std::to_string(i)));
+    EXPECT_EQ(list.Rows.size(), 52u);
+    EXPECT_EQ(core.Required.Names[50], u"50");
+    EXPECT_EQ(core.RequiredFileCount, 52);
+
+    core.RequiredFileCount = 32767;
+    EXPECT_EQ(AddImageToList(list, core, u"/x", u"more"), std::nullopt);
+    EXPECT_EQ(core.RequiredFileCount, 32767);
+}
+
+TEST(ImageListTest, OpeningForgetsTheFilesOfTheEffectBefore)
+{
+    OrvaneCore core;
+    RecordRequiredFile(core, u"/x/a.gif", u"a.gif");
+    core.Payload.SupportFiles[2] = u"Animate1.class";
+    ClearRequiredFiles(core);
+    EXPECT_EQ(core.Required, RequiredFiles());
+    EXPECT_EQ(core.RequiredFileCount, 0);
+    EXPECT_EQ(core.Payload, EffectPayload());
+}
+
+TEST(ImageListTest, DeleteSelectsTheNextImageAndNoneBehindTheLast)
+{
+    ImageList list = ListOf({u"a", u"b", u"c"}, 1);
+    DeleteRow(list);
+    EXPECT_EQ(list, ListOf({u"a", u"c"}, 1));
+    DeleteRow(list);
+    EXPECT_EQ(list, ListOf({u"a"}, std::nullopt));
+    DeleteRow(list);
+    EXPECT_EQ(list, ListOf({u"a"}, std::nullopt));
+}
+
+TEST(ImageListTest, MovingTakesEveryPropertyOfTheImageAlong)
+{
+    const ImageRow moved{u"b", u"-1", u"scroll(r)", u"http://b", u"b.au"};
+    ImageList list{{{.FileName = u"a"}, moved, {.FileName = u"c"}}, 1};
+    EXPECT_EQ(MoveUp(list, u"Animation"), std::nullopt);
+    EXPECT_EQ(Names(list), "b a c ");
+    EXPECT_EQ(list.Selected, 0u);
+    EXPECT_EQ(list.Rows[0], moved);
+    MoveDown(list, u"Animation");
+    EXPECT_EQ(MoveDown(list, u"Animation"), std::nullopt);
+    EXPECT_EQ(Names(list), "a c b ");
+    EXPECT_EQ(list.Rows[2], moved);
+}
+
+TEST(ImageListTest, MovingBeyondAnEndOrNothingIsAComplaintOfThatWizard)
+{
+    constexpr TextView up = u"Select an item in the Animation image list.  You cannot move the "
+                            u"first image upward.";
+    constexpr TextView down = u"Select an item in the Slideshow image list.  You cannot move the "
+                              u"last image downward.";
+    for (ImageList list :
+         {ListOf({u"a", u"b"}, 0), ListOf({u"a", u"b"}, std::nullopt), ListOf({}, {})})
+        EXPECT_EQ(MoveUp(list, AnimatorImageList().ListInMessages)->Words, up);
+    for (ImageList list :
+         {ListOf({u"a", u"b"}, 1), ListOf({u"a", u"b"}, std::nullopt), ListOf({}, {})})
+        EXPECT_EQ(MoveDown(list, SlideshowImageList().ListInMessages)->Words, down);
+}
+
+TEST(ImageListTest, SizeFieldsGrowToTheLargestPictureAndNeverShrink)
+{
+    EXPECT_EQ(GrownField(u"100", 80), u"100");
+    EXPECT_EQ(GrownField(u"100", 120), u"120");
+    EXPECT_EQ(GrownField(u"120", 90), u"120");
+    EXPECT_EQ(GrownField(u"abc", 5), u"5");
+    EXPECT_EQ(GrownField(u"", 0), u"");
+    EXPECT_EQ(GrownField(u"90px", 80), u"90px");
+}
+
+} // namespace
+} // namespace orvane
