@@ -9,6 +9,7 @@
 #include "services/image_list_panel.h"
 
 #include <QComboBox>
+#include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
 
@@ -33,8 +34,9 @@ AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
     AddFields(page);
     m_images->SetSizeFields(Text20, Text21);
     AddButtons(Buttons::OnePage, QStringLiteral("cmdHelp"));
-    connect(m_images, &ImageListPanel::RowSelected, this,
-            [this] { SetPropsButton->setEnabled(true); });
+    connect(m_images, &ImageListPanel::RowSelected, this, [this] {
+        SetPropsButton->setEnabled(SetPropsButton->isEnabled() || m_images->Selected());
+    });
     connect(m_images, &ImageListPanel::RowDoubleClicked, this,
             &AdvancedAnimatorForm::SetProperties);
     connect(m_images, &ImageListPanel::MenuRequested, this,
