@@ -15,6 +15,9 @@ constexpr TextView projectFilter = u"All Files (*.*)|*.*|Orvane Animation (*.ovn
 /// The rows whose texts a project file can carry.
 constexpr std::size_t filledRows = 31;
 
+/// The rows that a list can number; a file of bars alone would fill the memory otherwise.
+constexpr std::size_t numberedRows = 32767;
+
 /// The texts of one column, joined by bars.
 Text Joined(const std::vector<ImageRow>& rows, Text ImageRow::*field, TextView otherwise)
 {
@@ -141,8 +144,8 @@ AdvancedAnimator ReadProject(std::string_view bytes)
                               .AnimationHeight = Text(height),
                               .LoopCount = Text(loop),
                               .BackgroundColor = Text(background == u"NULL" ? u"" : background)};
-    animator.Rows.resize(1 +
-                         static_cast<std::size_t>(std::count(images.begin(), images.end(), u'|')));
+    const auto bars = static_cast<std::size_t>(std::count(images.begin(), images.end(), u'|'));
+    animator.Rows.resize(std::min(bars + 1, numberedRows));
     Split(images, animator.Rows, &ImageRow::FileName);
     Split(pauses, animator.Rows, &ImageRow::Pause);
     Split(sounds, animator.Rows, &ImageRow::Sound);

@@ -14,7 +14,7 @@ namespace orvane {
 std::string ProjectBytes(const AdvancedAnimator& animator);
 
 /// The animation of a project file. Any bytes give one: missing texts are empty, and of more than
-/// 31 images the further rows are empty.
+/// 31 images the further rows, up to 32767 in all, are empty.
 AdvancedAnimator ReadProject(std::string_view bytes);
 
 /// The first failing check before a project is saved, or nothing.

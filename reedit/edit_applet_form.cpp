@@ -78,6 +78,7 @@ void EditAppletForm::AddChoicePanel()
     m_choices[0]->setChecked(true);
     panel.Fill();
     QPushButton* edit = panel.Button(QStringLiteral("cmdEdit"), u"&Edit");
+    edit->setDefault(true);
     connect(edit, &QPushButton::clicked, this, &EditAppletForm::EditChosen);
     QPushButton* cancel = panel.Button(QStringLiteral("cmdCancel"), u"&Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

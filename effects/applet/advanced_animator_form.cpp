@@ -84,7 +84,7 @@ void AdvancedAnimatorForm::AddFields(PageBuilder& page)
     SetPropsButton = page.Button(QStringLiteral("SetPropsButton"), u"Set Image &Properties");
     SetPropsButton->setEnabled(false);
     connect(SetPropsButton, &QPushButton::clicked, this, &AdvancedAnimatorForm::SetProperties);
-    page.Buttons({SetPropsButton});
+    page.Row({}, {new QWidget, SetPropsButton}); // to the right, below the lists
     Text20 = page.TextBox(QStringLiteral("Text20"), u"Width (pixels):");
     Text21 = page.TextBox(QStringLiteral("Text21"), u"Height (pixels):");
     Combo3 = page.ComboBox(QStringLiteral("Combo3"), u"Loop the animation:", CycleCounts, true);

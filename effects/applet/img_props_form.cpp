@@ -18,6 +18,7 @@ ImgPropsForm::ImgPropsForm(Workbench& bench, const ImageRow& row, QWidget* paren
     setObjectName(QStringLiteral("ImgProps"));
     setWindowTitle(QStringLiteral("Image Properties"));
     setModal(true);
+    setMinimumWidth(100 * fontMetrics().averageCharWidth());
     auto* all = new QVBoxLayout(this);
     auto* body = new QWidget;
     all->addWidget(body, 1);

@@ -131,6 +131,12 @@ TEST(AnimationProjectTest, Of32ImagesTheLastIsAnEmptyRow)
     }
 }
 
+TEST(AnimationProjectTest, AFileOfBarsDoesNotFillTheMemory)
+{
+    EXPECT_EQ(ReadProject(",,,," + std::string(32766, '|')).Rows.size(), 32767u);
+    EXPECT_EQ(ReadProject(",,,," + std::string(100000, '|')).Rows.size(), 32767u);
+}
+
 TEST(AnimationProjectTest, AnyBytesGiveAnAnimation)
 {
     std::mt19937 random(7);

@@ -86,7 +86,7 @@ TEST_F(EditAppletFormTest, AnAnimationAsksForItsWizard)
     EXPECT_TRUE(m_form.isVisible());
     EXPECT_EQ(m_form.Wanted(), EffectKind::None);
     Click(m_form, "optBillboardWizard");
-    Click(m_form, "cmdEdit");
+    Press(m_form, Qt::Key_Return);
     EXPECT_EQ(m_form.Wanted(), EffectKind::BannerWizard);
     EXPECT_FALSE(m_form.isVisible());
 }
