@@ -5,8 +5,10 @@
 #include "core/ov_main_form.h"
 #include "core/startup.h"
 #include "delivery/preview_form.h"
+#include "effects/applet/advanced_animator_form.h"
 #include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
+#include "reedit/edit_applet_form.h"
 #include "services/make_dir_form.h"
 
 #include <QCoreApplication>
@@ -27,6 +29,8 @@ std::unique_ptr<WizardForm> Make(Workbench& bench, QWidget* parent)
 WizardMaker MakerOf(EffectKind kind)
 {
     switch (kind) {
+    case EffectKind::AdvancedAnimator:
+        return &Make<AdvancedAnimatorForm>;
     case EffectKind::DigitalClock:
         return &Make<DigitalClockForm>;
     case EffectKind::StatusBarTicker:
@@ -59,6 +63,7 @@ void FormDesk::ShowMainForm()
     m_mainForm = std::make_unique<OVMainForm>(m_bench, &FormDesk::IsBuilt);
     PrepareMainWindow(m_bench.Core);
     connect(m_mainForm.get(), &OVMainForm::EffectWanted, this, &FormDesk::OpenEffect);
+    connect(m_mainForm.get(), &OVMainForm::EditAppletWanted, this, &FormDesk::EditApplet);
     connect(m_mainForm.get(), &OVMainForm::PreferencesWanted, this,
             [this] { ShowOptions(m_mainForm.get()); });
     connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
@@ -111,6 +116,16 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload)
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
     return preview->End();
+}
+
+void FormDesk::EditApplet()
+{
+    EditAppletForm form(m_bench, m_mainForm.get());
+    ShowModally(form);
+    // An effect that has no wizard yet opens none, and the author is told nothing.
+    if (const CatalogueRow* row = FindRow(form.Wanted()))
+        OpenEffect(*FindCommand(row->MenuCommand));
+    m_bench.Core.PastedApplet.clear();
 }
 
 void FormDesk::ShowOptions(QWidget* parent)

@@ -38,6 +38,9 @@ public:
     /// Leads the author through the effect's wizard and its delivery until both are closed.
     void OpenEffect(const EffectCommand& command);
 
+    /// Asks for a pasted applet tag and leads the author through its effect's wizard.
+    void EditApplet();
+
     OVMainForm* MainForm() const { return m_mainForm.get(); }
 
 signals:

@@ -251,20 +251,21 @@ void PageBuilder::Buttons(std::initializer_list<QPushButton*> buttons)
     m_rows->addRow(line);
 }
 
-void PageBuilder::Row(TextView label, std::initializer_list<QWidget*> widgets)
+QLabel* PageBuilder::Row(TextView label, std::initializer_list<QWidget*> widgets)
 {
     auto* line = new QHBoxLayout;
     for (QWidget* widget : widgets)
         line->addWidget(widget, widget == *widgets.begin() ? 1 : 0);
     if (label.empty()) {
         m_rows->addRow(line);
-        return;
+        return nullptr;
     }
     QWidget* field = *widgets.begin();
     auto* caption = new QLabel(ToQt(label), m_page);
     caption->setBuddy(field);
     field->setAccessibleName(SpokenName(label));
     m_rows->addRow(caption, line);
+    return caption;
 }
 
 PageBuilder PageBuilder::Frame(TextView caption)

@@ -108,8 +108,9 @@ public:
     /// A row of buttons, as wide as their captions.
     void Buttons(std::initializer_list<QPushButton*> buttons);
 
-    /// Any widgets in one row under a label; the first one takes the room.
-    void Row(TextView label, std::initializer_list<QWidget*> widgets);
+    /// Any widgets in one row under a label, which it gives (null when it has no words); the first
+    /// one takes the room.
+    QLabel* Row(TextView label, std::initializer_list<QWidget*> widgets);
 
     /// A framed group with a caption; the returned builder adds to it.
     PageBuilder Frame(TextView caption);

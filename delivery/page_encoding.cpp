@@ -147,4 +147,26 @@ std::string EncodeForAttribute(TextView value, PageEncoding encoding)
     return Encode(value, encoding, ScriptTracker({}));
 }
 
+std::optional<std::string> Windows1252Bytes(TextView text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (const char16_t unit : text) {
+        const auto byte = Windows1252Byte(unit);
+        if (!byte)
+            return std::nullopt;
+        bytes.push_back(*byte);
+    }
+    return bytes;
+}
+
+Text FromWindows1252(std::string_view bytes)
+{
+    Text text = FromBytes(bytes);
+    for (char16_t& unit : text)
+        if (unit >= 0x80 && unit <= 0x9F)
+            unit = upperControls[unit - 0x80u];
+    return text;
+}
+
 } // namespace orvane

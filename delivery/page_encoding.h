@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,5 +29,11 @@ std::string EncodeForPage(TextView code, PageEncoding encoding);
 /// The bytes of an attribute's value in that encoding, event attributes included: whatever the
 /// value holds, a lacking character becomes "&#N;".
 std::string EncodeForAttribute(TextView value, PageEncoding encoding);
+
+/// The Windows-1252 bytes of a text; nothing when it holds a character that they lack.
+std::optional<std::string> Windows1252Bytes(TextView text);
+
+/// The text of Windows-1252 bytes; each byte is a character.
+Text FromWindows1252(std::string_view bytes);
 
 } // namespace orvane

@@ -17,4 +17,21 @@ Text GetAppletValue(TextView pasted, TextView key)
     return Text(Mid(pasted, value, end - value));
 }
 
+PipeValues PipeParse(TextView text)
+{
+    // Stays as it is: whatever the last piece is, its final character is cut off.
+    const auto withoutLast = [](TextView piece) {
+        return Text(Left(piece, piece.empty() ? 0 : piece.size() - 1));
+    };
+    const std::size_t first = Find(text, u"|");
+    if (first == 0)
+        return {};
+    const Text before(Left(text, first - 1));
+    const std::size_t second = Find(text, u"|", first + 1);
+    if (second == 0)
+        return {before, withoutLast(Mid(text, first + 1))};
+    return {before, Text(Mid(text, first + 1, second - first - 1)),
+            withoutLast(Mid(text, second + 1))};
+}
+
 } // namespace orvane

@@ -1,0 +1,130 @@
+#include "effects/applet/advanced_animator.h"
+
+#include "core/numbers.h"
+#include "core/orvane_core.h"
+#include "effects/applet/applet_tag_builder.h"
+#include "reedit/applet_values.h"
+#include "services/color.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView transitionList =
+    u"shutter|slidein(1-8)|slideout(1-8)|scroll(2:4:6:8)|expand(1-9)|overwrite|shrink(1-9)";
+
+/// The rows that a pasted tag can fill.
+constexpr std::size_t readableRows = 31;
+
+/// Projects write "null" where nothing is set.
+bool IsSet(TextView value)
+{
+    return !value.empty() && value != u"null";
+}
+
+/// One line for each row, with `otherwise` where nothing is set.
+void AddEach(AppletTagBuilder& tag, TextView name, const std::vector<ImageRow>& rows,
+             Text ImageRow::*field, TextView otherwise)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const TextView value = rows[i].*field;
+        tag.NumberedParam(name, i, IsSet(value) ? Trim(value) : otherwise);
+    }
+}
+
+/// One line for each row where something is set.
+void AddSet(AppletTagBuilder& tag, TextView name, const std::vector<ImageRow>& rows,
+            Text ImageRow::*field)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (const TextView value = rows[i].*field; IsSet(value))
+            tag.NumberedParam(name, i, Trim(value));
+}
+
+std::vector<ImageRow> ReadRows(TextView pasted)
+{
+    std::vector<ImageRow> rows;
+    for (std::size_t i = 0; i < readableRows; ++i) {
+        const auto read = [&](TextView name) {
+            const Text number = NumberToText(static_cast<double>(i));
+            return GetAppletValue(pasted, Join({name, u".", number, u" VALUE="}));
+        };
+        ImageRow row{.FileName = read(u"IMAGE")};
+        if (row.FileName.empty())
+            break;
+        row.Sound = read(u"SOUND");
+        row.URL = read(u"URL");
+        row.Pause = read(u"PAUSE");
+        row.Transition = read(u"TRANSITION.TYPE");
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+} // namespace
+
+Text BackgroundOf(std::int32_t packedColor)
+{
+    CColor color;
+    color.ConvertHexToRGB(color.ConvertToRGBHex(packedColor));
+    return Join(
+        {NumberToText(color.Red), u",", NumberToText(color.Green), u",", NumberToText(color.Blue)});
+}
+
+std::optional<Complaint> Check(const AdvancedAnimator& animator)
+{
+    if (animator.Rows.size() < 2)
+        return Complaint{u"You must insert more than one image into the Animation Image List.", "",
+                         Tone::Exclamation};
+    if (animator.AnimationWidth.empty() || animator.AnimationHeight.empty())
+        return Complaint{u"Animation width and height properties are required.  Please enter them.",
+                         "Text20"};
+    if (!(Val(animator.AnimationWidth) > 0) || !(Val(animator.AnimationHeight) > 0))
+        return Complaint{u"Animation width and height properties must be greater than 0.",
+                         "Text20"};
+    return std::nullopt;
+}
+
+EffectPayload Generate(const AdvancedAnimator& animator, const RequiredFiles& required)
+{
+    AppletTagBuilder tag(u"Animate1.class", {{u"WIDTH", Trim(animator.AnimationWidth)},
+                                             {u"HEIGHT", Trim(animator.AnimationHeight)}});
+    tag.Param(u"COPYRIGHT", AppletCredit);
+    tag.Param(u"DOCUMENTATION", AppletCredit);
+    tag.Line(wizardParamLine);
+    tag.Param(u"SOUND.ACTIVATION.0", u"auto");
+    tag.Param(u"TRANSITION.LIST", transitionList);
+    tag.Param(u"TRANSITION.STEP.0", u"30");
+    for (std::size_t i = 0; i < animator.Rows.size(); ++i)
+        tag.NumberedParam(u"IMAGE", i, animator.Rows[i].FileName);
+    AddEach(tag, u"PAUSE", animator.Rows, &ImageRow::Pause, u"100");
+    AddSet(tag, u"SOUND", animator.Rows, &ImageRow::Sound);
+    AddSet(tag, u"TRANSITION.TYPE", animator.Rows, &ImageRow::Transition);
+    AddEach(tag, u"URL", animator.Rows, &ImageRow::URL, u"null");
+    if (!animator.LoopCount.empty())
+        tag.Param(u"CYCLES", Trim(Left(animator.LoopCount, 2)));
+    if (!animator.BackgroundColor.empty())
+        tag.Param(u"BGCOLOR.0", Trim(animator.BackgroundColor));
+    return {
+        .Kind = EffectKind::AdvancedAnimator,
+        .BODYHTML = tag.Tag(),
+        .Required = required,
+        .SupportFiles = {u"Animate1.class", u"CoolTool3.class"},
+    };
+}
+
+AdvancedAnimator ReadAdvancedAnimator(TextView pasted, TextView appletText)
+{
+    AdvancedAnimator animator;
+    // The earlier applet joins its images in one line, which no field takes any more.
+    if (appletText != u"AnimateP") {
+        animator.Rows = ReadRows(pasted);
+        animator.BackgroundColor = GetAppletValue(pasted, u"BGCOLOR.0 VALUE=");
+    }
+    animator.AnimationWidth = GetAppletValue(pasted, u"WIDTH=");
+    animator.AnimationHeight = GetAppletValue(pasted, u"HEIGHT=");
+    animator.LoopCount = GetAppletValue(pasted, u"CYCLES VALUE=");
+    return animator;
+}
+
+} // namespace orvane

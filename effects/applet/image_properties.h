@@ -1,0 +1,74 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "services/image_list.h"
+
+#include <array>
+#include <optional>
+#include <span>
+
+namespace orvane {
+
+/// The edges and corners of a transition; the first character stands in the tag.
+inline constexpr std::array<TextView, 9> TransitionDirections = {
+    u"1-Northwest corner", u"2-North edge",       u"3-Northeast corner",
+    u"4-East edge",        u"5-Southeast corner", u"6-South edge",
+    u"7-Southwest corner", u"8-West edge",        u"r-Random location"};
+
+/// A transition as the author can choose it.
+struct Transition
+{
+    TextView Name;
+    std::span<const TextView> Directions; ///< empty: the direction box is disabled
+    TextView DirectionLabel;
+    TextView Description;
+};
+
+/// All transitions, in the order of their box.
+std::span<const Transition> Transitions();
+
+/// The transition of that name, or null.
+const Transition* FindTransition(TextView name);
+
+/// What the direction box and the two labels turn to; nothing keeps them as they are.
+struct DirectionChoice
+{
+    std::span<const TextView> Items;
+    bool IsEnabled = true;
+    TextView Label;
+    TextView Description;
+};
+
+/// What stands in the fields of the properties window.
+struct ImageProperties
+{
+    Text Pause; ///< milliseconds; -1 waits for a click, -2 for the mouse
+    Text Sound;
+    Text URL;
+    Text Transition;
+    Text Direction;
+    bool operator==(const ImageProperties&) const = default;
+};
+
+/// The fields for a row of the list.
+ImageProperties PropertiesOf(const ImageRow& row);
+
+/// What choosing a transition turns the direction box to; nothing for a text that is none.
+std::optional<DirectionChoice> ChoiceOf(TextView transition);
+
+/// The same for the transition of a row that the window opens with.
+std::optional<DirectionChoice> OpeningChoice(const ImageRow& row);
+
+/// The complaint about the pause, or nothing when the properties may be taken.
+std::optional<Complaint> Check(const ImageProperties& properties);
+
+/// The complaint about a sound whose name cannot stand in a tag, or nothing.
+std::optional<Complaint> CheckSoundName(TextView name);
+
+/// The row's new transition, such as "slidein(3)"; empty when none is chosen.
+Text TransitionValue(TextView transition, TextView direction);
+
+/// The row with these properties, its image kept. Expects properties that pass Check().
+ImageRow WithProperties(const ImageRow& row, const ImageProperties& properties);
+
+} // namespace orvane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "core/text.h"
+#include "delivery/payload.h"
+
+namespace orvane {
+
+/// The letters behind "CODE=" of a pasted tag, by which its applet is known.
+struct AppletLetters
+{
+    Text AppletTextAfterCODE; ///< five
+    Text AppletText;          ///< eight
+    bool operator==(const AppletLetters&) const = default;
+};
+
+/// The letters behind the first "CODE="; those from the fifth character on when there is none.
+AppletLetters LettersBehindCode(TextView pasted);
+
+/// What becomes of a pasted tag.
+struct AppletDispatch
+{
+    enum class Way
+    {
+        NotRecognized, ///< the author is told so
+        Nowhere,       ///< known, but without a wizard
+        Choice,        ///< the author picks one of three wizards
+        Wizard,        ///< the wizard of Kind
+    };
+    Way Outcome = Way::NotRecognized;
+    EffectKind Kind = EffectKind::None;
+    bool operator==(const AppletDispatch&) const = default;
+};
+
+/// Where the tag with these five letters behind CODE= goes.
+AppletDispatch RecognizeApplet(TextView appletTextAfterCODE);
+
+/// What the author is told about a tag that is not recognised.
+inline constexpr TextView appletNotRecognized =
+    u"Orvane does not recognize this special effect.  It cannot re-edit the Status bar scrolling "
+    u"text special effect or the Fading background color special effect.";
+
+} // namespace orvane

@@ -1,0 +1,221 @@
+#include "effects/applet/advanced_animator.h"
+
+#include "effects/applet/applet_tag_builder.h"
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedText;
+using testing::ExpectSameText;
+
+constexpr TextView sizeMissing =
+    u"Animation width and height properties are required.  Please enter them.";
+constexpr TextView sizeTooSmall = u"Animation width and height properties must be greater than 0.";
+
+AdvancedAnimator TwoImages()
+{
+    return {.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
+            .AnimationWidth = u"200",
+            .AnimationHeight = u"100"};
+}
+
+AdvancedAnimator FullAnimator()
+{
+    return {.Rows = {{.FileName = u"a.gif",
+                      .Pause = u"-1",
+                      .Transition = u"slidein(3)",
+                      .URL = u"http://www.example.com/x.html",
+                      .Sound = u"ding.au"},
+                     {.FileName = u"b.gif"},
+                     {.FileName = u"c.gif",
+                      .Pause = u" 250 ",
+                      .Transition = u"null",
+                      .URL = u"null",
+                      .Sound = u"null"}},
+            .AnimationWidth = u" 320 ",
+            .AnimationHeight = u"200",
+            .LoopCount = u"10 times",
+            .BackgroundColor = u"255,128,0"};
+}
+
+TEST(AppletTagBuilderTest, QuotesWhatTheStyleAsksForAndLeavesEmptyLinesOut)
+{
+    AppletTagBuilder tag(u"X.class", {{u"HEIGHT", u"1"}, {u"WIDTH", u"2"}});
+    tag.Param(u"A", u"").Param(u"B", u"b", ParamQuotes::Name).Line(u"");
+    tag.ParamUnlessEmpty(u"C", u"").ParamUnlessEmpty(u"D", u" ", ParamQuotes::Both);
+    tag.NumberedParam(u"E", 10, u"\"").Line(u"<X> ");
+    ExpectSameText(u"<APPLET CODE=\"X.class\" HEIGHT=\"1\" WIDTH=\"2\">\r\n"
+                   u"<PARAM NAME=A VALUE=\"\">\r\n"
+                   u"<PARAM NAME=\"B\" VALUE=b>\r\n"
+                   u"<PARAM NAME=\"D\" VALUE=\" \">\r\n"
+                   u"<PARAM NAME=E.10 VALUE=\"\"\">\r\n"
+                   u"<X> \r\n"
+                   u"</APPLET>\r\n",
+                   tag.Tag());
+}
+
+TEST(AdvancedAnimatorTest, WritesItsTagIntoTheBody)
+{
+    const RequiredFiles required{.Names = {u"a.gif"}, .Sources = {u"/pictures/a.gif"}};
+    const EffectPayload payload = Generate(TwoImages(), required);
+    ExpectSameText(ExpectedText("advanced_animator_two_images.html"), payload.BODYHTML);
+    const EffectPayload rest{.Kind = EffectKind::AdvancedAnimator,
+                             .BODYHTML = payload.BODYHTML,
+                             .Required = required,
+                             .SupportFiles = {u"Animate1.class", u"CoolTool3.class"}};
+    EXPECT_EQ(payload, rest);
+    ExpectSameText(ExpectedText("advanced_animator_full.html"),
+                   Generate(FullAnimator(), {}).BODYHTML);
+}
+
+/// A field of the first row, or of the window, and the line that it gives; empty for no line.
+struct LineCase
+{
+    const char* Name;
+    void (*Enter)(AdvancedAnimator& animator);
+    TextView Key;
+    TextView Line;
+};
+
+class AnimatorLineTest : public ::testing::TestWithParam<LineCase>
+{
+};
+
+TEST_P(AnimatorLineTest, HoldsItsValue)
+{
+    AdvancedAnimator animator = TwoImages();
+    GetParam().Enter(animator);
+    const Text tag = Generate(animator, {}).BODYHTML;
+    const std::size_t place = Find(tag, GetParam().Key);
+    const Text line(place == 0 ? u"" : Mid(tag, place, Find(tag, u"\r\n", place) - place));
+    ExpectSameText(GetParam().Line, line);
+}
+
+using A = AdvancedAnimator;
+INSTANTIATE_TEST_SUITE_P(
+    Values, AnimatorLineTest,
+    ::testing::Values(
+        LineCase{"ImageIsNotTrimmed", [](A& a) { a.Rows[0].FileName = u" \"a.gif"; },
+                 u"<PARAM NAME=IMAGE.0", u"<PARAM NAME=IMAGE.0 VALUE=\" \"a.gif\">"},
+        LineCase{"BlankPauseIsNotEmpty", [](A& a) { a.Rows[0].Pause = u" "; },
+                 u"<PARAM NAME=PAUSE.0", u"<PARAM NAME=PAUSE.0 VALUE=\"\">"},
+        LineCase{"NullPause", [](A& a) { a.Rows[0].Pause = u"null"; }, u"<PARAM NAME=PAUSE.0",
+                 u"<PARAM NAME=PAUSE.0 VALUE=\"100\">"},
+        LineCase{"BlankNullIsNoNull", [](A& a) { a.Rows[0].Sound = u" null"; },
+                 u"<PARAM NAME=SOUND.0", u"<PARAM NAME=SOUND.0 VALUE=\"null\">"},
+        LineCase{"CapitalNullIsNoNull", [](A& a) { a.Rows[0].Transition = u"NULL"; },
+                 u"<PARAM NAME=TRANSITION.TYPE.0",
+                 u"<PARAM NAME=TRANSITION.TYPE.0 VALUE=\"NULL\">"},
+        LineCase{"UrlIsTrimmed", [](A& a) { a.Rows[0].URL = u" x y ☃ "; }, u"<PARAM NAME=URL.0",
+                 u"<PARAM NAME=URL.0 VALUE=\"x y ☃\">"},
+        LineCase{"EmptyLoop", [](A& a) { a.LoopCount = u""; }, u"<PARAM NAME=CYCLES", u""},
+        LineCase{"LoopIsCutBeforeItIsTrimmed", [](A& a) { a.LoopCount = u" 10 times"; },
+                 u"<PARAM NAME=CYCLES", u"<PARAM NAME=CYCLES VALUE=\"1\">"},
+        LineCase{"BlankBackground", [](A& a) { a.BackgroundColor = u" "; }, u"<PARAM NAME=BGCOLOR",
+                 u"<PARAM NAME=BGCOLOR.0 VALUE=\"\">"},
+        LineCase{"HeightIsTrimmed", [](A& a) { a.AnimationHeight = u" 7 px "; }, u"HEIGHT=",
+                 u"HEIGHT=\"7 px\">"}),
+    [](const auto& row) { return row.param.Name; });
+
+TEST(AdvancedAnimatorTest, StoresAColorByItsChannels)
+{
+    EXPECT_EQ(BackgroundOf(0x0080FF), u"255,128,0");
+    EXPECT_EQ(BackgroundOf(0), u"0,0,0");
+    EXPECT_EQ(BackgroundOf(0x000ABC), u"171,0,0"); // three digits are shifted by their padding
+}
+
+TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
+{
+    AdvancedAnimator animator{.Rows = {{.FileName = u"a.gif"}}};
+    EXPECT_EQ(Check(animator),
+              (Complaint{u"You must insert more than one image into the Animation Image List.", "",
+                         Tone::Exclamation}));
+    animator.Rows.push_back({.FileName = u"b.gif"});
+    EXPECT_EQ(Check(animator), (Complaint{Text(sizeMissing), "Text20"}));
+    animator.AnimationWidth = u" ";
+    EXPECT_EQ(Check(animator), (Complaint{Text(sizeMissing), "Text20"}));
+    animator.AnimationHeight = u"10";
+    EXPECT_EQ(Check(animator), (Complaint{Text(sizeTooSmall), "Text20"}));
+    animator.AnimationWidth = u"0.5 px";
+    EXPECT_EQ(Check(animator), std::nullopt);
+    animator.AnimationHeight = u"\"10"; // as a quoted tag is read back
+    EXPECT_EQ(Check(animator), (Complaint{Text(sizeTooSmall), "Text20"}));
+    animator.AnimationHeight = u"-1";
+    EXPECT_EQ(Check(animator), (Complaint{Text(sizeTooSmall), "Text20"}));
+}
+
+TEST(AdvancedAnimatorTest, ReadsItsOwnTagWithOpeningQuotes)
+{
+    const AdvancedAnimator read =
+        ReadAdvancedAnimator(Generate(FullAnimator(), {}).BODYHTML, u"\"Animate");
+    const AdvancedAnimator expected{.Rows = {{.FileName = u"\"a.gif",
+                                              .Pause = u"\"-1",
+                                              .Transition = u"\"slidein(3)",
+                                              .URL = u"\"http://www.example.com/x.html",
+                                              .Sound = u"\"ding.au"},
+                                             {.FileName = u"\"b.gif",
+                                              .Pause = u"\"100",
+                                              .Transition = u"",
+                                              .URL = u"\"null",
+                                              .Sound = u""},
+                                             {.FileName = u"\"c.gif",
+                                              .Pause = u"\"250",
+                                              .Transition = u"",
+                                              .URL = u"\"null",
+                                              .Sound = u""}},
+                                    .AnimationWidth = u"\"320",
+                                    .AnimationHeight = u"\"200",
+                                    .LoopCount = u"\"10",
+                                    .BackgroundColor = u"\"255,128,0"};
+    EXPECT_EQ(read, expected);
+}
+
+TEST(AdvancedAnimatorTest, UnquotedValuesRunOnToTheNextQuote)
+{
+    const AdvancedAnimator read = ReadAdvancedAnimator(
+        u"<APPLET CODE=Animate1.class WIDTH=300 HEIGHT=\"20\"><PARAM NAME=IMAGE.0 VALUE=a.gif>"
+        u"<PARAM NAME=IMAGE.1 VALUE=\"\"><PARAM NAME=IMAGE.2 VALUE=\"c.gif\"></APPLET>",
+        u"Animate1");
+    EXPECT_EQ(read.AnimationWidth, u"300 HEIGHT=");
+    EXPECT_EQ(read.AnimationHeight, u"\"20");
+    EXPECT_EQ(read.LoopCount, u"");
+    ASSERT_EQ(read.Rows.size(), 3u);
+    EXPECT_EQ(read.Rows[0].FileName, u"a.gif><PARAM NAME=IMAGE.1 VALUE=");
+    EXPECT_EQ(read.Rows[1].FileName, u"\""); // an empty quoted value does not end the list
+    EXPECT_EQ(read.Rows[2].FileName, u"\"c.gif");
+}
+
+TEST(AdvancedAnimatorTest, ReadsAtMost31ImagesAndStopsAtAGap)
+{
+    AdvancedAnimator animator = TwoImages();
+    for (const std::size_t count : {31u, 32u}) {
+        animator.Rows.assign(count, {.FileName = u"x.gif"});
+        animator.Rows[30].FileName = u"last.gif";
+        const Text tag = Generate(animator, {}).BODYHTML;
+        const AdvancedAnimator read = ReadAdvancedAnimator(tag, u"\"Animate");
+        ASSERT_EQ(read.Rows.size(), 31u);
+        EXPECT_EQ(read.Rows[30].FileName, u"\"last.gif");
+        const Text gap = ReplaceAll(tag, u"NAME=IMAGE.1 ", u"NAME=IMAGE.x ");
+        EXPECT_EQ(ReadAdvancedAnimator(gap, u"\"Animate").Rows.size(), 1u);
+    }
+}
+
+TEST(AdvancedAnimatorTest, TagOfTheEarlierAppletGivesSizeAndLoopCountAlone)
+{
+    const Text tag = u"<APPLET CODE=AnimatePLUS28 WIDTH=\"200\" HEIGHT=\"100\">\r\n"
+                     u"<PARAM NAME=IMAGE VALUE=\"a.gif|b.gif\">\r\n"
+                     u"<PARAM NAME=IMAGE.0 VALUE=\"a.gif\">\r\n"
+                     u"<PARAM NAME=BGCOLOR.0 VALUE=\"1,2,3\">\r\n"
+                     u"<PARAM NAME=CYCLES VALUE=\"3\">\r\n</APPLET>";
+    const AdvancedAnimator expected{
+        .AnimationWidth = u"\"200", .AnimationHeight = u"\"100", .LoopCount = u"\"3"};
+    EXPECT_EQ(ReadAdvancedAnimator(tag, u"AnimateP"), expected);
+    EXPECT_EQ(ReadAdvancedAnimator(tag, u"\"Animate").Rows.size(), 1u);
+    EXPECT_EQ(ReadAdvancedAnimator(tag, u"animateP").BackgroundColor, u"\"1,2,3");
+}
+
+} // namespace
+} // namespace orvane

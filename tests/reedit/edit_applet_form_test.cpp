@@ -1,0 +1,140 @@
+#include "reedit/edit_applet_form.h"
+
+#include "core/form_desk.h"
+#include "core/ov_main_form.h"
+#include "effects/applet/advanced_animator_form.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QPlainTextEdit>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+void Paste(EditAppletForm& form, const char* tag)
+{
+    Find<QPlainTextEdit>(form, "Text1")->setPlainText(QString::fromUtf8(tag));
+}
+
+class EditAppletFormTest : public ::testing::Test
+{
+protected:
+    EditAppletFormTest() { m_form.show(); }
+
+    void Edit(const char* tag)
+    {
+        Paste(m_form, tag);
+        Click(m_form, "cmdEdit");
+    }
+
+    FakeDesk m_desk;
+    EditAppletForm m_form{m_desk.Bench};
+};
+
+TEST_F(EditAppletFormTest, BothPanelsAreAccessible)
+{
+    LetRun();
+    ExpectAccessible(m_form);
+    EXPECT_EQ(m_form.windowTitle(), QStringLiteral("Edit Applet"));
+    Click(m_form, "cmdClickHereForHelp");
+    EXPECT_EQ(m_desk.Help.Shown, std::vector<int>{12});
+    Edit("CODE=Animate1.class");
+    LetRun();
+    ExpectAccessible(m_form);
+}
+
+TEST_F(EditAppletFormTest, AKnownAppletClosesTheWindowWithItsEffect)
+{
+    Edit("<APPLET CODE=\"Typewriter9.class\"\n WIDTH=\"1\">");
+    EXPECT_FALSE(m_form.isVisible());
+    EXPECT_EQ(m_form.Wanted(), EffectKind::TypewriterText);
+    EXPECT_TRUE(m_desk.Core.EditMode);
+    EXPECT_EQ(m_desk.Core.AppletTextAfterCODE, u"\"Type");
+    EXPECT_EQ(m_desk.Core.AppletText, u"\"Typewri");
+    EXPECT_EQ(m_desk.Core.PastedApplet, u"<APPLET CODE=\"Typewriter9.class\"\r\n WIDTH=\"1\">");
+}
+
+TEST_F(EditAppletFormTest, ClockClosesTheWindowWithoutAWord)
+{
+    Edit("CODE=Clock.class");
+    EXPECT_FALSE(m_form.isVisible());
+    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
+    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
+    EXPECT_TRUE(m_desk.Core.EditMode);
+}
+
+TEST_F(EditAppletFormTest, AnUnknownTagIsRefused)
+{
+    Edit("<applet code=\"Animate1.class\">");
+    EXPECT_FALSE(m_form.isVisible());
+    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              std::vector<Text>{
+                  u"Orvane does not recognize this special effect.  It cannot re-edit the Status "
+                  u"bar scrolling text special effect or the Fading background color special "
+                  u"effect."});
+    EXPECT_TRUE(m_desk.Core.EditMode);
+}
+
+TEST_F(EditAppletFormTest, AnAnimationAsksForItsWizard)
+{
+    Edit("<APPLET CODE=AnimatePLUS28>");
+    EXPECT_TRUE(m_form.isVisible());
+    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
+    Click(m_form, "optBillboardWizard");
+    Press(m_form, Qt::Key_Return);
+    EXPECT_EQ(m_form.Wanted(), EffectKind::BannerWizard);
+    EXPECT_FALSE(m_form.isVisible());
+}
+
+TEST_F(EditAppletFormTest, CancelOfTheSecondPanelOpensNothing)
+{
+    Edit("<APPLET CODE=\"Animate1.class\">");
+    Click(m_form, "cmdCancel");
+    EXPECT_FALSE(m_form.isVisible());
+    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
+    EXPECT_TRUE(m_desk.Core.EditMode);
+}
+
+TEST(EditAppletRoadTest, LeadsFromThePastedTagToTheFilledWizard)
+{
+    FakeDesk desk;
+    FormDesk road(desk.Bench, nullptr);
+    road.Start();
+    bool wasFilled = false;
+    WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
+        Paste(form, "<APPLET CODE=Animate1.class WIDTH=\"20\">");
+        Click(form, "cmdEdit");
+        WhenInFront<AdvancedAnimatorForm>([&](AdvancedAnimatorForm& wizard) {
+            wasFilled = wizard.Parameters().AnimationWidth == u"\"20";
+            EXPECT_FALSE(desk.Core.EditMode);
+            wizard.reject();
+        });
+        Click(form, "cmdEdit");
+    });
+    road.MainForm()->findChild<QAction*>(QStringLiteral("mnuEditApplet"))->trigger();
+    EXPECT_TRUE(wasFilled);
+    EXPECT_EQ(desk.Core.PastedApplet, u"");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(EditAppletRoadTest, AnEffectWithoutAWizardOpensNothing)
+{
+    FakeDesk desk;
+    FormDesk road(desk.Bench, nullptr);
+    road.Start();
+    WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
+        Paste(form, "CODE=NavigatorTicker20.class");
+        Click(form, "cmdEdit");
+    });
+    road.EditApplet();
+    EXPECT_TRUE(desk.Core.EditMode);
+    EXPECT_TRUE(desk.Dialogs.Said.empty());
+}
+
+} // namespace
+} // namespace orvane
