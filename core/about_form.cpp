@@ -51,6 +51,7 @@ AboutForm::AboutForm(Workbench& bench, QWidget* parent) : QDialog(parent)
     auto* picture = new QWidget(this);
     PageBuilder(picture).Picture(QStringLiteral("orvane"), {96, 96});
     layout()->addWidget(picture);
+    setMinimumWidth(360);
     AddWords(this, Join({u"Version ", bench.Version, u" for Windows 95/98/NT/ME/2000/XP"}),
              QStringLiteral("lblVersionInfo"));
     AddLink(this, QStringLiteral("lblLink"), MakerSiteURL, MakerSiteURL, bench.Shell);

@@ -1,63 +1,66 @@
 #include "core/template.h"
 
-#include <bitset>
 #include <string>
 
 namespace orvane {
 
 namespace {
 
-constexpr std::size_t mostValues = 64;
+constexpr std::size_t mostMarks = 64;
 
-/// Takes the next piece, which is led by its length, off `pieces`.
-TextView TakePiece(TextView& pieces)
+/// The values in the order in which their marks first stand in a template.
+struct OrderedValues
 {
-    const TextView piece = pieces.substr(1, pieces.front());
-    pieces.remove_prefix(piece.size() + 1);
-    return piece;
-}
+    std::array<const TextView*, mostMarks> Values;
+    std::size_t FilledSize; ///< of the literals and of all values as often as they are used
+};
 
-std::size_t IndexOf(TextView name, std::initializer_list<TemplateValue> values)
+/// The value of a mark, looked for from the place where a caller most likely wrote it.
+const TextView& ValueOf(TextView name, std::initializer_list<TemplateValue> values,
+                        std::size_t likely)
 {
-    for (std::size_t i = 0; i < values.size(); ++i)
-        if (values.begin()[i].first == name)
-            return i;
+    const TemplateValue* first = values.begin();
+    if (likely < values.size() && first[likely].first == name)
+        return first[likely].second;
+    for (const TemplateValue& value : values)
+        if (value.first == name)
+            return value.second;
     throw std::logic_error("Fill: no value for the mark " + ToUtf8(name));
 }
 
-/// The length of the filled text; checks on the way that marks and values match.
-std::size_t MeasureFilled(TextView pieces, std::initializer_list<TemplateValue> values)
+OrderedValues Order(const TemplateView& page, std::initializer_list<TemplateValue> values)
 {
-    if (values.size() > mostValues)
-        throw std::logic_error("Fill: too many values");
-    std::bitset<mostValues> used;
-    std::size_t size = 0;
-    while (!pieces.empty()) {
-        size += TakePiece(pieces).size();
-        if (pieces.empty())
-            break;
-        const std::size_t index = IndexOf(TakePiece(pieces), values);
-        size += values.begin()[index].second.size();
-        used.set(index);
+    OrderedValues ordered;
+    ordered.FilledSize = page.LiteralSize;
+    std::size_t marks = 0;
+    for (std::size_t at = 0; at < page.Names.size(); at += page.Names[at] + 2u, ++marks) {
+        if (marks == mostMarks)
+            throw std::logic_error("Fill: too many marks");
+        const TextView& value =
+            ValueOf({page.Names.data() + at + 2, page.Names[at]}, values, marks);
+        ordered.Values[marks] = &value;
+        ordered.FilledSize += value.size() * page.Names[at + 1];
     }
-    for (std::size_t i = 0; i < values.size(); ++i)
-        if (!used.test(i))
-            throw std::logic_error("Fill: no mark for the value " +
-                                   ToUtf8(values.begin()[i].first));
-    return size;
+    // Every mark has found its value, so one too many has no mark or stands twice.
+    if (marks != values.size())
+        throw std::logic_error("Fill: a value without a mark");
+    return ordered;
 }
 
 } // namespace
 
 Text Fill(TemplateView page, std::initializer_list<TemplateValue> values)
 {
+    const OrderedValues ordered = Order(page, values);
     Text filled;
-    filled.reserve(MeasureFilled(page.Pieces, values));
-    TextView pieces = page.Pieces;
-    while (!pieces.empty()) {
-        filled.append(TakePiece(pieces));
-        if (!pieces.empty())
-            filled.append(values.begin()[IndexOf(TakePiece(pieces), values)].second);
+    filled.reserve(ordered.FilledSize);
+    const TextView pieces = page.Pieces;
+    for (std::size_t at = 0; at < pieces.size();) {
+        const std::size_t length = pieces[at++];
+        filled.append(pieces.data() + at, length);
+        at += length;
+        if (at < pieces.size())
+            filled.append(*ordered.Values[pieces[at++]]);
     }
     return filled;
 }

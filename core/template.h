@@ -9,10 +9,12 @@
 
 namespace orvane {
 
-/// The pieces of a template, ready for Fill(); what every Template converts to.
+/// A template cut into pieces, ready for Fill(); what every Template converts to.
 struct TemplateView
 {
-    TextView Pieces;
+    TextView Pieces;         ///< literals, each led by its length and followed by a mark's index
+    TextView Names;          ///< the marks' names, each led by its length and its number of uses
+    std::size_t LiteralSize; ///< of all literals together
 };
 
 /// A page text with marks such as «StatusText», cut into pieces while the program is compiled.
@@ -26,17 +28,23 @@ public:
     consteval Template(const char16_t (&source)[sourceSize])
     {
         std::size_t at = source[0] == u'\n' ? 1 : 0;
-        while (at + 1 < sourceSize)
-            at = source[at] == openMark ? AddMark(source, at + 1) : AddLiteral(source, at);
+        while (at + 1 < sourceSize) {
+            at = AddLiteral(source, at);
+            if (at + 1 < sourceSize)
+                at = AddMark(source, at + 1);
+        }
     }
 
-    constexpr operator TemplateView() const { return {TextView(m_pieces.data(), m_size)}; }
+    constexpr operator TemplateView() const
+    {
+        return {TextView(m_pieces.data(), m_size), TextView(m_names.data(), m_namesSize),
+                m_literalSize};
+    }
 
 private:
     static constexpr char16_t openMark = u'«';
     static constexpr char16_t closeMark = u'»';
 
-    /// Literals and names alternate, a literal first; each is led by its length.
     consteval std::size_t AddLiteral(const char16_t (&source)[sourceSize], std::size_t at)
     {
         const std::size_t length = m_size++;
@@ -45,38 +53,49 @@ private:
                 m_pieces[m_size++] = u'\r';
             m_pieces[m_size++] = source[at];
         }
-        Close(length);
-        m_literalIsDue = false;
+        const std::size_t size = m_size - length - 1;
+        if (size > 0xFFFF)
+            throw std::logic_error("a piece of this template is too long");
+        m_pieces[length] = static_cast<char16_t>(size);
+        m_literalSize += size;
         return at;
     }
 
     consteval std::size_t AddMark(const char16_t (&source)[sourceSize], std::size_t at)
     {
-        if (m_literalIsDue)
-            m_pieces[m_size++] = 0;
-        const std::size_t length = m_size++;
-        while (source[at] != closeMark) {
-            if (at + 1 >= sourceSize || source[at] == openMark || source[at] == u'\n')
+        std::size_t end = at;
+        for (; source[end] != closeMark; ++end)
+            if (end + 1 >= sourceSize || source[end] == openMark || source[end] == u'\n')
                 throw std::logic_error("a mark of this template is not closed");
-            m_pieces[m_size++] = source[at++];
-        }
-        if (m_size == length + 1)
+        if (end == at)
             throw std::logic_error("a mark of this template has no name");
-        Close(length);
-        m_literalIsDue = true;
-        return at + 1;
+        m_pieces[m_size++] = IndexOf(TextView(source + at, end - at));
+        return end + 1;
     }
 
-    consteval void Close(std::size_t length)
+    /// The index of a name, which is added when it is new; counts the use.
+    consteval char16_t IndexOf(TextView name)
     {
-        if (m_size - length - 1 > 0xFFFF)
-            throw std::logic_error("a piece of this template is too long");
-        m_pieces[length] = static_cast<char16_t>(m_size - length - 1);
+        char16_t index = 0;
+        std::size_t at = 0;
+        for (; at < m_namesSize; at += m_names[at] + 2u, ++index) {
+            if (TextView(m_names.data() + at + 2, m_names[at]) == name) {
+                ++m_names[at + 1];
+                return index;
+            }
+        }
+        m_names[m_namesSize++] = static_cast<char16_t>(name.size());
+        m_names[m_namesSize++] = 1;
+        for (const char16_t character : name)
+            m_names[m_namesSize++] = character;
+        return index;
     }
 
     std::array<char16_t, 2 * sourceSize + 2> m_pieces{};
+    std::array<char16_t, sourceSize + 2> m_names{};
     std::size_t m_size = 0;
-    bool m_literalIsDue = true;
+    std::size_t m_namesSize = 0;
+    std::size_t m_literalSize = 0;
 };
 
 /// A mark's name and the text that takes its place.

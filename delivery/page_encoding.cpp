@@ -1,5 +1,8 @@
 #include "delivery/page_encoding.h"
 
+#include "delivery/page_charset.h"
+#include "delivery/script_spans.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -14,9 +17,6 @@ constexpr std::array<char16_t, 32> upperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-constexpr TextView scriptOpener = u"<script";
-constexpr TextView scriptCloser = u"</script";
 
 std::optional<char> Windows1252Byte(char16_t unit)
 {
@@ -51,7 +51,7 @@ std::string MarkupEscape(std::uint32_t point)
     return "&#" + std::to_string(point) + ";";
 }
 
-/// Follows page code and knows whether a place lies inside a SCRIPT element.
+/// Knows which places of page code lie inside a SCRIPT element.
 class ScriptTracker
 {
 public:
@@ -60,29 +60,27 @@ public:
     /// Expects places in rising order.
     bool IsInScript(std::size_t at)
     {
-        for (; m_at <= at; ++m_at) {
-            if (m_code[m_at] != u'<')
-                continue;
-            const TextView sought = m_isInScript ? scriptCloser : scriptOpener;
-            if (StartsWithIgnoringCase(m_code.substr(m_at), sought))
-                m_isInScript = !m_isInScript;
-        }
-        return m_isInScript;
+        while (at >= m_script.End && m_script.End < m_code.size())
+            m_script = NextScript(m_code, m_script.End);
+        return at >= m_script.Begin && at < m_script.End;
     }
 
 private:
     TextView m_code;
-    std::size_t m_at = 0;
-    bool m_isInScript = false;
+    CodeSpan m_script;
 };
 
-std::string EncodeWindows1252(TextView code)
+/// Writes the characters that the encoding has as its bytes and escapes the others: inside
+/// `scripts` for the script, elsewhere for the markup.
+std::string Encode(TextView code, PageEncoding encoding, ScriptTracker scripts)
 {
-    ScriptTracker scripts(code);
+    if (encoding == PageEncoding::Utf8)
+        return ToUtf8(code);
     std::string bytes;
     bytes.reserve(code.size());
     for (std::size_t i = 0; i < code.size(); ++i) {
-        if (const auto byte = Windows1252Byte(code[i])) {
+        const auto byte = Windows1252Byte(code[i]);
+        if (byte && (encoding == PageEncoding::Windows1252 || code[i] < 0x80)) {
             bytes.push_back(*byte);
         } else if (scripts.IsInScript(i)) {
             bytes += ScriptEscape(code[i]);
@@ -96,30 +94,26 @@ std::string EncodeWindows1252(TextView code)
     return bytes;
 }
 
-/// Whether the bytes hold a character above 127 and every such character is well-formed UTF-8.
-bool IsWellFormedUtf8(std::string_view bytes)
+/// The page without the halves of characters that an earlier insertion left: it writes the byte
+/// behind a tag twice, and puts a line end behind the first.
+std::string WithoutDoubledBytes(std::string_view page)
 {
+    const auto isLead = [](char byte) { return byte >= '\xC2' && byte <= '\xF4'; };
+    std::string whole(page);
+    for (std::size_t i = 1; i + 2 < page.size(); ++i)
+        if (isLead(page[i]) && (page[i - 1] == '>' || page[i - 1] == '\n') && page[i + 1] == '\r' &&
+            page[i + 2] == '\n')
+            whole[i] = ' ';
+    return whole;
+}
+
+/// Whether the page holds characters above 127 and every such character is well-formed UTF-8.
+bool IsWellFormedUtf8(std::string_view page)
+{
+    const std::string bytes = WithoutDoubledBytes(page);
     const bool isAscii = std::none_of(bytes.begin(), bytes.end(),
                                       [](char byte) { return static_cast<signed char>(byte) < 0; });
     return !isAscii && ToUtf8(FromUtf8(bytes)) == bytes;
-}
-
-/// The declared charset, lower-cased, or nothing; what a comment or script says counts as little as
-/// it does for a browser, which reads the first declaration.
-std::string DeclaredCharset(std::string_view page)
-{
-    constexpr std::size_t lookAt = 4096;
-    const Text start = ToLower(FromBytes(page.substr(0, lookAt)));
-    const std::size_t place = Find(start, u"charset");
-    if (place == 0)
-        return {};
-    TextView rest = Mid(start, place + 7);
-    rest.remove_prefix(std::min(rest.find_first_not_of(u" \t\r\n"), rest.size()));
-    if (rest.empty() || rest.front() != u'=')
-        return {};
-    rest.remove_prefix(1);
-    rest.remove_prefix(std::min(rest.find_first_not_of(u" \t\r\n\"'"), rest.size()));
-    return ToBytes(rest.substr(0, rest.find_first_of(u" \t\r\n\"'>;/")));
 }
 
 } // namespace
@@ -128,17 +122,29 @@ PageEncoding EncodingOf(std::string_view page)
 {
     if (page.starts_with("\xEF\xBB\xBF"))
         return PageEncoding::Utf8;
-    const std::string charset = DeclaredCharset(page);
-    if (charset == "utf-8" || charset == "utf8")
+    if (page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF"))
+        return PageEncoding::AsciiOnly;
+    switch (DeclaredCharsetOf(page)) {
+    case DeclaredCharset::Utf8:
         return PageEncoding::Utf8;
-    if (!charset.empty())
+    case DeclaredCharset::Windows1252:
         return PageEncoding::Windows1252;
+    case DeclaredCharset::Other:
+        return PageEncoding::AsciiOnly;
+    case DeclaredCharset::None:
+        break;
+    }
     return IsWellFormedUtf8(page) ? PageEncoding::Utf8 : PageEncoding::Windows1252;
 }
 
 std::string EncodeForPage(TextView code, PageEncoding encoding)
 {
-    return encoding == PageEncoding::Utf8 ? ToUtf8(code) : EncodeWindows1252(code);
+    return Encode(code, encoding, ScriptTracker(code));
+}
+
+std::string EncodeForAttribute(TextView value, PageEncoding encoding)
+{
+    return Encode(value, encoding, ScriptTracker({}));
 }
 
 } // namespace orvane

@@ -12,14 +12,21 @@ enum class PageEncoding
 {
     Windows1252,
     Utf8,
+    AsciiOnly, ///< the page has an encoding of its own, in which only these bytes are sure
 };
 
-/// Utf8 when the page says so (byte-order mark or charset declaration) or is so (bytes above 127
-/// that are all well-formed); else Windows1252.
+/// Utf8 when the page says so (byte-order mark or charset declaration) or, saying nothing, is so
+/// (bytes above 127 that are all well-formed). AsciiOnly when it declares another charset or has
+/// the byte-order mark of UTF-16, whose pages are opaque bytes: no tag is found in them, so that
+/// they are left to the author. Else Windows1252.
 PageEncoding EncodingOf(std::string_view page);
 
 /// The bytes of page code in that encoding. A character that the encoding lacks becomes "&#N;" in
-/// markup and "\uXXXX" inside a SCRIPT element.
+/// markup and "\uXXXX" inside a SCRIPT element; half of a surrogate pair in Utf8 becomes U+FFFD.
 std::string EncodeForPage(TextView code, PageEncoding encoding);
+
+/// The bytes of an attribute's value in that encoding, event attributes included: whatever the
+/// value holds, a lacking character becomes "&#N;".
+std::string EncodeForAttribute(TextView value, PageEncoding encoding);
 
 } // namespace orvane

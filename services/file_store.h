@@ -46,4 +46,7 @@ public:
     virtual bool FolderExists(TextView path) const = 0;
 };
 
+/// Makes a folder and those above it that are missing.
+[[nodiscard]] Done MakeFolders(FileStore& files, TextView path);
+
 } // namespace orvane

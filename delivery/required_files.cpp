@@ -1,0 +1,250 @@
+#include "delivery/required_files.h"
+
+#include "delivery/new_page.h"
+#include "services/file_names.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+/// The files that an effect of this kind always needs, as the list shows them.
+struct FixedFiles
+{
+    EffectKind Kind;
+    std::array<TextView, 3> Names;
+};
+
+constexpr FixedFiles fixedFiles[] = {
+    {EffectKind::AdvancedAnimator, {u"Animate1.class", u"CoolTool3.class"}},
+    {EffectKind::AnimationWizard, {u"Animate1.class", u"CoolTool3.class"}},
+    {EffectKind::BannerWizard, {u"Animate1.class", u"CoolTool3.class"}},
+    {EffectKind::AnimatedButton, {u"Animate1.class", u"CoolTool3.class"}},
+    {EffectKind::SwirlyText, {u"ColorSwirl.Class"}},
+    {EffectKind::TypewriterText, {u"Typewriter9.class", u"AudioLoader3.class", u"CoolTool3.class"}},
+    {EffectKind::FadingMessage, {u"FadeText.class"}},
+    {EffectKind::NavigatorTicker, {u"NavigatorTicker20.class"}},
+    {EffectKind::MoreImageEffects, {u"Animate1.class", u"CoolTool3.class", u"invisi.gif"}},
+    {EffectKind::ImageFade, {u"ImageFade2ech.class", u"Pixelator3.class"}},
+    {EffectKind::PasswordServer, {u"password.cgi"}},
+    {EffectKind::PopupWindow, {u"No Required Files."}},
+    {EffectKind::TextButton, {u"ButtonPLUS3.class"}},
+    {EffectKind::FlyingText, {u"nameMotion.swf"}},
+};
+
+/// Whether the class files depend on what the author chose in the wizard: the image effect, or the
+/// direction in which a text scrolls. The payload then names the chosen ones.
+bool AreClassFilesChosen(EffectKind kind)
+{
+    return kind == EffectKind::ImageEffects || kind == EffectKind::SmoothScroll;
+}
+
+void AddNonEmpty(std::vector<Text>& list, const auto& names)
+{
+    for (const auto& name : names)
+        if (!name.empty())
+            list.emplace_back(name);
+}
+
+Text Lines(TextView first, TextView second)
+{
+    return Join({first, lineEnd, second});
+}
+
+Text Paragraphs(TextView first, TextView second)
+{
+    return Join({first, lineEnd, lineEnd, second});
+}
+
+bool MayOverwrite(Dialogs& dialogs, TextView name)
+{
+    return dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
+}
+
+/// Whether a copy failed for a reason of that one file, so that the others may still be copied.
+bool IsMissing(Fault fault)
+{
+    return fault == Fault::FileNotFound || fault == Fault::PermissionDenied ||
+           fault == Fault::PathFileAccess;
+}
+
+/// Copies a file; one that cannot be copied goes to the missing ones, any other fault comes back.
+Done CopyOrMiss(FileStore& files, TextView name, TextView source, TextView destination,
+                MissingFiles& missing)
+{
+    const Done done = files.Copy(source, destination);
+    const Fault* fault = FaultIn(done);
+    if (!fault || !IsMissing(*fault))
+        return done;
+    missing.emplace_back(name);
+    return {};
+}
+
+Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextView source,
+                    MissingFiles& missing)
+{
+    if (source.empty()) {
+        missing.emplace_back(name);
+        return {};
+    }
+    const Text destination = Join({folder, name});
+    if (desk.Files.FileExists(destination)) {
+        // Stays as it is: names that differ in case alone count as the same file.
+        if (EqualIgnoringCase(destination, source) || !MayOverwrite(desk.Dialogs, name))
+            return {};
+    }
+    return CopyOrMiss(desk.Files, name, source, destination, missing);
+}
+
+Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing)
+{
+    if (folder == WithSeparator(desk.ProgramFolder))
+        return {};
+    for (const Text& name : desk.Payload.Effect.SupportFiles) {
+        if (name.empty())
+            continue;
+        const Done done = CopyOrMiss(desk.Files, name, PathIn(desk.ProgramFolder, name),
+                                     Join({folder, name}), missing);
+        if (FaultIn(done))
+            return done;
+    }
+    return {};
+}
+
+bool IsListed(const std::vector<Text>& names, TextView name)
+{
+    return std::any_of(names.begin(), names.end(),
+                       [&](const Text& listed) { return EqualIgnoringCase(listed, name); });
+}
+
+/// Brings one selected file to its folder; false when the author or a fault prevented it.
+bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, TextView name)
+{
+    const Text source = PathIn(fromFolder, name);
+    const Text destination = PathIn(toFolder, name);
+    if (source == destination)
+        return true;
+    if (IsListed(desk.Files.Files(toFolder), name) && !MayOverwrite(desk.Dialogs, name))
+        return false;
+    const Done done = desk.Files.Copy(source, destination);
+    if (const Fault* fault = FaultIn(done)) {
+        desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::vector<Text> FilesToUpload(const FinishedPayload& payload)
+{
+    std::vector<Text> list;
+    for (const FixedFiles& fixed : fixedFiles)
+        if (fixed.Kind == payload.Effect.Kind)
+            AddNonEmpty(list, fixed.Names);
+    if (AreClassFilesChosen(payload.Effect.Kind))
+        AddNonEmpty(list, payload.Effect.SupportFiles);
+    if (!payload.NeedsFiles)
+        list.emplace_back(u"No Required Files.");
+    return list;
+}
+
+std::vector<Text> ListedFiles(const FinishedPayload& payload)
+{
+    std::vector<Text> list;
+    if (payload.NeedsFiles)
+        AddNonEmpty(list, payload.Effect.Required.Names);
+    return list;
+}
+
+Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
+{
+    const RequiredFiles& required = desk.Payload.Effect.Required;
+    MissingFiles missing;
+    for (std::size_t i = 0; i < required.Names.size(); ++i) {
+        if (required.Names[i].empty())
+            continue;
+        const Done done =
+            CopyListedFile(desk, folder, required.Names[i], required.Sources[i], missing);
+        if (const Fault* fault = FaultIn(done))
+            return *fault;
+    }
+    const Done done = CopyClassFiles(desk, folder, missing);
+    if (const Fault* fault = FaultIn(done))
+        return *fault;
+    if (missing.empty())
+        desk.Dialogs.Say(
+            Join({u"All files have been copied to the ", folder,
+                  u" folder.  Now you can easily upload these files to the Internet."}));
+    else
+        desk.Dialogs.Say(
+            Lines(u"Orvane couldn't copy all the necessary files to the specified folder.",
+                  u"Use the file list on the left to find the missing files and click the 'Copy' "
+                  u"button to copy them."),
+            Tone::Exclamation);
+    return missing;
+}
+
+MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
+{
+    const RequiredFiles& required = desk.Payload.Effect.Required;
+    const std::vector<Text> present = desk.Files.Files(desk.ProgramFolder);
+    MissingFiles missing;
+    for (std::size_t i = 0; i < required.Names.size(); ++i) {
+        const Text& name = required.Names[i];
+        if (name.empty())
+            continue;
+        if (required.Sources[i].empty()) {
+            missing.push_back(name);
+        } else if (!IsListed(present, name)) {
+            const Done done =
+                desk.Files.Copy(required.Sources[i], PathIn(desk.ProgramFolder, name));
+            if (FaultIn(done))
+                missing.push_back(name);
+        }
+    }
+    if (!missing.empty())
+        desk.Dialogs.Say(
+            Lines(u"Orvane can't preview the special effect because it could not find the "
+                  u"necessary files.",
+                  u"Use the file list below to find the missing files and click the 'Copy' button "
+                  u"to copy them to the Orvane folder."),
+            Tone::Exclamation);
+    return missing;
+}
+
+Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
+{
+    const Text target = WithSeparator(folder);
+    const Text page = target + u"ovtemp.html";
+    const Text question = Paragraphs(
+        u"ovtemp.html already exists in this folder.  This file contains HTML code that controls a "
+        u"Orvane special effect that you previously created.",
+        u"Do you wish to overwrite this with the new ovtemp.html file that controls the current "
+        u"special effect?");
+    if (!desk.Files.FileExists(page) || desk.Dialogs.Ask(question)) {
+        const Done done = desk.Files.Replace(page, NewPageBytes(desk.Payload));
+        if (const Fault* fault = FaultIn(done))
+            return *fault;
+    }
+    return CopyRequiredFiles(desk, target);
+}
+
+void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
+                const std::vector<Text>& selected, MissingFiles& missing)
+{
+    if (selected.empty())
+        return desk.Dialogs.Say(u"Select a file from the list and then click the 'Copy' button");
+    Text copied;
+    for (const Text& name : selected) {
+        if (!CopySelected(desk, fromFolder, toFolder, name))
+            continue;
+        std::erase(missing, name);
+        copied += name + u", ";
+    }
+    // Stays as it is: the box comes with an empty list when nothing was copied.
+    desk.Dialogs.Say(Paragraphs(u"The following files were successfully copied:", copied));
+}
+
+} // namespace orvane

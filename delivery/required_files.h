@@ -1,0 +1,52 @@
+#pragma once
+
+#include "core/fault.h"
+#include "delivery/payload.h"
+#include "services/dialogs.h"
+#include "services/file_store.h"
+
+#include <vector>
+
+namespace orvane {
+
+/// The names of required files that could not be brought to their folder, in the order of the
+/// copying; empty when everything is there.
+using MissingFiles = std::vector<Text>;
+
+/// One effect, and what the copying of its files works with.
+struct CopyDesk
+{
+    const FinishedPayload& Payload;
+    TextView ProgramFolder;
+    FileStore& Files;
+    orvane::Dialogs& Dialogs;
+};
+
+/// What `lstFilesToUpload` holds from the start: the files that the effect always needs.
+std::vector<Text> FilesToUpload(const FinishedPayload& payload);
+
+/// What the last page adds behind them: the author's own files, none for an effect without files.
+std::vector<Text> ListedFiles(const FinishedPayload& payload);
+
+/// Copies the author's files and the class files to the page's folder, asks before it overwrites
+/// one of the author's, and says at the end whether all is there; the window then goes into
+/// missing-files mode if a name is missing. Expects the folder with its final separator, or the
+/// empty text for the current folder. Stops without that word on a fault that is no matter of one
+/// file, which the caller shows.
+[[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder);
+
+/// Copies the author's files to the program's folder, where the preview page lies, and says so when
+/// it could not; a name that already lies there is not copied again.
+[[nodiscard]] MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk);
+
+/// The command `cmdCopyFiles`: writes the effect's backup page ovtemp.html to the folder, where the
+/// author allows it, and copies the required files there. Ends at a fault of the page as
+/// CopyRequiredFiles() does.
+[[nodiscard]] Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder);
+
+/// Copies the files that the author selected in one folder to another and tells which were copied;
+/// takes the names that now lie there off `missing`.
+void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
+                const std::vector<Text>& selected, MissingFiles& missing);
+
+} // namespace orvane

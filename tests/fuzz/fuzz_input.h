@@ -1,0 +1,54 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace orvane::testing {
+
+/// Ends the run with the name of what does not hold, so that the fuzzer keeps the input.
+inline void Require(bool holds, const char* what)
+{
+    if (holds)
+        return;
+    std::fprintf(stderr, "does not hold: %s\n", what);
+    std::abort();
+}
+
+/// A fuzzer's bytes, taken piece by piece: a first byte of choices, then texts parted by "|||", so
+/// that an input can be written by hand.
+class FuzzInput
+{
+public:
+    FuzzInput(const std::uint8_t* bytes, std::size_t size)
+    {
+        if (size == 0)
+            return;
+        m_choices = bytes[0];
+        m_rest = std::string_view(reinterpret_cast<const char*>(bytes) + 1, size - 1);
+    }
+
+    bool Choice(unsigned bit) const { return ((m_choices >> bit) & 1) != 0; }
+
+    /// Up to the next mark; empty when there are no more.
+    std::string_view TakeText()
+    {
+        constexpr std::string_view mark = "|||";
+        const std::string_view text = m_rest.substr(0, m_rest.find(mark));
+        m_rest.remove_prefix(std::min(text.size() + mark.size(), m_rest.size()));
+        return text;
+    }
+
+    /// Everything that was not taken yet.
+    std::string_view TakeRest() { return std::exchange(m_rest, {}); }
+
+private:
+    unsigned m_choices = 0;
+    std::string_view m_rest;
+};
+
+} // namespace orvane::testing
