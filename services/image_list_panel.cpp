@@ -21,6 +21,15 @@ namespace {
 
 constexpr QSize previewRoom(150, 110);
 
+/// Left without a parent: the layout takes the controls in, in reading order, which Tab follows.
+QPushButton* MakeButton(const QString& name, TextView caption)
+{
+    auto* button = new QPushButton(ToQt(caption));
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
+}
+
 } // namespace
 
 ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& variation,
@@ -42,14 +51,6 @@ ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& varia
     EnableListButtons(!variation.EnablesButtonsOnAdd);
     Arrange();
     Connect();
-}
-
-QPushButton* ImageListPanel::MakeButton(const QString& name, TextView caption)
-{
-    auto* button = new QPushButton(ToQt(caption), this);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
 }
 
 QWidget* ImageListPanel::MakePreview()

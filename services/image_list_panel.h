@@ -50,7 +50,6 @@ signals:
     void MenuRequested(QPoint globalPlace);
 
 private:
-    QPushButton* MakeButton(const QString& name, TextView caption);
     QWidget* MakePreview();
     void Arrange();
     void Connect();

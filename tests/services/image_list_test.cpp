@@ -31,6 +31,8 @@ struct Placing
     std::optional<std::size_t> Selected;
     const char* Order;
     std::optional<std::size_t> SelectedAfter;
+
+    friend void PrintTo(const Placing& placing, std::ostream* out) { *out << placing.Name; }
 };
 
 class ImagePlacingTest : public ::testing::TestWithParam<Placing>
