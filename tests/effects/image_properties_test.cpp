@@ -1,7 +1,5 @@
 #include "effects/applet/image_properties.h"
 
-#include "core/numbers.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -113,7 +111,8 @@ class TransitionValueTest : public ::testing::TestWithParam<ValueCase>
 
 TEST_P(TransitionValueTest, FollowsTheFirstRuleThatFits)
 {
-    EXPECT_EQ(TransitionValue(GetParam().Transition, GetParam().Direction), GetParam().Value);
+    EXPECT_EQ(TransitionValue(GetParam().Transition, GetParam().Direction), GetParam().Value)
+        << ToUtf8(GetParam().Transition) << ", " << ToUtf8(GetParam().Direction);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -84,7 +84,7 @@ class PipeParseTest : public ::testing::TestWithParam<PipeCase>
 
 TEST_P(PipeParseTest, CutsAtTheBarsAndOffTheLastCharacter)
 {
-    EXPECT_EQ(PipeParse(GetParam().Joined), GetParam().Cells);
+    EXPECT_EQ(PipeParse(GetParam().Joined), GetParam().Cells) << ToUtf8(GetParam().Joined);
 }
 
 INSTANTIATE_TEST_SUITE_P(Joined, PipeParseTest,
