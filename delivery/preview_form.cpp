@@ -58,6 +58,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 
 PreviewForm::~PreviewForm()
 {
+    m_bench.Pane.Clear();
     if (m_pane != nullptr) {
         m_pane->hide();
         m_pane->setParent(nullptr);

@@ -92,7 +92,8 @@ private:
 };
 
 /// The view of the module: one engine profile, and a fresh page for each page file, so that nothing
-/// of a page survives it.
+/// of a page survives it. A spare page stands ready while none is shown: the engine starts its
+/// process meanwhile, and the next preview comes at once.
 class EngineView : public WebView
 {
 public:
@@ -119,7 +120,9 @@ public:
     void ShowPage(TextView path) override
     {
         Turn([this, path = Text(path)] {
-            MakePage();
+            if (!m_isSpare)
+                MakePage();
+            m_isSpare = false;
             m_guard.SetFolder(PageFolder(path));
             m_room.Page = QUrl::fromLocalFile(ToQt(path));
             m_page->load(m_room.Page);
@@ -128,7 +131,10 @@ public:
 
     void Clear() override
     {
-        Turn([this] { MakePage(); });
+        Turn([this] {
+            if (!m_isSpare)
+                MakePage();
+        });
     }
 
     std::int64_t RendererPid() const override { return m_page->renderProcessPid(); }
@@ -151,6 +157,7 @@ private:
     PageView m_view;
     AnswerWatch m_watch;
     PreviewWebPage* m_page = nullptr;
+    bool m_isSpare = false; ///< nothing was shown in the page yet
     bool m_stoppedHung = false;
 };
 
@@ -171,7 +178,8 @@ void EngineView::SetUpProfile()
     settings.setAttribute(QWebEngineSettings::DnsPrefetchEnabled, false);
     settings.setAttribute(QWebEngineSettings::WebRTCPublicInterfacesOnly, true);
     settings.setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
-    settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+    // Not to follow them: otherwise the page is not asked, and cannot offer a mail address.
+    settings.setUnknownUrlSchemePolicy(QWebEngineSettings::AllowAllUnknownUrlSchemes);
 
     QWebEngineScript script;
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
@@ -187,6 +195,7 @@ void EngineView::MakePage()
     m_room.CloseWindows();
     m_room.Page.clear();
     m_room.AuthorActed = false;
+    m_isSpare = true;
     m_stoppedHung = false;
     PreviewWebPage* former = m_page;
     m_page = new PreviewWebPage(m_profile, m_room, m_view);

@@ -1,10 +1,10 @@
 #include "tests/support/qt_browser_page.h"
 
-#include "core/qt_text.h"
+#include "tests/support/qt_controls.h"
 
 #include <QEventLoop>
 #include <QLabel>
-#include <QPushButton>
+#include <QTest>
 #include <QTimer>
 
 #include <filesystem>
@@ -110,19 +110,45 @@ void BrowserPage::WaitUntil(const std::string& expression, int timeoutMs)
         << "never true in the page: " << expression;
 }
 
-std::string BrowserPage::Shown(const char* name) const
+QPoint BrowserPage::MiddleOf(const std::string& element)
 {
-    const auto* control = Pane.findChild<QWidget*>(name);
-    if (!control || !control->isVisible())
-        return {};
-    return control->property("text").toString().toStdString();
+    const QVariantList middle =
+        Value("(() => { const box = (" + element +
+              ").getBoundingClientRect();"
+              "return [box.x + box.width / 2, box.y + box.height / 2]; })()")
+            .toList();
+    EXPECT_EQ(middle.size(), 2) << "no such element: " << element;
+    return middle.size() == 2 ? QPoint(middle[0].toInt(), middle[1].toInt()) : QPoint();
 }
 
-void BrowserPage::Press(const char* name)
+/// The widget in which the engine takes the mouse.
+QWidget& BrowserPage::Surface()
 {
-    auto* button = Pane.findChild<QPushButton*>(name);
-    ASSERT_TRUE(button && button->isVisible()) << name;
-    button->click();
+    QWidget* surface = Pane.View();
+    while (surface->focusProxy() != nullptr)
+        surface = surface->focusProxy();
+    return *surface;
+}
+
+void BrowserPage::MoveTo(const std::string& element)
+{
+    QTest::mouseMove(&Surface(), MiddleOf(element));
+}
+
+void BrowserPage::ClickOn(const std::string& element)
+{
+    QTest::mouseClick(&Surface(), Qt::LeftButton, Qt::NoModifier, MiddleOf(element));
+}
+
+Text BrowserPage::Status()
+{
+    return Note().empty() ? WordsOf(Pane, "lblPageStatus") : Text();
+}
+
+Text BrowserPage::Note()
+{
+    return Find<QLabel>(Pane, "lblPreviewNote")->isVisible() ? WordsOf(Pane, "lblPreviewNote")
+                                                             : Text();
 }
 
 std::vector<QWidget*> BrowserPage::Windows() const

@@ -50,12 +50,15 @@ public:
     /// Waits until the expression is true in the page; fails the test when it does not become so.
     void WaitUntil(const std::string& expression, int timeoutMs = 10000);
 
-    /// What the control of the pane with this name shows: a label's or button's text; empty when
-    /// it is not visible.
-    std::string Shown(const char* name) const;
+    /// Moves the mouse to the middle of an element, given as an expression, or clicks there.
+    void MoveTo(const std::string& element);
+    void ClickOn(const std::string& element);
 
-    /// Presses the button of the pane with this name; fails the test when it is not visible.
-    void Press(const char* name);
+    /// What the page wrote into its status line; empty while a note is shown.
+    Text Status();
+
+    /// The pane's note in place of the page; empty while there is none.
+    Text Note();
 
     /// The open windows of the page.
     std::vector<QWidget*> Windows() const;
@@ -69,6 +72,9 @@ public:
     QtPreviewPane Pane{Dialogs, Shell, Files};
 
 private:
+    QPoint MiddleOf(const std::string& element);
+    QWidget& Surface();
+
     QTemporaryDir m_folder;
     std::string m_clock;
 };
