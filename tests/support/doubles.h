@@ -94,6 +94,7 @@ public:
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path) override;
     std::vector<Text> Files(TextView folder) const override;
+    Outcome<std::vector<Text>> SubFolders(TextView folder) const override;
     bool FolderExists(TextView path) const override;
 
 private:
