@@ -1,5 +1,6 @@
 #include "services/new_file.h"
 
+#include <cstdint>
 #include <random>
 #include <tuple>
 
@@ -16,9 +17,10 @@ constexpr std::size_t digitCount = 16;
 std::string TemporaryName()
 {
     std::random_device random;
+    std::uint64_t number = (std::uint64_t{random()} << 32) | random();
     std::string name(ownNameStart);
-    for (std::size_t i = 0; i < digitCount; ++i)
-        name.push_back(digits[random() % digits.size()]);
+    for (std::size_t i = 0; i < digitCount; ++i, number /= digits.size())
+        name.push_back(digits[number % digits.size()]);
     return name.append(ownNameEnd);
 }
 

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "services/disk.h"
+#include "tests/support/unsynced.h"
+
+#include <optional>
+
+namespace orvane::testing {
+
+/// What goes wrong at the chosen call.
+enum class Trouble
+{
+    DiskFull,          ///< ENOSPC
+    IoError,           ///< EIO
+    NoPermission,      ///< EACCES
+    Interrupted,       ///< EINTR, once
+    ShortWrite,        ///< the next write does half of its work
+    FullHalfway,       ///< the next write does half of its work, all behind it meet ENOSPC
+    BrokenFromThere,   ///< EIO, and again at every call behind it
+    Kill,              ///< the process ends before the call
+    KillHalfway,       ///< the process ends when the next write has done half of its work
+    PowerCut,          ///< the machine ends before the call: what was not synced is lost
+    PowerCutLateBytes, ///< the same, on a disk that writes names at once and contents late
+};
+
+inline constexpr Trouble allTroubles[] = {
+    Trouble::DiskFull,    Trouble::IoError,          Trouble::NoPermission,
+    Trouble::Interrupted, Trouble::ShortWrite,       Trouble::FullHalfway,
+    Trouble::Kill,        Trouble::KillHalfway,      Trouble::BrokenFromThere,
+    Trouble::PowerCut,    Trouble::PowerCutLateBytes};
+
+const char* NameOf(Trouble trouble);
+
+/// Whether the process does not outlive it.
+bool IsDeath(Trouble trouble);
+
+/// Thrown by the call at which the process ends, and by every one behind it.
+struct Killed
+{
+};
+
+/// The real disk, with trouble at a chosen call. To try everything that a command does on the disk,
+/// run it again and again, each time on fresh files, with the trouble one call later:
+///
+///     for (int call = 1; call > 0;) {
+///         FaultyDisk disk;
+///         disk.Arm(trouble, call);
+///         try { outcome = command(disk); } catch (const Killed&) {}
+///         disk.Heal();
+///         call = disk.NextCall();
+///         ...
+///     }
+///
+/// From a death on nothing that the program still does reaches the disk, so that no clean-up of a
+/// destructor does either. A death at a close lets that call return and shows at the next one. A
+/// sync costs no time: what it protects from is played by the power cuts.
+class FaultyDisk : public Disk
+{
+public:
+    /// From now on calls are counted from 1, and the one with this number meets the trouble.
+    void Arm(Trouble trouble, int call);
+    /// The disk works again, for the program that lives or for one started after its end.
+    void Heal();
+    /// Ends the process itself at a death, with this status, in place of throwing.
+    void ExitAtDeath(int status) { m_exitStatus = status; }
+    /// Takes what was not synced so far, as a power cut at this moment would.
+    void CutPower();
+
+    /// Whether the trouble came.
+    bool Struck() const { return m_struckAt > 0; }
+    /// The call to choose for the next trial; 0 when no call was left for this one.
+    int NextCall() const { return Struck() ? m_struckAt + 1 : 0; }
+    int OpenDescriptors() const { return m_openDescriptors; }
+
+    Error Open(const std::string& path, int flags, mode_t mode, int& descriptor) override;
+    Error Close(int descriptor) override;
+    Error Read(int descriptor, off_t offset, std::span<char> buffer, std::size_t& count) override;
+    Error Write(int descriptor, off_t offset, std::string_view bytes, std::size_t& count) override;
+    Error Truncate(int descriptor, off_t size) override;
+    Error Sync(int descriptor) override;
+    Error Lock(int descriptor) override;
+    Error Status(int descriptor, FileStatus& status) override;
+    Error StatusAt(const std::string& path, FileStatus& status) override;
+    Error AttributeSize(int descriptor, const char* name, std::size_t& size) override;
+    Error ChangeMode(int descriptor, mode_t mode) override;
+    Error ChangeOwner(int descriptor, uid_t user, gid_t group) override;
+    Error Rename(const std::string& from, const std::string& to) override;
+    Error Remove(const std::string& path) override;
+    Error ReadLink(const std::string& path, std::string& target) override;
+    Error MakeFolder(const std::string& path, mode_t mode) override;
+    Error RemoveFolder(const std::string& path) override;
+    Error List(const std::string& path, std::vector<FolderEntry>& entries) override;
+
+private:
+    /// The trouble of this call, if it meets any.
+    std::optional<Trouble> Next(bool isWrite);
+    /// The error that a call meets; a death does not return.
+    Error Meet();
+    void Die(Trouble death);
+
+    std::optional<Trouble> m_trouble;
+    int m_troubledCall = 0;
+    int m_calls = 0;
+    int m_openDescriptors = 0;
+    int m_struckAt = 0;
+    bool m_isFull = false;
+    bool m_isDead = false;
+    std::optional<int> m_exitStatus;
+    PosixDisk m_disk;
+    Unsynced m_unsynced;
+};
+
+} // namespace orvane::testing
