@@ -44,7 +44,7 @@ Fault FaultOf(const std::error_code& error)
         return Fault::PathNotFound;
     if (is(std::errc::permission_denied) || is(std::errc::operation_not_permitted) ||
         is(std::errc::read_only_file_system) || is(std::errc::device_or_resource_busy) ||
-        is(std::errc::text_file_busy))
+        is(std::errc::text_file_busy) || is(std::errc::resource_unavailable_try_again))
         return Fault::PermissionDenied;
     if (is(std::errc::is_a_directory) || is(std::errc::file_exists))
         return Fault::PathFileAccess;

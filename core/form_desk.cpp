@@ -5,7 +5,9 @@
 #include "core/ov_main_form.h"
 #include "core/startup.h"
 #include "delivery/preview_form.h"
+#include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
+#include "services/make_dir_form.h"
 
 #include <QCoreApplication>
 
@@ -25,6 +27,8 @@ std::unique_ptr<WizardForm> Make(Workbench& bench, QWidget* parent)
 WizardMaker MakerOf(EffectKind kind)
 {
     switch (kind) {
+    case EffectKind::DigitalClock:
+        return &Make<DigitalClockForm>;
     case EffectKind::StatusBarTicker:
         return &Make<StatusBarTickerForm>;
     default:
@@ -87,12 +91,26 @@ void FormDesk::OpenEffect(const EffectCommand& command)
         if (!payload)
             return;
         m_bench.Core.Payload = *payload;
-        PreviewForm preview(
-            m_bench, *payload, m_pane, [&] { ShowOptions(&preview); }, m_mainForm.get());
-        ShowModally(preview);
-        if (preview.End() == DeliveryEnd::Finished)
+        if (ShowPreview(*payload) == DeliveryEnd::Finished)
             return;
     }
+}
+
+DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload)
+{
+    std::unique_ptr<PreviewForm> preview;
+    const PreviewWindows windows{
+        .ShowOptions = [&] { ShowOptions(preview.get()); },
+        .MakeFolder =
+            [&](TextView folder) {
+                MakeDirForm makeDir(m_bench, folder, preview.get());
+                ShowModally(makeDir);
+                return makeDir.NewFolder();
+            },
+    };
+    preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
+    ShowModally(*preview);
+    return preview->End();
 }
 
 void FormDesk::ShowOptions(QWidget* parent)

@@ -13,6 +13,7 @@ namespace orvane {
 
 class OVMainForm;
 class WizardForm;
+enum class DeliveryEnd;
 
 /// Knows all windows, and is the road of one effect: wizard, delivery wizard, and back or out.
 class FormDesk : public QObject
@@ -45,6 +46,7 @@ signals:
 
 private:
     void ShowModally(QDialog& window);
+    DeliveryEnd ShowPreview(const EffectPayload& payload);
     void ShowOptions(QWidget* parent);
     void ShowMainForm();
 

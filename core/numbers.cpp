@@ -1,5 +1,6 @@
 #include "core/numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -122,6 +123,12 @@ Outcome<std::int16_t> ToInteger16(TextView text)
     if (!(whole >= -32768 && whole <= 32767))
         return Fault::Overflow;
     return static_cast<std::int16_t>(whole);
+}
+
+int StepNumber(TextView text, int step, int lowest, int highest)
+{
+    const double stepped = std::trunc(Val(text)) + step;
+    return static_cast<int>(std::clamp<double>(stepped, lowest, highest));
 }
 
 Text NumberToText(double number)

@@ -18,6 +18,10 @@ bool IsNumeric(TextView text);
 /// Overflow when it lies outside -32768 to 32767.
 Outcome<std::int16_t> ToInteger16(TextView text);
 
+/// The leading number of a text box, with 0 for none, after a press of its up-down buttons: its
+/// whole part and `step`, kept within `lowest` to `highest`.
+int StepNumber(TextView text, int step, int lowest, int highest);
+
 /// The number with at most 15 significant digits and no trailing zeros, such as "0.5".
 Text NumberToText(double number);
 

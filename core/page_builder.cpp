@@ -2,7 +2,9 @@
 
 #include "core/help_viewer.h"
 #include "core/orvane_core.h"
+#include "core/qt_number_box.h"
 #include "core/qt_text.h"
+#include "services/color_swatch.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,6 +52,15 @@ protected:
 private:
     QRadioButton* m_option;
 };
+
+QLabel* MakePicture(const QString& name, QSize size, QWidget* parent)
+{
+    auto* picture = new QLabel(parent);
+    picture->setPixmap(QIcon(QStringLiteral(":/pictures/%1.svg").arg(name))
+                           .pixmap(size, parent->devicePixelRatioF()));
+    picture->setAlignment(Qt::AlignCenter);
+    return picture;
+}
 
 } // namespace
 
@@ -123,10 +134,31 @@ QComboBox* PageBuilder::ComboBox(const QString& name, TextView label,
     box->setObjectName(name);
     box->setEditable(isEditable);
     box->setInsertPolicy(QComboBox::NoInsert);
+    // What is typed stays as it is: no "12" for a typed "1", no "Arial" for a typed "arial".
+    if (isEditable)
+        box->setCompleter(nullptr);
     for (const TextView item : items)
         box->addItem(ToQt(item));
     Row(label, {box});
     return box;
+}
+
+orvane::NumberBox* PageBuilder::NumberBox(const QString& name, TextView label, int lowest,
+                                          int highest)
+{
+    auto* box = new orvane::NumberBox(name, lowest, highest, m_page);
+    Row(label, {box, box->UpDown()});
+    return box;
+}
+
+orvane::ColorSwatch* PageBuilder::ColorSwatch(const QString& name, TextView label, Dialogs& dialogs,
+                                              TextView tip, TextView caption)
+{
+    auto* swatch = new orvane::ColorSwatch(caption, dialogs, m_page);
+    swatch->setObjectName(name);
+    swatch->setToolTip(ToQt(tip));
+    Row(label, {swatch});
+    return swatch;
 }
 
 QListWidget* PageBuilder::ListBox(const QString& name, TextView label,
@@ -155,15 +187,19 @@ QCheckBox* PageBuilder::CheckBox(const QString& name, TextView caption)
 }
 
 QRadioButton* PageBuilder::Option(const QString& group, int index, TextView caption,
-                                  TextView description)
+                                  TextView description, const QString& picture)
 {
     auto* option = new QRadioButton(ToQt(caption), m_page);
     option->setObjectName(MemberName(group, index));
     m_rows->addRow(option);
-    if (!description.empty()) {
-        m_rows->addRow(new OptionText(description, option, m_page));
-        option->setAccessibleDescription(ToQt(description));
-    }
+    if (description.empty())
+        return option;
+    auto* words = new OptionText(description, option, m_page);
+    option->setAccessibleDescription(ToQt(description));
+    if (picture.isEmpty())
+        m_rows->addRow(words);
+    else
+        Row({}, {words, MakePicture(picture, {96, 64}, m_page)});
     return option;
 }
 
@@ -193,10 +229,7 @@ QLabel* PageBuilder::Note(TextView words, const QString& name)
 
 QLabel* PageBuilder::Picture(const QString& name, QSize size)
 {
-    auto* picture = new QLabel(m_page);
-    picture->setPixmap(QIcon(QStringLiteral(":/pictures/%1.svg").arg(name))
-                           .pixmap(size, m_page->devicePixelRatioF()));
-    picture->setAlignment(Qt::AlignCenter);
+    QLabel* picture = MakePicture(name, size, m_page);
     m_rows->addRow(picture);
     return picture;
 }

@@ -18,8 +18,10 @@ class QRadioButton;
 
 namespace orvane {
 
+class ColorSwatch;
 class Dialogs;
 class HelpViewer;
+class NumberBox;
 class Settings;
 
 /// The object name of one member of a group of controls, such as "optInsertMode(0)".
@@ -74,12 +76,22 @@ public:
     QLineEdit* TextBox(const QString& name, TextView label, TextView tip = {});
     QComboBox* ComboBox(const QString& name, TextView label, std::span<const TextView> items,
                         bool isEditable);
+
+    /// A text box with up-down buttons that step a number between the two bounds.
+    orvane::NumberBox* NumberBox(const QString& name, TextView label, int lowest, int highest);
+
+    /// A field that shows `caption` until a colour is picked.
+    orvane::ColorSwatch* ColorSwatch(const QString& name, TextView label, Dialogs& dialogs,
+                                     TextView tip = u"Click here to select a color",
+                                     TextView caption = u"Click to Select Color");
+
     QListWidget* ListBox(const QString& name, TextView label, std::span<const TextView> items);
     QCheckBox* CheckBox(const QString& name, TextView caption);
 
-    /// One option of a group, with a description beside it that selects it as well.
+    /// One option of a group, with a description beside it that selects it as well, and with a
+    /// picture of the program's resources, such as "sample_date".
     QRadioButton* Option(const QString& group, int index, TextView caption,
-                         TextView description = {});
+                         TextView description = {}, const QString& picture = {});
 
     /// A read-only box of page code.
     QPlainTextEdit* CodeBox(const QString& name, TextView accessibleName);

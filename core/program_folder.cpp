@@ -18,18 +18,6 @@ UserFolders FindUserFolders(const Environment& environment)
             base(u"XDG_STATE_HOME", u".local/state")};
 }
 
-Done MakeFolders(FileStore& files, TextView path)
-{
-    if (path.empty() || files.FolderExists(path))
-        return {};
-    if (const std::size_t last = LastSeparator(path); last > 1) {
-        const Done parent = MakeFolders(files, Left(path, last - 1));
-        if (FaultIn(parent))
-            return parent;
-    }
-    return files.MakeFolder(path);
-}
-
 Done InstallFile(FileStore& files, TextView path, std::string_view bytes)
 {
     const auto present = files.Read(path);

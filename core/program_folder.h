@@ -22,9 +22,6 @@ struct UserFolders
 /// and takes settings and state along.
 UserFolders FindUserFolders(const Environment& environment);
 
-/// Makes a folder and those above it that are missing.
-[[nodiscard]] Done MakeFolders(FileStore& files, TextView path);
-
 /// Makes the file hold these bytes unless it does already.
 [[nodiscard]] Done InstallFile(FileStore& files, TextView path, std::string_view bytes);
 

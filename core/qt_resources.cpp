@@ -12,12 +12,13 @@ namespace orvane {
 namespace {
 
 /// Writes every file of one resource folder into a folder of the disk.
-Done InstallFolder(FileStore& files, const QString& resources, TextView folder)
+Done InstallFolder(FileStore& files, const QString& resources, const QString& masks,
+                   TextView folder)
 {
     const Done made = MakeFolders(files, folder);
     if (FaultIn(made))
         return made;
-    for (QDirIterator entry(resources, QDir::Files); entry.hasNext();) {
+    for (QDirIterator entry(resources, {masks}, QDir::Files); entry.hasNext();) {
         QFile file(entry.next());
         if (!file.open(QIODevice::ReadOnly))
             continue;
@@ -35,8 +36,19 @@ Done InstallFolder(FileStore& files, const QString& resources, TextView folder)
 
 void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder)
 {
-    for (const char* resources : {":/help", ":/applets"}) {
-        const Done installed = InstallFolder(files, QLatin1String(resources), programFolder);
+    /// Files of the resources, and the folder below the program's own that they go to.
+    struct Place
+    {
+        const char* Resources;
+        const char* Masks;
+        Text Folder;
+    };
+    const Place places[] = {{":/help", "*.hlp", Text(programFolder)},
+                            {":/help", "*.svg", PathIn(programFolder, u"help")},
+                            {":/applets", "*", Text(programFolder)}};
+    for (const Place& place : places) {
+        const Done installed = InstallFolder(files, QLatin1String(place.Resources),
+                                             QLatin1String(place.Masks), place.Folder);
         if (const Fault* fault = FaultIn(installed)) {
             dialogs.Say(Join(
                 {u"Orvane cannot write to its folder ", programFolder, u".\r\n", Words(*fault)}));

@@ -1,6 +1,5 @@
 #include "core/settings_file.h"
 
-#include "core/program_folder.h"
 #include "services/file_names.h"
 
 #include <tuple>

@@ -9,6 +9,7 @@
 #include "services/file_store.h"
 #include "services/shell.h"
 
+#include <functional>
 #include <optional>
 
 namespace orvane {
@@ -24,7 +25,9 @@ struct Workbench
     orvane::Clipboard& Clipboard;
     PreviewPane& Pane;
     HelpViewer& Help;
-    Text Version;                               ///< of this program, such as "1.0.0"
+    Text Version;                ///< of this program, such as "1.0.0"
+    Text StateFolder;            ///< of this user, for what outlives a run and is no setting
+    std::function<Text()> Today; ///< such as "2024-05-31"
     std::optional<Text> PlatformBrowserVersion; ///< nothing: the platform has no registry to ask
 };
 

@@ -1,10 +1,13 @@
 #include "delivery/preview_form.h"
 
 #include "core/qt_text.h"
+#include "delivery/auto_insert.h"
+#include "delivery/editor_help.h"
 #include "delivery/new_page.h"
 #include "services/file_names.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -17,6 +20,9 @@
 namespace orvane {
 
 namespace {
+
+/// The own topic of the three pages that show code to copy.
+constexpr int manualPagesTopic = 50;
 
 /// Shows the wait pointer for as long as it lives.
 class WaitCursor
@@ -31,11 +37,11 @@ public:
 } // namespace
 
 PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
-                         std::function<void()> showOptions, QWidget* parent)
+                         PreviewWindows windows, QWidget* parent)
     : WizardFrame(QStringLiteral("Preview"), bench, parent),
       m_payload(Finish(effect)),
       m_pane(pane),
-      m_showOptions(std::move(showOptions))
+      m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     AddPreviewPanel();
@@ -43,8 +49,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
     AddMethodPanel();
     AddPagePanel();
     AddCodePanels();
-    for (const int unused : {7, 8})
-        AddPanel(MemberName(QStringLiteral("Picture1"), unused));
+    AddPublishPanel();
     AddFinishPanel();
     AddButtons(Buttons::Paged, QStringLiteral("cmdHelp"));
     setMinimumSize(640, 520);
@@ -57,6 +62,7 @@ PreviewForm::~PreviewForm()
         m_pane->hide();
         m_pane->setParent(nullptr);
     }
+    m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
     m_bench.Core.Payload.HEADHTML.clear();
@@ -75,13 +81,13 @@ void PreviewForm::showEvent(QShowEvent* event)
     if (std::exchange(m_isPreviewed, true))
         return;
     // Once the window is on screen, since the engine may take a moment.
-    QTimer::singleShot(0, this, [this] { Preview(PreviewMode::Inline); });
+    QTimer::singleShot(0, this, [this] { BeginPreview(); });
 }
 
 void PreviewForm::Next()
 {
     if (Mode() == InsertMode::ManualCopy)
-        setWebPageEditor();
+        OfferEditorHelp();
     ChangePage(NextStep(m_step, Mode(), Facts()));
 }
 
@@ -105,14 +111,21 @@ void PreviewForm::ChangePage(DeliveryStep step)
     SetHelpTopic(page.HelpContext);
     ShowPanel(page.Panel);
     switch (step.PageStep) {
+    case 2:
+        lstHTMLEditors->setFocus();
+        break;
     case 3:
         KeepEditor();
+        optInsertMode[static_cast<std::size_t>(Mode())]->setFocus();
         break;
     case 4:
         ShowPageControls();
         break;
     case 5:
         cmdPrevious->setEnabled(true);
+        break;
+    case 8:
+        m_publishPanel->Begin();
         break;
     case 9:
         ShowFinish();
@@ -150,15 +163,40 @@ void PreviewForm::ShowFinish()
     cmdCancel->setText(QStringLiteral("&Done"));
     cmdCancel->setFocus();
     if (m_payload.NeedsFiles && !std::exchange(m_filesListed, true))
-        for (const Text& name : m_payload.Effect.Required.Names)
-            if (!name.empty())
-                lstFilesToUpload->addItem(ToQt(name));
+        for (const Text& name : ListedFiles(m_payload))
+            lstFilesToUpload->addItem(ToQt(name));
 }
 
 void PreviewForm::Preview(PreviewMode mode)
 {
     const WaitCursor wait;
-    LinkToBrowser(m_bench, m_payload, mode, m_showOptions);
+    LinkToBrowser(m_bench, m_payload, mode, m_windows.ShowOptions);
+}
+
+void PreviewForm::BeginPreview()
+{
+    const MissingFiles missing = CopyRequiredFilesForPreview(Desk());
+    if (missing.empty())
+        return Preview(PreviewMode::Inline);
+    SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);
+    ShowPanel(7);
+    m_publishPanel->FindMissing(PublishMode::MissingForPreview, missing,
+                                m_bench.Core.ProgramFolder);
+}
+
+void PreviewForm::FinishCopying(const AfterCopying& after)
+{
+    m_publishPanel->Begin();
+    const DeliveryPage page =
+        DescribePage({static_cast<std::int16_t>(after.HeadingPage), m_step.StepNumber}, Mode());
+    SetHeading(page.Heading, page.SubHeading);
+    SetHelpTopic(page.HelpContext);
+    ShowPanel(after.Panel);
+    cmdNext->setEnabled(after.IsNextEnabled);
+    cmdPrevious->setEnabled(after.IsPreviousEnabled);
+    cmdCancel->setText(ToQt(after.CancelCaption));
+    if (after.IsPreviewed)
+        Preview(PreviewMode::Inline);
 }
 
 void PreviewForm::BrowseForPage()
@@ -172,6 +210,28 @@ void PreviewForm::BrowseForPage()
                                       GetFileName(*path), u"\""})));
 }
 
+void PreviewForm::InsertIntoPage()
+{
+    const Text name = FromQt(txtFileName->text());
+    if (const auto complaint = CheckPageName(name))
+        return Report(*complaint);
+    const Text page = PagePath(name, FromQt(QDir::currentPath()));
+    const KeptPages kept{PathIn(m_bench.StateFolder, u"first-backups"), m_bench.Today()};
+    switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_payload, kept)) {
+    case AutoInsertion::NothingDone:
+        return;
+    case AutoInsertion::Manual:
+        optInsertMode[1]->setChecked(true);
+        m_step.PageStep = 3;
+        Next();
+        return;
+    case AutoInsertion::Inserted:
+        // What is missing was told; the last page comes all the same.
+        if (CopyFiles(FolderOf(page)))
+            GoOnTo(9);
+    }
+}
+
 void PreviewForm::SaveWebPage()
 {
     const auto path = m_bench.Dialogs.SaveFile(NewPageRequest());
@@ -182,8 +242,29 @@ void PreviewForm::SaveWebPage()
         m_bench.Dialogs.Say(Words(*fault));
         return;
     }
+    if (const auto missing = CopyFiles(FolderOf(*path)))
+        GoOnTo(missing->empty() ? 9 : 8);
+}
+
+std::optional<MissingFiles> PreviewForm::CopyFiles(TextView folder)
+{
+    const auto copied = CopyRequiredFiles(Desk(), folder);
+    if (const Fault* fault = FaultIn(copied)) {
+        m_bench.Dialogs.Say(Words(*fault));
+        return std::nullopt;
+    }
+    return ValueIn(copied);
+}
+
+CopyDesk PreviewForm::Desk() const
+{
+    return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs};
+}
+
+void PreviewForm::GoOnTo(std::int16_t page)
+{
     ++m_step.StepNumber;
-    m_step.PageStep = 9;
+    m_step.PageStep = page;
     ChangePage(m_step);
 }
 
@@ -207,14 +288,13 @@ DeliveryFacts PreviewForm::Facts() const
     return FactsOf(m_payload, !m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty());
 }
 
-void PreviewForm::setWebPageEditor()
+void PreviewForm::OfferEditorHelp()
 {
-    // The page behind this one gives its own topic where the editor has none.
-    const Text editor = m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"");
-    const Text name = editor.empty() || editor == u"Other" ? Text(u"your Web Page editor") : editor;
-    m_editorTopic = 50;
+    const EditorHelp help = setWebPageEditor(m_bench.Settings.Get(u"Misc", u"HTMLEditor", u""),
+                                             m_payload.ScriptedHelp, manualPagesTopic);
+    m_editorTopic = help.Topic;
     for (LinkLabel* label : lblNeedHelp)
-        label->SetWords(Join({u"Need help inserting this effect into ", name, u"?"}));
+        label->SetWords(help.Caption);
 }
 
 } // namespace orvane

@@ -4,9 +4,12 @@
 #include "delivery/delivery_flow.h"
 #include "delivery/payload.h"
 #include "delivery/preview_page.h"
+#include "delivery/publish_panel.h"
+#include "delivery/required_files.h"
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QListWidget;
 class QPlainTextEdit;
@@ -21,6 +24,13 @@ enum class DeliveryEnd
     BackToWizard, ///< the author wants to change the effect
 };
 
+/// The windows that the delivery wizard opens.
+struct PreviewWindows
+{
+    std::function<void()> ShowOptions;
+    MakeFolderWindow MakeFolder;
+};
+
 /// The delivery wizard: leads from a finished payload to an effect in the author's page.
 class PreviewForm : public WizardFrame
 {
@@ -28,9 +38,9 @@ class PreviewForm : public WizardFrame
 
 public:
     /// `pane` is the widget of the bench's preview pane; it is borrowed while this window lives and
-    /// may be null. `showOptions` opens the preferences.
+    /// may be null.
     PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
-                std::function<void()> showOptions, QWidget* parent = nullptr);
+                PreviewWindows windows, QWidget* parent = nullptr);
 
     /// Gives the pane back, removes the preview page and empties the shared payload's code.
     ~PreviewForm() override;
@@ -60,29 +70,38 @@ private:
     };
     void AddCodePanel(const CodePanel& words, TextView code, TextView example);
     void AddCodePanels();
+    void AddPublishPanel();
     void AddFinishPanel();
 
     void ChangePage(DeliveryStep step);
     void ShowPageControls();
     void ShowFinish();
     void KeepEditor();
-    void setWebPageEditor();
+    void OfferEditorHelp();
+    void BeginPreview();
     void Preview(PreviewMode mode);
+    void FinishCopying(const AfterCopying& after);
     void BrowseForPage();
+    void InsertIntoPage();
     void SaveWebPage();
+    /// The missing names; nothing when a fault ended the copying and the author was told.
+    std::optional<MissingFiles> CopyFiles(TextView folder);
+    CopyDesk Desk() const;
+    void GoOnTo(std::int16_t page);
     void CopyCode(QPlainTextEdit* box);
     InsertMode Mode() const;
     DeliveryFacts Facts() const;
 
     FinishedPayload m_payload;
     QWidget* m_pane;
-    std::function<void()> m_showOptions;
+    PreviewWindows m_windows;
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;
     int m_editorTopic = 0;
     bool m_isPreviewed = false;
     bool m_filesListed = false;
 
+    PublishPanel* m_publishPanel;
     QListWidget* lstHTMLEditors;
     std::array<QRadioButton*, insertModes.size()> optInsertMode{};
     QLabel* lblAutoStep1;

@@ -12,6 +12,9 @@ public:
 
     /// Shows the page file and deletes it once the page has been read.
     virtual void Navigate(TextView path) = 0;
+
+    /// Leaves the page: it falls silent, and its windows close.
+    virtual void Clear() = 0;
 };
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #include "core/page_builder.h"
 #include "core/qt_text.h"
+#include "delivery/ftp_panel.h"
 #include "delivery/preview_form.h"
 
 #include <QListWidget>
@@ -69,7 +70,7 @@ void PreviewForm::AddPagePanel()
                              u"below.",
                              QStringLiteral("lblAutoStep2"));
     cmdAutoInsert = page.Button(QStringLiteral("cmdAutoInsert"), u"&Auto-insert");
-    cmdAutoInsert->setEnabled(false);
+    connect(cmdAutoInsert, &QPushButton::clicked, this, &PreviewForm::InsertIntoPage);
     page.Buttons({cmdAutoInsert, cmdSaveWebPage});
     lblBackupFile = page.Note({}, QStringLiteral("lblBackupFile"));
     lblAutoStep3 = page.Note(u"3. Open your Web page in a browser to see the special effect.",
@@ -104,6 +105,22 @@ void PreviewForm::AddCodePanels()
                  Join({u"For example:  <BODY", m_payload.BODYAttribute, u">"}));
 }
 
+void PreviewForm::AddPublishPanel()
+{
+    m_publishPanel = new PublishPanel(Desk(), m_windows.MakeFolder);
+    PageBuilder(AddPanel(PanelName(7))).Fill(m_publishPanel);
+    connect(m_publishPanel, &PublishPanel::ControlsChanged, this,
+            [this](const PublishControls& controls) {
+                cmdPrevious->setVisible(controls.cmdPrevious);
+                cmdNext->setVisible(controls.cmdNext);
+            });
+    connect(m_publishPanel, &PublishPanel::CopyingDone, this,
+            [this] { FinishCopying(DoneCopying()); });
+    connect(m_publishPanel, &PublishPanel::PreviewWanted, this,
+            [this] { FinishCopying(PreviewAfterCopying()); });
+    PageBuilder(AddPanel(PanelName(8))).Fill(new FtpPanel(m_bench.Settings));
+}
+
 void PreviewForm::AddFinishPanel()
 {
     PageBuilder page(AddPanel(PanelName(9)));
@@ -112,6 +129,8 @@ void PreviewForm::AddFinishPanel()
                      u"If you wish to upload your special effect to the Web, you must "
                      u"also upload the following files:",
                      {});
+    for (const Text& name : FilesToUpload(m_payload))
+        lstFilesToUpload->addItem(ToQt(name));
     auto* link = new LinkLabel(QStringLiteral("lblClickHere"), u"click here.");
     connect(link, &LinkLabel::Followed, this,
             [this] { m_bench.Help.ShowTopic(help_topics::transfer); });

@@ -38,8 +38,15 @@ public:
     /// when it cannot be read.
     virtual std::vector<Text> Files(TextView folder) const = 0;
 
+    /// The names of the folders in a folder, links to folders included, sorted ignoring case; the
+    /// fault when it cannot be read.
+    virtual Outcome<std::vector<Text>> SubFolders(TextView folder) const = 0;
+
     /// True when the path is a folder.
     virtual bool FolderExists(TextView path) const = 0;
 };
+
+/// Makes a folder and those above it that are missing.
+[[nodiscard]] Done MakeFolders(FileStore& files, TextView path);
 
 } // namespace orvane

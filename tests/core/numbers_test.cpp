@@ -56,6 +56,17 @@ TEST(NumbersTest, RoundsHalvesToEvenAndTellsOverflowFromNoNumber)
         EXPECT_EQ(*FaultIn(ToInteger16(text)), Fault::TypeMismatch) << ToUtf8(text);
 }
 
+TEST(NumbersTest, StepsWithinItsBoundsAndFromZeroWhereNoNumberIs)
+{
+    EXPECT_EQ(StepNumber(u"2", 1, 0, 50), 3);
+    EXPECT_EQ(StepNumber(u" 2.7px", -1, 0, 50), 1);
+    EXPECT_EQ(StepNumber(u"none", 1, 0, 50), 1);
+    EXPECT_EQ(StepNumber(u"", -1, 0, 50), 0);
+    EXPECT_EQ(StepNumber(u"50", 1, 0, 50), 50);
+    EXPECT_EQ(StepNumber(u"1e999", -1, 0, 50), 50);
+    EXPECT_EQ(StepNumber(u"-8", 1, 0, 50), 0);
+}
+
 TEST(NumbersTest, WritesAtMostFifteenDigitsAndNoTrailingZeros)
 {
     EXPECT_EQ(NumberToText(0.5), u"0.5");

@@ -25,7 +25,7 @@ protected:
     PreviewFormTest()
     {
         m_desk.Core.Payload = m_payload;
-        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, [] {});
+        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, PreviewWindows());
         m_form->show();
         LetRun();
     }

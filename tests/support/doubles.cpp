@@ -210,6 +210,19 @@ std::vector<Text> FakeFileStore::Files(TextView folder) const
     return names;
 }
 
+Outcome<std::vector<Text>> FakeFileStore::SubFolders(TextView folder) const
+{
+    if (const auto fault = NextFault(folder))
+        return *fault;
+    std::vector<Text> names;
+    for (const Text& path : Folders)
+        if (FolderOf(path) == WithSeparator(folder))
+            names.emplace_back(GetFileName(path));
+    std::sort(names.begin(), names.end(),
+              [](const Text& a, const Text& b) { return ToLower(a) < ToLower(b); });
+    return names;
+}
+
 bool FakeFileStore::FolderExists(TextView path) const
 {
     return Folders.contains(Text(path));

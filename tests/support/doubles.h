@@ -94,6 +94,7 @@ public:
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path) override;
     std::vector<Text> Files(TextView folder) const override;
+    Outcome<std::vector<Text>> SubFolders(TextView folder) const override;
     bool FolderExists(TextView path) const override;
 
 private:
@@ -143,7 +144,9 @@ class FakePreviewPane : public PreviewPane
 {
 public:
     std::vector<Text> Navigated;
+    int Clears = 0;
     void Navigate(TextView path) override { Navigated.emplace_back(path); }
+    void Clear() override { ++Clears; }
 };
 
 class FakeHelpViewer : public HelpViewer
@@ -164,8 +167,17 @@ struct FakeDesk
     FakeClipboard Clipboard;
     FakePreviewPane Pane;
     FakeHelpViewer Help;
-    Workbench Bench{Core,      Dialogs, Files, Settings, Shell,
-                    Clipboard, Pane,    Help,  u"1.2.3", std::nullopt};
+    Workbench Bench{.Core = Core,
+                    .Dialogs = Dialogs,
+                    .Files = Files,
+                    .Settings = Settings,
+                    .Shell = Shell,
+                    .Clipboard = Clipboard,
+                    .Pane = Pane,
+                    .Help = Help,
+                    .Version = u"1.2.3",
+                    .StateFolder = u"/state",
+                    .Today = [] { return Text(u"2024-05-31"); }};
 
     FakeDesk();
 };

@@ -18,7 +18,7 @@ std::string Shown(std::string_view bytes)
         else if (byte == '\n')
             shown += "<LF>";
         else if (static_cast<unsigned char>(byte) < 0x20)
-            shown += "<" + std::to_string(byte) + ">";
+            shown.append("<").append(std::to_string(byte)).append(">");
         else
             shown.push_back(byte);
     }

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLineEdit>
+
+class QWidget;
+
+namespace orvane {
+
+/// A text box for a number that takes any text; the arrow keys and the two buttons of UpDown()
+/// step it within its bounds.
+class NumberBox : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    NumberBox(const QString& name, int lowest, int highest, QWidget* parent);
+
+    /// The pair of buttons, to be put beside the box; their names are the box's with "Up" and
+    /// "Down" behind it.
+    QWidget* UpDown() const { return m_upDown; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Step(int step);
+
+    int m_lowest;
+    int m_highest;
+    QWidget* m_upDown;
+};
+
+} // namespace orvane

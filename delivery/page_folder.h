@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/text.h"
+
+#include <filesystem>
+
+namespace orvane {
+
+/// The one folder whose files a previewed page may read.
+class PageFolder
+{
+public:
+    /// No folder: nothing lies in it.
+    PageFolder() = default;
+
+    /// The folder of the page file, with its links resolved.
+    explicit PageFolder(TextView pagePath);
+
+    /// Whether the file exists and, with all links resolved, lies below the folder.
+    bool Holds(TextView path) const;
+
+private:
+    std::filesystem::path m_folder;
+};
+
+} // namespace orvane

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/pick_lists.h"
+#include "delivery/payload.h"
+
+#include <array>
+#include <optional>
+
+namespace orvane {
+
+/// What a clock tells; the numbers are the indexes of the options.
+enum class ClockContent
+{
+    Date = 0,
+    Time = 1,
+    DateAndTime = 2,
+};
+
+/// What the author enters on the Digital Clock window; the defaults are those of a fresh window.
+struct DigitalClock
+{
+    ClockContent optDateTime = ClockContent::Date;
+    Text lstDateTimeFormat; ///< the selected item; empty when none is
+    bool chkDayOfWeek = false;
+    bool chkShowTimeBeforeDate = false; ///< counts for date and time alone
+    bool chkMilitaryTime = false;
+    bool chkShowSeconds = false;
+    bool chkShowAMPM = false;
+    Text cboFont = u"Arial";
+    Text cboFontSize = Text(FontSizes[6]);
+    Text cboFontStyle = u"Normal";
+    Text txtPadding = u"2";
+    Text BGColor;   ///< "#" and six digits; empty when none was picked
+    Text FontColor; ///< the same
+    bool operator==(const DigitalClock&) const = default;
+};
+
+/// A date format as its list item shows it, and its expression in the clock's script.
+struct DateFormat
+{
+    TextView Item;
+    TextView Expression;
+};
+
+/// The date formats in the order of their list.
+inline constexpr std::array<DateFormat, 12> DateFormats = {{
+    {u"November 28, 2001", u"strMonthName + ' ' + intWeekday + ', ' + intYear"},
+    {u"28 November 2001", u"intWeekday + ' ' + strMonthName + ' ' + strYear"},
+    {u"November 2001", u"strMonthName + ' ' + intYear"},
+    {u"November 28", u"strMonthName + ' ' + intWeekday"},
+    {u"11/28/01", u"strMonthNumber + '/' + strDayNumber + '/' + strYearShort"},
+    {u"11-28-01", u"strMonthNumber + '-' + strDayNumber + '-' + strYearShort"},
+    {u"11/28/2001", u"strMonthNumber + '/' + strDayNumber + '/' + strYear"},
+    {u"11-28-2001", u"strMonthNumber + '-' + strDayNumber + '-' + strYear"},
+    {u"28/11/01", u"strDayNumber + '/' + strMonthNumber + '/' + strYearShort"},
+    {u"28-11-01", u"strDayNumber + '-' + strMonthNumber + '-' + strYearShort"},
+    {u"28/11/2001", u"strDayNumber + '/' + strMonthNumber + '/' + strYear"},
+    // Stays as it is: the last format has never had its expression, so its script does not run.
+    {u"28-11-2001", u""},
+}};
+
+/// Where the author is: the page, and the number of pages seen that the heading shows. Page 5 means
+/// that the wizard ends.
+struct ClockPosition
+{
+    std::int16_t CurrentPage = 1;
+    std::int16_t CurrentStep = 1;
+    bool operator==(const ClockPosition&) const = default;
+};
+
+/// The position behind `at`; pages without a choice to make are passed over.
+ClockPosition NextPage(const DigitalClock& clock, ClockPosition at);
+
+/// The position in front of `at`; the step falls by one however many pages are passed over.
+ClockPosition PreviousPage(const DigitalClock& clock, ClockPosition at);
+
+/// The complaint about a missing date format, which keeps pages 3 and 4 from being shown.
+std::optional<Complaint> Check(const DigitalClock& clock);
+
+/// The generated texts of a clock.
+struct DigitalClockCode
+{
+    EffectPayload Payload;
+    Text SavedHEAD; ///< the script alone
+    Text SavedBODY; ///< the elements, with words in place of the time
+};
+
+/// The clock's page text. Expects a clock that passes Check().
+DigitalClockCode Generate(const DigitalClock& clock);
+
+} // namespace orvane

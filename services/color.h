@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/text.h"
+#include "services/dialogs.h"
+
+#include <array>
+#include <cstdint>
+
+namespace orvane {
+
+/// Whether the author cancelled the last colour dialog: 0 for no, -1 for yes. Written by
+/// CColor::SelectColor() alone.
+inline std::int16_t ColorDialogCancelled = 0;
+
+/// A colour in the forms that page text needs; made for one click and dropped again.
+class CColor
+{
+public:
+    CColor();
+
+    Text HexColor;             ///< six upper-case digits, red pair first, no "#"
+    std::int32_t RGBColor = 0; ///< blue in bits 16-23, green in bits 8-15, red in bits 0-7
+    std::int16_t Red = 0;      ///< 0 to 255, as are the other two
+    std::int16_t Blue = 0;
+    std::int16_t Green = 0;
+
+    /// A copy of the table of web colours: sixteen names, then the digits of each.
+    std::array<TextView, 32> WebColors() const { return m_webColors; }
+
+    /// Fills the three channels from six hexadecimal digits, in any case and with any "#" passed
+    /// over: an empty text gives 192 each, a missing or unknown digit counts 0.
+    void ConvertHexToRGB(TextView text);
+
+    /// The six digits of a packed value. Pages are made with its padding: a value of three or five
+    /// hexadecimal digits comes out shifted, so 0xABC gives "AB0000".
+    Text ConvertToRGBHex(std::int32_t value) const;
+
+    /// Asks for a colour and fills `HexColor` and `RGBColor`; after Cancel they are empty and 0,
+    /// and ColorDialogCancelled tells.
+    void SelectColor(Dialogs& dialogs);
+
+private:
+    static std::array<TextView, 32> InitWebColors();
+
+    std::array<TextView, 32> m_webColors;
+};
+
+/// The colour of a text such as "#FF8000", packed as CColor::RGBColor is.
+std::int32_t PackedColor(TextView text);
+
+} // namespace orvane

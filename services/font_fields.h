@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/text.h"
+#include "services/dialogs.h"
+
+#include <array>
+
+namespace orvane {
+
+inline constexpr std::array<TextView, 10> PageFonts = {
+    u"Arial",         u"Courier", u"Courier New", u"Terminal",        u"MS Serif",
+    u"MS Sans Serif", u"Symbol",  u"Modern",      u"Times New Roman", u"Wingdings"};
+
+inline constexpr std::array<TextView, 4> FontStyles = {u"Normal", u"Bold", u"Italic",
+                                                       u"Bold Italic"};
+
+/// The three fields in which an author chooses the font of a page's text.
+struct FontFields
+{
+    Text Font;
+    Text Size;  ///< points, as typed
+    Text Style; ///< one of FontStyles, or any text
+    bool operator==(const FontFields&) const = default;
+};
+
+/// The style declarations of a font style, each led by ";"; empty for "Normal" and for any text
+/// that is no style.
+TextView FontStyleDeclarations(TextView style);
+
+/// The fields after the font dialog, which starts with `start`; unchanged when the author cancels.
+FontFields PickFontFields(Dialogs& dialogs, const FontFields& start);
+
+} // namespace orvane

@@ -1,0 +1,144 @@
+#include "tests/support/qt_browser_page.h"
+
+#include "core/qt_text.h"
+
+#include <QEventLoop>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <optional>
+
+namespace orvane::testing {
+
+bool WaitFor(const std::function<bool()>& condition, int timeoutMs)
+{
+    if (condition())
+        return true;
+    QEventLoop loop;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (condition())
+            loop.exit(1);
+    });
+    look.start(10);
+    QTimer::singleShot(timeoutMs, &loop, [&] { loop.exit(0); });
+    return loop.exec() == 1;
+}
+
+Outcome<std::string> RecordingFiles::Read(TextView path) const
+{
+    Reads.emplace_back(path);
+    std::ifstream file(ToUtf8(path), std::ios::binary);
+    if (!file)
+        return Fault::FileNotFound;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+Done RecordingFiles::Replace(TextView path, std::string_view bytes)
+{
+    Writes.emplace_back(path);
+    std::ofstream(ToUtf8(path), std::ios::binary) << bytes;
+    return {};
+}
+
+Done RecordingFiles::Remove(TextView path)
+{
+    Removals.emplace_back(path);
+    if (std::error_code error; !std::filesystem::remove(ToUtf8(path), error))
+        return Fault::FileNotFound;
+    return {};
+}
+
+BrowserPage::BrowserPage()
+{
+    Pane.resize(640, 480);
+    Pane.show();
+}
+
+BrowserPage::~BrowserPage() = default;
+
+void BrowserPage::FixClock(const std::string& localTime)
+{
+    m_clock = "<script>(function () {"
+              "const RealDate = Date;"
+              "const clock = {now: new RealDate('" +
+              localTime +
+              "').getTime()};"
+              "Object.defineProperty(window, 'pageClock', {value: clock});"
+              "window.Date = class Date extends RealDate {"
+              "constructor(...parts) { parts.length ? super(...parts) : super(clock.now); }"
+              "static now() { return clock.now; }"
+              "};"
+              "})();</script>";
+}
+
+void BrowserPage::AddFile(const std::string& name, std::string_view bytes)
+{
+    std::ofstream(Path(name), std::ios::binary) << bytes;
+}
+
+void BrowserPage::Open(std::string_view page)
+{
+    AddFile("page.html", m_clock + std::string(page));
+    Pane.Navigate(FromUtf8(Path("page.html")));
+}
+
+void BrowserPage::Load(std::string_view page)
+{
+    Open(page);
+    EXPECT_TRUE(WaitFor([this] { return !PageFileExists(); })) << "the page was never loaded";
+}
+
+QVariant BrowserPage::Value(const std::string& expression)
+{
+    const auto value = std::make_shared<std::optional<QVariant>>();
+    if (Pane.View())
+        Pane.View()->Evaluate(QString::fromStdString(expression),
+                              [value](const QVariant& result) { *value = result; });
+    static_cast<void>(WaitFor([&] { return value->has_value(); }, 5000));
+    return value->value_or(QVariant());
+}
+
+void BrowserPage::WaitUntil(const std::string& expression, int timeoutMs)
+{
+    EXPECT_TRUE(WaitFor([&] { return Value(expression).toBool(); }, timeoutMs))
+        << "never true in the page: " << expression;
+}
+
+std::string BrowserPage::Shown(const char* name) const
+{
+    const auto* control = Pane.findChild<QWidget*>(name);
+    if (!control || !control->isVisible())
+        return {};
+    return control->property("text").toString().toStdString();
+}
+
+void BrowserPage::Press(const char* name)
+{
+    auto* button = Pane.findChild<QPushButton*>(name);
+    ASSERT_TRUE(button && button->isVisible()) << name;
+    button->click();
+}
+
+std::vector<QWidget*> BrowserPage::Windows() const
+{
+    const QList<QWidget*> windows = Pane.findChildren<QWidget*>("PageWindow");
+    return {windows.begin(), windows.end()};
+}
+
+std::string BrowserPage::Path(const std::string& name) const
+{
+    return m_folder.filePath(QString::fromStdString(name)).toStdString();
+}
+
+bool BrowserPage::PageFileExists() const
+{
+    return std::filesystem::exists(Path("page.html"));
+}
+
+} // namespace orvane::testing
