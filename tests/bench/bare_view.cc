@@ -10,8 +10,8 @@
 #include <cstdlib>
 
 // What the preview is measured against: a bare web view that shows a page file. Prints milliseconds
-// from the start of the program, given in START_NS, or with "warm" from the call in a view that has
-// shown a page before.
+// from the start of the program, given in START_NS, or with "warm" from the call in a view that is
+// ready but not yet on screen.
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
@@ -24,12 +24,14 @@ int main(int argc, char** argv)
     page.close();
 
     QWebEngineView view;
-    view.show();
+    if (!isWarm)
+        view.show();
     QElapsedTimer watch;
     QObject::connect(&view, &QWebEngineView::loadFinished, &application, [&] {
         if (isWarm && !watch.isValid()) {
             QTimer::singleShot(2000, &view, [&] {
                 watch.start();
+                view.show();
                 view.load(QUrl::fromLocalFile(page.fileName()));
             });
             return;
