@@ -28,6 +28,7 @@ FtpPanel::FtpPanel(Settings& settings) : m_settings(settings)
     for (QLineEdit* box : {m_username, password})
         box->installEventFilter(this);
     connect(cmbServerName, &QComboBox::currentTextChanged, this, &FtpPanel::ShowUsername);
+    connect(cmbServerName, &QComboBox::activated, this, &FtpPanel::ShowUsername);
     GetRecentFTP();
 }
 

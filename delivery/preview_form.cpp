@@ -242,8 +242,14 @@ void PreviewForm::SaveWebPage()
         m_bench.Dialogs.Say(Words(*fault));
         return;
     }
-    if (const auto missing = CopyFiles(FolderOf(*path)))
-        GoOnTo(missing->empty() ? 9 : 8);
+    const Text folder(FolderOf(*path));
+    const auto missing = CopyFiles(folder);
+    if (!missing)
+        return;
+    // The page with the files then opens on the folder of the new page.
+    if (!missing->empty())
+        m_publishPanel->FindMissing(PublishMode::MissingFiles, *missing, folder);
+    GoOnTo(missing->empty() ? 9 : 8);
 }
 
 std::optional<MissingFiles> PreviewForm::CopyFiles(TextView folder)

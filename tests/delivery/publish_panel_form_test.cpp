@@ -1,0 +1,293 @@
+#include "delivery/publish_panel.h"
+
+#include "delivery/preview_form.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+#include "tests/support/qt_mouse.h"
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+using Names = std::vector<Text>;
+
+constexpr TextView notAllCopied =
+    u"Orvane couldn't copy all the necessary files to the specified folder.\r\n"
+    u"Use the file list on the left to find the missing files and click the 'Copy' button to copy "
+    u"them.";
+constexpr TextView noPreview =
+    u"Orvane can't preview the special effect because it could not find the necessary files.\r\n"
+    u"Use the file list below to find the missing files and click the 'Copy' button to copy them "
+    u"to the Orvane folder.";
+constexpr TextView overwritePage =
+    u"ovtemp.html already exists in this folder.  This file contains HTML code that controls a "
+    u"Orvane special effect that you previously created.\r\n\r\n"
+    u"Do you wish to overwrite this with the new ovtemp.html file that controls the current "
+    u"special effect?";
+
+/// The delivery wizard of an animation with two pictures, on a disk where both were found once.
+class PublishPanelTest : public ::testing::Test
+{
+protected:
+    PublishPanelTest()
+    {
+        m_desk.Files.Folders = {u"/", u"/pics", u"/program", u"/site"};
+        m_desk.Files.Contents = {{u"/pics/a.gif", "a"},
+                                 {u"/pics/b.gif", "b"},
+                                 {u"/pics/c.gif", "c"},
+                                 {u"/program/Animate1.class", "class"}};
+        m_desk.Settings.Put(u"Misc", u"HTMLEditor", u"Other", u"Orvane");
+        m_payload.BODYHTML = u"<B>moves</B>";
+        m_payload.Required.Names = {u"a.gif", u"b.gif"};
+        m_payload.Required.Sources = {u"/pics/a.gif", u"/pics/b.gif"};
+        m_payload.SupportFiles = {u"Animate1.class"};
+    }
+
+    void Open()
+    {
+        const PreviewWindows windows{.ShowOptions = {}, .MakeFolder = [this](TextView folder) {
+                                         m_askedFor.emplace_back(folder);
+                                         return m_newFolder;
+                                     }};
+        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, windows);
+        m_form->show();
+        LetRun();
+    }
+
+    void Choose(int insertMode)
+    {
+        Find<QRadioButton>(*m_form, ("optInsertMode(" + std::to_string(insertMode) + ")").c_str())
+            ->click();
+    }
+
+    void OpenPublishPage()
+    {
+        Open();
+        Click(*m_form, "cmdNext");
+        Choose(1);
+        Click(*m_form, "cmdNext");
+        Click(*m_form, "cmdNext");
+        ASSERT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
+    }
+
+    /// The same, with b.gif no longer where it was and the author sent to look for it.
+    void OpenWithoutB()
+    {
+        OpenPublishPage();
+        m_desk.Files.Contents.erase(u"/pics/b.gif");
+        DoubleClickName("dirCopyTo", u"site");
+        Click(*m_form, "cmdCopyFiles");
+        ASSERT_EQ(m_desk.Dialogs.TakeSaid(), Names{Text(notAllCopied)});
+        m_desk.Files.Contents[u"/pics/b.gif"] = "found";
+        DoubleClickName("dirCopyFrom", u"pics");
+    }
+
+    int RowOf(const char* box, TextView name)
+    {
+        const Names rows = RowsOf(*m_form, box);
+        const auto found = std::find(rows.begin(), rows.end(), name);
+        EXPECT_NE(found, rows.end()) << ToUtf8(name) << " is not in " << box;
+        return static_cast<int>(found - rows.begin());
+    }
+
+    void DoubleClickName(const char* box, TextView name)
+    {
+        DoubleClickRow(*m_form, box, RowOf(box, name));
+    }
+
+    void ClickName(const char* box, TextView name) { ClickRow(*m_form, box, RowOf(box, name)); }
+
+    Text Heading() { return WordsOf(*m_form, "lblHeading"); }
+    std::string Bytes(const Text& path) { return m_desk.Files.Contents[path]; }
+
+    bool IsShown(const char* name) { return Find<QWidget>(*m_form, name)->isVisible(); }
+
+    /// Of all controls that come and go, exactly these are shown.
+    void ExpectShown(const std::set<std::string>& shown)
+    {
+        for (const char* name :
+             {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom", "driveCopyTo", "dirCopyTo",
+              "fileCopyTo", "cmdNewFolder", "lstMissingFiles", "cmdCopyFiles", "Label4",
+              "cmdManualCopy", "cmdDoneCopying", "picCopyThenPreview", "cmdManualCopyForPreview",
+              "cmdPreviewAfterCopying", "cmdPrevious", "cmdNext"})
+            EXPECT_EQ(IsShown(name), shown.contains(name)) << name;
+    }
+
+    FakeDesk m_desk;
+    EffectPayload m_payload{.Kind = EffectKind::AdvancedAnimator};
+    Names m_askedFor;
+    std::optional<Text> m_newFolder;
+    std::unique_ptr<PreviewForm> m_form;
+};
+
+TEST_F(PublishPanelTest, PublishesTheBackupPageAndTheFilesToTheChosenFolder)
+{
+    OpenPublishPage();
+    DoubleClickName("dirCopyTo", u"site");
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_EQ(
+        m_desk.Dialogs.TakeSaid(),
+        Names{u"All files have been copied to the /site/ folder.  Now you can easily upload these "
+              u"files to the Internet."});
+    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
+              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
+    EXPECT_NE(Bytes(u"/site/ovtemp.html").find("<B>moves</B>"), std::string::npos);
+    ExpectShown({"driveCopyTo", "dirCopyTo", "fileCopyTo", "cmdNewFolder", "cmdCopyFiles", "Label4",
+                 "cmdPrevious", "cmdNext"});
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"),
+              (Names{u"Animate1.class", u"CoolTool3.class", u"a.gif", u"b.gif"}));
+}
+
+TEST_F(PublishPanelTest, AsksBeforeItReplacesABackupPage)
+{
+    OpenPublishPage();
+    m_desk.Files.Contents[u"/site/ovtemp.html"] = "old";
+    DoubleClickName("dirCopyTo", u"site");
+    m_desk.Dialogs.ExpectAsk(Text(overwritePage), false);
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_EQ(Bytes(u"/site/ovtemp.html"), "old");
+    EXPECT_EQ(Bytes(u"/site/a.gif"), "a");
+}
+
+TEST_F(PublishPanelTest, AFaultOfTheBackupPageIsSaidAndLeavesThePageAsItIs)
+{
+    OpenPublishPage();
+    DoubleClickName("dirCopyTo", u"site");
+    m_desk.Files.FailOn(u"/site/ovtemp.html", Fault::DiskFull);
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_EQ(m_desk.Dialogs.Said, Names{u"Disk full"});
+    EXPECT_TRUE(RowsOf(*m_form, "fileCopyTo").empty());
+    EXPECT_TRUE(IsShown("cmdCopyFiles"));
+}
+
+TEST_F(PublishPanelTest, MissingFilesAreFoundAndCopiedByHand)
+{
+    OpenWithoutB();
+    ExpectShown({"driveCopyFrom", "dirCopyFrom", "fileCopyFrom", "driveCopyTo", "dirCopyTo",
+                 "fileCopyTo", "cmdNewFolder", "lstMissingFiles", "cmdManualCopy",
+                 "cmdDoneCopying"});
+    ExpectAccessible(*m_form);
+    EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Names{u"b.gif"});
+
+    Click(*m_form, "cmdManualCopy");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              Names{u"Select a file from the list and then click the 'Copy' button"});
+
+    ClickName("fileCopyFrom", u"b.gif");
+    Click(*m_form, "cmdManualCopy");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              Names{u"The following files were successfully copied:\r\n\r\nb.gif, "});
+    EXPECT_EQ(Bytes(u"/site/b.gif"), "found");
+    EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
+    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
+              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
+}
+
+TEST_F(PublishPanelTest, CopyingByHandTakesAllSelectedFilesAndAsksBeforeItOverwrites)
+{
+    OpenWithoutB();
+    Find<QListWidget>(*m_form, "fileCopyFrom")->selectAll();
+    m_desk.Files.Contents[u"/pics/a.gif"] = "other";
+    m_desk.Dialogs.ExpectAsk(u"a.gif already exists in this folder.  Do you wish to overwrite?",
+                             false);
+    Click(*m_form, "cmdManualCopy");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              Names{u"The following files were successfully copied:\r\n\r\nb.gif, c.gif, "});
+    EXPECT_EQ(Bytes(u"/site/a.gif"), "a");
+    EXPECT_EQ(Bytes(u"/site/c.gif"), "c");
+}
+
+TEST_F(PublishPanelTest, DoneCopyingShowsTheHeadCodeUnderTheLastHeading)
+{
+    OpenWithoutB();
+    Click(*m_form, "cmdDoneCopying");
+    EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_EQ(WordsOf(*m_form, "lblSubHeading"),
+              u"You have completed your Orvane special effect!  Click the 'Done' button below to "
+              u"return to the Main Menu to create a new special effect.");
+    EXPECT_TRUE(IsShown("txtHEADHTML"));
+    EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Done");
+    EXPECT_TRUE(IsShown("cmdNext"));
+    EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdNext")->isEnabled());
+    Click(*m_form, "cmdPrevious");
+    EXPECT_EQ(Heading(), u"Step 3: Insert BODY HTML code into your Web page");
+    EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Cancel");
+    Click(*m_form, "cmdNext");
+    ExpectShown({"driveCopyTo", "dirCopyTo", "fileCopyTo", "cmdNewFolder", "cmdCopyFiles", "Label4",
+                 "cmdPrevious", "cmdNext"});
+    EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
+}
+
+TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
+{
+    m_payload.Required.Sources[1] = u"";
+    Open();
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Names{Text(noPreview)});
+    EXPECT_EQ(m_desk.Dialogs.LastTone, Tone::Exclamation);
+    EXPECT_EQ(Heading(), u"Missing Required Files for Preview");
+    EXPECT_EQ(
+        WordsOf(*m_form, "lblSubHeading"),
+        u"The following required files could not be found.  Using the file list below, find the "
+        u"necessary files and click the 'Copy>>' button to copy them to the correct location.");
+    ExpectShown({"driveCopyFrom", "dirCopyFrom", "fileCopyFrom", "lstMissingFiles",
+                 "picCopyThenPreview", "cmdManualCopyForPreview", "cmdPreviewAfterCopying"});
+    ExpectAccessible(*m_form);
+    EXPECT_TRUE(m_desk.Pane.Navigated.empty());
+    EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Names{u"b.gif"});
+
+    DoubleClickName("dirCopyFrom", u"pics");
+    ClickName("fileCopyFrom", u"b.gif");
+    Click(*m_form, "cmdManualCopyForPreview");
+    EXPECT_EQ(Bytes(u"/program/b.gif"), "b");
+    EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
+
+    EXPECT_EQ(WordsOf(*m_form, "cmdPreviewAfterCopying"), u"Click to Pre&view");
+    Click(*m_form, "cmdPreviewAfterCopying");
+    EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
+    EXPECT_EQ(m_desk.Pane.Navigated, Names{u"/program/ov-prvw.htm"});
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
+    EXPECT_TRUE(IsShown("cmdPrevious"));
+}
+
+TEST_F(PublishPanelTest, GoesToTheFolderThatTheAuthorMade)
+{
+    OpenPublishPage();
+    DoubleClickName("dirCopyTo", u"site");
+    Click(*m_form, "cmdNewFolder");
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site"}));
+    m_desk.Files.Folders.insert(u"/site/new");
+    m_newFolder = u"/site/new";
+    Click(*m_form, "cmdNewFolder");
+    EXPECT_EQ(m_askedFor, (Names{u"/site", u"/site"}));
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site", u"new"}));
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_EQ(Bytes(u"/site/new/a.gif"), "a");
+}
+
+TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolder)
+{
+    Open();
+    Click(*m_form, "cmdNext");
+    Choose(2);
+    Click(*m_form, "cmdNext");
+    m_desk.Files.Contents.erase(u"/pics/b.gif");
+    m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
+    Click(*m_form, "cmdSaveWebPage");
+    EXPECT_EQ(m_desk.Dialogs.Said, Names{Text(notAllCopied)});
+    EXPECT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site"}));
+    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"), (Names{u"a.gif", u"Animate1.class", u"index.html"}));
+    ExpectShown({"driveCopyTo", "dirCopyTo", "fileCopyTo", "cmdNewFolder", "cmdCopyFiles", "Label4",
+                 "cmdPrevious", "cmdNext"});
+}
+
+} // namespace
+} // namespace orvane
