@@ -1,15 +1,10 @@
 #include "delivery/preview_form.h"
 
 #include "core/qt_text.h"
-#include "delivery/auto_insert.h"
-#include "delivery/editor_help.h"
 #include "delivery/new_page.h"
-#include "services/file_names.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -20,9 +15,6 @@
 namespace orvane {
 
 namespace {
-
-/// The own topic of the three pages that show code to copy.
-constexpr int manualPagesTopic = 50;
 
 /// Shows the wait pointer for as long as it lives.
 class WaitCursor
@@ -199,88 +191,6 @@ void PreviewForm::FinishCopying(const AfterCopying& after)
         Preview(PreviewMode::Inline);
 }
 
-void PreviewForm::BrowseForPage()
-{
-    const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest());
-    if (!path)
-        return;
-    txtFileName->setText(ToQt(*path));
-    lblBackupFile->setText(ToQt(Join({u"A backup copy of your Web page will be created and stored "
-                                      u"as \"Backup of ",
-                                      GetFileName(*path), u"\""})));
-}
-
-void PreviewForm::InsertIntoPage()
-{
-    const Text name = FromQt(txtFileName->text());
-    if (const auto complaint = CheckPageName(name))
-        return Report(*complaint);
-    const Text page = PagePath(name, FromQt(QDir::currentPath()));
-    const KeptPages kept{PathIn(m_bench.StateFolder, u"first-backups"), m_bench.Today()};
-    switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_payload, kept)) {
-    case AutoInsertion::NothingDone:
-        return;
-    case AutoInsertion::Manual:
-        optInsertMode[1]->setChecked(true);
-        m_step.PageStep = 3;
-        Next();
-        return;
-    case AutoInsertion::Inserted:
-        // What is missing was told; the last page comes all the same.
-        if (CopyFiles(FolderOf(page)))
-            GoOnTo(9);
-    }
-}
-
-void PreviewForm::SaveWebPage()
-{
-    const auto path = m_bench.Dialogs.SaveFile(NewPageRequest());
-    if (!path)
-        return;
-    const Done saved = SaveHTMLtoFile(*path);
-    if (const Fault* fault = FaultIn(saved)) {
-        m_bench.Dialogs.Say(Words(*fault));
-        return;
-    }
-    const Text folder(FolderOf(*path));
-    const auto missing = CopyFiles(folder);
-    if (!missing)
-        return;
-    // The page with the files then opens on the folder of the new page.
-    if (!missing->empty())
-        m_publishPanel->FindMissing(PublishMode::MissingFiles, *missing, folder);
-    GoOnTo(missing->empty() ? 9 : 8);
-}
-
-std::optional<MissingFiles> PreviewForm::CopyFiles(TextView folder)
-{
-    const auto copied = CopyRequiredFiles(Desk(), folder);
-    if (const Fault* fault = FaultIn(copied)) {
-        m_bench.Dialogs.Say(Words(*fault));
-        return std::nullopt;
-    }
-    return ValueIn(copied);
-}
-
-CopyDesk PreviewForm::Desk() const
-{
-    return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs};
-}
-
-void PreviewForm::GoOnTo(std::int16_t page)
-{
-    ++m_step.StepNumber;
-    m_step.PageStep = page;
-    ChangePage(m_step);
-}
-
-void PreviewForm::CopyCode(QPlainTextEdit* box)
-{
-    box->selectAll();
-    m_bench.Clipboard.Put(FromQtLines(box->toPlainText()));
-    box->setFocus();
-}
-
 InsertMode PreviewForm::Mode() const
 {
     for (std::size_t i = 0; i < optInsertMode.size(); ++i)
@@ -292,15 +202,6 @@ InsertMode PreviewForm::Mode() const
 DeliveryFacts PreviewForm::Facts() const
 {
     return FactsOf(m_payload, !m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty());
-}
-
-void PreviewForm::OfferEditorHelp()
-{
-    const EditorHelp help = setWebPageEditor(m_bench.Settings.Get(u"Misc", u"HTMLEditor", u""),
-                                             m_payload.ScriptedHelp, manualPagesTopic);
-    m_editorTopic = help.Topic;
-    for (LinkLabel* label : lblNeedHelp)
-        label->SetWords(help.Caption);
 }
 
 } // namespace orvane
