@@ -2,7 +2,7 @@
 
 run_packages=(
     g++ cmake ninja-build ccache
-    qt6-base-dev qt6-webengine-dev libqt6svg6 libqt6webenginecore6-bin
+    qt6-base-dev qt6-webengine-dev qt6-wayland libqt6svg6 libqt6webenginecore6-bin
     libgl-dev libgtest-dev libbenchmark-dev xdg-utils fonts-dejavu-core
 )
 test_packages=(clang-format)

@@ -238,7 +238,7 @@ QPushButton* PageBuilder::Button(const QString& name, TextView caption)
 {
     auto* button = new QPushButton(ToQt(caption), m_page);
     button->setObjectName(name);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true);
     return button;
 }
 

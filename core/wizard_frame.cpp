@@ -62,7 +62,7 @@ QPushButton* WizardFrame::MakeButton(const QString& name, TextView caption, QHBo
 {
     auto* button = new QPushButton(ToQt(caption), this);
     button->setObjectName(name);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true);
     line->addWidget(button);
     return button;
 }

@@ -63,7 +63,6 @@ PreviewForm::~PreviewForm()
         m_pane->hide();
         m_pane->setParent(nullptr);
     }
-    m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
     m_bench.Core.Payload.HEADHTML.clear();

@@ -112,7 +112,7 @@ QPushButton* PublishPanel::MakeButton(const char* name, const char* caption,
 {
     auto* button = new QPushButton(QLatin1String(caption));
     button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
+    button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, action);
     return button;
 }

@@ -26,7 +26,7 @@ QPushButton* MakeButton(const QString& name, TextView caption)
 {
     auto* button = new QPushButton(ToQt(caption));
     button->setObjectName(name);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true);
     return button;
 }
 

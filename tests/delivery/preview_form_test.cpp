@@ -135,6 +135,18 @@ TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
     EXPECT_EQ(m_form->End(), DeliveryEnd::Finished);
 }
 
+TEST_F(PreviewFormTest, EnterPressesTheButtonThatHasTheFocus)
+{
+    ToMethodPage();
+    Choose(2);
+    Click(*m_form, "cmdNext");
+    m_form->activateWindow();
+    m_desk.Dialogs.AnswerSaveFile(std::nullopt);
+    Press(*Find<QPushButton>(*m_form, "cmdSaveWebPage"), Qt::Key_Return);
+    EXPECT_EQ(m_desk.Dialogs.Requests.size(), 1u);
+    EXPECT_EQ(Heading(), u"Step 3: Create a new Web page");
+}
+
 TEST_F(PreviewFormTest, FailedSaveSaysWhyAndStaysOnThePage)
 {
     ToMethodPage();

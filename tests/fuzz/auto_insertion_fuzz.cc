@@ -19,8 +19,9 @@ std::string NameFrom(std::string_view bytes)
     return name.empty() ? "go" : name;
 }
 
-/// Runs one insertion alone and compares it with what the oracle makes of the original bytes.
-void CheckOne(const std::string& page, const InsertionWork& work, const FinishedPayload& payload)
+/// Runs one insertion alone and compares it with what the oracle makes of the original bytes; gives
+/// whether the author was asked.
+bool CheckOne(const std::string& page, const InsertionWork& work, const FinishedPayload& payload)
 {
     const ExpectedInsertion expected = ExpectInsertion(page, work);
     int asked = 0;
@@ -44,6 +45,7 @@ void CheckOne(const std::string& page, const InsertionWork& work, const Finished
         Require(edit == PageEdit(Fault::InvalidProcedureCall), "a length is negative");
         break;
     }
+    return expected.Asked;
 }
 
 /// The page with the payload in it, one slot after the other; every question is answered so.
@@ -96,15 +98,22 @@ void Check(FuzzInput input)
                                 .EndMarker = FromBytes(work.End),
                                 .ReplaceInBody = searchesBody};
     FinishedPayload whole = empty;
+    bool isHeadAsked = false;
     for (const Place place : {Place::Head, Place::Body, Place::OnLoad, Place::OnUnload}) {
         work.Where = place;
         work.Searches = searchesBody || place == Place::Head;
         FinishedPayload payload = empty;
         Add(payload.Effect, work);
         Add(whole.Effect, work);
-        CheckOne(page, work, payload);
+        const bool isAsked = CheckOne(page, work, payload);
+        isHeadAsked = isHeadAsked || (place == Place::Head && isAsked);
     }
-    const PageEdit edit = EditPage(page, whole, [&] { return work.Yes; });
+    int asked = 0;
+    const PageEdit edit = EditPage(page, whole, [&] {
+        ++asked;
+        return work.Yes;
+    });
+    Require(!isHeadAsked || asked == 1, "the answer for the head stands for all");
     Require(edit == InTurns(page, whole, work.Yes), "all pieces go in as each alone does");
 }
 

@@ -1,10 +1,18 @@
 #include "services/qt_folder_boxes.h"
 
+#include "core/qt_text.h"
+#include "services/disk.h"
+#include "services/disk_file_store.h"
 #include "tests/support/doubles.h"
+#include "tests/support/picture_files.h"
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
 
-#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 namespace orvane {
 namespace {
@@ -65,6 +73,34 @@ TEST_F(FolderBoxesTest, WorksWithoutAFileBox)
     EXPECT_EQ(boxes.FileBox(), nullptr);
     EXPECT_EQ(boxes.FileName(), u"");
     EXPECT_EQ(RowsOf(boxes, "dirNew"), (std::vector<Text>{u"/", u"site", u"pages"}));
+}
+
+TEST(FolderBoxesOnDiskTest, FollowsLinksAndListsNeitherPipesNorHiddenFiles)
+{
+    const QTemporaryDir folder;
+    QDir root(folder.path());
+    root.mkpath(QStringLiteral("real"));
+    root.mkpath(QStringLiteral(".hidden"));
+    QFile::link(root.filePath(QStringLiteral("real")), root.filePath(QStringLiteral("link")));
+    for (const char* name : {"real/x.gif", "b.GIF", "a.JPG", ".c.gif", "d.txt"})
+        WriteFile((folder.path() + u'/').toStdString() + name, "");
+    ASSERT_EQ(mkfifo(root.filePath(QStringLiteral("pipe.gif")).toUtf8().constData(), 0600), 0);
+
+    PosixDisk disk;
+    const DiskFileStore store(disk, FromQt(root.filePath(QStringLiteral("state"))));
+    FolderBoxes boxes(store,
+                      {QStringLiteral("Drive1"), QStringLiteral("Dir1"), QStringLiteral("File1")},
+                      u"*.jpg;*.gif");
+    ASSERT_TRUE(boxes.GoTo(FromQt(folder.path())));
+    EXPECT_EQ(RowsOf(boxes, "File1"), (std::vector<Text>{u"a.JPG", u"b.GIF"}));
+    const int current = SelectedRowOf(boxes, "Dir1");
+    const std::vector<Text> rows = RowsOf(boxes, "Dir1");
+    EXPECT_EQ(std::vector<Text>(rows.begin() + current + 1, rows.end()),
+              (std::vector<Text>{u"link", u"real"}));
+    DoubleClickRow(boxes, "Dir1", current + 1);
+    EXPECT_EQ(RowsOf(boxes, "File1"), std::vector<Text>{u"x.gif"});
+    EXPECT_FALSE(boxes.GoTo(FromQt(root.filePath(QStringLiteral("gone")))));
+    EXPECT_FALSE(boxes.GoTo(FromQt(root.filePath(QStringLiteral("b.GIF")))));
 }
 
 } // namespace
