@@ -3,6 +3,7 @@
 #include "core/qt_text.h"
 #include "services/qt_folder_boxes.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -19,6 +20,16 @@ QVBoxLayout* MakeColumn(QWidget* side)
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins({});
     return column;
+}
+
+/// Puts the boxes below words that tell them, seen or heard, from those of the other side.
+void AddBoxes(QVBoxLayout* column, TextView words, FolderBoxes* boxes)
+{
+    column->addWidget(new QLabel(ToQt(words)));
+    for (QWidget* box :
+         std::initializer_list<QWidget*>{boxes->DriveBox(), boxes->FolderBox(), boxes->FileBox()})
+        box->setAccessibleName(ToQt(words) + u' ' + box->accessibleName());
+    column->addWidget(boxes, 1);
 }
 
 } // namespace
@@ -63,7 +74,9 @@ QWidget* PublishPanel::MakeFromSide()
                               QStringLiteral("fileCopyFrom")},
                              u"*.*");
     m_from->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    return m_from;
+    auto* side = new QWidget;
+    AddBoxes(MakeColumn(side), u"Copy from:", m_from);
+    return side;
 }
 
 QWidget* PublishPanel::MakeToSide()
@@ -75,7 +88,7 @@ QWidget* PublishPanel::MakeToSide()
         u"*.*");
     cmdNewFolder = MakeButton("cmdNewFolder", "Ne&w Folder...", &PublishPanel::MakeFolder);
     QVBoxLayout* column = MakeColumn(side);
-    column->addWidget(m_to, 1);
+    AddBoxes(column, u"Copy to:", m_to);
     column->addWidget(cmdNewFolder, 0, Qt::AlignLeft);
     return side;
 }
@@ -126,7 +139,7 @@ void PublishPanel::FindMissing(PublishMode mode, const MissingFiles& missing, Te
 void PublishPanel::Show(PublishMode mode)
 {
     const PublishControls controls = ControlsOf(mode);
-    m_from->setVisible(controls.FromBoxes);
+    m_from->parentWidget()->setVisible(controls.FromBoxes);
     m_to->parentWidget()->setVisible(controls.ToBoxes);
     m_missingSide->setVisible(controls.lstMissingFiles);
     cmdCopyFiles->setVisible(controls.cmdCopyFiles);

@@ -174,6 +174,8 @@ TEST_F(PublishPanelTest, MissingFilesAreFoundAndCopiedByHand)
                  "fileCopyTo", "cmdNewFolder", "lstMissingFiles", "cmdManualCopy",
                  "cmdDoneCopying"});
     ExpectAccessible(*m_form);
+    EXPECT_NE(Find<QWidget>(*m_form, "dirCopyFrom")->accessibleName(),
+              Find<QWidget>(*m_form, "dirCopyTo")->accessibleName());
     EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Names{u"b.gif"});
 
     Click(*m_form, "cmdManualCopy");
