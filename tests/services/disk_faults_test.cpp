@@ -131,13 +131,6 @@ const Way ways[] = {
      .IsCopy = true},
 };
 
-/// A file system in memory, if there is one: what a disk would do late is played by the double.
-std::filesystem::path FastDisk()
-{
-    const std::filesystem::path memory = "/dev/shm";
-    return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
-}
-
 /// Files prepared for one way, seen through fresh eyes after the trouble.
 class Scene
 {

@@ -25,6 +25,12 @@ void Require(bool done, const char* what)
 
 } // namespace
 
+fs::path FastDisk()
+{
+    const fs::path memory = "/dev/shm";
+    return fs::is_directory(memory) ? memory : fs::temp_directory_path();
+}
+
 TestFolder::TestFolder(const fs::path& parent)
 {
     std::string name = (parent / "orvane-test-XXXXXX").string();

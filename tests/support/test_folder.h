@@ -11,6 +11,10 @@
 
 namespace orvane::testing {
 
+/// A file system in memory, if there is one, else the folder for temporary files: for tests that
+/// play by a double what a disk would do late.
+std::filesystem::path FastDisk();
+
 /// A folder on the real disk that is gone with the object. Names are relative to it.
 class TestFolder
 {

@@ -1,0 +1,158 @@
+#include "delivery/auto_insert.h"
+#include "effects/text/status_bar_ticker.h"
+#include "services/disk_file_store.h"
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+// The ticker's way into a page of 30 kB, backup and syncing included, beside the bare system calls
+// that bring the same bytes to the disk as safely.
+namespace orvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+const FinishedPayload ticker = Finish(Generate({u"Welcome to my page!"}));
+
+std::string MakePage()
+{
+    std::string page = "<html>\r\n<head>\r\n<title>My page</title>\r\n</head>\r\n<body>\r\n";
+    while (page.size() < 30000)
+        page += "<p>One more line of the text that makes a page of its usual size.</p>\r\n";
+    return page + "</body>\r\n</html>\r\n";
+}
+
+const std::string page = MakePage();
+
+/// Nobody is asked and nothing fails while a page is written for the first time.
+class NoDialogs : public Dialogs
+{
+public:
+    void Say(TextView words, Tone) override { throw std::runtime_error(ToUtf8(words)); }
+    bool Ask(TextView words, TextView) override { throw std::runtime_error(ToUtf8(words)); }
+    std::optional<bool> AskOrCancel(TextView, TextView) override { return std::nullopt; }
+    std::optional<Text> OpenFile(const FileRequest&) override { return std::nullopt; }
+    std::optional<Text> SaveFile(const FileRequest&) override { return std::nullopt; }
+    std::optional<Text> PickFolder(TextView, TextView) override { return std::nullopt; }
+    std::optional<std::int32_t> PickColor() override { return std::nullopt; }
+    FontChoice PickFont(const FontChoice& start) override { return start; }
+    PageBoxReply Answer(const PageBox&) override { return {}; }
+};
+
+void Require(bool done)
+{
+    if (!done)
+        throw std::runtime_error("a call of the disk failed");
+}
+
+/// Reads a whole file with bare calls.
+std::string ReadBare(const std::string& path)
+{
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    FileStatus status{};
+    Require(file >= 0 && ::fstat(file, &status) == 0);
+    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+    Require(::read(file, bytes.data(), bytes.size()) == status.st_size);
+    Require(::close(file) == 0);
+    return bytes;
+}
+
+/// Writes a file beside `path`, synced, renames it and syncs the folder, with bare calls.
+void PutBare(const std::string& folder, const std::string& path, const std::string& bytes)
+{
+    const std::string temporary = folder + "/new";
+    const int directory = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int file = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    Require(directory >= 0 && file >= 0);
+    Require(::write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
+    Require(::fsync(file) == 0 && ::close(file) == 0);
+    Require(::rename(temporary.c_str(), path.c_str()) == 0);
+    Require(::fsync(directory) == 0 && ::close(directory) == 0);
+}
+
+/// The author's folder on the real disk, with a page that was backed up on this day before.
+class Site
+{
+public:
+    Site()
+    {
+        fs::create_directory(m_folder / "state");
+        Restore();
+        Insert();
+        Inserted = ReadBare(Page());
+        Restore();
+    }
+    ~Site() { fs::remove_all(m_folder); }
+    Site(const Site&) = delete;
+    Site& operator=(const Site&) = delete;
+
+    std::string Page() const { return (m_folder / "page.html").string(); }
+    std::string Inserted; ///< what the page holds at the end
+
+    void Insert()
+    {
+        if (AutoInsert(m_files, m_dialogs, FromUtf8(Page()), ticker, m_kept) !=
+            AutoInsertion::Inserted)
+            throw std::runtime_error("the ticker did not get into the page");
+    }
+
+    void InsertBare() const
+    {
+        const std::string backup = (m_folder / "Backup of page.html").string();
+        const std::string bytes = ReadBare(Page());
+        PutBare(m_folder, backup, bytes);
+        benchmark::DoNotOptimize(ReadBare(ToUtf8(KeptPagePath(m_kept, FromUtf8(Page())))));
+        PutBare(m_folder, Page(), Inserted);
+    }
+
+    /// The page as it was, on the disk.
+    void Restore() const { PutBare(m_folder, Page(), page); }
+
+private:
+    static fs::path MakeFolder()
+    {
+        std::string name = (fs::temp_directory_path() / "orvane-bench-XXXXXX").string();
+        Require(::mkdtemp(name.data()) != nullptr);
+        return name;
+    }
+
+    const fs::path m_folder = MakeFolder();
+    PosixDisk m_disk;
+    NoDialogs m_dialogs;
+    DiskFileStore m_files{m_disk, FromUtf8((m_folder / "state").string())};
+    KeptPages m_kept{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
+};
+
+void Measure(benchmark::State& state, void (*insert)(Site&))
+{
+    Site site;
+    for (auto _ : state) {
+        insert(site);
+        state.PauseTiming();
+        if (ReadBare(site.Page()) != site.Inserted)
+            state.SkipWithError("the page does not hold the ticker");
+        site.Restore();
+        state.ResumeTiming();
+    }
+}
+
+void InsertTicker(benchmark::State& state)
+{
+    Measure(state, [](Site& site) { site.Insert(); });
+}
+BENCHMARK(InsertTicker)->UseRealTime()->Unit(benchmark::kMicrosecond)->MinTime(1);
+
+void WriteBareFiles(benchmark::State& state)
+{
+    Measure(state, [](Site& site) { site.InsertBare(); });
+}
+BENCHMARK(WriteBareFiles)->UseRealTime()->Unit(benchmark::kMicrosecond)->MinTime(1);
+
+} // namespace
+} // namespace orvane
