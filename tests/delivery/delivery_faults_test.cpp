@@ -154,6 +154,11 @@ struct Way
     std::function<Contents(const FinishedPayload&)> Written;
 };
 
+void PrintTo(const Way& way, std::ostream* out)
+{
+    *out << way.Name;
+}
+
 const Contents copies = {
     {"page/a.gif", picture}, {"page/b.gif", secondPicture}, {"page/Applet.class", appletClass}};
 
@@ -349,7 +354,7 @@ bool AreSame(const Entry* one, const Entry* other)
     return one && other ? *one == *other : one == other;
 }
 
-/// Whether these words, written by hand here, tell of something that did not work.
+/// Whether these words tell of something that did not work.
 bool TellsOfTrouble(TextView words)
 {
     constexpr TextView parts[] = {
