@@ -125,7 +125,10 @@ bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, 
     const Text destination = PathIn(toFolder, name);
     if (source == destination)
         return true;
-    if (IsListed(desk.Files.Files(toFolder), name) && !MayOverwrite(desk.Dialogs, name))
+    // A folder that cannot be listed may hold the name all the same.
+    const bool isThere =
+        IsListed(desk.Files.Files(toFolder), name) || desk.Files.FileExists(destination);
+    if (isThere && !MayOverwrite(desk.Dialogs, name))
         return false;
     const Done done = desk.Files.Copy(source, destination);
     if (const Fault* fault = FaultIn(done)) {
