@@ -7,12 +7,11 @@
 
 namespace orvane {
 
-/// What decides whether the browser engine can start: without the sandbox around its pages it ends
-/// the whole program, unless it was told to do without one.
+/// What decides whether the browser engine can start: for root it has no sandbox for its pages, and
+/// it ends the whole program unless it was told to do without one.
 struct SandboxFacts
 {
     bool RunsAsRoot = false;
-    bool CanIsolate = true;   ///< the system lets this user make namespaces
     bool SwitchedOff = false; ///< QTWEBENGINE_DISABLE_SANDBOX is set, to whatever value
     std::string_view Flags;   ///< QTWEBENGINE_CHROMIUM_FLAGS
 };

@@ -1,6 +1,7 @@
 #include "delivery/qt_preview_pane.h"
 
 #include "core/qt_text.h"
+#include "services/file_names.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -205,9 +206,11 @@ void QtPreviewPane::OpenInBrowser()
 /// Puts the page file back in its place after it was deleted.
 Done QtPreviewPane::RestorePage()
 {
-    if (!std::exchange(m_fileGone, false))
+    if (!m_fileGone)
         return {};
-    return m_files.Replace(m_path, m_page);
+    const Done done = m_files.Replace(m_path, m_page);
+    m_fileGone = FaultIn(done) != nullptr;
+    return done;
 }
 
 PageBoxReply QtPreviewPane::AnswerBox(const PageBox& box)
@@ -242,7 +245,10 @@ void QtPreviewPane::OutsideWanted(TextView target, bool byAuthor)
         return;
     m_ledOutside = true;
     m_askingOutside = true;
-    if (m_dialogs.Ask(LeadOutsideQuestion(target)))
+    const bool isFile = target.starts_with(pathSeparator);
+    if (isFile && !m_files.FileExists(target))
+        m_dialogs.Say(Join({u"The page leads to a file that is not there:\r\n\r\n", target}));
+    else if (m_dialogs.Ask(LeadOutsideQuestion(target)))
         m_shell.OpenWithShell(target);
     m_askingOutside = false;
 }

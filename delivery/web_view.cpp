@@ -27,7 +27,8 @@ constexpr qint64 patienceMs = 8000;
 
 /// The preview's own script, first in every document. It gives window.status back its voice, which
 /// the engine keeps and shows nowhere; the property stays configurable, since pages declare
-/// functions of that name. It reports "begin" for a new page and "=" and the words for a status.
+/// functions of that name. It takes away what calls servers behind the request interceptor's back.
+/// It reports "begin" for a new page and "=" and the words for a status.
 QString PreviewScript(const QString& token)
 {
     return QStringLiteral(R"js((function () {
@@ -39,6 +40,8 @@ QString PreviewScript(const QString& token)
     };
     Object.defineProperty(window, "status",
                           {configurable: true, enumerable: true, get: () => shown, set: write});
+    for (const caller of ["RTCPeerConnection", "webkitRTCPeerConnection", "WebTransport"])
+        delete window[caller];
     if (window === window.top)
         report("%1begin");
 })();)js")

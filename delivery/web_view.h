@@ -36,8 +36,8 @@ public:
     /// The page wrote this into its status line; empty when a page begins.
     virtual void StatusWritten(TextView status) = 0;
 
-    /// The page leads to an address or file outside; `byAuthor` when the author has clicked or
-    /// typed in it since the last time.
+    /// The page leads to an address, or the path of a file, outside; `byAuthor` when the author has
+    /// clicked or typed in it since the last time.
     virtual void OutsideWanted(TextView target, bool byAuthor) = 0;
 
     /// The page no longer runs, and the view is empty.

@@ -80,16 +80,21 @@ void PreviewWebPage::RefusePrivileges()
             [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
 }
 
-bool PreviewWebPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame)
+/// Whether the page may go there. The page file is put back first, since a file that is not there
+/// counts as outside.
+bool PreviewWebPage::MayGoTo(const QUrl& url)
 {
-    if (url.scheme() != QLatin1String("javascript") && !m_room.Guard.LetsThrough(url)) {
-        if (isMainFrame)
-            OfferOutside(url);
-        return false;
-    }
     if (m_room.Page.matches(url, QUrl::RemoveFragment | QUrl::RemoveQuery))
         m_room.Owner.PageNeeded();
-    return true;
+    return url.scheme() == QLatin1String("javascript") || m_room.Guard.LetsThrough(url);
+}
+
+bool PreviewWebPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame)
+{
+    const bool mayGo = MayGoTo(url);
+    if (!mayGo && isMainFrame)
+        OfferOutside(url);
+    return mayGo;
 }
 
 void PreviewWebPage::OfferOutside(const QUrl& url)
@@ -148,7 +153,7 @@ QStringList PreviewWebPage::chooseFiles(FileSelectionMode, const QStringList&, c
 void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
 {
     const QUrl url = request.requestedUrl();
-    if (!url.isEmpty() && !m_room.Guard.LetsThrough(url))
+    if (!url.isEmpty() && !MayGoTo(url))
         return OfferOutside(url);
     std::erase_if(m_room.Windows, [](const auto& window) { return window.isNull(); });
     if (m_room.Windows.size() >= mostWindows)
@@ -181,9 +186,15 @@ PageView::PageView(PageRoom& room, QWidget* parent) : QWebEngineView(parent), m_
 
 bool PageView::event(QEvent* event)
 {
-    // Clicks and keys go to a child that the engine puts in place for each page.
-    if (event->type() == QEvent::ChildAdded)
-        static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
+    if (event->type() == QEvent::ChildPolished) {
+        // Clicks and keys go to a child that the engine puts in; page windows are children too.
+        auto* child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child());
+        if (child != nullptr && !child->isWindow()) {
+            child->setObjectName("PageSurface");
+            child->setAccessibleName("Preview of the page");
+            child->installEventFilter(this);
+        }
+    }
     return QWebEngineView::event(event);
 }
 

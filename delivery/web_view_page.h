@@ -70,6 +70,7 @@ protected:
 private:
     void RefusePrivileges();
     void OpenWindow(QWebEngineNewWindowRequest& request);
+    bool MayGoTo(const QUrl& url);
     void OfferOutside(const QUrl& url);
     PageBoxReply Answer(PageBox::Kind shape, const QString& words, const QString& proposed = {});
 

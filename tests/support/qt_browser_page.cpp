@@ -30,6 +30,11 @@ bool WaitFor(const std::function<bool()>& condition, int timeoutMs)
     return loop.exec() == 1;
 }
 
+bool RecordingFiles::FileExists(TextView path) const
+{
+    return std::filesystem::is_regular_file(ToUtf8(path));
+}
+
 Outcome<std::string> RecordingFiles::Read(TextView path) const
 {
     Reads.emplace_back(path);

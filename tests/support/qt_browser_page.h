@@ -19,6 +19,7 @@ namespace orvane::testing {
 class RecordingFiles : public FakeFileStore
 {
 public:
+    bool FileExists(TextView path) const override;
     Outcome<std::string> Read(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
     Done Remove(TextView path) override;
