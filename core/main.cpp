@@ -37,7 +37,6 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setDesktopFileName(QStringLiteral("orvane"));
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
 
     using namespace orvane;
     const UserFolders folders = FindUserFolders(EnvironmentVariable);
@@ -68,7 +67,10 @@ int main(int argc, char** argv)
     QObject::connect(&desk, &FormDesk::WizardOpened, &pane,
                      [&pane] { QTimer::singleShot(warmDelayMs, &pane, &QtPreviewPane::Warm); });
     desk.Start();
-    // Behind the first paint of the window.
-    QTimer::singleShot(0, &desk, [&] { InstallResources(files, dialogs, folders.Program); });
+    // Behind the first paint of the window: the icon alone loads a library.
+    QTimer::singleShot(0, &desk, [&] {
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
+        InstallResources(files, dialogs, folders.Program);
+    });
     return QApplication::exec();
 }

@@ -29,18 +29,6 @@ constexpr bool IsPairWithEvenUpper(char16_t c)
     return (c >= 0x100 && c <= 0x137 && c != 0x130 && c != 0x131) || (c >= 0x14A && c <= 0x177);
 }
 
-template <class Same>
-std::size_t Search(TextView text, TextView sought, std::size_t from, Same same)
-{
-    if (from == 0 || from > text.size() + 1)
-        return 0;
-    const auto start = text.begin() + static_cast<std::ptrdiff_t>(from - 1);
-    const auto hit = std::search(start, text.end(), sought.begin(), sought.end(), same);
-    if (hit == text.end() && !sought.empty())
-        return 0;
-    return static_cast<std::size_t>(hit - text.begin()) + 1;
-}
-
 bool SameIgnoringCase(char16_t left, char16_t right)
 {
     return ToLower(left) == ToLower(right);
@@ -106,7 +94,22 @@ std::size_t Find(TextView text, TextView sought, std::size_t from)
 
 std::size_t FindIgnoringCase(TextView text, TextView sought, std::size_t from)
 {
-    return Search(text, sought, from, SameIgnoringCase);
+    if (from == 0 || from > text.size() + 1)
+        return 0;
+    if (sought.empty())
+        return from;
+    if (sought.size() > text.size())
+        return 0;
+    // Pages are searched again and again: most places are out by their first character.
+    const char16_t first = ToLower(sought.front());
+    const char16_t upper = ToUpper(first);
+    const std::size_t last = text.size() - sought.size();
+    for (std::size_t i = from - 1; i <= last; ++i)
+        if ((text[i] == first || text[i] == upper ||
+             (text[i] >= 0x80 && ToLower(text[i]) == first)) &&
+            EqualIgnoringCase(text.substr(i, sought.size()), sought))
+            return i + 1;
+    return 0;
 }
 
 std::size_t FindLast(TextView text, TextView sought)
