@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/dialogs.h"
+#include "core/payload.h"
 #include "core/settings.h"
 #include "core/text.h"
-#include "delivery/payload.h"
-#include "services/dialogs.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/clipboard.h"
+#include "core/dialogs.h"
+#include "core/file_store.h"
 #include "core/help_viewer.h"
 #include "core/orvane_core.h"
+#include "core/preview_pane.h"
 #include "core/settings.h"
-#include "delivery/preview_pane.h"
-#include "services/clipboard.h"
-#include "services/dialogs.h"
-#include "services/file_store.h"
-#include "services/shell.h"
+#include "core/shell.h"
 
 #include <functional>
 #include <optional>

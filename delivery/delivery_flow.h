@@ -1,6 +1,6 @@
 #pragma once
 
-#include "delivery/payload.h"
+#include "core/payload.h"
 
 #include <array>
 #include <cstdint>

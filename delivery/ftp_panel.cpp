@@ -1,8 +1,8 @@
 #include "delivery/ftp_panel.h"
 
-#include "core/page_builder.h"
-#include "core/qt_text.h"
 #include "delivery/recent_servers.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
 
 #include <QComboBox>
 #include <QEvent>

@@ -1,9 +1,9 @@
-#include "core/qt_text.h"
-#include "delivery/auto_insert.h"
+#include "core/file_names.h"
 #include "delivery/editor_help.h"
-#include "delivery/new_page.h"
 #include "delivery/preview_form.h"
-#include "services/file_names.h"
+#include "insertion/auto_insert.h"
+#include "insertion/new_page.h"
+#include "windows/qt_text.h"
 
 #include <QDir>
 #include <QPlainTextEdit>

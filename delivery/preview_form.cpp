@@ -1,7 +1,7 @@
 #include "delivery/preview_form.h"
 
-#include "core/qt_text.h"
-#include "delivery/new_page.h"
+#include "insertion/new_page.h"
+#include "windows/qt_text.h"
 
 #include <QApplication>
 #include <QListWidget>

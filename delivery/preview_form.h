@@ -1,11 +1,11 @@
 #pragma once
 
-#include "core/wizard_frame.h"
+#include "core/payload.h"
 #include "delivery/delivery_flow.h"
-#include "delivery/payload.h"
-#include "delivery/preview_page.h"
 #include "delivery/publish_panel.h"
 #include "delivery/required_files.h"
+#include "preview/preview_page.h"
+#include "windows/wizard_frame.h"
 
 #include <array>
 #include <functional>

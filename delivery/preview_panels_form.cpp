@@ -1,7 +1,7 @@
-#include "core/page_builder.h"
-#include "core/qt_text.h"
 #include "delivery/ftp_panel.h"
 #include "delivery/preview_form.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
 
 #include <QListWidget>
 #include <QPlainTextEdit>

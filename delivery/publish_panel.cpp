@@ -1,7 +1,7 @@
 #include "delivery/publish_panel.h"
 
-#include "core/qt_text.h"
-#include "services/qt_folder_boxes.h"
+#include "windows/folder_boxes.h"
+#include "windows/qt_text.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "delivery/required_files.h"
 
-#include "delivery/new_page.h"
-#include "services/file_names.h"
+#include "core/file_names.h"
+#include "insertion/new_page.h"
 
 #include <algorithm>
 

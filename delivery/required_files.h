@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/dialogs.h"
 #include "core/fault.h"
-#include "delivery/payload.h"
-#include "services/dialogs.h"
-#include "services/file_store.h"
+#include "core/file_store.h"
+#include "core/payload.h"
 
 #include <vector>
 

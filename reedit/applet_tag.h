@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/payload.h"
 #include "core/text.h"
-#include "delivery/payload.h"
 
 namespace orvane {
 

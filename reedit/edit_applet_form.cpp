@@ -1,8 +1,8 @@
 #include "reedit/edit_applet_form.h"
 
-#include "core/page_builder.h"
-#include "core/qt_text.h"
 #include "reedit/applet_tag.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
 
 #include <QHBoxLayout>
 #include <QPlainTextEdit>

@@ -1,6 +1,6 @@
 #include "services/folder_list.h"
 
-#include "services/file_names.h"
+#include "core/file_names.h"
 
 namespace orvane {
 

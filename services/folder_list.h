@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/file_store.h"
 #include "core/text.h"
-#include "services/file_store.h"
 
 #include <cstddef>
 #include <optional>

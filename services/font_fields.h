@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/dialogs.h"
 #include "core/text.h"
-#include "services/dialogs.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "services/image_list.h"
 
+#include "core/file_names.h"
 #include "core/numbers.h"
-#include "services/file_names.h"
 
 #include <limits>
 #include <utility>

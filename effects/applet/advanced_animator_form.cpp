@@ -2,11 +2,11 @@
 
 #include "core/catalogue.h"
 #include "core/pick_lists.h"
-#include "core/qt_text.h"
+#include "effects/applet/animation_project.h"
 #include "effects/applet/img_props_form.h"
-#include "reedit/animation_project.h"
-#include "services/color_swatch.h"
-#include "services/image_list_panel.h"
+#include "windows/color_swatch.h"
+#include "windows/image_list_panel.h"
+#include "windows/qt_text.h"
 
 #include <QComboBox>
 #include <QLayout>

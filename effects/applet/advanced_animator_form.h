@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/wizard_form.h"
 #include "effects/applet/advanced_animator.h"
+#include "windows/wizard_form.h"
 
 class QComboBox;
 class QMenu;

@@ -1,8 +1,8 @@
 #include "effects/applet/img_props_form.h"
 
-#include "core/page_builder.h"
-#include "core/qt_text.h"
-#include "services/file_names.h"
+#include "core/file_names.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

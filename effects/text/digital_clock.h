@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/payload.h"
 #include "core/pick_lists.h"
-#include "delivery/payload.h"
 
 #include <array>
 #include <optional>

@@ -1,10 +1,10 @@
 #include "effects/text/digital_clock_form.h"
 
 #include "core/numbers.h"
-#include "core/qt_number_box.h"
-#include "core/qt_text.h"
 #include "services/color.h"
-#include "services/color_swatch.h"
+#include "windows/color_swatch.h"
+#include "windows/number_box.h"
+#include "windows/qt_text.h"
 
 #include <QCheckBox>
 #include <QListWidget>

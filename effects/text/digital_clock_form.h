@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/qt_font_boxes.h"
-#include "core/wizard_form.h"
 #include "effects/text/digital_clock.h"
+#include "windows/font_boxes.h"
+#include "windows/wizard_form.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
-#include "delivery/payload.h"
+#include "core/payload.h"
 
 #include <optional>
 

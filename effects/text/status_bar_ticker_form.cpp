@@ -1,6 +1,6 @@
 #include "effects/text/status_bar_ticker_form.h"
 
-#include "core/qt_text.h"
+#include "windows/qt_text.h"
 
 namespace orvane {
 

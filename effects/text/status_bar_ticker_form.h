@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/wizard_form.h"
 #include "effects/text/status_bar_ticker.h"
+#include "windows/wizard_form.h"
 
 namespace orvane {
 

@@ -1,11 +1,11 @@
-#include "core/qt_text.h"
+#include "core/file_names.h"
 #include "delivery/preview_form.h"
-#include "delivery/qt_preview_pane.h"
+#include "disk/disk_file_store.h"
+#include "disk/system_calls.h"
 #include "effects/text/status_bar_ticker.h"
-#include "services/disk.h"
-#include "services/disk_file_store.h"
-#include "services/file_names.h"
+#include "preview/qt_preview_pane.h"
 #include "tests/support/doubles.h"
+#include "windows/qt_text.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

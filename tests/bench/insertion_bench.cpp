@@ -1,6 +1,6 @@
-#include "delivery/auto_insert.h"
+#include "disk/disk_file_store.h"
 #include "effects/text/status_bar_ticker.h"
-#include "services/disk_file_store.h"
+#include "insertion/auto_insert.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
+#include "core/payload.h"
 #include "core/template.h"
-#include "delivery/payload.h"
 #include "effects/text/status_bar_ticker.h"
 
 #include <benchmark/benchmark.h>

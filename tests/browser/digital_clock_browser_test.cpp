@@ -1,5 +1,5 @@
-#include "delivery/new_page.h"
 #include "effects/text/digital_clock.h"
+#include "insertion/new_page.h"
 #include "tests/support/qt_browser_page.h"
 
 namespace orvane::testing {

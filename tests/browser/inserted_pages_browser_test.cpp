@@ -1,6 +1,6 @@
 #include "delivery/preview_form.h"
+#include "disk/disk_file_store.h"
 #include "effects/text/status_bar_ticker.h"
-#include "services/disk_file_store.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_browser_page.h"
 #include "tests/support/qt_controls.h"

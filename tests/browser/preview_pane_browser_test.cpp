@@ -1,5 +1,5 @@
-#include "delivery/new_page.h"
 #include "effects/text/status_bar_ticker.h"
+#include "insertion/new_page.h"
 #include "tests/support/qt_browser_page.h"
 #include "tests/support/qt_controls.h"
 

@@ -1,7 +1,6 @@
 #include "core/orvane_core.h"
 
 #include "core/fault.h"
-#include "core/startup.h"
 #include "tests/support/doubles.h"
 
 #include <gtest/gtest.h>
@@ -51,45 +50,6 @@ TEST(OrvaneCoreTest, CancelledBrowseStoresNothing)
     desk.Dialogs.AnswerOpenFile(u"/bin/browser");
     BrowseDialog(desk.Core, desk.Dialogs, {});
     EXPECT_EQ(desk.Core.BrowserPathChoice, u"/bin/browser");
-}
-
-TEST(StartUpTest, LooksAtOneCharacterOfTheBrowserVersionOnly)
-{
-    EXPECT_TRUE(PassesVersionGate(Text(u"5.50.4134.0")));
-    EXPECT_TRUE(PassesVersionGate(Text(u"4")));
-    for (const TextView version : {u"3.9", u"10.0", u"", u"x"})
-        EXPECT_FALSE(PassesVersionGate(Text(version))) << ToUtf8(version);
-    EXPECT_FALSE(PassesVersionGate(RegistryVariant()));
-}
-
-constexpr TextView gateQuestion =
-    u"Orvane requires Internet Explorer 4.0 or above to be installed on your computer.\r\n\r\n"
-    u"Would you like to download the Netscape version of Orvane or Internet Explorer?";
-
-TEST(StartUpTest, PlatformWithoutARegistryPassesTheGate)
-{
-    FakeDesk desk;
-    EXPECT_EQ(StartUp(desk.Bench), FirstWindow::OVMain);
-    EXPECT_EQ(desk.Core.DefaultPath, u"c:\\");
-    EXPECT_TRUE(desk.Dialogs.Said.empty());
-}
-
-TEST(StartUpTest, FailedGateOffersTheDownloadOrGoesOnWithAWarning)
-{
-    FakeDesk desk;
-    desk.Settings.Put(u"Misc", u"DefaultPath", u"/pictures", u"Orvane");
-    desk.Bench.PlatformBrowserVersion = u"10.0";
-    desk.Dialogs.ExpectAsk(Text(gateQuestion), true);
-    EXPECT_EQ(StartUp(desk.Bench), FirstWindow::DownloadOV);
-    EXPECT_TRUE(desk.Dialogs.Said.empty());
-    EXPECT_EQ(desk.Core.DefaultPath, u"/pictures");
-
-    desk.Dialogs.ExpectAsk(Text(gateQuestion), false);
-    EXPECT_EQ(StartUp(desk.Bench), FirstWindow::OVMain);
-    EXPECT_EQ(desk.Dialogs.Said,
-              std::vector<Text>{
-                  u"You can attempt to use Orvane without having Internet Explorer 4 or above "
-                  u"installed on your computer, but it may not work correctly."});
 }
 
 TEST(FaultTest, ErrorsOfTheSystemHaveTheirNumbers)

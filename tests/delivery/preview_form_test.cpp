@@ -1,10 +1,10 @@
 #include "delivery/preview_form.h"
 
-#include "core/form_desk.h"
-#include "core/ov_main_form.h"
-#include "delivery/new_page.h"
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/status_bar_ticker_form.h"
+#include "insertion/new_page.h"
+#include "program/form_desk.h"
+#include "program/ov_main_form.h"
 #include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"

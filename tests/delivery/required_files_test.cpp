@@ -1,6 +1,6 @@
 #include "delivery/required_files.h"
 
-#include "delivery/new_page.h"
+#include "insertion/new_page.h"
 #include "tests/support/doubles.h"
 
 namespace orvane::testing {

@@ -1,4 +1,4 @@
-#include "reedit/animation_project.h"
+#include "effects/applet/animation_project.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "delivery/page_edit.h"
+#include "insertion/page_edit.h"
 #include "tests/fuzz/fuzz_input.h"
 #include "tests/support/insertion_oracle.h"
 

@@ -1,5 +1,5 @@
-#include "delivery/auto_insert.h"
-#include "services/file_names.h"
+#include "core/file_names.h"
+#include "insertion/auto_insert.h"
 #include "tests/fuzz/fuzz_input.h"
 
 #include <vector>

@@ -1,5 +1,5 @@
-#include "delivery/page_encoding.h"
-#include "delivery/script_spans.h"
+#include "insertion/page_encoding.h"
+#include "insertion/script_spans.h"
 #include "tests/fuzz/fuzz_input.h"
 
 #include <cctype>

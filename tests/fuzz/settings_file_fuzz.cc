@@ -1,4 +1,4 @@
-#include "core/settings_file.h"
+#include "disk/settings_file.h"
 #include "tests/fuzz/fuzz_input.h"
 
 namespace orvane::testing {

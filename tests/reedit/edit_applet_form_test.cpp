@@ -1,8 +1,8 @@
 #include "reedit/edit_applet_form.h"
 
-#include "core/form_desk.h"
-#include "core/ov_main_form.h"
 #include "effects/applet/advanced_animator_form.h"
+#include "program/form_desk.h"
+#include "program/ov_main_form.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/file_names.h"
 #include "core/workbench.h"
-#include "services/file_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/disk.h"
+#include "disk/system_calls.h"
 #include "tests/support/unsynced.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "delivery/qt_preview_pane.h"
+#include "preview/qt_preview_pane.h"
 #include "tests/support/doubles.h"
 
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #include "tests/support/qt_controls.h"
 
-#include "core/qt_text.h"
+#include "windows/qt_text.h"
 
 #include <QAbstractButton>
 #include <QApplication>

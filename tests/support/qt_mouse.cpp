@@ -1,7 +1,7 @@
 #include "tests/support/qt_mouse.h"
 
-#include "core/qt_text.h"
 #include "tests/support/qt_controls.h"
+#include "windows/qt_text.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/text.h"
-#include "services/disk.h"
+#include "disk/system_calls.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "tests/support/unsynced.h"
 
-#include "services/open_file.h"
+#include "disk/file_handle.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,0 +1,88 @@
+#include "core/file_names.h"
+
+namespace orvane {
+
+namespace {
+
+bool IsSeparator(char16_t c)
+{
+    return c == u'/' || c == u'\\';
+}
+
+/// Matches one mask; on a mismatch behind a "*" the star takes one more character.
+bool MatchesMask(TextView name, TextView mask)
+{
+    std::size_t n = 0;
+    std::size_t m = 0;
+    std::size_t star = TextView::npos;
+    std::size_t taken = 0;
+    while (n < name.size()) {
+        if (m < mask.size() && mask[m] == u'*') {
+            star = m++;
+            taken = n;
+        } else if (m < mask.size() && (mask[m] == u'?' || ToLower(mask[m]) == ToLower(name[n]))) {
+            ++n;
+            ++m;
+        } else if (star != TextView::npos) {
+            m = star + 1;
+            n = ++taken;
+        } else {
+            return false;
+        }
+    }
+    return mask.find_first_not_of(u'*', m) == TextView::npos;
+}
+
+} // namespace
+
+std::size_t LastSeparator(TextView path)
+{
+    const std::size_t place = path.find_last_of(u"/\\");
+    return place == TextView::npos ? 0 : place + 1;
+}
+
+TextView GetFileName(TextView path)
+{
+    return path.substr(LastSeparator(path));
+}
+
+Outcome<Text> GetPath(TextView path)
+{
+    const std::size_t last = LastSeparator(path);
+    if (last == 0)
+        return Fault::InvalidProcedureCall;
+    return Text(Left(path, last - 1));
+}
+
+TextView FolderOf(TextView path)
+{
+    return Left(path, LastSeparator(path));
+}
+
+Text WithSeparator(TextView folder)
+{
+    Text path(folder);
+    if (path.empty() || !IsSeparator(path.back()))
+        path.push_back(pathSeparator);
+    return path;
+}
+
+Text PathIn(TextView folder, TextView name)
+{
+    return WithSeparator(folder).append(name);
+}
+
+bool MatchesMasks(TextView name, TextView masks)
+{
+    while (!masks.empty()) {
+        const std::size_t end = masks.find(u';');
+        // "*.*" is every name, one without a dot too.
+        const TextView mask = Trim(masks.substr(0, end));
+        if (mask == u"*.*" || MatchesMask(name, mask))
+            return true;
+        masks.remove_prefix(end == TextView::npos ? masks.size() : end + 1);
+    }
+    return false;
+}
+
+} // namespace orvane

@@ -1,0 +1,19 @@
+#include "core/file_store.h"
+
+#include "core/file_names.h"
+
+namespace orvane {
+
+Done MakeFolders(FileStore& files, TextView path)
+{
+    if (path.empty() || files.FolderExists(path))
+        return {};
+    if (const std::size_t last = LastSeparator(path); last > 1) {
+        const Done parent = MakeFolders(files, Left(path, last - 1));
+        if (FaultIn(parent))
+            return parent;
+    }
+    return files.MakeFolder(path);
+}
+
+} // namespace orvane

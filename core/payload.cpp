@@ -1,0 +1,52 @@
+#include "core/payload.h"
+
+#include "core/catalogue.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+Text Marker(TextView beginOrEnd, TextView name)
+{
+    return Join({u"<!-- ***** ", beginOrEnd, u":Varlo ", name, u" special effect ***** -->"});
+}
+
+Text Attribute(TextView name, TextView function, TextView arguments)
+{
+    if (function.empty())
+        return {};
+    return Join({u" ", name, u"=\"", function, arguments, u"\" "});
+}
+
+bool HasListedFile(const RequiredFiles& files)
+{
+    return std::any_of(files.Names.begin(), files.Names.end(),
+                       [](const Text& name) { return !name.empty(); });
+}
+
+} // namespace
+
+FinishedPayload Finish(const EffectPayload& effect)
+{
+    FinishedPayload finished{.Effect = effect};
+    if (const CatalogueRow* row = FindRow(effect.Kind)) {
+        finished.BeginMarker = Marker(u"Begin", row->MarkerName);
+        finished.EndMarker = Marker(u"End", row->MarkerName);
+        finished.NeedsFiles =
+            row->Files == FilesNeeded::Always ||
+            (row->Files == FilesNeeded::WhenListed && HasListedFile(effect.Required));
+        finished.ScriptedHelp = row->ScriptedHelp;
+        finished.ReplaceInBody = row->ReplaceInBody;
+    }
+    for (Text* code : {&finished.Effect.HEADHTML, &finished.Effect.BODYHTML})
+        if (!code->empty())
+            *code = Join({finished.BeginMarker, lineEnd, *code, finished.EndMarker});
+    finished.BODYAttribute = Attribute(u"onLoad", effect.OnLoadFunc, effect.OnLoadArgs) +
+                             Attribute(u"onUnload", effect.OnUnloadFunc, effect.OnUnloadArgs);
+    finished.PreviewCode = Join({finished.Effect.HEADHTML, lineEnd, finished.Effect.BODYHTML});
+    return finished;
+}
+
+} // namespace orvane

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "disk/system_calls.h"
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace orvane {
+
+/// Makes a call again for as long as a signal interrupts it; gives its last error.
+template <class Call>
+std::error_code Retried(Call call)
+{
+    std::error_code error = call();
+    while (error == std::errc::interrupted)
+        error = call();
+    return error;
+}
+
+/// The part of a path through its last "/"; "./" when there is none.
+std::string FolderPart(std::string_view path);
+
+/// An open file or folder of a disk, closed with the object. Interrupted calls are repeated, short
+/// ones continued. A failing close has no say: what must be on the disk was synced before.
+class OpenFile
+{
+public:
+    explicit OpenFile(Disk& disk) : m_disk(disk) {}
+    ~OpenFile();
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    /// Opens a path of any kind without waiting for anybody; expects an object that holds none yet.
+    [[nodiscard]] std::error_code Open(const std::string& path, int flags, mode_t mode = 0);
+
+    /// Opens a regular file; a folder, pipe or device gives is_a_directory.
+    [[nodiscard]] std::error_code OpenRegular(const std::string& path, int flags);
+
+    /// Opens a folder, so that it can be synced; a missing one gives not_a_directory.
+    [[nodiscard]] std::error_code OpenFolder(const std::string& path);
+
+    /// What was known of the file when it was opened.
+    const FileStatus& Status() const { return m_status; }
+
+    /// Whether the file has lost its last name since.
+    [[nodiscard]] std::error_code IsRemoved(bool& removed) const;
+
+    /// The whole content.
+    [[nodiscard]] std::error_code ReadAll(std::string& bytes) const;
+
+    /// Puts the bytes at the start of the file; what lies behind them stays.
+    [[nodiscard]] std::error_code WriteAll(std::string_view bytes) const;
+
+    /// Makes the file hold these bytes alone, synced. A failure leaves any mixture.
+    [[nodiscard]] std::error_code Overwrite(std::string_view bytes) const;
+
+    /// Sets owner, group and mode, as far as they differ.
+    [[nodiscard]] std::error_code TakeRightsOf(const FileStatus& other) const;
+
+    /// Waits until the content, or the folder's names, lie on the disk. A folder of a file system
+    /// that cannot sync folders counts as synced.
+    [[nodiscard]] std::error_code Sync() const;
+
+    /// Takes the file's lock until it is closed; permission_denied when another program has it.
+    /// A file system without locks gives what its call gives.
+    [[nodiscard]] std::error_code Lock() const;
+
+    /// Whether the file has an access list beside its mode.
+    [[nodiscard]] std::error_code HasAccessList(bool& has) const;
+
+private:
+    Disk& m_disk;
+    int m_descriptor = -1;
+    FileStatus m_status{};
+};
+
+} // namespace orvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/file_store.h"
+
+#include <functional>
+#include <optional>
+
+namespace orvane {
+
+/// Looks up an environment variable; nothing when it is not set.
+using Environment = std::function<std::optional<Text>(TextView name)>;
+
+/// The per-user folders of this program, without separators at their ends.
+struct UserFolders
+{
+    Text Program;  ///< applet classes, effect images, help, the preview page
+    Text Settings; ///< one file per application
+    Text State;    ///< untouched first backups
+};
+
+/// The folders as the desktop's conventions place them; ORVANE_HOME names another program folder
+/// and takes settings and state along.
+UserFolders FindUserFolders(const Environment& environment);
+
+/// Makes the file hold these bytes unless it does already.
+[[nodiscard]] Done InstallFile(FileStore& files, TextView path, std::string_view bytes);
+
+} // namespace orvane

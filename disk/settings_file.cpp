@@ -1,0 +1,131 @@
+#include "disk/settings_file.h"
+
+#include "core/file_names.h"
+
+#include <tuple>
+
+namespace orvane {
+
+namespace {
+
+/// The text with backslash, line ends and the signs that shape a line escaped.
+Text Escaped(TextView text)
+{
+    Text escaped;
+    for (const char16_t c : text) {
+        if (c == u'\r')
+            escaped += u"\\r";
+        else if (c == u'\n')
+            escaped += u"\\n";
+        else if (Find(u"\\=[]", TextView(&c, 1)) != 0)
+            escaped.append({u'\\', c});
+        else
+            escaped.push_back(c);
+    }
+    return escaped;
+}
+
+Text Unescaped(TextView text)
+{
+    Text plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != u'\\' || i + 1 == text.size()) {
+            plain.push_back(text[i]);
+            continue;
+        }
+        const char16_t c = text[++i];
+        plain.push_back(c == u'r' ? u'\r' : c == u'n' ? u'\n' : c);
+    }
+    return plain;
+}
+
+/// The first unescaped `sign` of a line, or npos.
+std::size_t FindSign(TextView line, char16_t sign)
+{
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] == u'\\')
+            ++i;
+        else if (line[i] == sign)
+            return i;
+    }
+    return TextView::npos;
+}
+
+TextView TakeLine(TextView& rest)
+{
+    const std::size_t end = rest.find(u'\n');
+    const TextView line = rest.substr(0, end);
+    rest.remove_prefix(end == TextView::npos ? rest.size() : end + 1);
+    return line;
+}
+
+} // namespace
+
+SettingsTable ReadSettings(std::string_view bytes)
+{
+    const Text text = FromUtf8(bytes);
+    SettingsTable settings;
+    Text section;
+    for (TextView rest = text; !rest.empty();) {
+        const TextView line = TakeLine(rest);
+        if (line.starts_with(u'[')) {
+            section = Unescaped(line.substr(1, FindSign(line.substr(1), u']')));
+        } else if (const std::size_t sign = FindSign(line, u'='); sign != TextView::npos) {
+            settings[{section, Unescaped(line.substr(0, sign))}] = Unescaped(line.substr(sign + 1));
+        }
+    }
+    return settings;
+}
+
+std::string WriteSettings(const SettingsTable& settings)
+{
+    Text text;
+    const Text* section = nullptr;
+    for (const auto& [name, value] : settings) {
+        if (section == nullptr || *section != name.first)
+            text += Join({u"[", Escaped(name.first), u"]\n"});
+        section = &name.first;
+        text += Join({Escaped(name.second), u"=", Escaped(value), u"\n"});
+    }
+    return ToUtf8(text);
+}
+
+SettingsFile::SettingsFile(FileStore& files, Text folder)
+    : m_files(files), m_folder(std::move(folder))
+{
+}
+
+Text SettingsFile::Get(TextView section, TextView key, TextView otherwise,
+                       TextView application) const
+{
+    const auto bytes = m_files.Read(PathOf(application));
+    if (FaultIn(bytes))
+        return Text(otherwise);
+    const SettingsTable settings = ReadSettings(ValueIn(bytes));
+    const auto found = settings.find({Text(section), Text(key)});
+    return found == settings.end() ? Text(otherwise) : found->second;
+}
+
+void SettingsFile::Put(TextView section, TextView key, TextView value, TextView application)
+{
+    const Text path = PathOf(application);
+    const auto bytes = m_files.Read(path);
+    const Fault* fault = FaultIn(bytes);
+    // A file that is there but cannot be read is left alone: writing would drop its other settings.
+    if (fault && *fault != Fault::FileNotFound && *fault != Fault::PathNotFound)
+        return;
+    const Done folder = MakeFolders(m_files, m_folder);
+    if (FaultIn(folder))
+        return;
+    SettingsTable settings = fault ? SettingsTable() : ReadSettings(ValueIn(bytes));
+    settings[{Text(section), Text(key)}] = value;
+    // A failure is passed over: the file keeps what it had.
+    std::ignore = m_files.Replace(path, WriteSettings(settings));
+}
+
+Text SettingsFile::PathOf(TextView application) const
+{
+    return PathIn(m_folder, Text(application) + u".conf");
+}
+
+} // namespace orvane

@@ -1,0 +1,192 @@
+#include "effects/applet/animation_project.h"
+
+#include "insertion/page_encoding.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr TextView projectFilter = u"All Files (*.*)|*.*|Orvane Animation (*.ovn)|*.ovn";
+
+/// The rows whose texts a project file can carry.
+constexpr std::size_t filledRows = 31;
+
+/// The rows that a list can number; a file of bars alone would fill the memory otherwise.
+constexpr std::size_t numberedRows = 32767;
+
+/// The texts of one column, joined by bars.
+Text Joined(const std::vector<ImageRow>& rows, Text ImageRow::*field, TextView otherwise)
+{
+    Text joined;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const TextView value = rows[i].*field;
+        joined += Join({i == 0 ? u"" : u"|", value.empty() ? otherwise : value});
+    }
+    return joined;
+}
+
+Text JoinedTransitions(const std::vector<ImageRow>& rows)
+{
+    // Stays as it is: "Random" with a capital writes what the row before it wrote.
+    Text before;
+    Text joined;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const TextView value = rows[i].Transition;
+        if (value != u"Random")
+            before = value.empty() ? TextView(u"null") : value;
+        joined += Join({i == 0 ? u"" : u"|", before});
+    }
+    return joined;
+}
+
+std::string Encode(TextView record)
+{
+    if (const auto bytes = Windows1252Bytes(record))
+        return *bytes;
+    return std::string(byteOrderMark) + ToUtf8(record);
+}
+
+Text Decode(std::string_view bytes)
+{
+    if (bytes.starts_with(byteOrderMark))
+        return FromUtf8(bytes.substr(byteOrderMark.size()));
+    return FromWindows1252(bytes);
+}
+
+/// Reads the texts of a record one after the other; behind the end they are empty.
+class RecordReader
+{
+public:
+    explicit RecordReader(TextView record) : m_rest(record) {}
+
+    TextView Next()
+    {
+        m_rest.remove_prefix(std::min(m_rest.find_first_not_of(u' '), m_rest.size()));
+        const bool isQuoted = m_rest.starts_with(u'"');
+        if (isQuoted)
+            m_rest.remove_prefix(1);
+        const TextView field = Take(isQuoted ? u"\"" : u",\r\n");
+        Take(u",\r\n"); // what stands between a closing quote and the separator
+        SkipSeparator();
+        return field;
+    }
+
+private:
+    /// What stands before the first of these characters.
+    TextView Take(TextView ends)
+    {
+        const TextView taken = m_rest.substr(0, m_rest.find_first_of(ends));
+        m_rest.remove_prefix(taken.size());
+        return taken;
+    }
+
+    void SkipSeparator()
+    {
+        const std::size_t size = m_rest.starts_with(lineEnd) ? 2 : 1;
+        m_rest.remove_prefix(std::min(size, m_rest.size()));
+    }
+
+    TextView m_rest;
+};
+
+/// Puts the pieces between the bars into one column; pieces without a row are lost.
+void Split(TextView joined, std::vector<ImageRow>& rows, Text ImageRow::*field)
+{
+    const std::size_t count = std::min(rows.size(), filledRows);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t bar = std::min(joined.find(u'|'), joined.size());
+        rows[i].*field = joined.substr(0, bar);
+        joined.remove_prefix(std::min(bar + 1, joined.size()));
+    }
+}
+
+FileRequest ProjectRequest(TextView title)
+{
+    return {.Title = Text(title), .Filter = Text(projectFilter), .FilterIndex = 2};
+}
+
+} // namespace
+
+std::string ProjectBytes(const AdvancedAnimator& animator)
+{
+    const std::vector<ImageRow>& rows = animator.Rows;
+    const std::array<Text, 9> fields = {
+        animator.AnimationWidth,
+        animator.AnimationHeight,
+        animator.BackgroundColor.empty() ? Text(u"NULL") : animator.BackgroundColor,
+        animator.LoopCount.empty() ? Text(u"0 - Infinite") : animator.LoopCount,
+        Joined(rows, &ImageRow::FileName, u""),
+        Joined(rows, &ImageRow::Pause, u"100"),
+        Joined(rows, &ImageRow::Sound, u"null"),
+        JoinedTransitions(rows),
+        Joined(rows, &ImageRow::URL, u"null"),
+    };
+    Text record;
+    for (const Text& field : fields)
+        record += Join({record.empty() ? u"" : u",", u"\"", field, u"\""});
+    return Encode(record + Text(lineEnd));
+}
+
+AdvancedAnimator ReadProject(std::string_view bytes)
+{
+    const Text record = Decode(bytes);
+    RecordReader reader(record);
+    std::array<TextView, 9> fields;
+    for (TextView& field : fields)
+        field = reader.Next();
+    const auto& [width, height, background, loop, images, pauses, sounds, transitions, urls] =
+        fields;
+    AdvancedAnimator animator{.AnimationWidth = Text(width),
+                              .AnimationHeight = Text(height),
+                              .LoopCount = Text(loop),
+                              .BackgroundColor = Text(background == u"NULL" ? u"" : background)};
+    const auto bars = static_cast<std::size_t>(std::count(images.begin(), images.end(), u'|'));
+    animator.Rows.resize(std::min(bars + 1, numberedRows));
+    Split(images, animator.Rows, &ImageRow::FileName);
+    Split(pauses, animator.Rows, &ImageRow::Pause);
+    Split(sounds, animator.Rows, &ImageRow::Sound);
+    Split(transitions, animator.Rows, &ImageRow::Transition);
+    Split(urls, animator.Rows, &ImageRow::URL);
+    return animator;
+}
+
+std::optional<Complaint> CheckProject(const AdvancedAnimator& animator)
+{
+    if (animator.Rows.empty())
+        return Complaint{u"You must enter an image into the Animation Image List.", ""};
+    if (animator.AnimationWidth.empty() || animator.AnimationHeight.empty())
+        return Complaint{u"Please enter the animation width and height properties.", ""};
+    return std::nullopt;
+}
+
+void SaveProject(const AdvancedAnimator& animator, Dialogs& dialogs, FileStore& files)
+{
+    // A failure says nothing; the file is then as it was.
+    if (const auto path = dialogs.SaveFile(ProjectRequest(u"Save As")))
+        static_cast<void>(files.Replace(*path, ProjectBytes(animator)));
+}
+
+AdvancedAnimator OpenProject(const AdvancedAnimator& animator, Dialogs& dialogs,
+                             const FileStore& files)
+{
+    if (const auto path = dialogs.OpenFile(ProjectRequest(u"Open"))) {
+        const auto bytes = files.Read(*path);
+        return ReadProject(FaultIn(bytes) ? std::string_view() : ValueIn(bytes));
+    }
+    AdvancedAnimator emptied = animator;
+    emptied.Rows.clear();
+    return emptied;
+}
+
+AdvancedAnimator NewProject(const AdvancedAnimator& animator, Dialogs& dialogs, TextView caption)
+{
+    if (!dialogs.AskOrCancel(u"Do you want to start a new animation?", caption).value_or(false))
+        return animator;
+    return {.LoopCount = animator.LoopCount};
+}
+
+} // namespace orvane

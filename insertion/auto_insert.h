@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/dialogs.h"
+#include "core/file_store.h"
+#include "core/payload.h"
+
+#include <optional>
+
+namespace orvane {
+
+/// What is left to do when the command has run.
+enum class AutoInsertion
+{
+    NothingDone, ///< the author was told why and can try again
+    Inserted,    ///< the page is written: its files are to be copied beside it
+    Manual,      ///< the author was sent to the manual steps
+};
+
+/// Where pages are kept as they were before a day's first insertion.
+struct KeptPages
+{
+    Text Folder; ///< full path below the user's own state; made when it is missing
+    Text Day;    ///< such as "2024-05-31"
+};
+
+/// The complaint about an empty file name, or nothing when the insertion may start.
+std::optional<Complaint> CheckPageName(TextView txtFileName);
+
+/// The full path of the page that the author named: what does not start at the root lies in
+/// `currentFolder`. Expects a name that passes CheckPageName().
+Text PagePath(TextView txtFileName, TextView currentFolder);
+
+/// Where a day's first backup of that page is kept: the page's own path, below the folder and the
+/// day. Expects a full path.
+Text KeptPagePath(const KeptPages& kept, TextView page);
+
+/// Edits the author's page: backs it up, puts the effect in, writes it, and tells the author when
+/// that did not work. The page holds its old bytes or the new ones; the backup, its old bytes. A
+/// page that changes on the disk while the author is asked counts as open elsewhere. The backup
+/// that is the day's first of its page is kept a second time and never written over; when that
+/// fails, the work goes on and nothing is said. Expects a full path.
+AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
+                         const FinishedPayload& payload, const KeptPages& kept);
+
+} // namespace orvane

@@ -1,0 +1,49 @@
+#include "insertion/new_page.h"
+
+#include "core/template.h"
+#include "insertion/page_encoding.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr Template newPage(uR"page(
+<HTML>
+<HEAD>
+«HEADHTML»
+</HEAD>
+<BODY «BODYAttribute»>
+«BODYHTML»
+</BODY></HTML>
+)page");
+
+} // namespace
+
+Text NewPageText(const FinishedPayload& payload)
+{
+    return Fill(newPage, {{u"HEADHTML", payload.Effect.HEADHTML},
+                          {u"BODYAttribute", payload.BODYAttribute},
+                          {u"BODYHTML", payload.Effect.BODYHTML}});
+}
+
+std::string NewPageBytes(const FinishedPayload& payload)
+{
+    return EncodeForPage(NewPageText(payload), PageEncoding::Windows1252);
+}
+
+Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payload)
+{
+    return files.Replace(path, NewPageBytes(payload));
+}
+
+FileRequest NewPageRequest()
+{
+    return {.Title = u"Save As", .Filter = Text(webPageFilter), .FilterIndex = 2};
+}
+
+FileRequest ExistingPageRequest()
+{
+    return {.Title = u"Browse...", .Filter = Text(webPageFilter), .FilterIndex = 2};
+}
+
+} // namespace orvane

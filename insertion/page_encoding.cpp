@@ -1,0 +1,172 @@
+#include "insertion/page_encoding.h"
+
+#include "insertion/page_charset.h"
+#include "insertion/script_spans.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace orvane {
+
+namespace {
+
+/// The characters of the bytes 0x80 to 0x9F; bytes without one stand for themselves.
+constexpr std::array<char16_t, 32> upperControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+std::optional<char> Windows1252Byte(char16_t unit)
+{
+    if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF))
+        return static_cast<char>(unit);
+    const auto found = std::find(upperControls.begin(), upperControls.end(), unit);
+    if (found == upperControls.end())
+        return std::nullopt;
+    return static_cast<char>(0x80 + (found - upperControls.begin()));
+}
+
+bool IsHighSurrogate(char16_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool IsLowSurrogate(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+std::string ScriptEscape(char16_t unit)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string escape = "\\u";
+    for (int shift = 12; shift >= 0; shift -= 4)
+        escape.push_back(digits[(unit >> shift) & 0xF]);
+    return escape;
+}
+
+std::string MarkupEscape(std::uint32_t point)
+{
+    return "&#" + std::to_string(point) + ";";
+}
+
+/// Knows which places of page code lie inside a SCRIPT element.
+class ScriptTracker
+{
+public:
+    explicit ScriptTracker(TextView code) : m_code(code) {}
+
+    /// Expects places in rising order.
+    bool IsInScript(std::size_t at)
+    {
+        while (at >= m_script.End && m_script.End < m_code.size())
+            m_script = NextScript(m_code, m_script.End);
+        return at >= m_script.Begin && at < m_script.End;
+    }
+
+private:
+    TextView m_code;
+    CodeSpan m_script;
+};
+
+/// Writes the characters that the encoding has as its bytes and escapes the others: inside
+/// `scripts` for the script, elsewhere for the markup.
+std::string Encode(TextView code, PageEncoding encoding, ScriptTracker scripts)
+{
+    if (encoding == PageEncoding::Utf8)
+        return ToUtf8(code);
+    std::string bytes;
+    bytes.reserve(code.size());
+    for (std::size_t i = 0; i < code.size(); ++i) {
+        const auto byte = Windows1252Byte(code[i]);
+        if (byte && (encoding == PageEncoding::Windows1252 || code[i] < 0x80)) {
+            bytes.push_back(*byte);
+        } else if (scripts.IsInScript(i)) {
+            bytes += ScriptEscape(code[i]);
+        } else if (IsHighSurrogate(code[i]) && i + 1 < code.size() && IsLowSurrogate(code[i + 1])) {
+            bytes += MarkupEscape(0x10000u + ((code[i] - 0xD800u) << 10) + (code[i + 1] - 0xDC00u));
+            ++i;
+        } else {
+            bytes += MarkupEscape(code[i]);
+        }
+    }
+    return bytes;
+}
+
+/// The page without the halves of characters that an earlier insertion left: it writes the byte
+/// behind a tag twice, and puts a line end behind the first.
+std::string WithoutDoubledBytes(std::string_view page)
+{
+    const auto isLead = [](char byte) { return byte >= '\xC2' && byte <= '\xF4'; };
+    std::string whole(page);
+    for (std::size_t i = 1; i + 2 < page.size(); ++i)
+        if (isLead(page[i]) && (page[i - 1] == '>' || page[i - 1] == '\n') && page[i + 1] == '\r' &&
+            page[i + 2] == '\n')
+            whole[i] = ' ';
+    return whole;
+}
+
+/// Whether the page holds characters above 127 and every such character is well-formed UTF-8.
+bool IsWellFormedUtf8(std::string_view page)
+{
+    const std::string bytes = WithoutDoubledBytes(page);
+    const bool isAscii = std::none_of(bytes.begin(), bytes.end(),
+                                      [](char byte) { return static_cast<signed char>(byte) < 0; });
+    return !isAscii && ToUtf8(FromUtf8(bytes)) == bytes;
+}
+
+} // namespace
+
+PageEncoding EncodingOf(std::string_view page)
+{
+    if (page.starts_with("\xEF\xBB\xBF"))
+        return PageEncoding::Utf8;
+    if (page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF"))
+        return PageEncoding::AsciiOnly;
+    switch (DeclaredCharsetOf(page)) {
+    case DeclaredCharset::Utf8:
+        return PageEncoding::Utf8;
+    case DeclaredCharset::Windows1252:
+        return PageEncoding::Windows1252;
+    case DeclaredCharset::Other:
+        return PageEncoding::AsciiOnly;
+    case DeclaredCharset::None:
+        break;
+    }
+    return IsWellFormedUtf8(page) ? PageEncoding::Utf8 : PageEncoding::Windows1252;
+}
+
+std::string EncodeForPage(TextView code, PageEncoding encoding)
+{
+    return Encode(code, encoding, ScriptTracker(code));
+}
+
+std::string EncodeForAttribute(TextView value, PageEncoding encoding)
+{
+    return Encode(value, encoding, ScriptTracker({}));
+}
+
+std::optional<std::string> Windows1252Bytes(TextView text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (const char16_t unit : text) {
+        const auto byte = Windows1252Byte(unit);
+        if (!byte)
+            return std::nullopt;
+        bytes.push_back(*byte);
+    }
+    return bytes;
+}
+
+Text FromWindows1252(std::string_view bytes)
+{
+    Text text = FromBytes(bytes);
+    for (char16_t& unit : text)
+        if (unit >= 0x80 && unit <= 0x9F)
+            unit = upperControls[unit - 0x80u];
+    return text;
+}
+
+} // namespace orvane

@@ -1,0 +1,206 @@
+#include "preview/preview_page.h"
+
+#include "core/file_names.h"
+#include "core/template.h"
+#include "insertion/page_encoding.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView banner =
+    u"<FONT FACE=Arial SIZE=5><B>Made with Orvane <FONT SIZE=3><SUP>TM</SUP></FONT></B>"
+    u"<BR CLEAR=ALL><FONT SIZE=1>This text &quot;Made with Orvane&quot; only appears in this "
+    u"preview.  It will not be included when you insert the special effect into your Web page"
+    u"</FONT></FONT><HR SIZE=1><BR><BR>";
+
+constexpr Template serverScriptPage(uR"page(
+<HTML> <BODY> 
+«BrowserPreviewBanner»<FONT SIZE=2>The CGI password script cannot be tested on your local computer.  You will need to upload the required files to your Web server in order to correctly test it.<BR><BR>Continue with Step 2 of Orvane's Preview wizard to finish this password protection effect.</FONT></FONT><BR><BR>
+
+«PreviewCode»
+</BODY></HTML>)page");
+
+constexpr Template previewPage(uR"page(
+<HTML>
+<HEAD>
+«PreviewHeadPart»
+</HEAD>
+<BODY oncontextmenu='return false;' «BODYAttribute»>
+«BrowserPreviewBanner»<table width=100% height=100%><tr><td valign=middle align=center>
+«PreviewBodyPart»
+</td></tr></table>
+</BODY></HTML>
+)page");
+
+Text BrowserPreviewBanner(EffectKind kind, PreviewMode mode)
+{
+    if (mode == PreviewMode::Inline)
+        return {};
+    return kind == EffectKind::TextEffects ? Text(u"<br><br><br><br><br>").append(banner)
+                                           : Text(banner);
+}
+
+/// The code with a word to the author where a plain preview cannot show the effect.
+Text PreviewBodyPart(const EffectPayload& effect, PreviewMode mode)
+{
+    const Text& body = effect.BODYHTML;
+    switch (effect.Kind) {
+    case EffectKind::StatusBarTicker:
+        return body +
+               u"\r\n<br><br><br>This special effect cannot be previewed in Orvane's built-in "
+               u"Previewer.";
+    case EffectKind::SoundReserved:
+    case EffectKind::Sound:
+        return body + u"<br><br><br>Reload this Web page to play the sound again.";
+    case EffectKind::PopupAlert:
+        return body + u"<br><br><br>Reload this Web page to display the PopupAlert box again.";
+    case EffectKind::ScrollingCredits:
+        return body +
+               u"<br><br><br>We've added a few lines of text to demonstrate the scrolling credit "
+               u"effect<BR><BR><BR><BR><BR><BR>This text should be scrolling<BR><BR><BR><BR><BR><BR>"
+               u"<BR><BR><BR><BR><BR><BR><BR><BR>The End.<HR><BR><BR><BR><BR><BR><BR><BR><BR><BR><BR>"
+               u"<BR><BR>.\r\n\r\n</FONT>";
+    case EffectKind::PageTransitions:
+        return body +
+               u"This effect will only display correctly when loading from another Web page.  The "
+               u"Orvane Preview does not display it correctly.  <ol align=left><li>Click the "
+               u"<b>Preview in Browser</b> button to open a browser window.<li>Open any Web page in "
+               u"your Web browser.<li>Hit the browser's back button to see the Page Transition "
+               u"special effect properly.</ol>";
+    case EffectKind::RandomImage:
+    case EffectKind::RandomQuote:
+        return u"<font face='arial' size=1>Click the <b>Refresh</b> button multiple times to "
+               u"demonstrate this special effect.  (This text will not appear in your special "
+               u"effect).</font><br><br><br> " +
+               body;
+    case EffectKind::Earthquake:
+        if (mode == PreviewMode::Inline)
+            return body + u"\r\nThis special effect cannot be previewed in Orvane's built-in "
+                          u"Previewer.  Click the 'Preview in Browser' button to preview it "
+                          u"correctly.";
+        return body;
+    case EffectKind::ColorScrollbars:
+        return body +
+               u"<img src='' width=600 height=1><br>This is a preview of the Color "
+               u"Scrollbars.  Color scrollbars will only appear in Internet Explorer 5.5 and "
+               u"above.";
+    case EffectKind::SlidingMessage:
+        return body + u"This is a preview of the Sliding Instant Message Window.  The window will "
+                      u"slide into view from the lower right-hand corner of your screen.";
+    case EffectKind::ThoughtBubbles:
+        return u"<br><br><br><br><br><br>" + body;
+    default:
+        return body;
+    }
+}
+
+Text PreviewHeadPart(const EffectPayload& effect, PreviewMode mode)
+{
+    // The embedded window must not shake.
+    if (effect.Kind == EffectKind::Earthquake && mode == PreviewMode::Inline)
+        return u"<script>function varlo_quake(){}</script>";
+    return effect.HEADHTML;
+}
+
+bool IsKnown(const Text& browser)
+{
+    return !browser.empty() && browser != u"c:\\";
+}
+
+/// The platform's browser command without what follows the program's name, and without quotes.
+Text BrowserProgram(TextView command)
+{
+    const std::size_t place = Find(command, u".exe", 4);
+    return ReplaceAll(place == 0 ? command : Left(command, place + 3), u"\"", u"");
+}
+
+/// The author's browser: the stored one, else the platform's, else one picked now; empty when the
+/// author picked none.
+Text FindBrowser(Workbench& bench)
+{
+    const Text stored = bench.Settings.Get(u"Apps", u"Browser", u"c:\\");
+    if (IsKnown(stored))
+        return stored;
+    bench.Core.IEVersion = std::monostate();
+    Text browser;
+    if (const auto command = bench.Shell.DefaultBrowser(); command && !command->empty()) {
+        bench.Core.IEVersion = *command;
+        browser = BrowserProgram(*command);
+    } else {
+        bench.Dialogs.Say(u"Browser statement not found in Windows Registry.\r\n"
+                          u"Select the file/path of the browser you wish to use.");
+        browser = bench.Dialogs
+                      .OpenFile({.Title = u"Select Browser...",
+                                 .Filter = u"All Files (*.*)|*.*|EXE Files (*.exe)|*.exe|"
+                                           u"BAT Files (*.bat)|*.bat",
+                                 .FilterIndex = 2})
+                      .value_or(Text());
+    }
+    if (!browser.empty())
+        bench.Settings.Put(u"Apps", u"Browser", browser);
+    return browser;
+}
+
+void ShowInBrowser(Workbench& bench, const std::function<void()>& showOptions)
+{
+    const Text browser = FindBrowser(bench);
+    const Text page = PreviewPagePath(bench.Core);
+    if (bench.Settings.Get(u"Apps", u"Override", u"0") == u"0") {
+        bench.Shell.OpenWithShell(page);
+        return;
+    }
+    if (bench.Shell.Start(browser, page))
+        return;
+    if (bench.Dialogs.Ask(
+            u"Could not locate browser using the specified path/filename found in the "
+            u"Windows Registry.  Check your Preference settings.  Would you like to "
+            u"view your settings now?",
+            u"Incorrect Browser path/filename"))
+        showOptions();
+}
+
+} // namespace
+
+Text PreviewPageText(const FinishedPayload& payload, PreviewMode mode)
+{
+    const EffectPayload& effect = payload.Effect;
+    const Text bannerText = BrowserPreviewBanner(effect.Kind, mode);
+    if (FindIgnoringCase(effect.BODYHTML, u"password.cgi") != 0)
+        return Fill(serverScriptPage,
+                    {{u"BrowserPreviewBanner", bannerText}, {u"PreviewCode", payload.PreviewCode}});
+    return Fill(previewPage, {{u"PreviewHeadPart", PreviewHeadPart(effect, mode)},
+                              {u"BODYAttribute", payload.BODYAttribute},
+                              {u"BrowserPreviewBanner", bannerText},
+                              {u"PreviewBodyPart", PreviewBodyPart(effect, mode)}});
+}
+
+Text PreviewPagePath(const OrvaneCore& core)
+{
+    return PathIn(core.ProgramFolder, u"ov-prvw.htm");
+}
+
+void LinkToBrowser(Workbench& bench, const FinishedPayload& payload, PreviewMode mode,
+                   const std::function<void()>& showOptions)
+{
+    // Two empty texts still have the line end between them.
+    if (payload.PreviewCode.empty()) {
+        bench.Dialogs.Say(u"There is no code in the preview window.  Cannot preview the special "
+                          u"effect.");
+        return;
+    }
+    const Text path = PreviewPagePath(bench.Core);
+    const std::string bytes =
+        EncodeForPage(PreviewPageText(payload, mode), PageEncoding::Windows1252);
+    const Done written = bench.Files.Replace(path, bytes);
+    if (const Fault* fault = FaultIn(written)) {
+        bench.Dialogs.Say(Words(*fault));
+        return;
+    }
+    if (mode == PreviewMode::Inline)
+        bench.Pane.Navigate(path);
+    else
+        ShowInBrowser(bench, showOptions);
+}
+
+} // namespace orvane

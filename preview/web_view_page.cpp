@@ -1,0 +1,209 @@
+#include "preview/web_view_page.h"
+
+#include "windows/qt_text.h"
+
+#include <QChildEvent>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineUrlRequestInfo>
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+constexpr QSize windowSize(480, 360);
+constexpr std::size_t mostWindows = 10;
+
+/// Whether the address is one that the author's own programs can be asked to open.
+bool IsForOutside(const QUrl& url)
+{
+    const QString scheme = url.scheme();
+    return scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
+           scheme == QLatin1String("mailto") || scheme == QLatin1String("file");
+}
+
+} // namespace
+
+bool FolderGuard::LetsThrough(const QUrl& url) const
+{
+    const QString scheme = url.scheme();
+    if (scheme == QLatin1String("data") || scheme == QLatin1String("blob"))
+        return true;
+    if (scheme == QLatin1String("about"))
+        return url.path() == QLatin1String("blank") || url.path() == QLatin1String("srcdoc");
+    return scheme == QLatin1String("file") && url.host().isEmpty() &&
+           m_folder.Holds(FromQt(url.toLocalFile()));
+}
+
+void FolderGuard::interceptRequest(QWebEngineUrlRequestInfo& request)
+{
+    if (!LetsThrough(request.requestUrl()))
+        request.block(true);
+}
+
+void PageRoom::CloseWindows()
+{
+    for (const QPointer<QWidget>& window : std::exchange(Windows, {}))
+        delete window.data();
+}
+
+PreviewWebPage::PreviewWebPage(QWebEngineProfile& profile, PageRoom& room, QWidget& view)
+    : QWebEnginePage(&profile, &view), m_room(room), m_view(view)
+{
+    RefusePrivileges();
+    connect(this, &QWebEnginePage::newWindowRequested, this, &PreviewWebPage::OpenWindow);
+    connect(this, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo& load) {
+        if (load.status() != QWebEngineLoadingInfo::LoadStartedStatus &&
+            m_room.Page.matches(load.url(), QUrl::RemoveFragment | QUrl::RemoveQuery))
+            m_room.Owner.PageRead();
+    });
+}
+
+void PreviewWebPage::RefusePrivileges()
+{
+    connect(this, &QWebEnginePage::featurePermissionRequested, this,
+            [this](const QUrl& origin, Feature feature) {
+                setFeaturePermission(origin, feature, PermissionDeniedByUser);
+            });
+    connect(this, &QWebEnginePage::fullScreenRequested, this,
+            [](QWebEngineFullScreenRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::quotaRequested, this,
+            [](QWebEngineQuotaRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+            [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+}
+
+/// Whether the page may go there. The page file is put back first, since a file that is not there
+/// counts as outside.
+bool PreviewWebPage::MayGoTo(const QUrl& url)
+{
+    if (m_room.Page.matches(url, QUrl::RemoveFragment | QUrl::RemoveQuery))
+        m_room.Owner.PageNeeded();
+    return url.scheme() == QLatin1String("javascript") || m_room.Guard.LetsThrough(url);
+}
+
+bool PreviewWebPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame)
+{
+    const bool mayGo = MayGoTo(url);
+    if (!mayGo && isMainFrame)
+        OfferOutside(url);
+    return mayGo;
+}
+
+void PreviewWebPage::OfferOutside(const QUrl& url)
+{
+    if (!IsForOutside(url))
+        return;
+    // The engine waits for this decision; the author is asked once it has it.
+    QTimer::singleShot(0, this, [this, url] {
+        const QString target = url.isLocalFile() ? url.toLocalFile() : url.toString();
+        m_room.Owner.OutsideWanted(FromQt(target), std::exchange(m_room.AuthorActed, false));
+    });
+}
+
+PageBoxReply PreviewWebPage::Answer(PageBox::Kind shape, const QString& words,
+                                    const QString& proposed)
+{
+    const bool inOther = std::exchange(m_room.BoxOpen, true);
+    const PageBoxReply reply = m_room.Owner.AnswerBox(
+        {.Shape = shape, .Words = FromQt(words), .Proposed = FromQt(proposed)});
+    m_room.BoxOpen = inOther;
+    if (!inOther && m_room.AfterBox)
+        std::exchange(m_room.AfterBox, nullptr)();
+    return reply;
+}
+
+void PreviewWebPage::javaScriptAlert(const QUrl&, const QString& words)
+{
+    Answer(PageBox::Kind::Alert, words);
+}
+
+bool PreviewWebPage::javaScriptConfirm(const QUrl&, const QString& words)
+{
+    return Answer(PageBox::Kind::Confirm, words).Accepted;
+}
+
+bool PreviewWebPage::javaScriptPrompt(const QUrl&, const QString& words, const QString& proposed,
+                                      QString* entered)
+{
+    const PageBoxReply reply = Answer(PageBox::Kind::Prompt, words, proposed);
+    *entered = ToQt(reply.Entered);
+    return reply.Accepted;
+}
+
+void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message,
+                                              int, const QString&)
+{
+    if (Reported && message.startsWith(m_room.Token))
+        Reported(message.mid(m_room.Token.size()));
+}
+
+QStringList PreviewWebPage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&)
+{
+    return {};
+}
+
+void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
+{
+    const QUrl url = request.requestedUrl();
+    if (!url.isEmpty() && !MayGoTo(url))
+        return OfferOutside(url);
+    std::erase_if(m_room.Windows, [](const auto& window) { return window.isNull(); });
+    if (m_room.Windows.size() >= mostWindows)
+        return;
+
+    auto* window = new QWidget(&m_view, Qt::Window);
+    window->setObjectName("PageWindow");
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    const QSize asked = request.requestedGeometry().size();
+    window->resize(asked.isEmpty() ? windowSize : asked);
+    auto* view = new PageView(m_room, window);
+    auto* page = new PreviewWebPage(*profile(), m_room, *view);
+    view->setPage(page);
+    auto* layout = new QVBoxLayout(window);
+    layout->setContentsMargins({});
+    layout->addWidget(view);
+    connect(page, &QWebEnginePage::titleChanged, window, &QWidget::setWindowTitle);
+    connect(page, &QWebEnginePage::windowCloseRequested, window, &QWidget::close);
+    connect(page, &QWebEnginePage::renderProcessTerminated, window, &QWidget::close);
+    connect(new QShortcut(Qt::Key_Escape, window), &QShortcut::activated, window, &QWidget::close);
+    m_room.Windows.emplace_back(window);
+    request.openIn(page);
+    window->show();
+}
+
+PageView::PageView(PageRoom& room, QWidget* parent) : QWebEngineView(parent), m_room(room)
+{
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+bool PageView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ChildPolished) {
+        // Clicks and keys go to a child that the engine puts in; page windows are children too.
+        auto* child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child());
+        if (child != nullptr && !child->isWindow()) {
+            child->setObjectName("PageSurface");
+            child->setAccessibleName("Preview of the page");
+            child->installEventFilter(this);
+        }
+    }
+    return QWebEngineView::event(event);
+}
+
+bool PageView::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress || type == QEvent::TouchBegin)
+        m_room.AuthorActed = true;
+    return QWebEngineView::eventFilter(watched, event);
+}
+
+} // namespace orvane

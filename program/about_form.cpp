@@ -1,0 +1,76 @@
+#include "program/about_form.h"
+
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+QLabel* AddWords(QDialog* window, TextView words, const QString& name = {})
+{
+    auto* label = new QLabel(ToQt(words), window);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignHCenter);
+    window->layout()->addWidget(label);
+    return label;
+}
+
+void AddLink(QDialog* window, const QString& name, TextView words, TextView address, Shell& shell)
+{
+    auto* link = new LinkLabel(name, words, window);
+    link->setAlignment(Qt::AlignHCenter);
+    QObject::connect(link, &LinkLabel::Followed, window,
+                     [&shell, target = Text(address)] { shell.OpenWithShell(target); });
+    window->layout()->addWidget(link);
+}
+
+void AddButton(QDialog* window, const QString& name, TextView caption)
+{
+    auto* box = new QDialogButtonBox(window);
+    QPushButton* button = box->addButton(ToQt(caption), QDialogButtonBox::AcceptRole);
+    button->setObjectName(name);
+    button->setDefault(true);
+    button->setFocus();
+    QObject::connect(button, &QPushButton::clicked, window, &QDialog::accept);
+    window->layout()->addWidget(box);
+}
+
+} // namespace
+
+AboutForm::AboutForm(Workbench& bench, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("About"));
+    setWindowTitle(QStringLiteral("About Orvane"));
+    new QVBoxLayout(this);
+    auto* picture = new QWidget(this);
+    PageBuilder(picture).Picture(QStringLiteral("orvane"), {96, 96});
+    layout()->addWidget(picture);
+    setMinimumWidth(360);
+    AddWords(this, Join({u"Version ", bench.Version, u" for Windows 95/98/NT/ME/2000/XP"}),
+             QStringLiteral("lblVersionInfo"));
+    AddLink(this, QStringLiteral("lblLink"), MakerSiteURL, MakerSiteURL, bench.Shell);
+    AddButton(this, QStringLiteral("cmdOK"), u"&OK");
+    OpenHelpOnF1(this, bench.Help, help_topics::contents);
+}
+
+DownloadForm::DownloadForm(Workbench& bench, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("DownloadOV"));
+    setWindowTitle(QStringLiteral("Orvane"));
+    new QVBoxLayout(this);
+    AddWords(this, u"Get the Netscape version of Orvane, or a newer browser, from these pages.  "
+                   u"Then start Orvane again.");
+    AddLink(this, QStringLiteral("lblDownloadOrvane"), u"Download the Netscape version of Orvane",
+            ProductPageURL, bench.Shell);
+    AddLink(this, QStringLiteral("lblDownloadBrowser"), u"Download Internet Explorer", MakerSiteURL,
+            bench.Shell);
+    AddButton(this, QStringLiteral("cmdClose"), u"&Close");
+}
+
+} // namespace orvane

@@ -1,0 +1,142 @@
+#include "program/form_desk.h"
+
+#include "delivery/make_dir_form.h"
+#include "delivery/preview_form.h"
+#include "effects/applet/advanced_animator_form.h"
+#include "effects/text/digital_clock_form.h"
+#include "effects/text/status_bar_ticker_form.h"
+#include "program/about_form.h"
+#include "program/options_form.h"
+#include "program/ov_main_form.h"
+#include "program/startup.h"
+#include "reedit/edit_applet_form.h"
+
+#include <QCoreApplication>
+
+namespace orvane {
+
+namespace {
+
+using WizardMaker = std::unique_ptr<WizardForm> (*)(Workbench&, QWidget*);
+
+template <class Form>
+std::unique_ptr<WizardForm> Make(Workbench& bench, QWidget* parent)
+{
+    return std::make_unique<Form>(bench, parent);
+}
+
+/// The window of an effect; null while it has none.
+WizardMaker MakerOf(EffectKind kind)
+{
+    switch (kind) {
+    case EffectKind::AdvancedAnimator:
+        return &Make<AdvancedAnimatorForm>;
+    case EffectKind::DigitalClock:
+        return &Make<DigitalClockForm>;
+    case EffectKind::StatusBarTicker:
+        return &Make<StatusBarTickerForm>;
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+FormDesk::FormDesk(Workbench& bench, QWidget* pane) : m_bench(bench), m_pane(pane) {}
+
+FormDesk::~FormDesk() = default;
+
+void FormDesk::Start()
+{
+    if (StartUp(m_bench) == FirstWindow::OVMain) {
+        ShowMainForm();
+    } else {
+        m_downloadForm = std::make_unique<DownloadForm>(m_bench);
+        connect(m_downloadForm.get(), &QDialog::finished, this, [] { QCoreApplication::quit(); });
+        m_downloadForm->show();
+    }
+    SetWizardParam(m_bench.Core);
+}
+
+void FormDesk::ShowMainForm()
+{
+    m_mainForm = std::make_unique<OVMainForm>(m_bench, &FormDesk::IsBuilt);
+    PrepareMainWindow(m_bench.Core);
+    connect(m_mainForm.get(), &OVMainForm::EffectWanted, this, &FormDesk::OpenEffect);
+    connect(m_mainForm.get(), &OVMainForm::EditAppletWanted, this, &FormDesk::EditApplet);
+    connect(m_mainForm.get(), &OVMainForm::PreferencesWanted, this,
+            [this] { ShowOptions(m_mainForm.get()); });
+    connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
+        AboutForm about(m_bench, m_mainForm.get());
+        ShowModally(about);
+    });
+    m_mainForm->show();
+}
+
+bool FormDesk::IsBuilt(EffectKind kind)
+{
+    return MakerOf(kind) != nullptr;
+}
+
+std::unique_ptr<WizardForm> FormDesk::MakeWizard(EffectKind kind, Workbench& bench, QWidget* parent)
+{
+    const WizardMaker maker = MakerOf(kind);
+    return maker == nullptr ? nullptr : maker(bench, parent);
+}
+
+void FormDesk::OpenEffect(const EffectCommand& command)
+{
+    const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get());
+    if (wizard == nullptr)
+        return;
+    emit WizardOpened();
+    while (true) {
+        ShowModally(*wizard);
+        const auto payload = wizard->TakePayload();
+        if (!payload)
+            return;
+        m_bench.Core.Payload = *payload;
+        if (ShowPreview(*payload) == DeliveryEnd::Finished)
+            return;
+    }
+}
+
+DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload)
+{
+    std::unique_ptr<PreviewForm> preview;
+    const PreviewWindows windows{
+        .ShowOptions = [&] { ShowOptions(preview.get()); },
+        .MakeFolder =
+            [&](TextView folder) {
+                MakeDirForm makeDir(m_bench, folder, preview.get());
+                ShowModally(makeDir);
+                return makeDir.NewFolder();
+            },
+    };
+    preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
+    ShowModally(*preview);
+    return preview->End();
+}
+
+void FormDesk::EditApplet()
+{
+    EditAppletForm form(m_bench, m_mainForm.get());
+    ShowModally(form);
+    // An effect that has no wizard yet opens none, and the author is told nothing.
+    if (const CatalogueRow* row = FindRow(form.Wanted()))
+        OpenEffect(*FindCommand(row->MenuCommand));
+    m_bench.Core.PastedApplet.clear();
+}
+
+void FormDesk::ShowOptions(QWidget* parent)
+{
+    OptionsForm options(m_bench, parent);
+    ShowModally(options);
+}
+
+void FormDesk::ShowModally(QDialog& window)
+{
+    window.exec();
+}
+
+} // namespace orvane

@@ -1,0 +1,76 @@
+#include "disk/disk_file_store.h"
+#include "disk/program_folder.h"
+#include "disk/settings_file.h"
+#include "disk/system_calls.h"
+#include "help/help_form.h"
+#include "preview/qt_preview_pane.h"
+#include "program/form_desk.h"
+#include "program/qt_dialogs.h"
+#include "program/qt_resources.h"
+#include "program/qt_shell.h"
+#include "windows/qt_text.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QIcon>
+#include <QTimer>
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int warmDelayMs = 400;
+
+std::optional<orvane::Text> EnvironmentVariable(orvane::TextView name)
+{
+    const char* value = std::getenv(orvane::ToUtf8(name).c_str());
+    if (value == nullptr)
+        return std::nullopt;
+    return orvane::FromUtf8(value);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Orvane"));
+    QApplication::setDesktopFileName(QStringLiteral("orvane"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    using namespace orvane;
+    const UserFolders folders = FindUserFolders(EnvironmentVariable);
+    PosixDisk disk;
+    DiskFileStore files(disk, folders.State);
+    SettingsFile settings(files, folders.Settings);
+    QtDialogs dialogs;
+    QtShell shell;
+    QtClipboard clipboard;
+    OrvaneCore core;
+    core.ProgramFolder = folders.Program;
+    QtPreviewPane pane(dialogs, shell, files);
+    HelpForm help(files, shell, folders.Program);
+
+    Workbench bench{.Core = core,
+                    .Dialogs = dialogs,
+                    .Files = files,
+                    .Settings = settings,
+                    .Shell = shell,
+                    .Clipboard = clipboard,
+                    .Pane = pane,
+                    .Help = help,
+                    .Version = ORVANE_VERSION,
+                    .StateFolder = folders.State,
+                    .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); }};
+    FormDesk desk(bench, &pane);
+    // An open wizard is the first sign of a preview to come; the author is still reading then.
+    QObject::connect(&desk, &FormDesk::WizardOpened, &pane,
+                     [&pane] { QTimer::singleShot(warmDelayMs, &pane, &QtPreviewPane::Warm); });
+    desk.Start();
+    // Behind the first paint of the window: the icon alone loads a library.
+    QTimer::singleShot(0, &desk, [&] {
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
+        InstallResources(files, dialogs, folders.Program);
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/dialogs.h"
+
+#include <QString>
+#include <QStringList>
+
+class QDialog;
+
+namespace orvane {
+
+/// One entry of a file dialog's list of kinds, as the toolkit writes it.
+QString QtNameFilter(TextView label, TextView masks);
+
+/// All entries of a filter text of labels and patterns separated by "|".
+QStringList QtNameFilters(TextView filter);
+
+/// The program's own way to ask: the toolkit's boxes and dialogs over the window in front.
+class QtDialogs : public Dialogs
+{
+public:
+    void Say(TextView words, Tone tone) override;
+    bool Ask(TextView words, TextView title) override;
+    std::optional<bool> AskOrCancel(TextView words, TextView title) override;
+    std::optional<Text> OpenFile(const FileRequest& request) override;
+    std::optional<Text> SaveFile(const FileRequest& request) override;
+    std::optional<Text> PickFolder(TextView title, TextView start) override;
+    std::optional<std::int32_t> PickColor() override;
+    FontChoice PickFont(const FontChoice& start) override;
+    PageBoxReply Answer(const PageBox& box) override;
+
+private:
+    std::optional<Text> PickFile(const FileRequest& request, bool isSave);
+    QString StartFolder(TextView wanted) const;
+
+    QString m_lastFolder; ///< where the last file dialog of this run ended
+};
+
+} // namespace orvane

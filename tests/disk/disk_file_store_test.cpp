@@ -1,0 +1,281 @@
+#include "disk/disk_file_store.h"
+#include "tests/support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace orvane::testing {
+namespace {
+
+class DiskFileStoreTest : public ::testing::Test
+{
+protected:
+    Done Replace(std::string_view name, std::string_view bytes = "new")
+    {
+        return Store.Replace(Folder.TextAt(name), bytes);
+    }
+    Done Copy(std::string_view from, std::string_view to)
+    {
+        return Store.Copy(Folder.TextAt(from), Folder.TextAt(to));
+    }
+    Outcome<std::string> Read(std::string_view name) const
+    {
+        return Store.Read(Folder.TextAt(name));
+    }
+
+    TestFolder Folder;
+    PosixDisk Disk;
+    DiskFileStore Store{Disk, Folder.TextAt("state")};
+};
+
+Done DoneOf(const Outcome<std::string>& read)
+{
+    if (const Fault* fault = FaultIn(read))
+        return *fault;
+    return {};
+}
+
+TEST_F(DiskFileStoreTest, GivesEachFailureItsNumber)
+{
+    Folder.MakeFolder("folder");
+    Folder.Put("file", "old");
+    Folder.Link("loop", "loop");
+    ASSERT_EQ(::mkfifo(Folder.At("pipe").c_str(), 0600), 0);
+    struct Row
+    {
+        const char* Name;
+        Fault Reading, Writing;
+    };
+    constexpr Fault none{};
+    const Row rows[] = {{"missing", Fault::FileNotFound, none},
+                        {"no/file", Fault::PathNotFound, Fault::PathNotFound},
+                        {"file/file", Fault::PathNotFound, Fault::PathNotFound},
+                        {"folder", Fault::PathFileAccess, Fault::PathFileAccess},
+                        {"folder/", Fault::PathFileAccess, Fault::PathFileAccess},
+                        {"pipe", Fault::PathFileAccess, Fault::PathFileAccess},
+                        {"loop", Fault::BadFileName, Fault::BadFileName}};
+    for (const auto& [name, reading, writing] : rows) {
+        EXPECT_EQ(DoneOf(Read(name)), Done(reading)) << name;
+        EXPECT_EQ(Copy(name, "file"), Done(reading)) << name;
+        EXPECT_FALSE(Store.FileExists(Folder.TextAt(name))) << name;
+        EXPECT_EQ(Replace(name), writing == none ? Done() : Done(writing)) << name;
+        EXPECT_EQ(Copy("file", name), writing == none ? Done() : Done(writing)) << name;
+    }
+    EXPECT_EQ(Store.Remove(Folder.TextAt("absent")), Done(Fault::FileNotFound));
+    EXPECT_EQ(Store.Remove(Folder.TextAt("no/file")), Done(Fault::PathNotFound));
+    EXPECT_EQ(Store.Remove(Folder.TextAt("folder")), Done(Fault::PathFileAccess));
+    EXPECT_EQ(Store.MakeFolder(Folder.TextAt("folder")), Done(Fault::PathFileAccess));
+    EXPECT_EQ(Store.MakeFolder(Folder.TextAt("no/folder")), Done(Fault::PathNotFound));
+    EXPECT_EQ(Store.MakeFolder(u"/"), Done(Fault::PathFileAccess));
+    EXPECT_EQ(Folder.Get("file"), "old");
+}
+
+TEST_F(DiskFileStoreTest, PathsAreUtf8AndWhatCannotBeOneIsABadFileName)
+{
+    EXPECT_EQ(Store.Replace(Folder.TextAt("") + u"Größe \U0001F600.html", "new"), Done());
+    EXPECT_EQ(Folder.Get("Gr\xC3\xB6\xC3\x9F"
+                         "e \xF0\x9F\x98\x80.html"),
+              "new");
+    for (const Text& path : {Text(), Text(u"a\0b", 3), Text(1, char16_t(0xD83D))}) {
+        EXPECT_EQ(DoneOf(Store.Read(path)), Done(Fault::BadFileName));
+        EXPECT_EQ(Store.Replace(path, ""), Done(Fault::BadFileName));
+        EXPECT_EQ(Store.Remove(path), Done(Fault::BadFileName));
+        EXPECT_EQ(Store.MakeFolder(path), Done(Fault::BadFileName));
+        EXPECT_FALSE(Store.FileExists(path));
+    }
+}
+
+TEST_F(DiskFileStoreTest, NewFileHasTheModeThatTheUmaskLeaves)
+{
+    const mode_t before = ::umask(027);
+    EXPECT_EQ(Replace("page"), Done());
+    EXPECT_EQ(Store.MakeFolder(Folder.TextAt("folder/")), Done());
+    ::umask(before);
+    EXPECT_EQ(Folder.Status("page").st_mode, S_IFREG | 0640u);
+    EXPECT_EQ(Folder.Status("folder").st_mode, S_IFDIR | 0750u);
+}
+
+TEST_F(DiskFileStoreTest, ReplacedFileKeepsModeAndOwner)
+{
+    Folder.Put("page", "old");
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(Folder.At("page").c_str(), 1234, 4321), 0);
+    }
+    ::chmod(Folder.At("page").c_str(), 0604);
+    const auto before = Folder.Status("page");
+    EXPECT_EQ(Replace("page"), Done());
+    const auto after = Folder.Status("page");
+    EXPECT_NE(after.st_ino, before.st_ino) << "it was not written beside and renamed";
+    EXPECT_EQ(after.st_mode, before.st_mode);
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_gid, before.st_gid);
+}
+
+TEST_F(DiskFileStoreTest, FollowsLinksAndLeavesThemLinks)
+{
+    Folder.MakeFolder("site");
+    Folder.Put("site/real", "old");
+    Folder.Link("site/second", "first");
+    Folder.Link("real", "site/second");
+    Folder.Link(Folder.At("site/later"), "dangling");
+    EXPECT_EQ(Replace("first"), Done());
+    EXPECT_EQ(Replace("dangling"), Done());
+    EXPECT_TRUE(S_ISLNK(Folder.Status("first").st_mode));
+    EXPECT_TRUE(S_ISLNK(Folder.Status("site/second").st_mode));
+    EXPECT_TRUE(S_ISLNK(Folder.Status("dangling").st_mode));
+    EXPECT_EQ(Folder.Get("site/real"), "new");
+    EXPECT_EQ(Folder.Get("site/later"), "new");
+}
+
+TEST_F(DiskFileStoreTest, FileOfSeveralNamesStaysOneFile)
+{
+    Folder.Put("page", "old and longer");
+    Folder.HardLink("page", "alias");
+    EXPECT_EQ(Replace("page"), Done());
+    EXPECT_EQ(Folder.Status("page").st_ino, Folder.Status("alias").st_ino);
+    EXPECT_EQ(Folder.Get("alias"), "new");
+    EXPECT_EQ(Folder.Names(""), (std::vector<std::string>{"alias", "page"}));
+}
+
+TEST_F(DiskFileStoreTest, AccessListIsKept)
+{
+    // Version 2; owner rw-, user 1234 r--, group ---, mask r--, others ---.
+    const unsigned char list[] = {2,    0,    0,    0,    1,    0,    6,    0,    0xFF, 0xFF, 0xFF,
+                                  0xFF, 2,    0,    4,    0,    0xD2, 0x04, 0,    0,    4,    0,
+                                  0,    0,    0xFF, 0xFF, 0xFF, 0xFF, 0x10, 0,    4,    0,    0xFF,
+                                  0xFF, 0xFF, 0xFF, 0x20, 0,    0,    0,    0xFF, 0xFF, 0xFF, 0xFF};
+    constexpr const char* name = "system.posix_acl_access";
+    Folder.Put("page", "old");
+    if (::setxattr(Folder.At("page").c_str(), name, list, sizeof list, 0) != 0)
+        GTEST_SKIP() << "no access lists here";
+    EXPECT_EQ(Replace("page"), Done());
+    EXPECT_EQ(Folder.Get("page"), "new");
+    EXPECT_EQ(::getxattr(Folder.At("page").c_str(), name, nullptr, 0), ssize_t(sizeof list));
+}
+
+TEST_F(DiskFileStoreTest, CopyOntoItselfDoesNothing)
+{
+    Folder.Put("page", "old");
+    Folder.Link("page", "link");
+    const auto before = Folder.Status("page");
+    EXPECT_EQ(Copy("page", "link"), Done());
+    EXPECT_EQ(Folder.Status("page").st_ino, before.st_ino);
+    EXPECT_EQ(Copy("link", "copy"), Done());
+    EXPECT_EQ(Folder.Get("copy"), "old");
+}
+
+TEST_F(DiskFileStoreTest, ListsFilesAndFoldersSortedIgnoringCase)
+{
+    for (const char* name : {"b.gif", "A.gif", "C.gif", "\xFF.gif", ".orvane-12.recovery"})
+        Folder.Put(name, "");
+    for (const char* name : {"Zoo", "art"})
+        Folder.MakeFolder(name);
+    ASSERT_EQ(::mkfifo(Folder.At("pipe").c_str(), 0600), 0);
+    Folder.Link("A.gif", "a-link");
+    Folder.Link("art", "more");
+    Folder.Link("nowhere", "dangling");
+    EXPECT_EQ(Store.Files(Folder.TextAt("")),
+              (std::vector<Text>{u"a-link", u"A.gif", u"b.gif", u"C.gif"}));
+    EXPECT_EQ(ValueIn(Store.SubFolders(Folder.TextAt(""))),
+              (std::vector<Text>{u"art", u"more", u"Zoo"}));
+    EXPECT_EQ(std::get<Fault>(Store.SubFolders(Folder.TextAt("none"))), Fault::PathNotFound);
+    EXPECT_EQ(std::get<Fault>(Store.SubFolders(Folder.TextAt("b.gif"))), Fault::PathNotFound);
+    EXPECT_TRUE(Store.Files(Folder.TextAt("none")).empty());
+    EXPECT_TRUE(Store.FolderExists(Folder.TextAt("more")));
+    EXPECT_FALSE(Store.FolderExists(Folder.TextAt("b.gif")));
+}
+
+TEST_F(DiskFileStoreTest, RemovesOnlyTemporaryFilesThatNobodyWrites)
+{
+    for (const char* name : {".orvane-0123456789abcdef.tmp", ".orvane-fedcba9876543210.tmp",
+                             ".orvane-page.tmp", ".orvane-0123456789abcdef.html"})
+        Folder.Put(name, "");
+    const int writer = ::open(Folder.At(".orvane-fedcba9876543210.tmp").c_str(), O_RDWR);
+    ASSERT_EQ(::flock(writer, LOCK_EX), 0);
+    EXPECT_EQ(Replace("page"), Done());
+    ::close(writer);
+    EXPECT_EQ(Folder.Names(""), (std::vector<std::string>{".orvane-0123456789abcdef.html",
+                                                          ".orvane-fedcba9876543210.tmp",
+                                                          ".orvane-page.tmp", "page"}));
+}
+
+class OrdinaryUserTest : public ::testing::Test
+{
+protected:
+    OrdinaryUser User;
+    TestFolder Folder;
+    PosixDisk Disk;
+    DiskFileStore Store{Disk, Folder.TextAt("state")};
+};
+
+TEST_F(OrdinaryUserTest, ReadOnlyFileIsNotReplaced)
+{
+    Folder.Put("page", "old", 0444);
+    EXPECT_EQ(Store.Replace(Folder.TextAt("page"), "new"), Done(Fault::PermissionDenied));
+    EXPECT_EQ(Folder.Get("page"), "old");
+    EXPECT_EQ(Folder.Names(""), std::vector<std::string>{"page"});
+}
+
+TEST_F(OrdinaryUserTest, UnreadableFileOrFolderHasNothingToShow)
+{
+    Folder.Put("page", "old", 0200);
+    Folder.MakeFolder("shut", 0);
+    EXPECT_FALSE(Store.FileExists(Folder.TextAt("page")));
+    EXPECT_EQ(DoneOf(Store.Read(Folder.TextAt("page"))), Done(Fault::PermissionDenied));
+    EXPECT_EQ(DoneOf(Store.Read(Folder.TextAt("shut/page"))), Done(Fault::PermissionDenied));
+    EXPECT_EQ(std::get<Fault>(Store.SubFolders(Folder.TextAt("shut"))), Fault::PermissionDenied);
+}
+
+TEST_F(OrdinaryUserTest, FileInAFolderThatMayNotBeWrittenIsWrittenInPlace)
+{
+    Folder.MakeFolder("site");
+    Folder.Put("site/page", "old and longer");
+    ASSERT_EQ(::chmod(Folder.At("site").c_str(), 0555), 0);
+    const auto before = Folder.Status("site/page");
+    EXPECT_EQ(Store.Replace(Folder.TextAt("site/page"), "new"), Done());
+    EXPECT_EQ(Folder.Get("site/page"), "new");
+    EXPECT_EQ(Folder.Status("site/page").st_ino, before.st_ino);
+    EXPECT_TRUE(Folder.Names("state").empty());
+    EXPECT_EQ(Folder.Status("state").st_mode & 07777, 0700u);
+    EXPECT_EQ(Store.Replace(Folder.TextAt("site/other"), "new"), Done(Fault::PermissionDenied));
+}
+
+TEST_F(OrdinaryUserTest, WithoutAPlaceForARecoveryCopyNothingIsWritten)
+{
+    Folder.MakeFolder("site");
+    Folder.Put("site/page", "old");
+    Folder.Put("file", "");
+    Folder.MakeFolder("shut", 0);
+    ASSERT_EQ(::chmod(Folder.At("site").c_str(), 0555), 0);
+    for (const char* state : {"no/state", "file", "shut", "shut/state"}) {
+        DiskFileStore store(Disk, Folder.TextAt(state));
+        EXPECT_EQ(store.Replace(Folder.TextAt("site/page"), "new"), Done(Fault::PermissionDenied))
+            << state;
+        EXPECT_EQ(ValueIn(store.Read(Folder.TextAt("site/page"))), "old") << state;
+    }
+    EXPECT_EQ(DiskFileStore(Disk, u"").Replace(Folder.TextAt("site/page"), "new"),
+              Done(Fault::PermissionDenied));
+}
+
+TEST(ForeignFileTest, FileOfAnotherOwnerIsWrittenInPlaceAndStaysTheirs)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs a second user";
+    const TestFolder folder;
+    folder.MakeFolder("site", 0777);
+    folder.Put("site/page", "old", 0666);
+    ASSERT_EQ(::chmod(folder.At("").c_str(), 0755), 0);
+    const OrdinaryUser user;
+    PosixDisk disk;
+    EXPECT_EQ(DiskFileStore(disk, u"").Replace(folder.TextAt("site/page"), "new"), Done());
+    EXPECT_EQ(folder.Get("site/page"), "new");
+    EXPECT_EQ(folder.Status("site/page").st_uid, 0u);
+    EXPECT_EQ(folder.Names("site"), std::vector<std::string>{"page"});
+}
+
+} // namespace
+} // namespace orvane::testing

@@ -1,0 +1,129 @@
+#include "disk/in_place_writer.h"
+
+#include "disk/disk_file_store.h"
+#include "tests/support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace orvane::testing {
+namespace {
+
+class InPlaceWriterTest : public ::testing::Test
+{
+protected:
+    Done Replace(std::string_view name) { return Store.Replace(Folder.TextAt(name), "new"); }
+    Outcome<std::string> Read(std::string_view name) const
+    {
+        return Store.Read(Folder.TextAt(name));
+    }
+
+    /// A page that several names share, half overwritten by a program that was killed.
+    std::string LeaveHalfWritten(std::string_view bytes)
+    {
+        Folder.Put("page", bytes);
+        Folder.HardLink("page", "alias");
+        std::array<char, 32> name{};
+        std::snprintf(name.data(), name.size(), ".orvane-%lx.recovery",
+                      Folder.Status("page").st_ino);
+        Folder.Put(name.data(), WriteRecoveryCopy({"page", "old bytes", "the new ones"}));
+        return name.data();
+    }
+
+    TestFolder Folder;
+    PosixDisk Disk;
+    DiskFileStore Store{Disk, Folder.TextAt("state")};
+};
+
+TEST_F(InPlaceWriterTest, HalfWrittenFileGetsItsOldBytesBackUnderEachOfItsNames)
+{
+    const std::string copy = LeaveHalfWritten("the newes");
+    EXPECT_EQ(ValueIn(Read("alias")), "old bytes");
+    EXPECT_EQ(Folder.Get("page"), "old bytes");
+    EXPECT_FALSE(Folder.Get(copy));
+}
+
+TEST_F(InPlaceWriterTest, WhollyWrittenFileKeepsItsNewBytes)
+{
+    const std::string copy = LeaveHalfWritten("the new ones");
+    EXPECT_EQ(ValueIn(Read("page")), "the new ones");
+    EXPECT_FALSE(Folder.Get(copy));
+}
+
+TEST_F(InPlaceWriterTest, FileThatWasMendedSinceStaysAndItsRecoveryCopyToo)
+{
+    const std::string copy = LeaveHalfWritten("my own page");
+    EXPECT_EQ(ValueIn(Read("page")), "my own page");
+    EXPECT_FALSE(Folder.Get(copy));
+    EXPECT_TRUE(Folder.Get(copy + ".kept"));
+}
+
+TEST_F(InPlaceWriterTest, NeitherReadsNorWritesInPlaceWhileAnotherProgramDoes)
+{
+    const std::string copy = LeaveHalfWritten("the newes");
+    const int writer = ::open(Folder.At("page").c_str(), O_RDWR);
+    ASSERT_EQ(::flock(writer, LOCK_EX), 0);
+    EXPECT_EQ(std::get<Fault>(Read("page")), Fault::PermissionDenied);
+    ASSERT_EQ(::unlink(Folder.At(copy).c_str()), 0);
+    EXPECT_EQ(Replace("page"), Done(Fault::PermissionDenied));
+    EXPECT_EQ(Folder.Get("page"), "the newes");
+    ::close(writer);
+    EXPECT_EQ(Replace("page"), Done());
+}
+
+TEST_F(InPlaceWriterTest, RecoveryCopyOfAStrangerIsPassedOver)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs a second user";
+    const std::string copy = LeaveHalfWritten("the newes");
+    ASSERT_EQ(::chown(Folder.At(copy).c_str(), 1234, 1234), 0);
+    EXPECT_EQ(ValueIn(Read("page")), "the newes");
+}
+
+struct HalfWrittenRow
+{
+    const char* Content;
+    std::size_t Size;
+    bool Expected;
+};
+
+class HalfWrittenTest : public ::testing::TestWithParam<HalfWrittenRow>
+{
+};
+
+TEST_P(HalfWrittenTest, TellsAnOverwritingCutShortFromAnotherContent)
+{
+    const std::string_view content(GetParam().Content, GetParam().Size);
+    const RecoveryCopy growing{"", "abc", "ABCDEF"};
+    const RecoveryCopy shrinking{"", "ABCDEF", "abc"};
+    EXPECT_EQ(IsHalfWritten(content, growing), GetParam().Expected);
+    // A gap of zeros can only lie behind the old end.
+    if (content.find('\0') == content.npos) {
+        EXPECT_EQ(IsHalfWritten(content, shrinking), GetParam().Expected);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Contents, HalfWrittenTest,
+    ::testing::Values(HalfWrittenRow{"abc", 3, true}, HalfWrittenRow{"ABCDEF", 6, true},
+                      HalfWrittenRow{"ABcD", 4, true}, HalfWrittenRow{"Abc\0\0F", 6, true},
+                      HalfWrittenRow{"A\0c", 3, false}, HalfWrittenRow{"AB", 2, false},
+                      HalfWrittenRow{"ABCDEFG", 7, false}, HalfWrittenRow{"ABCDeF", 6, false}));
+
+TEST(RecoveryCopyTest, IsReadWholeOrNotAtAll)
+{
+    const RecoveryCopy copy{"/a page\n.html", std::string("old\0 1 of", 9), "new\r\n"};
+    const std::string bytes = WriteRecoveryCopy(copy);
+    EXPECT_EQ(ReadRecoveryCopy(bytes), copy);
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+        EXPECT_FALSE(ReadRecoveryCopy(std::string_view(bytes).substr(0, size)));
+    EXPECT_FALSE(ReadRecoveryCopy(bytes + "x"));
+}
+
+} // namespace
+} // namespace orvane::testing

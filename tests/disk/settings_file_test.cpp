@@ -1,0 +1,96 @@
+#include "disk/settings_file.h"
+
+#include "disk/program_folder.h"
+#include "tests/support/doubles.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::FakeFileStore;
+
+constexpr TextView orvane = u"Orvane";
+
+TEST(SettingsFileTest, GivesTheDefaultUntilSomethingIsStored)
+{
+    FakeFileStore files;
+    SettingsFile settings(files, u"/home/a/.config/orvane");
+    EXPECT_EQ(settings.Get(u"Misc", u"DefaultPath", u"c:\\", orvane), u"c:\\");
+    settings.Put(u"Misc", u"DefaultPath", u"", orvane);
+    EXPECT_EQ(settings.Get(u"Misc", u"DefaultPath", u"c:\\", orvane), u"");
+    EXPECT_TRUE(files.Folders.contains(u"/home/a/.config/orvane"));
+}
+
+TEST(SettingsFileTest, KeepsOneFileForEachApplicationAndSectionsApart)
+{
+    FakeFileStore files;
+    SettingsFile settings(files, u"/c");
+    settings.Put(u"Apps", u"Override", u"1", orvane);
+    settings.Put(u"Misc", u"Override", u"0", orvane);
+    settings.Put(u"Miscellaneous", u"EmailAddress", u"a@b.example", u"Page Loom");
+    EXPECT_EQ(settings.Get(u"Apps", u"Override", u"", orvane), u"1");
+    EXPECT_EQ(settings.Get(u"Misc", u"Override", u"", orvane), u"0");
+    EXPECT_EQ(settings.Get(u"Miscellaneous", u"EmailAddress", u"none", orvane), u"none");
+    EXPECT_EQ(files.Contents.at(u"/c/Orvane.conf"), "[Apps]\nOverride=1\n[Misc]\nOverride=0\n");
+    EXPECT_TRUE(files.Contents.contains(u"/c/Page Loom.conf"));
+}
+
+TEST(SettingsFileTest, AnyTextComesBackAsItWentIn)
+{
+    for (const TextView odd : {u"a=b]c[d", u"line\r\nbreak", u"c:\\new\\r", u" blanks ", u"\\",
+                               u"ü \u20ac \U0001F600", u"[Misc]", u"=x"}) {
+        FakeFileStore files;
+        SettingsFile settings(files, u"/c");
+        settings.Put(odd, odd, odd, orvane);
+        EXPECT_EQ(settings.Get(odd, odd, u"lost", orvane), odd) << ToUtf8(odd);
+    }
+}
+
+TEST(SettingsFileTest, PassesOverWhatIsNoSetting)
+{
+    const SettingsTable table = ReadSettings("junk\n[Misc\nA=1\n\xFF\n=\nB\n[X]\nA=2");
+    EXPECT_EQ(table.at({u"Misc", u"A"}), u"1");
+    EXPECT_EQ(table.at({u"X", u"A"}), u"2");
+}
+
+TEST(SettingsFileTest, UnreadableFileIsNeverWrittenOver)
+{
+    FakeFileStore files;
+    files.Contents[u"/c/Orvane.conf"] = "[Misc]\nHTMLEditor=Other\n";
+    files.FailOn(u"/c/Orvane.conf", Fault::PermissionDenied);
+    SettingsFile settings(files, u"/c");
+    EXPECT_EQ(settings.Get(u"Misc", u"HTMLEditor", u"", orvane), u"");
+    settings.Put(u"Misc", u"DefaultPath", u"/x", orvane);
+    EXPECT_TRUE(files.Writes.empty());
+}
+
+TEST(ProgramFolderTest, FollowsTheDesktopsConventionsAndItsOwnVariable)
+{
+    std::map<Text, Text> variables{{u"HOME", u"/home/a"}, {u"XDG_CONFIG_HOME", u"relative"}};
+    const Environment environment = [&](TextView name) -> std::optional<Text> {
+        const auto found = variables.find(Text(name));
+        return found == variables.end() ? std::nullopt : std::optional(found->second);
+    };
+    UserFolders folders = FindUserFolders(environment);
+    EXPECT_EQ(folders.Program, u"/home/a/.local/share/orvane");
+    EXPECT_EQ(folders.Settings, u"/home/a/.config/orvane");
+    EXPECT_EQ(folders.State, u"/home/a/.local/state/orvane");
+    variables[u"XDG_DATA_HOME"] = u"/data";
+    EXPECT_EQ(FindUserFolders(environment).Program, u"/data/orvane");
+    variables[u"ORVANE_HOME"] = u"/tmp/o";
+    EXPECT_EQ(FindUserFolders(environment).Program, u"/tmp/o");
+}
+
+TEST(ProgramFolderTest, InstallsAFileOnlyWhenItDiffers)
+{
+    FakeFileStore files;
+    EXPECT_EQ(FaultIn(InstallFile(files, u"/p/a", "1")), nullptr);
+    EXPECT_EQ(FaultIn(InstallFile(files, u"/p/a", "1")), nullptr);
+    EXPECT_EQ(files.Writes.size(), 1u);
+    EXPECT_EQ(FaultIn(InstallFile(files, u"/p/a", "2")), nullptr);
+    EXPECT_EQ(files.Contents.at(u"/p/a"), "2");
+}
+
+} // namespace
+} // namespace orvane

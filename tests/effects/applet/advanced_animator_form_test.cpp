@@ -1,0 +1,201 @@
+#include "effects/applet/advanced_animator_form.h"
+
+#include "effects/applet/animation_project.h"
+#include "effects/applet/img_props_form.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class AdvancedAnimatorFormTest : public ::testing::Test
+{
+protected:
+    AdvancedAnimatorFormTest()
+    {
+        m_desk.Files.Folders = {u"/", u"/pics"};
+        for (const TextView name : {u"a.gif", u"b.gif", u"c.jpg"})
+            m_desk.Files.Contents[Join({u"/pics/", name})] = "no picture";
+        m_desk.Core.DefaultPath = u"/pics";
+    }
+
+    AdvancedAnimatorForm& Form()
+    {
+        if (!m_form) {
+            m_form = std::make_unique<AdvancedAnimatorForm>(m_desk.Bench);
+            m_form->show();
+        }
+        return *m_form;
+    }
+
+    void AddImage(int row)
+    {
+        Find<QListWidget>(Form(), "File1")->setCurrentRow(row);
+        Click(Form(), "cmdAddToImageList");
+    }
+
+    void Choose(const char* command) { Form().findChild<QAction*>(command)->trigger(); }
+
+    /// Double clicks a row of a list and gives the window that comes.
+    ImgPropsForm* OpenProperties(const char* list, int row)
+    {
+        auto* images = Find<QListWidget>(Form(), list);
+        images->setCurrentRow(row);
+        emit images->itemDoubleClicked(images->item(row));
+        return Form().findChild<ImgPropsForm*>();
+    }
+
+    FakeDesk m_desk;
+    std::unique_ptr<AdvancedAnimatorForm> m_form;
+};
+
+TEST_F(AdvancedAnimatorFormTest, DoneHandsTheTypedAnimationOver)
+{
+    AddImage(0);
+    AddImage(1);
+    Type(Form(), "Text20", u"320");
+    Type(Form(), "Text21", u"200");
+    m_desk.Dialogs.AnswerColor(0x0080FF);
+    Click(Form(), "Label16");
+    Find<QComboBox>(Form(), "Combo3")->setCurrentIndex(10);
+    Click(Form(), "cmdDone");
+    RequiredFiles required;
+    required.Names = {u"a.gif", u"b.gif"};
+    required.Sources = {u"/pics/a.gif", u"/pics/b.gif"};
+    const AdvancedAnimator expected{.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
+                                    .AnimationWidth = u"320",
+                                    .AnimationHeight = u"200",
+                                    .LoopCount = u"10 times",
+                                    .BackgroundColor = u"255,128,0"};
+    EXPECT_EQ(Form().TakePayload(), Generate(expected, required));
+    EXPECT_FALSE(Form().isVisible());
+    EXPECT_EQ(Form().Parameters(), expected);
+}
+
+TEST_F(AdvancedAnimatorFormTest, AFreshWindowHasTheDefaultsAndGivesBackWhatItIsGiven)
+{
+    EXPECT_EQ(Form().Parameters(), AdvancedAnimator());
+    const AdvancedAnimator odd{.Rows = {{u" a.gif", u"-1", u"scroll(r)", u"\"u", u"s.au"}, {}},
+                               .AnimationWidth = u"\"1",
+                               .AnimationHeight = u" ",
+                               .LoopCount = u"\"3",
+                               .BackgroundColor = u"\"1,2,3"};
+    Form().SetParameters(odd);
+    EXPECT_EQ(Form().Parameters(), odd);
+}
+
+TEST_F(AdvancedAnimatorFormTest, ComplaintsKeepTheWindowOpen)
+{
+    AddImage(0);
+    Click(Form(), "cmdDone");
+    EXPECT_EQ(m_desk.Dialogs.LastTone, Tone::Exclamation);
+    AddImage(1);
+    Form().activateWindow();
+    Click(Form(), "cmdDone");
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              (std::vector<Text>{
+                  u"You must insert more than one image into the Animation Image List.",
+                  u"Animation width and height properties are required.  Please enter them."}));
+    EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("Text20"));
+    EXPECT_EQ(Form().TakePayload(), std::nullopt);
+}
+
+TEST_F(AdvancedAnimatorFormTest, PropertiesGoIntoTheSelectedRow)
+{
+    AddImage(0);
+    AddImage(1);
+    EXPECT_FALSE(Find<QPushButton>(Form(), "SetPropsButton")->isEnabled());
+    Choose("mnuSetProperties");
+    EXPECT_EQ(Form().findChild<ImgPropsForm*>(), nullptr);
+
+    ImgPropsForm* properties = OpenProperties("List5", 1);
+    ASSERT_NE(properties, nullptr);
+    EXPECT_TRUE(Find<QPushButton>(Form(), "SetPropsButton")->isEnabled());
+    Type(*properties, "Text2", u"WWW.example.com");
+    Find<QComboBox>(*properties, "Combo3")->setEditText(QStringLiteral("squish"));
+    Type(*properties, "Combo1", u"6");
+    Click(*properties, "cmdOK");
+    const ImageRow expected{.FileName = u"b.gif",
+                            .Pause = u"100",
+                            .Transition = u"squish(6)",
+                            .URL = u"http://WWW.example.com"};
+    EXPECT_EQ(Form().Parameters().Rows.at(1), expected);
+    EXPECT_EQ(Find<QListWidget>(Form(), "List4")->item(1)->text(), QStringLiteral("squish(6)"));
+    EXPECT_EQ(Find<QListWidget>(Form(), "List1")->currentRow(), 1);
+
+    LetRun();
+    Click(Form(), "SetPropsButton");
+    properties = Form().findChild<ImgPropsForm*>();
+    ASSERT_NE(properties, nullptr);
+    Type(*properties, "Text2", u"x");
+    Press(*properties, Qt::Key_Escape);
+    EXPECT_EQ(Form().Parameters().Rows.at(1), expected);
+}
+
+TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnew)
+{
+    Choose("mnuFileSave");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              std::vector<Text>{u"You must enter an image into the Animation Image List."});
+    AddImage(0);
+    Choose("mnuFileSave");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              std::vector<Text>{u"Please enter the animation width and height properties."});
+    Type(Form(), "Text20", u"1");
+    Type(Form(), "Text21", u"2");
+    m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
+    Choose("mnuFileSave");
+    EXPECT_EQ(m_desk.Files.Contents[u"/film.ovn"], ProjectBytes(Form().Parameters()));
+
+    m_desk.Dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", true);
+    Choose("mnuFileNew");
+    EXPECT_EQ(m_desk.Dialogs.Titles.back(), u"Advanced Animation Wizard");
+    EXPECT_EQ(Form().Parameters(), AdvancedAnimator());
+
+    m_desk.Dialogs.AnswerOpenFile(u"/film.ovn");
+    const RequiredFiles required = m_desk.Core.Required;
+    Choose("mnuFileOpen");
+    EXPECT_EQ(Form().Parameters(), ReadProject(m_desk.Files.Contents[u"/film.ovn"]));
+    EXPECT_EQ(m_desk.Core.Required, required);
+
+    Choose("mnuFileReturnToMainMenu");
+    EXPECT_FALSE(Form().isVisible());
+    EXPECT_EQ(Form().TakePayload(), std::nullopt);
+}
+
+TEST_F(AdvancedAnimatorFormTest, OpensFilledFromAPastedTagWhileAnEditIsOn)
+{
+    m_desk.Core.EditMode = true;
+    m_desk.Core.AppletText = u"\"Animate";
+    m_desk.Core.PastedApplet =
+        Generate(
+            {.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}}, .AnimationWidth = u"20"}, {})
+            .BODYHTML;
+    EXPECT_EQ(Form().Parameters(),
+              ReadAdvancedAnimator(m_desk.Core.PastedApplet, m_desk.Core.AppletText));
+    EXPECT_EQ(WordsOf(Form(), "Text20"), u"\"20");
+    EXPECT_EQ(Find<QListWidget>(Form(), "List1")->count(), 2);
+    EXPECT_FALSE(m_desk.Core.EditMode);
+}
+
+TEST_F(AdvancedAnimatorFormTest, MenusHaveTheirCommandsInOrder)
+{
+    std::vector<Text> commands;
+    for (const char* menu : {"mnuFile", "mnuProperties"})
+        for (const QAction* action : Form().findChild<QMenu*>(menu)->actions())
+            commands.push_back(Text(reinterpret_cast<const char16_t*>(action->text().utf16()),
+                                    static_cast<std::size_t>(action->text().size())));
+    EXPECT_EQ(commands, (std::vector<Text>{u"&New", u"&Open...", u"&Save...",
+                                           u"&Return to Main menu", u"Set &Properties..."}));
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,225 @@
+#include "effects/applet/animation_project.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+AdvancedAnimator TwoImages()
+{
+    return {.Rows = {{.FileName = u"a.gif", .Transition = u"slidein(3)"},
+                     {.FileName = u"b.gif", .Pause = u"-1"}},
+            .AnimationWidth = u"200",
+            .AnimationHeight = u"100",
+            .BackgroundColor = u"255,0,0"};
+}
+
+/// What comes back of TwoImages(): empty texts are written in words.
+AdvancedAnimator TwoImagesRead()
+{
+    AdvancedAnimator read = TwoImages();
+    read.Rows[0] = {u"a.gif", u"100", u"slidein(3)", u"null", u"null"};
+    read.Rows[1] = {u"b.gif", u"-1", u"null", u"null", u"null"};
+    return read;
+}
+
+TEST(AnimationProjectTest, WritesOneRecordAndReadsItBack)
+{
+    ExpectSameBytes(ExpectedBytes("animator_project_two_images.ovn"), ProjectBytes(TwoImages()));
+    EXPECT_EQ(ReadProject(ExpectedBytes("animator_project_two_images.ovn")), TwoImagesRead());
+
+    AdvancedAnimator full = ReadProject(ExpectedBytes("animator_project_full.ovn"));
+    EXPECT_EQ(full.AnimationWidth, u" 320 ");
+    EXPECT_EQ(full.LoopCount, u"10 times");
+    EXPECT_EQ(full.Rows.at(2).Pause, u" 250 ");
+    EXPECT_EQ(full.Rows.at(0).Sound, u"ding.au");
+    EXPECT_EQ(full.Rows.at(0).URL, u"http://www.example.com/x.html");
+    full.Rows[1] = {.FileName = u"b.gif"};
+    ExpectSameBytes(ExpectedBytes("animator_project_full.ovn"), ProjectBytes(full));
+}
+
+TEST(AnimationProjectTest, WritesWordsForWhatIsEmpty)
+{
+    const AdvancedAnimator empty{.Rows = {{.FileName = u"a.gif"}}, .LoopCount = u""};
+    ExpectSameBytes("\"\",\"\",\"NULL\",\"0 - Infinite\",\"a.gif\",\"100\",\"null\",\"null\","
+                    "\"null\"\r\n",
+                    ProjectBytes(empty));
+    EXPECT_EQ(ReadProject(ProjectBytes(empty)).BackgroundColor, u"");
+}
+
+TEST(AnimationProjectTest, RandomWithACapitalWritesWhatTheRowBeforeWrote)
+{
+    AdvancedAnimator animator;
+    for (const TextView transition :
+         {u"Random", u"squish(2)", u"Random", u"Random", u"", u"random"})
+        animator.Rows.push_back({.Transition = Text(transition)});
+    const Text record = FromBytes(ProjectBytes(animator));
+    EXPECT_NE(Find(record, u"\"|squish(2)|squish(2)|squish(2)|null|random\""), 0u)
+        << ToUtf8(record);
+}
+
+TEST(AnimationProjectTest, KeepsEveryCharacter)
+{
+    AdvancedAnimator animator = TwoImagesRead();
+    animator.Rows[0].FileName = u"für€.gif";
+    ExpectSameBytes("\"200\",\"100\",\"255,0,0\",\"0 - Infinite\",\"f\xFCr\x80.gif|b.gif\"",
+                    ProjectBytes(animator).substr(0, 53));
+    EXPECT_EQ(ReadProject(ProjectBytes(animator)), animator);
+    animator.Rows[0].FileName = u"für€ ☃𝄞.gif";
+    EXPECT_EQ(ReadProject(ProjectBytes(animator)), animator);
+}
+
+struct RecordCase
+{
+    const char* Name;
+    std::string_view Bytes;
+    TextView Width;
+    TextView Height;
+    TextView Background;
+    TextView FirstImage;
+    std::size_t Rows;
+};
+
+class ProjectRecordTest : public ::testing::TestWithParam<RecordCase>
+{
+};
+
+TEST_P(ProjectRecordTest, ReadsWhatItCan)
+{
+    const AdvancedAnimator read = ReadProject(GetParam().Bytes);
+    EXPECT_EQ(read.AnimationWidth, GetParam().Width);
+    EXPECT_EQ(read.AnimationHeight, GetParam().Height);
+    EXPECT_EQ(read.BackgroundColor, GetParam().Background);
+    ASSERT_EQ(read.Rows.size(), GetParam().Rows);
+    EXPECT_EQ(read.Rows[0].FileName, GetParam().FirstImage);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Records, ProjectRecordTest,
+    ::testing::Values(
+        RecordCase{"Empty", "", u"", u"", u"", u"", 1},
+        RecordCase{"Unquoted", "1, 2 ,NULL,x,a|b", u"1", u"2 ", u"", u"a", 2},
+        RecordCase{"QuotesAreStripped", "  \"1\" junk,\"2\"x\"y\"\r\n\"3\"", u"1", u"2", u"3", u"",
+                   1},
+        RecordCase{"EveryLineEndSeparates", "1\r\n2\r3\n4\n5", u"1", u"2", u"3", u"5", 1},
+        RecordCase{"LineFeedThenReturnIsTwo", "1\n\r2,3,4", u"1", u"", u"2", u"4", 1},
+        RecordCase{"QuotedCommaAndLineEnd", "\"1,\r\n2\",3", u"1,\r\n2", u"3", u"", u"", 1},
+        RecordCase{"QuoteWithoutEnd", "1,\"2,3,4", u"1", u"2,3,4", u"", u"", 1},
+        RecordCase{"QuoteInside", "1\"2\",3", u"1\"2\"", u"3", u"", u"", 1},
+        RecordCase{"NullsAreExact", "\"\",\"\",\" NULL\",,\"|\"", u"", u"", u" NULL", u"", 2},
+        RecordCase{"Zeros", std::string_view("\0,\0\0,\xFF", 6), TextView(u"\0", 1),
+                   TextView(u"\0\0", 2), u"ÿ", u"", 1}),
+    [](const auto& row) { return row.param.Name; });
+
+TEST(AnimationProjectTest, Of32ImagesTheLastIsAnEmptyRow)
+{
+    AdvancedAnimator animator = TwoImages();
+    for (const std::size_t count : {31u, 32u, 40u}) {
+        animator.Rows.assign(count, {u"x.gif", u"1", u"squish(2)", u"u", u"s"});
+        const AdvancedAnimator read = ReadProject(ProjectBytes(animator));
+        ASSERT_EQ(read.Rows.size(), count);
+        EXPECT_EQ(read.Rows[30], animator.Rows[30]);
+        for (std::size_t i = 31; i < count; ++i)
+            EXPECT_EQ(read.Rows[i], ImageRow());
+    }
+}
+
+TEST(AnimationProjectTest, AFileOfBarsDoesNotFillTheMemory)
+{
+    EXPECT_EQ(ReadProject(",,,," + std::string(32766, '|')).Rows.size(), 32767u);
+    EXPECT_EQ(ReadProject(",,,," + std::string(100000, '|')).Rows.size(), 32767u);
+}
+
+TEST(AnimationProjectTest, AnyBytesGiveAnAnimation)
+{
+    std::mt19937 random(7);
+    const std::string_view bytes("\",|\r\n a\xEF\xBB\xBF\0\x80\xFF", 14);
+    for (int round = 0; round < 2000; ++round) {
+        std::string file(round % 3 == 0 ? "\xEF\xBB\xBF" : "");
+        for (std::size_t size = random() % 200; size > 0; --size)
+            file.push_back(bytes[random() % bytes.size()]);
+        const AdvancedAnimator read = ReadProject(file);
+        ASSERT_GE(read.Rows.size(), 1u);
+        for (std::size_t i = 31; i < read.Rows.size(); ++i)
+            ASSERT_EQ(read.Rows[i], ImageRow());
+    }
+}
+
+TEST(AnimationProjectTest, NeedsAnImageAndASize)
+{
+    AdvancedAnimator animator;
+    EXPECT_EQ(CheckProject(animator),
+              (Complaint{u"You must enter an image into the Animation Image List.", ""}));
+    animator.Rows.emplace_back();
+    animator.AnimationWidth = u"1";
+    EXPECT_EQ(CheckProject(animator),
+              (Complaint{u"Please enter the animation width and height properties.", ""}));
+    animator.AnimationHeight = u" ";
+    EXPECT_EQ(CheckProject(animator), std::nullopt);
+}
+
+class ProjectDeskTest : public ::testing::Test
+{
+protected:
+    FakeDialogs m_dialogs;
+    FakeFileStore m_files;
+};
+
+TEST_F(ProjectDeskTest, SavesUnderTheNameAsGivenAndSaysNothingOfAFailure)
+{
+    m_dialogs.AnswerSaveFile(u"/p/film");
+    SaveProject(TwoImages(), m_dialogs, m_files);
+    const std::string saved = ProjectBytes(TwoImages());
+    EXPECT_EQ(m_files.Contents[u"/p/film"], saved);
+    EXPECT_EQ(m_dialogs.Requests[0].Filter, u"All Files (*.*)|*.*|Orvane Animation (*.ovn)|*.ovn");
+    EXPECT_EQ(m_dialogs.Requests[0].FilterIndex, 2);
+
+    m_files.FailOn(u"/p/film", Fault::PermissionDenied);
+    m_dialogs.AnswerSaveFile(u"/p/film");
+    SaveProject(AdvancedAnimator{}, m_dialogs, m_files);
+    m_dialogs.AnswerSaveFile(std::nullopt);
+    SaveProject(AdvancedAnimator{}, m_dialogs, m_files);
+    EXPECT_EQ(m_files.Contents[u"/p/film"], saved);
+    EXPECT_EQ(m_files.Writes.size(), 2u);
+    EXPECT_TRUE(m_dialogs.Said.empty());
+}
+
+TEST_F(ProjectDeskTest, OpensAProjectOrLeavesTheRowsEmpty)
+{
+    m_files.Contents[u"/p/film.ovn"] = ProjectBytes(TwoImages());
+    m_dialogs.AnswerOpenFile(u"/p/film.ovn");
+    EXPECT_EQ(OpenProject({}, m_dialogs, m_files), TwoImagesRead());
+
+    m_dialogs.AnswerOpenFile(std::nullopt);
+    AdvancedAnimator emptied = TwoImages();
+    emptied.Rows.clear();
+    EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), emptied);
+
+    m_dialogs.AnswerOpenFile(u"/p/missing.ovn");
+    EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), ReadProject(""));
+    EXPECT_TRUE(m_dialogs.Said.empty());
+}
+
+TEST_F(ProjectDeskTest, StartsANewAnimationOnYesAlone)
+{
+    AdvancedAnimator animator = TwoImages();
+    animator.LoopCount = u"3 times";
+    for (const std::optional<bool> answer : {std::optional<bool>(false), std::optional<bool>()}) {
+        m_dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", answer);
+        EXPECT_EQ(NewProject(animator, m_dialogs, u"Caption"), animator);
+    }
+    m_dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", true);
+    EXPECT_EQ(NewProject(animator, m_dialogs, u"Caption"),
+              AdvancedAnimator{.LoopCount = u"3 times"});
+    EXPECT_EQ(m_dialogs.Titles.back(), u"Caption");
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,298 @@
+#include "effects/text/digital_clock_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/expect_text.h"
+#include "tests/support/qt_controls.h"
+#include "windows/color_swatch.h"
+#include "windows/number_box.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QRadioButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class DigitalClockFormTest : public ::testing::Test
+{
+protected:
+    DigitalClockFormTest() { m_form.show(); }
+
+    void ChooseFormat(const QString& item)
+    {
+        auto* list = Find<QListWidget>(m_form, "lstDateTimeFormat");
+        list->setCurrentItem(list->findItems(item, Qt::MatchExactly).constFirst());
+    }
+
+    /// Types over what stands in a box.
+    void Retype(const char* name, TextView text)
+    {
+        auto* box = Find<QWidget>(m_form, name);
+        Press(*box, Qt::Key_A, Qt::ControlModifier);
+        Type(m_form, name, text);
+    }
+
+    Text Heading() { return WordsOf(m_form, "lblHeading"); }
+
+    FakeDesk m_desk;
+    DigitalClockForm m_form{m_desk.Bench};
+};
+
+TEST_F(DigitalClockFormTest, StartsWithTheDefaultsAndReturnsWhatItIsGiven)
+{
+    EXPECT_EQ(m_form.Parameters(), DigitalClock());
+    const DigitalClock clock{.optDateTime = ClockContent::DateAndTime,
+                             .lstDateTimeFormat = u"28-11-2001",
+                             .chkDayOfWeek = true,
+                             .chkShowTimeBeforeDate = true,
+                             .chkMilitaryTime = true,
+                             .chkShowSeconds = true,
+                             .chkShowAMPM = true,
+                             .cboFont = u"any «Font»",
+                             .cboFontSize = u"1",
+                             .cboFontStyle = u"bold",
+                             .txtPadding = u" x",
+                             .BGColor = u"#AB0000",
+                             .FontColor = u"#0000FF"};
+    m_form.SetParameters(clock);
+    EXPECT_EQ(m_form.Parameters(), clock);
+    m_form.SetParameters({});
+    EXPECT_EQ(m_form.Parameters(), DigitalClock());
+}
+
+TEST_F(DigitalClockFormTest, TypedAndClickedThroughGivesThePage)
+{
+    Click(m_form, "optDateTime(2)");
+    Click(m_form, "cmdNext");
+    ChooseFormat(QStringLiteral("11/28/2001"));
+    Click(m_form, "chkDayOfWeek");
+    Click(m_form, "cmdNext");
+    Click(m_form, "cmdNext");
+    Retype("cboFont", u"Courier New");
+    Retype("cboFontSize", u"20");
+    Retype("cboFontStyle", u"Bold Italic");
+    Retype("txtPadding", u"5");
+    m_desk.Dialogs.AnswerColor(0x00FFFF);
+    Click(m_form, "lblBGColor");
+    m_desk.Dialogs.AnswerColor(0xFF0000);
+    Click(m_form, "lblFontColor");
+    Click(m_form, "cmdNext");
+
+    const auto payload = m_form.TakePayload();
+    ASSERT_TRUE(payload);
+    EXPECT_EQ(payload->Kind, EffectKind::DigitalClock);
+    ExpectSameText(ExpectedText("digital_clock_both_day_of_week.html"), payload->BODYHTML);
+    EXPECT_TRUE(payload->BODYHTML.starts_with(m_desk.Core.SavedHEAD));
+    EXPECT_NE(Find(m_desk.Core.SavedBODY, u"Digital clock will be displayed here"), 0u);
+    EXPECT_FALSE(m_form.isVisible());
+}
+
+struct Stop
+{
+    Text Heading;
+    const char* Control; ///< one of the page
+};
+
+struct RoadCase
+{
+    const char* Option;
+    std::vector<Stop> Stops;
+};
+
+const Stop contentPage{u"Digital Clock - Step 1: Select Date and/or Time", "optDateTime(0)"};
+
+class DigitalClockPagingTest : public DigitalClockFormTest,
+                               public ::testing::WithParamInterface<RoadCase>
+{
+protected:
+    void ExpectStop(const Stop& stop, bool isLast)
+    {
+        EXPECT_EQ(ToUtf8(Heading()), ToUtf8(stop.Heading));
+        EXPECT_TRUE(Find<QWidget>(m_form, stop.Control)->isVisible());
+        EXPECT_EQ(WordsOf(m_form, "cmdNext"), isLast ? u"&Done" : u"&Next >>");
+        EXPECT_EQ(Find<QWidget>(m_form, "cmdPrevious")->isEnabled(),
+                  stop.Heading != contentPage.Heading);
+    }
+};
+
+TEST_P(DigitalClockPagingTest, ShowsThePagesThatMatterForthAndBack)
+{
+    const auto& stops = GetParam().Stops;
+    Click(m_form, GetParam().Option);
+    ChooseFormat(QStringLiteral("November 28"));
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+        ExpectStop(stops[i], i + 1 == stops.size());
+        ExpectAccessible(m_form);
+        if (i + 1 < stops.size())
+            Click(m_form, "cmdNext");
+    }
+    for (std::size_t i = stops.size() - 1; i-- > 0;) {
+        Click(m_form, "cmdPrevious");
+        ExpectStop(stops[i], false);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Roads, DigitalClockPagingTest,
+    ::testing::Values(RoadCase{"optDateTime(0)",
+                               {contentPage,
+                                {u"Digital Clock - Step 2: Set Date format", "lstDateTimeFormat"},
+                                {u"Digital Clock - Step 3: Set clock properties", "txtPadding"}}},
+                      RoadCase{"optDateTime(1)",
+                               {contentPage,
+                                {u"Digital Clock - Step 2: Set Time format", "chkMilitaryTime"},
+                                {u"Digital Clock - Step 3: Set clock properties", "txtPadding"}}},
+                      RoadCase{
+                          "optDateTime(2)",
+                          {contentPage,
+                           {u"Digital Clock - Step 2: Set Date format", "lstDateTimeFormat"},
+                           {u"Digital Clock - Step 3: Set Time format", "chkShowTimeBeforeDate"},
+                           {u"Digital Clock - Step 4: Set clock properties", "txtPadding"}}}));
+
+TEST_F(DigitalClockFormTest, StaysOnTheDatePageUntilAFormatIsChosen)
+{
+    for (const char* option : {"optDateTime(0)", "optDateTime(2)"}) {
+        Click(m_form, option);
+        Click(m_form, "cmdNext");
+        m_form.activateWindow();
+        // Tab puts the keyboard on the first item and selects none.
+        Find<QListWidget>(m_form, "lstDateTimeFormat")->setFocus(Qt::TabFocusReason);
+        Click(m_form, "cmdNext");
+        EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+                  std::vector<Text>{u"Please select a Date format from the list below."});
+        EXPECT_EQ(m_desk.Dialogs.LastTone, Tone::Plain);
+        EXPECT_EQ(Heading(), u"Digital Clock - Step 2: Set Date format");
+        EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("lstDateTimeFormat"));
+        Click(m_form, "cmdPrevious");
+        EXPECT_EQ(Heading(), contentPage.Heading);
+    }
+}
+
+TEST_F(DigitalClockFormTest, ComesBackToItsLastPageWithAStepTooManyBehindIt)
+{
+    Click(m_form, "optDateTime(1)");
+    Click(m_form, "cmdNext");
+    Click(m_form, "cmdNext");
+    Click(m_form, "cmdNext");
+    ASSERT_TRUE(m_form.TakePayload());
+
+    m_form.show();
+    EXPECT_EQ(Heading(), u"Digital Clock - Step 3: Set clock properties");
+    Retype("txtPadding", u"7");
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_form.TakePayload(),
+              Generate({.optDateTime = ClockContent::Time, .txtPadding = u"7"}).Payload);
+
+    m_form.show();
+    Click(m_form, "cmdPrevious");
+    EXPECT_EQ(Heading(), u"Digital Clock - Step 4: Set Time format");
+}
+
+TEST_F(DigitalClockFormTest, TimeBeforeDateIsHiddenForTheTimeAloneAndKeepsItsTick)
+{
+    m_form.SetParameters({.optDateTime = ClockContent::DateAndTime,
+                          .lstDateTimeFormat = u"November 28",
+                          .chkShowTimeBeforeDate = true});
+    auto* box = Find<QCheckBox>(m_form, "chkShowTimeBeforeDate");
+    m_form.ChangePage(3);
+    EXPECT_TRUE(box->isVisible());
+    m_form.ChangePage(1);
+    Click(m_form, "optDateTime(1)");
+    Click(m_form, "cmdNext");
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_TRUE(box->isChecked());
+}
+
+TEST_F(DigitalClockFormTest, PagesBeyondItsOwnDoNothing)
+{
+    for (const int page : {0, 6, -1}) {
+        m_form.ChangePage(page);
+        EXPECT_EQ(Heading(), contentPage.Heading);
+        EXPECT_EQ(m_form.TakePayload(), std::nullopt);
+    }
+}
+
+TEST_F(DigitalClockFormTest, AClickOnADescriptionSelectsItsOption)
+{
+    auto* option = Find<QRadioButton>(m_form, "optDateTime(2)");
+    for (QLabel* label : m_form.findChildren<QLabel*>()) {
+        if (!label->text().startsWith(QStringLiteral("Display both the date and time")))
+            continue;
+        const QPointF middle = label->rect().center();
+        QMouseEvent press(QEvent::MouseButtonPress, middle, label->mapToGlobal(middle),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(label, &press);
+    }
+    EXPECT_TRUE(option->isChecked());
+}
+
+TEST_F(DigitalClockFormTest, FontDialogFillsTheThreeFieldsAndCancelLeavesThem)
+{
+    m_form.SetParameters({.optDateTime = ClockContent::Time, .cboFontStyle = u"Bold"});
+    m_form.ChangePage(4);
+    m_desk.Dialogs.AnswerFont({u"Serif Sans", u"13", true, true});
+    Click(m_form, "cmdMoreFonts");
+    EXPECT_EQ(m_desk.Dialogs.FontStarts, (std::vector<FontChoice>{{u"Arial", u"12", true, false}}));
+    EXPECT_EQ(WordsOf(m_form, "cboFont"), u"Serif Sans");
+    EXPECT_EQ(WordsOf(m_form, "cboFontSize"), u"13");
+    EXPECT_EQ(WordsOf(m_form, "cboFontStyle"), u"Bold Italic");
+
+    const DigitalClock before = m_form.Parameters();
+    m_desk.Dialogs.AnswerFont({u"Serif Sans", u"13", true, true});
+    Click(m_form, "cmdMoreFonts");
+    EXPECT_EQ(m_form.Parameters(), before);
+}
+
+TEST_F(DigitalClockFormTest, TypedFontsStayAsTheyAreWhenTheFieldIsLeft)
+{
+    m_form.SetParameters({.optDateTime = ClockContent::Time});
+    m_form.ChangePage(4);
+    m_form.activateWindow();
+    LetRun();
+    for (const auto& [name, text] : std::vector<std::pair<const char*, TextView>>{
+             {"cboFont", u"arial"}, {"cboFontSize", u"1"}, {"cboFontStyle", u"bold"}}) {
+        Find<QWidget>(m_form, name)->setFocus();
+        ASSERT_TRUE(Find<QWidget>(m_form, name)->hasFocus());
+        Retype(name, text);
+        Find<QWidget>(m_form, "cmdNext")->setFocus();
+        EXPECT_EQ(ToUtf8(WordsOf(m_form, name)), ToUtf8(text));
+    }
+}
+
+TEST_F(DigitalClockFormTest, PaddingTakesAnyTextAndStepsByKeyAndButton)
+{
+    m_form.SetParameters({.optDateTime = ClockContent::Time});
+    m_form.ChangePage(4);
+    auto* box = Find<QWidget>(m_form, "txtPadding");
+    Press(*box, Qt::Key_Up);
+    EXPECT_EQ(WordsOf(m_form, "txtPadding"), u"3");
+    Click(m_form, "txtPaddingDown");
+    Click(m_form, "txtPaddingDown");
+    EXPECT_EQ(WordsOf(m_form, "txtPadding"), u"1");
+    Retype("txtPadding", u"1em");
+    EXPECT_EQ(m_form.Parameters().txtPadding, u"1em");
+    Retype("txtPadding", u"50");
+    Click(m_form, "txtPaddingUp");
+    EXPECT_EQ(WordsOf(m_form, "txtPadding"), u"50");
+}
+
+TEST_F(DigitalClockFormTest, PickedColorsGoThroughThePaddingAndCancelKeepsThem)
+{
+    m_form.SetParameters({.optDateTime = ClockContent::Time});
+    m_form.ChangePage(4);
+    m_desk.Dialogs.AnswerColor(188 | 10 << 8);
+    Click(m_form, "lblBGColor");
+    m_desk.Dialogs.AnswerColor(std::nullopt);
+    Click(m_form, "lblBGColor");
+    EXPECT_EQ(m_form.Parameters().BGColor, u"#AB0000");
+    EXPECT_EQ(m_form.Parameters().FontColor, u"");
+    EXPECT_EQ(Find<ColorSwatch>(m_form, "lblBGColor")->Color(), 188 | 10 << 8);
+}
+
+} // namespace
+} // namespace orvane

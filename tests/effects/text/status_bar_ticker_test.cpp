@@ -1,0 +1,55 @@
+#include "effects/text/status_bar_ticker.h"
+
+#include "insertion/new_page.h"
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedBytes;
+using testing::ExpectedText;
+using testing::ExpectSameBytes;
+using testing::ExpectSameText;
+
+TEST(StatusBarTickerTest, WritesItsScriptIntoTheHead)
+{
+    const EffectPayload payload = Generate({u"Welcome to my page!"});
+    ExpectSameText(ExpectedText("status_bar_ticker_head.html"), payload.HEADHTML);
+    const EffectPayload rest{.Kind = EffectKind::StatusBarTicker,
+                             .HEADHTML = payload.HEADHTML,
+                             .OnLoadFunc = u"scrollit_r2l",
+                             .OnLoadArgs = u"(99)"};
+    EXPECT_EQ(payload, rest);
+}
+
+TEST(StatusBarTickerTest, PutsTheTextInUnescaped)
+{
+    ExpectSameText(ExpectedText("status_bar_ticker_odd_utf8.html"),
+                   Generate({u"He said \"hi\" & it's «Name» "}).HEADHTML);
+    const Text withLineEnd = Generate({u"a\nb"}).HEADHTML;
+    EXPECT_NE(Find(withLineEnd, u"        var msg  =\"a\nb\";\r\n"), 0u);
+}
+
+TEST(StatusBarTickerTest, RunsInANewPage)
+{
+    ExpectSameBytes(ExpectedBytes("status_bar_ticker_new_page.html"),
+                    NewPageBytes(Finish(Generate({u"Welcome to my page!"}))));
+}
+
+TEST(StatusBarTickerTest, ComplainsAboutAnEmptyTextAndNotAboutABlankOne)
+{
+    EXPECT_EQ(Check(StatusBarTicker{}),
+              (Complaint{u"Please enter the Status Bar scrolling text.", "txtStatusBarText"}));
+    EXPECT_EQ(Check(StatusBarTicker{u" "}), std::nullopt);
+}
+
+TEST(StatusBarTickerTest, ReadsTheTextOfAPastedScriptWithItsOpeningQuote)
+{
+    EXPECT_EQ(ReadStatusBarTicker(Generate({u"Hello"}).HEADHTML).txtStatusBarText, u"\"Hello");
+    EXPECT_EQ(ReadStatusBarTicker(u"no script").txtStatusBarText, u"");
+}
+
+} // namespace
+} // namespace orvane

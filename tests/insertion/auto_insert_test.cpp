@@ -1,0 +1,236 @@
+#include "insertion/auto_insert.h"
+
+#include "tests/support/doubles.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::FakeDialogs;
+using testing::FakeFileStore;
+
+const Text pagePath = u"/home/jo/site/index.html";
+const Text backupPath = u"/home/jo/site/Backup of index.html";
+const Text keptPath = u"/state/pages/2001-11-28/home/jo/site/index.html";
+const KeptPages kept{.Folder = u"/state/pages", .Day = u"2001-11-28"};
+
+const std::string oldBytes = "\xEF\xBB\xBF<head>\r\n</head><body>\xC3\xA9</body>";
+const std::string newBytes =
+    "\xEF\xBB\xBF<head>\r\r\n<!--B-->h<!--E-->\r\n\r\n</head><body>\xC3\xA9</body>";
+const std::string runBefore = "<head>x<!--B-->old<!--E--></head>";
+
+constexpr TextView question = u"Orvane has found existing code for this special effect in your "
+                              u"Web page.  Do you want to replace it?";
+constexpr TextView manual = u"We suggest you manually insert the special effect code into your Web "
+                            u"page.  Follow the instructions below.";
+constexpr TextView openElsewhere =
+    u"Your Web page file is open in another application.  Please close the open Web page file or "
+    u"exit the application you are using to edit it.\r\n\r\nThen try to AutoInsert the special "
+    u"effect again.";
+
+class AutoInsertTest : public ::testing::Test
+{
+protected:
+    AutoInsertTest()
+    {
+        m_files.Folders = {u"/home", u"/home/jo", u"/home/jo/site", u"/state"};
+        m_files.Contents[pagePath] = oldBytes;
+        m_payload.BeginMarker = u"<!--B-->";
+        m_payload.EndMarker = u"<!--E-->";
+        m_payload.Effect.HEADHTML = u"<!--B-->h<!--E-->";
+    }
+
+    AutoInsertion Run() { return AutoInsert(m_files, m_dialogs, pagePath, m_payload, kept); }
+    std::string Bytes(const Text& path) { return m_files.Contents[path]; }
+
+    /// The author was told these words and no others.
+    void ExpectSaid(TextView words)
+    {
+        EXPECT_EQ(m_dialogs.TakeSaid(), std::vector<Text>{Text(words)});
+        EXPECT_EQ(m_dialogs.LastTone, Tone::Plain);
+    }
+
+    FakeFileStore m_files;
+    FakeDialogs m_dialogs;
+    FinishedPayload m_payload;
+};
+
+TEST_F(AutoInsertTest, BacksThePageUpBeforeItWritesIt)
+{
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    EXPECT_EQ(Bytes(pagePath), newBytes);
+    EXPECT_EQ(Bytes(backupPath), oldBytes);
+    EXPECT_EQ(m_files.Writes, (std::vector<Text>{backupPath, keptPath, pagePath}));
+    EXPECT_TRUE(m_dialogs.Said.empty());
+}
+
+TEST_F(AutoInsertTest, OverwritesAnEarlierBackupWithoutAsking)
+{
+    m_files.Contents[backupPath] = "earlier";
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    EXPECT_EQ(Bytes(backupPath), oldBytes);
+}
+
+TEST_F(AutoInsertTest, AsksBeforeItReplaces)
+{
+    m_files.Contents[pagePath] = runBefore;
+    m_dialogs.ExpectAsk(Text(question), true);
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    EXPECT_EQ(Bytes(pagePath), "<head>x\r\nx<!--B-->h<!--E-->\r\n</head>");
+    EXPECT_EQ(Bytes(backupPath), runBefore);
+}
+
+TEST_F(AutoInsertTest, LeavesThePageToTheAuthorOnNo)
+{
+    m_files.Contents[pagePath] = runBefore;
+    m_dialogs.ExpectAsk(Text(question), false);
+    EXPECT_EQ(Run(), AutoInsertion::Manual);
+    ExpectSaid(manual);
+    EXPECT_EQ(Bytes(pagePath), runBefore);
+    EXPECT_EQ(Bytes(backupPath), runBefore);
+}
+
+TEST_F(AutoInsertTest, TellsTheFaultOfThePageItself)
+{
+    m_files.Contents[pagePath] = "<head>";
+    EXPECT_EQ(Run(), AutoInsertion::NothingDone);
+    ExpectSaid(u"Invalid procedure call or argument");
+    m_files.Contents[pagePath] = std::string(40000, ' ') + "<head>";
+    EXPECT_EQ(Run(), AutoInsertion::NothingDone);
+    ExpectSaid(u"Overflow");
+    EXPECT_EQ(Bytes(pagePath).size(), 40006u);
+}
+
+TEST_F(AutoInsertTest, WritesNothingForAMissingPage)
+{
+    m_files.Contents.clear();
+    EXPECT_EQ(Run(), AutoInsertion::NothingDone);
+    ExpectSaid(u"File not found");
+    EXPECT_TRUE(m_files.Writes.empty());
+}
+
+/// A disk on which an editor saves the page just before it is looked at again.
+class BusyFileStore : public FakeFileStore
+{
+public:
+    Outcome<std::string> Read(TextView path) const override
+    {
+        if (path == pagePath && ++m_reads == 2)
+            return std::string("saved meanwhile");
+        return FakeFileStore::Read(path);
+    }
+
+private:
+    mutable int m_reads = 0;
+};
+
+TEST_F(AutoInsertTest, KeepsWhatAnEditorSavedWhileTheQuestionWaited)
+{
+    BusyFileStore files;
+    files.Contents[pagePath] = runBefore;
+    m_dialogs.ExpectAsk(Text(question), true);
+    EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::NothingDone);
+    ExpectSaid(openElsewhere);
+    EXPECT_EQ(files.Contents[pagePath], runBefore);
+}
+
+struct FaultWords
+{
+    Fault What;
+    TextView Said;
+};
+
+class AutoInsertFaultTest : public AutoInsertTest, public ::testing::WithParamInterface<FaultWords>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Faults, AutoInsertFaultTest,
+                         ::testing::Values(FaultWords{Fault::PermissionDenied, openElsewhere},
+                                           FaultWords{Fault::DiskFull, u"Disk full"},
+                                           FaultWords{Fault::DeviceError, u"Device I/O error"},
+                                           FaultWords{Fault::PathFileAccess,
+                                                      u"Path/File access error"}));
+
+// Read page, write backup, look for the kept page, make its five folders, write it, write page.
+constexpr int readingThePage = 1;
+constexpr int writingTheBackup = 2;
+constexpr int writingThePage = 10;
+
+TEST_P(AutoInsertFaultTest, LeavesThePageAndTellsItsWords)
+{
+    for (const int call : {readingThePage, writingTheBackup, writingThePage}) {
+        FakeFileStore files = m_files;
+        files.FailAt(call, GetParam().What);
+        EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept),
+                  AutoInsertion::NothingDone);
+        ExpectSaid(GetParam().Said);
+        EXPECT_EQ(files.Calls(), call);
+        EXPECT_EQ(files.Contents[pagePath], oldBytes);
+        EXPECT_EQ(files.Contents.contains(backupPath), call > writingTheBackup);
+        if (call > writingTheBackup) {
+            EXPECT_EQ(files.Contents[backupPath], oldBytes);
+        }
+    }
+}
+
+TEST_P(AutoInsertFaultTest, GoesOnWithoutAWordWhenTheFirstBackupCannotBeKept)
+{
+    for (int call = writingTheBackup + 1; call < writingThePage; ++call) {
+        FakeFileStore files = m_files;
+        files.FailAt(call, GetParam().What);
+        EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::Inserted);
+        EXPECT_TRUE(m_dialogs.TakeSaid().empty());
+        EXPECT_FALSE(files.Contents.contains(keptPath)) << call;
+        EXPECT_EQ(files.Contents[pagePath], newBytes);
+        EXPECT_EQ(files.Contents[backupPath], oldBytes);
+    }
+}
+
+TEST_F(AutoInsertTest, KeepsTheFirstBackupOfEachDay)
+{
+    Run();
+    m_dialogs.ExpectAsk(Text(question), true);
+    Run();
+    EXPECT_EQ(Bytes(backupPath), newBytes);
+    EXPECT_EQ(Bytes(keptPath), oldBytes);
+    m_dialogs.ExpectAsk(Text(question), true);
+    const std::string second = Bytes(pagePath);
+    AutoInsert(m_files, m_dialogs, pagePath, m_payload, {kept.Folder, u"2001-11-29"});
+    EXPECT_EQ(Bytes(keptPath), oldBytes);
+    EXPECT_EQ(Bytes(u"/state/pages/2001-11-29/home/jo/site/index.html"), second);
+}
+
+TEST_F(AutoInsertTest, LeavesAKeptPageThatCannotBeRead)
+{
+    m_files.Contents[keptPath] = "first";
+    m_files.FailOn(keptPath, Fault::PermissionDenied);
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    EXPECT_EQ(Bytes(keptPath), "first");
+}
+
+TEST(KeptPagePathTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)
+{
+    EXPECT_EQ(KeptPagePath(kept, u"/a/index.html"), u"/state/pages/2001-11-28/a/index.html");
+    EXPECT_EQ(KeptPagePath(kept, u"/b/index.html"), u"/state/pages/2001-11-28/b/index.html");
+    EXPECT_EQ(KeptPagePath(kept, u"/a/./b/../index.html"), KeptPagePath(kept, u"/a/index.html"));
+    EXPECT_EQ(KeptPagePath(kept, u"/../../etc/\u0142"), u"/state/pages/2001-11-28/etc/\u0142");
+}
+
+TEST(PagePathTest, StartsInTheCurrentFolderUnlessItIsFull)
+{
+    EXPECT_EQ(PagePath(u"index.html", u"/home/jo"), u"/home/jo/index.html");
+    EXPECT_EQ(PagePath(u"site/index.html", u"/home/jo"), u"/home/jo/site/index.html");
+    EXPECT_EQ(PagePath(u"/index.html", u"/home/jo"), u"/index.html");
+}
+
+TEST(CheckPageNameTest, WantsAName)
+{
+    EXPECT_EQ(CheckPageName(u""),
+              (Complaint{u"Please specify the filename of a Web page in the input box below.",
+                         "txtFileName"}));
+    EXPECT_EQ(CheckPageName(u"index.html"), std::nullopt);
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,138 @@
+#include "preview/preview_page.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedText;
+using testing::ExpectSameText;
+using testing::FakeDesk;
+
+FinishedPayload PlainPayload(int kind)
+{
+    FinishedPayload payload{.Effect = {.Kind = static_cast<EffectKind>(kind),
+                                       .HEADHTML = u"<script>head()</script>",
+                                       .BODYHTML = u"<b>body</b>"},
+                            .BODYAttribute = u" onLoad=\"go()\" "};
+    payload.PreviewCode = payload.Effect.HEADHTML + u"\r\n" + payload.Effect.BODYHTML;
+    return payload;
+}
+
+class PreviewPageTest : public ::testing::TestWithParam<int>
+{
+};
+
+TEST_P(PreviewPageTest, ShowsTheEffectInBothBrowsers)
+{
+    const std::string kind = std::to_string(GetParam());
+    const FinishedPayload payload = PlainPayload(GetParam());
+    ExpectSameText(ExpectedText("preview_page_inline_" + kind + ".html"),
+                   PreviewPageText(payload, PreviewMode::Inline));
+    ExpectSameText(ExpectedText("preview_page_browser_" + kind + ".html"),
+                   PreviewPageText(payload, PreviewMode::Browser1));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, PreviewPageTest,
+                         ::testing::Values(4, 9, 16, 18, 23, 25, 28, 29, 35, 37, 38, 50));
+
+TEST(PreviewPageTest, SaysThatAServerScriptCannotBeTestedHere)
+{
+    FinishedPayload payload = PlainPayload(24);
+    payload.Effect.HEADHTML.clear();
+    payload.Effect.BODYHTML = u"<form action='PASSWORD.cgi'></form>";
+    payload.PreviewCode = u"\r\n" + payload.Effect.BODYHTML;
+    ExpectSameText(ExpectedText("preview_page_cgi_inline.html"),
+                   PreviewPageText(payload, PreviewMode::Inline));
+    ExpectSameText(ExpectedText("preview_page_cgi_browser.html"),
+                   PreviewPageText(payload, PreviewMode::Browser1));
+}
+
+/// Previews in the author's browser and counts how often the preferences were wanted.
+class BrowserLaunchTest : public ::testing::Test
+{
+protected:
+    void Launch()
+    {
+        LinkToBrowser(m_desk.Bench, PlainPayload(4), PreviewMode::Browser1, [&] { ++m_options; });
+    }
+
+    Text StoredBrowser() { return m_desk.Settings.Get(u"Apps", u"Browser", u"none", u"Orvane"); }
+    void Override() { m_desk.Settings.Put(u"Apps", u"Override", u"1", u"Orvane"); }
+
+    FakeDesk m_desk;
+    int m_options = 0;
+    const Text m_page = u"/program/ov-prvw.htm";
+};
+
+TEST_F(BrowserLaunchTest, OpensThePageWithTheDesktopUnlessOverridden)
+{
+    m_desk.Shell.Browser = u"/usr/bin/browser";
+    Launch();
+    EXPECT_EQ(m_desk.Shell.Opened, std::vector<Text>{m_page});
+    EXPECT_EQ(StoredBrowser(), u"/usr/bin/browser");
+    EXPECT_TRUE(m_desk.Files.Contents.contains(m_page));
+}
+
+TEST_F(BrowserLaunchTest, CutsTheCommandBehindExeAndDropsItsQuotes)
+{
+    Override();
+    m_desk.Shell.Browser = u"\"c:\\web\\b.exe\" -home.exe";
+    Launch();
+    EXPECT_EQ(StoredBrowser(), u"c:\\web\\b.exe");
+    EXPECT_EQ(m_desk.Shell.Started,
+              (std::vector<std::pair<Text, Text>>{{u"c:\\web\\b.exe", m_page}}));
+}
+
+TEST_F(BrowserLaunchTest, AsksForABrowserWhenTheDesktopTellsNone)
+{
+    m_desk.Dialogs.AnswerOpenFile(u"/opt/b");
+    Launch();
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              std::vector<Text>{u"Browser statement not found in Windows Registry.\r\n"
+                                u"Select the file/path of the browser you wish to use."});
+    EXPECT_EQ(m_desk.Dialogs.Requests.at(0).Title, u"Select Browser...");
+    EXPECT_EQ(m_desk.Dialogs.Requests.at(0).FilterIndex, 2);
+    EXPECT_EQ(StoredBrowser(), u"/opt/b");
+}
+
+TEST_F(BrowserLaunchTest, FailedStartOffersThePreferences)
+{
+    Override();
+    m_desk.Settings.Put(u"Apps", u"Browser", u"/gone", u"Orvane");
+    m_desk.Shell.Starts = false;
+    const Text question =
+        u"Could not locate browser using the specified path/filename found in the "
+        u"Windows Registry.  Check your Preference settings.  Would you like to "
+        u"view your settings now?";
+    m_desk.Dialogs.ExpectAsk(question, false);
+    Launch();
+    EXPECT_EQ(m_options, 0);
+    m_desk.Dialogs.ExpectAsk(question, true);
+    Launch();
+    EXPECT_EQ(m_options, 1);
+    EXPECT_EQ(m_desk.Dialogs.Titles.at(0), u"Incorrect Browser path/filename");
+}
+
+TEST_F(BrowserLaunchTest, SaysWhyThePreviewPageCannotBeWritten)
+{
+    m_desk.Files.FailOn(m_page, Fault::DiskFull);
+    LinkToBrowser(m_desk.Bench, PlainPayload(4), PreviewMode::Inline, [] {});
+    EXPECT_EQ(m_desk.Dialogs.Said, std::vector<Text>{u"Disk full"});
+    EXPECT_TRUE(m_desk.Pane.Navigated.empty());
+}
+
+TEST_F(BrowserLaunchTest, PayloadWithoutCodeIsNotPreviewed)
+{
+    LinkToBrowser(m_desk.Bench, {}, PreviewMode::Inline, [] {});
+    EXPECT_EQ(
+        m_desk.Dialogs.Said,
+        std::vector<Text>{u"There is no code in the preview window.  Cannot preview the special "
+                          u"effect."});
+}
+
+} // namespace
+} // namespace orvane

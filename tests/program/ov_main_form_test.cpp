@@ -1,0 +1,147 @@
+#include "program/ov_main_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEnterEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QToolButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class OVMainFormTest : public ::testing::Test
+{
+protected:
+    OVMainFormTest()
+    {
+        m_form.show();
+        LetRun();
+    }
+
+    QToolButton* ButtonOf(const CatalogueRow& row)
+    {
+        return m_form.findChild<QToolButton*>(
+            QStringLiteral("cmdSpecialFX(%1)").arg(static_cast<int>(row.Kind)));
+    }
+
+    QAction* Command(const char* name)
+    {
+        return m_form.findChild<QAction*>(QString::fromUtf8(name));
+    }
+
+    FakeDesk m_desk;
+    OVMainForm m_form{m_desk.Bench, [](EffectKind kind) { return kind != EffectKind::Sound; }};
+};
+
+TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
+{
+    for (const int tab : {0, 1, 2})
+        Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
+    int buttons = 0;
+    for (const CatalogueRow& row : Catalogue()) {
+        if (!row.HasButton)
+            continue;
+        const QToolButton* button = ButtonOf(row);
+        ASSERT_NE(button, nullptr) << ToUtf8(row.Title);
+        EXPECT_FALSE(button->icon().pixmap(48, 48).isNull()) << ToUtf8(row.MenuCommand);
+        EXPECT_EQ(button->text().replace(u'\n', u' ').toStdString(), ToUtf8(row.Title));
+        ++buttons;
+    }
+    EXPECT_EQ(buttons, 48);
+}
+
+TEST_F(OVMainFormTest, AButtonLiesOnTheTabOfItsSubMenu)
+{
+    const auto pageOf = [&](EffectKind kind) {
+        return ButtonOf(*FindRow(kind))->parentWidget()->objectName().toStdString();
+    };
+    EXPECT_EQ(pageOf(EffectKind::Slideshow), "Picture1(0)");
+    EXPECT_EQ(pageOf(EffectKind::StatusBarTicker), "Picture1(1)");
+    EXPECT_EQ(pageOf(EffectKind::DigitalClock), "Picture1(2)");
+}
+
+TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndNothingElsewhere)
+{
+    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(1);
+    const CatalogueRow& ticker = *FindRow(EffectKind::StatusBarTicker);
+    QEnterEvent enter({}, {}, {});
+    QApplication::sendEvent(ButtonOf(ticker), &enter);
+    EXPECT_EQ(WordsOf(m_form, "Label3"), ticker.Title);
+    EXPECT_EQ(WordsOf(m_form, "Label2"), ticker.Description);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(ButtonOf(ticker), &leave);
+    EXPECT_EQ(WordsOf(m_form, "Label3"), u"");
+    EXPECT_EQ(WordsOf(m_form, "Label2"), u"");
+}
+
+TEST_F(OVMainFormTest, EffectWithoutAWizardIsGreyedInMenuAndCatalogueAlike)
+{
+    EXPECT_FALSE(ButtonOf(*FindRow(EffectKind::Sound))->isEnabled());
+    EXPECT_FALSE(Command("mnuSoundFX")->isEnabled());
+    EXPECT_TRUE(Command("mnuStatusBar")->isEnabled());
+}
+
+TEST_F(OVMainFormTest, ButtonAndCommandWantTheSameEffect)
+{
+    std::vector<TextView> wanted;
+    QObject::connect(&m_form, &OVMainForm::EffectWanted,
+                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
+    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(1);
+    Click(m_form, "cmdSpecialFX(9)");
+    Command("mnuStatusBar")->trigger();
+    EXPECT_EQ(wanted, (std::vector<TextView>{u"mnuStatusBar", u"mnuStatusBar"}));
+}
+
+/// A menu's captions in order, with "-" for a separator and sub-menus in brackets.
+QString Captions(const QMenu& menu)
+{
+    QStringList captions;
+    for (const QAction* action : menu.actions()) {
+        QString caption = action->isSeparator() ? QStringLiteral("-") : action->text();
+        if (const QMenu* below = action->menu())
+            caption += u'(' + Captions(*below) + u')';
+        captions += caption;
+    }
+    return captions.join(u'|');
+}
+
+TEST_F(OVMainFormTest, MenuBarHasItsCaptionsInOrder)
+{
+    QStringList bar;
+    for (const QAction* action : m_form.menuBar()->actions())
+        bar += action->text() + u'(' + Captions(*action->menu()) + u')';
+    EXPECT_EQ(bar.join(u'\n').toStdString(), R"menu(&File(E&xit)
+&Edit(&Edit Special Effect...|&Preferences...)
+&Special Effects(&Image Effects(&Advanced Animator...|Animated Bu&tton...|A&nimation Wizard...|&Banner/Billboard Wizard...|&Dynamic Button...|&Falling/Floating Images...|&Image Effects...|Image &Fade...|Image &Rollover...|I&mage Scroller|Image &Transitions...|&More Image Effects...|Mouse &Cursor Trail...|Random I&mage...|&Slideshow...|Thought &Bubbles...)|&Text Effects(&AntiSpam Email Protector...|Fading &Message...|&Flashing Text...|Fl&ying Text...|&Navigator Ticker...|&Random Quote...|S&haking Text...|Sm&ooth Scrolling Text Ticker...|Status &Bar Text Ticker...|&Swirly Text...|Te&xt Button...|T&ext Effects...|&Text Transitions...|Toolt&ip...|T&ypewriter Text...|&Vertical Scrolling Text...)|&Other Special Effects(&All-in-one Button...|Background Color &Fade-in/Fade-out...|Color Sc&rollbars...|&Day Calendar...|Digital &Clock...|&Earthquake window...|Page &Transitions...|&Password Protection...|Personali&zed Web page...|Pop&Up Alert box...|PopUp &Window...|Pu&lldown Menu...|Search Box...|Sou&nd Effect...|Sc&rolling Credits...|Sliding Instant Message Window...|Web Page Translator...))
+&Help(&Contents...|Chec&k for update...|-|&About...))menu");
+}
+
+TEST_F(OVMainFormTest, UpdateCheckAsksFirstAndSendsTheTrimmedVersion)
+{
+    const Text question = u"You must be connected to the Internet to check for updates.\r\n\r\n"
+                          u"Would you like to continue?";
+    m_desk.Bench.Version = u" 1.2.3 ";
+    m_desk.Dialogs.ExpectAsk(question, false);
+    Command("mnuCheckForUpdate")->trigger();
+    EXPECT_TRUE(m_desk.Shell.Opened.empty());
+    m_desk.Dialogs.ExpectAsk(question, true);
+    Command("mnuCheckForUpdate")->trigger();
+    EXPECT_EQ(m_desk.Shell.Opened,
+              std::vector<Text>{u"http://www.varlo.example/updatecheck.asp?prog=OV&ver=1.2.3"});
+}
+
+TEST_F(OVMainFormTest, HelpContentsOpensTheFirstTopic)
+{
+    Command("mnuHelpContents")->trigger();
+    EXPECT_EQ(m_desk.Help.Shown, std::vector<int>{0});
+}
+
+} // namespace
+} // namespace orvane

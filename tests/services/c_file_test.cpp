@@ -1,0 +1,155 @@
+#include "services/c_file.h"
+
+#include "tests/support/doubles.h"
+
+namespace orvane::testing {
+namespace {
+
+class CFileTest : public ::testing::Test
+{
+protected:
+    const FileRequest& Request() { return dialogs.Requests.back(); }
+
+    void ExpectChosen(TextView path, TextView name, TextView full)
+    {
+        EXPECT_EQ(file.Path, path);
+        EXPECT_EQ(file.Filename, name);
+        EXPECT_EQ(file.PathAndFilename, full);
+    }
+
+    FakeDialogs dialogs;
+    frmCmnDlg shared;
+    CFile file{dialogs, shared};
+};
+
+TEST_F(CFileTest, SavesUnderTheFixedTitleAndSplitsThePickedPath)
+{
+    file.DialogTitle = u"not shown";
+    file.Filename = u"not proposed";
+    file.Filter = u"A|*.a|B|*.b";
+    file.FilterIndex = 2;
+    dialogs.AnswerSaveFile(u"/a/b.gif");
+    EXPECT_EQ(ValueIn(file.GetFileNameForSave()), u"/a/b.gif");
+    ExpectChosen(u"/a", u"b.gif", u"/a/b.gif");
+    EXPECT_EQ(Request().Title, u"Save...");
+    EXPECT_EQ(Request().Filter, u"A|*.a|B|*.b");
+    EXPECT_EQ(Request().FilterIndex, 2);
+    EXPECT_EQ(Request().InitDir, u"C:\\");
+    EXPECT_EQ(Request().FileName, u"");
+}
+
+TEST_F(CFileTest, BrowsesByItsPropertiesAndProposesItsFilename)
+{
+    file.DialogTitle = u"Find it";
+    file.Filename = u"old.gif";
+    file.InitDir = u"/start";
+    file.FilterIndex = 3;
+    dialogs.AnswerOpenFile(u"/a.gif");
+    EXPECT_EQ(FaultIn(file.Browse()), nullptr);
+    ExpectChosen(u"", u"a.gif", u"/a.gif");
+    EXPECT_EQ(Request().Title, u"Find it");
+    EXPECT_EQ(Request().FileName, u"old.gif");
+    EXPECT_EQ(Request().InitDir, u"/start");
+    EXPECT_EQ(Request().FilterIndex, 3);
+    EXPECT_EQ(Request().Filter, u"All Files (*.*)|*.*");
+}
+
+TEST_F(CFileTest, CancelGivesTheEmptyTextAndLeavesAllProperties)
+{
+    file.Path = u"/a";
+    file.Filename = u"b.gif";
+    file.PathAndFilename = u"/a/b.gif";
+    dialogs.AnswerSaveFile(std::nullopt);
+    dialogs.AnswerOpenFile(std::nullopt);
+    dialogs.AnswerOpenFile(std::nullopt);
+    EXPECT_EQ(ValueIn(file.GetFileNameForSave()), u"");
+    EXPECT_EQ(FaultIn(file.Browse()), nullptr);
+    file.CancelError = false;
+    EXPECT_EQ(ValueIn(file.BrowseForFile(1)), u"");
+    ExpectChosen(u"/a", u"b.gif", u"/a/b.gif");
+}
+
+TEST_F(CFileTest, ACancelThatIsNoErrorSavesUnderTheEmptyName)
+{
+    file.Path = u"/a";
+    file.CancelError = false;
+    dialogs.AnswerSaveFile(std::nullopt);
+    const auto picked = file.GetFileNameForSave();
+    ASSERT_NE(FaultIn(picked), nullptr);
+    EXPECT_EQ(*FaultIn(picked), Fault::InvalidProcedureCall);
+    ExpectChosen(u"/a", u"", u"");
+}
+
+TEST_F(CFileTest, ANameWithoutAFolderReachesTheCallerAsAFault)
+{
+    dialogs.AnswerOpenFile(u"b.gif");
+    const auto picked = file.BrowseForFile(0);
+    ASSERT_NE(FaultIn(picked), nullptr);
+    EXPECT_EQ(*FaultIn(picked), Fault::InvalidProcedureCall);
+    ExpectChosen(u"", u"b.gif", u"b.gif");
+    EXPECT_EQ(shared.LastFolder, u"");
+}
+
+TEST_F(CFileTest, BrowsesForImagesFromTheFirstFilterWithoutProposingAName)
+{
+    file.FilterIndex = 3;
+    file.Filename = u"old.gif";
+    file.DialogTitle = u"Pick";
+    dialogs.AnswerOpenFile(u"/a/b.gif");
+    EXPECT_EQ(ValueIn(file.BrowseForFile(1)), u"/a/b.gif");
+    ExpectChosen(u"/a", u"b.gif", u"/a/b.gif");
+    EXPECT_EQ(Request().Title, u"Pick");
+    EXPECT_EQ(Request().Filter, u"All Files (*.*)|*.*|Graphics Files (*.jpeg, *.jpg, *.gif, *.png)|"
+                                u"*.jpeg;*.jpg;*.gif;*.png|GIF Files (*.gif)|*.gif|"
+                                u"JPEG Files (*.jpeg, *.jpg)|*.jpeg;*.jpg");
+    EXPECT_EQ(Request().FilterIndex, 1);
+    EXPECT_EQ(Request().InitDir, u"");
+    EXPECT_EQ(Request().FileName, u"");
+}
+
+TEST_F(CFileTest, TheNextFileDialogOfTheRunOpensWhereTheLastOneEnded)
+{
+    dialogs.AnswerOpenFile(u"/a/b.gif");
+    dialogs.AnswerOpenFile(std::nullopt);
+    dialogs.AnswerOpenFile(std::nullopt);
+    EXPECT_EQ(FaultIn(file.BrowseForFile(1)), nullptr);
+    CFile next(dialogs, shared);
+    EXPECT_EQ(FaultIn(next.BrowseForFile(0)), nullptr);
+    EXPECT_EQ(Request().InitDir, u"/a/");
+    EXPECT_EQ(FaultIn(next.Browse()), nullptr);
+    EXPECT_EQ(Request().InitDir, u"C:\\") << "its own folder comes first";
+}
+
+struct KindCase
+{
+    std::int32_t Kind;
+    TextView Filter;
+    TextView InitDir;
+};
+
+class KindTest : public CFileTest, public ::testing::WithParamInterface<KindCase>
+{
+};
+
+TEST_P(KindTest, TakesFilterAndFolderFromThePropertiesForKindEightAlone)
+{
+    file.Filter = u"Own|*.own";
+    file.InitDir = u"/own";
+    dialogs.AnswerOpenFile(std::nullopt);
+    EXPECT_EQ(ValueIn(file.BrowseForFile(GetParam().Kind)), u"");
+    EXPECT_EQ(Request().Filter, GetParam().Filter);
+    EXPECT_EQ(Request().InitDir, GetParam().InitDir);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, KindTest,
+    ::testing::Values(KindCase{4, u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt", u""},
+                      KindCase{7,
+                               u"All Files (*.*)|*.*|Video Files (*.avi, *.mov, *.mpeg, *.mpg)|"
+                               u"*.avi;*.mov;*.mpeg;*.mpg",
+                               u""},
+                      KindCase{8, u"Own|*.own", u"/own"}, KindCase{9, u"", u""},
+                      KindCase{-1, u"", u""}));
+
+} // namespace
+} // namespace orvane::testing

@@ -1,0 +1,313 @@
+#include "windows/image_list_panel.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/picture_files.h"
+#include "tests/support/qt_controls.h"
+#include "tests/support/qt_mouse.h"
+#include "windows/qt_text.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+/// A window with the panel over a real folder, which the disk double lists.
+class ImageListPanelTest : public ::testing::Test
+{
+protected:
+    ImageListPanelTest()
+    {
+        const Text root = FromQt(m_folder.path());
+        for (Text path = root; path.size() > 1;
+             path = Left(FolderOf(path), FolderOf(path).size() - 1))
+            m_desk.Files.Folders.insert(path);
+        AddFolder(u"blank name");
+        AddFile(u"wide.gif", GifBytes(120, 40));
+        AddFile(u"Tall.GIF", GifBytes(20, 300));
+        AddFile(u"page.html", "<html>");
+        AddFile(u"blank name/x.jpg", GifBytes(5, 6));
+        m_desk.Core.DefaultPath = root;
+    }
+
+    Text Path(TextView name) const { return Join({FromQt(m_folder.path()), u"/", name}); }
+
+    void AddFolder(TextView name)
+    {
+        QDir().mkpath(ToQt(Path(name)));
+        m_desk.Files.Folders.insert(Path(name));
+    }
+
+    void AddFile(TextView name, const std::string& bytes)
+    {
+        WriteFile(ToUtf8(Path(name)), bytes);
+        m_desk.Files.Contents[Path(name)] = bytes;
+    }
+
+    /// The row of a folder or file box with these words.
+    int RowWith(const char* name, TextView words)
+    {
+        const std::vector<Text> rows = RowsOf(m_window, name);
+        const auto found = std::find(rows.begin(), rows.end(), words);
+        EXPECT_NE(found, rows.end()) << ToUtf8(words);
+        return static_cast<int>(found - rows.begin());
+    }
+
+    ImageListPanel& Open(const ImageListVariation& variation)
+    {
+        m_panel = new ImageListPanel(m_desk.Bench, variation);
+        auto* rows = new QVBoxLayout(&m_window);
+        rows->addWidget(m_panel);
+        for (QLineEdit* field : {&m_width, &m_height})
+            rows->addWidget(field);
+        auto* done = new QPushButton(QStringLiteral("Done"));
+        done->setObjectName(QStringLiteral("cmdDone"));
+        done->setDefault(true);
+        QObject::connect(done, &QPushButton::clicked, &m_window, &QDialog::accept);
+        rows->addWidget(done);
+        m_panel->SetSizeFields(&m_width, &m_height);
+        m_window.resize(900, 500);
+        m_window.show();
+        m_window.activateWindow();
+        LetRun();
+        return *m_panel;
+    }
+
+    void Choose(const char* name, TextView words)
+    {
+        ClickRow(m_window, name, RowWith(name, words));
+    }
+
+    QListWidget& List(const char* name) { return *Find<QListWidget>(m_window, name); }
+
+    QTemporaryDir m_folder;
+    FakeDesk m_desk;
+    QDialog m_window;
+    QLineEdit m_width;
+    QLineEdit m_height;
+    ImageListPanel* m_panel = nullptr;
+};
+
+TEST_F(ImageListPanelTest, OpensInTheFolderUsedLastWithNothingToCopy)
+{
+    m_desk.Core.RequiredFileCount = 7;
+    Open({});
+    EXPECT_EQ(RowsOf(m_window, "File1"), (std::vector<Text>{u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(SelectedRowOf(m_window, "Dir1"),
+              RowWith("Dir1", GetFileName(FromQt(m_folder.path()))));
+    EXPECT_EQ(m_desk.Core.RequiredFileCount, 0);
+    EXPECT_TRUE(m_desk.Settings.Writes.empty());
+    m_width.setObjectName(QStringLiteral("Text20"));
+    m_height.setObjectName(QStringLiteral("Text21"));
+    m_width.setAccessibleName(QStringLiteral("Width"));
+    m_height.setAccessibleName(QStringLiteral("Height"));
+    ExpectAccessible(m_window);
+}
+
+TEST_F(ImageListPanelTest, TabWalksInReadingOrder)
+{
+    Open(AnimatorImageList()).SetRows({{.FileName = u"a"}});
+    Find<QComboBox>(m_window, "Drive1")->setFocus();
+    for (const char* name : {"Drive1", "Dir1", "File1", "cmdAddToImageList", "List1", "List3",
+                             "List4", "List5", "List6", "cmdMoveUp", "cmdMoveDown", "cmdDelete"}) {
+        EXPECT_EQ(m_window.focusWidget()->objectName().toStdString(), name);
+        Press(*m_window.focusWidget(), Qt::Key_Tab);
+    }
+}
+
+TEST_F(ImageListPanelTest, InvalidDefaultPathIsPassedOverAndKept)
+{
+    m_desk.Core.DefaultPath = u"c:\\";
+    Open({});
+    EXPECT_EQ(m_desk.Core.DefaultPath, u"c:\\");
+    EXPECT_TRUE(RowsOf(m_window, "File1").empty());
+}
+
+TEST_F(ImageListPanelTest, FolderThatTheAuthorOpensIsRememberedAndLeadsBackUp)
+{
+    Open({});
+    Choose("Dir1", u"blank name");
+    EXPECT_TRUE(m_desk.Settings.Writes.empty());
+    Press(List("Dir1"), Qt::Key_Return);
+    EXPECT_TRUE(m_window.isVisible());
+    EXPECT_EQ(RowsOf(m_window, "File1"), std::vector<Text>{u"x.jpg"});
+    EXPECT_EQ(m_desk.Core.DefaultPath, Path(u"blank name"));
+    EXPECT_EQ(m_desk.Settings.Get(u"Misc", u"DefaultPath", u"", u"Orvane"), Path(u"blank name"));
+
+    DoubleClickRow(m_window, "Dir1", SelectedRowOf(m_window, "Dir1") - 1);
+    EXPECT_EQ(RowsOf(m_window, "File1"), (std::vector<Text>{u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(m_desk.Core.DefaultPath, FromQt(m_folder.path()));
+}
+
+TEST_F(ImageListPanelTest, DriveLeadsToItsFolderUnlessItCannotBeRead)
+{
+    Open({});
+    auto* drives = Find<QComboBox>(m_window, "Drive1");
+    EXPECT_EQ(drives->itemText(0), QStringLiteral("/"));
+    drives->addItem(QStringLiteral("/nowhere"));
+    drives->addItem(ToQt(Path(u"blank name")));
+    emit drives->activated(drives->count() - 2);
+    EXPECT_EQ(RowsOf(m_window, "File1").size(), 2u);
+    EXPECT_TRUE(m_desk.Settings.Writes.empty());
+    emit drives->activated(drives->count() - 1);
+    EXPECT_EQ(RowsOf(m_window, "File1"), std::vector<Text>{u"x.jpg"});
+    EXPECT_EQ(m_desk.Core.DefaultPath, Path(u"blank name"));
+}
+
+TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
+{
+    ImageListPanel& panel = Open({});
+    Press(List("File1"), Qt::Key_Home);
+    List("File1").clearSelection();
+    Click(m_window, "cmdAddToImageList");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Please select an image."});
+
+    Choose("File1", u"wide.gif");
+    EXPECT_EQ(m_width.text(), QString());
+    Click(m_window, "cmdAddToImageList");
+    EXPECT_EQ(panel.Rows(), std::vector<ImageRow>{{.FileName = u"wide.gif"}});
+    EXPECT_EQ(m_desk.Core.Required.Sources[0], Path(u"wide.gif"));
+    EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
+
+    DoubleClickRow(m_window, "File1", RowWith("File1", u"Tall.GIF"));
+    EXPECT_EQ(RowsOf(m_window, "List1"), (std::vector<Text>{u"wide.gif", u"Tall.GIF"}));
+    EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x300"));
+    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
+}
+
+TEST_F(ImageListPanelTest, TypedLettersAndEnterAddAFileByTheKeyboard)
+{
+    Open({});
+    Type(m_window, "File1", u"W");
+    Press(List("File1"), Qt::Key_Enter);
+    EXPECT_EQ(RowsOf(m_window, "List1"), std::vector<Text>{u"wide.gif"});
+    EXPECT_EQ(m_width.text(), QStringLiteral("120"));
+    EXPECT_TRUE(m_window.isVisible());
+}
+
+// Stays as it is: the double click adds without asking whether a file is selected.
+TEST_F(ImageListPanelTest, DoubleClickBesideTheFilesAddsWhateverIsSelected)
+{
+    Open({});
+    DoubleClickBelowRows(m_window, "File1");
+    EXPECT_EQ(RowsOf(m_window, "List1"), std::vector<Text>{u""});
+    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
+}
+
+TEST_F(ImageListPanelTest, RefusedNameChangesNothingButTheAnimatorsButtons)
+{
+    AddFile(u"my pic.gif", GifBytes(900, 900));
+    ImageListPanel& panel = Open(AnimatorImageList());
+    const std::array<const char*, 3> buttons = {"cmdDelete", "cmdMoveDown", "cmdMoveUp"};
+    for (const char* name : buttons)
+        EXPECT_FALSE(Find<QPushButton>(m_window, name)->isEnabled()) << name;
+    Choose("File1", u"my pic.gif");
+    Click(m_window, "cmdAddToImageList");
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              std::vector<Text>{u"This special effect does not allow image filenames containing "
+                                u"space characters.\r\nPlease rename the image or select another "
+                                u"image."});
+    EXPECT_EQ(m_desk.Dialogs.LastTone, Tone::Plain);
+    EXPECT_TRUE(panel.Rows().empty());
+    EXPECT_EQ(m_width.text(), QString());
+    for (const char* name : buttons)
+        EXPECT_TRUE(Find<QPushButton>(m_window, name)->isEnabled()) << name;
+}
+
+TEST_F(ImageListPanelTest, ListsSelectScrollAndMoveAsOne)
+{
+    ImageListPanel& panel = Open(AnimatorImageList());
+    std::vector<ImageRow> rows;
+    for (int i = 0; i < 60; ++i) {
+        const Text number = FromUtf8(std::to_string(i));
+        rows.push_back({number, u"p" + number, u"t" + number, u"u" + number, u"s" + number});
+    }
+    int selections = 0;
+    QObject::connect(&panel, &ImageListPanel::RowSelected, [&] { ++selections; });
+    panel.SetRows(rows);
+    EXPECT_EQ(selections, 0);
+    ClickRow(m_window, "List5", 50);
+    EXPECT_EQ(selections, 1);
+    EXPECT_EQ(panel.Selected(), 50u);
+    List("List4").verticalScrollBar()->setValue(7);
+    for (const char* name : {"List1", "List3", "List5", "List6"}) {
+        EXPECT_EQ(SelectedRowOf(m_window, name), 50) << name;
+        EXPECT_EQ(List(name).verticalScrollBar()->value(), 7) << name;
+    }
+    Press(List("List3"), Qt::Key_Down);
+    Click(m_window, "cmdMoveUp");
+    EXPECT_EQ(panel.Rows()[50], rows[51]);
+    EXPECT_EQ(RowsOf(m_window, "List4")[50], u"t51");
+    EXPECT_EQ(SelectedRowOf(m_window, "List6"), 50);
+    Click(m_window, "cmdDelete");
+    EXPECT_EQ(RowsOf(m_window, "List6")[50], u"s50");
+    EXPECT_EQ(SelectedRowOf(m_window, "List1"), 50);
+    panel.SetRow(3, {.FileName = u"3", .Pause = u"-1"});
+    EXPECT_EQ(RowsOf(m_window, "List3")[3], u"-1");
+    EXPECT_EQ(SelectedRowOf(m_window, "List4"), 3);
+}
+
+TEST_F(ImageListPanelTest, RowsTellOfDoubleClicksAndMenus)
+{
+    ImageListPanel& panel = Open(AnimatorImageList());
+    panel.SetRows({{.FileName = u"a"}, {.FileName = u"b"}});
+    int doubleClicks = 0;
+    int menus = 0;
+    QObject::connect(&panel, &ImageListPanel::RowDoubleClicked, [&] { ++doubleClicks; });
+    QObject::connect(&panel, &ImageListPanel::MenuRequested, [&](QPoint) {
+        ++menus;
+        EXPECT_EQ(panel.Selected(), 1u);
+    });
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&List("List1"), &key);
+    EXPECT_EQ(menus, 0);
+    RightPressRow(m_window, "List4", 1);
+    EXPECT_EQ(menus, 1);
+    DoubleClickRow(m_window, "List6", 0);
+    EXPECT_EQ(doubleClicks, 1);
+    EXPECT_EQ(panel.Selected(), 0u);
+}
+
+TEST_F(ImageListPanelTest, MoveAtTheEdgeSpeaksOfTheSlideshow)
+{
+    ImageListPanel& panel = Open(SlideshowImageList());
+    panel.SetRows({{.FileName = u"a"}});
+    ClickRow(m_window, "List1", 0);
+    Click(m_window, "cmdMoveUp");
+    Click(m_window, "cmdMoveDown");
+    EXPECT_EQ(m_desk.Dialogs.Said, (std::vector<Text>{u"Select an item in the Slideshow image "
+                                                      u"list.  You cannot move the first image "
+                                                      u"upward.",
+                                                      u"Select an item in the Slideshow image "
+                                                      u"list.  You cannot move the last image "
+                                                      u"downward."}));
+}
+
+TEST_F(ImageListPanelTest, BrokenPictureLeavesTheOldOneAndItsSize)
+{
+    AddFile(u"bad.jpg", "Dear reader,\r\n");
+    Open(SlideshowImageList());
+    Choose("File1", u"wide.gif");
+    const auto* preview = Find<QLabel>(m_window, "lblPreviewImage");
+    const qint64 old = preview->pixmap().cacheKey();
+    EXPECT_FALSE(preview->pixmap().isNull());
+    Choose("File1", u"bad.jpg");
+    EXPECT_EQ(preview->pixmap().cacheKey(), old);
+    Click(m_window, "cmdAddImageToList");
+    EXPECT_EQ(RowsOf(m_window, "List1"), std::vector<Text>{u"bad.jpg"});
+    EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
+}
+
+} // namespace
+} // namespace orvane

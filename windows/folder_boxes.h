@@ -1,0 +1,96 @@
+#pragma once
+
+#include "core/file_store.h"
+#include "services/folder_list.h"
+
+#include <QListWidget>
+
+class QComboBox;
+class QVBoxLayout;
+
+namespace orvane {
+
+/// The root and the mounted volumes that an author may keep files on.
+std::vector<Text> MountedDrives();
+
+/// The object names of one set of boxes.
+struct FolderBoxNames
+{
+    QString Drive;
+    QString Folder;
+    QString File; ///< empty for a window without a file box
+};
+
+/// A list that tells of double clicks wherever they fall, and of Enter while a row is selected.
+class ActingList : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    using QListWidget::QListWidget;
+
+    /// The row that is selected, or -1; a row that only has the focus does not count.
+    int SelectedRow() const;
+
+signals:
+    void DoubleClicked();
+    void Entered();
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// Drive, folder and file box, one above the other and each following the one before.
+class FolderBoxes : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Starts in the author's home folder. The file box shows names that fit the masks.
+    FolderBoxes(const FileStore& files, const FolderBoxNames& names, TextView masks,
+                QWidget* parent = nullptr);
+
+    /// Shows another folder; false, and everything stays, when it cannot be read.
+    bool GoTo(TextView folder);
+
+    /// Looks again at what lies in the folder.
+    void Refresh();
+
+    const Text& Folder() const { return m_folder; }
+
+    /// The selected name of the file box, or the empty text.
+    Text FileName() const;
+
+    /// All selected names, for a file box in which several may be selected.
+    std::vector<Text> SelectedFiles() const;
+
+    QComboBox* DriveBox() const { return m_drives; }
+    QListWidget* FolderBox() const { return m_folders; }
+    QListWidget* FileBox() const { return m_files; } ///< null for a window without one
+
+signals:
+    /// The author, not the program, went to another folder.
+    void FolderPicked();
+    void FileSelected();
+    /// A double click anywhere in the file box, or Enter on a selected file.
+    void FileActivated();
+
+private:
+    void AddBox(QVBoxLayout* column, const QString& name, TextView caption, QWidget* box,
+                int stretch);
+    void PickDrive(int index);
+    void PickFolder(int row);
+    void ShowFolders(const FolderRows& list);
+    void ShowFiles();
+
+    const FileStore& m_store;
+    const Text m_masks;
+    const std::vector<Text> m_driveList;
+    Text m_folder;
+    QComboBox* m_drives;
+    ActingList* m_folders;
+    ActingList* m_files = nullptr;
+};
+
+} // namespace orvane

@@ -1,0 +1,187 @@
+#include "windows/image_list_panel.h"
+
+#include "core/file_names.h"
+#include "windows/folder_boxes.h"
+#include "windows/parallel_lists.h"
+#include "windows/picture.h"
+#include "windows/qt_text.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+constexpr QSize previewRoom(150, 110);
+
+/// Left without a parent: the layout takes the controls in, in reading order, which Tab follows.
+QPushButton* MakeButton(const QString& name, TextView caption)
+{
+    auto* button = new QPushButton(ToQt(caption));
+    button->setObjectName(name);
+    button->setAutoDefault(true);
+    return button;
+}
+
+} // namespace
+
+ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& variation,
+                               QWidget* parent)
+    : QWidget(parent), m_bench(bench), m_variation(variation)
+{
+    ClearRequiredFiles(m_bench.Core);
+    m_boxes = new FolderBoxes(
+        m_bench.Files, {QStringLiteral("Drive1"), QStringLiteral("Dir1"), QStringLiteral("File1")},
+        imageMasks);
+    m_boxes->GoTo(m_bench.Core.DefaultPath);
+    m_boxes->FileBox()->setToolTip(ToQt(variation.FilesTip));
+    cmdAdd = MakeButton(QString::fromStdString(variation.AddButton), variation.AddCaption);
+    cmdAdd->setToolTip(ToQt(variation.AddTip));
+    m_lists = new ParallelLists(variation.Columns, variation.RowTip);
+    cmdMoveUp = MakeButton(QStringLiteral("cmdMoveUp"), u"Move Up");
+    cmdMoveDown = MakeButton(QStringLiteral("cmdMoveDown"), u"Move Down");
+    cmdDelete = MakeButton(QStringLiteral("cmdDelete"), u"Delete");
+    EnableListButtons(!variation.EnablesButtonsOnAdd);
+    Arrange();
+    Connect();
+}
+
+QWidget* ImageListPanel::MakePreview()
+{
+    auto* frame = new QGroupBox(ToQt(m_variation.PreviewFrame));
+    m_preview = new QLabel;
+    m_preview->setObjectName(QStringLiteral("lblPreviewImage"));
+    m_preview->setAccessibleName(ToQt(m_variation.PreviewFrame));
+    m_preview->setAlignment(Qt::AlignCenter);
+    m_preview->setMinimumSize(previewRoom);
+    (new QVBoxLayout(frame))->addWidget(m_preview);
+    return frame;
+}
+
+/// Left what there is to pick from, right what was picked, the way from one to the other between.
+void ImageListPanel::Arrange()
+{
+    auto* middle = new QVBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(cmdAdd);
+    middle->addStretch(1);
+    if (!m_variation.PreviewFrame.empty())
+        middle->addWidget(MakePreview());
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {cmdMoveUp, cmdMoveDown, cmdDelete})
+        buttons->addWidget(button);
+    buttons->addStretch(1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(m_lists, 1);
+    right->addLayout(buttons);
+    auto* all = new QHBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(m_boxes, 2);
+    all->addLayout(middle);
+    all->addLayout(right, m_variation.Columns.size() > 1 ? 5 : 2);
+}
+
+void ImageListPanel::Connect()
+{
+    connect(m_boxes, &FolderBoxes::FolderPicked, this,
+            [this] { SaveDefaultPath(m_bench.Core, m_bench.Settings, m_boxes->Folder()); });
+    connect(m_boxes, &FolderBoxes::FileSelected, this, &ImageListPanel::LoadSelectedPicture);
+    connect(m_boxes, &FolderBoxes::FileActivated, this, &ImageListPanel::AddImageToList);
+    connect(cmdAdd, &QPushButton::clicked, this, &ImageListPanel::AddSelectedFile);
+    connect(cmdMoveUp, &QPushButton::clicked, this,
+            [this] { Tell(MoveUp(m_list, m_variation.ListInMessages)); });
+    connect(cmdMoveDown, &QPushButton::clicked, this,
+            [this] { Tell(MoveDown(m_list, m_variation.ListInMessages)); });
+    connect(cmdDelete, &QPushButton::clicked, this, [this] {
+        DeleteRow(m_list);
+        m_lists->Show(m_list);
+    });
+    connect(m_lists, &ParallelLists::RowSelected, this, [this](int row) {
+        m_list.Selected = row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
+        emit RowSelected();
+    });
+    connect(m_lists, &ParallelLists::RowDoubleClicked, this, &ImageListPanel::RowDoubleClicked);
+    connect(m_lists, &ParallelLists::MenuRequested, this, [this](QPoint place) {
+        if (m_list.Selected)
+            emit MenuRequested(place);
+    });
+}
+
+void ImageListPanel::SetSizeFields(QLineEdit* width, QLineEdit* height)
+{
+    m_width = width;
+    m_height = height;
+}
+
+void ImageListPanel::SetRows(std::vector<ImageRow> rows)
+{
+    m_list = {.Rows = std::move(rows), .Selected = {}};
+    if (!m_list.Rows.empty())
+        EnableListButtons(true);
+    m_lists->Show(m_list);
+}
+
+void ImageListPanel::SetRow(std::size_t index, ImageRow row)
+{
+    m_list.Rows.at(index) = std::move(row);
+    m_list.Selected = index;
+    m_lists->Show(m_list);
+}
+
+void ImageListPanel::LoadSelectedPicture()
+{
+    const Text name = m_boxes->FileName();
+    if (name.empty())
+        return;
+    const auto picture = LoadPicture(ToQt(PathIn(m_boxes->Folder(), name)), previewRoom);
+    if (!picture)
+        return;
+    m_pictureSize = picture->Size;
+    if (m_preview != nullptr)
+        m_preview->setPixmap(QPixmap::fromImage(picture->Thumbnail));
+}
+
+void ImageListPanel::AddSelectedFile()
+{
+    if (m_boxes->FileName().empty())
+        return m_bench.Dialogs.Say(noImageSelected);
+    AddImageToList();
+}
+
+void ImageListPanel::AddImageToList()
+{
+    // The buttons come alive even if the name is refused.
+    if (m_variation.EnablesButtonsOnAdd)
+        EnableListButtons(true);
+    const auto complaint =
+        orvane::AddImageToList(m_list, m_bench.Core, m_boxes->Folder(), m_boxes->FileName());
+    Tell(complaint);
+    if (complaint || m_width == nullptr)
+        return;
+    m_width->setText(ToQt(GrownField(FromQt(m_width->text()), m_pictureSize.width())));
+    m_height->setText(ToQt(GrownField(FromQt(m_height->text()), m_pictureSize.height())));
+}
+
+void ImageListPanel::EnableListButtons(bool isOn)
+{
+    for (QPushButton* button : {cmdMoveUp, cmdMoveDown, cmdDelete})
+        button->setEnabled(isOn);
+}
+
+/// Ends a command on the list: shows what became of it, or why nothing did.
+void ImageListPanel::Tell(const std::optional<Complaint>& complaint)
+{
+    if (complaint)
+        m_bench.Dialogs.Say(complaint->Words, complaint->Look);
+    else
+        m_lists->Show(m_list);
+}
+
+} // namespace orvane
