@@ -28,6 +28,7 @@ struct CatalogueRow
 {
     EffectKind Kind;
     TextView MenuCommand; ///< the object name of the command that opens it
+    TextView Picture;     ///< of the program's resources, such as "status_bar"
     TextView Title;
     TextView Description;
     TextView Form; ///< the wizard window

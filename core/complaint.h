@@ -2,9 +2,12 @@
 
 #include "core/text.h"
 
-#include <string>
+#include <string_view>
 
 namespace orvane {
+
+/// A control's object name; always a literal, or one that lives as long as its window.
+using ControlName = std::string_view;
 
 /// How a message box looks: with no sign, or with the exclamation sign.
 enum class Tone
@@ -17,7 +20,7 @@ enum class Tone
 struct Complaint
 {
     Text Words;
-    std::string Control;
+    ControlName Control;
     Tone Look = Tone::Plain;
     bool operator==(const Complaint&) const = default;
 };

@@ -3,6 +3,7 @@
 #include "core/fault.h"
 #include "core/text.h"
 
+#include <concepts>
 #include <cstdint>
 
 namespace orvane {
@@ -24,5 +25,12 @@ int StepNumber(TextView text, int step, int lowest, int highest);
 
 /// The number with at most 15 significant digits and no trailing zeros, such as "0.5".
 Text NumberToText(double number);
+
+/// A whole number in decimal.
+template <std::integral Number>
+Text NumberToText(Number number)
+{
+    return NumberToText(static_cast<double>(number));
+}
 
 } // namespace orvane

@@ -93,6 +93,8 @@ struct EffectPayload
     Text OnUnloadArgs; ///< parentheses included
     RequiredFiles Required;
     std::array<Text, 3> SupportFiles; ///< class files that lie in the program's folder
+    Text SavedHEAD;                   ///< the wizard's own copies of its code
+    Text SavedBODY;
     bool operator==(const EffectPayload&) const = default;
 };
 

@@ -14,11 +14,11 @@ namespace orvane {
 FtpPanel::FtpPanel(Settings& settings) : m_settings(settings)
 {
     PageBuilder page(this);
-    cmbServerName = page.ComboBox(QStringLiteral("cmbServerName"), u"Server:", {}, true);
-    m_username = page.TextBox(MemberName(QStringLiteral("Text3"), 0), u"Username:");
-    QLineEdit* password = page.TextBox(MemberName(QStringLiteral("Text3"), 1), u"Password:");
+    cmbServerName = page.ComboBox("cmbServerName", u"Server:", {}, true);
+    m_username = page.TextBox("Text3(0)", u"Username:");
+    QLineEdit* password = page.TextBox("Text3(1)", u"Password:");
     password->setEchoMode(QLineEdit::Password);
-    page.TextBox(QStringLiteral("txtInitialDirectory"), u"Initial Directory:");
+    page.TextBox("txtInitialDirectory", u"Initial Directory:");
     PageBuilder progress = page.Frame(u"Progress");
     auto* bar = new QProgressBar;
     bar->setObjectName(QStringLiteral("ProgressBar1"));

@@ -21,15 +21,15 @@ MakeDirForm::MakeDirForm(Workbench& bench, TextView folder, QWidget* parent)
     setObjectName(QStringLiteral("MakeDir"));
     setWindowTitle(QStringLiteral("Create Folder"));
     PageBuilder page(this);
-    m_boxes = new FolderBoxes(bench.Files, {QStringLiteral("Drive1"), QStringLiteral("Dir1"), {}},
+    m_boxes = new FolderBoxes(bench.Files, {"Drive1", "Dir1", {}},
                               u"*.*");
     m_boxes->GoTo(folder);
     page.Fill(m_boxes);
-    txtFolder = page.TextBox(QStringLiteral("txtFolder"), u"Type name of new folder here -->");
-    QPushButton* ok = page.Button(QStringLiteral("cmdOK"), u"&OK");
+    txtFolder = page.TextBox("txtFolder", u"Type name of new folder here -->");
+    QPushButton* ok = page.Button("cmdOK", u"&OK");
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &MakeDirForm::MakeDirEnter);
-    QPushButton* cancel = page.Button(QStringLiteral("cmdCancel"), u"&Cancel");
+    QPushButton* cancel = page.Button("cmdCancel", u"&Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     page.Buttons({ok, cancel});
     OpenHelpOnF1(this, bench.Help, publishTopic);

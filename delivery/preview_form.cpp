@@ -30,7 +30,7 @@ public:
 
 PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
                          PreviewWindows windows, QWidget* parent)
-    : WizardFrame(QStringLiteral("Preview"), bench, parent),
+    : WizardFrame("Preview", bench, parent),
       m_payload(Finish(effect)),
       m_pane(pane),
       m_windows(std::move(windows))
@@ -43,7 +43,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
     AddCodePanels();
     AddPublishPanel();
     AddFinishPanel();
-    AddButtons(Buttons::Paged, QStringLiteral("cmdHelp"));
+    AddButtons(Buttons::Paged, "cmdHelp");
     setMinimumSize(640, 520);
     ChangePage(m_step);
 }

@@ -15,8 +15,11 @@ namespace {
 
 QString PanelName(int index)
 {
-    return MemberName(QStringLiteral("Picture1"), index);
+    return MemberName("Picture1", index);
 }
+
+constexpr std::array<ControlName, 3> needHelpNames = {"lblNeedHelp(0)", "lblNeedHelp(1)",
+                                                      "lblNeedHelp(2)"};
 
 } // namespace
 
@@ -29,9 +32,9 @@ void PreviewForm::AddPreviewPanel()
     } else {
         page.Fill();
     }
-    QPushButton* preview = page.Button(QStringLiteral("cmdPreview1"), u"Preview in &Browser");
+    QPushButton* preview = page.Button("cmdPreview1", u"Preview in &Browser");
     connect(preview, &QPushButton::clicked, this, [this] { Preview(PreviewMode::Browser1); });
-    QPushButton* refresh = page.Button(QStringLiteral("cmdRefresh"), u"&Refresh");
+    QPushButton* refresh = page.Button("cmdRefresh", u"&Refresh");
     connect(refresh, &QPushButton::clicked, this, [this] { Preview(PreviewMode::Inline); });
     page.Buttons({preview, refresh});
 }
@@ -39,7 +42,7 @@ void PreviewForm::AddPreviewPanel()
 void PreviewForm::AddEditorPanel()
 {
     PageBuilder page(AddPanel(PanelName(1)));
-    lstHTMLEditors = page.ListBox(QStringLiteral("lstHTMLEditors"), {}, htmlEditors);
+    lstHTMLEditors = page.ListBox("lstHTMLEditors", {}, htmlEditors);
     lstHTMLEditors->setAccessibleName(QStringLiteral("Web page editors"));
     connect(lstHTMLEditors, &QListWidget::itemActivated, this, [this] { Next(); });
 }
@@ -48,7 +51,7 @@ void PreviewForm::AddMethodPanel()
 {
     PageBuilder page(AddPanel(PanelName(2)));
     for (std::size_t i = 0; i < insertModes.size(); ++i)
-        optInsertMode[i] = page.Option(QStringLiteral("optInsertMode"), static_cast<int>(i),
+        optInsertMode[i] = page.Option("optInsertMode", static_cast<int>(i),
                                        insertModes[i].Caption, insertModes[i].Explanation);
     optInsertMode[0]->setChecked(true);
     page.Fill();
@@ -57,38 +60,38 @@ void PreviewForm::AddMethodPanel()
 void PreviewForm::AddPagePanel()
 {
     PageBuilder page(AddPanel(PanelName(3)));
-    lblAutoStep1 = page.Note({}, QStringLiteral("lblAutoStep1"));
+    lblAutoStep1 = page.Note({}, "lblAutoStep1");
     txtFileName = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtFileName->setObjectName(QStringLiteral("txtFileName"));
     txtFileName->setAccessibleName(QStringLiteral("Web page"));
-    cmdBrowse = page.Button(QStringLiteral("cmdBrowse"), u"&Browse...");
+    cmdBrowse = page.Button("cmdBrowse", u"&Browse...");
     connect(cmdBrowse, &QPushButton::clicked, this, &PreviewForm::BrowseForPage);
     page.Row({}, {txtFileName, cmdBrowse});
-    cmdSaveWebPage = page.Button(QStringLiteral("cmdSaveWebPage"), u"Save as New Web page");
+    cmdSaveWebPage = page.Button("cmdSaveWebPage", u"Save as New Web page");
     connect(cmdSaveWebPage, &QPushButton::clicked, this, &PreviewForm::SaveWebPage);
     lblAutoStep2 = page.Note(u"2. Insert the special effect by pressing the 'Auto-insert' button "
                              u"below.",
-                             QStringLiteral("lblAutoStep2"));
-    cmdAutoInsert = page.Button(QStringLiteral("cmdAutoInsert"), u"&Auto-insert");
+                             "lblAutoStep2");
+    cmdAutoInsert = page.Button("cmdAutoInsert", u"&Auto-insert");
     connect(cmdAutoInsert, &QPushButton::clicked, this, &PreviewForm::InsertIntoPage);
     page.Buttons({cmdAutoInsert, cmdSaveWebPage});
-    lblBackupFile = page.Note({}, QStringLiteral("lblBackupFile"));
+    lblBackupFile = page.Note({}, "lblBackupFile");
     lblAutoStep3 = page.Note(u"3. Open your Web page in a browser to see the special effect.",
-                             QStringLiteral("lblAutoStep3"));
+                             "lblAutoStep3");
     page.Fill();
 }
 
 void PreviewForm::AddCodePanel(const CodePanel& words, TextView code, TextView example)
 {
     PageBuilder page(AddPanel(PanelName(words.Panel)));
-    QPlainTextEdit* box = page.CodeBox(QLatin1String(words.Box), words.AccessibleName);
+    QPlainTextEdit* box = page.CodeBox(words.Box, words.AccessibleName);
     box->setPlainText(ToQtLines(code));
-    QPushButton* copy = page.Button(QLatin1String(words.CopyButton), u"C&opy");
+    QPushButton* copy = page.Button(words.CopyButton, u"C&opy");
     connect(copy, &QPushButton::clicked, this, [this, box] { CopyCode(box); });
     if (!example.empty())
-        page.Note(example, QStringLiteral("lblBODYAttribExample"));
+        page.Note(example, "lblBODYAttribExample");
     const int index = words.Panel - 4;
-    auto* help = new LinkLabel(MemberName(QStringLiteral("lblNeedHelp"), index), {});
+    auto* help = new LinkLabel(needHelpNames[static_cast<std::size_t>(index)], {});
     connect(help, &LinkLabel::Followed, this, [this] { m_bench.Help.ShowTopic(m_editorTopic); });
     lblNeedHelp[static_cast<std::size_t>(index)] = help;
     page.Row({}, {help, copy});
@@ -125,13 +128,13 @@ void PreviewForm::AddFinishPanel()
 {
     PageBuilder page(AddPanel(PanelName(9)));
     lstFilesToUpload =
-        page.ListBox(QStringLiteral("lstFilesToUpload"),
+        page.ListBox("lstFilesToUpload",
                      u"If you wish to upload your special effect to the Web, you must "
                      u"also upload the following files:",
                      {});
     for (const Text& name : FilesToUpload(m_payload))
         lstFilesToUpload->addItem(ToQt(name));
-    auto* link = new LinkLabel(QStringLiteral("lblClickHere"), u"click here.");
+    auto* link = new LinkLabel("lblClickHere", u"click here.");
     connect(link, &LinkLabel::Followed, this,
             [this] { m_bench.Help.ShowTopic(help_topics::transfer); });
     page.Row(u"If you need help transferring your special effect to the Web, ", {link});

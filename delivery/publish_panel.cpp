@@ -70,8 +70,7 @@ PublishPanel::PublishPanel(const CopyDesk& desk, MakeFolderWindow makeFolder)
 QWidget* PublishPanel::MakeFromSide()
 {
     m_from = new FolderBoxes(m_desk.Files,
-                             {QStringLiteral("driveCopyFrom"), QStringLiteral("dirCopyFrom"),
-                              QStringLiteral("fileCopyFrom")},
+                             {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"},
                              u"*.*");
     m_from->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* side = new QWidget;
@@ -84,7 +83,7 @@ QWidget* PublishPanel::MakeToSide()
     auto* side = new QWidget;
     m_to = new FolderBoxes(
         m_desk.Files,
-        {QStringLiteral("driveCopyTo"), QStringLiteral("dirCopyTo"), QStringLiteral("fileCopyTo")},
+        {"driveCopyTo", "dirCopyTo", "fileCopyTo"},
         u"*.*");
     cmdNewFolder = MakeButton("cmdNewFolder", "Ne&w Folder...", &PublishPanel::MakeFolder);
     QVBoxLayout* column = MakeColumn(side);

@@ -18,9 +18,10 @@ struct UserFolders
     Text State;    ///< untouched first backups
 };
 
-/// The folders as the desktop's conventions place them; ORVANE_HOME names another program folder
-/// and takes settings and state along.
-UserFolders FindUserFolders(const Environment& environment);
+/// The folders as the desktop's conventions place them; ORVANE_HOME, from the current folder on
+/// when it is relative, names another program folder and takes settings and state along. Nothing
+/// when the variables tell no place for one of them.
+std::optional<UserFolders> FindUserFolders(const Environment& environment);
 
 /// Makes the file hold these bytes unless it does already.
 [[nodiscard]] Done InstallFile(FileStore& files, TextView path, std::string_view bytes);

@@ -10,6 +10,7 @@ namespace orvane {
 namespace {
 
 constexpr std::string_view topicSign = "=== ";
+constexpr TextView effectsMark = u"«EffectsOfTags»";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view WithoutReturn(std::string_view line)
@@ -55,7 +56,7 @@ bool HoldsAll(TextView text, const std::vector<TextView>& words)
 
 } // namespace
 
-HelpBook ReadHelpBook(std::string_view bytes)
+HelpBook ReadHelpBook(std::string_view bytes, TextView effectsOfTags)
 {
     HelpBook book;
     if (bytes.starts_with(byteOrderMark))
@@ -69,6 +70,8 @@ HelpBook ReadHelpBook(std::string_view bytes)
             book.back().Body.append(FromUtf8(line)).push_back(u'\n');
         bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
     }
+    for (HelpTopic& topic : book)
+        topic.Body = ReplaceAll(topic.Body, effectsMark, effectsOfTags);
     return book;
 }
 

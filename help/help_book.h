@@ -20,7 +20,8 @@ using HelpBook = std::vector<HelpTopic>;
 
 /// The topics of a book file in UTF-8. A line such as "=== 22 Preview your special effect" begins a
 /// topic, the lines up to the next one are its body; lines before the first topic are passed over.
-HelpBook ReadHelpBook(std::string_view bytes);
+/// `effectsOfTags`, a fragment of HTML, comes where a body has "«EffectsOfTags»".
+HelpBook ReadHelpBook(std::string_view bytes, TextView effectsOfTags = {});
 
 /// The first topic with that number, or null.
 const HelpTopic* FindTopic(const HelpBook& book, int number);

@@ -4,6 +4,7 @@
 #include "core/file_store.h"
 #include "core/shell.h"
 #include "help/qt_topic_browser.h"
+#include "windows/controls.h"
 #include "windows/qt_text.h"
 
 #include <QEvent>
@@ -30,21 +31,14 @@ namespace {
 constexpr TextView bookName = u"orvane.hlp";
 constexpr TextView pictureFolder = u"help";
 
-QPushButton* MakeButton(const QString& name, const QString& caption)
-{
-    auto* button = new QPushButton(caption);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
-HelpForm::HelpForm(const FileStore& files, Shell& shell, Text programFolder)
+HelpForm::HelpForm(const FileStore& files, Shell& shell, Text programFolder, Text effectsOfTags)
     : QDialog(nullptr, Qt::Window),
       m_files(files),
       m_shell(shell),
-      m_programFolder(std::move(programFolder))
+      m_programFolder(std::move(programFolder)),
+      m_effectsOfTags(std::move(effectsOfTags))
 {
     setObjectName(QStringLiteral("HelpForm"));
     setWindowTitle(QStringLiteral("Orvane Help"));
@@ -55,10 +49,13 @@ void HelpForm::Build()
 {
     const auto book = m_files.Read(PathIn(m_programFolder, bookName));
     if (FaultIn(book) == nullptr)
-        m_book = ReadHelpBook(ValueIn(book));
-    cmdBack = MakeButton(QStringLiteral("cmdBack"), QStringLiteral("&Back"));
-    cmdForward = MakeButton(QStringLiteral("cmdForward"), QStringLiteral("&Forward"));
-    cmdContents = MakeButton(QStringLiteral("cmdContents"), QStringLiteral("&Contents"));
+        m_book = ReadHelpBook(ValueIn(book), m_effectsOfTags);
+    cmdBack = MakeButton("cmdBack", u"&Back");
+    cmdForward = MakeButton("cmdForward", u"&Forward");
+    cmdContents = MakeButton("cmdContents", u"&Contents");
+    // Enter belongs to the search.
+    for (QPushButton* button : {cmdBack, cmdForward, cmdContents})
+        button->setAutoDefault(false);
     txtSearch = new QLineEdit;
     lstContents = new QListWidget;
     txtTopic = new TopicBrowser(m_book, m_files, PathIn(m_programFolder, pictureFolder));

@@ -25,8 +25,8 @@ class HelpForm : public QDialog, public HelpViewer
 public:
     /// The book is "orvane.hlp" in the program's folder, its pictures lie in "help" beside it. It
     /// is read when the first topic is asked for; one that cannot be read leaves a note that says
-    /// so.
-    HelpForm(const FileStore& files, Shell& shell, Text programFolder);
+    /// so. `effectsOfTags` is the book's list of the effects that can be re-edited.
+    HelpForm(const FileStore& files, Shell& shell, Text programFolder, Text effectsOfTags = {});
 
     /// Brings the window up with that topic, or with a note when the book has none of that number.
     void ShowTopic(int number) override;
@@ -49,6 +49,7 @@ private:
     const FileStore& m_files;
     Shell& m_shell;
     Text m_programFolder;
+    Text m_effectsOfTags;
     HelpBook m_book;
     int m_topic = -1; ///< on show; -1 before the first
     QPushButton* cmdBack = nullptr;

@@ -21,7 +21,7 @@ QLabel* AddWords(QDialog* window, TextView words, const QString& name = {})
     return label;
 }
 
-void AddLink(QDialog* window, const QString& name, TextView words, TextView address, Shell& shell)
+void AddLink(QDialog* window, ControlName name, TextView words, TextView address, Shell& shell)
 {
     auto* link = new LinkLabel(name, words, window);
     link->setAlignment(Qt::AlignHCenter);
@@ -54,7 +54,7 @@ AboutForm::AboutForm(Workbench& bench, QWidget* parent) : QDialog(parent)
     setMinimumWidth(360);
     AddWords(this, Join({u"Version ", bench.Version, u" for Windows 95/98/NT/ME/2000/XP"}),
              QStringLiteral("lblVersionInfo"));
-    AddLink(this, QStringLiteral("lblLink"), MakerSiteURL, MakerSiteURL, bench.Shell);
+    AddLink(this, "lblLink", MakerSiteURL, MakerSiteURL, bench.Shell);
     AddButton(this, QStringLiteral("cmdOK"), u"&OK");
     OpenHelpOnF1(this, bench.Help, help_topics::contents);
 }
@@ -66,10 +66,9 @@ DownloadForm::DownloadForm(Workbench& bench, QWidget* parent) : QDialog(parent)
     new QVBoxLayout(this);
     AddWords(this, u"Get the Netscape version of Orvane, or a newer browser, from these pages.  "
                    u"Then start Orvane again.");
-    AddLink(this, QStringLiteral("lblDownloadOrvane"), u"Download the Netscape version of Orvane",
-            ProductPageURL, bench.Shell);
-    AddLink(this, QStringLiteral("lblDownloadBrowser"), u"Download Internet Explorer", MakerSiteURL,
+    AddLink(this, "lblDownloadOrvane", u"Download the Netscape version of Orvane", ProductPageURL,
             bench.Shell);
+    AddLink(this, "lblDownloadBrowser", u"Download Internet Explorer", MakerSiteURL, bench.Shell);
     AddButton(this, QStringLiteral("cmdClose"), u"&Close");
 }
 

@@ -1,5 +1,6 @@
 #include "program/form_desk.h"
 
+#include "core/numbers.h"
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/applet/advanced_animator_form.h"
@@ -9,6 +10,7 @@
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
 #include "program/startup.h"
+#include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
 
 #include <QCoreApplication>
@@ -82,6 +84,17 @@ std::unique_ptr<WizardForm> FormDesk::MakeWizard(EffectKind kind, Workbench& ben
 {
     const WizardMaker maker = MakerOf(kind);
     return maker == nullptr ? nullptr : maker(bench, parent);
+}
+
+Text FormDesk::ListEffectsOfTags()
+{
+    Text list = u"<ul>\n";
+    for (const EffectKind kind : EffectsOfTags())
+        if (IsBuilt(kind))
+            list += Join({u"<li><a href=\"topic:",
+                          NumberToText(help_topics::firstEffect + static_cast<int>(kind)), u"\">",
+                          FindRow(kind)->Title, u"</a></li>\n"});
+    return list + u"</ul>";
 }
 
 void FormDesk::OpenEffect(const EffectCommand& command)

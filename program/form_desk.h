@@ -35,6 +35,9 @@ public:
     static std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,
                                                   QWidget* parent = nullptr);
 
+    /// The effects that can be re-edited, as a list of links for the help book.
+    static Text ListEffectsOfTags();
+
     /// Leads the author through the effect's wizard and its delivery until both are closed.
     void OpenEffect(const EffectCommand& command);
 

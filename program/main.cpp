@@ -8,6 +8,7 @@
 #include "program/qt_dialogs.h"
 #include "program/qt_resources.h"
 #include "program/qt_shell.h"
+#include "program/terminal.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
@@ -15,7 +16,11 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <cstdio>
 #include <cstdlib>
+
+#include <pwd.h>
+#include <unistd.h>
 
 namespace {
 
@@ -29,27 +34,45 @@ std::optional<orvane::Text> EnvironmentVariable(orvane::TextView name)
     return orvane::FromUtf8(value);
 }
 
+/// Gives HOME the account's own folder where nobody set it, for this program and those that it
+/// starts.
+void ProvideHome()
+{
+    const char* home = std::getenv("HOME");
+    if (home != nullptr && *home != '\0')
+        return;
+    if (const passwd* account = getpwuid(getuid()))
+        setenv("HOME", account->pw_dir, 1);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    using namespace orvane;
+    ProvideHome();
+    const auto folders = FindUserFolders(EnvironmentVariable);
+    if (!folders) {
+        std::fputs("Orvane finds no folder for what it keeps: set HOME to your home folder.\n",
+                   stderr);
+        return EXIT_FAILURE;
+    }
+    QuietEngines();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setDesktopFileName(QStringLiteral("orvane"));
     QApplication::setQuitOnLastWindowClosed(false);
 
-    using namespace orvane;
-    const UserFolders folders = FindUserFolders(EnvironmentVariable);
     PosixDisk disk;
-    DiskFileStore files(disk, folders.State);
-    SettingsFile settings(files, folders.Settings);
+    DiskFileStore files(disk, folders->State);
+    SettingsFile settings(files, folders->Settings);
     QtDialogs dialogs;
     QtShell shell;
     QtClipboard clipboard;
     OrvaneCore core;
-    core.ProgramFolder = folders.Program;
+    core.ProgramFolder = folders->Program;
     QtPreviewPane pane(dialogs, shell, files);
-    HelpForm help(files, shell, folders.Program);
+    HelpForm help(files, shell, folders->Program, FormDesk::ListEffectsOfTags());
 
     Workbench bench{.Core = core,
                     .Dialogs = dialogs,
@@ -60,7 +83,7 @@ int main(int argc, char** argv)
                     .Pane = pane,
                     .Help = help,
                     .Version = ORVANE_VERSION,
-                    .StateFolder = folders.State,
+                    .StateFolder = folders->State,
                     .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); }};
     FormDesk desk(bench, &pane);
     // An open wizard is the first sign of a preview to come; the author is still reading then.
@@ -70,7 +93,7 @@ int main(int argc, char** argv)
     // Behind the first paint of the window: the icon alone loads a library.
     QTimer::singleShot(0, &desk, [&] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
-        InstallResources(files, dialogs, folders.Program);
+        InstallResources(files, dialogs, folders->Program);
     });
     return QApplication::exec();
 }

@@ -1,38 +1,35 @@
 #pragma once
 
-#include "core/workbench.h"
-
-#include <QDialog>
+#include "windows/ok_cancel_form.h"
 
 class QCheckBox;
 class QComboBox;
-class QLineEdit;
-class QPushButton;
 
 namespace orvane {
 
-class PageBuilder;
+struct Preferences;
 
 /// The preferences.
-class OptionsForm : public QDialog
+class OptionsForm : public OkCancelForm
 {
     Q_OBJECT
 
 public:
     explicit OptionsForm(Workbench& bench, QWidget* parent = nullptr);
 
+protected:
+    void Take() override;
+
 private:
     void AddViewerFrame(PageBuilder& page);
     void AddMiscellaneousFrame(PageBuilder& page);
     void AddEditorFrame(PageBuilder& page);
-    void AddButtons(PageBuilder& page);
-    void Load();
+    void Show(const Preferences& preferences);
+    void SetBrowser(TextView browser);
     void Override(bool isOn);
     void BrowseForBrowser();
     void BrowseForDefaultPath();
-    void Save();
 
-    Workbench& m_bench;
     QLineEdit* txtBrowser;
     QPushButton* cmdBrowse1;
     QCheckBox* chkOverride;

@@ -56,8 +56,7 @@ bool QtShell::Start(TextView program, TextView argument)
 std::optional<Text> QtShell::DefaultBrowser()
 {
     const QString desktopFile =
-        FirstLineOf(QStringLiteral("xdg-settings"),
-                    {QStringLiteral("get"), QStringLiteral("default-web-browser")});
+        FirstLineOf(QStringLiteral("xdg-settings"), {"get", "default-web-browser"});
     const QString program = desktopFile.isEmpty() ? QString() : ProgramOf(desktopFile);
     const QString path = program.isEmpty() ? QString() : QStandardPaths::findExecutable(program);
     if (path.isEmpty())

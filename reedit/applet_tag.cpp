@@ -1,6 +1,6 @@
 #include "reedit/applet_tag.h"
 
-#include <array>
+#include <set>
 
 namespace orvane {
 
@@ -53,6 +53,15 @@ AppletDispatch RecognizeApplet(TextView appletTextAfterCODE)
             appletTextAfterCODE == Join({u"\"", Left(row.Prefix, 4)}))
             return row.Goes;
     return {};
+}
+
+std::vector<EffectKind> EffectsOfTags()
+{
+    std::set<EffectKind> kinds(animationWizards.begin(), animationWizards.end());
+    for (const AppletRow& row : rows)
+        if (row.Goes.Outcome == Way::Wizard)
+            kinds.insert(row.Goes.Kind);
+    return {kinds.begin(), kinds.end()};
 }
 
 } // namespace orvane

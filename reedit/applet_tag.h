@@ -3,6 +3,9 @@
 #include "core/payload.h"
 #include "core/text.h"
 
+#include <array>
+#include <vector>
+
 namespace orvane {
 
 /// The letters behind "CODE=" of a pasted tag, by which its applet is known.
@@ -33,6 +36,13 @@ struct AppletDispatch
 
 /// Where the tag with these five letters behind CODE= goes.
 AppletDispatch RecognizeApplet(TextView appletTextAfterCODE);
+
+/// The wizards that make tags for the animation applet; the author picks one of them.
+inline constexpr std::array<EffectKind, 3> animationWizards = {
+    EffectKind::AdvancedAnimator, EffectKind::AnimationWizard, EffectKind::BannerWizard};
+
+/// Every effect to which a pasted tag can lead, each once, in the order of the catalogue.
+std::vector<EffectKind> EffectsOfTags();
 
 /// What the author is told about a tag that is not recognised.
 inline constexpr TextView appletNotRecognized =

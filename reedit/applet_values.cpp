@@ -17,6 +17,20 @@ Text GetAppletValue(TextView pasted, TextView key)
     return Text(Mid(pasted, value, end - value));
 }
 
+Text TagValue(const PastedTag& tag, TextView key)
+{
+    if (tag.Reading == Quotes::Kept)
+        return GetAppletValue(tag.Whole, key);
+    const std::size_t place = Find(tag.Whole, key);
+    if (place == 0)
+        return {};
+    const TextView value = Mid(tag.Whole, place + key.size());
+    const bool isQuoted = Left(value, 1) == u"\"";
+    const std::size_t end = isQuoted ? value.find(u'"', 1) : value.find_first_of(u" >\r\n");
+    return Text(isQuoted ? value.substr(1, end == TextView::npos ? end : end - 1)
+                         : value.substr(0, end));
+}
+
 PipeValues PipeParse(TextView text)
 {
     // Stays as it is: whatever the last piece is, its final character is cut off.

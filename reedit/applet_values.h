@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/pasted_tag.h"
 #include "core/text.h"
 
 #include <array>
@@ -9,6 +10,10 @@ namespace orvane {
 /// The value that follows `key` in a pasted tag, up to the next quote behind its first character; a
 /// quoted value keeps its opening quote. Empty when the key is missing or no quote follows.
 Text GetAppletValue(TextView pasted, TextView key);
+
+/// The value that follows `key` in the tag, read as the tag says: as GetAppletValue() gives it, or
+/// alone, without its quotes and ended by a blank or ">" where it has none.
+Text TagValue(const PastedTag& tag, TextView key);
 
 /// The cells of a value of the earlier applet, whose lists are joined by bars.
 using PipeValues = std::array<Text, 3>;

@@ -20,14 +20,13 @@ struct AnimationChoice
 {
     const char* Name;
     const char* Caption;
-    EffectKind Kind;
 };
 
-constexpr std::array<AnimationChoice, 3> animationChoices = {{
-    {"optAdvancedAnimationAppletWizard", "Advanced Animation applet Wizard",
-     EffectKind::AdvancedAnimator},
-    {"optAnimationWizard", "Animation Wizard", EffectKind::AnimationWizard},
-    {"optBillboardWizard", "Billboard Wizard", EffectKind::BannerWizard},
+/// In the order of animationWizards.
+constexpr std::array<AnimationChoice, animationWizards.size()> animationChoices = {{
+    {"optAdvancedAnimationAppletWizard", "Advanced Animation applet Wizard"},
+    {"optAnimationWizard", "Animation Wizard"},
+    {"optBillboardWizard", "Billboard Wizard"},
 }};
 
 } // namespace
@@ -56,11 +55,11 @@ void EditAppletForm::AddPastePanel()
     Text1->setAccessibleName(QStringLiteral("HTML code of the applet"));
     Text1->setTabChangesFocus(true);
     panel.Fill(Text1);
-    QPushButton* edit = panel.Button(QStringLiteral("cmdEdit"), u"&Edit");
+    QPushButton* edit = panel.Button("cmdEdit", u"&Edit");
     connect(edit, &QPushButton::clicked, this, &EditAppletForm::Edit);
-    QPushButton* cancel = panel.Button(QStringLiteral("cmdCancel"), u"&Cancel");
+    QPushButton* cancel = panel.Button("cmdCancel", u"&Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    QPushButton* help = panel.Button(QStringLiteral("cmdClickHereForHelp"), u"Click here for help");
+    QPushButton* help = panel.Button("cmdClickHereForHelp", u"Click here for help");
     connect(help, &QPushButton::clicked, this,
             [this] { m_bench.Help.ShowTopic(help_topics::editApplet); });
     panel.Buttons({edit, cancel, help});
@@ -77,10 +76,10 @@ void EditAppletForm::AddChoicePanel()
     }
     m_choices[0]->setChecked(true);
     panel.Fill();
-    QPushButton* edit = panel.Button(QStringLiteral("cmdEdit"), u"&Edit");
+    QPushButton* edit = panel.Button("cmdEdit", u"&Edit");
     edit->setDefault(true);
     connect(edit, &QPushButton::clicked, this, &EditAppletForm::EditChosen);
-    QPushButton* cancel = panel.Button(QStringLiteral("cmdCancel"), u"&Cancel");
+    QPushButton* cancel = panel.Button("cmdCancel", u"&Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     panel.Buttons({edit, cancel});
 }
@@ -120,7 +119,7 @@ void EditAppletForm::EditChosen()
 {
     for (std::size_t i = 0; i < animationChoices.size(); ++i)
         if (m_choices[i]->isChecked())
-            return Open(animationChoices[i].Kind);
+            return Open(animationWizards[i]);
 }
 
 void EditAppletForm::Open(EffectKind kind)

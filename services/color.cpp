@@ -1,5 +1,7 @@
 #include "services/color.h"
 
+#include "core/numbers.h"
+
 #include <algorithm>
 
 namespace orvane {
@@ -94,11 +96,36 @@ void CColor::SelectColor(Dialogs& dialogs)
     HexColor = ConvertToRGBHex(RGBColor);
 }
 
-std::int32_t PackedColor(TextView text)
+Text ColorText(std::int32_t packed, ColorNotation notation)
 {
     CColor color;
-    color.ConvertHexToRGB(text);
-    return color.Blue << 16 | color.Green << 8 | color.Red;
+    const Text digits = color.ConvertToRGBHex(packed);
+    if (notation == ColorNotation::Hash)
+        return u"#" + digits;
+    color.ConvertHexToRGB(digits);
+    const Text channels = Join(
+        {NumberToText(color.Red), u",", NumberToText(color.Green), u",", NumberToText(color.Blue)});
+    return notation == ColorNotation::Channels ? channels : Join({u"rgb(", channels, u")"});
+}
+
+std::optional<std::int32_t> PackedColor(TextView text)
+{
+    if (text.empty())
+        return std::nullopt;
+    CColor color;
+    if (text.find(u',') == TextView::npos) {
+        color.ConvertHexToRGB(text);
+        return color.Blue << 16 | color.Green << 8 | color.Red;
+    }
+    if (const std::size_t bracket = text.find(u'('); bracket != TextView::npos)
+        text.remove_prefix(bracket + 1);
+    std::int32_t packed = 0;
+    for (const int shift : {0, 8, 16}) {
+        packed |= static_cast<std::int32_t>(std::clamp(Val(text), 0.0, 255.0)) << shift;
+        const std::size_t comma = text.find(u',');
+        text = comma == TextView::npos ? TextView() : text.substr(comma + 1);
+    }
+    return packed;
 }
 
 } // namespace orvane

@@ -5,12 +5,9 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 namespace orvane {
-
-/// Whether the author cancelled the last colour dialog: 0 for no, -1 for yes. Written by
-/// CColor::SelectColor() alone.
-inline std::int16_t ColorDialogCancelled = 0;
 
 /// A colour in the forms that page text needs; made for one click and dropped again.
 class CColor
@@ -23,6 +20,7 @@ public:
     std::int16_t Red = 0;      ///< 0 to 255, as are the other two
     std::int16_t Blue = 0;
     std::int16_t Green = 0;
+    std::int16_t ColorDialogCancelled = 0; ///< whether SelectColor() was: 0 for no, -1 for yes
 
     /// A copy of the table of web colours: sixteen names, then the digits of each.
     std::array<TextView, 32> WebColors() const { return m_webColors; }
@@ -36,7 +34,7 @@ public:
     Text ConvertToRGBHex(std::int32_t value) const;
 
     /// Asks for a colour and fills `HexColor` and `RGBColor`; after Cancel they are empty and 0,
-    /// and ColorDialogCancelled tells.
+    /// and `ColorDialogCancelled` tells.
     void SelectColor(Dialogs& dialogs);
 
 private:
@@ -45,7 +43,18 @@ private:
     std::array<TextView, 32> m_webColors;
 };
 
-/// The colour of a text such as "#FF8000", packed as CColor::RGBColor is.
-std::int32_t PackedColor(TextView text);
+/// The ways in which pages and applets write a colour.
+enum class ColorNotation
+{
+    Hash,        ///< "#FF8000"
+    Channels,    ///< "255,128,0"
+    RgbFunction, ///< "rgb(255,128,0)"
+};
+
+/// A packed colour, as CColor::RGBColor is, in the wanted notation.
+Text ColorText(std::int32_t packed, ColorNotation notation);
+
+/// The packed colour of a text in any of the notations; nothing for an empty text.
+std::optional<std::int32_t> PackedColor(TextView text);
 
 } // namespace orvane

@@ -2,13 +2,17 @@
 
 #include "core/file_names.h"
 #include "core/numbers.h"
+#include "services/recorded_files.h"
 
-#include <limits>
+#include <array>
 #include <utility>
 
 namespace orvane {
 
 namespace {
+
+constexpr std::array rowFields = {&ImageRow::FileName, &ImageRow::Pause, &ImageRow::Transition,
+                                  &ImageRow::URL, &ImageRow::Sound};
 
 Complaint CannotMove(TextView listInMessages, TextView end)
 {
@@ -17,6 +21,22 @@ Complaint CannotMove(TextView listInMessages, TextView end)
 }
 
 } // namespace
+
+FieldTexts TextsOf(const std::vector<ImageRow>& rows)
+{
+    FieldTexts texts;
+    for (const ImageRow& row : rows)
+        for (const auto field : rowFields)
+            texts.push_back(row.*field);
+    return texts;
+}
+
+void SetField(std::vector<ImageRow>& rows, const FieldTexts& texts)
+{
+    rows.assign(texts.size() / rowFields.size(), {});
+    for (std::size_t i = 0; i < rows.size() * rowFields.size(); ++i)
+        rows[i / rowFields.size()].*rowFields[i % rowFields.size()] = texts[i];
+}
 
 ImageListVariation AnimatorImageList()
 {
@@ -47,11 +67,8 @@ ImageListVariation SlideshowImageList()
 std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, TextView folder,
                                         TextView fileName)
 {
-    if (Trim(fileName).find(u' ') != TextView::npos)
-        return Complaint{.Words =
-                             u"This special effect does not allow image filenames containing space "
-                             u"characters.\r\nPlease rename the image or select another image.",
-                         .Control = {}};
+    if (auto complaint = CheckNoBlank(Trim(fileName), FileRole::Image))
+        return complaint;
     const bool goesInFront = list.Selected && *list.Selected + 1 < list.Rows.size();
     const std::size_t place = goesInFront ? *list.Selected : list.Rows.size();
     list.Rows.insert(list.Rows.begin() + static_cast<std::ptrdiff_t>(place),
@@ -92,24 +109,6 @@ std::optional<Complaint> MoveDown(ImageList& list, TextView listInMessages)
 Text GrownField(TextView field, int pixels)
 {
     return Val(field) < pixels ? NumberToText(pixels) : Text(field);
-}
-
-void ClearRequiredFiles(OrvaneCore& core)
-{
-    core.Required = {};
-    core.RequiredFileCount = 0;
-    core.Payload.SupportFiles = {};
-}
-
-void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name)
-{
-    const auto slot = static_cast<std::size_t>(core.RequiredFileCount);
-    if (slot < core.Required.Names.size()) {
-        core.Required.Sources[slot] = source;
-        core.Required.Names[slot] = name;
-    }
-    if (core.RequiredFileCount < std::numeric_limits<std::int16_t>::max())
-        ++core.RequiredFileCount;
 }
 
 } // namespace orvane

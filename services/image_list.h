@@ -1,12 +1,12 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/fields.h"
 #include "core/orvane_core.h"
 #include "core/text.h"
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace orvane {
@@ -22,10 +22,14 @@ struct ImageRow
     bool operator==(const ImageRow&) const = default;
 };
 
+/// Five texts for each row.
+FieldTexts TextsOf(const std::vector<ImageRow>& rows);
+void SetField(std::vector<ImageRow>& rows, const FieldTexts& texts);
+
 /// One list of the window: a text of every row, so that the lists are always in step.
 struct ImageListColumn
 {
-    std::string Name; ///< the control's object name
+    ControlName Name;
     TextView Header;
     Text ImageRow::*Field;
 };
@@ -35,7 +39,7 @@ struct ImageListVariation
 {
     std::vector<ImageListColumn> Columns = {
         {"List1", u"Animation Image List", &ImageRow::FileName}};
-    std::string AddButton = "cmdAddToImageList"; ///< the control's object name
+    ControlName AddButton = "cmdAddToImageList";
     TextView AddCaption = u"&Add to Image List -->";
     TextView AddTip = {};
     TextView FilesTip = {};
@@ -84,12 +88,5 @@ std::optional<Complaint> MoveDown(ImageList& list, TextView listInMessages);
 /// The text of a width or height field after a picture of that many pixels came: the larger of
 /// both. A text without a leading number counts 0.
 Text GrownField(TextView field, int pixels);
-
-/// Empties the tables of files to copy; an image list does so when its window opens.
-void ClearRequiredFiles(OrvaneCore& core);
-
-/// Records a file at the next free slot of the tables of files to copy. Behind the last slot
-/// nothing is recorded, and the count goes on.
-void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name);
 
 } // namespace orvane

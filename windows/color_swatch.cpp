@@ -1,6 +1,5 @@
 #include "windows/color_swatch.h"
 
-#include "services/color.h"
 #include "windows/qt_text.h"
 
 #include <QKeyEvent>
@@ -19,15 +18,25 @@ QColor OnScreen(std::int32_t color)
 
 } // namespace
 
-ColorSwatch::ColorSwatch(TextView caption, Dialogs& dialogs, QWidget* parent)
-    : QPushButton(ToQt(caption), parent), m_dialogs(dialogs), m_caption(ToQt(caption))
+ColorSwatch::ColorSwatch(TextView caption, ColorNotation notation, Dialogs& dialogs,
+                         QWidget* parent)
+    : QPushButton(ToQt(caption), parent),
+      m_dialogs(dialogs),
+      m_caption(ToQt(caption)),
+      m_notation(notation)
 {
     setFlat(true);
     setAutoDefault(false);
     connect(this, &QPushButton::clicked, this, &ColorSwatch::Pick);
 }
 
-void ColorSwatch::SetColor(std::optional<std::int32_t> color)
+void ColorSwatch::SetValue(TextView value)
+{
+    m_value = value;
+    Show(PackedColor(value));
+}
+
+void ColorSwatch::Show(std::optional<std::int32_t> color)
 {
     m_color = color;
     setText(color ? QString() : m_caption);
@@ -75,9 +84,10 @@ void ColorSwatch::Pick()
 {
     CColor color;
     color.SelectColor(m_dialogs);
-    if (ColorDialogCancelled != 0)
+    if (color.ColorDialogCancelled != 0)
         return;
-    SetColor(color.RGBColor);
+    m_value = ColorText(color.RGBColor, m_notation);
+    Show(color.RGBColor);
     emit Picked(color.RGBColor);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dialogs.h"
+#include "services/color.h"
 
 #include <QPushButton>
 
@@ -16,10 +17,19 @@ class ColorSwatch : public QPushButton
     Q_OBJECT
 
 public:
-    ColorSwatch(TextView caption, Dialogs& dialogs, QWidget* parent = nullptr);
+    ColorSwatch(TextView caption, ColorNotation notation, Dialogs& dialogs,
+                QWidget* parent = nullptr);
 
-    /// Shows a packed colour, as CColor::RGBColor is, or the caption when there is none.
-    void SetColor(std::optional<std::int32_t> color);
+    /// The colour as the page writes it; empty when none was picked.
+    const Text& Value() const { return m_value; }
+
+    /// Takes a colour and shows it, or the caption for an empty text.
+    void SetValue(TextView value);
+
+    /// Takes a colour and goes on showing what was there.
+    void SetHiddenValue(TextView value) { m_value = value; }
+
+    /// The packed colour that is shown, as CColor::RGBColor is; nothing while the caption is.
     std::optional<std::int32_t> Color() const { return m_color; }
 
     QSize sizeHint() const override;
@@ -34,9 +44,12 @@ protected:
 
 private:
     void Pick();
+    void Show(std::optional<std::int32_t> color);
 
     Dialogs& m_dialogs;
-    QString m_caption;
+    const QString m_caption;
+    const ColorNotation m_notation;
+    Text m_value;
     std::optional<std::int32_t> m_color;
 };
 

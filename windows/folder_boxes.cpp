@@ -72,29 +72,6 @@ std::vector<Text> MountedDrives()
     return drives;
 }
 
-int ActingList::SelectedRow() const
-{
-    const QModelIndexList selected = selectedIndexes();
-    return selected.isEmpty() ? -1 : selected.first().row();
-}
-
-void ActingList::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    QListWidget::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton)
-        emit DoubleClicked();
-}
-
-void ActingList::keyPressEvent(QKeyEvent* event)
-{
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // Taken here, Enter does not reach the window's default button.
-    if (isEnter && SelectedRow() >= 0)
-        emit Entered();
-    else
-        QListWidget::keyPressEvent(event);
-}
-
 FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, TextView masks,
                          QWidget* parent)
     : QWidget(parent),
@@ -118,7 +95,7 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
     const auto pick = [this] { PickFolder(m_folders->SelectedRow()); };
     connect(m_folders, &ActingList::Entered, this, pick);
     connect(m_folders, &QListWidget::itemDoubleClicked, this, pick);
-    if (!names.File.isEmpty()) {
+    if (!names.File.empty()) {
         m_files = new ActingList;
         AddBox(column, names.File, u"F&iles:", m_files, 3);
         connect(m_files, &ActingList::DoubleClicked, this, &FolderBoxes::FileActivated);
@@ -129,13 +106,13 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
         GoTo(Text(m_folder));
 }
 
-void FolderBoxes::AddBox(QVBoxLayout* column, const QString& name, TextView caption, QWidget* box,
+void FolderBoxes::AddBox(QVBoxLayout* column, ControlName name, TextView caption, QWidget* box,
                          int stretch)
 {
     auto* label = new QLabel(ToQt(caption));
     label->setBuddy(box);
-    box->setObjectName(name);
-    box->setAccessibleName(ToQt(caption).remove(u'&').remove(u':'));
+    box->setObjectName(ToQt(name));
+    box->setAccessibleName(SpokenName(caption));
     box->setSizePolicy(QSizePolicy::Ignored, box->sizePolicy().verticalPolicy());
     box->setMinimumWidth(box->fontMetrics().averageCharWidth() * 26);
     column->addWidget(label);

@@ -2,8 +2,8 @@
 
 #include "core/file_store.h"
 #include "services/folder_list.h"
-
-#include <QListWidget>
+#include "windows/acting_list.h"
+#include "windows/controls.h"
 
 class QComboBox;
 class QVBoxLayout;
@@ -16,29 +16,9 @@ std::vector<Text> MountedDrives();
 /// The object names of one set of boxes.
 struct FolderBoxNames
 {
-    QString Drive;
-    QString Folder;
-    QString File; ///< empty for a window without a file box
-};
-
-/// A list that tells of double clicks wherever they fall, and of Enter while a row is selected.
-class ActingList : public QListWidget
-{
-    Q_OBJECT
-
-public:
-    using QListWidget::QListWidget;
-
-    /// The row that is selected, or -1; a row that only has the focus does not count.
-    int SelectedRow() const;
-
-signals:
-    void DoubleClicked();
-    void Entered();
-
-protected:
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    ControlName Drive;
+    ControlName Folder;
+    ControlName File; ///< empty for a window without a file box
 };
 
 /// Drive, folder and file box, one above the other and each following the one before.
@@ -77,8 +57,7 @@ signals:
     void FileActivated();
 
 private:
-    void AddBox(QVBoxLayout* column, const QString& name, TextView caption, QWidget* box,
-                int stretch);
+    void AddBox(QVBoxLayout* column, ControlName name, TextView caption, QWidget* box, int stretch);
     void PickDrive(int index);
     void PickFolder(int row);
     void ShowFolders(const FolderRows& list);

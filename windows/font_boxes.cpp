@@ -1,6 +1,8 @@
 #include "windows/font_boxes.h"
 
 #include "core/pick_lists.h"
+#include "services/font_fields.h"
+#include "windows/page_builder.h"
 #include "windows/qt_text.h"
 
 #include <QComboBox>
@@ -8,30 +10,21 @@
 
 namespace orvane {
 
-FontBoxes::FontBoxes(PageBuilder& page, Dialogs& dialogs, const QString& buttonName)
-    : cboFont(page.ComboBox(QStringLiteral("cboFont"), u"Font:", PageFonts, true)),
-      cboFontSize(page.ComboBox(QStringLiteral("cboFontSize"), u"Font size:", FontSizes, true)),
-      cboFontStyle(page.ComboBox(QStringLiteral("cboFontStyle"), u"Font style:", FontStyles, true))
+void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button)
 {
-    QPushButton* more = page.Button(buttonName, u"more...");
+    QComboBox* font = page.ComboBox("cboFont", u"Font:", PageFonts, true);
+    QComboBox* size = page.ComboBox("cboFontSize", u"Font size:", FontSizes, true, {}, u"points");
+    QComboBox* style = page.ComboBox("cboFontStyle", u"Font style:", FontStyles, true);
+    QPushButton* more = page.Button(button, u"more...");
     page.Buttons({more});
-    QObject::connect(more, &QPushButton::clicked, more, [boxes = *this, &dialogs]() mutable {
-        boxes.SetFields(PickFontFields(dialogs, boxes.Fields()));
+    QObject::connect(more, &QPushButton::clicked, more, [&dialogs, font, size, style] {
+        const FontFields fields = PickFontFields(dialogs, {.Font = FromQt(font->currentText()),
+                                                           .Size = FromQt(size->currentText()),
+                                                           .Style = FromQt(style->currentText())});
+        SetComboText(*font, fields.Font);
+        SetComboText(*size, fields.Size);
+        SetComboText(*style, fields.Style);
     });
-}
-
-FontFields FontBoxes::Fields() const
-{
-    return {.Font = FromQt(cboFont->currentText()),
-            .Size = FromQt(cboFontSize->currentText()),
-            .Style = FromQt(cboFontStyle->currentText())};
-}
-
-void FontBoxes::SetFields(const FontFields& fields)
-{
-    cboFont->setCurrentText(ToQt(fields.Font));
-    cboFontSize->setCurrentText(ToQt(fields.Size));
-    cboFontStyle->setCurrentText(ToQt(fields.Style));
 }
 
 } // namespace orvane

@@ -1,24 +1,16 @@
 #pragma once
 
-#include "services/font_fields.h"
-#include "windows/page_builder.h"
+#include "windows/controls.h"
+
+class QComboBox;
 
 namespace orvane {
 
-/// The three rows in which an author chooses a font, and the button that opens the font dialog.
-class FontBoxes
-{
-public:
-    FontBoxes(PageBuilder& page, Dialogs& dialogs,
-              const QString& buttonName = QStringLiteral("cmdMoreFonts"));
+class Dialogs;
+class PageBuilder;
 
-    FontFields Fields() const;
-    void SetFields(const FontFields& fields);
-
-private:
-    QComboBox* cboFont;
-    QComboBox* cboFontSize;
-    QComboBox* cboFontStyle;
-};
+/// Adds the three rows in which an author chooses a font, `cboFont`, `cboFontSize` and
+/// `cboFontStyle`, and the button that opens the font dialog.
+void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button);
 
 } // namespace orvane

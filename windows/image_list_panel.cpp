@@ -1,6 +1,7 @@
 #include "windows/image_list_panel.h"
 
 #include "core/file_names.h"
+#include "services/recorded_files.h"
 #include "windows/folder_boxes.h"
 #include "windows/parallel_lists.h"
 #include "windows/picture.h"
@@ -21,13 +22,12 @@ namespace {
 
 constexpr QSize previewRoom(150, 110);
 
-/// Left without a parent: the layout takes the controls in, in reading order, which Tab follows.
-QPushButton* MakeButton(const QString& name, TextView caption)
+std::vector<ListColumn> ColumnsOf(const ImageListVariation& variation)
 {
-    auto* button = new QPushButton(ToQt(caption));
-    button->setObjectName(name);
-    button->setAutoDefault(true);
-    return button;
+    std::vector<ListColumn> columns;
+    for (const ImageListColumn& column : variation.Columns)
+        columns.push_back({column.Name, column.Header});
+    return columns;
 }
 
 } // namespace
@@ -37,17 +37,14 @@ ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& varia
     : QWidget(parent), m_bench(bench), m_variation(variation)
 {
     ClearRequiredFiles(m_bench.Core);
-    m_boxes = new FolderBoxes(
-        m_bench.Files, {QStringLiteral("Drive1"), QStringLiteral("Dir1"), QStringLiteral("File1")},
-        imageMasks);
+    m_boxes = new FolderBoxes(m_bench.Files, {"Drive1", "Dir1", "File1"}, imageMasks);
     m_boxes->GoTo(m_bench.Core.DefaultPath);
     m_boxes->FileBox()->setToolTip(ToQt(variation.FilesTip));
-    cmdAdd = MakeButton(QString::fromStdString(variation.AddButton), variation.AddCaption);
-    cmdAdd->setToolTip(ToQt(variation.AddTip));
-    m_lists = new ParallelLists(variation.Columns, variation.RowTip);
-    cmdMoveUp = MakeButton(QStringLiteral("cmdMoveUp"), u"Move Up");
-    cmdMoveDown = MakeButton(QStringLiteral("cmdMoveDown"), u"Move Down");
-    cmdDelete = MakeButton(QStringLiteral("cmdDelete"), u"Delete");
+    cmdAdd = MakeButton(variation.AddButton, variation.AddCaption, variation.AddTip);
+    m_lists = new ParallelLists(ColumnsOf(variation), variation.RowTip);
+    cmdMoveUp = MakeButton("cmdMoveUp", u"Move Up");
+    cmdMoveDown = MakeButton("cmdMoveDown", u"Move Down");
+    cmdDelete = MakeButton("cmdDelete", u"Delete");
     EnableListButtons(!variation.EnablesButtonsOnAdd);
     Arrange();
     Connect();
@@ -99,15 +96,17 @@ void ImageListPanel::Connect()
             [this] { Tell(MoveUp(m_list, m_variation.ListInMessages)); });
     connect(cmdMoveDown, &QPushButton::clicked, this,
             [this] { Tell(MoveDown(m_list, m_variation.ListInMessages)); });
-    connect(cmdDelete, &QPushButton::clicked, this, [this] {
+    const auto remove = [this] {
         DeleteRow(m_list);
-        m_lists->Show(m_list);
-    });
+        ShowList();
+    };
+    connect(cmdDelete, &QPushButton::clicked, this, remove);
+    connect(m_lists, &ParallelLists::RowDeleted, this, remove);
     connect(m_lists, &ParallelLists::RowSelected, this, [this](int row) {
         m_list.Selected = row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
         emit RowSelected();
     });
-    connect(m_lists, &ParallelLists::RowDoubleClicked, this, &ImageListPanel::RowDoubleClicked);
+    connect(m_lists, &ParallelLists::RowActivated, this, &ImageListPanel::RowActivated);
     connect(m_lists, &ParallelLists::MenuRequested, this, [this](QPoint place) {
         if (m_list.Selected)
             emit MenuRequested(place);
@@ -125,14 +124,14 @@ void ImageListPanel::SetRows(std::vector<ImageRow> rows)
     m_list = {.Rows = std::move(rows), .Selected = {}};
     if (!m_list.Rows.empty())
         EnableListButtons(true);
-    m_lists->Show(m_list);
+    ShowList();
 }
 
 void ImageListPanel::SetRow(std::size_t index, ImageRow row)
 {
     m_list.Rows.at(index) = std::move(row);
     m_list.Selected = index;
-    m_lists->Show(m_list);
+    ShowList();
 }
 
 void ImageListPanel::LoadSelectedPicture()
@@ -169,6 +168,17 @@ void ImageListPanel::AddImageToList()
     m_height->setText(ToQt(GrownField(FromQt(m_height->text()), m_pictureSize.height())));
 }
 
+void ImageListPanel::ShowList()
+{
+    RowList rows{.Rows = {}, .Selected = m_list.Selected};
+    for (const ImageRow& image : m_list.Rows) {
+        std::vector<Text>& row = rows.Rows.emplace_back();
+        for (const ImageListColumn& column : m_variation.Columns)
+            row.push_back(image.*column.Field);
+    }
+    m_lists->Show(rows);
+}
+
 void ImageListPanel::EnableListButtons(bool isOn)
 {
     for (QPushButton* button : {cmdMoveUp, cmdMoveDown, cmdDelete})
@@ -181,7 +191,7 @@ void ImageListPanel::Tell(const std::optional<Complaint>& complaint)
     if (complaint)
         m_bench.Dialogs.Say(complaint->Words, complaint->Look);
     else
-        m_lists->Show(m_list);
+        ShowList();
 }
 
 } // namespace orvane

@@ -45,7 +45,8 @@ public:
 signals:
     /// The author selected another row, or none.
     void RowSelected();
-    void RowDoubleClicked();
+    /// A double click on a row, or Enter.
+    void RowActivated();
     /// A right press on the lists, or the menu key, while a row is selected.
     void MenuRequested(QPoint globalPlace);
 
@@ -56,6 +57,7 @@ private:
     void LoadSelectedPicture();
     void AddSelectedFile();
     void EnableListButtons(bool isOn);
+    void ShowList();
     void Tell(const std::optional<Complaint>& complaint);
 
     Workbench& m_bench;

@@ -9,17 +9,17 @@
 
 namespace orvane {
 
-NumberBox::NumberBox(const QString& name, int lowest, int highest, QWidget* parent)
+NumberBox::NumberBox(ControlName name, int lowest, int highest, QWidget* parent)
     : QLineEdit(parent), m_lowest(lowest), m_highest(highest), m_upDown(new QWidget(parent))
 {
-    setObjectName(name);
+    setObjectName(ToQt(name));
     auto* buttons = new QVBoxLayout(m_upDown);
     buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(0);
     for (const int step : {1, -1}) {
         const QString direction = step > 0 ? QStringLiteral("Up") : QStringLiteral("Down");
         auto* button = new QToolButton(m_upDown);
-        button->setObjectName(name + direction);
+        button->setObjectName(ToQt(name) + direction);
         button->setAccessibleName(direction);
         button->setArrowType(step > 0 ? Qt::UpArrow : Qt::DownArrow);
         button->setFixedHeight(sizeHint().height() / 2);

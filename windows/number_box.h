@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/controls.h"
+
 #include <QLineEdit>
 
 class QWidget;
@@ -13,7 +15,7 @@ class NumberBox : public QLineEdit
     Q_OBJECT
 
 public:
-    NumberBox(const QString& name, int lowest, int highest, QWidget* parent);
+    NumberBox(ControlName name, int lowest, int highest, QWidget* parent);
 
     /// The pair of buttons, to be put beside the box; their names are the box's with "Up" and
     /// "Down" behind it.

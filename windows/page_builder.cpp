@@ -1,8 +1,7 @@
 #include "windows/page_builder.h"
 
-#include "core/help_viewer.h"
-#include "core/orvane_core.h"
 #include "windows/color_swatch.h"
+#include "windows/font_boxes.h"
 #include "windows/number_box.h"
 #include "windows/qt_text.h"
 
@@ -13,26 +12,16 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
+#include <QSlider>
+
+#include <limits>
 
 namespace orvane {
 
 namespace {
-
-/// What a screen reader says for a label: without access key and colon.
-QString SpokenName(TextView label)
-{
-    QString spoken = ToQt(label).remove(u'&');
-    if (spoken.endsWith(u':'))
-        spoken.chop(1);
-    return spoken;
-}
 
 /// A label's click selects its option, as a click on the option itself would.
 class OptionText : public QLabel
@@ -53,6 +42,14 @@ private:
     QRadioButton* m_option;
 };
 
+/// It takes what the author gives, however long.
+QLineEdit* MakeTextBox(QWidget* parent)
+{
+    auto* box = new QLineEdit(parent);
+    box->setMaxLength(std::numeric_limits<int>::max());
+    return box;
+}
+
 QLabel* MakePicture(const QString& name, QSize size, QWidget* parent)
 {
     auto* picture = new QLabel(parent);
@@ -64,108 +61,155 @@ QLabel* MakePicture(const QString& name, QSize size, QWidget* parent)
 
 } // namespace
 
-QString MemberName(const QString& group, int index)
-{
-    return QStringLiteral("%1(%2)").arg(group).arg(index);
-}
-
-void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic)
-{
-    auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F1), window);
-    QObject::connect(shortcut, &QShortcut::activated, window,
-                     [&help, topic] { help.ShowTopic(topic); });
-}
-
-FileNameBox::FileNameBox(const Settings& settings, Dialogs& dialogs, QWidget* parent)
-    : QLineEdit(parent), m_settings(settings), m_dialogs(dialogs)
-{
-}
-
-void FileNameBox::keyPressEvent(QKeyEvent* event)
-{
-    const bool types = !event->text().isEmpty() && event->text().at(0).isPrint();
-    if (isReadOnly() && types)
-        WarnInputBoxLocked(m_settings, m_dialogs);
-    else
-        QLineEdit::keyPressEvent(event);
-}
-
-void FileNameBox::showEvent(QShowEvent* event)
-{
-    setReadOnly(!AreInputBoxesUnlocked(m_settings));
-    QLineEdit::showEvent(event);
-}
-
-LinkLabel::LinkLabel(const QString& name, TextView words, QWidget* parent) : QLabel(parent)
-{
-    setObjectName(name);
-    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    setFocusPolicy(Qt::StrongFocus);
-    SetWords(words);
-    connect(this, &QLabel::linkActivated, this, &LinkLabel::Followed);
-}
-
-void LinkLabel::SetWords(TextView words)
-{
-    m_words = words;
-    setAccessibleName(ToQt(words));
-    setText(QStringLiteral("<a href=\"#\">%1</a>").arg(ToQt(words).toHtmlEscaped()));
-}
-
-PageBuilder::PageBuilder(QWidget* page) : m_page(page), m_rows(new QFormLayout(page))
+PageBuilder::PageBuilder(QWidget* page, Workbench* bench)
+    : m_page(page), m_rows(new QFormLayout(page)), m_bench(bench)
 {
     m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
 }
 
-QLineEdit* PageBuilder::TextBox(const QString& name, TextView label, TextView tip)
+QLabel* PageBuilder::Words(TextView words)
 {
-    auto* box = new QLineEdit(m_page);
-    box->setObjectName(name);
-    box->setToolTip(ToQt(tip));
-    Row(label, {box});
+    if (words.empty())
+        return nullptr;
+    auto* label = new QLabel(ToQt(words), m_page);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+void PageBuilder::FieldRow(QWidget* field, ControlName name, TextView label, TextView tip,
+                           QWidget* beside)
+{
+    field->setObjectName(ToQt(name));
+    field->setToolTip(ToQt(tip));
+    if (beside == nullptr)
+        Row(label, {field});
+    else
+        Row(label, {field, beside});
+}
+
+QLineEdit* PageBuilder::TextBox(ControlName name, TextView label, TextView tip, TextView unit)
+{
+    auto* box = MakeTextBox(m_page);
+    FieldRow(box, name, label, tip, Words(unit));
     return box;
 }
 
-QComboBox* PageBuilder::ComboBox(const QString& name, TextView label,
-                                 std::span<const TextView> items, bool isEditable)
+QLineEdit* PageBuilder::TextBoxWithButton(ControlName name, TextView label, QPushButton* button,
+                                          TextView tip)
+{
+    auto* box = MakeTextBox(m_page);
+    FieldRow(box, name, label, tip, button);
+    return box;
+}
+
+QPlainTextEdit* PageBuilder::MultiLineBox(ControlName name, TextView label, TextView tip)
+{
+    auto* box = new QPlainTextEdit(m_page);
+    box->setTabChangesFocus(true);
+    box->setMinimumHeight(4 * box->fontMetrics().lineSpacing());
+    FieldRow(box, name, label, tip, nullptr);
+    return box;
+}
+
+FileNameBox* PageBuilder::LockedTextBox(ControlName name, TextView label, TextView tip)
+{
+    auto* box = new FileNameBox(m_bench->Settings, m_bench->Dialogs, m_page);
+    FieldRow(box, name, label, tip, nullptr);
+    return box;
+}
+
+QPushButton* PageBuilder::BrowseButton(QLineEdit* field, BrowseRule rule)
+{
+    QPushButton* button = MakeBrowseButton(*m_bench, field, std::move(rule));
+    button->setParent(m_page);
+    return button;
+}
+
+FileNameBox* PageBuilder::LockedBrowseRow(ControlName name, TextView label, TextView tip,
+                                          BrowseRule rule)
+{
+    auto* box = new FileNameBox(m_bench->Settings, m_bench->Dialogs, m_page);
+    FieldRow(box, name, label, tip, BrowseButton(box, std::move(rule)));
+    return box;
+}
+
+QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule)
+{
+    auto* box = MakeTextBox(m_page);
+    FieldRow(box, name, label, tip, BrowseButton(box, std::move(rule)));
+    return box;
+}
+
+QComboBox* PageBuilder::ComboBox(ControlName name, TextView label, std::span<const TextView> items,
+                                 bool isEditable, TextView tip, TextView unit)
 {
     auto* box = new QComboBox(m_page);
-    box->setObjectName(name);
     box->setEditable(isEditable);
     box->setInsertPolicy(QComboBox::NoInsert);
     // What is typed stays as it is: no "12" for a typed "1", no "Arial" for a typed "arial".
-    if (isEditable)
+    if (isEditable) {
         box->setCompleter(nullptr);
+        box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
+    }
     for (const TextView item : items)
         box->addItem(ToQt(item));
-    Row(label, {box});
+    FieldRow(box, name, label, tip, Words(unit));
     return box;
 }
 
-orvane::NumberBox* PageBuilder::NumberBox(const QString& name, TextView label, int lowest,
-                                          int highest)
+orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int lowest, int highest,
+                                          TextView tip, TextView unit)
 {
     auto* box = new orvane::NumberBox(name, lowest, highest, m_page);
-    Row(label, {box, box->UpDown()});
+    box->setToolTip(ToQt(tip));
+    if (unit.empty())
+        Row(label, {box, box->UpDown()});
+    else
+        Row(label, {box, box->UpDown(), Words(unit)});
     return box;
 }
 
-orvane::ColorSwatch* PageBuilder::ColorSwatch(const QString& name, TextView label, Dialogs& dialogs,
-                                              TextView tip, TextView caption)
+QSlider* PageBuilder::Slider(ControlName name, TextView label, TextView low, TextView high,
+                             const SliderRange& range, TextView tip)
 {
-    auto* swatch = new orvane::ColorSwatch(caption, dialogs, m_page);
-    swatch->setObjectName(name);
-    swatch->setToolTip(ToQt(tip));
-    Row(label, {swatch});
+    auto* slider = new QSlider(Qt::Horizontal, m_page);
+    slider->setObjectName(ToQt(name));
+    slider->setToolTip(ToQt(tip));
+    slider->setRange(range.Lowest, range.Highest);
+    slider->setTickInterval(range.Tick);
+    slider->setTickPosition(QSlider::TicksBelow);
+    slider->setPageStep(range.LargeStep);
+    slider->setSingleStep(range.SmallStep);
+    auto* line = new QHBoxLayout;
+    line->addWidget(Words(low));
+    line->addWidget(slider, 1);
+    line->addWidget(Words(high));
+    auto* caption = new QLabel(ToQt(label), m_page);
+    caption->setBuddy(slider);
+    slider->setAccessibleName(SpokenName(label));
+    m_rows->addRow(caption, line);
+    return slider;
+}
+
+orvane::ColorSwatch* PageBuilder::ColorSwatch(ControlName name, TextView label,
+                                              ColorNotation notation, TextView caption,
+                                              TextView tip)
+{
+    auto* swatch = new orvane::ColorSwatch(caption, notation, m_bench->Dialogs, m_page);
+    FieldRow(swatch, name, label, tip, nullptr);
     return swatch;
 }
 
-QListWidget* PageBuilder::ListBox(const QString& name, TextView label,
-                                  std::span<const TextView> items)
+void PageBuilder::FontRow(ControlName button)
 {
-    auto* box = new QListWidget(m_page);
-    box->setObjectName(name);
+    AddFontRows(*this, m_bench->Dialogs, button);
+}
+
+ActingList* PageBuilder::ListBox(ControlName name, TextView label, std::span<const TextView> items)
+{
+    auto* box = new ActingList(m_page);
+    box->setObjectName(ToQt(name));
     box->setAccessibleName(SpokenName(label));
     for (const TextView item : items)
         box->addItem(ToQt(item));
@@ -178,15 +222,16 @@ QListWidget* PageBuilder::ListBox(const QString& name, TextView label,
     return box;
 }
 
-QCheckBox* PageBuilder::CheckBox(const QString& name, TextView caption)
+QCheckBox* PageBuilder::CheckBox(ControlName name, TextView caption, TextView tip)
 {
     auto* box = new QCheckBox(ToQt(caption), m_page);
-    box->setObjectName(name);
+    box->setObjectName(ToQt(name));
+    box->setToolTip(ToQt(tip));
     m_rows->addRow(box);
     return box;
 }
 
-QRadioButton* PageBuilder::Option(const QString& group, int index, TextView caption,
+QRadioButton* PageBuilder::Option(ControlName group, int index, TextView caption,
                                   TextView description, const QString& picture)
 {
     auto* option = new QRadioButton(ToQt(caption), m_page);
@@ -203,10 +248,25 @@ QRadioButton* PageBuilder::Option(const QString& group, int index, TextView capt
     return option;
 }
 
-QPlainTextEdit* PageBuilder::CodeBox(const QString& name, TextView accessibleName)
+void PageBuilder::OptionGroup(ControlName group, std::initializer_list<TextView> captions)
+{
+    int index = 0;
+    for (const TextView caption : captions)
+        Option(group, index++, caption);
+}
+
+QLineEdit* PageBuilder::HiddenText(ControlName name)
+{
+    QLineEdit* box = MakeTextBox(m_page);
+    box->setObjectName(ToQt(name));
+    box->hide();
+    return box;
+}
+
+QPlainTextEdit* PageBuilder::CodeBox(ControlName name, TextView accessibleName)
 {
     auto* box = new QPlainTextEdit(m_page);
-    box->setObjectName(name);
+    box->setObjectName(ToQt(name));
     box->setAccessibleName(ToQt(accessibleName));
     box->setReadOnly(true);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -217,10 +277,10 @@ QPlainTextEdit* PageBuilder::CodeBox(const QString& name, TextView accessibleNam
     return box;
 }
 
-QLabel* PageBuilder::Note(TextView words, const QString& name)
+QLabel* PageBuilder::Note(TextView words, ControlName name)
 {
     auto* note = new QLabel(ToQtLines(words), m_page);
-    note->setObjectName(name);
+    note->setObjectName(ToQt(name));
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     m_rows->addRow(note);
@@ -234,11 +294,15 @@ QLabel* PageBuilder::Picture(const QString& name, QSize size)
     return picture;
 }
 
-QPushButton* PageBuilder::Button(const QString& name, TextView caption)
+void PageBuilder::Example(const QString& picture, QSize size)
 {
-    auto* button = new QPushButton(ToQt(caption), m_page);
-    button->setObjectName(name);
-    button->setAutoDefault(true);
+    Frame(u"Example").Picture(picture, size);
+}
+
+QPushButton* PageBuilder::Button(ControlName name, TextView caption, TextView tip)
+{
+    QPushButton* button = MakeButton(name, caption, tip);
+    button->setParent(m_page);
     return button;
 }
 
@@ -268,11 +332,12 @@ QLabel* PageBuilder::Row(TextView label, std::initializer_list<QWidget*> widgets
     return caption;
 }
 
-PageBuilder PageBuilder::Frame(TextView caption)
+PageBuilder PageBuilder::Frame(TextView caption, ControlName name)
 {
     auto* frame = new QGroupBox(ToQt(caption), m_page);
+    frame->setObjectName(ToQt(name));
     m_rows->addRow(frame);
-    return PageBuilder(frame);
+    return PageBuilder(frame, m_bench);
 }
 
 void PageBuilder::Fill(QWidget* widget)
@@ -284,6 +349,14 @@ void PageBuilder::Fill(QWidget* widget)
     policy.setVerticalStretch(1);
     widget->setSizePolicy(policy);
     m_rows->addRow(widget);
+}
+
+void SetComboText(QComboBox& box, TextView text)
+{
+    // With an item of that text current, the arrow keys go on from there.
+    box.setCurrentIndex(box.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    if (box.isEditable())
+        box.setEditText(ToQt(text));
 }
 
 } // namespace orvane

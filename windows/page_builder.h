@@ -1,6 +1,12 @@
 #pragma once
 
-#include "core/text.h"
+#include "core/workbench.h"
+#include "services/color.h"
+#include "windows/acting_list.h"
+#include "windows/browse.h"
+#include "windows/controls.h"
+#include "windows/file_name_box.h"
+#include "windows/link_label.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -11,99 +17,103 @@
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
-class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
+class QSlider;
 
 namespace orvane {
 
 class ColorSwatch;
-class Dialogs;
-class HelpViewer;
 class NumberBox;
-class Settings;
 
-/// The object name of one member of a group of controls, such as "optInsertMode(0)".
-QString MemberName(const QString& group, int index);
-
-/// Opens the window's help topic on F1.
-void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic);
-
-/// A file field: locked against typing unless the preferences unlock it; a key typed into a locked
-/// one tells the author to use Browse.
-class FileNameBox : public QLineEdit
+/// How far a slider goes, and how it moves.
+struct SliderRange
 {
-    Q_OBJECT
-
-public:
-    FileNameBox(const Settings& settings, Dialogs& dialogs, QWidget* parent = nullptr);
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
-private:
-    const Settings& m_settings;
-    Dialogs& m_dialogs;
-};
-
-/// A label that a click or the keyboard follows like a link.
-class LinkLabel : public QLabel
-{
-    Q_OBJECT
-
-public:
-    LinkLabel(const QString& name, TextView words, QWidget* parent = nullptr);
-
-    void SetWords(TextView words);
-    Text Words() const { return m_words; }
-
-signals:
-    void Followed();
-
-private:
-    Text m_words;
+    int Lowest = 0;
+    int Highest = 100;
+    int Tick = 10;
+    int LargeStep = 5;
+    int SmallStep = 1;
 };
 
 /// The row vocabulary of all windows: each call adds one row, in reading order.
 class PageBuilder
 {
 public:
-    /// Builds into the layout of `page`, which it makes.
-    explicit PageBuilder(QWidget* page);
+    /// Builds into the layout of `page`, which it makes. Without a bench the page has no row that
+    /// asks the author something.
+    explicit PageBuilder(QWidget* page, Workbench* bench = nullptr);
 
-    QLineEdit* TextBox(const QString& name, TextView label, TextView tip = {});
-    QComboBox* ComboBox(const QString& name, TextView label, std::span<const TextView> items,
-                        bool isEditable);
+    /// A box that takes any text; `unit` stands behind it.
+    QLineEdit* TextBox(ControlName name, TextView label, TextView tip = {}, TextView unit = {});
+
+    /// A box that takes any text, with a button of this page beside it.
+    QLineEdit* TextBoxWithButton(ControlName name, TextView label, QPushButton* button,
+                                 TextView tip = {});
+
+    /// A box for several lines; Tab leaves it.
+    QPlainTextEdit* MultiLineBox(ControlName name, TextView label, TextView tip = {});
+
+    /// A file field that is filled by Browse alone unless the preferences unlock it.
+    FileNameBox* LockedTextBox(ControlName name, TextView label, TextView tip = {});
+
+    /// The button that fills the field through a file dialog, to be put into the field's row.
+    QPushButton* BrowseButton(QLineEdit* field, BrowseRule rule);
+
+    /// A locked file field with its Browse button, and one that any text may be typed into.
+    FileNameBox* LockedBrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule);
+    QLineEdit* BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule);
+
+    QComboBox* ComboBox(ControlName name, TextView label, std::span<const TextView> items,
+                        bool isEditable, TextView tip = {}, TextView unit = {});
 
     /// A text box with up-down buttons that step a number between the two bounds.
-    orvane::NumberBox* NumberBox(const QString& name, TextView label, int lowest, int highest);
+    orvane::NumberBox* NumberBox(ControlName name, TextView label, int lowest, int highest,
+                                 TextView tip = {}, TextView unit = {});
 
-    /// A field that shows `caption` until a colour is picked.
-    orvane::ColorSwatch* ColorSwatch(const QString& name, TextView label, Dialogs& dialogs,
-                                     TextView tip = u"Click here to select a color",
-                                     TextView caption = u"Click to Select Color");
+    /// A slider between two words.
+    QSlider* Slider(ControlName name, TextView label, TextView low, TextView high,
+                    const SliderRange& range, TextView tip = {});
 
-    QListWidget* ListBox(const QString& name, TextView label, std::span<const TextView> items);
-    QCheckBox* CheckBox(const QString& name, TextView caption);
+    /// A field that shows `caption` until a colour is picked, and gives it in the notation.
+    orvane::ColorSwatch* ColorSwatch(ControlName name, TextView label,
+                                     ColorNotation notation = ColorNotation::Hash,
+                                     TextView caption = u"Click to Select Color",
+                                     TextView tip = u"Click here to select a color");
+
+    /// Font, size and style as `cboFont`, `cboFontSize` and `cboFontStyle`, and the button that
+    /// opens the font dialog.
+    void FontRow(ControlName button = "cmdMoreFonts");
+
+    ActingList* ListBox(ControlName name, TextView label, std::span<const TextView> items);
+    QCheckBox* CheckBox(ControlName name, TextView caption, TextView tip = {});
 
     /// One option of a group, with a description beside it that selects it as well, and with a
     /// picture of the program's resources, such as "sample_date".
-    QRadioButton* Option(const QString& group, int index, TextView caption,
-                         TextView description = {}, const QString& picture = {});
+    QRadioButton* Option(ControlName group, int index, TextView caption, TextView description = {},
+                         const QString& picture = {});
+
+    /// The options of a group, one below the other.
+    void OptionGroup(ControlName group, std::initializer_list<TextView> captions);
+
+    /// A text of the window that the author does not see.
+    QLineEdit* HiddenText(ControlName name);
 
     /// A read-only box of page code.
-    QPlainTextEdit* CodeBox(const QString& name, TextView accessibleName);
+    QPlainTextEdit* CodeBox(ControlName name, TextView accessibleName);
 
     /// A paragraph of words.
-    QLabel* Note(TextView words, const QString& name = {});
+    QLabel* Note(TextView words, ControlName name = {});
 
     /// A picture of the program's resources, such as "status_bar_sample".
     QLabel* Picture(const QString& name, QSize size);
 
+    /// A frame "Example" with a picture of what the effect looks like.
+    void Example(const QString& picture, QSize size);
+
     /// A button, to be put into a row.
-    QPushButton* Button(const QString& name, TextView caption);
+    QPushButton* Button(ControlName name, TextView caption, TextView tip = {});
 
     /// A row of buttons, as wide as their captions.
     void Buttons(std::initializer_list<QPushButton*> buttons);
@@ -113,7 +123,7 @@ public:
     QLabel* Row(TextView label, std::initializer_list<QWidget*> widgets);
 
     /// A framed group with a caption; the returned builder adds to it.
-    PageBuilder Frame(TextView caption);
+    PageBuilder Frame(TextView caption, ControlName name = {});
 
     /// A row that takes the room that is left, or a stretch of nothing when null.
     void Fill(QWidget* widget = nullptr);
@@ -121,8 +131,16 @@ public:
     QWidget* Page() const { return m_page; }
 
 private:
+    void FieldRow(QWidget* field, ControlName name, TextView label, TextView tip, QWidget* beside);
+    QLabel* Words(TextView words);
+
     QWidget* m_page;
     QFormLayout* m_rows;
+    Workbench* m_bench;
 };
+
+/// Shows a text in a combo box: its item is current when there is one, and an editable box takes
+/// any other text as well.
+void SetComboText(QComboBox& box, TextView text);
 
 } // namespace orvane

@@ -1,9 +1,10 @@
 #include "windows/parallel_lists.h"
 
+#include "windows/acting_list.h"
 #include "windows/qt_text.h"
 
 #include <QLabel>
-#include <QListWidget>
+
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -13,22 +14,20 @@ namespace orvane {
 
 namespace {
 
-int SelectedRow(const QListWidget& list)
+QString FirstLine(TextView text)
 {
-    const QModelIndexList selected = list.selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? -1 : selected.first().row();
+    return ToQt(text.substr(0, text.find_first_of(u"\r\n")));
 }
 
 } // namespace
 
-ParallelLists::ParallelLists(const std::vector<ImageListColumn>& columns, TextView rowTip,
-                             QWidget* parent)
-    : QWidget(parent), m_columns(columns)
+ParallelLists::ParallelLists(std::vector<ListColumn> columns, TextView rowTip, QWidget* parent)
+    : QWidget(parent), m_columns(std::move(columns))
 {
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
-    for (const ImageListColumn& column : m_columns) {
-        QListWidget* list = MakeList(column);
+    for (const ListColumn& column : m_columns) {
+        ActingList* list = MakeList(column);
         list->setToolTip(ToQt(rowTip));
         auto* header = new QLabel(ToQt(column.Header));
         header->setBuddy(list);
@@ -46,13 +45,15 @@ ParallelLists::ParallelLists(const std::vector<ImageListColumn>& columns, TextVi
     all->addWidget(splitter);
 }
 
-QListWidget* ParallelLists::MakeList(const ImageListColumn& column)
+ActingList* ParallelLists::MakeList(const ListColumn& column)
 {
-    auto* list = new QListWidget;
-    list->setObjectName(QString::fromStdString(column.Name));
+    auto* list = new ActingList;
+    list->setObjectName(ToQt(column.Name));
     list->setAccessibleName(ToQt(column.Header));
     list->setContextMenuPolicy(Qt::CustomContextMenu);
     const bool isFirst = column.Name == m_columns.front().Name;
+    if (!isFirst)
+        list->setFocusPolicy(Qt::ClickFocus);
     list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     list->setMinimumWidth(list->fontMetrics().averageCharWidth() * (isFirst ? 24 : 12));
     if (m_columns.size() > 1) {
@@ -62,39 +63,42 @@ QListWidget* ParallelLists::MakeList(const ImageListColumn& column)
             list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
     connect(list, &QListWidget::itemSelectionChanged, this, [this, list] { Follow(*list); });
-    connect(list, &QListWidget::itemDoubleClicked, this, &ParallelLists::RowDoubleClicked);
+    connect(list, &ActingList::DoubleClicked, this, &ParallelLists::RowActivated);
+    connect(list, &ActingList::Entered, this, &ParallelLists::RowActivated);
+    connect(list, &ActingList::Deleted, this, &ParallelLists::RowDeleted);
     connect(list, &QWidget::customContextMenuRequested, this, [this, list](QPoint place) {
-        emit MenuRequested(list->viewport()->mapToGlobal(place));
+        if (list->itemAt(place) != nullptr)
+            emit MenuRequested(list->viewport()->mapToGlobal(place));
     });
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
-        for (QListWidget* other : m_lists)
+        for (ActingList* other : m_lists)
             other->verticalScrollBar()->setValue(value);
     });
     return list;
 }
 
-void ParallelLists::Follow(const QListWidget& list)
+void ParallelLists::Follow(const ActingList& list)
 {
-    const int row = SelectedRow(list);
+    const int row = list.SelectedRow();
     SelectInAll(row);
     emit RowSelected(row);
 }
 
 void ParallelLists::SelectInAll(int row)
 {
-    for (QListWidget* list : m_lists) {
-        if (SelectedRow(*list) == row)
+    for (ActingList* list : m_lists) {
+        if (list->SelectedRow() == row)
             continue;
         const QSignalBlocker quiet(list);
         list->setCurrentRow(row);
     }
 }
 
-void ParallelLists::Show(const ImageList& images)
+void ParallelLists::Show(const RowList& rows)
 {
-    const int count = static_cast<int>(images.Rows.size());
+    const int count = static_cast<int>(rows.Rows.size());
     for (std::size_t column = 0; column < m_lists.size(); ++column) {
-        QListWidget* list = m_lists[column];
+        ActingList* list = m_lists[column];
         const QSignalBlocker quiet(list);
         // Rows that stay keep their place on the screen.
         while (list->count() > count)
@@ -103,9 +107,9 @@ void ParallelLists::Show(const ImageList& images)
             list->addItem(QString());
         for (int row = 0; row < count; ++row)
             list->item(row)->setText(
-                ToQt(images.Rows[static_cast<std::size_t>(row)].*m_columns[column].Field));
+                FirstLine(rows.Rows[static_cast<std::size_t>(row)].at(column)));
     }
-    SelectInAll(images.Selected ? static_cast<int>(*images.Selected) : -1);
+    SelectInAll(rows.Selected ? static_cast<int>(*rows.Selected) : -1);
 }
 
 } // namespace orvane

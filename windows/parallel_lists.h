@@ -1,41 +1,51 @@
 #pragma once
 
-#include "services/image_list.h"
+#include "services/row_list.h"
+#include "windows/controls.h"
 
 #include <QPoint>
 #include <QWidget>
 
-class QListWidget;
-
 namespace orvane {
 
-/// The lists of a window that speak of the same images, side by side under their headers: they
-/// scroll as one and a row is selected in all of them.
+class ActingList;
+
+/// One of the lists of a window that speak of the same rows.
+struct ListColumn
+{
+    ControlName Name;
+    TextView Header;
+};
+
+/// Such lists side by side under their headers: they scroll as one, a row is selected in all of
+/// them, and Tab stops at the first alone.
 class ParallelLists : public QWidget
 {
     Q_OBJECT
 
 public:
-    ParallelLists(const std::vector<ImageListColumn>& columns, TextView rowTip,
-                  QWidget* parent = nullptr);
+    ParallelLists(std::vector<ListColumn> columns, TextView rowTip, QWidget* parent = nullptr);
 
     /// Shows these rows and the selected one.
-    void Show(const ImageList& list);
+    void Show(const RowList& list);
 
 signals:
     /// The author selected another row, or none, which is -1.
     void RowSelected(int row);
-    void RowDoubleClicked();
-    /// A right press, or the menu key, at that place of the screen.
+    /// A double click anywhere, or Enter on a selected row.
+    void RowActivated();
+    /// Delete on a selected row.
+    void RowDeleted();
+    /// A right press on a row, or the menu key, at that place of the screen.
     void MenuRequested(QPoint globalPlace);
 
 private:
-    QListWidget* MakeList(const ImageListColumn& column);
-    void Follow(const QListWidget& list);
+    ActingList* MakeList(const ListColumn& column);
+    void Follow(const ActingList& list);
     void SelectInAll(int row);
 
-    const std::vector<ImageListColumn> m_columns;
-    std::vector<QListWidget*> m_lists; ///< one for each column
+    const std::vector<ListColumn> m_columns;
+    std::vector<ActingList*> m_lists; ///< one for each column
 };
 
 } // namespace orvane

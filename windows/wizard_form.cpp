@@ -1,20 +1,97 @@
 #include "windows/wizard_form.h"
 
-#include "core/catalogue.h"
+#include "services/drafts.h"
 #include "windows/qt_text.h"
+
+#include <QTimer>
 
 #include <utility>
 
 namespace orvane {
 
-WizardForm::WizardForm(const QString& name, EffectKind kind, Workbench& bench, QWidget* parent)
-    : WizardFrame(name, bench, parent)
+namespace {
+
+constexpr int keepEveryMilliseconds = 2000;
+
+EffectKind KindOf(ControlName form)
 {
+    for (const CatalogueRow& row : Catalogue())
+        if (ToUtf8(row.Form) == form)
+            return row.Kind;
+    return EffectKind::None;
+}
+
+} // namespace
+
+WizardForm::WizardForm(ControlName name, Workbench& bench, QWidget* parent)
+    : WizardFrame(name, bench, parent),
+      m_keepTimer(new QTimer(this)),
+      lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
+{
+    SetEffect(KindOf(name));
+    bench.Core.Required = {};
+    bench.Core.RequiredFileCount = 0;
+    m_keepTimer->setInterval(keepEveryMilliseconds);
+    connect(m_keepTimer, &QTimer::timeout, this, &WizardForm::KeepDraft);
+}
+
+void WizardForm::SetEffect(EffectKind kind)
+{
+    m_kind = kind;
     if (const CatalogueRow* row = FindRow(kind))
         setWindowTitle(ToQt(row->Title));
     SetHelpTopic(help_topics::firstEffect + static_cast<int>(kind));
-    bench.Core.Required = {};
-    bench.Core.RequiredFileCount = 0;
+}
+
+Text WizardForm::DraftPath() const
+{
+    const CatalogueRow* row = FindRow(m_kind);
+    return DraftPathOf(m_bench.StateFolder, row == nullptr ? TextView() : row->MenuCommand);
+}
+
+void WizardForm::BeginDrafts(bool isFresh)
+{
+    m_kept = Draft();
+    const auto draft = isFresh ? ReadDraftFile(m_bench.Files, DraftPath()) : std::nullopt;
+    lblTakeUp->setVisible(draft && *draft != m_kept);
+    if (!draft)
+        return;
+    connect(lblTakeUp, &LinkLabel::Followed, this, [this, text = *draft] {
+        TakeDraft(text);
+        m_kept = Draft();
+        lblTakeUp->hide();
+        focusNextChild();
+    });
+}
+
+void WizardForm::KeepDraft()
+{
+    if (m_kept.empty())
+        return;
+    Text draft = Draft();
+    if (draft == m_kept)
+        return;
+    WriteDraftFile(m_bench.Files, DraftPath(), draft);
+    m_kept = std::move(draft);
+}
+
+void WizardForm::DropDraft()
+{
+    DropDraftFile(m_bench.Files, DraftPath());
+    m_kept = Draft();
+}
+
+void WizardForm::showEvent(QShowEvent* event)
+{
+    WizardFrame::showEvent(event);
+    m_keepTimer->start();
+}
+
+void WizardForm::hideEvent(QHideEvent* event)
+{
+    m_keepTimer->stop();
+    KeepDraft();
+    WizardFrame::hideEvent(event);
 }
 
 std::optional<EffectPayload> WizardForm::TakePayload()
@@ -24,6 +101,8 @@ std::optional<EffectPayload> WizardForm::TakePayload()
 
 void WizardForm::Deliver(EffectPayload payload)
 {
+    m_bench.Core.SavedHEAD = payload.SavedHEAD;
+    m_bench.Core.SavedBODY = payload.SavedBODY;
     m_payload = std::move(payload);
     accept();
 }

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -12,10 +13,10 @@ namespace orvane {
 
 namespace {
 
-QLabel* MakeHeading(const QString& name, double scale)
+QLabel* MakeHeading(ControlName name, double scale)
 {
     auto* label = new QLabel;
-    label->setObjectName(name);
+    label->setObjectName(ToQt(name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     QFont font = label->font();
@@ -25,26 +26,39 @@ QLabel* MakeHeading(const QString& name, double scale)
     return label;
 }
 
+/// Gives its page the room that it asks for, and scrolls it where the window has less.
+class PageArea : public QScrollArea
+{
+public:
+    explicit PageArea(QWidget* page)
+    {
+        setWidget(page);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override { return {80, 60}; }
+};
+
 } // namespace
 
-QSize FromTwips(int width, int height)
-{
-    constexpr int twipsPerPixel = 15;
-    return {width / twipsPerPixel, height / twipsPerPixel};
-}
-
-WizardFrame::WizardFrame(const QString& name, Workbench& bench, QWidget* parent)
+WizardFrame::WizardFrame(ControlName name, Workbench& bench, QWidget* parent)
     : QDialog(parent),
       m_bench(bench),
-      lblHeading(MakeHeading(QStringLiteral("lblHeading"), 1.2)),
-      lblSubHeading(MakeHeading(QStringLiteral("lblSubHeading"), 1)),
+      lblHeading(MakeHeading("lblHeading", 1.2)),
+      lblSubHeading(MakeHeading("lblSubHeading", 1)),
+      m_offers(new QWidget),
       m_pages(new QStackedWidget)
 {
-    setObjectName(name);
+    setObjectName(ToQt(name));
     setModal(true);
     auto* all = new QVBoxLayout(this);
     all->addWidget(lblHeading);
     all->addWidget(lblSubHeading);
+    all->addWidget(m_offers);
+    (new QVBoxLayout(m_offers))->setContentsMargins({});
     all->addWidget(m_pages, 1);
     auto* helpKey = new QShortcut(QKeySequence(Qt::Key_F1), this);
     connect(helpKey, &QShortcut::activated, this, [this] { m_bench.Help.ShowTopic(m_helpTopic); });
@@ -54,42 +68,51 @@ QWidget* WizardFrame::AddPanel(const QString& name)
 {
     auto* panel = new QWidget;
     panel->setObjectName(name);
-    m_pages->addWidget(panel);
+    m_pages->addWidget(new PageArea(panel));
     return panel;
 }
 
-QPushButton* WizardFrame::MakeButton(const QString& name, TextView caption, QHBoxLayout* line)
+LinkLabel* WizardFrame::AddOffer(ControlName name, TextView words)
 {
-    auto* button = new QPushButton(ToQt(caption), this);
-    button->setObjectName(name);
-    button->setAutoDefault(true);
+    auto* offer = new LinkLabel(name, words);
+    offer->hide();
+    m_offers->layout()->addWidget(offer);
+    SetReadingOrder(*this);
+    return offer;
+}
+
+QPushButton* WizardFrame::AddButton(ControlName name, TextView caption, QHBoxLayout* line)
+{
+    QPushButton* button = MakeButton(name, caption);
     line->addWidget(button);
     return button;
 }
 
-void WizardFrame::AddButtons(Buttons buttons, const QString& helpName)
+void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
 {
     auto* line = new QHBoxLayout;
-    QPushButton* help = MakeButton(helpName, u"Click here for help", line);
+    QPushButton* help = AddButton(helpName, u"Click here for help", line);
     connect(help, &QPushButton::clicked, this, [this] { m_bench.Help.ShowTopic(m_helpTopic); });
     line->addStretch(1);
     if (buttons == Buttons::Paged) {
-        cmdPrevious = MakeButton(QStringLiteral("cmdPrevious"), u"<< &Previous", line);
+        cmdPrevious = AddButton("cmdPrevious", u"<< &Previous", line);
         connect(cmdPrevious, &QPushButton::clicked, this, [this] { Previous(); });
-        cmdNext = MakeButton(QStringLiteral("cmdNext"), u"&Next >>", line);
+        cmdNext = AddButton("cmdNext", u"&Next >>", line);
     } else {
-        cmdNext = MakeButton(QStringLiteral("cmdDone"), u"&Done", line);
+        cmdNext = AddButton("cmdDone", u"&Done", line);
     }
     cmdNext->setDefault(true);
     connect(cmdNext, &QPushButton::clicked, this, [this] { Next(); });
-    cmdCancel = MakeButton(QStringLiteral("cmdCancel"), u"&Cancel", line);
+    cmdCancel = AddButton("cmdCancel", u"&Cancel", line);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     static_cast<QVBoxLayout*>(layout())->addLayout(line);
+    SetReadingOrder(*this);
 }
 
 void WizardFrame::ShowPanel(int index)
 {
     m_pages->setCurrentIndex(index);
+    m_offers->setVisible(index == 0);
 }
 
 int WizardFrame::CurrentPanel() const
@@ -97,17 +120,15 @@ int WizardFrame::CurrentPanel() const
     return m_pages->currentIndex();
 }
 
+int WizardFrame::PanelCount() const
+{
+    return m_pages->count();
+}
+
 void WizardFrame::SetHeading(TextView heading, TextView subHeading)
 {
     lblHeading->setText(ToQt(heading));
     lblSubHeading->setText(ToQt(subHeading));
-}
-
-void WizardFrame::Report(const Complaint& complaint)
-{
-    m_bench.Dialogs.Say(complaint.Words, complaint.Look);
-    if (auto* control = findChild<QWidget*>(QString::fromStdString(complaint.Control)))
-        control->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace orvane

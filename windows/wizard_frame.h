@@ -12,17 +12,14 @@ class QStackedWidget;
 
 namespace orvane {
 
-/// A size on screen, from the twips in which the windows were measured (15 to a pixel).
-QSize FromTwips(int width, int height);
-
 /// What all step-by-step windows have: heading, sub-heading, pages one above the other, and a row
-/// of buttons with the help at its left.
+/// of buttons with the help at its left. A page that does not fit scrolls.
 class WizardFrame : public QDialog
 {
     Q_OBJECT
 
 public:
-    WizardFrame(const QString& name, Workbench& bench, QWidget* parent);
+    WizardFrame(ControlName name, Workbench& bench, QWidget* parent);
 
 protected:
     enum class Buttons
@@ -31,22 +28,24 @@ protected:
         OnePage, ///< Done, Cancel
     };
 
-    /// Adds the row of buttons below the pages; called once, behind the last page, so that Tab
-    /// reaches them last.
-    void AddButtons(Buttons buttons,
-                    const QString& helpName = QStringLiteral("cmdClickHereForHelp"));
+    /// Adds the row of buttons below the pages; called once, behind the last page.
+    void AddButtons(Buttons buttons, ControlName helpName = "cmdClickHereForHelp");
 
     /// Adds a page behind those that are there; the first one is shown.
     QWidget* AddPanel(const QString& name = {});
-    PageBuilder AddPage() { return PageBuilder(AddPanel()); }
+    PageBuilder AddPage() { return PageBuilder(AddPanel(), &m_bench); }
 
     void ShowPanel(int index);
     int CurrentPanel() const;
+    int PanelCount() const;
     void SetHeading(TextView heading, TextView subHeading);
     void SetHelpTopic(int topic) { m_helpTopic = topic; }
 
+    /// Adds a line above the pages that offers something, hidden until it is shown.
+    LinkLabel* AddOffer(ControlName name, TextView words);
+
     /// Shows the complaint's words and gives its control the focus.
-    void Report(const Complaint& complaint);
+    void Report(const Complaint& complaint) { orvane::Report(*this, m_bench.Dialogs, complaint); }
 
     /// "Next" of a paged window, "Done" of one with a single page.
     virtual void Next() = 0;
@@ -58,10 +57,11 @@ protected:
     QPushButton* cmdCancel = nullptr;
 
 private:
-    QPushButton* MakeButton(const QString& name, TextView caption, QHBoxLayout* line);
+    QPushButton* AddButton(ControlName name, TextView caption, QHBoxLayout* line);
 
     QLabel* lblHeading;
     QLabel* lblSubHeading;
+    QWidget* m_offers; ///< shown above the first page alone
     QStackedWidget* m_pages;
     int m_helpTopic = 0;
 };

@@ -1,10 +1,8 @@
 #include "effects/applet/advanced_animator.h"
 
 #include "core/numbers.h"
-#include "core/orvane_core.h"
 #include "effects/applet/applet_tag_builder.h"
 #include "reedit/applet_values.h"
-#include "services/color.h"
 
 namespace orvane {
 
@@ -41,13 +39,12 @@ void AddSet(AppletTagBuilder& tag, TextView name, const std::vector<ImageRow>& r
             tag.NumberedParam(name, i, Trim(value));
 }
 
-std::vector<ImageRow> ReadRows(TextView pasted)
+std::vector<ImageRow> ReadRows(const PastedTag& tag)
 {
     std::vector<ImageRow> rows;
     for (std::size_t i = 0; i < readableRows; ++i) {
         const auto read = [&](TextView name) {
-            const Text number = NumberToText(static_cast<double>(i));
-            return GetAppletValue(pasted, Join({name, u".", number, u" VALUE="}));
+            return TagValue(tag, Join({name, u".", NumberToText(i), u" VALUE="}));
         };
         ImageRow row{.FileName = read(u"IMAGE")};
         if (row.FileName.empty())
@@ -63,14 +60,6 @@ std::vector<ImageRow> ReadRows(TextView pasted)
 
 } // namespace
 
-Text BackgroundOf(std::int32_t packedColor)
-{
-    CColor color;
-    color.ConvertHexToRGB(color.ConvertToRGBHex(packedColor));
-    return Join(
-        {NumberToText(color.Red), u",", NumberToText(color.Green), u",", NumberToText(color.Blue)});
-}
-
 std::optional<Complaint> Check(const AdvancedAnimator& animator)
 {
     if (animator.Rows.size() < 2)
@@ -85,13 +74,11 @@ std::optional<Complaint> Check(const AdvancedAnimator& animator)
     return std::nullopt;
 }
 
-EffectPayload Generate(const AdvancedAnimator& animator, const RequiredFiles& required)
+EffectPayload Generate(const AdvancedAnimator& animator)
 {
     AppletTagBuilder tag(u"Animate1.class", {{u"WIDTH", Trim(animator.AnimationWidth)},
                                              {u"HEIGHT", Trim(animator.AnimationHeight)}});
-    tag.Param(u"COPYRIGHT", AppletCredit);
-    tag.Param(u"DOCUMENTATION", AppletCredit);
-    tag.Line(wizardParamLine);
+    tag.Origin(u"COPYRIGHT", u"DOCUMENTATION");
     tag.Param(u"SOUND.ACTIVATION.0", u"auto");
     tag.Param(u"TRANSITION.LIST", transitionList);
     tag.Param(u"TRANSITION.STEP.0", u"30");
@@ -108,23 +95,21 @@ EffectPayload Generate(const AdvancedAnimator& animator, const RequiredFiles& re
     return {
         .Kind = EffectKind::AdvancedAnimator,
         .BODYHTML = tag.Tag(),
-        .Required = required,
+        .Required = animator.Required,
         .SupportFiles = {u"Animate1.class", u"CoolTool3.class"},
     };
 }
 
-AdvancedAnimator ReadAdvancedAnimator(TextView pasted, TextView appletText)
+void ReadTag(AdvancedAnimator& animator, const PastedTag& tag)
 {
-    AdvancedAnimator animator;
     // The earlier applet joins its images in one line, which no field takes any more.
-    if (appletText != u"AnimateP") {
-        animator.Rows = ReadRows(pasted);
-        animator.BackgroundColor = GetAppletValue(pasted, u"BGCOLOR.0 VALUE=");
+    if (tag.AppletText != u"AnimateP") {
+        animator.Rows = ReadRows(tag);
+        animator.BackgroundColor = TagValue(tag, u"BGCOLOR.0 VALUE=");
     }
-    animator.AnimationWidth = GetAppletValue(pasted, u"WIDTH=");
-    animator.AnimationHeight = GetAppletValue(pasted, u"HEIGHT=");
-    animator.LoopCount = GetAppletValue(pasted, u"CYCLES VALUE=");
-    return animator;
+    animator.AnimationWidth = TagValue(tag, u"WIDTH=");
+    animator.AnimationHeight = TagValue(tag, u"HEIGHT=");
+    animator.LoopCount = TagValue(tag, u"CYCLES VALUE=");
 }
 
 } // namespace orvane

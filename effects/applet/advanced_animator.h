@@ -1,6 +1,8 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/fields.h"
+#include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "services/image_list.h"
 
@@ -18,23 +20,32 @@ struct AdvancedAnimator
     Text AnimationWidth;  ///< pixels, as typed
     Text AnimationHeight; ///< pixels, as typed
     Text LoopCount = u"0 - Infinite";
-    Text BackgroundColor; ///< red, green and blue as "255,128,0"; empty when none was picked
+    Text BackgroundColor;   ///< red, green and blue as "255,128,0"; empty when none was picked
+    RequiredFiles Required; ///< the images and sounds picked so far
     bool operator==(const AdvancedAnimator&) const = default;
 };
 
-/// The stored text of a picked colour, packed as CColor::RGBColor is: its channels as decimal
-/// texts, joined by commas.
-Text BackgroundOf(std::int32_t packedColor);
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<AdvancedAnimator> Animator, class Field>
+void ForEachField(Animator& animator, Field&& field)
+{
+    field("List1", animator.Rows);
+    field("Text20", animator.AnimationWidth);
+    field("Text21", animator.AnimationHeight);
+    field("Combo3", animator.LoopCount);
+    field("Label16", animator.BackgroundColor);
+    field("Required", animator.Required);
+}
 
 /// The first failing check in order, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const AdvancedAnimator& animator);
 
 /// The animation's page text, with the collected files that must lie beside the page. Expects an
 /// animator that passes Check().
-EffectPayload Generate(const AdvancedAnimator& animator, const RequiredFiles& required);
+EffectPayload Generate(const AdvancedAnimator& animator);
 
-/// The animator of a pasted tag. `appletText` is the eight letters behind CODE=: the tag of the
-/// earlier applet gives its size and loop count alone. At most 31 images are read.
-AdvancedAnimator ReadAdvancedAnimator(TextView pasted, TextView appletText);
+/// Fills the animator from a pasted tag. The tag of the earlier applet gives its size and loop
+/// count alone. At most 31 images are read.
+void ReadTag(AdvancedAnimator& animator, const PastedTag& tag);
 
 } // namespace orvane

@@ -1,45 +1,28 @@
 #pragma once
 
 #include "effects/applet/advanced_animator.h"
-#include "windows/wizard_form.h"
-
-class QComboBox;
-class QMenu;
+#include "windows/effect_form.h"
 
 namespace orvane {
 
 class ImageListPanel;
 
 /// The window of the Advanced Animator.
-class AdvancedAnimatorForm : public WizardForm
+class AdvancedAnimatorForm : public EffectForm<AdvancedAnimator>
 {
-    Q_OBJECT
-
 public:
     explicit AdvancedAnimatorForm(Workbench& bench, QWidget* parent = nullptr);
 
-    AdvancedAnimator Parameters() const;
-    void SetParameters(const AdvancedAnimator& animator);
-
-    /// Fills the window from the pasted tag and ends the edit.
-    void EditApplet();
-
-protected:
-    void Next() override;
-
 private:
     void AddMenus();
-    QAction* AddCommand(QMenu* menu, const QString& name, TextView caption);
     void AddFields(PageBuilder& page);
+    void TakeProject(const AdvancedAnimator& animator);
     void SetProperties();
 
     ImageListPanel* m_images;
-    QLineEdit* Text20;
-    QLineEdit* Text21;
-    QComboBox* Combo3;
-    QPushButton* SetPropsButton;
-    QMenu* mnuProperties;
-    Text m_background; ///< what the swatch shows may be another colour, or none
+    QPushButton* SetPropsButton = nullptr;
+    orvane::ColorSwatch* Label16 = nullptr;
+    QMenu* mnuProperties = nullptr;
 };
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "effects/applet/applet_tag_builder.h"
 
 #include "core/numbers.h"
+#include "core/orvane_core.h"
 
 namespace orvane {
 
@@ -28,6 +29,13 @@ AppletTagBuilder& AppletTagBuilder::Param(TextView name, TextView value, ParamQu
                       Quoted(value, quotes != ParamQuotes::Name), u">"}));
 }
 
+AppletTagBuilder& AppletTagBuilder::Origin(TextView first, TextView second, ParamQuotes quotes)
+{
+    return Param(first, AppletCredit, quotes)
+        .Param(second, AppletCredit, quotes)
+        .Line(wizardParamLine);
+}
+
 AppletTagBuilder& AppletTagBuilder::ParamUnlessEmpty(TextView name, TextView value,
                                                      ParamQuotes quotes)
 {
@@ -37,7 +45,7 @@ AppletTagBuilder& AppletTagBuilder::ParamUnlessEmpty(TextView name, TextView val
 AppletTagBuilder& AppletTagBuilder::NumberedParam(TextView name, std::size_t index, TextView value,
                                                   ParamQuotes quotes)
 {
-    return Param(Join({name, u".", NumberToText(static_cast<double>(index))}), value, quotes);
+    return Param(Join({name, u".", NumberToText(index)}), value, quotes);
 }
 
 AppletTagBuilder& AppletTagBuilder::Line(TextView line)

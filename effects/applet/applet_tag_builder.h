@@ -35,6 +35,11 @@ public:
     /// Adds a PARAM line.
     AppletTagBuilder& Param(TextView name, TextView value, ParamQuotes quotes = ParamQuotes::Value);
 
+    /// Adds what every applet is told of its origin: two lines that name `AppletCredit`, and the
+    /// one that marks the tag as made by this program.
+    AppletTagBuilder& Origin(TextView first, TextView second,
+                             ParamQuotes quotes = ParamQuotes::Value);
+
     /// Adds a PARAM line, or none when the value is empty.
     AppletTagBuilder& ParamUnlessEmpty(TextView name, TextView value,
                                        ParamQuotes quotes = ParamQuotes::Value);

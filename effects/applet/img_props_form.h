@@ -1,21 +1,15 @@
 #pragma once
 
-#include "core/workbench.h"
 #include "effects/applet/image_properties.h"
-
-#include <QDialog>
+#include "windows/ok_cancel_form.h"
 
 class QCheckBox;
 class QComboBox;
-class QLabel;
-class QLineEdit;
 
 namespace orvane {
 
-class PageBuilder;
-
 /// The properties of one image of the Advanced Animator.
-class ImgPropsForm : public QDialog
+class ImgPropsForm : public OkCancelForm
 {
     Q_OBJECT
 
@@ -27,21 +21,18 @@ public:
 
     ImageProperties Properties() const;
 
+protected:
+    void Take() override;
+
 private:
     void AddPause(PageBuilder& page);
     void AddSoundAndURL(PageBuilder& page);
     void AddTransition(PageBuilder& page);
-    void AddButtons();
     void Load();
     void ChooseTransition(const QString& transition);
     void Show(const DirectionChoice& choice);
     void WaitForClick(bool isOn);
-    void BrowseForSound();
-    void BrowseForURL();
-    void Take();
-    void Report(const Complaint& complaint);
 
-    Workbench& m_bench;
     ImageRow m_row;
     QLineEdit* Text1;
     QCheckBox* Check1;

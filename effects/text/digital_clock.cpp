@@ -179,7 +179,7 @@ std::optional<Complaint> Check(const DigitalClock& clock)
     return std::nullopt;
 }
 
-DigitalClockCode Generate(const DigitalClock& clock)
+EffectPayload Generate(const DigitalClock& clock)
 {
     const Text style = ClockStyle(clock);
     const Text code = Fill(script, {{u"ClockExpr", ClockExpr(clock)}, {u"ClockStyle", style}});
@@ -187,8 +187,8 @@ DigitalClockCode Generate(const DigitalClock& clock)
     const auto spanLine = [&](TextView content) {
         return Fill(span, {{u"ClockStyle", style}, {u"Content", content}});
     };
-    return {.Payload = {.Kind = EffectKind::DigitalClock,
-                        .BODYHTML = Join({code, lineEnd, layerLine, spanLine({})})},
+    return {.Kind = EffectKind::DigitalClock,
+            .BODYHTML = Join({code, lineEnd, layerLine, spanLine({})}),
             .SavedHEAD = code,
             .SavedBODY = layerLine + spanLine(sampleContent)};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/fields.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
 
@@ -35,6 +36,25 @@ struct DigitalClock
     Text FontColor; ///< the same
     bool operator==(const DigitalClock&) const = default;
 };
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<DigitalClock> Clock, class Field>
+void ForEachField(Clock& clock, Field&& field)
+{
+    field("optDateTime", clock.optDateTime);
+    field("lstDateTimeFormat", clock.lstDateTimeFormat);
+    field("chkDayOfWeek", clock.chkDayOfWeek);
+    field("chkShowTimeBeforeDate", clock.chkShowTimeBeforeDate);
+    field("chkMilitaryTime", clock.chkMilitaryTime);
+    field("chkShowSeconds", clock.chkShowSeconds);
+    field("chkShowAMPM", clock.chkShowAMPM);
+    field("cboFont", clock.cboFont);
+    field("cboFontSize", clock.cboFontSize);
+    field("cboFontStyle", clock.cboFontStyle);
+    field("txtPadding", clock.txtPadding);
+    field("lblBGColor", clock.BGColor);
+    field("lblFontColor", clock.FontColor);
+}
 
 /// A date format as its list item shows it, and its expression in the clock's script.
 struct DateFormat
@@ -78,15 +98,8 @@ ClockPosition PreviousPage(const DigitalClock& clock, ClockPosition at);
 /// The complaint about a missing date format, which keeps pages 3 and 4 from being shown.
 std::optional<Complaint> Check(const DigitalClock& clock);
 
-/// The generated texts of a clock.
-struct DigitalClockCode
-{
-    EffectPayload Payload;
-    Text SavedHEAD; ///< the script alone
-    Text SavedBODY; ///< the elements, with words in place of the time
-};
-
-/// The clock's page text. Expects a clock that passes Check().
-DigitalClockCode Generate(const DigitalClock& clock);
+/// The clock's page text; beside it the script alone, and the elements with words in place of the
+/// time. Expects a clock that passes Check().
+EffectPayload Generate(const DigitalClock& clock);
 
 } // namespace orvane

@@ -74,9 +74,9 @@ EffectPayload Generate(const StatusBarTicker& ticker)
     };
 }
 
-StatusBarTicker ReadStatusBarTicker(TextView pasted)
+void ReadTag(StatusBarTicker& ticker, const PastedTag& tag)
 {
-    return {.txtStatusBarText = GetAppletValue(pasted, u"var msg  =")};
+    ticker.txtStatusBarText = TagValue(tag, u"var msg  =");
 }
 
 } // namespace orvane

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/fields.h"
+#include "core/pasted_tag.h"
 #include "core/payload.h"
 
 #include <optional>
@@ -15,13 +17,20 @@ struct StatusBarTicker
     bool operator==(const StatusBarTicker&) const = default;
 };
 
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<StatusBarTicker> Ticker, class Field>
+void ForEachField(Ticker& ticker, Field&& field)
+{
+    field("txtStatusBarText", ticker.txtStatusBarText);
+}
+
 /// The complaint about an empty text, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const StatusBarTicker& ticker);
 
 /// The ticker's page text. Expects a ticker that passes Check().
 EffectPayload Generate(const StatusBarTicker& ticker);
 
-/// The ticker whose script an author pasted; its text is empty when the script holds none.
-StatusBarTicker ReadStatusBarTicker(TextView pasted);
+/// Takes the text out of a pasted script; empty when it holds none.
+void ReadTag(StatusBarTicker& ticker, const PastedTag& tag);
 
 } // namespace orvane

@@ -17,7 +17,7 @@ protected:
     void Show(const DigitalClock& clock, const std::string& localTime)
     {
         m_page.FixClock(localTime);
-        m_page.Load(NewPageBytes(Finish(Generate(clock).Payload)));
+        m_page.Load(NewPageBytes(Finish(Generate(clock))));
         m_page.WaitUntil("document.readyState === 'complete' && "
                          "document.getElementById('spnClock') !== null");
     }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace orvane {
 namespace {
 
@@ -72,14 +74,21 @@ TEST(ProgramFolderTest, FollowsTheDesktopsConventionsAndItsOwnVariable)
         const auto found = variables.find(Text(name));
         return found == variables.end() ? std::nullopt : std::optional(found->second);
     };
-    UserFolders folders = FindUserFolders(environment);
+    const UserFolders folders = FindUserFolders(environment).value();
     EXPECT_EQ(folders.Program, u"/home/a/.local/share/orvane");
     EXPECT_EQ(folders.Settings, u"/home/a/.config/orvane");
     EXPECT_EQ(folders.State, u"/home/a/.local/state/orvane");
     variables[u"XDG_DATA_HOME"] = u"/data";
-    EXPECT_EQ(FindUserFolders(environment).Program, u"/data/orvane");
-    variables[u"ORVANE_HOME"] = u"/tmp/o";
-    EXPECT_EQ(FindUserFolders(environment).Program, u"/tmp/o");
+    EXPECT_EQ(FindUserFolders(environment)->Program, u"/data/orvane");
+    for (const TextView home : {u"", u"relative"}) {
+        variables[u"HOME"] = home;
+        EXPECT_FALSE(FindUserFolders(environment)) << "no place for settings and state";
+    }
+    variables[u"ORVANE_HOME"] = u"/tmp/o/";
+    EXPECT_EQ(FindUserFolders(environment)->Settings, u"/tmp/o/settings");
+    variables[u"ORVANE_HOME"] = u"-o";
+    EXPECT_EQ(FindUserFolders(environment)->Program,
+              PathIn(FromUtf8(std::filesystem::current_path().string()), u"-o"));
 }
 
 TEST(ProgramFolderTest, InstallsAFileOnlyWhenItDiffers)

@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -26,23 +25,16 @@ std::vector<int> NumbersOf(const std::vector<const HelpTopic*>& topics)
 TEST(HelpBookTest, ATopicReachesToTheNextHeader)
 {
     const HelpBook book = ReadHelpBook("how to edit\n=== 22   Two words \n<p>a\n\n b</p>\n"
-                                       "=== 7 Ü\n=== 0 Last\nend");
+                                       "=== 7 Ü\r\n«EffectsOfTags»\r\n=== 0 Last\nend",
+                                       u"<b>these</b>");
     ASSERT_EQ(book.size(), 3u);
     EXPECT_EQ(book[0].Number, 22);
     EXPECT_EQ(book[0].Title, u"Two words");
     EXPECT_EQ(book[0].Body, u"<p>a\n\n b</p>\n");
     EXPECT_EQ(book[1].Title, u"Ü");
-    EXPECT_EQ(book[1].Body, u"");
+    EXPECT_EQ(book[1].Body, u"<b>these</b>\n");
     EXPECT_EQ(book[2].Body, u"end\n");
-}
-
-TEST(HelpBookTest, AMarkAndOtherLineEndsMakeNoDifference)
-{
-    const HelpBook book = ReadHelpBook("\xEF\xBB\xBF=== 1 A\r\nx\r\n=== 2 B\r\n");
-    ASSERT_EQ(book.size(), 2u);
-    EXPECT_EQ(book[0].Title, u"A");
-    EXPECT_EQ(book[0].Body, u"x\n");
-    EXPECT_EQ(book[1].Number, 2);
+    EXPECT_EQ(ReadHelpBook("\xEF\xBB\xBF=== 1 A").size(), 1u);
 }
 
 TEST(HelpBookTest, WhatOnlyLooksLikeAHeaderBelongsToTheBody)
@@ -52,26 +44,6 @@ TEST(HelpBookTest, WhatOnlyLooksLikeAHeaderBelongsToTheBody)
         const HelpBook book = ReadHelpBook("=== 1 A\n" + std::string(line) + "\n");
         ASSERT_EQ(book.size(), 1u) << line;
         EXPECT_EQ(ToUtf8(book[0].Body), std::string(line) + "\n");
-    }
-}
-
-TEST(HelpBookTest, AnyBytesGiveTopicsWithNumbersAndOneLineTitles)
-{
-    const std::vector<std::string> pieces = {"=== ", "==", "12",        "7 ",
-                                             " ",    "\n", "\r\n",      "A",
-                                             "<",    "&",  "\xFF",      std::string(1, '\0'),
-                                             "ä",    "-",  "9999999999"};
-    std::mt19937 random(1);
-    std::uniform_int_distribution<std::size_t> pick(0, pieces.size() - 1);
-    for (int round = 0; round < 2000; ++round) {
-        std::string bytes = "=== 3 Seed\n";
-        for (int i = 0; i < 30; ++i)
-            bytes += pieces[pick(random)];
-        for (const HelpTopic& topic : ReadHelpBook(bytes)) {
-            EXPECT_GE(topic.Number, 0);
-            EXPECT_EQ(Find(topic.Title, u"\n"), 0u);
-            EXPECT_LE(ShownText(topic.Body).size(), topic.Body.size());
-        }
     }
 }
 
@@ -126,21 +98,9 @@ protected:
 
 TEST_F(DeliveredHelpTest, HoldsEveryTopicThatAWindowAsksFor)
 {
-    std::set<int> wanted = {help_topics::contents,
-                            help_topics::mainWindow,
-                            help_topics::preferences,
-                            help_topics::editApplet,
-                            help_topics::transfer,
-                            21,
-                            29,
-                            34,
-                            35,
-                            36,
-                            37,
-                            38,
-                            39,
-                            46,
-                            55};
+    std::set<int> wanted = {21, 29, 34, 35, 36, 37, 38, 39, 46, 55}; // inserting with an editor
+    wanted.insert({help_topics::contents, help_topics::mainWindow, help_topics::preferences,
+                   help_topics::editApplet, help_topics::transfer});
     for (std::int16_t page = 1; page <= 9; ++page)
         for (const InsertMode mode :
              {InsertMode::AutoInsert, InsertMode::ManualCopy, InsertMode::NewPage})
@@ -160,40 +120,16 @@ TEST_F(DeliveredHelpTest, BeginsWithTheContentsAndUsesEachNumberOnce)
     }
 }
 
-TEST_F(DeliveredHelpTest, EveryLinkLeadsToATopic)
+TEST_F(DeliveredHelpTest, EveryLinkLeadsToATopicAndEveryPictureLiesBesideTheBook)
 {
-    for (const HelpTopic& topic : m_book)
+    for (const HelpTopic& topic : m_book) {
         for (const std::string& link : Matches(topic, "href=\"([^\"]*)\"")) {
             ASSERT_TRUE(link.starts_with("topic:")) << topic.Number << ": " << link;
             EXPECT_NE(FindTopic(m_book, std::stoi(link.substr(6))), nullptr)
                 << topic.Number << ": " << link;
         }
-}
-
-TEST_F(DeliveredHelpTest, EveryPictureLiesBesideTheBook)
-{
-    for (const HelpTopic& topic : m_book)
         for (const std::string& picture : Matches(topic, "<img src=\"([^\"]*)\""))
-            EXPECT_TRUE(std::filesystem::exists(folder / picture))
-                << topic.Number << ": " << picture;
-}
-
-TEST_F(DeliveredHelpTest, ClosesEveryTagThatItOpens)
-{
-    for (const HelpTopic& topic : m_book) {
-        std::vector<std::string> open;
-        for (const std::string& tag : Matches(topic, "<(/?[^\\s>]*)[^>]*>")) {
-            if (tag == "img")
-                continue;
-            if (!tag.starts_with('/')) {
-                open.push_back(tag);
-                continue;
-            }
-            ASSERT_FALSE(open.empty()) << topic.Number << ": " << tag;
-            EXPECT_EQ(tag, "/" + open.back()) << topic.Number;
-            open.pop_back();
-        }
-        EXPECT_TRUE(open.empty()) << topic.Number << ": " << open.back();
+            EXPECT_TRUE(std::filesystem::exists(folder / picture)) << picture;
     }
 }
 

@@ -29,42 +29,23 @@ protected:
         return m_desk.Settings.Get(section, key, u"none", u"Orvane");
     }
 
-    void Store(TextView section, TextView key, TextView value)
+    /// Whether the browser can be typed and picked.
+    bool IsBrowserOpen()
     {
-        m_desk.Settings.Put(section, key, value, u"Orvane");
-        m_desk.Settings.Writes.clear();
+        return !Find<QLineEdit>(*m_form, "txtBrowser")->isReadOnly() &&
+               Find<QPushButton>(*m_form, "cmdBrowse1")->isEnabled();
     }
 
     FakeDesk m_desk;
     std::unique_ptr<OptionsForm> m_form;
 };
 
-TEST_F(OptionsFormTest, OpensWithTheDefaultBrowserLockedWhateverWasStored)
-{
-    Store(u"Apps", u"Override", u"1");
-    Store(u"Apps", u"Browser", u"/opt/b");
-    Open();
-    EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"default browser");
-    EXPECT_TRUE(Find<QLineEdit>(*m_form, "txtBrowser")->isReadOnly());
-    EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdBrowse1")->isEnabled());
-    EXPECT_FALSE(Find<QCheckBox>(*m_form, "chkOverride")->isChecked());
-    EXPECT_FALSE(Find<QCheckBox>(*m_form, "chkAlwaysUse")->isEnabled());
-    ExpectAccessible(*m_form);
-}
-
-TEST_F(OptionsFormTest, ShowsTheStoredBrowserWhenAnotherToolSetTheFlag)
-{
-    Store(u"Misc", u"Override", u"1");
-    Store(u"Apps", u"Browser", u"/opt/b");
-    Open();
-    EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"/opt/b");
-    EXPECT_FALSE(Find<QLineEdit>(*m_form, "txtBrowser")->isReadOnly());
-}
-
 TEST_F(OptionsFormTest, OverrideUnlocksAnEmptyFieldThatMustBeFilled)
 {
     Open();
+    EXPECT_FALSE(IsBrowserOpen());
     Click(*m_form, "chkOverride");
+    EXPECT_TRUE(IsBrowserOpen());
     EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"");
     Click(*m_form, "cmdOK");
     EXPECT_EQ(
@@ -72,20 +53,16 @@ TEST_F(OptionsFormTest, OverrideUnlocksAnEmptyFieldThatMustBeFilled)
         std::vector<Text>{u"If you are overriding the default broswer, you must enter the path "
                           u"and filename of a different browser in the Browser input box."});
     EXPECT_TRUE(m_desk.Settings.Writes.empty());
+
+    Click(*m_form, "chkOverride");
+    EXPECT_FALSE(IsBrowserOpen());
+    EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"default browser");
+    Click(*m_form, "chkOverride");
     Type(*m_form, "txtBrowser", u"/opt/b");
     Click(*m_form, "cmdOK");
     EXPECT_EQ(Stored(u"Apps", u"Browser"), u"/opt/b");
     EXPECT_EQ(Stored(u"Apps", u"Override"), u"1");
     EXPECT_FALSE(m_form->isVisible());
-}
-
-TEST_F(OptionsFormTest, OverrideOffLocksTheFieldAgain)
-{
-    Open();
-    Click(*m_form, "chkOverride");
-    Click(*m_form, "chkOverride");
-    EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"default browser");
-    EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdBrowse1")->isEnabled());
 }
 
 TEST_F(OptionsFormTest, CancelledBrowseEmptiesTheField)
@@ -100,42 +77,36 @@ TEST_F(OptionsFormTest, CancelledBrowseEmptiesTheField)
     EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"");
 }
 
-TEST_F(OptionsFormTest, OkStoresEverythingInOrder)
+TEST_F(OptionsFormTest, OkKeepsWhatWasSetAndCancelForgetsIt)
 {
-    Store(u"Misc", u"HTMLEditor", u"My Editor");
-    Open();
-    EXPECT_EQ(WordsOf(*m_form, "cboWebPageEditor"), u"My Editor");
-    EXPECT_EQ(Find<QComboBox>(*m_form, "cboWebPageEditor")->itemText(3),
-              QStringLiteral("Dream Weaver"));
-    Click(*m_form, "chkUnlock");
-    m_desk.Dialogs.AnswerFolder(u"/pictures");
-    Click(*m_form, "cmdBrowse3");
-    Click(*m_form, "cmdOK");
-    EXPECT_EQ(m_desk.Settings.Writes,
-              (std::vector<Text>{u"Apps/Browser", u"Apps/Override", u"Misc/UnlockInputBoxes",
-                                 u"Misc/HTMLEditor", u"Misc/DefaultPath"}));
-    EXPECT_EQ(Stored(u"Apps", u"Browser"), u"default browser");
-    EXPECT_EQ(Stored(u"Apps", u"Override"), u"0");
-    EXPECT_EQ(Stored(u"Misc", u"UnlockInputBoxes"), u"1");
-    EXPECT_EQ(Stored(u"Misc", u"HTMLEditor"), u"My Editor");
+    for (const char* end : {"cmdCancel", "cmdOK"}) {
+        Open();
+        Find<QComboBox>(*m_form, "cboWebPageEditor")->setEditText("My Editor");
+        Click(*m_form, "chkUnlock");
+        m_desk.Dialogs.AnswerFolder(u"/pictures");
+        Click(*m_form, "cmdBrowse3");
+        EXPECT_TRUE(m_desk.Settings.Writes.empty());
+        Click(*m_form, end);
+    }
     EXPECT_EQ(m_desk.Core.DefaultPath, u"/pictures");
+    Open();
+    EXPECT_EQ(WordsOf(*m_form, "txtDefaultPath"), u"/pictures");
+    EXPECT_EQ(WordsOf(*m_form, "cboWebPageEditor"), u"My Editor");
+    EXPECT_TRUE(Find<QCheckBox>(*m_form, "chkUnlock")->isChecked());
+    EXPECT_FALSE(Find<QCheckBox>(*m_form, "chkAlwaysUse")->isEnabled());
 }
 
-TEST_F(OptionsFormTest, EmptyDefaultFolderLeavesTheStoredOne)
+TEST_F(OptionsFormTest, IsUsedByKeyboardInReadingOrder)
 {
-    Store(u"Misc", u"DefaultPath", u"/pictures");
+    m_desk.Settings.Put(u"Misc", u"HTMLEditor", u"Dream Weaver", u"Orvane");
     Open();
-    Find<QLineEdit>(*m_form, "txtDefaultPath")->clear();
-    Click(*m_form, "cmdOK");
-    EXPECT_EQ(Stored(u"Misc", u"DefaultPath"), u"/pictures");
-}
-
-TEST_F(OptionsFormTest, CancelStoresNothing)
-{
-    Open();
-    Click(*m_form, "chkUnlock");
-    Click(*m_form, "cmdCancel");
-    EXPECT_TRUE(m_desk.Settings.Writes.empty());
+    ExpectAccessible(*m_form);
+    Find<QLineEdit>(*m_form, "txtDefaultPath")->setFocus();
+    Press(*m_form->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(m_form->focusWidget(), Find<QPushButton>(*m_form, "cmdBrowse3"));
+    auto* editors = Find<QComboBox>(*m_form, "cboWebPageEditor");
+    Press(*editors, Qt::Key_Down);
+    EXPECT_EQ(editors->currentText(), "Microsoft Publisher 98");
 }
 
 TEST(AboutFormTest, TellsTheVersionAndOpensTheMakersSite)

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTabBar>
+#include <QTest>
 #include <QToolButton>
 
 namespace orvane {
@@ -22,7 +23,7 @@ protected:
     OVMainFormTest()
     {
         m_form.show();
-        LetRun();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_form));
     }
 
     QToolButton* ButtonOf(const CatalogueRow& row)
@@ -55,16 +56,10 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
         ++buttons;
     }
     EXPECT_EQ(buttons, 48);
-}
-
-TEST_F(OVMainFormTest, AButtonLiesOnTheTabOfItsSubMenu)
-{
-    const auto pageOf = [&](EffectKind kind) {
-        return ButtonOf(*FindRow(kind))->parentWidget()->objectName().toStdString();
-    };
-    EXPECT_EQ(pageOf(EffectKind::Slideshow), "Picture1(0)");
-    EXPECT_EQ(pageOf(EffectKind::StatusBarTicker), "Picture1(1)");
-    EXPECT_EQ(pageOf(EffectKind::DigitalClock), "Picture1(2)");
+    EXPECT_EQ(ButtonOf(*FindRow(EffectKind::Slideshow))->parentWidget()->objectName(),
+              "Picture1(0)");
+    EXPECT_EQ(ButtonOf(*FindRow(EffectKind::DigitalClock))->parentWidget()->objectName(),
+              "Picture1(2)");
 }
 
 TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndNothingElsewhere)
@@ -81,6 +76,14 @@ TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndNothingElsewhere)
     EXPECT_EQ(WordsOf(m_form, "Label2"), u"");
 }
 
+TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
+{
+    m_form.resize(640, 440);
+    EXPECT_EQ(m_form.size(), QSize(640, 440));
+    const auto* label = Find<QWidget>(m_form, "Label2");
+    EXPECT_TRUE(m_form.rect().contains(QRect(label->mapTo(&m_form, QPoint()), label->size())));
+}
+
 TEST_F(OVMainFormTest, EffectWithoutAWizardIsGreyedInMenuAndCatalogueAlike)
 {
     EXPECT_FALSE(ButtonOf(*FindRow(EffectKind::Sound))->isEnabled());
@@ -88,15 +91,29 @@ TEST_F(OVMainFormTest, EffectWithoutAWizardIsGreyedInMenuAndCatalogueAlike)
     EXPECT_TRUE(Command("mnuStatusBar")->isEnabled());
 }
 
-TEST_F(OVMainFormTest, ButtonAndCommandWantTheSameEffect)
+TEST_F(OVMainFormTest, ButtonItsReturnKeyAndCommandWantTheSameEffect)
 {
     std::vector<TextView> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
                      [&](const EffectCommand& command) { wanted.push_back(command.Name); });
     Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(1);
     Click(m_form, "cmdSpecialFX(9)");
+    Press(*ButtonOf(*FindRow(EffectKind::StatusBarTicker)), Qt::Key_Return);
     Command("mnuStatusBar")->trigger();
-    EXPECT_EQ(wanted, (std::vector<TextView>{u"mnuStatusBar", u"mnuStatusBar"}));
+    EXPECT_EQ(wanted, std::vector<TextView>(3, u"mnuStatusBar"));
+}
+
+TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)
+{
+    const auto* tabs = Find<QTabBar>(m_form, "TabStrip1");
+    for (const int tab : {1, 2, 0}) {
+        QTest::keyClick(&m_form, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), tab);
+    }
+    QTest::keyClick(&m_form, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(tabs->currentIndex(), 2);
+    QTest::keyClick(&m_form, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(m_form.isVisible());
 }
 
 /// A menu's captions in order, with "-" for a separator and sub-menus in brackets.
@@ -137,10 +154,11 @@ TEST_F(OVMainFormTest, UpdateCheckAsksFirstAndSendsTheTrimmedVersion)
               std::vector<Text>{u"http://www.varlo.example/updatecheck.asp?prog=OV&ver=1.2.3"});
 }
 
-TEST_F(OVMainFormTest, HelpContentsOpensTheFirstTopic)
+TEST_F(OVMainFormTest, HelpBeginsWithTheContentsOrWithThisWindow)
 {
     Command("mnuHelpContents")->trigger();
-    EXPECT_EQ(m_desk.Help.Shown, std::vector<int>{0});
+    QTest::keyClick(&m_form, Qt::Key_F1);
+    EXPECT_EQ(m_desk.Help.Shown, (std::vector<int>{0, 10}));
 }
 
 } // namespace

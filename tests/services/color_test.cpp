@@ -80,9 +80,12 @@ TEST(ColorTest, ChannelsOfAPickedColorInheritThePadding)
     CColor color;
     color.SelectColor(dialogs);
     EXPECT_EQ(ChannelsOf(color.HexColor), (Channels{171, 0, 0}));
+    EXPECT_EQ(ColorText(color.RGBColor, ColorNotation::Hash), u"#AB0000");
+    EXPECT_EQ(ColorText(color.RGBColor, ColorNotation::Channels), u"171,0,0");
+    EXPECT_EQ(ColorText(color.RGBColor, ColorNotation::RgbFunction), u"rgb(171,0,0)");
 }
 
-TEST(ColorTest, CancelIsTheSharedFlagUntilTheNextCall)
+TEST(ColorTest, CancelIsFlaggedUntilTheNextCall)
 {
     FakeDialogs dialogs;
     dialogs.AnswerColor(0xFF);
@@ -90,13 +93,13 @@ TEST(ColorTest, CancelIsTheSharedFlagUntilTheNextCall)
     dialogs.AnswerColor(0);
     CColor color;
     color.SelectColor(dialogs);
-    EXPECT_EQ(ColorDialogCancelled, 0);
+    EXPECT_EQ(color.ColorDialogCancelled, 0);
     color.SelectColor(dialogs);
-    EXPECT_EQ(ColorDialogCancelled, -1);
+    EXPECT_EQ(color.ColorDialogCancelled, -1);
     EXPECT_EQ(color.HexColor, u"");
     EXPECT_EQ(color.RGBColor, 0);
-    CColor().SelectColor(dialogs);
-    EXPECT_EQ(ColorDialogCancelled, 0);
+    color.SelectColor(dialogs);
+    EXPECT_EQ(color.ColorDialogCancelled, 0);
 }
 
 TEST(ColorTest, HoldsTheDigitsSixteenCellsBehindTheName)
@@ -116,6 +119,9 @@ TEST(ColorTest, HoldsTheDigitsSixteenCellsBehindTheName)
 TEST(ColorTest, PacksATextForTheScreen)
 {
     EXPECT_EQ(PackedColor(u"#0102FF"), 0xFF0201);
+    EXPECT_EQ(PackedColor(u"1,2,255"), 0xFF0201);
+    EXPECT_EQ(PackedColor(u"rgb(1,2,255)"), 0xFF0201);
+    EXPECT_EQ(PackedColor(u""), std::nullopt);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "services/image_list.h"
 
+#include "services/recorded_files.h"
+
 #include "tests/support/doubles.h"
 
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <typeinfo>
 
 namespace orvane::testing {
 
@@ -52,13 +53,13 @@ template <class Form, class Action>
 void WhenInFront(Action action)
 {
     Poll([action](QWidget* front, bool mayWait) {
-        if (auto* form = qobject_cast<Form*>(front)) {
+        if (auto* form = dynamic_cast<Form*>(front)) {
             action(*form);
             return true;
         }
         if (mayWait)
             return false;
-        ADD_FAILURE() << "the window did not come: " << Form::staticMetaObject.className();
+        ADD_FAILURE() << "the window did not come: " << typeid(Form).name();
         if (front != nullptr)
             front->close();
         return true;

@@ -24,10 +24,11 @@ protected:
     /// The colour of its middle as it is painted.
     QColor Painted() { return m_swatch->grab().toImage().pixelColor(m_swatch->rect().center()); }
 
-    FakeDialogs m_dialogs;
+    FakeDesk m_desk;
+    FakeDialogs& m_dialogs = m_desk.Dialogs;
     QDialog m_window;
     ColorSwatch* m_swatch =
-        PageBuilder(&m_window).ColorSwatch(QStringLiteral("lblColor"), u"Text &color:", m_dialogs);
+        PageBuilder(&m_window, &m_desk.Bench).ColorSwatch("lblColor", u"Text &color:");
     std::vector<std::int32_t> m_picked;
 };
 
@@ -64,7 +65,7 @@ TEST_F(ColorSwatchTest, OpensTheDialogOnEnterAndOnABlank)
 
 TEST_F(ColorSwatchTest, CancelKeepsTheColorBefore)
 {
-    m_swatch->SetColor(0x00FF00);
+    m_swatch->SetValue(u"#00FF00");
     m_dialogs.AnswerColor(std::nullopt);
     Click(m_window, "lblColor");
     EXPECT_TRUE(m_picked.empty());

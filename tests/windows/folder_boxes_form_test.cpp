@@ -34,9 +34,7 @@ protected:
 
 TEST_F(FolderBoxesTest, FolderThatCannotBeReadLeavesEverythingAsItIs)
 {
-    FolderBoxes boxes(m_files,
-                      {QStringLiteral("Drive1"), QStringLiteral("Dir1"), QStringLiteral("File1")},
-                      u"*.*");
+    FolderBoxes boxes(m_files, {"Drive1", "Dir1", "File1"}, u"*.*");
     ASSERT_TRUE(boxes.GoTo(u"/site"));
     m_files.FailOn(u"/site/pages", Fault::PermissionDenied);
     int picked = 0;
@@ -51,10 +49,7 @@ TEST_F(FolderBoxesTest, FolderThatCannotBeReadLeavesEverythingAsItIs)
 
 TEST_F(FolderBoxesTest, SeveralFilesCanBeSelectedAndNewOnesShowAfterRefresh)
 {
-    FolderBoxes boxes(m_files,
-                      {QStringLiteral("driveCopyFrom"), QStringLiteral("dirCopyFrom"),
-                       QStringLiteral("fileCopyFrom")},
-                      u"*.*");
+    FolderBoxes boxes(m_files, {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"}, u"*.*");
     boxes.FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     boxes.GoTo(u"/site");
     boxes.FileBox()->selectAll();
@@ -67,7 +62,7 @@ TEST_F(FolderBoxesTest, SeveralFilesCanBeSelectedAndNewOnesShowAfterRefresh)
 
 TEST_F(FolderBoxesTest, WorksWithoutAFileBox)
 {
-    FolderBoxes boxes(m_files, {QStringLiteral("driveNew"), QStringLiteral("dirNew"), {}}, {});
+    FolderBoxes boxes(m_files, {"driveNew", "dirNew", {}}, {});
     EXPECT_TRUE(boxes.GoTo(u"/site/pages/"));
     EXPECT_EQ(boxes.Folder(), u"/site/pages");
     EXPECT_EQ(boxes.FileBox(), nullptr);
@@ -88,9 +83,7 @@ TEST(FolderBoxesOnDiskTest, FollowsLinksAndListsNeitherPipesNorHiddenFiles)
 
     PosixDisk disk;
     const DiskFileStore store(disk, FromQt(root.filePath(QStringLiteral("state"))));
-    FolderBoxes boxes(store,
-                      {QStringLiteral("Drive1"), QStringLiteral("Dir1"), QStringLiteral("File1")},
-                      u"*.jpg;*.gif");
+    FolderBoxes boxes(store, {"Drive1", "Dir1", "File1"}, u"*.jpg;*.gif");
     ASSERT_TRUE(boxes.GoTo(FromQt(folder.path())));
     EXPECT_EQ(RowsOf(boxes, "File1"), (std::vector<Text>{u"a.JPG", u"b.GIF"}));
     const int current = SelectedRowOf(boxes, "Dir1");

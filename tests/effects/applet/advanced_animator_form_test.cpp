@@ -49,7 +49,7 @@ protected:
     {
         auto* images = Find<QListWidget>(Form(), list);
         images->setCurrentRow(row);
-        emit images->itemDoubleClicked(images->item(row));
+        Press(*images, Qt::Key_Return);
         return Form().findChild<ImgPropsForm*>();
     }
 
@@ -74,8 +74,9 @@ TEST_F(AdvancedAnimatorFormTest, DoneHandsTheTypedAnimationOver)
                                     .AnimationWidth = u"320",
                                     .AnimationHeight = u"200",
                                     .LoopCount = u"10 times",
-                                    .BackgroundColor = u"255,128,0"};
-    EXPECT_EQ(Form().TakePayload(), Generate(expected, required));
+                                    .BackgroundColor = u"255,128,0",
+                                    .Required = required};
+    EXPECT_EQ(Form().TakePayload(), Generate(expected));
     EXPECT_FALSE(Form().isVisible());
     EXPECT_EQ(Form().Parameters(), expected);
 }
@@ -175,12 +176,12 @@ TEST_F(AdvancedAnimatorFormTest, OpensFilledFromAPastedTagWhileAnEditIsOn)
 {
     m_desk.Core.EditMode = true;
     m_desk.Core.AppletText = u"\"Animate";
-    m_desk.Core.PastedApplet =
-        Generate(
-            {.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}}, .AnimationWidth = u"20"}, {})
-            .BODYHTML;
-    EXPECT_EQ(Form().Parameters(),
-              ReadAdvancedAnimator(m_desk.Core.PastedApplet, m_desk.Core.AppletText));
+    m_desk.Core.PastedApplet = Generate({.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
+                                         .AnimationWidth = u"20"})
+                                   .BODYHTML;
+    AdvancedAnimator read;
+    ReadTag(read, {.Whole = m_desk.Core.PastedApplet, .AppletText = m_desk.Core.AppletText});
+    EXPECT_EQ(Form().Parameters(), read);
     EXPECT_EQ(WordsOf(Form(), "Text20"), u"\"20");
     EXPECT_EQ(Find<QListWidget>(Form(), "List1")->count(), 2);
     EXPECT_FALSE(m_desk.Core.EditMode);

@@ -60,15 +60,23 @@ TEST(AppletTagBuilderTest, QuotesWhatTheStyleAsksForAndLeavesEmptyLinesOut)
 TEST(AdvancedAnimatorTest, WritesItsTagIntoTheBody)
 {
     const RequiredFiles required{.Names = {u"a.gif"}, .Sources = {u"/pictures/a.gif"}};
-    const EffectPayload payload = Generate(TwoImages(), required);
+    AdvancedAnimator animator = TwoImages();
+    animator.Required = required;
+    const EffectPayload payload = Generate(animator);
     ExpectSameText(ExpectedText("advanced_animator_two_images.html"), payload.BODYHTML);
     const EffectPayload rest{.Kind = EffectKind::AdvancedAnimator,
                              .BODYHTML = payload.BODYHTML,
                              .Required = required,
                              .SupportFiles = {u"Animate1.class", u"CoolTool3.class"}};
     EXPECT_EQ(payload, rest);
-    ExpectSameText(ExpectedText("advanced_animator_full.html"),
-                   Generate(FullAnimator(), {}).BODYHTML);
+    ExpectSameText(ExpectedText("advanced_animator_full.html"), Generate(FullAnimator()).BODYHTML);
+}
+
+AdvancedAnimator Read(TextView pasted, TextView appletText)
+{
+    AdvancedAnimator animator;
+    ReadTag(animator, {.Whole = Text(pasted), .AppletText = Text(appletText)});
+    return animator;
 }
 
 /// A field of the first row, or of the window, and the line that it gives; empty for no line.
@@ -88,7 +96,7 @@ TEST_P(AnimatorLineTest, HoldsItsValue)
 {
     AdvancedAnimator animator = TwoImages();
     GetParam().Enter(animator);
-    const Text tag = Generate(animator, {}).BODYHTML;
+    const Text tag = Generate(animator).BODYHTML;
     const std::size_t place = Find(tag, GetParam().Key);
     const Text line(place == 0 ? u"" : Mid(tag, place, Find(tag, u"\r\n", place) - place));
     ExpectSameText(GetParam().Line, line);
@@ -120,13 +128,6 @@ INSTANTIATE_TEST_SUITE_P(
                  u"HEIGHT=\"7 px\">"}),
     [](const auto& row) { return row.param.Name; });
 
-TEST(AdvancedAnimatorTest, StoresAColorByItsChannels)
-{
-    EXPECT_EQ(BackgroundOf(0x0080FF), u"255,128,0");
-    EXPECT_EQ(BackgroundOf(0), u"0,0,0");
-    EXPECT_EQ(BackgroundOf(0x000ABC), u"171,0,0"); // three digits are shifted by their padding
-}
-
 TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
 {
     AdvancedAnimator animator{.Rows = {{.FileName = u"a.gif"}}};
@@ -149,8 +150,7 @@ TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
 
 TEST(AdvancedAnimatorTest, ReadsItsOwnTagWithOpeningQuotes)
 {
-    const AdvancedAnimator read =
-        ReadAdvancedAnimator(Generate(FullAnimator(), {}).BODYHTML, u"\"Animate");
+    const AdvancedAnimator read = Read(Generate(FullAnimator()).BODYHTML, u"\"Animate");
     const AdvancedAnimator expected{.Rows = {{.FileName = u"\"a.gif",
                                               .Pause = u"\"-1",
                                               .Transition = u"\"slidein(3)",
@@ -175,10 +175,10 @@ TEST(AdvancedAnimatorTest, ReadsItsOwnTagWithOpeningQuotes)
 
 TEST(AdvancedAnimatorTest, UnquotedValuesRunOnToTheNextQuote)
 {
-    const AdvancedAnimator read = ReadAdvancedAnimator(
-        u"<APPLET CODE=Animate1.class WIDTH=300 HEIGHT=\"20\"><PARAM NAME=IMAGE.0 VALUE=a.gif>"
-        u"<PARAM NAME=IMAGE.1 VALUE=\"\"><PARAM NAME=IMAGE.2 VALUE=\"c.gif\"></APPLET>",
-        u"Animate1");
+    const AdvancedAnimator read =
+        Read(u"<APPLET CODE=Animate1.class WIDTH=300 HEIGHT=\"20\"><PARAM NAME=IMAGE.0 VALUE=a.gif>"
+             u"<PARAM NAME=IMAGE.1 VALUE=\"\"><PARAM NAME=IMAGE.2 VALUE=\"c.gif\"></APPLET>",
+             u"Animate1");
     EXPECT_EQ(read.AnimationWidth, u"300 HEIGHT=");
     EXPECT_EQ(read.AnimationHeight, u"\"20");
     EXPECT_EQ(read.LoopCount, u"");
@@ -194,12 +194,12 @@ TEST(AdvancedAnimatorTest, ReadsAtMost31ImagesAndStopsAtAGap)
     for (const std::size_t count : {31u, 32u}) {
         animator.Rows.assign(count, {.FileName = u"x.gif"});
         animator.Rows[30].FileName = u"last.gif";
-        const Text tag = Generate(animator, {}).BODYHTML;
-        const AdvancedAnimator read = ReadAdvancedAnimator(tag, u"\"Animate");
+        const Text tag = Generate(animator).BODYHTML;
+        const AdvancedAnimator read = Read(tag, u"\"Animate");
         ASSERT_EQ(read.Rows.size(), 31u);
         EXPECT_EQ(read.Rows[30].FileName, u"\"last.gif");
         const Text gap = ReplaceAll(tag, u"NAME=IMAGE.1 ", u"NAME=IMAGE.x ");
-        EXPECT_EQ(ReadAdvancedAnimator(gap, u"\"Animate").Rows.size(), 1u);
+        EXPECT_EQ(Read(gap, u"\"Animate").Rows.size(), 1u);
     }
 }
 
@@ -212,9 +212,9 @@ TEST(AdvancedAnimatorTest, TagOfTheEarlierAppletGivesSizeAndLoopCountAlone)
                      u"<PARAM NAME=CYCLES VALUE=\"3\">\r\n</APPLET>";
     const AdvancedAnimator expected{
         .AnimationWidth = u"\"200", .AnimationHeight = u"\"100", .LoopCount = u"\"3"};
-    EXPECT_EQ(ReadAdvancedAnimator(tag, u"AnimateP"), expected);
-    EXPECT_EQ(ReadAdvancedAnimator(tag, u"\"Animate").Rows.size(), 1u);
-    EXPECT_EQ(ReadAdvancedAnimator(tag, u"animateP").BackgroundColor, u"\"1,2,3");
+    EXPECT_EQ(Read(tag, u"AnimateP"), expected);
+    EXPECT_EQ(Read(tag, u"\"Animate").Rows.size(), 1u);
+    EXPECT_EQ(Read(tag, u"animateP").BackgroundColor, u"\"1,2,3");
 }
 
 } // namespace

@@ -186,7 +186,7 @@ TEST_F(DigitalClockFormTest, ComesBackToItsLastPageWithAStepTooManyBehindIt)
     Retype("txtPadding", u"7");
     Click(m_form, "cmdNext");
     EXPECT_EQ(m_form.TakePayload(),
-              Generate({.optDateTime = ClockContent::Time, .txtPadding = u"7"}).Payload);
+              Generate({.optDateTime = ClockContent::Time, .txtPadding = u"7"}));
 
     m_form.show();
     Click(m_form, "cmdPrevious");

@@ -47,8 +47,11 @@ TEST(StatusBarTickerTest, ComplainsAboutAnEmptyTextAndNotAboutABlankOne)
 
 TEST(StatusBarTickerTest, ReadsTheTextOfAPastedScriptWithItsOpeningQuote)
 {
-    EXPECT_EQ(ReadStatusBarTicker(Generate({u"Hello"}).HEADHTML).txtStatusBarText, u"\"Hello");
-    EXPECT_EQ(ReadStatusBarTicker(u"no script").txtStatusBarText, u"");
+    StatusBarTicker ticker;
+    ReadTag(ticker, {.Whole = Generate({u"Hello"}).HEADHTML});
+    EXPECT_EQ(ticker.txtStatusBarText, u"\"Hello");
+    ReadTag(ticker, {.Whole = u"no script"});
+    EXPECT_EQ(ticker.txtStatusBarText, u"");
 }
 
 } // namespace

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/fields.h"
+
+#include <map>
+#include <string>
+
+namespace orvane {
+
+/// The values of a draft by the names of their fields.
+using DraftFields = std::map<std::string, FieldTexts, std::less<>>;
+
+/// One line of a draft, "name: value", with its line end; a line end or backslash in the value is
+/// written as backslash and letter.
+Text DraftLine(std::string_view name, TextView value);
+
+/// The fields of a draft's text; a line that is none is passed over.
+DraftFields ReadDraftFields(TextView draft);
+
+/// What the author entered, as lines that a person can read; secret fields are left out.
+template <class Effect>
+Text WriteDraft(const Effect& effect)
+{
+    Text draft;
+    ForEachField(effect, [&](FieldName name, const auto& value) {
+        if (name.IsSecret)
+            return;
+        for (const Text& text : TextsOf(value))
+            draft += DraftLine(name.Name, text);
+    });
+    return draft;
+}
+
+/// Puts a draft's values into the effect; fields that the draft does not have stay as they are.
+template <class Effect>
+void ReadDraft(Effect& effect, TextView draft)
+{
+    const DraftFields fields = ReadDraftFields(draft);
+    ForEachField(effect, [&](FieldName name, auto& value) {
+        const auto found = fields.find(name.Name);
+        if (found != fields.end() && !name.IsSecret)
+            SetField(value, found->second);
+    });
+}
+
+} // namespace orvane

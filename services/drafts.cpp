@@ -1,0 +1,37 @@
+#include "services/drafts.h"
+
+#include "core/file_names.h"
+
+#include <tuple>
+
+namespace orvane {
+
+Text DraftPathOf(TextView stateFolder, TextView effect)
+{
+    return PathIn(PathIn(stateFolder, u"drafts"), Join({effect, u".txt"}));
+}
+
+std::optional<Text> ReadDraftFile(const FileStore& files, TextView path)
+{
+    if (!files.FileExists(path))
+        return std::nullopt;
+    const auto bytes = files.Read(path);
+    if (FaultIn(bytes) != nullptr)
+        return std::nullopt;
+    return FromUtf8(ValueIn(bytes));
+}
+
+void WriteDraftFile(FileStore& files, TextView path, TextView draft)
+{
+    const TextView folder = FolderOf(path);
+    std::ignore = MakeFolders(files, folder.substr(0, folder.size() - 1));
+    std::ignore = files.Replace(path, ToUtf8(draft));
+}
+
+void DropDraftFile(FileStore& files, TextView path)
+{
+    if (files.FileExists(path))
+        std::ignore = files.Remove(path);
+}
+
+} // namespace orvane

@@ -1,0 +1,64 @@
+#include "services/preferences.h"
+
+namespace orvane {
+
+namespace {
+
+// Stays as it is: "Dream Weaver" in two words here, in one in the delivery wizard.
+constexpr TextView webPageEditors[] = {u"AOLPress",
+                                       u"FrontPage",
+                                       u"FrontPage Express",
+                                       u"Dream Weaver",
+                                       u"Microsoft Publisher 98",
+                                       u"NetObjects Fusion",
+                                       u"Netscape Composer",
+                                       u"Page Loom",
+                                       u"Yahoo/Geocities PageBuilder",
+                                       u"Other"};
+
+TextView Flag(bool isOn)
+{
+    return isOn ? u"1" : u"0";
+}
+
+} // namespace
+
+std::span<const TextView> WebPageEditors()
+{
+    return webPageEditors;
+}
+
+Preferences LoadPreferences(const Settings& settings)
+{
+    Preferences preferences{
+        // Stays as it is: Apps/Override is what gets stored, so the box opens unticked every time.
+        .chkOverride = settings.Get(u"Misc", u"Override", u"0") == u"1",
+        .txtDefaultPath = settings.Get(u"Misc", u"DefaultPath", u"c:\\"),
+        .chkUnlock = AreInputBoxesUnlocked(settings),
+        .cboWebPageEditor = settings.Get(u"Misc", u"HTMLEditor", u""),
+    };
+    if (preferences.chkOverride)
+        preferences.txtBrowser = settings.Get(u"Apps", u"Browser", u"c:\\");
+    return preferences;
+}
+
+std::optional<Complaint> Check(const Preferences& preferences)
+{
+    if (preferences.txtBrowser.empty())
+        return Complaint{u"If you are overriding the default broswer, you must enter the path and "
+                         u"filename of a different browser in the Browser input box.",
+                         "txtBrowser"};
+    return std::nullopt;
+}
+
+void SavePreferences(const Preferences& preferences, OrvaneCore& core, Settings& settings)
+{
+    settings.Put(u"Apps", u"Browser", preferences.txtBrowser);
+    settings.Put(u"Apps", u"Override", Flag(preferences.chkOverride));
+    settings.Put(u"Misc", u"UnlockInputBoxes", Flag(preferences.chkUnlock));
+    settings.Put(u"Misc", u"HTMLEditor", preferences.cboWebPageEditor);
+    if (!preferences.txtDefaultPath.empty())
+        SaveDefaultPath(core, settings, preferences.txtDefaultPath);
+}
+
+} // namespace orvane

@@ -1,0 +1,137 @@
+#include "core/draft.h"
+#include "tests/effects/effect_forms.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+#include "windows/field_controls.h"
+#include "windows/qt_text.h"
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QSlider>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+constexpr TextView oddText = u"a \"b\" 'c' «Id» \\ é☃";
+
+/// Another value that the field's control can show.
+void Change(QWidget& window, FieldName name, Text& value)
+{
+    const QString control = ToQt(name.Name);
+    if (const auto* combo = window.findChild<QComboBox*>(control); combo && !combo->isEditable())
+        value = FromQt(combo->itemText(combo->count() - 1));
+    else if (const auto* list = window.findChild<QListWidget*>(control))
+        value = FromQt(list->item(list->count() - 1)->text());
+    else
+        value = oddText;
+}
+
+void Change(QWidget&, FieldName, bool& value)
+{
+    value = !value;
+}
+
+[[maybe_unused]] void Change(QWidget& window, FieldName name, int& value)
+{
+    const auto* slider = window.findChild<QSlider*>(ToQt(name.Name));
+    value = slider->value() == slider->maximum() ? slider->minimum() : slider->maximum();
+}
+
+template <class Choice>
+requires std::is_enum_v<Choice>
+void Change(QWidget& window, FieldName name, Choice& value)
+{
+    int last = 0;
+    while (window.findChild<QRadioButton*>(MemberName(name.Name, last + 1)) != nullptr)
+        ++last;
+    value = static_cast<Choice>(last);
+}
+
+[[maybe_unused]] void Change(QWidget&, FieldName, std::vector<Text>& value)
+{
+    value = {Text(oddText), u"two\r\nlines"};
+}
+
+void Change(QWidget&, FieldName, std::vector<ImageRow>& value)
+{
+    value = {{u"a.gif", u"-1", u"scroll(r)", Text(oddText), u"s.au"}, {.FileName = u"b.gif"}};
+}
+
+void Change(QWidget&, FieldName, RequiredFiles& value)
+{
+    value.Names[1] = u"b.gif";
+    value.Sources[1] = u"/pics/b.gif";
+}
+
+/// What holds for the window and the fields of every effect.
+template <class Form>
+class EveryEffectTest : public ::testing::Test
+{
+protected:
+    using Effect = decltype(std::declval<Form>().Parameters());
+
+    Effect Changed()
+    {
+        Effect effect = m_form.Parameters();
+        ForEachField(effect, [this](FieldName name, auto& value) { Change(m_form, name, value); });
+        return effect;
+    }
+
+    FakeDesk m_desk;
+    Form m_form{m_desk.Bench};
+};
+
+TYPED_TEST_SUITE(EveryEffectTest, EffectForms);
+
+TYPED_TEST(EveryEffectTest, AFreshWindowShowsTheDefaultsInControlsOfTheFieldsNames)
+{
+    EXPECT_EQ(WriteDraft(this->m_form.Parameters()), WriteDraft(typename TestFixture::Effect()));
+    const FieldControls controls(this->m_form, this->m_desk.Bench);
+    const auto shown = this->m_form.Parameters();
+    ForEachField(shown, [&](FieldName name, const auto&) {
+        EXPECT_TRUE(controls.Has(name.Name)) << name.Name;
+    });
+}
+
+TYPED_TEST(EveryEffectTest, GivesBackWhatItIsGivenWithEveryFieldChanged)
+{
+    const auto changed = this->Changed();
+    this->m_form.SetParameters(changed);
+    EXPECT_EQ(ToUtf8(WriteDraft(this->m_form.Parameters())), ToUtf8(WriteDraft(changed)));
+    EXPECT_TRUE(this->m_form.Parameters() == changed);
+}
+
+TYPED_TEST(EveryEffectTest, GeneratedTextsHaveWholeLineEndsAndNoUnfilledMark)
+{
+    auto effect = this->Changed();
+    if constexpr (requires { Tidy(effect); })
+        Tidy(effect);
+    const EffectPayload payload = Generate(effect);
+    EXPECT_NE(FindRow(payload.Kind), nullptr);
+    for (const Text& text : {payload.HEADHTML, payload.BODYHTML}) {
+        EXPECT_EQ(ReplaceAll(text, u"\r\n", u"").find_first_of(u"\r\n"), Text::npos);
+        EXPECT_EQ(ReplaceAll(text, u"«Id»", u"").find(u'«'), Text::npos);
+    }
+}
+
+TYPED_TEST(EveryEffectTest, CancelledWorkIsOfferedAndTakenUpByTheNextWindow)
+{
+    this->m_form.show();
+    this->m_form.SetParameters(this->Changed());
+    const Text before = WriteDraft(this->m_form.Parameters());
+    Press(this->m_form, Qt::Key_Escape);
+    TypeParam next(this->m_desk.Bench);
+    next.show();
+    EXPECT_EQ(WriteDraft(next.Parameters()), WriteDraft(typename TestFixture::Effect()));
+    Press(*Find<QWidget>(next, "lblTakeUp"), Qt::Key_Return);
+    EXPECT_EQ(ToUtf8(WriteDraft(next.Parameters())), ToUtf8(before));
+    next.DropDraft();
+    TypeParam last(this->m_desk.Bench);
+    EXPECT_TRUE(Find<QWidget>(last, "lblTakeUp")->isHidden());
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,36 @@
+#include "windows/acting_list.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace orvane {
+
+int ActingList::SelectedRow() const
+{
+    const QModelIndexList selected = selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+void ActingList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton)
+        emit DoubleClicked();
+}
+
+void ActingList::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const bool isSelected = SelectedRow() >= 0;
+    // Taken here, Enter does not reach the window's default button.
+    if (isSelected && (key == Qt::Key_Return || key == Qt::Key_Enter))
+        emit Entered();
+    else if (isSelected && key == Qt::Key_Delete)
+        emit Deleted();
+    else if (!isSelected && count() > 0 && (key == Qt::Key_Down || key == Qt::Key_Up))
+        setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+} // namespace orvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QListWidget>
+
+namespace orvane {
+
+/// A list that tells of double clicks wherever they fall, and of Enter and Delete while a row is
+/// selected; the first arrow key selects its first row.
+class ActingList : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    using QListWidget::QListWidget;
+
+    /// The row that is selected, or -1; a row that only has the focus does not count.
+    int SelectedRow() const;
+
+signals:
+    void DoubleClicked();
+    void Entered();
+    void Deleted();
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace orvane

@@ -1,0 +1,39 @@
+#include "windows/browse.h"
+
+#include "core/file_names.h"
+#include "windows/qt_text.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace orvane {
+
+namespace {
+
+void Browse(Workbench& bench, QLineEdit& field, const BrowseRule& rule)
+{
+    const auto path = bench.Dialogs.OpenFile(rule.Request);
+    if (!path || (rule.Admits && !rule.Admits(*path)))
+        return;
+    const TextView name = GetFileName(*path);
+    if (rule.NoBlanks)
+        if (const auto complaint = CheckNoBlank(name, *rule.NoBlanks))
+            return bench.Dialogs.Say(complaint->Words);
+    field.setText(ToQt(rule.KeepsPath ? TextView(*path) : name));
+    if (rule.Slot)
+        bench.Core.Required.Sources.at(*rule.Slot) = *path;
+    if (rule.Then)
+        rule.Then(*path);
+}
+
+} // namespace
+
+QPushButton* MakeBrowseButton(Workbench& bench, QLineEdit* field, BrowseRule rule)
+{
+    QPushButton* button = MakeButton(rule.Button, rule.Caption);
+    QObject::connect(button, &QPushButton::clicked, field,
+                     [field, &bench, rule = std::move(rule)] { Browse(bench, *field, rule); });
+    return button;
+}
+
+} // namespace orvane

@@ -1,0 +1,159 @@
+#include "windows/controls.h"
+
+#include "core/dialogs.h"
+#include "core/help_viewer.h"
+#include "windows/qt_text.h"
+
+#include <QAction>
+#include <QFormLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+
+namespace orvane {
+
+namespace {
+
+void CollectFrom(QLayout& layout, std::vector<QWidget*>& controls);
+
+void Collect(QWidget* control, std::vector<QWidget*>& controls)
+{
+    if (control->focusPolicy() & Qt::TabFocus)
+        controls.push_back(control);
+    if (auto* stack = qobject_cast<QStackedWidget*>(control)) {
+        for (int i = 0; i < stack->count(); ++i)
+            Collect(stack->widget(i), controls);
+    } else if (auto* splitter = qobject_cast<QSplitter*>(control)) {
+        for (int i = 0; i < splitter->count(); ++i)
+            Collect(splitter->widget(i), controls);
+    } else if (auto* area = qobject_cast<QScrollArea*>(control)) {
+        Collect(area->widget(), controls);
+    } else if (control->layout() != nullptr) {
+        CollectFrom(*control->layout(), controls);
+    }
+}
+
+void CollectFrom(QLayout& layout, std::vector<QWidget*>& controls)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem* item = layout.itemAt(i);
+        if (item->widget() != nullptr)
+            Collect(item->widget(), controls);
+        else if (item->layout() != nullptr)
+            CollectFrom(*item->layout(), controls);
+    }
+}
+
+bool Holds(QLayoutItem* item, const QWidget* control)
+{
+    if (item->widget() == control)
+        return true;
+    QLayout* layout = item->layout();
+    for (int i = 0; layout != nullptr && i < layout->count(); ++i)
+        if (Holds(layout->itemAt(i), control))
+            return true;
+    return false;
+}
+
+struct FormRow
+{
+    QFormLayout* Rows = nullptr;
+    int Row = 0;
+};
+
+/// Where the control stands; no rows when its parent lays out otherwise.
+FormRow RowOf(const QWidget* control)
+{
+    auto* rows = qobject_cast<QFormLayout*>(control->parentWidget()->layout());
+    for (int row = 0; rows != nullptr && row < rows->rowCount(); ++row)
+        for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole})
+            if (QLayoutItem* item = rows->itemAt(row, role); item && Holds(item, control))
+                return {rows, row};
+    return {};
+}
+
+} // namespace
+
+QString ToQt(ControlName name)
+{
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QString MemberName(ControlName group, int index)
+{
+    return QStringLiteral("%1(%2)").arg(ToQt(group)).arg(index);
+}
+
+QString SpokenName(TextView label)
+{
+    QString spoken = ToQt(label).remove(u'&');
+    if (spoken.endsWith(u':'))
+        spoken.chop(1);
+    return spoken;
+}
+
+QPushButton* MakeButton(ControlName name, TextView caption, TextView tip)
+{
+    auto* button = new QPushButton(ToQt(caption));
+    button->setObjectName(ToQt(name));
+    button->setToolTip(ToQt(tip));
+    button->setAutoDefault(true);
+    return button;
+}
+
+QAction* AddCommand(QMenu& menu, ControlName name, TextView caption)
+{
+    QAction* command = menu.addAction(ToQt(caption));
+    command->setObjectName(ToQt(name));
+    return command;
+}
+
+void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic)
+{
+    auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F1), window);
+    QObject::connect(shortcut, &QShortcut::activated, window,
+                     [&help, topic] { help.ShowTopic(topic); });
+}
+
+void Report(QWidget& window, Dialogs& dialogs, const Complaint& complaint)
+{
+    dialogs.Say(complaint.Words, complaint.Look);
+    if (complaint.Control.empty())
+        return;
+    if (auto* control = window.findChild<QWidget*>(ToQt(complaint.Control)))
+        control->setFocus(Qt::OtherFocusReason);
+}
+
+void SetReadingOrder(QWidget& window)
+{
+    std::vector<QWidget*> controls;
+    Collect(&window, controls);
+    for (std::size_t i = 1; i < controls.size(); ++i)
+        QWidget::setTabOrder(controls[i - 1], controls[i]);
+}
+
+QLabel* LabelOf(QWidget* control)
+{
+    const FormRow place = RowOf(control);
+    QLayoutItem* item =
+        place.Rows == nullptr ? nullptr : place.Rows->itemAt(place.Row, QFormLayout::LabelRole);
+    return item == nullptr ? nullptr : qobject_cast<QLabel*>(item->widget());
+}
+
+void ShowRow(QWidget* control, bool isShown)
+{
+    if (const FormRow place = RowOf(control); place.Rows != nullptr)
+        place.Rows->setRowVisible(place.Row, isShown);
+}
+
+QSize FromTwips(int width, int height)
+{
+    constexpr int twipsPerPixel = 15;
+    return {width / twipsPerPixel, height / twipsPerPixel};
+}
+
+} // namespace orvane

@@ -1,0 +1,38 @@
+#include "windows/file_name_box.h"
+
+#include "core/orvane_core.h"
+
+#include <QKeyEvent>
+
+#include <limits>
+
+namespace orvane {
+
+FileNameBox::FileNameBox(const Settings& settings, Dialogs& dialogs, QWidget* parent)
+    : QLineEdit(parent), m_settings(settings), m_dialogs(dialogs)
+{
+    setMaxLength(std::numeric_limits<int>::max());
+}
+
+void FileNameBox::SetHoldsFile(bool holdsFile)
+{
+    m_holdsFile = holdsFile;
+    setReadOnly(holdsFile && !AreInputBoxesUnlocked(m_settings));
+}
+
+void FileNameBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool types = !event->text().isEmpty() && event->text().at(0).isPrint();
+    if (isReadOnly() && types)
+        WarnInputBoxLocked(m_settings, m_dialogs);
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void FileNameBox::showEvent(QShowEvent* event)
+{
+    SetHoldsFile(m_holdsFile);
+    QLineEdit::showEvent(event);
+}
+
+} // namespace orvane

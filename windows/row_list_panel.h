@@ -1,0 +1,83 @@
+#pragma once
+
+#include "core/dialogs.h"
+#include "services/row_list.h"
+#include "windows/parallel_lists.h"
+
+#include <span>
+
+class QPushButton;
+
+namespace orvane {
+
+/// What a button beside a list of rows does.
+enum class RowCommand
+{
+    Add,    ///< the window adds a row
+    Edit,   ///< the window changes the selected row
+    Remove, ///< the three others are done by the panel
+    MoveUp,
+    MoveDown,
+};
+
+/// A button of the panel.
+struct RowButton
+{
+    RowCommand Command;
+    ControlName Name;
+    TextView Caption;
+    TextView Tip = {};
+};
+
+/// Lists that speak of the same rows, with buttons that add, edit, remove and move them. All but
+/// those that add are disabled while there is no row.
+class RowListPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RowListPanel(std::vector<ListColumn> columns, const RowListWords& words,
+                 std::span<const RowButton> buttons, Dialogs& dialogs, QWidget* parent = nullptr);
+
+    const RowList& Rows() const { return m_list; }
+
+    /// One list's texts, and other texts for it; rows come and go with the longest list.
+    std::vector<Text> Column(ControlName name) const;
+    void SetColumn(ControlName name, const std::vector<Text>& texts);
+    bool HasColumn(ControlName name) const { return IndexOf(name) < m_columns.size(); }
+
+    /// Adds a row at the end; the selection stays.
+    void AddRow(std::vector<Text> row);
+
+    /// Selects a row. Expects one that is there.
+    void Select(std::size_t row);
+
+    /// Changes the selected row, which stays selected. Expects that there is one.
+    void ChangeSelectedRow(std::vector<Text> row);
+
+signals:
+    /// A button of the command Add was clicked; `button` is its place among the panel's buttons.
+    void AddWanted(int button);
+    /// The selected row is to be edited: by its button, a double click or Enter.
+    void EditWanted();
+    /// A row was removed.
+    void RowRemoved(std::size_t row);
+    /// Two neighbours were exchanged; `upper` is the place of the first.
+    void RowsExchanged(std::size_t upper);
+
+private:
+    std::size_t IndexOf(ControlName name) const;
+    void Run(RowCommand command, int button);
+    void Move(RowCommand command);
+    void Refresh();
+    bool Refused(const std::optional<Complaint>& complaint);
+
+    Dialogs& m_dialogs;
+    const std::vector<ListColumn> m_columns;
+    const RowListWords m_words;
+    RowList m_list;
+    ParallelLists* m_lists;
+    std::vector<QPushButton*> m_rowButtons; ///< those that need a row
+};
+
+} // namespace orvane
