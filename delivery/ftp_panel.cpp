@@ -42,12 +42,6 @@ void FtpPanel::GetRecentFTP()
     m_username->setText(ToQt(recent.Username));
 }
 
-void FtpPanel::PutRecentFTP()
-{
-    orvane::PutRecentFTP(m_settings, FromQt(cmbServerName->currentText()),
-                         FromQt(m_username->text()));
-}
-
 void FtpPanel::ShowUsername()
 {
     if (const auto username = UsernameFor(m_settings, FromQt(cmbServerName->currentText())))

@@ -21,9 +21,6 @@ public:
     /// Fills the server list and the user name from the settings.
     void GetRecentFTP();
 
-    /// Stores the server and the user name as the newest.
-    void PutRecentFTP();
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -21,8 +21,7 @@ MakeDirForm::MakeDirForm(Workbench& bench, TextView folder, QWidget* parent)
     setObjectName(QStringLiteral("MakeDir"));
     setWindowTitle(QStringLiteral("Create Folder"));
     PageBuilder page(this);
-    m_boxes = new FolderBoxes(bench.Files, {"Drive1", "Dir1", {}},
-                              u"*.*");
+    m_boxes = new FolderBoxes(bench.Files, {"Drive1", "Dir1", {}}, u"*.*");
     m_boxes->GoTo(folder);
     page.Fill(m_boxes);
     txtFolder = page.TextBox("txtFolder", u"Type name of new folder here -->");

@@ -1,32 +1,21 @@
 #include "delivery/preview_form.h"
 
-#include "insertion/new_page.h"
+#include "delivery/editor_panel.h"
+#include "delivery/finish_panel.h"
+#include "delivery/ftp_panel.h"
+#include "delivery/insert_panel.h"
+#include "delivery/method_panel.h"
+#include "delivery/preview_panel.h"
 #include "windows/qt_text.h"
+#include "windows/wait_cursor.h"
 
-#include <QApplication>
-#include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 
 #include <tuple>
 #include <utility>
 
 namespace orvane {
-
-namespace {
-
-/// Shows the wait pointer for as long as it lives.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
-} // namespace
 
 PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
                          PreviewWindows windows, QWidget* parent)
@@ -36,35 +25,80 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
       m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
-    AddPreviewPanel();
-    AddEditorPanel();
-    AddMethodPanel();
-    AddPagePanel();
-    AddCodePanels();
-    AddPublishPanel();
-    AddFinishPanel();
+    AddPanels();
+    ConnectPanels();
     AddButtons(Buttons::Paged, "cmdHelp");
-    setMinimumSize(640, 520);
+    setMinimumSize(640, 440);
     ChangePage(m_step);
 }
 
 PreviewForm::~PreviewForm()
 {
     m_bench.Pane.Clear();
-    if (m_pane != nullptr) {
-        m_pane->hide();
-        m_pane->setParent(nullptr);
-    }
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
     m_bench.Core.Payload.HEADHTML.clear();
     m_bench.Core.Payload.BODYHTML.clear();
 }
 
-Done PreviewForm::SaveHTMLtoFile(TextView path)
+template <class Panel>
+Panel* PreviewForm::Add(int index, Panel* panel)
 {
-    const WaitCursor wait;
-    return orvane::SaveHTMLtoFile(m_bench.Files, path, m_payload);
+    panel->layout()->setContentsMargins({});
+    PageBuilder(AddPanel(MemberName("Picture1", index))).Fill(panel);
+    return panel;
+}
+
+void PreviewForm::AddPanels()
+{
+    auto* preview = Add(0, new PreviewPanel(m_pane));
+    connect(preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
+    m_editorPanel = Add(1, new EditorPanel);
+    m_methodPanel = Add(2, new MethodPanel);
+    m_insertPanel = Add(3, new InsertPanel(m_bench, Desk()));
+    AddCodePanels();
+    m_publishPanel = Add(7, new PublishPanel(Desk(), m_windows.MakeFolder));
+    // No page shows it.
+    Add(8, new FtpPanel(m_bench.Settings));
+    m_finishPanel = Add(9, new FinishPanel(m_bench, m_payload, m_report));
+}
+
+void PreviewForm::AddCodePanels()
+{
+    const CodePanel::Words words[] = {
+        {"lblNeedHelp(0)", "txtHEADHTML", "cmdCopyHEADHTML", u"HEAD", {}},
+        {"lblNeedHelp(1)", "txtBODYHTML", "cmdcopyBODYHTML", u"BODY", {}},
+        {"lblNeedHelp(2)", "txtBODYAttribute", "cmdCopyBODYAttrib", u"BODY attribute",
+         Join({u"For example:  <BODY", m_payload.BODYAttribute, u">"})},
+    };
+    const Text* const codes[] = {&m_payload.Effect.HEADHTML, &m_payload.Effect.BODYHTML,
+                                 &m_payload.BODYAttribute};
+    for (std::size_t i = 0; i < m_codePanels.size(); ++i)
+        m_codePanels[i] =
+            Add(4 + static_cast<int>(i), new CodePanel(m_bench, words[i], *codes[i], m_report));
+}
+
+void PreviewForm::ConnectPanels()
+{
+    connect(m_editorPanel, &EditorPanel::EditorChosen, this, &PreviewForm::Next);
+    connect(m_insertPanel, &InsertPanel::Complained, this, &PreviewForm::Report);
+    connect(m_insertPanel, &InsertPanel::ManualWanted, this, &PreviewForm::InsertByHand);
+    connect(m_insertPanel, &InsertPanel::Delivered, this, [this] { GoOnTo(9); });
+    connect(m_insertPanel, &InsertPanel::FilesMissing, this, [this](const Text& folder) {
+        m_publishPanel->GoTo(folder);
+        GoOnTo(8);
+    });
+    connect(m_publishPanel, &PublishPanel::ControlsChanged, this,
+            [this](const PublishControls& controls) {
+                cmdPrevious->setVisible(controls.cmdPrevious);
+                cmdNext->setVisible(controls.cmdNext);
+            });
+    connect(m_publishPanel, &PublishPanel::ActionChanged, this,
+            [this] { LeadEnterTo(m_publishPanel->Action()); });
+    connect(m_publishPanel, &PublishPanel::CopyingDone, this,
+            [this] { FinishCopying(DoneCopying()); });
+    connect(m_publishPanel, &PublishPanel::PreviewWanted, this,
+            [this] { FinishCopying(PreviewAfterCopying()); });
 }
 
 void PreviewForm::showEvent(QShowEvent* event)
@@ -99,19 +133,19 @@ void PreviewForm::ChangePage(DeliveryStep step)
         return;
     }
     const DeliveryPage page = DescribePage(step, Mode());
-    SetHeading(page.Heading, page.SubHeading);
-    SetHelpTopic(page.HelpContext);
-    ShowPanel(page.Panel);
+    ShowPage(page, page.Panel);
+    LeadEnterTo(nullptr);
     switch (step.PageStep) {
     case 2:
-        lstHTMLEditors->setFocus();
+        m_editorPanel->Begin();
         break;
     case 3:
         KeepEditor();
-        optInsertMode[static_cast<std::size_t>(Mode())]->setFocus();
+        m_methodPanel->Begin();
         break;
     case 4:
-        ShowPageControls();
+        LeadEnterTo(m_insertPanel->Action(Mode() == InsertMode::NewPage));
+        m_insertPanel->Begin(Mode() == InsertMode::NewPage);
         break;
     case 5:
         cmdPrevious->setEnabled(true);
@@ -127,36 +161,46 @@ void PreviewForm::ChangePage(DeliveryStep step)
     }
 }
 
-void PreviewForm::KeepEditor()
+void PreviewForm::ShowPage(const DeliveryPage& page, int panel)
 {
-    const QListWidgetItem* editor = lstHTMLEditors->currentItem();
-    if (editor != nullptr && m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty())
-        m_bench.Settings.Put(u"Misc", u"HTMLEditor", FromQt(editor->text()));
+    SetHeading(page.Heading, page.SubHeading);
+    SetHelpTopic(page.HelpContext);
+    ShowPanel(panel);
 }
 
-void PreviewForm::ShowPageControls()
+void PreviewForm::LeadEnterTo(QPushButton* action)
 {
-    const bool isNewPage = Mode() == InsertMode::NewPage;
-    lblAutoStep1->setText(isNewPage
-                              ? QStringLiteral("1. Save your new Web page by pressing the 'Save as "
-                                               "New Web page' button below.")
-                              : QStringLiteral("1. Find your Web page using the browse button "
-                                               "below."));
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             lblAutoStep2, lblAutoStep3, txtFileName, cmdBrowse, cmdAutoInsert, lblBackupFile})
-        control->setVisible(!isNewPage);
-    cmdSaveWebPage->setVisible(isNewPage);
-    (isNewPage ? static_cast<QWidget*>(cmdSaveWebPage) : txtFileName)->setFocus();
+    const bool isOnTheWayBack = cmdPrevious->hasFocus() && action == nullptr;
+    if (action == nullptr)
+        action = cmdNext;
+    action->setDefault(true);
+    if (!isOnTheWayBack)
+        action->setFocus();
 }
 
 void PreviewForm::ShowFinish()
 {
     cmdNext->setEnabled(false);
     cmdCancel->setText(QStringLiteral("&Done"));
-    cmdCancel->setFocus();
-    if (m_payload.NeedsFiles && !std::exchange(m_filesListed, true))
-        for (const Text& name : ListedFiles(m_payload))
-            lstFilesToUpload->addItem(ToQt(name));
+    LeadEnterTo(cmdCancel);
+    m_finishPanel->Begin();
+}
+
+void PreviewForm::KeepEditor()
+{
+    const Text editor = m_editorPanel->Chosen();
+    if (!editor.empty() && m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty())
+        m_bench.Settings.Put(u"Misc", u"HTMLEditor", editor);
+}
+
+void PreviewForm::OfferEditorHelp()
+{
+    /// The own topic of the three pages that show code to copy.
+    constexpr int manualPagesTopic = 50;
+    const EditorHelp help = setWebPageEditor(m_bench.Settings.Get(u"Misc", u"HTMLEditor", u""),
+                                             m_payload.ScriptedHelp, manualPagesTopic);
+    for (CodePanel* panel : m_codePanels)
+        panel->OfferHelp(help);
 }
 
 void PreviewForm::Preview(PreviewMode mode)
@@ -179,24 +223,39 @@ void PreviewForm::BeginPreview()
 void PreviewForm::FinishCopying(const AfterCopying& after)
 {
     m_publishPanel->Begin();
-    const DeliveryPage page =
-        DescribePage({static_cast<std::int16_t>(after.HeadingPage), m_step.StepNumber}, Mode());
-    SetHeading(page.Heading, page.SubHeading);
-    SetHelpTopic(page.HelpContext);
-    ShowPanel(after.Panel);
+    ShowPage(
+        DescribePage({static_cast<std::int16_t>(after.HeadingPage), m_step.StepNumber}, Mode()),
+        after.Panel);
     cmdNext->setEnabled(after.IsNextEnabled);
     cmdPrevious->setEnabled(after.IsPreviousEnabled);
     cmdCancel->setText(ToQt(after.CancelCaption));
+    LeadEnterTo(after.IsNextEnabled ? cmdNext : cmdCancel);
     if (after.IsPreviewed)
         Preview(PreviewMode::Inline);
 }
 
+void PreviewForm::InsertByHand()
+{
+    m_methodPanel->Choose(InsertMode::ManualCopy);
+    m_step.PageStep = 3;
+    Next();
+}
+
+void PreviewForm::GoOnTo(std::int16_t page)
+{
+    ++m_step.StepNumber;
+    m_step.PageStep = page;
+    ChangePage(m_step);
+}
+
+CopyDesk PreviewForm::Desk()
+{
+    return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, &m_report};
+}
+
 InsertMode PreviewForm::Mode() const
 {
-    for (std::size_t i = 0; i < optInsertMode.size(); ++i)
-        if (optInsertMode[i]->isChecked())
-            return static_cast<InsertMode>(i);
-    return InsertMode::AutoInsert;
+    return m_methodPanel->Mode();
 }
 
 DeliveryFacts PreviewForm::Facts() const

@@ -1,21 +1,17 @@
 #pragma once
 
-#include "core/payload.h"
+#include "delivery/code_panel.h"
 #include "delivery/delivery_flow.h"
 #include "delivery/publish_panel.h"
-#include "delivery/required_files.h"
 #include "preview/preview_page.h"
 #include "windows/wizard_frame.h"
 
-#include <array>
-#include <functional>
-#include <optional>
-
-class QListWidget;
-class QPlainTextEdit;
-class QRadioButton;
-
 namespace orvane {
+
+class EditorPanel;
+class FinishPanel;
+class InsertPanel;
+class MethodPanel;
 
 /// How the delivery wizard ended.
 enum class DeliveryEnd
@@ -31,7 +27,8 @@ struct PreviewWindows
     MakeFolderWindow MakeFolder;
 };
 
-/// The delivery wizard: leads from a finished payload to an effect in the author's page.
+/// The delivery wizard: leads from a finished payload to an effect in the author's page. This is
+/// the way from page to page; what a page shows and does stands in its panel.
 class PreviewForm : public WizardFrame
 {
     Q_OBJECT
@@ -47,8 +44,8 @@ public:
 
     DeliveryEnd End() const { return m_end; }
 
-    /// Writes the new page around the effect; on failure the file keeps what it had.
-    [[nodiscard]] Done SaveHTMLtoFile(TextView path);
+    /// Whether the effect reached a page or the clipboard.
+    bool WasDelivered() const { return m_report.HasDelivered(); }
 
 protected:
     void Next() override;
@@ -56,64 +53,43 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void AddPreviewPanel();
-    void AddEditorPanel();
-    void AddMethodPanel();
-    void AddPagePanel();
-    /// What one of the three pages with code to copy is made of.
-    struct CodePanel
-    {
-        int Panel;
-        const char* Box;
-        const char* CopyButton;
-        TextView AccessibleName;
-    };
-    void AddCodePanel(const CodePanel& words, TextView code, TextView example);
+    void AddPanels();
     void AddCodePanels();
-    void AddPublishPanel();
-    void AddFinishPanel();
+    void ConnectPanels();
+    /// Adds the panel of that index; they are added in turn.
+    template <class Panel>
+    Panel* Add(int index, Panel* panel);
 
     void ChangePage(DeliveryStep step);
-    void ShowPageControls();
+    void ShowPage(const DeliveryPage& page, int panel);
+    /// Enter does what waits to be done on the page; "Next" when that is null.
+    void LeadEnterTo(QPushButton* action);
     void ShowFinish();
     void KeepEditor();
     void OfferEditorHelp();
     void BeginPreview();
     void Preview(PreviewMode mode);
     void FinishCopying(const AfterCopying& after);
-    void BrowseForPage();
-    void InsertIntoPage();
-    void SaveWebPage();
-    /// The missing names; nothing when a fault ended the copying and the author was told.
-    std::optional<MissingFiles> CopyFiles(TextView folder);
-    CopyDesk Desk() const;
+    void InsertByHand();
     void GoOnTo(std::int16_t page);
-    void CopyCode(QPlainTextEdit* box);
+    CopyDesk Desk();
     InsertMode Mode() const;
     DeliveryFacts Facts() const;
 
     FinishedPayload m_payload;
+    DeliveryReport m_report;
     QWidget* m_pane;
     PreviewWindows m_windows;
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;
-    int m_editorTopic = 0;
     bool m_isPreviewed = false;
-    bool m_filesListed = false;
 
+    EditorPanel* m_editorPanel;
+    MethodPanel* m_methodPanel;
+    InsertPanel* m_insertPanel;
+    std::array<CodePanel*, 3> m_codePanels{};
     PublishPanel* m_publishPanel;
-    QListWidget* lstHTMLEditors;
-    std::array<QRadioButton*, insertModes.size()> optInsertMode{};
-    QLabel* lblAutoStep1;
-    QLabel* lblAutoStep2;
-    QLabel* lblAutoStep3;
-    QLineEdit* txtFileName;
-    QPushButton* cmdBrowse;
-    QPushButton* cmdAutoInsert;
-    QLabel* lblBackupFile;
-    QPushButton* cmdSaveWebPage;
-    std::array<LinkLabel*, 3> lblNeedHelp{};
-    QListWidget* lstFilesToUpload;
+    FinishPanel* m_finishPanel;
 };
 
 } // namespace orvane

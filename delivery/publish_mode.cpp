@@ -6,7 +6,7 @@ PublishControls ControlsOf(PublishMode mode)
 {
     const bool isPublishing = mode == PublishMode::Publish;
     const bool isForPreview = mode == PublishMode::MissingForPreview;
-    const bool isForFolder = mode == PublishMode::MissingFiles;
+    const bool isForFolder = mode == PublishMode::MissingInFolder;
     return {
         .ToBoxes = !isForPreview,
         .FromBoxes = !isPublishing,

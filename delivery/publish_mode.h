@@ -8,7 +8,7 @@ namespace orvane {
 enum class PublishMode
 {
     Publish,           ///< the author chooses a folder and publishes
-    MissingFiles,      ///< files that could not be published are looked for by hand
+    MissingInFolder,   ///< files that could not be published are looked for by hand
     MissingForPreview, ///< files that the preview lacks are looked for by hand
 };
 

@@ -1,6 +1,7 @@
 #include "delivery/publish_panel.h"
 
 #include "windows/folder_boxes.h"
+#include "windows/page_builder.h"
 #include "windows/qt_text.h"
 
 #include <QComboBox>
@@ -9,6 +10,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace orvane {
 
@@ -37,81 +40,71 @@ void AddBoxes(QVBoxLayout* column, TextView words, FolderBoxes* boxes)
 PublishPanel::PublishPanel(const CopyDesk& desk, MakeFolderWindow makeFolder)
     : m_desk(desk), m_makeFolder(std::move(makeFolder))
 {
-    auto* sides = new QHBoxLayout;
-    sides->addWidget(MakeFromSide(), 1);
-    sides->addWidget(MakeToSide(), 1);
-    sides->addWidget(MakeMissingSide(), 1);
-    Label4 = new QLabel(ToQt(publishHint));
-    Label4->setObjectName(QStringLiteral("Label4"));
-    Label4->setWordWrap(true);
-    auto* all = new QVBoxLayout(this);
-    all->addLayout(sides, 1);
-    all->addWidget(Label4);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdCopyFiles =
-                           MakeButton("cmdCopyFiles", "&Publish >>", &PublishPanel::PublishFiles));
-    buttons->addWidget(cmdManualCopy =
-                           MakeButton("cmdManualCopy", "C&opy >>", &PublishPanel::CopyByHand));
-    buttons->addWidget(
-        cmdDoneCopying = MakeButton("cmdDoneCopying", "&Done Copying", &PublishPanel::CopyingDone));
-    picCopyThenPreview = new QWidget;
+    PageBuilder page(this);
+    auto* all = new QWidget(this);
+    auto* sides = new QHBoxLayout(all);
+    sides->setContentsMargins({});
+    sides->addWidget(MakeFromSide(all), 1);
+    sides->addWidget(MakeToSide(all), 1);
+    sides->addWidget(MakeMissingSide(all), 1);
+    page.Fill(all);
+    Label4 = page.Note(publishHint, "Label4");
+    cmdCopyFiles = MakeButton(page, "cmdCopyFiles", u"&Publish >>", &PublishPanel::PublishFiles);
+    cmdManualCopy = MakeButton(page, "cmdManualCopy", u"C&opy >>", &PublishPanel::CopyByHand);
+    cmdDoneCopying =
+        MakeButton(page, "cmdDoneCopying", u"&Done Copying", &PublishPanel::CopyingDone);
+    page.Buttons({cmdCopyFiles, cmdManualCopy, cmdDoneCopying});
+    picCopyThenPreview = new QWidget(this);
     picCopyThenPreview->setObjectName(QStringLiteral("picCopyThenPreview"));
-    auto* previewButtons = new QHBoxLayout(picCopyThenPreview);
-    previewButtons->setContentsMargins({});
-    previewButtons->addWidget(
-        MakeButton("cmdManualCopyForPreview", "C&opy >>", &PublishPanel::CopyByHand));
-    previewButtons->addWidget(
-        MakeButton("cmdPreviewAfterCopying", "Click to Pre&view", &PublishPanel::PreviewWanted));
-    buttons->addWidget(picCopyThenPreview);
-    buttons->addStretch(1);
-    all->addLayout(buttons);
+    PageBuilder forPreview(picCopyThenPreview);
+    picCopyThenPreview->layout()->setContentsMargins({});
+    cmdManualCopyForPreview =
+        MakeButton(forPreview, "cmdManualCopyForPreview", u"C&opy >>", &PublishPanel::CopyByHand);
+    cmdPreviewAfterCopying = MakeButton(forPreview, "cmdPreviewAfterCopying", u"Click to Pre&view",
+                                        &PublishPanel::PreviewWanted);
+    forPreview.Buttons({cmdManualCopyForPreview, cmdPreviewAfterCopying});
+    page.Row({}, {picCopyThenPreview});
 }
 
-QWidget* PublishPanel::MakeFromSide()
+QWidget* PublishPanel::MakeFromSide(QWidget* all)
 {
-    m_from = new FolderBoxes(m_desk.Files,
-                             {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"},
-                             u"*.*");
+    auto* side = new QWidget(all);
+    m_from = new FolderBoxes(m_desk.Files, {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"}, u"*.*",
+                             side);
     m_from->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    auto* side = new QWidget;
     AddBoxes(MakeColumn(side), u"Copy from:", m_from);
     return side;
 }
 
-QWidget* PublishPanel::MakeToSide()
+QWidget* PublishPanel::MakeToSide(QWidget* all)
 {
-    auto* side = new QWidget;
-    m_to = new FolderBoxes(
-        m_desk.Files,
-        {"driveCopyTo", "dirCopyTo", "fileCopyTo"},
-        u"*.*");
-    cmdNewFolder = MakeButton("cmdNewFolder", "Ne&w Folder...", &PublishPanel::MakeFolder);
+    auto* side = new QWidget(all);
+    m_to = new FolderBoxes(m_desk.Files, {"driveCopyTo", "dirCopyTo", "fileCopyTo"}, u"*.*", side);
+    GoTo(m_desk.ProgramFolder);
     QVBoxLayout* column = MakeColumn(side);
     AddBoxes(column, u"Copy to:", m_to);
-    column->addWidget(cmdNewFolder, 0, Qt::AlignLeft);
+    PageBuilder below(new QWidget(side));
+    below.Page()->layout()->setContentsMargins({});
+    column->addWidget(below.Page());
+    below.Buttons(
+        {MakeButton(below, "cmdNewFolder", u"Ne&w Folder...", &PublishPanel::MakeFolder)});
     return side;
 }
 
-QWidget* PublishPanel::MakeMissingSide()
+QWidget* PublishPanel::MakeMissingSide(QWidget* all)
 {
-    m_missingSide = new QWidget;
-    QVBoxLayout* column = MakeColumn(m_missingSide);
-    auto* caption = new QLabel(ToQt(missingFilesLabel));
-    lstMissingFiles = new QListWidget;
-    lstMissingFiles->setObjectName(QStringLiteral("lstMissingFiles"));
+    m_missingSide = new QWidget(all);
+    PageBuilder side(m_missingSide);
+    m_missingSide->layout()->setContentsMargins({});
+    lstMissingFiles = side.ListBox("lstMissingFiles", missingFilesLabel, {});
     lstMissingFiles->setAccessibleName(QStringLiteral("Missing Files"));
-    caption->setBuddy(lstMissingFiles);
-    column->addWidget(caption);
-    column->addWidget(lstMissingFiles, 1);
     return m_missingSide;
 }
 
-QPushButton* PublishPanel::MakeButton(const char* name, const char* caption,
+QPushButton* PublishPanel::MakeButton(PageBuilder& page, ControlName name, TextView caption,
                                       void (PublishPanel::*action)())
 {
-    auto* button = new QPushButton(QLatin1String(caption));
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);
+    QPushButton* button = page.Button(name, caption);
     connect(button, &QPushButton::clicked, this, action);
     return button;
 }
@@ -119,9 +112,13 @@ QPushButton* PublishPanel::MakeButton(const char* name, const char* caption,
 void PublishPanel::Begin()
 {
     m_missing.clear();
-    lstMissingFiles->clear();
     m_to->Refresh();
     Show(PublishMode::Publish);
+}
+
+void PublishPanel::GoTo(TextView folder)
+{
+    m_to->GoTo(folder);
 }
 
 void PublishPanel::FindMissing(PublishMode mode, const MissingFiles& missing, TextView toFolder)
@@ -129,14 +126,34 @@ void PublishPanel::FindMissing(PublishMode mode, const MissingFiles& missing, Te
     m_missing = missing;
     m_toFolder = toFolder;
     m_to->GoTo(toFolder);
+    Show(mode);
+    m_from->FolderBox()->setFocus();
+}
+
+QPushButton* PublishPanel::Action() const
+{
+    switch (m_mode) {
+    case PublishMode::MissingInFolder:
+        return m_missing.empty() ? cmdDoneCopying : cmdManualCopy;
+    case PublishMode::MissingForPreview:
+        return m_missing.empty() ? cmdPreviewAfterCopying : cmdManualCopyForPreview;
+    case PublishMode::Publish:
+        break;
+    }
+    return m_isPublished ? nullptr : cmdCopyFiles;
+}
+
+void PublishPanel::ShowMissing()
+{
     lstMissingFiles->clear();
     for (const Text& name : m_missing)
         lstMissingFiles->addItem(ToQt(name));
-    Show(mode);
+    emit ActionChanged();
 }
 
 void PublishPanel::Show(PublishMode mode)
 {
+    m_mode = mode;
     const PublishControls controls = ControlsOf(mode);
     m_from->parentWidget()->setVisible(controls.FromBoxes);
     m_to->parentWidget()->setVisible(controls.ToBoxes);
@@ -147,6 +164,7 @@ void PublishPanel::Show(PublishMode mode)
     cmdDoneCopying->setVisible(controls.cmdDoneCopying);
     picCopyThenPreview->setVisible(controls.picCopyThenPreview);
     emit ControlsChanged(controls);
+    ShowMissing();
 }
 
 void PublishPanel::PublishFiles()
@@ -157,18 +175,22 @@ void PublishPanel::PublishFiles()
     if (const Fault* fault = FaultIn(copied))
         m_desk.Dialogs.Say(Words(*fault));
     else if (!ValueIn(copied).empty())
-        FindMissing(PublishMode::MissingFiles, ValueIn(copied), folder);
+        FindMissing(PublishMode::MissingInFolder, ValueIn(copied), folder);
+    else if (!std::exchange(m_isPublished, true))
+        emit ActionChanged();
 }
 
 void PublishPanel::CopyByHand()
 {
-    const bool isForPreview = picCopyThenPreview->isVisibleTo(this);
+    const bool isForPreview = m_mode == PublishMode::MissingForPreview;
     const Text folder = isForPreview ? m_toFolder : m_to->Folder();
-    ManualCopy(m_desk, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
+    CopyDesk desk = m_desk;
+    // What the preview needs is delivered to nobody.
+    if (isForPreview)
+        desk.Report = nullptr;
+    ManualCopy(desk, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
     m_to->Refresh();
-    lstMissingFiles->clear();
-    for (const Text& name : m_missing)
-        lstMissingFiles->addItem(ToQt(name));
+    ShowMissing();
 }
 
 void PublishPanel::MakeFolder()

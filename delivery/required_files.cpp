@@ -69,32 +69,46 @@ bool IsMissing(Fault fault)
            fault == Fault::PathFileAccess;
 }
 
+void WriteDownCopied(const CopyDesk& desk, TextView folder, TextView name)
+{
+    if (desk.Report != nullptr)
+        desk.Report->FileCopied(folder, name);
+}
+
+/// The name goes to the missing ones.
+Done Miss(const CopyDesk& desk, TextView folder, TextView name, MissingFiles& missing)
+{
+    missing.emplace_back(name);
+    if (desk.Report != nullptr)
+        desk.Report->FileMissing(folder, name);
+    return {};
+}
+
 /// Copies a file; one that cannot be copied goes to the missing ones, any other fault comes back.
-Done CopyOrMiss(FileStore& files, TextView name, TextView source, TextView destination,
+Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView source,
                 MissingFiles& missing)
 {
-    const Done done = files.Copy(source, destination);
+    const Done done = desk.Files.Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
-    if (!fault || !IsMissing(*fault))
-        return done;
-    missing.emplace_back(name);
-    return {};
+    if (!fault)
+        WriteDownCopied(desk, folder, name);
+    else if (IsMissing(*fault))
+        return Miss(desk, folder, name, missing);
+    return done;
 }
 
 Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextView source,
                     MissingFiles& missing)
 {
-    if (source.empty()) {
-        missing.emplace_back(name);
-        return {};
-    }
+    if (source.empty())
+        return Miss(desk, folder, name, missing);
     const Text destination = Join({folder, name});
     if (desk.Files.FileExists(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
         if (EqualIgnoringCase(destination, source) || !MayOverwrite(desk.Dialogs, name))
             return {};
     }
-    return CopyOrMiss(desk.Files, name, source, destination, missing);
+    return CopyOrMiss(desk, folder, name, source, missing);
 }
 
 Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing)
@@ -104,8 +118,7 @@ Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing
     for (const Text& name : desk.Payload.Effect.SupportFiles) {
         if (name.empty())
             continue;
-        const Done done = CopyOrMiss(desk.Files, name, PathIn(desk.ProgramFolder, name),
-                                     Join({folder, name}), missing);
+        const Done done = CopyOrMiss(desk, folder, name, PathIn(desk.ProgramFolder, name), missing);
         if (FaultIn(done))
             return done;
     }
@@ -135,6 +148,7 @@ bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, 
         desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
         return false;
     }
+    WriteDownCopied(desk, toFolder, name);
     return true;
 }
 
@@ -230,6 +244,7 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         const Done done = desk.Files.Replace(page, NewPageBytes(desk.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
+        WriteDownCopied(desk, target, u"ovtemp.html");
     }
     return CopyRequiredFiles(desk, target);
 }

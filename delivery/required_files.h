@@ -4,6 +4,7 @@
 #include "core/fault.h"
 #include "core/file_store.h"
 #include "core/payload.h"
+#include "delivery/delivery_report.h"
 
 #include <vector>
 
@@ -20,6 +21,7 @@ struct CopyDesk
     TextView ProgramFolder;
     FileStore& Files;
     orvane::Dialogs& Dialogs;
+    DeliveryReport* Report = nullptr; ///< where it is written down what was copied; may be null
 };
 
 /// What `lstFilesToUpload` holds from the start: the files that the effect always needs.

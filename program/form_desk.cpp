@@ -109,12 +109,12 @@ void FormDesk::OpenEffect(const EffectCommand& command)
         if (!payload)
             return;
         m_bench.Core.Payload = *payload;
-        if (ShowPreview(*payload) == DeliveryEnd::Finished)
+        if (ShowPreview(*payload, *wizard) == DeliveryEnd::Finished)
             return;
     }
 }
 
-DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload)
+DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wizard)
 {
     std::unique_ptr<PreviewForm> preview;
     const PreviewWindows windows{
@@ -128,6 +128,8 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload)
     };
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
+    if (preview->WasDelivered())
+        wizard.DropDraft();
     return preview->End();
 }
 

@@ -52,7 +52,7 @@ signals:
 
 private:
     void ShowModally(QDialog& window);
-    DeliveryEnd ShowPreview(const EffectPayload& payload);
+    DeliveryEnd ShowPreview(const EffectPayload& payload, WizardForm& wizard);
     void ShowOptions(QWidget* parent);
     void ShowMainForm();
 

@@ -1,11 +1,10 @@
 #include "reedit/edit_applet_form.h"
 
 #include "reedit/applet_tag.h"
+#include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
-#include "windows/qt_text.h"
 
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -50,10 +49,12 @@ void EditAppletForm::AddPastePanel()
     panel.Note(u"Paste the HTML code of the applet into the text box below and click the \"Edit\" "
                u"button to edit the applet.  The code must begin with the \"<APPLET>\" tag and end "
                u"with the \"</APPLET>\" tag.");
-    Text1 = new QPlainTextEdit;
+    Text1 = new MultiLineBox;
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setAccessibleName(QStringLiteral("HTML code of the applet"));
     Text1->setTabChangesFocus(true);
+    connect(Text1, &MultiLineBox::TooLarge, this,
+            [this] { m_bench.Dialogs.Say(pastedTagTooLarge); });
     panel.Fill(Text1);
     QPushButton* edit = panel.Button("cmdEdit", u"&Edit");
     connect(edit, &QPushButton::clicked, this, &EditAppletForm::Edit);
@@ -95,7 +96,7 @@ void EditAppletForm::Edit()
 {
     OrvaneCore& core = m_bench.Core;
     core.EditMode = true;
-    core.PastedApplet = FromQtLines(Text1->toPlainText());
+    core.PastedApplet = Text1->Words();
     const AppletLetters letters = LettersBehindCode(core.PastedApplet);
     core.AppletTextAfterCODE = letters.AppletTextAfterCODE;
     core.AppletText = letters.AppletText;

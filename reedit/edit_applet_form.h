@@ -6,12 +6,12 @@
 
 #include <array>
 
-class QPlainTextEdit;
 class QRadioButton;
 class QStackedWidget;
 
 namespace orvane {
 
+class MultiLineBox;
 class PageBuilder;
 
 /// The window into which the author pastes an applet tag to edit its effect again. It closes with
@@ -37,7 +37,7 @@ private:
     Workbench& m_bench;
     EffectKind m_wanted = EffectKind::None;
     QStackedWidget* m_panels;
-    QPlainTextEdit* Text1 = nullptr;
+    MultiLineBox* Text1 = nullptr;
     std::array<QRadioButton*, 3> m_choices{};
 };
 

@@ -2,6 +2,7 @@
 
 #include "windows/color_swatch.h"
 #include "windows/image_list_panel.h"
+#include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 #include "windows/row_list_panel.h"
@@ -9,7 +10,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSlider>
 
@@ -68,8 +68,8 @@ Text TextOf(const QWidget& control)
         return swatch->Value();
     if (const auto* line = qobject_cast<const QLineEdit*>(&control))
         return FromQt(line->text());
-    if (const auto* box = qobject_cast<const QPlainTextEdit*>(&control))
-        return FromQtLines(box->toPlainText());
+    if (const auto* box = qobject_cast<const MultiLineBox*>(&control))
+        return box->Words();
     if (const auto* combo = qobject_cast<const QComboBox*>(&control))
         return FromQt(combo->currentText());
     if (const auto* list = qobject_cast<const QListWidget*>(&control)) {
@@ -86,8 +86,8 @@ void SetText(QWidget& control, TextView text)
         swatch->SetValue(text);
     else if (auto* line = qobject_cast<QLineEdit*>(&control))
         line->setText(ToQt(text));
-    else if (auto* box = qobject_cast<QPlainTextEdit*>(&control))
-        box->setPlainText(ToQtLines(text));
+    else if (auto* box = qobject_cast<MultiLineBox*>(&control))
+        box->SetWords(text);
     else if (auto* combo = qobject_cast<QComboBox*>(&control))
         SetComboText(*combo, text);
     else if (auto* list = qobject_cast<QListWidget*>(&control))

@@ -2,6 +2,7 @@
 
 #include "windows/color_swatch.h"
 #include "windows/font_boxes.h"
+#include "windows/multi_line_box.h"
 #include "windows/number_box.h"
 #include "windows/qt_text.h"
 
@@ -12,7 +13,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -103,9 +103,9 @@ QLineEdit* PageBuilder::TextBoxWithButton(ControlName name, TextView label, QPus
     return box;
 }
 
-QPlainTextEdit* PageBuilder::MultiLineBox(ControlName name, TextView label, TextView tip)
+orvane::MultiLineBox* PageBuilder::MultiLineBox(ControlName name, TextView label, TextView tip)
 {
-    auto* box = new QPlainTextEdit(m_page);
+    auto* box = new orvane::MultiLineBox(m_page);
     box->setTabChangesFocus(true);
     box->setMinimumHeight(4 * box->fontMetrics().lineSpacing());
     FieldRow(box, name, label, tip, nullptr);
@@ -263,9 +263,9 @@ QLineEdit* PageBuilder::HiddenText(ControlName name)
     return box;
 }
 
-QPlainTextEdit* PageBuilder::CodeBox(ControlName name, TextView accessibleName)
+orvane::MultiLineBox* PageBuilder::CodeBox(ControlName name, TextView accessibleName)
 {
-    auto* box = new QPlainTextEdit(m_page);
+    auto* box = new orvane::MultiLineBox(m_page);
     box->setObjectName(ToQt(name));
     box->setAccessibleName(ToQt(accessibleName));
     box->setReadOnly(true);

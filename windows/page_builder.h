@@ -17,7 +17,6 @@
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
-class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QSlider;
@@ -25,6 +24,7 @@ class QSlider;
 namespace orvane {
 
 class ColorSwatch;
+class MultiLineBox;
 class NumberBox;
 
 /// How far a slider goes, and how it moves.
@@ -53,7 +53,7 @@ public:
                                  TextView tip = {});
 
     /// A box for several lines; Tab leaves it.
-    QPlainTextEdit* MultiLineBox(ControlName name, TextView label, TextView tip = {});
+    orvane::MultiLineBox* MultiLineBox(ControlName name, TextView label, TextView tip = {});
 
     /// A file field that is filled by Browse alone unless the preferences unlock it.
     FileNameBox* LockedTextBox(ControlName name, TextView label, TextView tip = {});
@@ -101,7 +101,7 @@ public:
     QLineEdit* HiddenText(ControlName name);
 
     /// A read-only box of page code.
-    QPlainTextEdit* CodeBox(ControlName name, TextView accessibleName);
+    orvane::MultiLineBox* CodeBox(ControlName name, TextView accessibleName);
 
     /// A paragraph of words.
     QLabel* Note(TextView words, ControlName name = {});

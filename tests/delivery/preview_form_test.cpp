@@ -8,11 +8,13 @@
 #include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"
+#include "windows/qt_text.h"
 
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 
 namespace orvane {
 namespace {
@@ -25,6 +27,11 @@ protected:
     PreviewFormTest()
     {
         m_desk.Core.Payload = m_payload;
+        Open();
+    }
+
+    void Open()
+    {
         m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, PreviewWindows());
         m_form->show();
         LetRun();
@@ -39,6 +46,7 @@ protected:
     }
 
     void KnowEditor(TextView name) { m_desk.Settings.Put(u"Misc", u"HTMLEditor", name, u"Orvane"); }
+    Text KnownEditor() { return m_desk.Settings.Get(u"Misc", u"HTMLEditor", u"", u"Orvane"); }
 
     void ToMethodPage()
     {
@@ -46,8 +54,38 @@ protected:
         Click(*m_form, "cmdNext");
     }
 
+    void ToNewPage()
+    {
+        ToMethodPage();
+        Choose(2);
+        Click(*m_form, "cmdNext");
+        ASSERT_EQ(Heading(), u"Step 3: Create a new Web page");
+    }
+
+    /// Presses a key wherever the wizard left the focus.
+    void PressWhereItStands(Qt::Key key)
+    {
+        m_form->activateWindow();
+        QTest::keyClick(m_form->focusWidget(), key);
+        LetRun();
+    }
+
+    /// The page's controls in the order in which Tab reaches them from the first one.
+    std::vector<Text> TabStops(const char* first)
+    {
+        auto* start = Find<QWidget>(*m_form, first);
+        std::vector<Text> names;
+        QWidget* control = start;
+        do {
+            if (control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0)
+                names.push_back(FromQt(control->objectName()));
+            control = control->nextInFocusChain();
+        } while (control != start);
+        return names;
+    }
+
     FakeDesk m_desk;
-    EffectPayload m_payload = Generate(StatusBarTicker{u"Welcome to my page!"});
+    EffectPayload m_payload = Generate(StatusBarTicker{u"Welcome\u00A0to my\u2028page!"});
     std::unique_ptr<PreviewForm> m_form;
 };
 
@@ -66,9 +104,14 @@ TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
 {
     Click(*m_form, "cmdNext");
     EXPECT_EQ(Heading(), u"Step 2: Select your Web page Editor");
-    Find<QListWidget>(*m_form, "lstHTMLEditors")->setCurrentRow(3);
-    Click(*m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Settings.Get(u"Misc", u"HTMLEditor", u"", u"Orvane"), u"DreamWeaver");
+    PressWhereItStands(Qt::Key_Return);
+    EXPECT_EQ(Heading(), u"Step 3: Select Method for Inserting your Special Effect");
+    EXPECT_EQ(KnownEditor(), u"") << "a row that has the focus alone was not chosen";
+    Click(*m_form, "cmdPrevious");
+    PressWhereItStands(Qt::Key_Space);
+    PressWhereItStands(Qt::Key_Return);
+    EXPECT_EQ(Heading(), u"Step 3: Select Method for Inserting your Special Effect");
+    EXPECT_EQ(KnownEditor(), u"AOLPress");
     Click(*m_form, "cmdPrevious");
     EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
 }
@@ -76,10 +119,9 @@ TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
 TEST_F(PreviewFormTest, StoredEditorIsNotReplacedByTheSelection)
 {
     Find<QListWidget>(*m_form, "lstHTMLEditors")->setCurrentRow(3);
-    KnowEditor(u"FrontPage");
-    Click(*m_form, "cmdNext");
+    ToMethodPage();
     EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
-    EXPECT_EQ(m_desk.Settings.Get(u"Misc", u"HTMLEditor", u"", u"Orvane"), u"FrontPage");
+    EXPECT_EQ(KnownEditor(), u"Other");
 }
 
 TEST_F(PreviewFormTest, EveryPageIsAccessibleAndFits)
@@ -90,7 +132,10 @@ TEST_F(PreviewFormTest, EveryPageIsAccessibleAndFits)
         for (int page = 0; page < 4; ++page) {
             if (Find<QPushButton>(*m_form, "cmdNext")->isEnabled())
                 Click(*m_form, "cmdNext");
+            m_form->resize(640, 440);
+            LetRun();
             ExpectAccessible(*m_form);
+            EXPECT_EQ(m_form->size(), QSize(640, 440));
         }
         while (Heading() != u"Step 1: Preview your special effect")
             Click(*m_form, "cmdPrevious");
@@ -103,55 +148,71 @@ TEST_F(PreviewFormTest, PagesForAnExistingAndForANewPageShowTheirOwnControls)
     Click(*m_form, "cmdNext");
     EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
               u"1. Find your Web page using the browse button below.");
-    EXPECT_TRUE(Find<QWidget>(*m_form, "txtFileName")->isVisible());
-    EXPECT_FALSE(Find<QWidget>(*m_form, "cmdSaveWebPage")->isVisible());
+    EXPECT_EQ(TabStops("txtFileName"),
+              (std::vector<Text>{u"txtFileName", u"cmdBrowse", u"cmdAutoInsert", u"cmdHelp",
+                                 u"cmdPrevious", u"cmdNext", u"cmdCancel"}));
     Click(*m_form, "cmdPrevious");
     Choose(2);
     Click(*m_form, "cmdNext");
     EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
               u"1. Save your new Web page by pressing the 'Save as New Web page' button below.");
-    for (const char* name : {"txtFileName", "cmdBrowse", "cmdAutoInsert", "lblBackupFile",
-                             "lblAutoStep2", "lblAutoStep3"})
+    EXPECT_EQ(TabStops("cmdSaveWebPage"),
+              (std::vector<Text>{u"cmdSaveWebPage", u"cmdHelp", u"cmdPrevious", u"cmdNext",
+                                 u"cmdCancel"}));
+    for (const char* name : {"lblBackupFile", "lblAutoStep2", "lblAutoStep3"})
         EXPECT_FALSE(Find<QWidget>(*m_form, name)->isVisible()) << name;
 }
 
 TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
 {
-    ToMethodPage();
-    Choose(2);
-    Click(*m_form, "cmdNext");
-    m_desk.Dialogs.AnswerSaveFile(std::nullopt);
-    Click(*m_form, "cmdSaveWebPage");
-    EXPECT_EQ(Heading(), u"Step 3: Create a new Web page");
+    m_payload = Generate(StatusBarTicker{u"Welcome to my page!"});
+    m_form.reset();
+    Open();
+    ToNewPage();
     m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
     Click(*m_form, "cmdSaveWebPage");
     ExpectSameBytes(ExpectedBytes("status_bar_ticker_new_page.html"),
                     m_desk.Files.Contents.at(u"/site/index.html"));
     EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_EQ(ToQt(WordsOf(*m_form, "lblReport")).remove(QChar(0x200B)),
+              QStringLiteral("Web page with the special effect in /site/: index.html"));
+    Click(*m_form, "cmdOpenPage");
+    Click(*m_form, "cmdOpenFolder");
+    EXPECT_EQ(m_desk.Shell.Opened, (std::vector<Text>{u"/site/index.html", u"/site/"}));
     EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Done");
     EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdNext")->isEnabled());
-    Click(*m_form, "cmdCancel");
+    Click(*m_form, "cmdPrevious");
+    Click(*m_form, "cmdPrevious");
+    Click(*m_form, "cmdNext");
+    PressWhereItStands(Qt::Key_Return);
+    EXPECT_EQ(Heading(), u"Finished!") << "what is done leaves Enter to Next";
+    PressWhereItStands(Qt::Key_Return);
     EXPECT_FALSE(m_form->isVisible());
     EXPECT_EQ(m_form->End(), DeliveryEnd::Finished);
 }
 
-TEST_F(PreviewFormTest, EnterPressesTheButtonThatHasTheFocus)
+TEST_F(PreviewFormTest, EnterAllTheWayDoesTheWorkInsteadOfPassingIt)
 {
-    ToMethodPage();
-    Choose(2);
-    Click(*m_form, "cmdNext");
-    m_form->activateWindow();
+    ToNewPage();
     m_desk.Dialogs.AnswerSaveFile(std::nullopt);
-    Press(*Find<QPushButton>(*m_form, "cmdSaveWebPage"), Qt::Key_Return);
+    PressWhereItStands(Qt::Key_Return);
     EXPECT_EQ(m_desk.Dialogs.Requests.size(), 1u);
     EXPECT_EQ(Heading(), u"Step 3: Create a new Web page");
+    Click(*m_form, "cmdPrevious");
+    Choose(0);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("txtFileName"));
+    PressWhereItStands(Qt::Key_Return);
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u) << "the page's name is asked for";
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_TRUE(WordsOf(*m_form, "lblReport").starts_with(u"Nothing was delivered"));
+    EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdOpenFolder")->isVisible());
 }
 
 TEST_F(PreviewFormTest, FailedSaveSaysWhyAndStaysOnThePage)
 {
-    ToMethodPage();
-    Choose(2);
-    Click(*m_form, "cmdNext");
+    ToNewPage();
     m_desk.Files.FailOn(u"/full/p.html", Fault::DiskFull);
     m_desk.Dialogs.AnswerSaveFile(u"/full/p.html");
     Click(*m_form, "cmdSaveWebPage");
@@ -176,6 +237,8 @@ TEST_F(PreviewFormTest, CopyPutsTheExactCodeOnTheClipboard)
     EXPECT_EQ(m_desk.Clipboard.Content, u" onLoad=\"scrollit_r2l(99)\" ");
     Click(*m_form, "cmdNext");
     EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_EQ(WordsOf(*m_form, "lblReport"),
+              u"HTML code copied for you to paste: HEAD, BODY attribute");
 }
 
 TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
@@ -190,6 +253,7 @@ TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
     EXPECT_EQ(WordsOf(*m_form, "lblBackupFile"),
               u"A backup copy of your Web page will be created and stored as \"Backup of "
               u"index.html\"");
+    EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("cmdAutoInsert"));
     Type(*m_form, "txtFileName", u"x");
     EXPECT_EQ(WordsOf(*m_form, "txtFileName"), u"/site/index.html");
     EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);

@@ -4,6 +4,7 @@
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
+#include "windows/qt_text.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -16,27 +17,13 @@ using namespace orvane::testing;
 
 using Names = std::vector<Text>;
 
-constexpr TextView notAllCopied =
-    u"Orvane couldn't copy all the necessary files to the specified folder.\r\n"
-    u"Use the file list on the left to find the missing files and click the 'Copy' button to copy "
-    u"them.";
-constexpr TextView noPreview =
-    u"Orvane can't preview the special effect because it could not find the necessary files.\r\n"
-    u"Use the file list below to find the missing files and click the 'Copy' button to copy them "
-    u"to the Orvane folder.";
-constexpr TextView overwritePage =
-    u"ovtemp.html already exists in this folder.  This file contains HTML code that controls a "
-    u"Orvane special effect that you previously created.\r\n\r\n"
-    u"Do you wish to overwrite this with the new ovtemp.html file that controls the current "
-    u"special effect?";
-
 /// The delivery wizard of an animation with two pictures, on a disk where both were found once.
 class PublishPanelTest : public ::testing::Test
 {
 protected:
     PublishPanelTest()
     {
-        m_desk.Files.Folders = {u"/", u"/pics", u"/program", u"/site"};
+        m_desk.Files.Folders = {u"/", u"/pics", u"/program", u"/site", u"/web"};
         m_desk.Files.Contents = {{u"/pics/a.gif", "a"},
                                  {u"/pics/b.gif", "b"},
                                  {u"/pics/c.gif", "c"},
@@ -73,6 +60,7 @@ protected:
         Click(*m_form, "cmdNext");
         Click(*m_form, "cmdNext");
         ASSERT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
+        ASSERT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program"}));
     }
 
     /// The same, with b.gif no longer where it was and the author sent to look for it.
@@ -80,12 +68,29 @@ protected:
     {
         OpenPublishPage();
         m_desk.Files.Contents.erase(u"/pics/b.gif");
-        DoubleClickName("dirCopyTo", u"site");
-        Click(*m_form, "cmdCopyFiles");
-        ASSERT_EQ(m_desk.Dialogs.TakeSaid(), Names{Text(notAllCopied)});
+        GoTo(u"site");
+        PressEnter();
+        ASSERT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
         m_desk.Files.Contents[u"/pics/b.gif"] = "found";
         DoubleClickName("dirCopyFrom", u"pics");
     }
+
+    /// Of the target's folder boxes.
+    void GoTo(TextView folder)
+    {
+        DoubleClickName("dirCopyTo", u"/");
+        DoubleClickName("dirCopyTo", folder);
+    }
+
+    /// Presses Enter wherever the wizard left the focus.
+    void PressEnter()
+    {
+        m_form->activateWindow();
+        Press(*m_form->focusWidget(), Qt::Key_Return);
+        LetRun();
+    }
+
+    Text Focused() { return FromQt(m_form->focusWidget()->objectName()); }
 
     int RowOf(const char* box, TextView name)
     {
@@ -125,46 +130,32 @@ protected:
     std::unique_ptr<PreviewForm> m_form;
 };
 
-TEST_F(PublishPanelTest, PublishesTheBackupPageAndTheFilesToTheChosenFolder)
+TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
 {
     OpenPublishPage();
-    DoubleClickName("dirCopyTo", u"site");
-    Click(*m_form, "cmdCopyFiles");
-    EXPECT_EQ(
-        m_desk.Dialogs.TakeSaid(),
-        Names{u"All files have been copied to the /site/ folder.  Now you can easily upload these "
-              u"files to the Internet."});
-    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
-              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
-    EXPECT_NE(Bytes(u"/site/ovtemp.html").find("<B>moves</B>"), std::string::npos);
     ExpectShown({"driveCopyTo", "dirCopyTo", "fileCopyTo", "cmdNewFolder", "cmdCopyFiles", "Label4",
                  "cmdPrevious", "cmdNext"});
-    Click(*m_form, "cmdNext");
+    GoTo(u"site");
+    m_desk.Files.FailOn(u"/site/ovtemp.html", Fault::DiskFull);
+    EXPECT_EQ(Focused(), u"cmdCopyFiles");
+    PressEnter();
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Names{u"Disk full"});
+    EXPECT_EQ(Focused(), u"cmdCopyFiles");
+
+    GoTo(u"web");
+    PressEnter();
+    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
+              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
+    EXPECT_NE(Bytes(u"/web/ovtemp.html").find("<B>moves</B>"), std::string::npos);
+    PressEnter();
     EXPECT_EQ(Heading(), u"Finished!");
     EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"),
               (Names{u"Animate1.class", u"CoolTool3.class", u"a.gif", u"b.gif"}));
-}
-
-TEST_F(PublishPanelTest, AsksBeforeItReplacesABackupPage)
-{
-    OpenPublishPage();
-    m_desk.Files.Contents[u"/site/ovtemp.html"] = "old";
-    DoubleClickName("dirCopyTo", u"site");
-    m_desk.Dialogs.ExpectAsk(Text(overwritePage), false);
-    Click(*m_form, "cmdCopyFiles");
-    EXPECT_EQ(Bytes(u"/site/ovtemp.html"), "old");
-    EXPECT_EQ(Bytes(u"/site/a.gif"), "a");
-}
-
-TEST_F(PublishPanelTest, AFaultOfTheBackupPageIsSaidAndLeavesThePageAsItIs)
-{
-    OpenPublishPage();
-    DoubleClickName("dirCopyTo", u"site");
-    m_desk.Files.FailOn(u"/site/ovtemp.html", Fault::DiskFull);
-    Click(*m_form, "cmdCopyFiles");
-    EXPECT_EQ(m_desk.Dialogs.Said, Names{u"Disk full"});
-    EXPECT_TRUE(RowsOf(*m_form, "fileCopyTo").empty());
-    EXPECT_TRUE(IsShown("cmdCopyFiles"));
+    EXPECT_NE(WordsOf(*m_form, "lblReport").find(u"ovtemp.html, a.gif, b.gif, Animate1.class"),
+              Text::npos);
+    EXPECT_FALSE(IsShown("cmdOpenPage"));
+    Click(*m_form, "cmdOpenFolder");
+    EXPECT_EQ(m_desk.Shell.Opened, Names{u"/web/"});
 }
 
 TEST_F(PublishPanelTest, MissingFilesAreFoundAndCopiedByHand)
@@ -174,27 +165,9 @@ TEST_F(PublishPanelTest, MissingFilesAreFoundAndCopiedByHand)
                  "fileCopyTo", "cmdNewFolder", "lstMissingFiles", "cmdManualCopy",
                  "cmdDoneCopying"});
     ExpectAccessible(*m_form);
-    EXPECT_NE(Find<QWidget>(*m_form, "dirCopyFrom")->accessibleName(),
-              Find<QWidget>(*m_form, "dirCopyTo")->accessibleName());
     EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Names{u"b.gif"});
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdManualCopy")->isDefault());
 
-    Click(*m_form, "cmdManualCopy");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              Names{u"Select a file from the list and then click the 'Copy' button"});
-
-    ClickName("fileCopyFrom", u"b.gif");
-    Click(*m_form, "cmdManualCopy");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              Names{u"The following files were successfully copied:\r\n\r\nb.gif, "});
-    EXPECT_EQ(Bytes(u"/site/b.gif"), "found");
-    EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
-    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
-              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
-}
-
-TEST_F(PublishPanelTest, CopyingByHandTakesAllSelectedFilesAndAsksBeforeItOverwrites)
-{
-    OpenWithoutB();
     Find<QListWidget>(*m_form, "fileCopyFrom")->selectAll();
     m_desk.Files.Contents[u"/pics/a.gif"] = "other";
     m_desk.Dialogs.ExpectAsk(u"a.gif already exists in this folder.  Do you wish to overwrite?",
@@ -203,7 +176,11 @@ TEST_F(PublishPanelTest, CopyingByHandTakesAllSelectedFilesAndAsksBeforeItOverwr
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
               Names{u"The following files were successfully copied:\r\n\r\nb.gif, c.gif, "});
     EXPECT_EQ(Bytes(u"/site/a.gif"), "a");
-    EXPECT_EQ(Bytes(u"/site/c.gif"), "c");
+    EXPECT_EQ(Bytes(u"/site/b.gif"), "found");
+    EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
+    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
+              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"c.gif", u"ovtemp.html"}));
+    EXPECT_EQ(Focused(), u"cmdDoneCopying");
 }
 
 TEST_F(PublishPanelTest, DoneCopyingShowsTheHeadCodeUnderTheLastHeading)
@@ -211,19 +188,16 @@ TEST_F(PublishPanelTest, DoneCopyingShowsTheHeadCodeUnderTheLastHeading)
     OpenWithoutB();
     Click(*m_form, "cmdDoneCopying");
     EXPECT_EQ(Heading(), u"Finished!");
-    EXPECT_EQ(WordsOf(*m_form, "lblSubHeading"),
-              u"You have completed your Orvane special effect!  Click the 'Done' button below to "
-              u"return to the Main Menu to create a new special effect.");
     EXPECT_TRUE(IsShown("txtHEADHTML"));
     EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Done");
+    EXPECT_EQ(Focused(), u"cmdCancel");
     EXPECT_TRUE(IsShown("cmdNext"));
     EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdNext")->isEnabled());
     Click(*m_form, "cmdPrevious");
     EXPECT_EQ(Heading(), u"Step 3: Insert BODY HTML code into your Web page");
     EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Cancel");
     Click(*m_form, "cmdNext");
-    ExpectShown({"driveCopyTo", "dirCopyTo", "fileCopyTo", "cmdNewFolder", "cmdCopyFiles", "Label4",
-                 "cmdPrevious", "cmdNext"});
+    EXPECT_TRUE(IsShown("cmdCopyFiles"));
     EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
 }
 
@@ -231,8 +205,7 @@ TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
 {
     m_payload.Required.Sources[1] = u"";
     Open();
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Names{Text(noPreview)});
-    EXPECT_EQ(m_desk.Dialogs.LastTone, Tone::Exclamation);
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
     EXPECT_EQ(Heading(), u"Missing Required Files for Preview");
     EXPECT_EQ(
         WordsOf(*m_form, "lblSubHeading"),
@@ -250,11 +223,10 @@ TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
     EXPECT_EQ(Bytes(u"/program/b.gif"), "b");
     EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
 
-    EXPECT_EQ(WordsOf(*m_form, "cmdPreviewAfterCopying"), u"Click to Pre&view");
-    Click(*m_form, "cmdPreviewAfterCopying");
+    PressEnter();
     EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
     EXPECT_EQ(m_desk.Pane.Navigated, Names{u"/program/ov-prvw.htm"});
-    Click(*m_form, "cmdNext");
+    PressEnter();
     EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
     EXPECT_TRUE(IsShown("cmdPrevious"));
 }
@@ -262,16 +234,15 @@ TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
 TEST_F(PublishPanelTest, GoesToTheFolderThatTheAuthorMade)
 {
     OpenPublishPage();
-    DoubleClickName("dirCopyTo", u"site");
     Click(*m_form, "cmdNewFolder");
-    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site"}));
-    m_desk.Files.Folders.insert(u"/site/new");
-    m_newFolder = u"/site/new";
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program"}));
+    m_desk.Files.Folders.insert(u"/program/new");
+    m_newFolder = u"/program/new";
     Click(*m_form, "cmdNewFolder");
-    EXPECT_EQ(m_askedFor, (Names{u"/site", u"/site"}));
-    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site", u"new"}));
+    EXPECT_EQ(m_askedFor, (Names{u"/program", u"/program"}));
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program", u"new"}));
     Click(*m_form, "cmdCopyFiles");
-    EXPECT_EQ(Bytes(u"/site/new/a.gif"), "a");
+    EXPECT_EQ(Bytes(u"/program/new/a.gif"), "a");
 }
 
 TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolder)
@@ -283,12 +254,10 @@ TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolde
     m_desk.Files.Contents.erase(u"/pics/b.gif");
     m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
     Click(*m_form, "cmdSaveWebPage");
-    EXPECT_EQ(m_desk.Dialogs.Said, Names{Text(notAllCopied)});
     EXPECT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
     EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site"}));
-    EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"), (Names{u"a.gif", u"Animate1.class", u"index.html"}));
-    ExpectShown({"driveCopyTo", "dirCopyTo", "fileCopyTo", "cmdNewFolder", "cmdCopyFiles", "Label4",
-                 "cmdPrevious", "cmdNext"});
+    EXPECT_TRUE(IsShown("cmdCopyFiles"));
+    EXPECT_EQ(Focused(), u"cmdCopyFiles");
 }
 
 } // namespace

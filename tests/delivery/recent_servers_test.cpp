@@ -17,23 +17,17 @@ Text Listing(const FakeSettings& settings)
     return listing;
 }
 
-TEST(RecentServersTest, PutsTheNewestFirstAndDropsTheOldest)
+TEST(RecentServersTest, PutsTheNewestFirstAndLeavesAListedOneWhereItIs)
 {
     FakeSettings settings;
     for (TextView name : {u"a", u"b", u"c", u"d", u"e", u"f"})
         PutRecentFTP(settings, name, Join({name, name}));
+    PutRecentFTP(settings, u"c", u"carl");
     EXPECT_EQ(Listing(settings), u"f=ff e=ee d=dd c=cc b=bb ");
-}
-
-TEST(RecentServersTest, LeavesAListedServerWhereItIsAndTellsCasesApart)
-{
-    FakeSettings settings;
-    PutRecentFTP(settings, u"host", u"ann");
-    PutRecentFTP(settings, u"other", u"bob");
-    PutRecentFTP(settings, u"host", u"carl");
-    EXPECT_EQ(Listing(settings), u"other=bob host=ann = = = ");
-    PutRecentFTP(settings, u"Host", u"carl");
-    EXPECT_EQ(Listing(settings), u"Host=carl other=bob host=ann = = ");
+    PutRecentFTP(settings, u"C", u"carl");
+    EXPECT_EQ(Listing(settings), u"C=carl f=ff e=ee d=dd c=cc ");
+    EXPECT_EQ(UsernameFor(settings, u"c"), u"cc");
+    EXPECT_EQ(UsernameFor(settings, u"E"), std::nullopt);
 }
 
 TEST(RecentServersTest, StoresAnEmptyNameOnlyWhenNoSlotIsEmpty)
@@ -54,15 +48,6 @@ TEST(RecentServersTest, ShowsTheFirstSlotAndListsTheFilledOnes)
     settings.Put(u"FTP", u"Server2", u"b", u"Orvane");
     settings.Put(u"FTP", u"Server5", u"e", u"Orvane");
     EXPECT_EQ(GetRecentFTP(settings), (RecentServers{{u"b", u"e"}, u"", u"nobody"}));
-}
-
-TEST(RecentServersTest, FindsTheUserNameOfAServer)
-{
-    FakeSettings settings;
-    PutRecentFTP(settings, u"host", u"ann");
-    PutRecentFTP(settings, u"other", u"bob");
-    EXPECT_EQ(UsernameFor(settings, u"host"), u"ann");
-    EXPECT_EQ(UsernameFor(settings, u"HOST"), std::nullopt);
 }
 
 } // namespace

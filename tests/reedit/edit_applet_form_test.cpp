@@ -5,10 +5,11 @@
 #include "program/ov_main_form.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
+#include "windows/multi_line_box.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QPlainTextEdit>
+#include <QClipboard>
 
 namespace orvane {
 namespace {
@@ -17,7 +18,8 @@ using namespace orvane::testing;
 
 void Paste(EditAppletForm& form, const char* tag)
 {
-    Find<QPlainTextEdit>(form, "Text1")->setPlainText(QString::fromUtf8(tag));
+    QApplication::clipboard()->setText(QString::fromUtf8(tag));
+    Find<MultiLineBox>(form, "Text1")->paste();
 }
 
 class EditAppletFormTest : public ::testing::Test
@@ -49,22 +51,14 @@ TEST_F(EditAppletFormTest, BothPanelsAreAccessible)
 
 TEST_F(EditAppletFormTest, AKnownAppletClosesTheWindowWithItsEffect)
 {
-    Edit("<APPLET CODE=\"Typewriter9.class\"\n WIDTH=\"1\">");
+    Edit("<APPLET CODE=\"Typewriter9.class\"\n ALT=\"a\u00A0b\u2028c\">");
     EXPECT_FALSE(m_form.isVisible());
     EXPECT_EQ(m_form.Wanted(), EffectKind::TypewriterText);
     EXPECT_TRUE(m_desk.Core.EditMode);
     EXPECT_EQ(m_desk.Core.AppletTextAfterCODE, u"\"Type");
     EXPECT_EQ(m_desk.Core.AppletText, u"\"Typewri");
-    EXPECT_EQ(m_desk.Core.PastedApplet, u"<APPLET CODE=\"Typewriter9.class\"\r\n WIDTH=\"1\">");
-}
-
-TEST_F(EditAppletFormTest, ClockClosesTheWindowWithoutAWord)
-{
-    Edit("CODE=Clock.class");
-    EXPECT_FALSE(m_form.isVisible());
-    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
-    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
-    EXPECT_TRUE(m_desk.Core.EditMode);
+    EXPECT_EQ(m_desk.Core.PastedApplet,
+              u"<APPLET CODE=\"Typewriter9.class\"\r\n ALT=\"a\u00A0b\u2028c\">");
 }
 
 TEST_F(EditAppletFormTest, AnUnknownTagIsRefused)
@@ -91,13 +85,14 @@ TEST_F(EditAppletFormTest, AnAnimationAsksForItsWizard)
     EXPECT_FALSE(m_form.isVisible());
 }
 
-TEST_F(EditAppletFormTest, CancelOfTheSecondPanelOpensNothing)
+TEST_F(EditAppletFormTest, ATagThatIsTooLargeIsRefused)
 {
-    Edit("<APPLET CODE=\"Animate1.class\">");
-    Click(m_form, "cmdCancel");
-    EXPECT_FALSE(m_form.isVisible());
-    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
-    EXPECT_TRUE(m_desk.Core.EditMode);
+    Paste(m_form, std::string(5 * 1024 * 1024, 'x').c_str());
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              std::vector<Text>{
+                  u"The pasted text is larger than 4 MB.  Please paste the code of the applet "
+                  u"alone, from the \"<APPLET>\" tag to the \"</APPLET>\" tag."});
+    EXPECT_EQ(WordsOf(m_form, "Text1"), u"");
 }
 
 TEST(EditAppletRoadTest, LeadsFromThePastedTagToTheFilledWizard)
@@ -122,17 +117,19 @@ TEST(EditAppletRoadTest, LeadsFromThePastedTagToTheFilledWizard)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST(EditAppletRoadTest, AnEffectWithoutAWizardOpensNothing)
+TEST(EditAppletRoadTest, AnAppletWithoutAWizardOpensNothing)
 {
     FakeDesk desk;
     FormDesk road(desk.Bench, nullptr);
     road.Start();
-    WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
-        Paste(form, "CODE=NavigatorTicker20.class");
-        Click(form, "cmdEdit");
-    });
-    road.EditApplet();
-    EXPECT_TRUE(desk.Core.EditMode);
+    for (const char* tag : {"CODE=NavigatorTicker20.class", "CODE=Clock.class"}) {
+        WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
+            Paste(form, tag);
+            Click(form, "cmdEdit");
+        });
+        road.EditApplet();
+        EXPECT_TRUE(desk.Core.EditMode);
+    }
     EXPECT_TRUE(desk.Dialogs.Said.empty());
 }
 

@@ -1,5 +1,6 @@
 #include "tests/support/qt_controls.h"
 
+#include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 
 #include <QAbstractButton>
@@ -8,7 +9,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QTimer>
 
 #include <set>
@@ -83,8 +83,8 @@ Text WordsOf(QWidget& window, const char* name)
         return FromQt(line->text());
     if (const auto* box = qobject_cast<QComboBox*>(control))
         return FromQt(box->currentText());
-    if (const auto* code = qobject_cast<QPlainTextEdit*>(control))
-        return FromQtLines(code->toPlainText());
+    if (const auto* code = qobject_cast<MultiLineBox*>(control))
+        return code->Words();
     return {};
 }
 

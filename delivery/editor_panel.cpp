@@ -1,0 +1,33 @@
+#include "delivery/editor_panel.h"
+
+#include "delivery/delivery_flow.h"
+#include "windows/folder_boxes.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
+
+namespace orvane {
+
+EditorPanel::EditorPanel() : lstHTMLEditors(new ActingList)
+{
+    lstHTMLEditors->setObjectName(QStringLiteral("lstHTMLEditors"));
+    lstHTMLEditors->setAccessibleName(QStringLiteral("Web page editors"));
+    for (const TextView editor : htmlEditors)
+        lstHTMLEditors->addItem(ToQt(editor));
+    PageBuilder(this).Fill(lstHTMLEditors);
+    connect(lstHTMLEditors, &QListWidget::itemDoubleClicked, this, &EditorPanel::EditorChosen);
+    connect(lstHTMLEditors, &ActingList::Entered, this, &EditorPanel::EditorChosen);
+}
+
+void EditorPanel::Begin()
+{
+    lstHTMLEditors->setFocus();
+}
+
+Text EditorPanel::Chosen() const
+{
+    // A row that only has the focus was not chosen.
+    const int row = lstHTMLEditors->SelectedRow();
+    return row < 0 ? Text() : Text(htmlEditors[static_cast<std::size_t>(row)]);
+}
+
+} // namespace orvane

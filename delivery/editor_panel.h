@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/text.h"
+
+#include <QWidget>
+
+namespace orvane {
+
+class ActingList;
+
+/// The delivery wizard's page on which the author chooses an editor for Web pages.
+class EditorPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    EditorPanel();
+
+    /// The page comes to the front.
+    void Begin();
+
+    /// The name of the chosen editor; empty when none is.
+    Text Chosen() const;
+
+signals:
+    /// A double click or Enter chose an editor.
+    void EditorChosen();
+
+private:
+    ActingList* lstHTMLEditors;
+};
+
+} // namespace orvane

@@ -1,0 +1,54 @@
+#include "delivery/finish_panel.h"
+
+#include "delivery/required_files.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
+
+#include <QListWidget>
+#include <QPushButton>
+
+#include <utility>
+
+namespace orvane {
+
+FinishPanel::FinishPanel(Workbench& bench, const FinishedPayload& payload,
+                         const DeliveryReport& report)
+    : m_payload(payload), m_report(report)
+{
+    PageBuilder page(this);
+    lblReport = page.Note({}, "lblReport");
+    cmdOpenPage = page.Button("cmdOpenPage", u"&Open page");
+    connect(cmdOpenPage, &QPushButton::clicked, this,
+            [this, &bench] { bench.Shell.OpenWithShell(m_report.Page()); });
+    cmdOpenFolder = page.Button("cmdOpenFolder", u"Open &folder");
+    connect(cmdOpenFolder, &QPushButton::clicked, this,
+            [this, &bench] { bench.Shell.OpenWithShell(m_report.Folder()); });
+    page.Buttons({cmdOpenPage, cmdOpenFolder});
+    lstFilesToUpload =
+        page.ListBox("lstFilesToUpload",
+                     u"If you wish to upload your special effect to the Web, you must "
+                     u"also upload the following files:",
+                     {});
+    for (const Text& name : FilesToUpload(payload))
+        lstFilesToUpload->addItem(ToQt(name));
+    auto* link = new LinkLabel("lblClickHere", u"click here.");
+    connect(link, &LinkLabel::Followed, this,
+            [&bench] { bench.Help.ShowTopic(help_topics::transfer); });
+    page.Row(u"If you need help transferring your special effect to the Web, ", {link});
+}
+
+void FinishPanel::Begin()
+{
+    QString lines;
+    for (const Text& line : m_report.Lines())
+        lines += (lines.isEmpty() ? QString() : QStringLiteral("\n")) + ToQt(line);
+    // Long paths go on in the next line.
+    lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
+    cmdOpenPage->setVisible(!m_report.Page().empty());
+    cmdOpenFolder->setVisible(!m_report.Folder().empty());
+    if (!std::exchange(m_filesListed, true))
+        for (const Text& name : ListedFiles(m_payload))
+            lstFilesToUpload->addItem(ToQt(name));
+}
+
+} // namespace orvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/workbench.h"
+#include "delivery/delivery_report.h"
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+namespace orvane {
+
+/// The delivery wizard's last page: what was done, and what is left for the author to do.
+class FinishPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FinishPanel(Workbench& bench, const FinishedPayload& payload, const DeliveryReport& report);
+
+    /// The page comes to the front.
+    void Begin();
+
+private:
+    const FinishedPayload& m_payload;
+    const DeliveryReport& m_report;
+    bool m_filesListed = false;
+    QLabel* lblReport;
+    QPushButton* cmdOpenPage;
+    QPushButton* cmdOpenFolder;
+    QListWidget* lstFilesToUpload;
+};
+
+} // namespace orvane

@@ -1,0 +1,32 @@
+#include "delivery/preview_panel.h"
+
+#include "windows/page_builder.h"
+
+#include <QPushButton>
+
+namespace orvane {
+
+PreviewPanel::PreviewPanel(QWidget* pane) : m_pane(pane)
+{
+    PageBuilder page(this);
+    page.Fill(pane);
+    if (pane != nullptr)
+        pane->show();
+    QPushButton* preview = page.Button("cmdPreview1", u"Preview in &Browser");
+    connect(preview, &QPushButton::clicked, this,
+            [this] { emit PreviewWanted(PreviewMode::Browser1); });
+    QPushButton* refresh = page.Button("cmdRefresh", u"&Refresh");
+    connect(refresh, &QPushButton::clicked, this,
+            [this] { emit PreviewWanted(PreviewMode::Inline); });
+    page.Buttons({preview, refresh});
+}
+
+PreviewPanel::~PreviewPanel()
+{
+    if (m_pane == nullptr)
+        return;
+    m_pane->hide();
+    m_pane->setParent(nullptr);
+}
+
+} // namespace orvane
