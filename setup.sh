@@ -4,8 +4,9 @@ run_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-webengine-dev qt6-wayland libqt6svg6 libqt6webenginecore6-bin
     libgl-dev libgtest-dev libbenchmark-dev xdg-utils fonts-dejavu-core
+    openjdk-17-jdk-headless
 )
-test_packages=(clang-format)
+test_packages=(clang-format openjdk-17-jre xvfb xauth)
 
 # Installs the packages that are missing, as root or by sudo; a machine that has all is not asked.
 install_packages() {
@@ -39,5 +40,5 @@ build() {
 
 # Every source stands as the formatter leaves it.
 format_check() {
-    git ls-files -- '*.cpp' '*.h' '*.cc' | xargs -r clang-format --dry-run --Werror
+    git ls-files -- '*.cpp' '*.h' '*.cc' '*.java' | xargs -r clang-format --dry-run --Werror
 }

@@ -1,0 +1,375 @@
+import java.applet.Applet;
+import java.awt.Color;
+import java.awt.Cursor;
+import java.awt.Font;
+import java.awt.FontMetrics;
+import java.awt.Graphics;
+import java.awt.Graphics2D;
+import java.awt.Image;
+import java.awt.MediaTracker;
+import java.awt.event.MouseEvent;
+import java.awt.event.MouseListener;
+import java.awt.event.MouseMotionListener;
+import java.awt.image.BufferedImage;
+import java.awt.image.DataBufferInt;
+import java.net.MalformedURLException;
+import java.net.URL;
+import java.util.ArrayList;
+import java.util.List;
+import java.util.function.LongSupplier;
+
+/**
+ * What every applet needs around its picture: parameters, images, a buffer, one thread that sleeps
+ * until the picture changes, the link, and words for what is missing. A page gets the class files
+ * that its wizard lists and no others, so the build makes each applet's companion of this class, or
+ * puts it into the applet itself where that has none.
+ */
+abstract class Stage extends Applet implements Runnable, MouseListener, MouseMotionListener {
+    /** What {@link #draw} gives when the picture stays as it is. */
+    static final long NEVER = Long.MAX_VALUE / 4;
+    private static final long NOT_YET = -1;
+
+    /** The time in milliseconds; tests put a clock here that they turn themselves. */
+    static LongSupplier clock = System::currentTimeMillis;
+
+    /** What is wrong with the whole applet, in plain words; shown instead of the picture. */
+    String problem;
+    /** Where a click leads at this moment, or null. */
+    String link;
+    /** The frame that links open in, or null for the page's own window. */
+    String target;
+    Color background = Color.white;
+    int areaWidth;
+    int areaHeight;
+    /** The picture's time at the last click, and at the last move of the pointer; -1 before. */
+    long clickedAt;
+    long movedAt;
+
+    private Thread thread;
+    private BufferedImage buffer;
+    private long startedAt;
+    private long changeAt;
+
+    /** Reads the parameters and waits for the images; runs in the applet's own thread. */
+    abstract void prepare() throws InterruptedException;
+
+    /** Draws the picture of this time; gives the milliseconds until it changes, or NEVER. */
+    abstract long draw(Graphics2D g, long time);
+
+    @Override
+    public void init() {
+        addMouseListener(this);
+        addMouseMotionListener(this);
+    }
+
+    @Override
+    public synchronized void start() {
+        startedAt = clickedAt = movedAt = NOT_YET;
+        changeAt = NEVER;
+        problem = link = null;
+        buffer = null;
+        areaWidth = Math.max(1, getWidth());
+        areaHeight = Math.max(1, getHeight());
+        thread = new Thread(this, getClass().getName());
+        thread.setDaemon(true);
+        thread.start();
+    }
+
+    @Override
+    public synchronized void stop() {
+        if (thread != null)
+            thread.interrupt();
+        thread = null;
+        startedAt = NOT_YET;
+    }
+
+    @Override
+    public void run() {
+        try {
+            prepare();
+            if (!begin())
+                return;
+            while (sleepUntilChange())
+                repaint();
+        } catch (InterruptedException pageHasGone) {
+            return;
+        }
+    }
+
+    private boolean ownThread() {
+        return Thread.currentThread() == thread;
+    }
+
+    private synchronized boolean begin() {
+        if (!ownThread())
+            return false;
+        startedAt = changeAt = clock.getAsLong();
+        return true;
+    }
+
+    /** False when the page has gone. Painting sets the time of the next change and wakes it. */
+    private synchronized boolean sleepUntilChange() throws InterruptedException {
+        while (ownThread()) {
+            long left = changeAt - clock.getAsLong();
+            if (left <= 0) {
+                changeAt = NEVER;
+                return true;
+            }
+            wait(Math.min(left, 60000));
+        }
+        return false;
+    }
+
+    /** True while time runs: every image has come or failed, and the page is shown. */
+    synchronized boolean started() {
+        return startedAt != NOT_YET;
+    }
+
+    @Override
+    public void update(Graphics g) {
+        paint(g);
+    }
+
+    @Override
+    public synchronized void paint(Graphics g) {
+        if (started())
+            compose();
+        if (buffer != null) {
+            g.drawImage(buffer, 0, 0, null);
+        } else {
+            g.setColor(background);
+            g.fillRect(0, 0, areaWidth, areaHeight);
+        }
+    }
+
+    private void compose() {
+        if (buffer == null)
+            buffer = blank(areaWidth, areaHeight);
+        Graphics2D g = buffer.createGraphics();
+        long now = clock.getAsLong();
+        if (problem == null) {
+            changeAt = now + draw(g, now - startedAt);
+        } else {
+            say(g, problem);
+            changeAt = NEVER;
+        }
+        g.dispose();
+        int shape = link == null ? Cursor.DEFAULT_CURSOR : Cursor.HAND_CURSOR;
+        if (getCursor().getType() != shape)
+            setCursor(Cursor.getPredefinedCursor(shape));
+        notifyAll();
+    }
+
+    /** The value of a parameter without blanks around it; null when it is missing. */
+    String value(String name) {
+        String value = getParameter(name);
+        return value == null || value.trim().isEmpty() ? null : value.trim();
+    }
+
+    /** The whole number that the parameter begins with, else `missing`. */
+    int number(String name, int missing) {
+        return leadingNumber(value(name), missing);
+    }
+
+    /** The whole number that a text begins with, kept within a million; else `missing`. */
+    static int leadingNumber(String text, int missing) {
+        String digits = text == null ? "" : text.trim().replaceFirst("^([+-]?\\d{0,9}).*$", "$1");
+        try {
+            return Math.max(-1000000, Math.min(1000000, Integer.parseInt(digits)));
+        } catch (NumberFormatException noNumber) {
+            return missing;
+        }
+    }
+
+    /** The colour of a parameter "r,g,b", else `missing`. */
+    Color color(String name, Color missing) {
+        String value = value(name);
+        String[] channels = value == null ? new String[0] : value.split(",");
+        if (channels.length < 3)
+            return missing;
+        int[] rgb = new int[3];
+        for (int i = 0; i < 3; i++) {
+            if (leadingNumber(channels[i], 0) != leadingNumber(channels[i], 1))
+                return missing;
+            rgb[i] = channel(leadingNumber(channels[i], 0));
+        }
+        return new Color(rgb[0], rgb[1], rgb[2]);
+    }
+
+    static int channel(int value) {
+        return Math.max(0, Math.min(255, value));
+    }
+
+    /** The values of NAME.0, NAME.1, ... up to the first that is missing. */
+    List<String> values(String name) {
+        List<String> values = new ArrayList<>();
+        for (String value; (value = value(name + "." + values.size())) != null;)
+            values.add(value);
+        return values;
+    }
+
+    /** The link of a parameter, or null when there is none. */
+    String linkIn(String parameter) {
+        String value = value(parameter);
+        return "null".equals(value) ? null : value;
+    }
+
+    /** A file beside the page; null when there is no address of this name. */
+    URL address(String name) {
+        try {
+            return new URL(getDocumentBase(), name);
+        } catch (MalformedURLException noAddress) {
+            return null;
+        }
+    }
+
+    /** An image on the background colour, as soon as it has come; null when it cannot be loaded. */
+    BufferedImage image(String name) throws InterruptedException {
+        if (address(name) == null)
+            return null;
+        Image loaded = getImage(address(name));
+        MediaTracker tracker = new MediaTracker(this);
+        tracker.addImage(loaded, 0);
+        tracker.waitForAll();
+        if (tracker.isErrorAny() || loaded.getWidth(null) < 1)
+            return null;
+        BufferedImage image = blank(loaded.getWidth(null), loaded.getHeight(null));
+        image.getGraphics().drawImage(loaded, 0, 0, null);
+        loaded.flush();
+        return image;
+    }
+
+    /** The image of a parameter, or null with the problem stated. */
+    BufferedImage wantedImage(String parameter) throws InterruptedException {
+        String name = value(parameter);
+        BufferedImage image = name == null ? null : image(name);
+        if (name == null)
+            problem = missing(parameter);
+        else if (image == null)
+            problem = notLoaded("image", name);
+        return image;
+    }
+
+    /** The image, or words as large as the area when it cannot be loaded. */
+    BufferedImage imageOrWords(String name) throws InterruptedException {
+        BufferedImage image = image(name);
+        if (image != null)
+            return image;
+        BufferedImage words = blank(areaWidth, areaHeight);
+        say(words.createGraphics(), notLoaded("image", name));
+        return words;
+    }
+
+    static String missing(String parameter) {
+        return "The parameter " + parameter + " is missing.";
+    }
+
+    static String notLoaded(String kind, String name) {
+        return "The " + kind + " \"" + name + "\" could not be loaded.";
+    }
+
+    /** A picture of this size in the background colour. */
+    BufferedImage blank(int width, int height) {
+        BufferedImage picture = new BufferedImage(width, height, BufferedImage.TYPE_INT_RGB);
+        Graphics g = picture.getGraphics();
+        g.setColor(background);
+        g.fillRect(0, 0, width, height);
+        return picture;
+    }
+
+    /** The pixels of a picture, row by row; changing them changes the picture. */
+    static int[] pixels(BufferedImage picture) {
+        return ((DataBufferInt) picture.getRaster().getDataBuffer()).getData();
+    }
+
+    /** The picture in another size, each pixel one of the old; null without picture or size. */
+    static BufferedImage stretched(BufferedImage from, int width, int height) {
+        if (from == null || width < 1 || height < 1)
+            return null;
+        BufferedImage to = new BufferedImage(width, height, BufferedImage.TYPE_INT_RGB);
+        int[] source = pixels(from);
+        int[] drawn = pixels(to);
+        for (int y = 0; y < height; y++) {
+            int row = (2 * y + 1) * from.getHeight() / (2 * height) * from.getWidth();
+            for (int x = 0; x < width; x++)
+                drawn[y * width + x] = source[row + (2 * x + 1) * from.getWidth() / (2 * width)];
+        }
+        return to;
+    }
+
+    /** Fills the area with words, lines broken at blanks. */
+    void say(Graphics2D g, String words) {
+        g.setColor(Color.white);
+        g.fillRect(0, 0, areaWidth, areaHeight);
+        g.setColor(Color.black);
+        g.setFont(new Font("SansSerif", Font.PLAIN, 12));
+        int y = 16;
+        for (String line : broken(words, g.getFontMetrics(), areaWidth - 8)) {
+            g.drawString(line, 4, y);
+            y += 15;
+        }
+    }
+
+    /** The line broken at blanks to a width; a word that is too wide alone is broken itself. */
+    static List<String> broken(String line, FontMetrics metrics, int width) {
+        List<String> lines = new ArrayList<>();
+        String left = line;
+        while (metrics.stringWidth(left) > width) {
+            int fits = 1;
+            while (fits < left.length() &&
+                   metrics.stringWidth(left.substring(0, fits + 1)) <= width)
+                fits++;
+            int blank = left.lastIndexOf(' ', fits);
+            int end = blank > 0 ? blank : fits;
+            lines.add(left.substring(0, end));
+            left = left.substring(blank > 0 ? end + 1 : end);
+            if (left.isEmpty())
+                return lines;
+        }
+        lines.add(left);
+        return lines;
+    }
+
+    @Override
+    public void mousePressed(MouseEvent event) {
+        String to;
+        synchronized (this) {
+            if (!started() || event.getButton() != MouseEvent.BUTTON1)
+                return;
+            compose();
+            to = link;
+            clickedAt = clock.getAsLong() - startedAt;
+        }
+        repaint();
+        if (to != null && address(to) != null)
+            getAppletContext().showDocument(address(to), target == null ? "_self" : target);
+    }
+
+    @Override
+    public synchronized void mouseMoved(MouseEvent event) {
+        if (!started())
+            return;
+        movedAt = clock.getAsLong() - startedAt;
+        changeAt = Math.min(changeAt, clock.getAsLong());
+        notifyAll();
+    }
+
+    @Override
+    public void mouseDragged(MouseEvent event) {
+        mouseMoved(event);
+    }
+
+    @Override
+    public void mouseEntered(MouseEvent event) {
+        mouseMoved(event);
+    }
+
+    @Override
+    public void mouseExited(MouseEvent event) {}
+
+    @Override
+    public void mouseReleased(MouseEvent event) {}
+
+    @Override
+    public void mouseClicked(MouseEvent event) {}
+}

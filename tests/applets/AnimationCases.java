@@ -1,0 +1,180 @@
+import java.awt.*;
+import java.util.*;
+
+/** The animation: frames, pauses, cycles, links, sounds and every transition. */
+final class AnimationCases extends Cases {
+    private static final String FIRST = "AABB AABB CCDD CCDD";
+    private static final String SECOND = "aabb aabb ccdd ccdd";
+    private static final String EMPTY = ".... .... .... ....";
+
+    private static String twoImages() throws Exception {
+        return page("advanced_animator_two_images.html");
+    }
+
+    static void goesThroughItsFrames() throws Exception {
+        // The area is 320 by 200: images a and b stand at 60,50, image c at 110,70.
+        Host host = host(page("advanced_animator_full.html"));
+        colors(host, "0 59,50 ff8000", "0 60,50 ff0000", "99999 60,50 ff0000");
+        same("hand", Cursor.HAND_CURSOR, host.applet.getCursor().getType());
+        host.click(100000);
+        // Half of the 30 steps of 30 ms: b has come from the upper right corner to 220,-50.
+        colors(host, "100450 259,149 ffff00", "100450 220,49 000080", "100450 159,99 ff0000",
+               "100450 160,99 ff8000", "100900 259,149 808000");
+        host.click(100950);
+        same("opened once", "[_self http://www.example.com/x.html]", host.opened.toString());
+        colors(host, "100999 259,149 808000", "101000 110,70 123456", "101249 109,70 ff8000");
+        same("sound", "[ding.au]", host.played.toString());
+        colors(host, "101250 60,50 ff0000");
+        same("sound of the second cycle", 2, host.played.size());
+        for (int cycle = 2; cycle <= 10; cycle++)
+            host.click(100000L * cycle);
+        colors(host, "9999999 110,70 123456");
+    }
+
+    static void repeatsUntilTheVisitorIsAwaited() throws Exception {
+        Host host = host(twoImages());
+        same("b", SECOND, grid(host.at(10000100)));
+        same("a", FIRST, grid(host.at(10000200)));
+        host = host(with(twoImages(), "PAUSE.1", "-2"));
+        host.move(50);
+        same("an early move", SECOND, grid(host.at(5000)));
+        host.click(5001);
+        same("a click", SECOND, grid(host.at(5002)));
+        host.move(5003);
+        same("a move", FIRST, grid(host.at(5004)));
+    }
+
+    /** The picture when a transition from a to b has run for some of its 30 steps. */
+    private static String during(String type, int steps) throws Exception {
+        Host host = host(with(twoImages(), "TRANSITION.TYPE.0", type));
+        same(type + " before", FIRST, grid(host.at(99)));
+        String seen = grid(host.at(100 + 30 * steps));
+        same(type + " after", SECOND, grid(host.at(1000)));
+        return seen;
+    }
+
+    static void drawsEveryTransitionHalfWay() throws Exception {
+        String[][] rows = {
+            {"slidein(1)", "ddBB ddBB CCDD CCDD"},  {"slidein(2)", "ccdd ccdd CCDD CCDD"},
+            {"slidein(3)", "AAcc AAcc CCDD CCDD"},  {"slidein(4)", "AAaa AAaa CCcc CCcc"},
+            {"slidein(5)", "AABB AABB CCaa CCaa"},  {"slidein(6)", "AABB AABB aabb aabb"},
+            {"slidein(7)", "AABB AABB bbDD bbDD"},  {"slidein(8)", "bbBB bbBB ddDD ddDD"},
+            {"slideout(1)", "DDbb DDbb ccdd ccdd"}, {"slideout(4)", "aaAA aaAA ccCC ccCC"},
+            {"slideout(6)", "aabb aabb AABB AABB"}, {"scroll(2)", "ccdd ccdd AABB AABB"},
+            {"scroll(4)", "BBaa BBaa DDcc DDcc"},   {"scroll(6)", "CCDD CCDD aabb aabb"},
+            {"scroll(8)", "bbAA bbAA ddCC ddCC"},   {"expand(1)", "abBB cdBB CCDD CCDD"},
+            {"expand(2)", "AabB AcdB CCDD CCDD"},   {"expand(5)", "AABB AABB CCab CCcd"},
+            {"expand(7)", "AABB AABB abDD cdDD"},   {"expand(9)", "AABB AabB CcdD CCDD"},
+            {"shrink(3)", "aaAB aaCD ccdd ccdd"},   {"shrink(8)", "aabb ABbb CDdd ccdd"},
+            {"shrink(9)", "aabb aABb cCDd ccdd"},   {"squish(2)", "AABB CCDD aabb ccdd"},
+            {"SQUISH(6)", "aabb ccdd AABB CCDD"},
+        };
+        for (String[] row : rows)
+            same(row[0], row[1], during(row[0], 15));
+        String both = "AABB CCDD aabb ccdd, aabb ccdd AABB CCDD";
+        same("squish(r)", true, both.contains(during("squish(r)", 15)));
+        for (String type : new String[] {"overwrite()", "overwrit(r)", "rando(r)"}) {
+            Host host = host(with(twoImages(), "TRANSITION.TYPE.0", type));
+            same(type, SECOND, grid(host.at(100)));
+            same(type + " over", FIRST, grid(host.at(200)));
+        }
+    }
+
+    static void drawsTheShutter() throws Exception {
+        same("1 closes", ".... .AB. .CD. ....", during("shutter(1)", 7));
+        same("1 opens", ".... .ab. .cd. ....", during("shutter(1)", 22));
+        same("0 closes", "AABB A..B C..D CCDD", during("shutter(0)", 7));
+        same("0 opens", "aabb a..b c..d ccdd", during("shutter(0)", 22));
+        same("bare", ".... .AB. .CD. ....", during("shutter", 7));
+        for (String type : new String[] {"shutter(0)", "shutter(1)"}) {
+            same(type + " begins", FIRST, during(type, 2));
+            same(type + " ends", SECOND, during(type, 28));
+        }
+        String page = with(twoImages(), "TRANSITION.TYPE.0", "shutter(1)");
+        colors(host(with(page, "FGCOLOR.0", "1,2,3")), "550 0,0 010203");
+        colors(host(with(page, "BGCOLOR.0", "4,5,300")), "550 0,0 0405ff");
+    }
+
+    static void leavesOpenToChance() throws Exception {
+        Set<String> seen = new HashSet<>();
+        String page = with(twoImages(), "TRANSITION.TYPE.0", "random()");
+        page = with(page, "TRANSITION.LIST", "scroll(2:4)|expand(8-9)");
+        for (int i = 0; i < 80; i++)
+            seen.add(grid(host(page).at(100 + 15 * 30)));
+        same("random",
+             new HashSet<>(Arrays.asList("ccdd ccdd AABB AABB", "BBaa BBaa DDcc DDcc",
+                                         "AABB abBB cdDD CCDD", "AABB AabB CcdD CCDD")),
+             seen);
+    }
+
+    static void bringsAndTakesOneImage() throws Exception {
+        // Which effect, when its transition begins, what is seen on the way and at its end.
+        String[][] middles = {
+            {"0", "100", "AABB A..B C..D CCDD", FIRST},
+            {"1", "100", ".... .AB. .CD. ....", FIRST},
+            {"2", "100", "CCDD CCDD .... ....", FIRST},
+            {"4", "100", ".... .... BB.. BB..", FIRST},
+            {"5", "100", ".... .... AABB AABB", EMPTY},
+            {"7", "100", "BB.. BB.. DD.. DD..", FIRST},
+            {"7", "2100", "BB.. BB.. DD.. DD..", EMPTY},
+            {"8", "100", "AB.. CD.. .... ....", FIRST},
+            {"9", "600", "..AB ..CD .... ....", EMPTY},
+            {"10", "10", ".... .... ..AB ..CD", FIRST},
+            {"10", "2010", ".... .... ..AB ..CD", EMPTY},
+        };
+        String rest = page("more_image_effects_expand_shrink_full.html")
+                          .replaceAll("<PARAM NAME=(IMAGE|TRANSITION.TYPE|PAUSE.0)[^\n]*\n", "");
+        String[] rows = page("more_image_effects_lines.tsv").split("\n");
+        for (String[] middle : middles) {
+            String lines =
+                rows[Integer.parseInt(middle[0])].split("\t", 3)[2].replace("\t", "\r\n");
+            Host host = host(rest.replace("</APPLET>", lines + "\r\n</APPLET>"));
+            long begin = Long.parseLong(middle[1]);
+            int steps = lines.contains("shutter") ? 37 : 25;
+            same(lines, middle[2], grid(host.at(begin + 30 * steps)));
+            same(lines + " at the end", middle[3], grid(host.at(begin + 1500)));
+        }
+    }
+
+    static void expandsAndShrinksThrice() throws Exception {
+        // 10 ms nothing, 1500 growing, 500 standing, 1500 shrinking, 100 nothing: 3610.
+        Host host = host(page("more_image_effects_expand_shrink_full.html"));
+        colors(host, "39 199,0 ff8000", "40 199,0 00ff00");
+        same("third time", FIRST, grid(host.at(2 * 3610 + 1510)));
+        host.click(2 * 3610 + 2010);
+        same("link of the first frame", "[_self http://www.example.com]", host.opened.toString());
+        same("over", EMPTY, grid(host.at(3 * 3610 + 1510)));
+    }
+
+    static void saysWhatIsMissing() throws Exception {
+        String page = twoImages();
+        says(with(page, "IMAGE.0", "x.gif"), "The image \"x.gif\" could not be loaded.");
+        same("the other is shown", SECOND, grid(host(with(page, "IMAGE.0", "x.gif")).at(100)));
+        says(without(page, "IMAGE.0"), "The parameter IMAGE.0 is missing.");
+    }
+
+    static void movesAndEndsByItself() throws Exception {
+        Host host = host(twoImages());
+        host.applet.stop();
+        host.useClock(System::currentTimeMillis);
+        Frame window = new Frame();
+        window.setUndecorated(true);
+        window.setLayout(null);
+        window.add(host.applet);
+        window.setSize(200, 100);
+        window.setVisible(true);
+        host.applet.start();
+        Rectangle place = new Rectangle(host.applet.getLocationOnScreen(), window.getSize());
+        Set<String> seen = new HashSet<>();
+        for (int i = 0; i < 400 && !(seen.contains(FIRST) && seen.contains(SECOND)); i++) {
+            seen.add(grid(new Robot().createScreenCapture(place)));
+            Thread.sleep(10);
+        }
+        same("both frames seen", true, seen.contains(FIRST) && seen.contains(SECOND));
+        host.applet.stop();
+        Thread.sleep(300);
+        for (Thread thread : Thread.getAllStackTraces().keySet())
+            same("the thread has ended", false, thread.getName().equals("Animate1"));
+        window.dispose();
+    }
+}
