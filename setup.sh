@@ -4,7 +4,7 @@ run_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-webengine-dev qt6-wayland libqt6svg6 libqt6webenginecore6-bin
     libgl-dev libgtest-dev libbenchmark-dev xdg-utils fonts-dejavu-core
-    openjdk-17-jdk-headless
+    openjdk-17-jdk-headless esbuild
 )
 test_packages=(clang-format openjdk-17-jre xvfb xauth)
 

@@ -105,17 +105,6 @@ TEST(ImageListTest, FiftySecondImageJoinsTheListButIsNotRecorded)
     EXPECT_EQ(core.RequiredFileCount, 32767);
 }
 
-TEST(ImageListTest, OpeningForgetsTheFilesOfTheEffectBefore)
-{
-    OrvaneCore core;
-    RecordRequiredFile(core, u"/x/a.gif", u"a.gif");
-    core.Payload.SupportFiles[2] = u"Animate1.class";
-    ClearRequiredFiles(core);
-    EXPECT_EQ(core.Required, RequiredFiles());
-    EXPECT_EQ(core.RequiredFileCount, 0);
-    EXPECT_EQ(core.Payload, EffectPayload());
-}
-
 TEST(ImageListTest, DeleteSelectsTheNextImageAndNoneBehindTheLast)
 {
     ImageList list = ListOf({u"a", u"b", u"c"}, 1);

@@ -134,22 +134,6 @@ TEST_F(ImageListPanelTest, InvalidDefaultPathIsPassedOverAndKept)
     EXPECT_TRUE(RowsOf(m_window, "File1").empty());
 }
 
-TEST_F(ImageListPanelTest, FolderThatTheAuthorOpensIsRememberedAndLeadsBackUp)
-{
-    Open({});
-    Choose("Dir1", u"blank name");
-    EXPECT_TRUE(m_desk.Settings.Writes.empty());
-    Press(List("Dir1"), Qt::Key_Return);
-    EXPECT_TRUE(m_window.isVisible());
-    EXPECT_EQ(RowsOf(m_window, "File1"), std::vector<Text>{u"x.jpg"});
-    EXPECT_EQ(m_desk.Core.DefaultPath, Path(u"blank name"));
-    EXPECT_EQ(m_desk.Settings.Get(u"Misc", u"DefaultPath", u"", u"Orvane"), Path(u"blank name"));
-
-    DoubleClickRow(m_window, "Dir1", SelectedRowOf(m_window, "Dir1") - 1);
-    EXPECT_EQ(RowsOf(m_window, "File1"), (std::vector<Text>{u"Tall.GIF", u"wide.gif"}));
-    EXPECT_EQ(m_desk.Core.DefaultPath, FromQt(m_folder.path()));
-}
-
 TEST_F(ImageListPanelTest, DriveLeadsToItsFolderUnlessItCannotBeRead)
 {
     Open({});
@@ -197,14 +181,6 @@ TEST_F(ImageListPanelTest, TypedLettersAndEnterAddAFileByTheKeyboard)
 }
 
 // Stays as it is: the double click adds without asking whether a file is selected.
-TEST_F(ImageListPanelTest, DoubleClickBesideTheFilesAddsWhateverIsSelected)
-{
-    Open({});
-    DoubleClickBelowRows(m_window, "File1");
-    EXPECT_EQ(RowsOf(m_window, "List1"), std::vector<Text>{u""});
-    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
-}
-
 TEST_F(ImageListPanelTest, RefusedNameChangesNothingButTheAnimatorsButtons)
 {
     AddFile(u"my pic.gif", GifBytes(900, 900));
@@ -277,21 +253,6 @@ TEST_F(ImageListPanelTest, RowsTellOfDoubleClicksAndMenus)
     DoubleClickRow(m_window, "List6", 0);
     EXPECT_EQ(doubleClicks, 1);
     EXPECT_EQ(panel.Selected(), 0u);
-}
-
-TEST_F(ImageListPanelTest, MoveAtTheEdgeSpeaksOfTheSlideshow)
-{
-    ImageListPanel& panel = Open(SlideshowImageList());
-    panel.SetRows({{.FileName = u"a"}});
-    ClickRow(m_window, "List1", 0);
-    Click(m_window, "cmdMoveUp");
-    Click(m_window, "cmdMoveDown");
-    EXPECT_EQ(m_desk.Dialogs.Said, (std::vector<Text>{u"Select an item in the Slideshow image "
-                                                      u"list.  You cannot move the first image "
-                                                      u"upward.",
-                                                      u"Select an item in the Slideshow image "
-                                                      u"list.  You cannot move the last image "
-                                                      u"downward."}));
 }
 
 TEST_F(ImageListPanelTest, BrokenPictureLeavesTheOldOneAndItsSize)

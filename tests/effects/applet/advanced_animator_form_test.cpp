@@ -81,18 +81,6 @@ TEST_F(AdvancedAnimatorFormTest, DoneHandsTheTypedAnimationOver)
     EXPECT_EQ(Form().Parameters(), expected);
 }
 
-TEST_F(AdvancedAnimatorFormTest, AFreshWindowHasTheDefaultsAndGivesBackWhatItIsGiven)
-{
-    EXPECT_EQ(Form().Parameters(), AdvancedAnimator());
-    const AdvancedAnimator odd{.Rows = {{u" a.gif", u"-1", u"scroll(r)", u"\"u", u"s.au"}, {}},
-                               .AnimationWidth = u"\"1",
-                               .AnimationHeight = u" ",
-                               .LoopCount = u"\"3",
-                               .BackgroundColor = u"\"1,2,3"};
-    Form().SetParameters(odd);
-    EXPECT_EQ(Form().Parameters(), odd);
-}
-
 TEST_F(AdvancedAnimatorFormTest, ComplaintsKeepTheWindowOpen)
 {
     AddImage(0);
@@ -185,17 +173,6 @@ TEST_F(AdvancedAnimatorFormTest, OpensFilledFromAPastedTagWhileAnEditIsOn)
     EXPECT_EQ(WordsOf(Form(), "Text20"), u"\"20");
     EXPECT_EQ(Find<QListWidget>(Form(), "List1")->count(), 2);
     EXPECT_FALSE(m_desk.Core.EditMode);
-}
-
-TEST_F(AdvancedAnimatorFormTest, MenusHaveTheirCommandsInOrder)
-{
-    std::vector<Text> commands;
-    for (const char* menu : {"mnuFile", "mnuProperties"})
-        for (const QAction* action : Form().findChild<QMenu*>(menu)->actions())
-            commands.push_back(Text(reinterpret_cast<const char16_t*>(action->text().utf16()),
-                                    static_cast<std::size_t>(action->text().size())));
-    EXPECT_EQ(commands, (std::vector<Text>{u"&New", u"&Open...", u"&Save...",
-                                           u"&Return to Main menu", u"Set &Properties..."}));
 }
 
 } // namespace

@@ -43,28 +43,6 @@ protected:
     DigitalClockForm m_form{m_desk.Bench};
 };
 
-TEST_F(DigitalClockFormTest, StartsWithTheDefaultsAndReturnsWhatItIsGiven)
-{
-    EXPECT_EQ(m_form.Parameters(), DigitalClock());
-    const DigitalClock clock{.optDateTime = ClockContent::DateAndTime,
-                             .lstDateTimeFormat = u"28-11-2001",
-                             .chkDayOfWeek = true,
-                             .chkShowTimeBeforeDate = true,
-                             .chkMilitaryTime = true,
-                             .chkShowSeconds = true,
-                             .chkShowAMPM = true,
-                             .cboFont = u"any «Font»",
-                             .cboFontSize = u"1",
-                             .cboFontStyle = u"bold",
-                             .txtPadding = u" x",
-                             .BGColor = u"#AB0000",
-                             .FontColor = u"#0000FF"};
-    m_form.SetParameters(clock);
-    EXPECT_EQ(m_form.Parameters(), clock);
-    m_form.SetParameters({});
-    EXPECT_EQ(m_form.Parameters(), DigitalClock());
-}
-
 TEST_F(DigitalClockFormTest, TypedAndClickedThroughGivesThePage)
 {
     Click(m_form, "optDateTime(2)");
@@ -215,83 +193,6 @@ TEST_F(DigitalClockFormTest, PagesBeyondItsOwnDoNothing)
         EXPECT_EQ(Heading(), contentPage.Heading);
         EXPECT_EQ(m_form.TakePayload(), std::nullopt);
     }
-}
-
-TEST_F(DigitalClockFormTest, AClickOnADescriptionSelectsItsOption)
-{
-    auto* option = Find<QRadioButton>(m_form, "optDateTime(2)");
-    for (QLabel* label : m_form.findChildren<QLabel*>()) {
-        if (!label->text().startsWith(QStringLiteral("Display both the date and time")))
-            continue;
-        const QPointF middle = label->rect().center();
-        QMouseEvent press(QEvent::MouseButtonPress, middle, label->mapToGlobal(middle),
-                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(label, &press);
-    }
-    EXPECT_TRUE(option->isChecked());
-}
-
-TEST_F(DigitalClockFormTest, FontDialogFillsTheThreeFieldsAndCancelLeavesThem)
-{
-    m_form.SetParameters({.optDateTime = ClockContent::Time, .cboFontStyle = u"Bold"});
-    m_form.ChangePage(4);
-    m_desk.Dialogs.AnswerFont({u"Serif Sans", u"13", true, true});
-    Click(m_form, "cmdMoreFonts");
-    EXPECT_EQ(m_desk.Dialogs.FontStarts, (std::vector<FontChoice>{{u"Arial", u"12", true, false}}));
-    EXPECT_EQ(WordsOf(m_form, "cboFont"), u"Serif Sans");
-    EXPECT_EQ(WordsOf(m_form, "cboFontSize"), u"13");
-    EXPECT_EQ(WordsOf(m_form, "cboFontStyle"), u"Bold Italic");
-
-    const DigitalClock before = m_form.Parameters();
-    m_desk.Dialogs.AnswerFont({u"Serif Sans", u"13", true, true});
-    Click(m_form, "cmdMoreFonts");
-    EXPECT_EQ(m_form.Parameters(), before);
-}
-
-TEST_F(DigitalClockFormTest, TypedFontsStayAsTheyAreWhenTheFieldIsLeft)
-{
-    m_form.SetParameters({.optDateTime = ClockContent::Time});
-    m_form.ChangePage(4);
-    m_form.activateWindow();
-    LetRun();
-    for (const auto& [name, text] : std::vector<std::pair<const char*, TextView>>{
-             {"cboFont", u"arial"}, {"cboFontSize", u"1"}, {"cboFontStyle", u"bold"}}) {
-        Find<QWidget>(m_form, name)->setFocus();
-        ASSERT_TRUE(Find<QWidget>(m_form, name)->hasFocus());
-        Retype(name, text);
-        Find<QWidget>(m_form, "cmdNext")->setFocus();
-        EXPECT_EQ(ToUtf8(WordsOf(m_form, name)), ToUtf8(text));
-    }
-}
-
-TEST_F(DigitalClockFormTest, PaddingTakesAnyTextAndStepsByKeyAndButton)
-{
-    m_form.SetParameters({.optDateTime = ClockContent::Time});
-    m_form.ChangePage(4);
-    auto* box = Find<QWidget>(m_form, "txtPadding");
-    Press(*box, Qt::Key_Up);
-    EXPECT_EQ(WordsOf(m_form, "txtPadding"), u"3");
-    Click(m_form, "txtPaddingDown");
-    Click(m_form, "txtPaddingDown");
-    EXPECT_EQ(WordsOf(m_form, "txtPadding"), u"1");
-    Retype("txtPadding", u"1em");
-    EXPECT_EQ(m_form.Parameters().txtPadding, u"1em");
-    Retype("txtPadding", u"50");
-    Click(m_form, "txtPaddingUp");
-    EXPECT_EQ(WordsOf(m_form, "txtPadding"), u"50");
-}
-
-TEST_F(DigitalClockFormTest, PickedColorsGoThroughThePaddingAndCancelKeepsThem)
-{
-    m_form.SetParameters({.optDateTime = ClockContent::Time});
-    m_form.ChangePage(4);
-    m_desk.Dialogs.AnswerColor(188 | 10 << 8);
-    Click(m_form, "lblBGColor");
-    m_desk.Dialogs.AnswerColor(std::nullopt);
-    Click(m_form, "lblBGColor");
-    EXPECT_EQ(m_form.Parameters().BGColor, u"#AB0000");
-    EXPECT_EQ(m_form.Parameters().FontColor, u"");
-    EXPECT_EQ(Find<ColorSwatch>(m_form, "lblBGColor")->Color(), 188 | 10 << 8);
 }
 
 } // namespace

@@ -40,15 +40,6 @@ TEST_F(StatusBarTickerFormTest, EmptyTextKeepsTheWindowOpenWithTheFocusInIt)
     EXPECT_EQ(m_form.TakePayload(), std::nullopt);
 }
 
-TEST_F(StatusBarTickerFormTest, EscapeCancelsWithoutAQuestion)
-{
-    m_form.show();
-    Type(m_form, "txtStatusBarText", u"x");
-    Press(m_form, Qt::Key_Escape);
-    EXPECT_FALSE(m_form.isVisible());
-    EXPECT_EQ(m_form.TakePayload(), std::nullopt);
-}
-
 TEST_F(StatusBarTickerFormTest, EditAppletTakesThePastedTextAndEndsTheEdit)
 {
     m_desk.Core.EditMode = true;
@@ -56,13 +47,6 @@ TEST_F(StatusBarTickerFormTest, EditAppletTakesThePastedTextAndEndsTheEdit)
     m_form.EditApplet();
     EXPECT_EQ(m_form.Parameters().txtStatusBarText, u"\"Hello");
     EXPECT_FALSE(m_desk.Core.EditMode);
-}
-
-TEST_F(StatusBarTickerFormTest, HelpButtonOpensTheEffectsTopic)
-{
-    m_form.show();
-    Click(m_form, "cmdClickHereForHelp");
-    EXPECT_EQ(m_desk.Help.Shown, std::vector<int>{109});
 }
 
 } // namespace

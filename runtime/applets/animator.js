@@ -1,0 +1,180 @@
+/** Animations of several images, and the effects of one image that comes and goes. */
+import { calm, shortestFlash } from "../calm.js";
+import { play } from "../sounds.js";
+import { load, missing, notLoaded, pixelsOf, sheet, words } from "./tag.js";
+import { drawTransition, isWay, readTransition } from "./transitions.js";
+
+/** @typedef {import("./tag.js").Tag} Tag */
+
+const blank = "invisi.gif";
+
+/** The brightness of a picture as a whole, 0 to 255. @param {HTMLCanvasElement} picture */
+function brightness(picture) {
+    const { canvas, pen } = sheet(8, 8, "white");
+    pen.imageSmoothingEnabled = true;
+    pen.drawImage(picture, 0, 0, 8, 8);
+    const pixels = pixelsOf(canvas);
+    if (!pixels) return 0;
+    const of = (/** @type {number} */ pixel) =>
+        0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255);
+    return pixels.reduce((sum, pixel) => sum + of(pixel), 0) / pixels.length;
+}
+
+/**
+ * The images as frames that fill the area, each in the middle.
+ * @param {Tag} tag
+ * @param {string[]} names
+ * @param {string} ground
+ */
+async function frames({ W, H }, names, ground) {
+    const images = await Promise.all(names.map(load));
+    return images.map((image, i) => {
+        if (!image) return words(notLoaded(names[i]), W, H);
+        const { canvas, pen } = sheet(W, H, ground);
+        pen.drawImage(image, Math.floor((W - image.width) / 2), Math.floor((H - image.height) / 2));
+        return canvas;
+    });
+}
+
+/** @param {Tag} tag @param {string[]} links */
+function linkOf(tag, links) {
+    return (/** @type {number} */ i) => {
+        while (i > 0 && links[i] === undefined) i--;
+        return links[i] === undefined || links[i].toLowerCase() === "null" ? null : links[i];
+    };
+}
+
+/**
+ * What leads from each frame to the next, as the tag writes it.
+ * @param {Tag} tag
+ * @param {number} n
+ */
+function stepsOf(tag, n) {
+    const type = (/** @type {number} */ i) => tag.text(`TRANSITION.TYPE.${i}`) ?? "";
+    const leaves = (/** @type {number} */ i) => /^(slideout|shrink)/i.test(type(i));
+    const step = (/** @type {number} */ i) => {
+        if (tag.text("TRANSITION.LIST") !== null) return type(i);
+        if (i === n - 1) return "";
+        const into = type(i + 1) && (!leaves(i + 1) || i + 1 === n - 1);
+        return into ? type(i + 1) : leaves(i) ? type(i) : "";
+    };
+    return Array.from({ length: n }, (_, i) => step(i));
+}
+
+/**
+ * @param {Tag} tag @param {CanvasRenderingContext2D} pen
+ * @returns {Promise<import("./applets.js").Show>}
+ */
+export async function animator(tag, pen) {
+    const names = tag.list("IMAGE");
+    const n = names.length;
+    const ground = tag.color("BGCOLOR.0", "white");
+    const pictures = n
+        ? await frames(tag, names, ground)
+        : [words(missing("IMAGE.0"), tag.W, tag.H)];
+    const lights = pictures.map(brightness);
+    const steps = stepsOf(tag, n);
+    const each =
+        tag.number(
+            "TRANSITION.RATE.0",
+            tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20,
+            0,
+        ) + 10;
+    const S = tag.number("TRANSITION.STEP.0", 20, 1);
+    const link = linkOf(
+        tag,
+        names.map((_, i) => /** @type {any} */ (tag.text(`URL.${i}`) ?? undefined)),
+    );
+
+    let frame = 0;
+    let cycle = 1;
+    // Nothing has begun to stand yet; the first drawing is in front of it.
+    let since = Infinity;
+    /** @type {import("./transitions.js").Transition | null} */
+    let under = null;
+
+    const next = () => (frame + 1) % n;
+    const ends = () => n < 2 || (frame === n - 1 && cycle >= tag.cycles());
+    const pause = () => {
+        const asked = tag.number(`PAUSE.${frame}`, 100, -2);
+        const cut = !isWay(steps[frame]) || calm();
+        const flashes = cut && Math.abs(lights[frame] - lights[next()]) > 25;
+        return asked < 0 ? asked : Math.max(asked, flashes ? shortestFlash : 10);
+    };
+    const stand = (/** @type {number} */ t) => {
+        since = t;
+        const sound = tag.text(`SOUND.${frame}`);
+        if (sound && /^auto$/i.test(tag.text("SOUND.ACTIVATION.0") ?? "")) play(sound);
+    };
+    const arrive = (/** @type {number} */ t) => {
+        under = null;
+        if (frame === n - 1) cycle++;
+        frame = next();
+        stand(t);
+    };
+    const leave = (/** @type {number} */ t) => {
+        under = calm() ? null : readTransition(steps[frame], tag.text("TRANSITION.LIST"));
+        since = t;
+        if (!under) arrive(t);
+    };
+    /**
+     * Goes on to time t; frames without pause and way take turns once in a drawing.
+     * @param {number} t
+     */
+    const advance = (t) => {
+        for (let idle = 0, before = since; idle <= 2 * n; idle = since > before ? 0 : idle + 1) {
+            before = since;
+            if (under) {
+                if (t < since + S * each) return;
+                arrive(since + S * each);
+            } else {
+                const p = pause();
+                if (ends() || p < 0 || t < since + p) return;
+                leave(since + p);
+            }
+        }
+        since = t;
+    };
+    const waits = () => !under && !ends() && pause() < 0;
+    return {
+        name: "Animation: " + names.join(", "),
+        draw(t) {
+            if (t < since) {
+                [frame, cycle, under] = [0, 1, null];
+                stand(0);
+            }
+            advance(t);
+            if (under) {
+                const k = Math.floor((t - since) / each);
+                drawTransition(
+                    pen,
+                    under,
+                    pictures[frame],
+                    pictures[next()],
+                    k,
+                    S,
+                    tag.color("FGCOLOR.0", ground),
+                );
+                return (k + 1) * each - (t - since);
+            }
+            pen.drawImage(pictures[frame], 0, 0);
+            return ends() || pause() < 0 ? Infinity : since + pause() - t;
+        },
+        drawStill() {
+            pen.drawImage(
+                pictures[
+                    Math.max(
+                        names.findIndex((name) => name.toLowerCase() !== blank),
+                        0,
+                    )
+                ],
+                0,
+                0,
+            );
+        },
+        link: () => link(frame),
+        waits,
+        press: (t) => void (waits() && leave(t)),
+        over: (t) => void (waits() && pause() === -2 && leave(t)),
+    };
+}

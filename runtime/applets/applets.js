@@ -1,0 +1,191 @@
+/** The applets: a canvas in each tag's place, drawn by the rules of the page about the applets. */
+import { calm, ownPlace, pauseButton } from "../calm.js";
+import { animator } from "./animator.js";
+import { cube } from "./cube.js";
+import { fade } from "./fade.js";
+import { lake } from "./lake.js";
+import { ripple } from "./ripple.js";
+import { Tag, sheet } from "./tag.js";
+import { typewriter } from "./typewriter.js";
+
+/**
+ * What an applet draws. `draw` draws the state at a time and tells after how many milliseconds it
+ * changes; `drawStill` draws the one picture that stands for it all when nothing may move.
+ * @typedef {object} Show
+ * @property {string} name what it is called by those who cannot see it
+ * @property {(t: number) => number} draw
+ * @property {() => void} drawStill
+ * @property {() => string | null} [link] where a click leads now
+ * @property {() => boolean} [waits] whether it waits for a click or the pointer now
+ * @property {(t: number) => void} [press] told of a click
+ * @property {(t: number) => void} [over] told that the pointer moves over it
+ */
+
+/**
+ * What draws each applet, by the name of its class.
+ * @type {Map<string, (tag: Tag, pen: CanvasRenderingContext2D) => Promise<Show>>}
+ */
+const kinds = new Map([
+    ["Animate1", animator],
+    ["Typewriter9", typewriter],
+    ["TmapCube", cube],
+    ["Lake", lake],
+    ["ripple", ripple],
+    ["ImageFade2ech", fade],
+]);
+
+const look = `a { display: block; outline-offset: 2px } canvas { display: block }
+  button { position: absolute; right: 0; top: 0 }`;
+
+const aligned = new Map([
+    ["left", "float:left"],
+    ["right", "float:right"],
+    ["top", "vertical-align:top"],
+    ["texttop", "vertical-align:text-top"],
+    ["middle", "vertical-align:middle"],
+    ["absmiddle", "vertical-align:middle"],
+    ["absbottom", "vertical-align:bottom"],
+]);
+
+/** Plays one show: its clock, its links, its button. */
+class Stage {
+    /** @param {Tag} tag */
+    constructor(tag) {
+        const { applet, W, H } = tag;
+        const px = (/** @type {string} */ name) =>
+            (parseInt(applet.getAttribute(name) ?? "") || 0) + "px";
+        const side =
+            aligned.get((applet.getAttribute("align") ?? "").toLowerCase()) ??
+            "vertical-align:baseline";
+        const { host, inside } = ownPlace(
+            `all:initial;display:inline-block;position:relative;width:${W}px;` +
+                `height:${H}px;margin:${px("vspace")} ${px("hspace")};${side}`,
+            look,
+        );
+        const { canvas, pen } = sheet(W, H, tag.color("BGCOLOR.0", tag.color("BGCOLOR", "white")));
+        canvas.setAttribute("role", "img");
+        this.link = document.createElement("a");
+        this.link.append(canvas);
+        inside.append(this.link);
+        for (const old of applet.children) /** @type {HTMLElement} */ (old).style.display = "none";
+        applet.append(host);
+        this.tag = tag;
+        this.canvas = canvas;
+        this.pen = pen;
+        this.inside = inside;
+        this.t = 0;
+        /** When the clock was last read; null while it stands. @type {number | null} */
+        this.last = null;
+        this.moves = !calm();
+        /** Counts starts, so that what an earlier one has ordered comes to nothing. */
+        this.round = 0;
+        /** @type {Show | null} */
+        this.show = null;
+        /** @type {HTMLElement | null} */
+        this.button = null;
+    }
+
+    /** @param {Show} show */
+    play(show) {
+        this.show = show;
+        this.canvas.setAttribute("aria-label", this.tag.applet.getAttribute("alt") ?? show.name);
+        this.link.addEventListener("click", () => this.tell(show.press));
+        for (const kind of ["pointermove", "pointerdown"])
+            this.canvas.addEventListener(kind, () => this.tell(show.over));
+        this.link.addEventListener("focus", () => this.tell(show.over));
+        this.link.addEventListener("keydown", (event) => {
+            if (event.key === "Enter" && !this.link.href) this.tell(show.press);
+        });
+        document.addEventListener("visibilitychange", () =>
+            document.hidden ? this.pause() : this.go(),
+        );
+        window.addEventListener(
+            "pageshow",
+            (event) => event.persisted && ((this.t = 0), this.go()),
+        );
+        if (!this.moves) show.drawStill();
+        this.setButton(true);
+        this.setLink();
+        this.go();
+    }
+
+    /** @param {((t: number) => void) | undefined} told */
+    tell(told) {
+        if (!this.moves || !told) return;
+        told(this.time());
+        this.go();
+    }
+
+    /** The show's time, which stands while nothing may move. */
+    time() {
+        const now = performance.now();
+        this.t += now - (this.last ?? now);
+        this.last = now;
+        return this.t;
+    }
+
+    go() {
+        if (!this.moves || document.hidden) return;
+        this.step(++this.round);
+    }
+
+    pause() {
+        if (this.last !== null) this.time();
+        this.last = null;
+        this.round++;
+    }
+
+    /**
+     * Draws, and orders the next drawing for the time when something changes.
+     * @param {number} round
+     */
+    step(round) {
+        if (round !== this.round || !this.show) return;
+        const wait = this.show.draw(this.time());
+        this.setLink();
+        this.setButton(wait < Infinity || !!this.show.waits?.());
+        const again = () => requestAnimationFrame(() => this.step(round));
+        if (wait < 20) again();
+        else if (wait < Infinity) setTimeout(again, wait - 8);
+    }
+
+    /** @param {boolean} needed */
+    setButton(needed) {
+        if (!needed) {
+            this.button?.remove();
+            this.button = null;
+        }
+        if (!needed || this.button) return;
+        this.button = pauseButton("the moving picture", this.moves, (on) => {
+            if (!on) this.pause();
+            this.moves = on;
+            this.go();
+        });
+        this.inside.append(this.button);
+    }
+
+    setLink() {
+        const url = this.show?.link?.() ?? null;
+        const waits = !!this.show?.waits?.();
+        if (url === this.link.getAttribute("href") && waits === this.link.hasAttribute("tabindex"))
+            return;
+        if (url === null) this.link.removeAttribute("href");
+        else this.link.href = url;
+        this.link.target = this.tag.text("TARGET") ?? this.tag.text("TARGET.0") ?? "";
+        this.link.toggleAttribute("tabindex", waits);
+        if (waits) this.link.tabIndex = 0;
+        if (waits && url === null) this.link.setAttribute("role", "button");
+        else this.link.removeAttribute("role");
+    }
+}
+
+/** Shows every applet of the page that Orvane has made. */
+export function runApplets() {
+    for (const applet of document.querySelectorAll("applet")) {
+        const tag = new Tag(applet);
+        const kind = kinds.get(tag.code);
+        if (!kind || !/Orvane/.test(tag.text("WIZARD") ?? "") || tag.W < 1 || tag.H < 1) continue;
+        const stage = new Stage(tag);
+        kind(tag, stage.pen).then((show) => stage.play(show));
+    }
+}

@@ -1,0 +1,175 @@
+/** A cube that turns, with a picture on each face. */
+import { load, missing, notLoaded, pixelsOf, sheet, words } from "./tag.js";
+
+/** @typedef {[number, number, number]} Vector */
+
+/**
+ * A face: its axis (0 x, 1 y, 2 z) and side, and what runs along its picture.
+ * @typedef {{axis: number, side: number, u: [number, number], v: [number, number]}} Face
+ */
+
+/**
+ * The faces, near, far, right, left, top and bottom; `u` and `v` are an axis and a sign.
+ * @type {Face[]}
+ */
+const faces = [
+    { axis: 2, side: -1, u: [0, 1], v: [1, 1] },
+    { axis: 2, side: 1, u: [0, -1], v: [1, 1] },
+    { axis: 0, side: 1, u: [2, 1], v: [1, 1] },
+    { axis: 0, side: -1, u: [2, -1], v: [1, 1] },
+    { axis: 1, side: -1, u: [0, 1], v: [2, -1] },
+    { axis: 1, side: 1, u: [0, 1], v: [2, 1] },
+];
+const half = 25;
+const each = 40;
+
+/**
+ * Where the axes of the cube point after turns about x, y and z, in radians.
+ * @param {Vector} turns @returns {Vector[]}
+ */
+function axesAfter([alpha, beta, gamma]) {
+    const [ca, sa, cb, sb, cc, sc] = [alpha, beta, gamma].flatMap((turn) => [
+        Math.cos(turn),
+        Math.sin(turn),
+    ]);
+    return [
+        [1, 0, 0],
+        [0, 1, 0],
+        [0, 0, 1],
+    ].map(([x, y, z]) => {
+        [y, z] = [y * ca - z * sa, y * sa + z * ca];
+        [x, z] = [x * cb + z * sb, z * cb - x * sb];
+        return [x * cc - y * sc, x * sc + y * cc, z];
+    });
+}
+
+/**
+ * Colours the pixels that see the cube.
+ * @param {Uint32Array} to @param {number} W @param {number} H @param {number} r the size of a dot
+ * @param {Uint32Array} from @param {number} iw @param {number} ih
+ * @param {Vector[]} axes @param {number} D
+ */
+function castRays(to, W, H, r, from, iw, ih, axes, D) {
+    const f = 0.6 * Math.min(W, H);
+    // No point of the cube is farther from its middle than a corner; that bounds what can see it.
+    const round = (f * half * 1.74) / Math.sqrt(Math.max(D * D - 3 * half * half, 1)) + r + 1;
+    const edge = (/** @type {number} */ at, /** @type {number} */ size) =>
+        Math.min(Math.max(Math.floor(size / 2 + at), 0), size);
+    for (const { axis, side, u, v } of faces) {
+        // The eye as the cube sees it; the faces that look at it do not overlap.
+        const eye = side * -D * axes[axis][2];
+        if (eye <= half) continue;
+        const [dx, dy, dz] = axes[axis].map((part) => side * part);
+        const [ux, uy, uz] = axes[u[0]].map((part) => u[1] * part);
+        const [vx, vy, vz] = axes[v[0]].map((part) => v[1] * part);
+        for (let y = edge(-round, H); y < edge(round, H); y++) {
+            const py = y - (y % r) + 0.5 - H / 2;
+            for (let x = edge(-round, W); x < edge(round, W); x++) {
+                const px = x - (x % r) + 0.5 - W / 2;
+                const far = (half - eye) / (dx * px + dy * py + dz * f);
+                const pu = far * (ux * px + uy * py + uz * f) - D * uz + half;
+                const pv = far * (vx * px + vy * py + vz * f) - D * vz + half;
+                if (!(far > 0) || pu < 0 || pu > 2 * half || pv < 0 || pv > 2 * half) continue;
+                const ix = Math.min(Math.floor((pu * iw) / (2 * half)), iw - 1);
+                const iy = Math.min(Math.floor((pv * ih) / (2 * half)), ih - 1);
+                to[y * W + x] = from[iy * iw + ix];
+            }
+        }
+    }
+}
+
+/**
+ * The same by small triangles, for pictures whose pixels the browser keeps to itself.
+ * @param {CanvasRenderingContext2D} pen @param {HTMLCanvasElement} picture
+ * @param {Vector[]} axes @param {number} D
+ */
+function drawTriangles(pen, picture, axes, D) {
+    const { width: W, height: H } = pen.canvas;
+    const { width: iw, height: ih } = picture;
+    const f = 0.6 * Math.min(W, H);
+    const cells = 6;
+    for (const { axis, side, u, v } of faces) {
+        if (side * -D * axes[axis][2] <= half) continue;
+        /** @param {number} a @param {number} b both 0 to 1, along the picture */
+        const at = (a, b) => {
+            const point = [0, 0, 0];
+            point[axis] = side * half;
+            point[u[0]] = u[1] * (2 * a - 1) * half;
+            point[v[0]] = v[1] * (2 * b - 1) * half;
+            const [x, y, z] = [0, 1, 2].map(
+                (k) => point[0] * axes[0][k] + point[1] * axes[1][k] + point[2] * axes[2][k],
+            );
+            return [W / 2 + (x * f) / (z + D), H / 2 + (y * f) / (z + D)];
+        };
+        for (let i = 0; i < cells * cells * 2; i++) {
+            const [s, a, b] = [
+                i % 2 ? -1 : 1,
+                (((i >> 1) % cells) + (i % 2)) / cells,
+                (Math.floor(i / 2 / cells) + (i % 2)) / cells,
+            ];
+            const [p, q, o] = [at(a, b), at(a + s / cells, b), at(a, b + s / cells)];
+            const [w, h] = [(s * iw) / cells, (s * ih) / cells];
+            pen.save();
+            pen.beginPath();
+            // A little larger than it is, so that nothing shines through between two of them.
+            const [mx, my] = [0, 1].map((k) => (p[k] + q[k] + o[k]) / 3);
+            for (const [x, y] of [p, q, o])
+                pen.lineTo(x + 0.7 * Math.sign(x - mx), y + 0.7 * Math.sign(y - my));
+            pen.clip();
+            pen.transform(
+                (q[0] - p[0]) / w,
+                (q[1] - p[1]) / w,
+                (o[0] - p[0]) / h,
+                (o[1] - p[1]) / h,
+                p[0],
+                p[1],
+            );
+            pen.drawImage(picture, -a * iw, -b * ih);
+            pen.restore();
+        }
+    }
+}
+
+/**
+ * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
+ * @returns {Promise<import("./applets.js").Show>}
+ */
+export async function cube(tag, pen) {
+    const { W, H } = tag;
+    const name = tag.text("IMAGE");
+    const image = name === null ? null : await load(name);
+    const ground = `rgb(${["R", "G", "B"].map((part) => tag.number("BACK" + part, 192))})`;
+    const title = `Turning cube: ${name}`;
+    if (!image) {
+        const picture = words(name === null ? missing("IMAGE") : notLoaded(name), W, H);
+        const draw = () => (pen.drawImage(picture, 0, 0), Infinity);
+        return { name: title, draw, drawStill: draw };
+    }
+    const { canvas: picture, pen: own } = sheet(image.width, image.height, ground);
+    own.drawImage(image, 0, 0);
+    const from = pixelsOf(picture);
+    const D = Math.max(tag.number("DISTANCE", 70), 2 * half);
+    const speeds = ["X", "Y", "Z"].map((axis) => tag.number("ROT" + axis, 10));
+    const clears = /^yes$/i.test(tag.text("CLEARBACK") ?? "YES");
+    const clear = () => {
+        pen.fillStyle = ground;
+        pen.fillRect(0, 0, W, H);
+    };
+    const data = (clear(), from && pen.getImageData(0, 0, W, H));
+    const to = data && new Uint32Array(data.data.buffer);
+    const empty = to?.[0] ?? 0;
+    const draw = (/** @type {number} */ t) => {
+        const turns = speeds.map((speed) => (((4 * speed * t) / 1000) * Math.PI) / 180);
+        const axes = axesAfter(/** @type {Vector} */ (turns));
+        if (from && to && data) {
+            if (clears) to.fill(empty);
+            castRays(to, W, H, tag.number("RES", 1, 1), from, image.width, image.height, axes, D);
+            pen.putImageData(data, 0, 0);
+        } else {
+            if (clears) clear();
+            drawTriangles(pen, picture, axes, D);
+        }
+        return each - (t % each);
+    };
+    return { name: title, draw, drawStill: () => void draw(0) };
+}

@@ -1,0 +1,63 @@
+/**
+ * The filters that old scripts know on every element: opacity, and the change from slide to slide.
+ */
+import { Reveal } from "./reveal.js";
+
+/** Opacities in per cent, from the tag or as last set. @type {WeakMap<Element, number>} */
+const opacities = new WeakMap();
+/** @type {WeakMap<Element, Reveal>} */
+const reveals = new WeakMap();
+
+/**
+ * Shows the opacity that an image's tag asks for in words that browsers drop.
+ * @param {HTMLElement} element
+ */
+export function prepareFilter(element) {
+    const found = /filter:\s*alpha\(opacity=(\d+)\)/i.exec(element.getAttribute("style") ?? "");
+    if (found) setOpacity(element, Number(found[1]));
+}
+
+/** @param {HTMLElement} element @param {number} percent */
+function setOpacity(element, percent) {
+    opacities.set(element, percent);
+    element.style.opacity = String(Math.min(Math.max(percent / 100, 0), 1));
+}
+
+/**
+ * What an old script sets as `style.filter`.
+ * @param {HTMLElement} element @param {string} text
+ */
+export function setFilter(element, text) {
+    const found = /revealTrans\(transition=(\d+),duration=([\d.]+)\)/i.exec(text);
+    if (found) {
+        reveals.get(element)?.end();
+        reveals.set(element, new Reveal(element, Number(found[1]), Number(found[2])));
+    } else element.style.filter = text;
+}
+
+/**
+ * What an old script reads as `filters`.
+ * @param {HTMLElement} element
+ */
+export function filtersOf(element) {
+    const alpha = {
+        get opacity() {
+            return opacities.get(element) ?? 100;
+        },
+        set opacity(percent) {
+            setOpacity(element, percent);
+        },
+    };
+    return { alpha, 0: reveals.get(element) ?? alpha, length: 1 };
+}
+
+/** Gives every element `filters`; the page's handlers hand real elements to old scripts. */
+export function addFilters() {
+    if ("filters" in HTMLElement.prototype) return;
+    Object.defineProperty(HTMLElement.prototype, "filters", {
+        configurable: true,
+        get() {
+            return filtersOf(this);
+        },
+    });
+}

@@ -1,0 +1,22 @@
+/** The vertical scroller: a button for pausing, and its first message in place without motion. */
+import { calm, pauseButton, placeOver } from "./calm.js";
+import { afterStart } from "./starts.js";
+import { go, stop } from "./timers.js";
+
+const step = "moveSpan";
+
+/**
+ * @param {HTMLElement} element
+ */
+export function prepareScroller(element) {
+    if (element.id !== "divContainer") return;
+    if (calm()) stop(step);
+    afterStart(() => {
+        const moving = document.getElementById("spnOne");
+        if (calm() && moving) moving.style.top = "0px";
+        const place = placeOver(element);
+        place.inside.append(
+            pauseButton("the scrolling text", !calm(), (on) => (on ? go : stop)(step)),
+        );
+    });
+}

@@ -1,0 +1,39 @@
+/** The slideshow: its buttons, its button for pausing, and no faster than eyes can bear. */
+import { calm, pauseButton, placeOver, shortestFlash } from "./calm.js";
+import { go, onInterval, shortest, stop } from "./timers.js";
+
+const turn = "doTrans";
+
+shortest.set(turn, 2 * shortestFlash);
+
+/** Puts a button over the picture while slides change by themselves. @param {Element} picture */
+function addPause(picture) {
+    /** @type {ReturnType<typeof placeOver> | null} */
+    let place = null;
+    if (calm()) stop(turn);
+    let moves = !calm();
+    onInterval.set(turn, (runs) => {
+        if (runs && !place) {
+            place = placeOver(picture);
+            place.inside.append(
+                pauseButton("the slideshow", moves, (on) => ((moves = on) ? go : stop)(turn)),
+            );
+        } else if (!runs) {
+            place?.remove();
+            place = null;
+        }
+    });
+}
+
+/**
+ * @param {HTMLElement} element
+ */
+export function prepareSlideshow(element) {
+    if (element.id === "oImg") addPause(element);
+    if (!(element instanceof HTMLButtonElement) || !/^btn(Prev|Play|Next)$/.test(element.id))
+        return;
+    element.type = "button";
+    if (element.id === "btnPlay") element.addEventListener("click", () => go(turn));
+    // Its timers are to be those that the button over the picture can hold.
+    element.setAttribute("onclick", `with(orvane){${element.getAttribute("onclick")}}`);
+}

@@ -1,0 +1,154 @@
+/**
+ * The names that generated scripts see in place of the browser's: documents and windows as they
+ * were when the texts were written. The author's own scripts never see them.
+ */
+import { addFavorite, closeWindow, openWindow } from "./windows.js";
+import { filtersOf, setFilter } from "./filters.js";
+import { note, timers } from "./timers.js";
+import { listenLate } from "./starts.js";
+import { showStatus, status } from "./ticker.js";
+import { changed, currentEvent, onMouseMove } from "./trail.js";
+
+/**
+ * What a stand-in gives instead of the real thing, and takes.
+ * @typedef {Record<string, {get?: () => any, set?: (value: any) => void}>} Changes
+ */
+
+/**
+ * An object that passes everything on to `real` but what `changes` names.
+ * @param {any} real
+ * @param {Changes} changes
+ */
+function standIn(real, changes) {
+    return new Proxy(
+        {},
+        {
+            has: (_, key) => key in changes || key in real,
+            get(_, key) {
+                const change = changes[/** @type {string} */ (key)];
+                if (change?.get) return change.get();
+                const value = real[key];
+                // A browser's method works on its own object only; what has a prototype is none.
+                return typeof value === "function" && !("prototype" in value)
+                    ? value.bind(real)
+                    : value;
+            },
+            set(_, key, value) {
+                const change = changes[/** @type {string} */ (key)];
+                if (change?.set) change.set(value);
+                else if (!change) real[key] = value;
+                return true;
+            },
+        },
+    );
+}
+
+/** @param {any} value */
+const only = (value) => ({ get: () => value });
+
+/** @type {WeakMap<Element, any>} */
+const elements = new WeakMap();
+
+/**
+ * The stand-in of an element, whose style takes lengths without units.
+ * @param {any} element
+ */
+export function elementStandIn(element) {
+    if (!(element instanceof HTMLElement)) return element;
+    let known = elements.get(element);
+    if (!known) {
+        known = standIn(element, {
+            style: only(styleOf(element)),
+            filters: { get: () => filtersOf(element) },
+        });
+        elements.set(element, known);
+    }
+    return known;
+}
+
+/** @param {HTMLElement} element */
+function styleOf(element) {
+    const { style } = element;
+    /** @type {Changes} */
+    const changes = {
+        filter: { get: () => style.filter, set: (value) => setFilter(element, value) },
+    };
+    for (const side of /** @type {const} */ (["top", "left", "width", "height"])) {
+        const put = (/** @type {any} */ value) => {
+            const length = String(value).trim() !== "" && !isNaN(value) ? value + "px" : value;
+            if (style[side] === length) return;
+            style[side] = length;
+            changed();
+        };
+        changes[side] = { get: () => style[side], set: put };
+        const pixels = { get: () => parseInt(style[side]) || 0, set: put };
+        changes["pixel" + side[0].toUpperCase() + side.slice(1)] = pixels;
+    }
+    return standIn(style, changes);
+}
+
+const all = new Proxy(
+    {},
+    {
+        get: (_, key) => {
+            const value = /** @type {any} */ (document.all)[key];
+            return typeof value === "function" ? value.bind(document.all) : elementStandIn(value);
+        },
+    },
+);
+
+const documentStandIn = standIn(document, {
+    all: only(all),
+    layers: only(undefined),
+    body: {
+        get: () =>
+            document.body &&
+            standIn(document.body, {
+                scrollTop: { get: () => window.scrollY },
+                scrollLeft: { get: () => window.scrollX },
+            }),
+    },
+    getElementById: only((/** @type {string} */ id) => elementStandIn(document.getElementById(id))),
+    onmousemove: { set: onMouseMove },
+});
+
+const navigatorStandIn = standIn(navigator, { appName: only("Microsoft Internet Explorer") });
+
+const windowStandIn = standIn(window, {
+    document: only(documentStandIn),
+    navigator: only(navigatorStandIn),
+    event: { get: currentEvent },
+    status: { get: status, set: showStatus },
+    onload: { set: (run) => listenLate("load", run) },
+    onunload: { set: (run) => listenLate("pagehide", run) },
+    open: only(openWindow),
+    close: only(closeWindow),
+    external: only({ AddFavorite: addFavorite }),
+    setTimeout: only(timers.setTimeout),
+    setInterval: only(timers.setInterval),
+    clearTimeout: only(timers.clearTimeout),
+    clearInterval: only(timers.clearInterval),
+});
+
+/** An image whose `readyState` tells whether it has come. */
+function ImageStandIn() {
+    note("loadImages");
+    const image = new Image();
+    Object.defineProperty(image, "readyState", {
+        get: () => (image.complete && image.naturalWidth ? "complete" : "loading"),
+    });
+    return image;
+}
+
+/** What stands in the scope of every generated script. */
+export const orvane = Object.assign(Object.create(null), {
+    document: documentStandIn,
+    window: windowStandIn,
+    navigator: navigatorStandIn,
+    Image: ImageStandIn,
+    ...timers,
+});
+// The slideshow names its image without saying where it is.
+Object.defineProperty(orvane, "oImg", {
+    get: () => elementStandIn(document.getElementById("oImg")),
+});

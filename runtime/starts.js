@@ -1,0 +1,84 @@
+/**
+ * What starts when the page has loaded, and what runs when it goes. A BODY tag keeps one `onload`
+ * only and a page one `window.onload`; the effects that lose their place there start all the same.
+ */
+import { make, readCall, readCalls } from "./calls.js";
+import { hasRun } from "./timers.js";
+import { openOnLeaving, openWindow } from "./windows.js";
+
+/** @typedef {import("./calls.js").Call} Call */
+
+/** The call that starts each effect which is started by the BODY tag. */
+const starts = ["scrollit_r2l(99)", "moveSpan()", "loadImages()"];
+
+/** Things to do once the effects have started. @type {(() => void)[]} */
+const afterwards = [];
+
+/** @param {() => void} run */
+export const afterStart = (run) => afterwards.push(run);
+
+/** @param {string} event @param {any} run */
+export function listenLate(event, run) {
+    if (typeof run === "function") window.addEventListener(event, (told) => run.call(window, told));
+}
+
+/**
+ * Whether this is the window call that Orvane writes into a BODY tag.
+ * @param {string | null} text
+ */
+const opensWindow = (text) =>
+    /^\s*window\.open\([^]*,toolbar=(yes|no),status=[^]*\);?\s*$/.test(text ?? "");
+
+/**
+ * Takes over the calls of the BODY tag that no browser carries out: windows on load and on exit.
+ * Expects a page that has been read, since a second BODY tag adds to the first.
+ */
+export function takeBodyCalls() {
+    const { body } = document;
+    for (const [handler, run] of /** @type {const} */ ([
+        ["onload", open],
+        ["onunload", leave],
+    ])) {
+        const text = body?.getAttribute(handler) ?? null;
+        const call = opensWindow(text) && readCall(text ?? "");
+        if (!call) continue;
+        /** @type {any} */ (body)[handler] = null;
+        if (handler === "onload") window.addEventListener("load", () => run(call));
+        else run(call);
+    }
+}
+
+/** @param {Call} call */
+function open(call) {
+    openWindow(.../** @type {[string, string, string]} */ (call.args()));
+}
+
+/** @param {Call} call */
+function leave(call) {
+    openOnLeaving(.../** @type {[string, string, string]} */ (call.args()));
+}
+
+/**
+ * Starts, once the page has loaded, the effects that nothing else has started: those whose
+ * functions generated scripts have declared, and the calls that the page script's tag carries.
+ * @param {DOMStringMap | undefined} carried the data of the page script's own tag
+ */
+export function startLate(carried) {
+    window.addEventListener("load", () => {
+        const called = String(window.onload);
+        const late = [...starts.map(readCall), ...readCalls(carried?.onload)];
+        const made = new Set();
+        for (const call of /** @type {Call[]} */ (late)) {
+            if (hasRun(call.name) || made.has(call.name) || called.includes(call.name + "("))
+                continue;
+            made.add(call.name);
+            if (call.name === "window.open") open(call);
+            else make(call);
+        }
+        for (const run of afterwards) run();
+    });
+    for (const call of readCalls(carried?.onunload)) {
+        if (call.name === "window.open") leave(call);
+        else window.addEventListener("pagehide", () => make(call));
+    }
+}

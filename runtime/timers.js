@@ -1,0 +1,105 @@
+/**
+ * The timers of generated scripts. They rest while the page is hidden, while the visitor has
+ * stopped their effect, and while there is nothing to do; their numbers stay those of the browser.
+ */
+import { make, readCall } from "./calls.js";
+
+/** @typedef {import("./calls.js").Call} Call */
+
+/** Calls that came due while their effect rested, by timer number. @type {Map<number, Call>} */
+const waiting = new Map();
+/** @type {Set<string>} */
+const stopped = new Set();
+/** The calls of running intervals. @type {Map<number, string>} */
+const intervals = new Map();
+/** @type {Set<string>} */
+const seen = new Set();
+
+/** Shortest pauses between two calls of a function, in milliseconds. @type {Map<string, number>} */
+export const shortest = new Map();
+/**
+ * Tells of a function whether its next call may wait until `go`.
+ * @type {Map<string, () => boolean>}
+ */
+export const idle = new Map();
+/**
+ * Called when the intervals of a function begin or end.
+ * @type {Map<string, (runs: boolean) => void>}
+ */
+export const onInterval = new Map();
+
+/** @param {string} name */
+const rests = (name) => document.hidden || stopped.has(name);
+
+/** Whether a timer has named this function, or `note` has. @param {string} name */
+export const hasRun = (name) => seen.has(name);
+
+/** Notes that an effect has started. @param {string} name */
+export const note = (name) => seen.add(name);
+
+/** Lets the timers that call this function rest. @param {string} name */
+export const stop = (name) => stopped.add(name);
+
+/** Lets them go on. @param {string} name */
+export function go(name) {
+    stopped.delete(name);
+    wake();
+}
+
+function wake() {
+    for (const [id, call] of [...waiting]) {
+        if (rests(call.name)) continue;
+        waiting.delete(id);
+        make(call);
+    }
+}
+document.addEventListener("visibilitychange", wake);
+
+/** @param {string} name */
+function tellInterval(name) {
+    onInterval.get(name)?.([...intervals.values()].includes(name));
+}
+
+/** The timer functions that stand in for those of the page. */
+export const timers = {
+    /** @param {any} code @param {number} pause @param {any[]} rest */
+    setTimeout(code, pause, ...rest) {
+        const call = typeof code === "string" && readCall(code);
+        if (!call) return window.setTimeout(code, pause, ...rest);
+        seen.add(call.name);
+        if (idle.get(call.name)?.()) stop(call.name);
+        const id = window.setTimeout(() => {
+            if (rests(call.name)) waiting.set(id, call);
+            else make(call);
+        }, pause);
+        return id;
+    },
+    /** @param {any} code @param {number} pause @param {any[]} rest */
+    setInterval(code, pause, ...rest) {
+        const call = typeof code === "string" && readCall(code);
+        if (!call) return window.setInterval(code, pause, ...rest);
+        seen.add(call.name);
+        const id = window.setInterval(
+            () => {
+                if (!rests(call.name)) make(call);
+            },
+            Math.max(pause, shortest.get(call.name) ?? 0),
+        );
+        intervals.set(id, call.name);
+        tellInterval(call.name);
+        return id;
+    },
+    /** @param {number} id */
+    clearTimeout(id) {
+        waiting.delete(id);
+        window.clearTimeout(id);
+        const name = intervals.get(id);
+        if (name === undefined) return;
+        intervals.delete(id);
+        tellInterval(name);
+    },
+    /** @param {number} id */
+    clearInterval(id) {
+        timers.clearTimeout(id);
+    },
+};

@@ -1,0 +1,62 @@
+/** The pointer as old scripts read it, and the trail of images that follows mouse and finger. */
+import { calm } from "./calm.js";
+import { go, idle } from "./timers.js";
+
+/** @type {any} */
+let told = null;
+let changes = 0;
+let changesBefore = -1;
+
+/** Notes that an old script has moved something. */
+export const changed = () => void changes++;
+
+/** What `window.event` holds for an old script. */
+export const currentEvent = () => told ?? window.event;
+
+const draw = "DrawMouseTrail";
+
+// A trail in which no image moved any more waits for the pointer.
+idle.set(draw, () => {
+    const still = changes === changesBefore;
+    changesBefore = changes;
+    return still;
+});
+
+/**
+ * Calls what an old script wants called when the mouse moves, for a finger too.
+ * @param {any} run
+ */
+export function onMouseMove(run) {
+    if (typeof run !== "function") return;
+    /** @param {MouseEvent | Touch} at */
+    const tell = (at) => {
+        told = {
+            x: at.clientX,
+            y: at.clientY,
+            clientX: at.clientX,
+            clientY: at.clientY,
+            pageX: at.pageX,
+            pageY: at.pageY,
+        };
+        try {
+            run.call(document, told);
+        } finally {
+            told = null;
+        }
+        go(draw);
+    };
+    document.addEventListener("mousemove", tell);
+    for (const kind of /** @type {const} */ (["touchstart", "touchmove"]))
+        document.addEventListener(kind, (event) => tell(event.touches[0]), { passive: true });
+}
+
+/**
+ * Lets clicks through the images of a trail; without motion only the first one follows.
+ * @param {HTMLElement} element
+ */
+export function prepareTrail(element) {
+    const number = /^imgTrail(\d+)$/.exec(element.id);
+    if (!number) return;
+    element.style.pointerEvents = "none";
+    if (calm() && number[1] !== "0") element.style.display = "none";
+}

@@ -1,0 +1,103 @@
+/**
+ * What a page asked of the browser's windows and today's browsers refuse: windows on load and on
+ * exit, closing, favourites. A small box in the page says what the visitor can do instead.
+ */
+import { ownPlace } from "./calm.js";
+
+const look = `
+  .box { position: fixed; top: 12px; right: 12px; max-width: min(22em, 80vw); z-index: 2147483647;
+    font: 14px/1.4 sans-serif; color: #000; background: #fff; border: 1px solid #555;
+    border-radius: 6px; padding: 10px 12px; box-shadow: 0 2px 8px #0006 }
+  .choice { width: auto; height: auto; padding: 4px 10px; margin: 6px 6px 0 0; opacity: 1;
+    font: inherit }`;
+
+/**
+ * Shows a box with words, a button for what can be done and one that closes it.
+ * @param {string} words
+ * @param {{caption: string, run: () => void}} [action]
+ */
+export function showBox(words, action) {
+    const { host, inside } = ownPlace("all:initial", look);
+    const box = document.createElement("div");
+    box.className = "box";
+    box.setAttribute("role", "status");
+    const text = document.createElement("span");
+    box.append(text, document.createElement("br"));
+    /** @param {string} caption @param {() => void} run */
+    const addButton = (caption, run) => {
+        const button = document.createElement("button");
+        button.className = "choice";
+        button.textContent = caption;
+        button.addEventListener("click", () => (host.remove(), run()));
+        box.append(button);
+    };
+    if (action) addButton(action.caption, action.run);
+    addButton("Close", () => {});
+    box.addEventListener("keydown", (event) => event.key === "Escape" && host.remove());
+    inside.append(box);
+    document.documentElement.append(host);
+    // Words that come into a box which is there already are read aloud.
+    setTimeout(() => (text.textContent = words));
+}
+
+/** @param {string} url @param {string} name @param {string} features */
+function offerWindow(url, name, features) {
+    showBox(`This page has a window to show: ${url}`, {
+        caption: "Open it",
+        run: () => window.open(url, name, features),
+    });
+}
+
+/**
+ * Opens a window as `window.open` does; one that the browser blocks is offered in a box.
+ * @param {string} url @param {string} name @param {string} features
+ */
+export function openWindow(url, name, features) {
+    const opened = window.open(url, name, features);
+    if (!opened) offerWindow(url, name, features);
+    return opened;
+}
+
+/**
+ * Offers a window once the visitor is about to leave: the pointer goes out at the top, a key for
+ * leaving is pressed, or the page comes back. While a page goes no browser lets it open one.
+ * @param {string} url @param {string} name @param {string} features
+ */
+export function openOnLeaving(url, name, features) {
+    const done = new AbortController();
+    const offer = () => (done.abort(), offerWindow(url, name, features));
+    /** @param {EventTarget} on @param {string} event @param {(event: any) => any} asks */
+    const when = (on, event, asks) =>
+        on.addEventListener(event, (told) => asks(told) && offer(), { signal: done.signal });
+    when(document.documentElement, "mouseleave", (event) => event.clientY <= 0);
+    when(document, "keydown", (event) => ["Control", "Alt", "Meta"].includes(event.key));
+    when(document, "visibilitychange", () => !document.hidden);
+    when(window, "pageshow", (event) => event.persisted);
+}
+
+const mac = /Mac|iPhone|iPad/.test(navigator.platform);
+
+/** Closes the window, or says how the visitor does when the browser keeps it open. */
+export function closeWindow() {
+    window.close();
+    setTimeout(() => {
+        const key = mac ? "\u2318W" : "Ctrl+W";
+        if (!window.closed) showBox(`A page may not close this window. Press ${key} to close it.`);
+    }, 300);
+}
+
+/**
+ * Says how the visitor keeps a page among the bookmarks.
+ * @param {string} url @param {string} title
+ */
+export function addFavorite(url, title) {
+    const key = mac ? "\u2318D" : "Ctrl+D";
+    const here = new URL(url, document.baseURI).href.replace(/#.*/, "");
+    if (here === location.href.replace(/#.*/, ""))
+        showBox(`Press ${key} to add "${title}" to your bookmarks.`);
+    else
+        showBox(`To bookmark "${title}", open it and press ${key}.`, {
+            caption: "Open it",
+            run: () => void (location.href = url),
+        });
+}

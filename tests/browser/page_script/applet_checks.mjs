@@ -1,0 +1,99 @@
+/** The applets' canvases, at chosen times, against numbers worked out from the rules by hand. */
+import assert from "node:assert/strict";
+import { effect } from "./pages.mjs";
+import { calm, check, recorder, stoppedClock, wait } from "./tools.mjs";
+
+const images = (file) => [effect("Image Effects", file)];
+const still = { before: stoppedClock };
+
+/** Colours are those that are wanted, give or take a little. */
+function near(seen, wanted, by = 2) {
+    const parts = (text) => text.split(/[ ,]/).map(Number);
+    const off = parts(seen).map((part, i) => Math.abs(part - parts(wanted)[i]));
+    assert.ok(Math.max(...off) <= by, `${seen} for ${wanted}`);
+}
+
+export const appletChecks = [
+    check("More Image Effects", "grow from a corner, stay, shrink, and end", async (v) => {
+        await v.show([effect("Image Effects 2", "more_image_effects_expand_shrink_full")], still);
+        await wait(150);
+        const points = "105,70 95,30 150,80";
+        const [orange, blue] = ["255,128,0", "0,0,255"];
+        near(await v.colors(0, points), `${orange} ${orange} ${orange}`);
+        near(await v.colors(755, points), `${blue} ${orange} ${orange}`);
+        near(await v.colors(1600, points), `${blue} ${blue} ${blue}`);
+        near(await v.colors(2755, points), `${blue} ${orange} ${orange}`);
+        near(await v.colors(99999, points), `${orange} ${orange} ${orange}`);
+        assert.equal(await v.button(), null, "no button once it has ended");
+        assert.match(
+            await v.own("a", (a) => `${a.offsetWidth} ${a.offsetHeight} ${a}`),
+            /^200 150 http:/,
+        );
+    }),
+    check("Advanced Animator", "waits for a click, plays a sound, slides", async (v) => {
+        const change = (html) => html.replace(/URL.0 VALUE="[^"]*"/, 'URL.0 VALUE="null"');
+        const au = "\x2esnd\0\0\0\x18\0\0\0\x08\0\0\0\x01\0\0\x1f\x40\0\0\0\x01abcdefgh";
+        const options = { change, before: stoppedClock + recorder, files: { "ding.au": au } };
+        await v.show([effect("Animation", "advanced_animator_full")], options);
+        await wait(250);
+        near(await v.colors(5000, "160,100 5,5"), "255,0,0 255,128,0");
+        assert.match((await v.value(() => window.played)).join(), /^blob:/);
+        const label = await v.own("canvas[role=img]", (canvas) =>
+            canvas.getAttribute("aria-label"),
+        );
+        assert.equal(label, "Animation: a.gif, b.gif, c.gif");
+        await v.own("canvas", (canvas) => canvas.click());
+        near(await v.colors(5000 + 25 * 30 + 5, "214,66 20,100"), "0,0,255 255,128,0");
+    }),
+    check("Typewriter Text", "types, rests, begins again; unmoved it shows all", async (v) => {
+        const typewriter = [effect("Typewriter", "typewriter_full")];
+        await v.show(typewriter, still);
+        await wait(150);
+        const end = 101 * "Welcome tomy home page!Enjoy.".length;
+        const [none, half, all] = [
+            await v.dark(100),
+            await v.dark(101 * 15),
+            await v.dark(end + 1999),
+        ];
+        assert.equal(none, 0);
+        assert.ok(half > 100 && all > half, `${half} ${all}`);
+        assert.equal(await v.dark(end + 2001), 0);
+        await v.show(typewriter, { before: calm });
+        await wait(300);
+        assert.equal(await v.dark(0), all);
+        assert.equal(await v.button(), "Play the moving picture");
+        const gone = (html) => html.replace(/TEXT.0 VALUE="[^"]*"/, "TEXTFILE VALUE=none.txt");
+        await v.show(typewriter, { change: (html) => gone(html).replace("BACKGROUND", "X") });
+        await wait(150);
+        assert.ok((await v.dark(0)) > 100, "words that tell of the missing file");
+    }),
+    check("Image Cube", "turns about its axes with the picture on its faces", async (v) => {
+        await v.show(images("image_effects_cube"), still);
+        await wait(200);
+        const points = "150,100 170,100 150,70 5,5";
+        const front = "129,129,128 193,129,128 129,33,128 10,20,255";
+        near(await v.colors(0, points), front, 3);
+        near(await v.colors(900, points), front, 3);
+        assert.notEqual(await v.colors(450, points), front);
+    }),
+    check("Lake Reflection", "mirrors the picture in moving rows", async (v) => {
+        await v.show(images("image_effects_lake"), still);
+        await wait(200);
+        near(await v.colors(0, "10,20 10,104"), "10,40,0 10,192,0");
+        near(await v.colors(250, "10,104"), "10,190,0");
+        assert.equal(await v.value(() => document.querySelector("applet > img").offsetWidth), 0);
+    }),
+    check("Image Ripple", "moves the picture's points along the waves", async (v) => {
+        await v.show(images("image_effects_ripple"), still);
+        await wait(200);
+        near(await v.colors(0, "174,50"), "255,50,0");
+        near(await v.colors(625, "174,50"), "0,50,0");
+    }),
+    check("Image Fade", "mixes two pictures, with the link of the one that stands", async (v) => {
+        await v.show([effect("Image Fade", "image_fade_two_images")], still);
+        await wait(150);
+        near(await v.colors(2637, "5,5"), "136,0,119");
+        near(await v.colors(2780, "5,5"), "0,0,255");
+        assert.match(await v.own("a", (a) => a.href), /^http:/);
+    }),
+];

@@ -1,0 +1,261 @@
+/** Images, windows, buttons and forms; starts, frames, and the author's own scripts. */
+import assert from "node:assert/strict";
+import { effect, page, row, text } from "./pages.mjs";
+import { calm, check, recorder, stoppedClock, wait } from "./tools.mjs";
+
+const brighten = effect("Image Effects", "image_effects_brighten_gradual");
+const slides = effect("Slideshow", "slideshow_full");
+const bare = effect("Slideshow", "slideshow_bare");
+const trail = { name: "Mouse Cursor Trail", head: text("cursor_trail.html") };
+const button = effect("Dynamic Button", "dynamic_button_full");
+const ticker = effect("Status Bar Scroller", "status_bar_ticker");
+const loads = 'onLoad="loadImages()"';
+const popup = (kind) => ({ name: "Popup Window", body: row("popup_window_lines.tsv", kind) });
+const allInOne = (action, file) => ({
+    name: "All-in-One Button",
+    head: text(`all_in_one_button_${file}_head.html`),
+    body:
+        row("all_in_one_button_lines.tsv", action, 2) +
+        (file === "sound" ? '\r\n<BGSOUND SRC="" ID="soundfile">' : ""),
+});
+const opacity = (v) => v.value(() => Number(getComputedStyle(document.images[0]).opacity));
+
+/**
+ * Where the new picture is seen a little past half of the time, by transition: at the left, right,
+ * top and bottom edges and in the centre; "?" where chance has a say.
+ */
+const uncovered = [
+    "LRTB",
+    "C",
+    "LRTB",
+    "C",
+    "LRBC",
+    "LRTC",
+    "LTBC",
+    "RTBC",
+    "LTBC",
+    "LRTC",
+    "LTC",
+    "LTC",
+    "?",
+    "LR",
+    "TBC",
+    "TB",
+    "LRC",
+    "RTC",
+    "RBC",
+    "LTC",
+    "LBC",
+    "?",
+    "?",
+    "?",
+];
+
+function uncoveredPoints(path) {
+    const points = { L: [3, 41], R: [97, 41], T: [51, 3], B: [51, 77], C: [51, 41] };
+    const pen = document.createElement("canvas").getContext("2d");
+    const covers = (point) => pen.isPointInPath(new Path2D(path), ...point, "evenodd");
+    return Object.keys(points)
+        .filter((name) => !covers(points[name]))
+        .join("");
+}
+
+export const pageChecks = [
+    check("Image Brighten", "brightens under mouse and focus, and dims again", async (v) => {
+        await v.show([brighten], { marks: false });
+        assert.equal(await opacity(v), 0.3);
+        await v.show([brighten]);
+        assert.equal(await opacity(v), 0.3);
+        await v.tab.mouse.move(30, 30);
+        await wait(250);
+        const between = await opacity(v);
+        assert.ok(between > 0.3 && between < 1, `gradually: ${between}`);
+        await wait(900);
+        assert.equal(await opacity(v), 1);
+        await v.tab.mouse.move(600, 500);
+        assert.equal(await opacity(v), 0.3);
+        await v.tab.keyboard.press("Tab");
+        await wait(200);
+        assert.ok((await opacity(v)) > 0.3, "by the keyboard");
+    }),
+    check("Slideshow", "uncovers the next picture; its buttons stay", async (v) => {
+        await v.show([slides], { attributes: loads });
+        await wait(200);
+        const at = await v.tab.url();
+        await v.tab.click("#btnNext");
+        await wait(400);
+        assert.match(await v.value(() => oImg.src), /b\.gif$/);
+        assert.match(await v.own("img", (img) => img.style.clipPath), /^path\(/);
+        await wait(1100);
+        assert.equal(await v.own("img", () => true), null, "the old picture is gone");
+        assert.equal(await v.tab.url(), at);
+        await v.tab.click("#btnPlay");
+        await wait(50);
+        assert.equal(await v.button(), "Pause the slideshow");
+    }),
+    check("Slideshow", "uncovers as each transition says", async (v) => {
+        for (const [kind, wanted] of uncovered.entries()) {
+            const head = slides.head.replace(/transition=\d+/, `transition=${kind}`);
+            await v.show([{ ...slides, head }], { attributes: loads, before: stoppedClock });
+            await v.value(async () => {
+                await mypix[1].decode();
+                doTrans(1);
+                turn(550);
+                const drawn = () => new Promise((done) => requestAnimationFrame(done));
+                await drawn().then(drawn);
+            });
+            const path = await v.own("img", (img) => /"(.*)"/.exec(img.style.clipPath)[1]);
+            const seen = await v.value(uncoveredPoints, path);
+            if (wanted !== "?") assert.equal(seen, wanted, `transition ${kind}: ${path}`);
+        }
+    }),
+    check("Slideshow", "starts beside an onload of the author's", async (v) => {
+        const head = bare.head.replace(/5000/, "100");
+        await v.show([{ ...bare, head }, ticker], {
+            attributes: `onload="window.own = 1" ${loads}`,
+        });
+        await wait(700);
+        assert.equal(await v.value(() => window.own), 1);
+        assert.doesNotMatch(await v.value(() => oImg.src), /a\.jpg$/);
+        assert.match(await v.words(".shown"), /Welcome/);
+        await v.show([{ ...bare, head }], { attributes: loads, before: calm });
+        await wait(700);
+        assert.match(await v.value(() => oImg.src), /a\.jpg$/);
+        assert.equal(await v.button(), "Play the slideshow");
+    }),
+    check("Mouse Cursor Trail", "follows the mouse on a scrolled page, then rests", async (v) => {
+        await v.show([trail], { authorBody: "<div style='height:3000px;width:50px'></div>" });
+        await v.value(() => scrollTo(0, 500));
+        await v.tab.mouse.move(300, 200);
+        await wait(900);
+        const place = (n) =>
+            v.value((id) => `${window[id].offsetLeft} ${window[id].offsetTop}`, `imgTrail${n}`);
+        assert.equal(await place(0), "310 710");
+        assert.equal(await place(2), "310 710");
+        if (await v.value(() => "TouchEvent" in window)) {
+            await v.tab.touchscreen.tap(100, 50);
+            await wait(900);
+            assert.equal(await place(0), "110 560");
+        }
+        await v.value(() => (window.DrawMouseTrail = () => (window.drawn = true)));
+        await wait(300);
+        assert.equal(await v.value(() => window.drawn), undefined);
+    }),
+    check("Dynamic Button", "changes its picture and plays its sounds", async (v) => {
+        await v.show([button], { before: recorder });
+        await v.tab.mouse.move(20, 15);
+        await wait(100);
+        assert.match(await v.value(() => document.images[0].src), /over\.gif$/);
+        assert.match((await v.value(() => window.played)).join(), /hover\.wav$/);
+    }),
+    check("Popup Window", "on load: a blocked one is offered in a box", async (v) => {
+        const features = /window\.open[^"]*/.exec(popup("load").body)[0];
+        for (const options of [
+            { attributes: `onLoad="${features}"` },
+            {
+                attributes: 'onload="window.own = 1"',
+                script: `<script src=orvane.js data-onload="${features}"></script>`,
+            },
+        ]) {
+            await v.show([popup("load")], {
+                ...options,
+                before: recorder + "window.blocks = true;",
+            });
+            await wait(100);
+            assert.equal((await v.value(() => window.opened)).length, 1);
+            assert.match(await v.words("[role=status]"), /news\.html/);
+            await v.own(".choice", (choice) => choice.click());
+            assert.equal((await v.value(() => window.opened)).length, 2);
+            assert.equal(await v.words("[role=status]"), null);
+        }
+    }),
+    check("Popup Window", "on exit: offered when the pointer leaves", async (v) => {
+        await v.show([popup("exit")], { before: recorder });
+        await wait(50);
+        assert.equal(await v.words("[role=status]"), null);
+        await v.value(() =>
+            document.documentElement.dispatchEvent(new MouseEvent("mouseleave", { clientY: -1 })),
+        );
+        await wait(50);
+        assert.match(await v.words("[role=status]"), /bye\.html/);
+    }),
+    check("All-in-One Button", "plays, bookmarks and closes, or says how", async (v) => {
+        const press = () => v.tab.click("input[type=button], body a");
+        await v.show([allInOne("Play a sound", "sound")], { before: recorder });
+        await press();
+        assert.match((await v.value(() => window.played)).join(), /ding\.wav$/);
+        await v.show([allInOne("Add current Web page to Favorites/Bookmarks", "favorites")]);
+        await press();
+        await wait(50);
+        assert.match(await v.words("[role=status]"), /My page.*Ctrl\+D/);
+        await v.show([allInOne("Close the current browser window", "close")], {
+            before: "window.close = () => {};",
+        });
+        await press();
+        await wait(500);
+        assert.match(await v.words("[role=status]"), /Ctrl\+W/);
+    }),
+    check("Alerts, gate, menu, mail link, forms", "go on as they do", async (v) => {
+        const asked = [];
+        v.tab.on("dialog", (dialog) => (asked.push(dialog.message()), dialog.accept("bob")));
+        const effects = [
+            effect("Popup Alert", "popup_alert_simple"),
+            effect("Popup Alert", "popup_alert_prompt"),
+            effect("Pulldown Menu", "pulldown_dropdown"),
+            {
+                name: "AntiSpam Email Protection",
+                head: text("mail_link_head.html"),
+                body: row("mail_link_lines.tsv", "text"),
+            },
+        ];
+        await v.show(effects);
+        assert.equal(asked.length, 2);
+        const there = await v.value(() => [
+            typeof SendEmail,
+            typeof JumpTo,
+            document.body.textContent.includes("bob"),
+        ]);
+        assert.deepEqual(there, ["function", "function", true]);
+    }),
+    check("The author's own scripts", "see the browser as it is", async (v) => {
+        const see =
+            "[typeof document.all, navigator.appName, 'pixelTop' in document.head.style," +
+            "String(document.onmousemove), window.onload === null, String(window.setTimeout)]";
+        const author = (id) => `<script>window.${id} = ${see}; var mine = 1;</script>`;
+        const seen = [];
+        for (const script of ["", "<SCRIPT SRC='orvane.js'></SCRIPT>"]) {
+            await v.show([ticker], {
+                script,
+                authorHead: author("one"),
+                authorBody: author("two"),
+                slow: 97,
+            });
+            seen.push(await v.value(() => [window.one, window.two, window.mine]));
+        }
+        assert.deepEqual(seen[0], seen[1]);
+        await wait(300);
+        assert.match(await v.words(".shown"), /Welcome/);
+    }),
+    check("A strict policy", "lets effects run as far as it lets them", async (v) => {
+        const policy = "script-src 'self' 'unsafe-inline'; style-src 'self'";
+        const meta = `<meta http-equiv=Content-Security-Policy content="${policy}">`;
+        const script = meta + "<script src=orvane.js></script>";
+        await v.show([ticker], { script, attributes: 'onLoad="scrollit_r2l(99)"' });
+        await wait(500);
+        const strip = await v.own(".strip", (strip) => getComputedStyle(strip).position);
+        assert.equal(strip, "fixed");
+        assert.match(await v.words(".shown"), /^ {50,96}Welcome/);
+    }),
+    check("Pages in frames", "run their effects", async (v) => {
+        const framed = page({ effects: [brighten, ticker], doctype: v.doctype });
+        const frames = "<FRAMESET COLS='50%,50%'><FRAME><FRAME SRC='framed.html'></FRAMESET>";
+        await v.show([], { change: () => frames, files: { "framed.html": framed } });
+        await wait(200);
+        const frame = v.tab.frames()[2];
+        assert.equal(
+            await frame.evaluate(() => getComputedStyle(document.images[0]).opacity),
+            "0.3",
+        );
+        assert.match(await v.words(".shown", frame), /Welcome/);
+    }),
+];

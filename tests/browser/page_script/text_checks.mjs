@@ -1,0 +1,129 @@
+/** Texts that move, tell the time or point things out. */
+import assert from "node:assert/strict";
+import { effect } from "./pages.mjs";
+import { calm, check, wait } from "./tools.mjs";
+
+const starts = 'onLoad="scrollit_r2l(99)"';
+const ticker = effect("Status Bar Scroller", "status_bar_ticker");
+const scroller = effect("Vertical Scrolling Text", "vertical_scroller_bare");
+const clock = effect("DigitalClock", "digital_clock_both_day_of_week");
+const tooltip = effect("Tooltip", "tooltip_text");
+
+export const textChecks = [
+    check("Status Bar Text Ticker", "moves in a strip that lets clicks through", async (v) => {
+        await v.show([ticker], {
+            attributes: starts,
+            authorBody: "<a href='#x' id=low style='position:fixed;left:200px;bottom:2px'>low</a>",
+        });
+        await wait(350);
+        const first = await v.words(".shown");
+        await wait(400);
+        const later = await v.words(".shown");
+        assert.match(first, /^ {80,}Welcome to my page!$/);
+        assert.ok(later.length < first.length);
+        assert.equal(await v.words(".words"), "Welcome to my page!");
+        const at = await v.value(() => {
+            const box = low.getBoundingClientRect();
+            return document.elementFromPoint(box.x + 3, box.y + 3).id;
+        });
+        assert.equal(at, "low");
+    }),
+    check("Status Bar Text Ticker", "stands still and whole when motion is unwanted", async (v) => {
+        await v.show([ticker], { attributes: starts, before: calm });
+        await wait(500);
+        assert.equal(await v.words(".shown"), "Welcome to my page!");
+        await v.tab.keyboard.press("Tab");
+        await v.tab.keyboard.press("Enter");
+        await wait(600);
+        assert.equal(await v.button(), "Pause the moving text");
+    }),
+    check("Vertical Scrolling Text", "has its size, moves up, and can be stopped", async (v) => {
+        await v.show([scroller], { attributes: 'onLoad="moveSpan()"' });
+        const top = () => v.value(() => parseInt(spnOne.style.top));
+        const box = await v.value(() => [divContainer.offsetWidth, divContainer.offsetHeight]);
+        const sizes = /width:(\d+); height:(\d+)/.exec(scroller.body);
+        assert.deepEqual(box, [Number(sizes[1]), Number(sizes[2])]);
+        const first = await top();
+        await wait(600);
+        assert.ok((await top()) < first, "moves");
+        await v.own("button", (button) => button.click());
+        const still = await top();
+        await wait(400);
+        assert.equal(await top(), still, "the button stops it");
+    }),
+    check("Vertical Scrolling Text", "shows its message when motion is unwanted", async (v) => {
+        await v.show([scroller], { attributes: 'onLoad="moveSpan()"', before: calm });
+        const place = () =>
+            v.value(
+                () => divContainer.getBoundingClientRect().y - spnOne.getBoundingClientRect().y,
+            );
+        await wait(300);
+        const first = await place();
+        assert.ok(Math.abs(first) < 5, `${first}`);
+        await wait(300);
+        assert.equal(await place(), first);
+        assert.equal(await v.button(), "Play the scrolling text");
+    }),
+    check(
+        "Vertical Scrolling Text",
+        "goes at its speed after mouse and focus have left",
+        async (v) => {
+            const link = '<a href="#x" id=link>more</a>';
+            const body = scroller.body
+                .replace("<nobr>", `<nobr>${link}`)
+                .replace("top:150", "top:60");
+            await v.show([{ ...scroller, body }], { attributes: 'onLoad="moveSpan()"' });
+            await v.value(() => {
+                window.steps = 0;
+                const step = window.moveSpan;
+                window.moveSpan = () => (steps++, step());
+                link.focus();
+                spnOne.dispatchEvent(new MouseEvent("mouseover"));
+                spnOne.dispatchEvent(new MouseEvent("mouseout"));
+                link.blur();
+            });
+            await wait(500);
+            const speed = Number(/speed = (\d+)/.exec(scroller.head)[1]);
+            const steps = await v.value(() => window.steps);
+            assert.ok(steps > 2 && steps <= 500 / speed + 8, `${steps} steps of ${speed} ms`);
+        },
+    ),
+    check("Digital Clock", "shows the time; other effects start beside it", async (v) => {
+        await v.show([ticker, clock], { attributes: starts });
+        await wait(300);
+        const seen = await v.value(() => [
+            spnClock.textContent,
+            getComputedStyle(spnClock).paddingTop,
+        ]);
+        assert.match(seen[0], /^\w+day, \d+\/\d+\/\d{4}/);
+        assert.equal(seen[1], "5px");
+        assert.match(await v.words(".shown"), /Welcome/);
+    }),
+    check("Tooltips", "come up at the pointer, and by the keyboard", async (v) => {
+        await v.show([tooltip], { authorBody: "<div style='height:2000px'></div>" });
+        const spot = await v.value(() => {
+            const words = document.querySelector("[onmousemove]");
+            words.style.cssText = "position:absolute;top:900px;left:50px";
+            scrollTo(0, 700);
+            const { x, y } = words.getBoundingClientRect();
+            return [x + 4, y + 4];
+        });
+        await v.tab.mouse.move(...spot);
+        await wait(100);
+        const shown = await v.value(() => {
+            const { x, bottom, width } = box1.getBoundingClientRect();
+            return [getComputedStyle(box1).visibility, x, bottom, width > 100];
+        });
+        assert.equal(shown[0], "visible");
+        assert.ok(
+            Math.abs(shown[1] - spot[0] - 10) < 2 && Math.abs(shown[2] - spot[1]) < 2,
+            `${shown} at ${spot}`,
+        );
+        assert.ok(shown[3], "its width");
+        await v.tab.mouse.move(700, 500);
+        await wait(50);
+        assert.equal(await v.value(() => box1.style.visibility), "hidden");
+        await v.tab.keyboard.press("Tab");
+        assert.equal(await v.value(() => box1.style.visibility), "visible");
+    }),
+];

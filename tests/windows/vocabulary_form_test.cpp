@@ -1,0 +1,226 @@
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+#include "windows/number_box.h"
+#include "windows/page_builder.h"
+#include "windows/qt_text.h"
+#include "windows/row_list_panel.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+/// A window of some rows.
+class VocabularyTest : public ::testing::Test
+{
+protected:
+    void Show()
+    {
+        SetReadingOrder(m_window);
+        m_window.show();
+        m_window.activateWindow();
+        LetRun();
+    }
+
+    Text TextIn(const char* name) { return WordsOf(m_window, name); }
+
+    FakeDesk m_desk;
+    QDialog m_window;
+    PageBuilder m_page{&m_window, &m_desk.Bench};
+};
+
+TEST_F(VocabularyTest, FontDialogFillsTheThreeFieldsAndTypedFontsStayAsTheyAre)
+{
+    m_page.FontRow();
+    Show();
+    EXPECT_TRUE(TextIn("cboFont") == u"Arial");
+    for (const auto& [name, text] : std::vector<std::pair<const char*, TextView>>{
+             {"cboFont", u"arial"}, {"cboFontSize", u"1"}, {"cboFontStyle", u"Bold"}}) {
+        auto* box = Find<QComboBox>(m_window, name);
+        box->setFocus();
+        Press(*box, Qt::Key_A, Qt::ControlModifier);
+        Type(m_window, name, text);
+        Find<QWidget>(m_window, "cmdMoreFonts")->setFocus();
+        EXPECT_EQ(TextIn(name), text);
+    }
+    m_desk.Dialogs.AnswerFont({u"Serif Sans", u"13", true, true});
+    Click(m_window, "cmdMoreFonts");
+    EXPECT_EQ(m_desk.Dialogs.FontStarts, (std::vector<FontChoice>{{u"arial", u"1", true, false}}));
+    EXPECT_EQ(TextIn("cboFont"), u"Serif Sans");
+    EXPECT_EQ(TextIn("cboFontSize"), u"13");
+    EXPECT_EQ(TextIn("cboFontStyle"), u"Bold Italic");
+}
+
+TEST_F(VocabularyTest, AComboBoxGoesOnFromTheItemOfItsText)
+{
+    static constexpr std::array<TextView, 3> items = {u"one", u"two", u"three"};
+    QComboBox* box = m_page.ComboBox("cbo", u"Number:", items, true);
+    SetComboText(*box, u"two");
+    Show();
+    Press(*box, Qt::Key_Down);
+    EXPECT_EQ(TextIn("cbo"), u"three");
+    SetComboText(*box, u"TWO");
+    EXPECT_EQ(box->currentIndex(), -1);
+    EXPECT_EQ(TextIn("cbo"), u"TWO");
+}
+
+TEST_F(VocabularyTest, NumbersStepWithinTheirBoundsAndTakeAnyText)
+{
+    m_page.NumberBox("txt", u"Padding:", 0, 50)->setText(QStringLiteral("2"));
+    Show();
+    Press(*Find<QWidget>(m_window, "txt"), Qt::Key_Up);
+    EXPECT_EQ(TextIn("txt"), u"3");
+    Click(m_window, "txtDown");
+    EXPECT_EQ(TextIn("txt"), u"2");
+    Find<QLineEdit>(m_window, "txt")->setText(QStringLiteral("50em"));
+    Click(m_window, "txtUp");
+    EXPECT_EQ(TextIn("txt"), u"50");
+}
+
+TEST_F(VocabularyTest, ATextBoxTakesWhateverLength)
+{
+    QLineEdit* box = m_page.TextBox("txt", u"Text:");
+    box->setText(QString(100'000, u'x'));
+    EXPECT_EQ(box->text().size(), 100'000);
+}
+
+TEST_F(VocabularyTest, AClickOnADescriptionSelectsItsOption)
+{
+    m_page.Option("opt", 0, u"First", u"Words of the first");
+    m_page.Option("opt", 1, u"Second", u"Words of the second");
+    Show();
+    for (QLabel* label : m_window.findChildren<QLabel*>()) {
+        const QPointF middle = label->rect().center();
+        QMouseEvent press(QEvent::MouseButtonPress, middle, label->mapToGlobal(middle),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        if (label->text() == QStringLiteral("Words of the second"))
+            QApplication::sendEvent(label, &press);
+    }
+    EXPECT_TRUE(Find<QRadioButton>(m_window, "opt(1)")->isChecked());
+}
+
+TEST_F(VocabularyTest, BrowseFillsALockedFieldAndRefusesABlank)
+{
+    m_page.LockedBrowseRow("txtImage", u"Image:", {},
+                           {.Button = "cmdBrowse",
+                            .Caption = u"Browse...",
+                            .Request = {.Title = u"Open", .Filter = u"All|*.*"},
+                            .NoBlanks = FileRole::Image,
+                            .Slot = 3});
+    Show();
+    Type(m_window, "txtImage", u"x");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    Press(*m_window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmdBrowse"));
+
+    m_desk.Dialogs.AnswerOpenFile(u"/my pics/a.gif");
+    Click(m_window, "cmdBrowse");
+    m_desk.Dialogs.AnswerOpenFile(std::nullopt);
+    Click(m_window, "cmdBrowse");
+    m_desk.Dialogs.AnswerOpenFile(u"/my pics/a b.gif");
+    Click(m_window, "cmdBrowse");
+    EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
+    EXPECT_EQ(TextIn("txtImage"), u"a.gif");
+    EXPECT_EQ(m_desk.Core.Required.Sources[3], u"/my pics/a.gif");
+    EXPECT_EQ(m_desk.Dialogs.Requests.at(0).Filter, u"All|*.*");
+}
+
+TEST_F(VocabularyTest, AComplaintWithoutAControlLeavesTheFocusWhereItWas)
+{
+    m_page.TextBox("txt", u"Text:");
+    m_page.Buttons({m_page.Button("cmd", u"Go")});
+    Show();
+    Find<QWidget>(m_window, "cmd")->setFocus();
+    Report(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = {}});
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmd"));
+    Report(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = "txt"});
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("txt"));
+}
+
+TEST_F(VocabularyTest, AHiddenRowTakesItsLabelAlong)
+{
+    QLineEdit* box = m_page.TextBox("txt", u"Text:", {}, u"pixels");
+    Show();
+    ShowRow(box, false);
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_FALSE(LabelOf(box)->isVisible());
+    ShowRow(box, true);
+    EXPECT_TRUE(LabelOf(box)->isVisible());
+}
+
+constexpr std::array<RowButton, 5> rowButtons = {{{RowCommand::Add, "cmdAdd", u"Add"},
+                                                  {RowCommand::Edit, "cmdEdit", u"Edit"},
+                                                  {RowCommand::Remove, "cmdRemove", u"Remove"},
+                                                  {RowCommand::MoveUp, "cmdUp", u"Up"},
+                                                  {RowCommand::MoveDown, "cmdDown", u"Down"}}};
+constexpr RowListWords rowWords = {u"edit empty",  u"edit none", u"remove empty",
+                                   u"remove none", u"cannot up", u"cannot down"};
+
+class RowListPanelTest : public VocabularyTest
+{
+protected:
+    RowListPanelTest()
+    {
+        m_page.Fill(&m_rows);
+        QObject::connect(&m_rows, &RowListPanel::EditWanted, [this] { ++m_edits; });
+        Show();
+    }
+
+    RowListPanel& m_rows = *new RowListPanel({{"lstItems", u"Items:"}, {"lstLinks", u"Links:"}},
+                                             rowWords, rowButtons, m_desk.Dialogs);
+    int m_edits = 0;
+};
+
+TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
+{
+    EXPECT_FALSE(Find<QWidget>(m_window, "cmdEdit")->isEnabled());
+    emit Find<ActingList>(m_window, "lstItems")->DoubleClicked();
+    m_rows.AddRow({u"a", u""});
+    m_rows.AddRow({u"b\r\nsecond line", u"b.html"});
+    for (const char* button : {"cmdEdit", "cmdRemove", "cmdUp", "cmdDown"})
+        Click(m_window, button);
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              (std::vector<Text>{u"edit empty", u"edit none", u"remove none", u"cannot up",
+                                 u"cannot down"}));
+    EXPECT_EQ(Find<ActingList>(m_window, "lstItems")->item(1)->text(), QStringLiteral("b"));
+
+    auto* links = Find<ActingList>(m_window, "lstLinks");
+    links->setCurrentRow(1);
+    Click(m_window, "cmdEdit");
+    Press(*links, Qt::Key_Return);
+    EXPECT_EQ(m_edits, 2);
+    Click(m_window, "cmdUp");
+    EXPECT_EQ(m_rows.Column("lstItems"), (std::vector<Text>{u"b\r\nsecond line", u"a"}));
+    Click(m_window, "cmdUp");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"cannot up"});
+    Press(*links, Qt::Key_Delete);
+    EXPECT_EQ(m_rows.Column("lstLinks"), std::vector<Text>{u""});
+    EXPECT_EQ(m_rows.Rows().Selected, 0u);
+    Click(m_window, "cmdRemove");
+    EXPECT_FALSE(Find<QWidget>(m_window, "cmdRemove")->isEnabled());
+}
+
+TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
+{
+    m_rows.AddRow({u"a", u"1"});
+    m_rows.AddRow({u"b", u"2"});
+    auto* items = Find<ActingList>(m_window, "lstItems");
+    items->setFocus(Qt::TabFocusReason);
+    Press(*items, Qt::Key_Down);
+    EXPECT_EQ(m_rows.Rows().Selected, 0u);
+    Press(*items, Qt::Key_Down);
+    EXPECT_EQ(m_rows.Rows().Selected, 1u);
+    EXPECT_EQ(Find<ActingList>(m_window, "lstLinks")->SelectedRow(), 1);
+    Press(*items, Qt::Key_Tab);
+    EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmdAdd"));
+}
+
+} // namespace
+} // namespace orvane
