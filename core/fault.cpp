@@ -11,6 +11,8 @@ TextView Words(Fault fault)
         return u"Invalid procedure call or argument";
     case Fault::Overflow:
         return u"Overflow";
+    case Fault::OutOfMemory:
+        return u"Out of memory";
     case Fault::SubscriptOutOfRange:
         return u"Subscript out of range";
     case Fault::TypeMismatch:
@@ -48,6 +50,8 @@ Fault FaultOf(const std::error_code& error)
         return Fault::PermissionDenied;
     if (is(std::errc::is_a_directory) || is(std::errc::file_exists))
         return Fault::PathFileAccess;
+    if (is(std::errc::not_enough_memory))
+        return Fault::OutOfMemory;
     if (is(std::errc::no_space_on_device) || error.value() == EDQUOT ||
         is(std::errc::file_too_large))
         return Fault::DiskFull;

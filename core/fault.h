@@ -12,6 +12,7 @@ enum class Fault
 {
     InvalidProcedureCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
     BadFileName = 52,

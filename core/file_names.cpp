@@ -46,14 +46,6 @@ TextView GetFileName(TextView path)
     return path.substr(LastSeparator(path));
 }
 
-Outcome<Text> GetPath(TextView path)
-{
-    const std::size_t last = LastSeparator(path);
-    if (last == 0)
-        return Fault::InvalidProcedureCall;
-    return Text(Left(path, last - 1));
-}
-
 TextView FolderOf(TextView path)
 {
     return Left(path, LastSeparator(path));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/fault.h"
 #include "core/text.h"
 
 namespace orvane {
@@ -13,9 +12,6 @@ std::size_t LastSeparator(TextView path);
 
 /// The name behind the last separator; the whole text when there is none.
 TextView GetFileName(TextView path);
-
-/// What stands before the last separator; InvalidProcedureCall when there is none.
-Outcome<Text> GetPath(TextView path);
 
 /// The part through the last separator, which it keeps; empty when there is none.
 TextView FolderOf(TextView path);

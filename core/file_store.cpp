@@ -4,16 +4,16 @@
 
 namespace orvane {
 
-Done MakeFolders(FileStore& files, TextView path)
+Done MakeFolders(FileStore& files, TextView path, Access access)
 {
     if (path.empty() || files.FolderExists(path))
         return {};
     if (const std::size_t last = LastSeparator(path); last > 1) {
-        const Done parent = MakeFolders(files, Left(path, last - 1));
+        const Done parent = MakeFolders(files, Left(path, last - 1), access);
         if (FaultIn(parent))
             return parent;
     }
-    return files.MakeFolder(path);
+    return files.MakeFolder(path, access);
 }
 
 } // namespace orvane

@@ -3,11 +3,19 @@
 #include "core/fault.h"
 #include "core/text.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orvane {
+
+/// Who may look into a folder that is made.
+enum class Access
+{
+    AsUsual,
+    OwnerAlone,
+};
 
 /// The one door to the disk. Paths are texts; contents are bytes as they lie in the file.
 class FileStore
@@ -18,21 +26,45 @@ public:
     /// True when the path can be opened for reading and is no folder.
     virtual bool FileExists(TextView path) const = 0;
 
-    /// The whole content of a file. A missing file is FileNotFound, a missing folder PathNotFound.
+    /// True when a file or a link lies under the name, even one that cannot be read or leads
+    /// nowhere.
+    virtual bool IsTaken(TextView path) const = 0;
+
+    /// True when both paths lead to one file.
+    virtual bool AreOneFile(TextView path, TextView other) const = 0;
+
+    /// The whole content of a file. A missing file is FileNotFound, a missing folder PathNotFound,
+    /// one of more than 512 MB OutOfMemory.
     virtual Outcome<std::string> Read(TextView path) const = 0;
 
     /// Makes the file hold these bytes: at every moment, and after any failure, it holds the old
     /// bytes or the new ones. Links are followed, permissions kept.
     [[nodiscard]] virtual Done Replace(TextView path, std::string_view bytes) = 0;
 
-    /// Gives `to` the content of `from`, as Replace() would.
+    /// Does what Replace() does if the file holds `old` until directly before; gives false, the
+    /// file as it was, when it holds anything else or is gone.
+    [[nodiscard]] virtual Outcome<bool> Exchange(TextView path, std::string_view old,
+                                                 std::string_view bytes) = 0;
+
+    /// Puts a new file with these bytes under the name. A link that lies there is not followed, and
+    /// a file that has other names keeps its content under them. Nobody may do more with the new
+    /// file than with the file `like`, or, where that is empty, the one that it takes the place of.
+    [[nodiscard]] virtual Done PutNew(TextView path, std::string_view bytes,
+                                      TextView like = {}) = 0;
+
+    /// Puts a new file with the content of `from` under the name `to`, as PutNew() would; nothing
+    /// is done when both are one file.
     [[nodiscard]] virtual Done Copy(TextView from, TextView to) = 0;
 
     /// Removes a file; a missing one is FileNotFound.
     [[nodiscard]] virtual Done Remove(TextView path) = 0;
 
     /// Creates one folder whose parent exists.
-    [[nodiscard]] virtual Done MakeFolder(TextView path) = 0;
+    [[nodiscard]] virtual Done MakeFolder(TextView path, Access access = Access::AsUsual) = 0;
+
+    /// Keeps other programs that call this for the folder waiting until the result is gone. Null
+    /// where that cannot be done.
+    [[nodiscard]] virtual std::shared_ptr<const void> Hold(TextView folder) = 0;
 
     /// The names of the files in a folder, links to files included, sorted ignoring case; empty
     /// when it cannot be read.
@@ -47,6 +79,6 @@ public:
 };
 
 /// Makes a folder and those above it that are missing.
-[[nodiscard]] Done MakeFolders(FileStore& files, TextView path);
+[[nodiscard]] Done MakeFolders(FileStore& files, TextView path, Access access = Access::AsUsual);
 
 } // namespace orvane

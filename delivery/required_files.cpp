@@ -103,7 +103,7 @@ Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextVi
     if (source.empty())
         return Miss(desk, folder, name, missing);
     const Text destination = Join({folder, name});
-    if (desk.Files.FileExists(destination)) {
+    if (desk.Files.IsTaken(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
         if (EqualIgnoringCase(destination, source) || !MayOverwrite(desk.Dialogs, name))
             return {};
@@ -140,7 +140,7 @@ bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, 
         return true;
     // A folder that cannot be listed may hold the name all the same.
     const bool isThere =
-        IsListed(desk.Files.Files(toFolder), name) || desk.Files.FileExists(destination);
+        IsListed(desk.Files.Files(toFolder), name) || desk.Files.IsTaken(destination);
     if (isThere && !MayOverwrite(desk.Dialogs, name))
         return false;
     const Done done = desk.Files.Copy(source, destination);
@@ -240,8 +240,8 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         u"Orvane special effect that you previously created.",
         u"Do you wish to overwrite this with the new ovtemp.html file that controls the current "
         u"special effect?");
-    if (!desk.Files.FileExists(page) || desk.Dialogs.Ask(question)) {
-        const Done done = desk.Files.Replace(page, NewPageBytes(desk.Payload));
+    if (!desk.Files.IsTaken(page) || desk.Dialogs.Ask(question)) {
+        const Done done = desk.Files.PutNew(page, NewPageBytes(desk.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
         WriteDownCopied(desk, target, u"ovtemp.html");

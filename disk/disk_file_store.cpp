@@ -14,8 +14,6 @@ namespace orvane {
 
 namespace {
 
-constexpr int linkLimit = 40;
-
 /// The bytes of a path; empty when no file can have it.
 std::string PathBytes(TextView path)
 {
@@ -38,14 +36,6 @@ mode_t KindOf(unsigned char entryType)
     return DTTOIF(entryType);
 }
 
-/// Puts a file with the bytes of `old` in the place that `file` has taken from it.
-void PutBack(const OpenFile& old, NewFile& file)
-{
-    std::string bytes;
-    if (!old.ReadAll(bytes))
-        std::ignore = file.Put(bytes);
-}
-
 void SortIgnoringCase(std::vector<Text>& names)
 {
     std::vector<std::pair<Text, Text>> keyed;
@@ -59,22 +49,35 @@ void SortIgnoringCase(std::vector<Text>& names)
 
 } // namespace
 
-DiskFileStore::DiskFileStore(Disk& disk, TextView stateFolder)
-    : m_disk(disk), m_inPlace(disk, FolderBytes(stateFolder))
+DiskFileStore::DiskFileStore(SystemCalls& calls, TextView stateFolder)
+    : m_calls(calls), m_files(calls, FolderBytes(stateFolder))
 {
 }
 
 bool DiskFileStore::FileExists(TextView path) const
 {
-    OpenFile file(m_disk);
+    FileHandle file(m_calls);
     return !file.OpenRegular(PathBytes(path), O_RDONLY);
+}
+
+bool DiskFileStore::IsTaken(TextView path) const
+{
+    std::string target;
+    const std::string name = PathBytes(path);
+    const auto error = Retried([&] { return m_calls.ReadLink(name, target); });
+    return !error || (error == std::errc::invalid_argument && !FolderExists(path));
+}
+
+bool DiskFileStore::AreOneFile(TextView path, TextView other) const
+{
+    return AreSame(PathBytes(path), PathBytes(other));
 }
 
 Outcome<std::string> DiskFileStore::Read(TextView path) const
 {
     const std::string name = PathBytes(path);
     std::string bytes;
-    if (const auto error = ReadFile(name, bytes))
+    if (const auto error = m_files.Read(name, bytes))
         return FaultAt(name, error);
     return bytes;
 }
@@ -82,35 +85,56 @@ Outcome<std::string> DiskFileStore::Read(TextView path) const
 Done DiskFileStore::Replace(TextView path, std::string_view bytes)
 {
     const std::string name = PathBytes(path);
-    return DoneAt(name, ReplaceFile(name, bytes));
+    return DoneAt(name, m_files.Replace(name, bytes, {}));
+}
+
+Outcome<bool> DiskFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes)
+{
+    const std::string name = PathBytes(path);
+    const auto error = m_files.Replace(name, bytes, old);
+    if (error && error != std::errc::operation_canceled)
+        return FaultAt(name, error);
+    return !error;
+}
+
+Done DiskFileStore::PutNew(TextView path, std::string_view bytes, TextView like)
+{
+    const std::string name = PathBytes(path);
+    return DoneAt(name, m_files.PutNew(name, bytes, PathBytes(like)));
 }
 
 Done DiskFileStore::Copy(TextView from, TextView to)
 {
     const std::string source = PathBytes(from);
     const std::string target = PathBytes(to);
-    FileStatus one{};
-    FileStatus other{};
-    if (!Retried([&] { return m_disk.StatusAt(source, one); }) && S_ISREG(one.st_mode) &&
-        !Retried([&] { return m_disk.StatusAt(target, other); }) && one.st_dev == other.st_dev &&
-        one.st_ino == other.st_ino)
+    if (AreSame(source, target))
         return {};
     std::string bytes;
-    if (const auto error = ReadFile(source, bytes))
+    if (const auto error = m_files.Read(source, bytes))
         return FaultAt(source, error);
-    return DoneAt(target, ReplaceFile(target, bytes));
+    return DoneAt(target, m_files.PutNew(target, bytes, {}));
 }
 
 Done DiskFileStore::Remove(TextView path)
 {
     const std::string name = PathBytes(path);
-    return DoneAt(name, Retried([&] { return m_disk.Remove(name); }));
+    return DoneAt(name, Retried([&] { return m_calls.Remove(name); }));
 }
 
-Done DiskFileStore::MakeFolder(TextView path)
+Done DiskFileStore::MakeFolder(TextView path, Access access)
 {
     const std::string name = PathBytes(path);
-    return DoneAt(name, orvane::MakeFolder(m_disk, name, 0777));
+    const mode_t mode = access == Access::OwnerAlone ? 0700 : 0777;
+    return DoneAt(name, orvane::MakeFolder(m_calls, name, mode));
+}
+
+std::shared_ptr<const void> DiskFileStore::Hold(TextView folder)
+{
+    // The folder itself is locked: it stays when the files in it are replaced.
+    auto held = std::make_shared<FileHandle>(m_calls);
+    if (held->OpenFolder(FolderBytes(folder)) || held->WaitForLock())
+        return nullptr;
+    return held;
 }
 
 std::vector<Text> DiskFileStore::Files(TextView folder) const
@@ -132,68 +156,16 @@ bool DiskFileStore::FolderExists(TextView path) const
 {
     FileStatus status{};
     const std::string name = PathBytes(path);
-    return !Retried([&] { return m_disk.StatusAt(name, status); }) && S_ISDIR(status.st_mode);
+    return !Retried([&] { return m_calls.StatusAt(name, status); }) && S_ISDIR(status.st_mode);
 }
 
-/// Turns the path of a symbolic link into that of what it leads to, which may be missing.
-DiskFileStore::Error DiskFileStore::FollowLinks(std::string& path) const
+bool DiskFileStore::AreSame(const std::string& path, const std::string& other) const
 {
-    for (int i = 0; i < linkLimit; ++i) {
-        std::string target;
-        const auto error = Retried([&] { return m_disk.ReadLink(path, target); });
-        const bool isEnd =
-            error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory;
-        if (error)
-            return isEnd && !path.empty() ? Error() : error;
-        path = target.starts_with('/') ? target : FolderPart(path) + target;
-    }
-    return std::make_error_code(std::errc::too_many_symbolic_link_levels);
-}
-
-DiskFileStore::Error DiskFileStore::ReadFile(std::string path, std::string& bytes) const
-{
-    if (const auto error = FollowLinks(path))
-        return error;
-    OpenFile file(m_disk);
-    if (const auto error = file.OpenRegular(path, O_RDONLY))
-        return error;
-    if (const auto error = m_inPlace.Restore(path, file.Status()))
-        return error;
-    return file.ReadAll(bytes);
-}
-
-DiskFileStore::Error DiskFileStore::ReplaceFile(std::string path, std::string_view bytes)
-{
-    if (const auto error = FollowLinks(path))
-        return error;
-    OpenFile old(m_disk);
-    if (const auto error = old.OpenRegular(path, O_RDWR)) {
-        const bool isNew = error == std::errc::no_such_file_or_directory;
-        return isNew ? PutNew(path, bytes) : error;
-    }
-    if (const auto error = m_inPlace.Restore(path, old.Status()))
-        return error;
-    bool hasAccessList = false;
-    if (const auto error = old.HasAccessList(hasAccessList))
-        return error;
-    if (old.Status().st_nlink == 1 && !hasAccessList) {
-        NewFile file(m_disk, path, old.Status());
-        const auto error = file.Put(bytes);
-        if (error && file.IsInPlace())
-            PutBack(old, file);
-        if (!IsRefusal(error) || file.IsInPlace())
-            return error;
-    }
-    return m_inPlace.Write(old, path, bytes);
-}
-
-DiskFileStore::Error DiskFileStore::PutNew(const std::string& path, std::string_view bytes)
-{
-    NewFile file(m_disk, path, 0666);
-    const auto error = file.Put(bytes);
-    if (error && file.IsInPlace())
-        std::ignore = Retried([&] { return m_disk.Remove(path); });
-    return error;
+    FileStatus one{};
+    FileStatus two{};
+    return !Retried([&] { return m_calls.StatusAt(path, one); }) && S_ISREG(one.st_mode) &&
+           !Retried([&] { return m_calls.StatusAt(other, two); }) && one.st_dev == two.st_dev &&
+           one.st_ino == two.st_ino;
 }
 
 /// The names of what is of this kind in a folder, links followed; nothing of the store's own.
@@ -202,7 +174,7 @@ DiskFileStore::Error DiskFileStore::Names(TextView folder, mode_t kind,
 {
     const std::string path = FolderBytes(folder);
     std::vector<FolderEntry> entries;
-    if (const auto error = Retried([&] { return m_disk.List(path, entries); }))
+    if (const auto error = Retried([&] { return m_calls.List(path, entries); }))
         return error;
     for (const FolderEntry& entry : entries) {
         Text name = FromUtf8(entry.Name);
@@ -211,7 +183,7 @@ DiskFileStore::Error DiskFileStore::Names(TextView folder, mode_t kind,
         mode_t entryKind = KindOf(entry.Type);
         if (entry.Type == DT_LNK || entry.Type == DT_UNKNOWN) {
             FileStatus status{};
-            if (Retried([&] { return m_disk.StatusAt(path + entry.Name, status); }))
+            if (Retried([&] { return m_calls.StatusAt(path + entry.Name, status); }))
                 continue;
             entryKind = status.st_mode & S_IFMT;
         }
@@ -229,7 +201,7 @@ Fault DiskFileStore::FaultAt(const std::string& path, const Error& error) const
         return Fault::BadFileName;
     FileStatus folder{};
     const bool isMissing = error == std::errc::no_such_file_or_directory &&
-                           Retried([&] { return m_disk.StatusAt(FolderPart(path), folder); });
+                           Retried([&] { return m_calls.StatusAt(FolderOf(path), folder); });
     return isMissing ? Fault::PathNotFound : FaultOf(error);
 }
 

@@ -1,34 +1,35 @@
 #include "disk/file_handle.h"
 
+#include <algorithm>
 #include <array>
 
 #include <fcntl.h>
 
 namespace orvane {
 
-std::string FolderPart(std::string_view path)
+std::string FolderOf(std::string_view path)
 {
     const std::size_t last = path.rfind('/');
     return last == std::string_view::npos ? "./" : std::string(path.substr(0, last + 1));
 }
 
-OpenFile::~OpenFile()
+FileHandle::~FileHandle()
 {
     if (m_descriptor != -1)
-        m_disk.Close(m_descriptor);
+        m_calls.Close(m_descriptor);
 }
 
-std::error_code OpenFile::Open(const std::string& path, int flags, mode_t mode)
+std::error_code FileHandle::Open(const std::string& path, int flags, mode_t mode)
 {
     const std::error_code error = Retried([&] {
-        return m_disk.Open(path, flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode, m_descriptor);
+        return m_calls.Open(path, flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode, m_descriptor);
     });
     if (error)
         m_descriptor = -1;
-    return error ? error : Retried([&] { return m_disk.Status(m_descriptor, m_status); });
+    return error ? error : Retried([&] { return m_calls.Status(m_descriptor, m_status); });
 }
 
-std::error_code OpenFile::OpenRegular(const std::string& path, int flags)
+std::error_code FileHandle::OpenRegular(const std::string& path, int flags)
 {
     if (const auto error = Open(path, flags))
         return error;
@@ -36,7 +37,7 @@ std::error_code OpenFile::OpenRegular(const std::string& path, int flags)
                                      : std::make_error_code(std::errc::is_a_directory);
 }
 
-std::error_code OpenFile::OpenFolder(const std::string& path)
+std::error_code FileHandle::OpenFolder(const std::string& path)
 {
     const std::error_code error = Open(path, O_RDONLY | O_DIRECTORY);
     return error == std::errc::no_such_file_or_directory
@@ -44,35 +45,60 @@ std::error_code OpenFile::OpenFolder(const std::string& path)
                : error;
 }
 
-std::error_code OpenFile::IsRemoved(bool& removed) const
+std::error_code FileHandle::IsRemoved(bool& removed) const
 {
     FileStatus now{};
-    const std::error_code error = Retried([&] { return m_disk.Status(m_descriptor, now); });
+    const std::error_code error = Retried([&] { return m_calls.Status(m_descriptor, now); });
     removed = now.st_nlink == 0;
     return error;
 }
 
-std::error_code OpenFile::ReadAll(std::string& bytes) const
+std::error_code FileHandle::ReadAll(std::string& bytes) const
 {
-    bytes.clear();
-    std::array<char, 65536> buffer;
+    std::size_t done = 0;
     while (true) {
+        // One byte more than expected shows that the end was reached.
+        if (done == bytes.size() || done == 0)
+            bytes.resize(std::max(static_cast<std::size_t>(m_status.st_size), done * 2) + 1);
         std::size_t count = 0;
-        const auto error = Retried([&] {
-            return m_disk.Read(m_descriptor, static_cast<off_t>(bytes.size()), buffer, count);
-        });
-        if (error || count == 0)
+        const auto error = ReadSome(done, std::span(bytes).subspan(done), count);
+        if (error || count == 0) {
+            bytes.resize(done);
             return error;
-        bytes.append(buffer.data(), count);
+        }
+        done += count;
     }
 }
 
-std::error_code OpenFile::WriteAll(std::string_view bytes) const
+std::error_code FileHandle::MustHold(std::string_view bytes) const
+{
+    std::array<char, 65536> buffer;
+    for (std::size_t done = 0;;) {
+        std::size_t count = 0;
+        if (const auto error = ReadSome(done, buffer, count))
+            return error;
+        const bool isEnd = count == 0 && done == bytes.size();
+        if (isEnd)
+            return {};
+        if (count == 0 || bytes.substr(done, count) != std::string_view(buffer.data(), count))
+            return std::make_error_code(std::errc::operation_canceled);
+        done += count;
+    }
+}
+
+std::error_code FileHandle::ReadSome(std::size_t from, std::span<char> buffer,
+                                     std::size_t& count) const
+{
+    return Retried(
+        [&] { return m_calls.Read(m_descriptor, static_cast<off_t>(from), buffer, count); });
+}
+
+std::error_code FileHandle::WriteAll(std::string_view bytes) const
 {
     for (std::size_t done = 0; done < bytes.size();) {
         std::size_t count = 0;
         const auto error = Retried([&] {
-            return m_disk.Write(m_descriptor, static_cast<off_t>(done), bytes.substr(done), count);
+            return m_calls.Write(m_descriptor, static_cast<off_t>(done), bytes.substr(done), count);
         });
         if (error)
             return error;
@@ -83,52 +109,70 @@ std::error_code OpenFile::WriteAll(std::string_view bytes) const
     return {};
 }
 
-std::error_code OpenFile::Overwrite(std::string_view bytes) const
+std::error_code FileHandle::Overwrite(std::string_view bytes) const
 {
     // The cut comes last, so that a reader never meets an empty file.
     if (const auto error = WriteAll(bytes))
         return error;
     const auto size = static_cast<off_t>(bytes.size());
-    if (const auto error = Retried([&] { return m_disk.Truncate(m_descriptor, size); }))
+    if (const auto error = Retried([&] { return m_calls.Truncate(m_descriptor, size); }))
         return error;
     return Sync();
 }
 
-std::error_code OpenFile::TakeRightsOf(const FileStatus& other) const
+std::error_code FileHandle::TakeOwnerOf(const FileStatus& other) const
 {
-    const bool sameOwner = m_status.st_uid == other.st_uid && m_status.st_gid == other.st_gid;
-    if (!sameOwner) {
-        const auto error =
-            Retried([&] { return m_disk.ChangeOwner(m_descriptor, other.st_uid, other.st_gid); });
-        if (error)
-            return error;
-    }
-    // A change of owner may take bits off the mode.
-    if (sameOwner && m_status.st_mode == other.st_mode)
+    if (HasOwnerOf(other))
         return {};
-    return Retried([&] { return m_disk.ChangeMode(m_descriptor, other.st_mode & 07777); });
+    return Retried([&] { return m_calls.ChangeOwner(m_descriptor, other.st_uid, other.st_gid); });
 }
 
-std::error_code OpenFile::Sync() const
+std::error_code FileHandle::TakeRightsOf(const FileStatus& other) const
 {
-    const std::error_code error = Retried([&] { return m_disk.Sync(m_descriptor); });
+    if (const auto error = TakeOwnerOf(other))
+        return error;
+    // A change of owner may take bits off the mode.
+    if (HasOwnerOf(other) && m_status.st_mode == other.st_mode)
+        return {};
+    return Retried([&] { return m_calls.ChangeMode(m_descriptor, other.st_mode & 07777); });
+}
+
+std::error_code FileHandle::TakePermissionsOf(const FileStatus& other) const
+{
+    mode_t mode = other.st_mode & 0777;
+    const std::error_code error = TakeOwnerOf(other);
+    if (error == std::errc::operation_not_permitted)
+        mode &= ~mode_t{070} | ((mode & 07) << 3);
+    else if (error)
+        return error;
+    return Retried([&] { return m_calls.ChangeMode(m_descriptor, mode); });
+}
+
+std::error_code FileHandle::Sync() const
+{
+    const std::error_code error = Retried([&] { return m_calls.Sync(m_descriptor); });
     const bool cannot = error == std::errc::invalid_argument || error == std::errc::not_supported;
     return cannot && S_ISDIR(m_status.st_mode) ? std::error_code() : error;
 }
 
-std::error_code OpenFile::Lock() const
+std::error_code FileHandle::Lock() const
 {
-    const std::error_code error = Retried([&] { return m_disk.Lock(m_descriptor); });
+    const std::error_code error = Retried([&] { return m_calls.Lock(m_descriptor, false); });
     return error == std::errc::operation_would_block
                ? std::make_error_code(std::errc::permission_denied)
                : error;
 }
 
-std::error_code OpenFile::HasAccessList(bool& has) const
+std::error_code FileHandle::WaitForLock() const
+{
+    return Retried([&] { return m_calls.Lock(m_descriptor, true); });
+}
+
+std::error_code FileHandle::HasAccessList(bool& has) const
 {
     std::size_t size = 0;
     const auto error = Retried(
-        [&] { return m_disk.AttributeSize(m_descriptor, "system.posix_acl_access", size); });
+        [&] { return m_calls.AttributeSize(m_descriptor, "system.posix_acl_access", size); });
     has = size > 0;
     const bool none = error == std::errc::no_message_available || // ENODATA
                       error == std::errc::not_supported ||

@@ -2,6 +2,7 @@
 
 #include "disk/system_calls.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -19,17 +20,17 @@ std::error_code Retried(Call call)
 }
 
 /// The part of a path through its last "/"; "./" when there is none.
-std::string FolderPart(std::string_view path);
+std::string FolderOf(std::string_view path);
 
 /// An open file or folder of a disk, closed with the object. Interrupted calls are repeated, short
 /// ones continued. A failing close has no say: what must be on the disk was synced before.
-class OpenFile
+class FileHandle
 {
 public:
-    explicit OpenFile(Disk& disk) : m_disk(disk) {}
-    ~OpenFile();
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
+    explicit FileHandle(SystemCalls& calls) : m_calls(calls) {}
+    ~FileHandle();
+    FileHandle(const FileHandle&) = delete;
+    FileHandle& operator=(const FileHandle&) = delete;
 
     /// Opens a path of any kind without waiting for anybody; expects an object that holds none yet.
     [[nodiscard]] std::error_code Open(const std::string& path, int flags, mode_t mode = 0);
@@ -55,10 +56,17 @@ public:
     /// Makes the file hold these bytes alone, synced. A failure leaves any mixture.
     [[nodiscard]] std::error_code Overwrite(std::string_view bytes) const;
 
+    /// Whether it holds exactly these bytes; operation_canceled when it does not.
+    [[nodiscard]] std::error_code MustHold(std::string_view bytes) const;
+
     /// Sets owner, group and mode, as far as they differ.
     [[nodiscard]] std::error_code TakeRightsOf(const FileStatus& other) const;
 
-    /// Waits until the content, or the folder's names, lie on the disk. A folder of a file system
+    /// Sets owner, group and permissions. Where the owner may not be set, the permissions become
+    /// so few that nobody gets more than `other` gives.
+    [[nodiscard]] std::error_code TakePermissionsOf(const FileStatus& other) const;
+
+    /// Waits until the content, or the folder's names, lie on the calls. A folder of a file system
     /// that cannot sync folders counts as synced.
     [[nodiscard]] std::error_code Sync() const;
 
@@ -66,11 +74,21 @@ public:
     /// A file system without locks gives what its call gives.
     [[nodiscard]] std::error_code Lock() const;
 
+    /// Takes the lock as soon as no other program has it.
+    [[nodiscard]] std::error_code WaitForLock() const;
+
     /// Whether the file has an access list beside its mode.
     [[nodiscard]] std::error_code HasAccessList(bool& has) const;
 
 private:
-    Disk& m_disk;
+    bool HasOwnerOf(const FileStatus& other) const
+    {
+        return m_status.st_uid == other.st_uid && m_status.st_gid == other.st_gid;
+    }
+    std::error_code TakeOwnerOf(const FileStatus& other) const;
+    std::error_code ReadSome(std::size_t from, std::span<char> buffer, std::size_t& count) const;
+
+    SystemCalls& m_calls;
     int m_descriptor = -1;
     FileStatus m_status{};
 };

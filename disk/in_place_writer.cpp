@@ -27,7 +27,7 @@ std::string Hexadecimal(Number number)
 
 std::string PlaceBeside(const std::string& path, const FileStatus& status)
 {
-    return FolderPart(path)
+    return FolderOf(path)
         .append(ownNameStart)
         .append(Hexadecimal(status.st_ino))
         .append(recoveryEnd);
@@ -43,8 +43,8 @@ bool IsNone(const std::error_code& error)
 
 } // namespace
 
-InPlaceWriter::InPlaceWriter(Disk& disk, std::string stateFolder)
-    : m_disk(disk), m_stateFolder(std::move(stateFolder))
+InPlaceWriter::InPlaceWriter(SystemCalls& calls, std::string stateFolder)
+    : m_calls(calls), m_stateFolder(std::move(stateFolder))
 {
 }
 
@@ -56,23 +56,28 @@ std::error_code InPlaceWriter::Restore(const std::string& path, const FileStatus
         return {};
     const std::error_code error = RestoreFrom(PlaceInState(status), path, status);
     // Where the user may not even look, none of this user's copies can lie.
-    OpenFile folder(m_disk);
+    FileHandle folder(m_calls);
     const bool isShut = error == std::errc::permission_denied &&
                         folder.OpenFolder(m_stateFolder) == std::errc::permission_denied;
     return isShut ? std::error_code() : error;
 }
 
-std::error_code InPlaceWriter::Write(const OpenFile& file, const std::string& path,
-                                     std::string_view bytes) const
+std::error_code InPlaceWriter::Write(const FileHandle& file, const std::string& path,
+                                     std::string_view bytes,
+                                     std::optional<std::string_view> expected) const
 {
     if (const auto error = file.Lock(); error == std::errc::permission_denied)
         return error;
-    RecoveryCopy copy{path, {}, std::string(bytes)};
-    if (const auto error = file.ReadAll(copy.Old))
+    RecoveryCopy copy{path, std::string(expected.value_or("")), std::string(bytes)};
+    if (const auto error = expected ? std::error_code() : file.ReadAll(copy.Old))
         return error;
     std::string place;
     if (const auto error = Keep(copy, file.Status(), place))
         return error;
+    if (const auto error = expected ? file.MustHold(*expected) : std::error_code()) {
+        RemoveCopy(place);
+        return error;
+    }
     const std::error_code error = file.Overwrite(bytes);
     // When not even the old bytes can be written, their copy stays for the next Restore().
     if (error && file.Overwrite(copy.Old))
@@ -103,7 +108,7 @@ std::error_code InPlaceWriter::Keep(const RecoveryCopy& copy, const FileStatus& 
     place = PlaceInState(status);
     error = PutCopy(place, bytes);
     if (error == std::errc::not_a_directory) {
-        error = MakeFolder(m_disk, m_stateFolder, 0700);
+        error = MakeFolder(m_calls, m_stateFolder, 0700);
         if (!error)
             error = PutCopy(place, bytes);
     }
@@ -113,7 +118,7 @@ std::error_code InPlaceWriter::Keep(const RecoveryCopy& copy, const FileStatus& 
 
 std::error_code InPlaceWriter::PutCopy(const std::string& place, const std::string& bytes) const
 {
-    NewFile copy(m_disk, place, 0600);
+    ReplacementFile copy(m_calls, place, 0600);
     const std::error_code error = copy.Put(bytes);
     if (error && copy.IsInPlace())
         RemoveCopy(place);
@@ -124,15 +129,15 @@ std::error_code InPlaceWriter::PutCopy(const std::string& place, const std::stri
 /// two contents, and the next Restore() tries again.
 void InPlaceWriter::RemoveCopy(const std::string& place) const
 {
-    OpenFile folder(m_disk);
-    if (!Retried([&] { return m_disk.Remove(place); }) && !folder.OpenFolder(FolderPart(place)))
+    FileHandle folder(m_calls);
+    if (!Retried([&] { return m_calls.Remove(place); }) && !folder.OpenFolder(FolderOf(place)))
         std::ignore = folder.Sync();
 }
 
 std::error_code InPlaceWriter::RestoreFrom(const std::string& place, const std::string& path,
                                            const FileStatus& status) const
 {
-    OpenFile kept(m_disk);
+    FileHandle kept(m_calls);
     const auto error = kept.OpenRegular(place, O_RDONLY | O_NOFOLLOW);
     if (error)
         return IsNone(error) ? std::error_code() : error;
@@ -143,10 +148,10 @@ std::error_code InPlaceWriter::RestoreFrom(const std::string& place, const std::
     return PutBack(kept, place, path);
 }
 
-std::error_code InPlaceWriter::PutBack(const OpenFile& kept, const std::string& place,
+std::error_code InPlaceWriter::PutBack(const FileHandle& kept, const std::string& place,
                                        const std::string& path) const
 {
-    OpenFile file(m_disk);
+    FileHandle file(m_calls);
     if (const auto error = file.OpenRegular(path, O_RDWR))
         return error;
     if (const auto error = file.Lock(); error == std::errc::permission_denied)
@@ -163,7 +168,7 @@ std::error_code InPlaceWriter::PutBack(const OpenFile& kept, const std::string& 
     const auto copy = ReadRecoveryCopy(bytes);
     if (!copy || !IsHalfWritten(content, *copy)) {
         std::ignore =
-            Retried([&] { return m_disk.Rename(place, std::string(place).append(keptEnd)); });
+            Retried([&] { return m_calls.Rename(place, std::string(place).append(keptEnd)); });
         return {};
     }
     // All new bytes may be there without lying on the disk yet.

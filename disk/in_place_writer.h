@@ -3,6 +3,7 @@
 #include "disk/file_handle.h"
 #include "disk/recovery_copy.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -21,7 +22,7 @@ class InPlaceWriter
 {
 public:
     /// `stateFolder` ends in "/" and is created when it is needed; empty for none.
-    InPlaceWriter(Disk& disk, std::string stateFolder);
+    InPlaceWriter(SystemCalls& calls, std::string stateFolder);
 
     /// Clears up what a killed writer left of the file at `path`, links followed; `status` is that
     /// of the file. permission_denied while its writer lives.
@@ -29,9 +30,10 @@ public:
 
     /// Makes the file, open for writing, hold these bytes; on failure it holds the old ones, now or
     /// after the next Restore(). permission_denied when no copy may be kept anywhere, or while
-    /// another program writes the file.
-    [[nodiscard]] std::error_code Write(const OpenFile& file, const std::string& path,
-                                        std::string_view bytes) const;
+    /// another program writes the file; operation_canceled when it does not hold `expected`.
+    [[nodiscard]] std::error_code Write(const FileHandle& file, const std::string& path,
+                                        std::string_view bytes,
+                                        std::optional<std::string_view> expected) const;
 
 private:
     std::string PlaceInState(const FileStatus& status) const;
@@ -41,10 +43,10 @@ private:
     void RemoveCopy(const std::string& place) const;
     std::error_code RestoreFrom(const std::string& place, const std::string& path,
                                 const FileStatus& status) const;
-    std::error_code PutBack(const OpenFile& kept, const std::string& place,
+    std::error_code PutBack(const FileHandle& kept, const std::string& place,
                             const std::string& path) const;
 
-    Disk& m_disk;
+    SystemCalls& m_calls;
     std::string m_stateFolder;
 };
 

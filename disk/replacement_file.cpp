@@ -35,18 +35,18 @@ bool IsTemporaryName(std::string_view name)
     return name.find_first_not_of(digits) == std::string_view::npos;
 }
 
-std::error_code MakeFolder(Disk& disk, const std::string& path, mode_t mode)
+std::error_code MakeFolder(SystemCalls& calls, const std::string& path, mode_t mode)
 {
     const std::size_t last = path.find_last_not_of('/');
     const std::string name = last == std::string::npos ? path : path.substr(0, last + 1);
-    OpenFile parent(disk);
-    if (const auto error = parent.OpenFolder(FolderPart(name)))
+    FileHandle parent(calls);
+    if (const auto error = parent.OpenFolder(FolderOf(name)))
         return error;
-    if (const auto error = Retried([&] { return disk.MakeFolder(name, mode); }))
+    if (const auto error = Retried([&] { return calls.MakeFolder(name, mode); }))
         return error;
     const std::error_code error = parent.Sync();
     if (error)
-        std::ignore = Retried([&] { return disk.RemoveFolder(name); });
+        std::ignore = Retried([&] { return calls.RemoveFolder(name); });
     return error;
 }
 
@@ -58,29 +58,30 @@ bool IsRefusal(const std::error_code& error)
            error == std::errc::device_or_resource_busy || error == std::errc::cross_device_link;
 }
 
-NewFile::NewFile(Disk& disk, std::string path, mode_t mode)
-    : m_disk(disk), m_path(std::move(path)), m_mode(mode)
+ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, mode_t mode)
+    : m_calls(calls), m_path(std::move(path)), m_mode(mode)
 {
 }
 
-NewFile::NewFile(Disk& disk, std::string path, const FileStatus& like)
-    : m_disk(disk), m_path(std::move(path)), m_mode(0600), m_like(&like)
+ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, const FileStatus& like,
+                                 Rights rights)
+    : m_calls(calls), m_path(std::move(path)), m_mode(0600), m_like(like), m_rights(rights)
 {
 }
 
-std::error_code NewFile::Put(std::string_view bytes)
+std::error_code ReplacementFile::Put(std::string_view bytes, const LastLook& look)
 {
     m_isInPlace = false;
-    OpenFile folder(m_disk);
-    const std::string path = FolderPart(m_path);
+    FileHandle folder(m_calls);
+    const std::string path = FolderOf(m_path);
     if (const auto error = folder.OpenFolder(path))
         return error;
     RemoveLeftovers(path);
     const std::string temporary = path + TemporaryName();
-    OpenFile file(m_disk);
-    if (const auto error = PutThrough(file, temporary, bytes)) {
+    FileHandle file(m_calls);
+    if (const auto error = PutThrough(file, temporary, bytes, look)) {
         if (error != std::errc::file_exists)
-            std::ignore = Retried([&] { return m_disk.Remove(temporary); });
+            std::ignore = Retried([&] { return m_calls.Remove(temporary); });
         return error;
     }
     m_isInPlace = true;
@@ -88,8 +89,8 @@ std::error_code NewFile::Put(std::string_view bytes)
 }
 
 /// Writes the temporary file and renames it to the path.
-std::error_code NewFile::PutThrough(OpenFile& file, const std::string& temporary,
-                                    std::string_view bytes)
+std::error_code ReplacementFile::PutThrough(FileHandle& file, const std::string& temporary,
+                                            std::string_view bytes, const LastLook& look)
 {
     if (const auto error = file.Open(temporary, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, m_mode))
         return error;
@@ -97,25 +98,34 @@ std::error_code NewFile::PutThrough(OpenFile& file, const std::string& temporary
     std::ignore = file.Lock();
     if (const auto error = file.WriteAll(bytes))
         return error;
-    if (const auto error = m_like ? file.TakeRightsOf(*m_like) : std::error_code())
+    if (const auto error = TakeRights(file))
         return error;
     if (const auto error = file.Sync())
         return error;
-    return Retried([&] { return m_disk.Rename(temporary, m_path); });
+    if (const auto error = look ? look() : std::error_code())
+        return error;
+    return Retried([&] { return m_calls.Rename(temporary, m_path); });
+}
+
+std::error_code ReplacementFile::TakeRights(const FileHandle& file) const
+{
+    if (!m_like)
+        return {};
+    return m_rights == Rights::All ? file.TakeRightsOf(*m_like) : file.TakePermissionsOf(*m_like);
 }
 
 /// Removes the temporary files of programs that are no more.
-void NewFile::RemoveLeftovers(const std::string& folder) const
+void ReplacementFile::RemoveLeftovers(const std::string& folder) const
 {
     std::vector<FolderEntry> entries;
-    if (Retried([&] { return m_disk.List(folder, entries); }))
+    if (Retried([&] { return m_calls.List(folder, entries); }))
         return;
     for (const FolderEntry& entry : entries) {
-        OpenFile leftover(m_disk);
+        FileHandle leftover(m_calls);
         if (!IsTemporaryName(entry.Name) ||
             leftover.OpenRegular(folder + entry.Name, O_RDWR | O_NOFOLLOW) || leftover.Lock())
             continue;
-        std::ignore = Retried([&] { return m_disk.Remove(folder + entry.Name); });
+        std::ignore = Retried([&] { return m_calls.Remove(folder + entry.Name); });
     }
 }
 

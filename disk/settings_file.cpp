@@ -108,14 +108,15 @@ Text SettingsFile::Get(TextView section, TextView key, TextView otherwise,
 
 void SettingsFile::Put(TextView section, TextView key, TextView value, TextView application)
 {
+    const Done folder = MakeFolders(m_files, m_folder);
+    if (FaultIn(folder))
+        return;
     const Text path = PathOf(application);
+    const auto hold = m_files.Hold(m_folder);
     const auto bytes = m_files.Read(path);
     const Fault* fault = FaultIn(bytes);
     // A file that is there but cannot be read is left alone: writing would drop its other settings.
     if (fault && *fault != Fault::FileNotFound && *fault != Fault::PathNotFound)
-        return;
-    const Done folder = MakeFolders(m_files, m_folder);
-    if (FaultIn(folder))
         return;
     SettingsTable settings = fault ? SettingsTable() : ReadSettings(ValueIn(bytes));
     settings[{Text(section), Text(key)}] = value;

@@ -19,7 +19,8 @@ SettingsTable ReadSettings(std::string_view bytes);
 std::string WriteSettings(const SettingsTable& settings);
 
 /// Settings kept in one file per application below a folder. Each read looks at the file afresh, so
-/// that two running programs see what the other stored.
+/// that two running programs see what the other stored, and none loses it by storing at the same
+/// time.
 class SettingsFile : public Settings
 {
 public:

@@ -13,20 +13,20 @@ namespace orvane {
 
 namespace {
 
-Disk::Error LastError()
+SystemCalls::Error LastError()
 {
     return {errno, std::generic_category()};
 }
 
 /// The outcome of a call that gives -1 on failure.
 template <class Result>
-Disk::Error ErrorOf(Result result)
+SystemCalls::Error ErrorOf(Result result)
 {
-    return result == -1 ? LastError() : Disk::Error();
+    return result == -1 ? LastError() : SystemCalls::Error();
 }
 
 /// The same for a call that gives a count otherwise.
-Disk::Error CountOf(ssize_t result, std::size_t& count)
+SystemCalls::Error CountOf(ssize_t result, std::size_t& count)
 {
     count = result == -1 ? 0 : static_cast<std::size_t>(result);
     return ErrorOf(result);
@@ -34,80 +34,81 @@ Disk::Error CountOf(ssize_t result, std::size_t& count)
 
 } // namespace
 
-Disk::Error PosixDisk::Open(const std::string& path, int flags, mode_t mode, int& descriptor)
+SystemCalls::Error PosixCalls::Open(const std::string& path, int flags, mode_t mode,
+                                    int& descriptor)
 {
     descriptor = ::open(path.c_str(), flags, mode);
     return ErrorOf(descriptor);
 }
 
-Disk::Error PosixDisk::Close(int descriptor)
+SystemCalls::Error PosixCalls::Close(int descriptor)
 {
     return ErrorOf(::close(descriptor));
 }
 
-Disk::Error PosixDisk::Read(int descriptor, off_t offset, std::span<char> buffer,
-                            std::size_t& count)
+SystemCalls::Error PosixCalls::Read(int descriptor, off_t offset, std::span<char> buffer,
+                                    std::size_t& count)
 {
     return CountOf(::pread(descriptor, buffer.data(), buffer.size(), offset), count);
 }
 
-Disk::Error PosixDisk::Write(int descriptor, off_t offset, std::string_view bytes,
-                             std::size_t& count)
+SystemCalls::Error PosixCalls::Write(int descriptor, off_t offset, std::string_view bytes,
+                                     std::size_t& count)
 {
     return CountOf(::pwrite(descriptor, bytes.data(), bytes.size(), offset), count);
 }
 
-Disk::Error PosixDisk::Truncate(int descriptor, off_t size)
+SystemCalls::Error PosixCalls::Truncate(int descriptor, off_t size)
 {
     return ErrorOf(::ftruncate(descriptor, size));
 }
 
-Disk::Error PosixDisk::Sync(int descriptor)
+SystemCalls::Error PosixCalls::Sync(int descriptor)
 {
     return ErrorOf(::fsync(descriptor));
 }
 
-Disk::Error PosixDisk::Lock(int descriptor)
+SystemCalls::Error PosixCalls::Lock(int descriptor, bool waits)
 {
-    return ErrorOf(::flock(descriptor, LOCK_EX | LOCK_NB));
+    return ErrorOf(::flock(descriptor, waits ? LOCK_EX : LOCK_EX | LOCK_NB));
 }
 
-Disk::Error PosixDisk::Status(int descriptor, FileStatus& status)
+SystemCalls::Error PosixCalls::Status(int descriptor, FileStatus& status)
 {
     return ErrorOf(::fstat(descriptor, &status));
 }
 
-Disk::Error PosixDisk::StatusAt(const std::string& path, FileStatus& status)
+SystemCalls::Error PosixCalls::StatusAt(const std::string& path, FileStatus& status)
 {
     return ErrorOf(::stat(path.c_str(), &status));
 }
 
-Disk::Error PosixDisk::AttributeSize(int descriptor, const char* name, std::size_t& size)
+SystemCalls::Error PosixCalls::AttributeSize(int descriptor, const char* name, std::size_t& size)
 {
     return CountOf(::fgetxattr(descriptor, name, nullptr, 0), size);
 }
 
-Disk::Error PosixDisk::ChangeMode(int descriptor, mode_t mode)
+SystemCalls::Error PosixCalls::ChangeMode(int descriptor, mode_t mode)
 {
     return ErrorOf(::fchmod(descriptor, mode));
 }
 
-Disk::Error PosixDisk::ChangeOwner(int descriptor, uid_t user, gid_t group)
+SystemCalls::Error PosixCalls::ChangeOwner(int descriptor, uid_t user, gid_t group)
 {
     return ErrorOf(::fchown(descriptor, user, group));
 }
 
-Disk::Error PosixDisk::Rename(const std::string& from, const std::string& to)
+SystemCalls::Error PosixCalls::Rename(const std::string& from, const std::string& to)
 {
     return ErrorOf(::rename(from.c_str(), to.c_str()));
 }
 
-Disk::Error PosixDisk::Remove(const std::string& path)
+SystemCalls::Error PosixCalls::Remove(const std::string& path)
 {
     return ErrorOf(::unlink(path.c_str()));
 }
 
-Disk::Error PosixDisk::ReadLink(const std::string& path, std::string& target)
+SystemCalls::Error PosixCalls::ReadLink(const std::string& path, std::string& target)
 {
     target.resize(PATH_MAX);
     std::size_t size = 0;
@@ -116,17 +117,17 @@ Disk::Error PosixDisk::ReadLink(const std::string& path, std::string& target)
     return error;
 }
 
-Disk::Error PosixDisk::MakeFolder(const std::string& path, mode_t mode)
+SystemCalls::Error PosixCalls::MakeFolder(const std::string& path, mode_t mode)
 {
     return ErrorOf(::mkdir(path.c_str(), mode));
 }
 
-Disk::Error PosixDisk::RemoveFolder(const std::string& path)
+SystemCalls::Error PosixCalls::RemoveFolder(const std::string& path)
 {
     return ErrorOf(::rmdir(path.c_str()));
 }
 
-Disk::Error PosixDisk::List(const std::string& path, std::vector<FolderEntry>& entries)
+SystemCalls::Error PosixCalls::List(const std::string& path, std::vector<FolderEntry>& entries)
 {
     entries.clear();
     DIR* folder = ::opendir(path.c_str());

@@ -23,10 +23,10 @@ struct FolderEntry
 /// The system calls that the file store is made of, one method each. A method does what its call
 /// does, once: it gives an empty error code or the call's own, EINTR included, and may write or
 /// read less than it was asked to. Paths are bytes.
-class Disk
+class SystemCalls
 {
 public:
-    virtual ~Disk() = default;
+    virtual ~SystemCalls() = default;
 
     using Error = std::error_code;
 
@@ -45,8 +45,9 @@ public:
     [[nodiscard]] virtual Error Truncate(int descriptor, off_t size) = 0;
     /// fsync(2), of a file or a folder.
     [[nodiscard]] virtual Error Sync(int descriptor) = 0;
-    /// flock(2) for this descriptor alone, without waiting: EWOULDBLOCK when another one has it.
-    [[nodiscard]] virtual Error Lock(int descriptor) = 0;
+    /// flock(2) for this descriptor alone; one that does not wait gives EWOULDBLOCK when another
+    /// has the lock.
+    [[nodiscard]] virtual Error Lock(int descriptor, bool waits) = 0;
     /// fstat(2).
     [[nodiscard]] virtual Error Status(int descriptor, FileStatus& status) = 0;
     /// stat(2): links are followed.
@@ -74,7 +75,7 @@ public:
 };
 
 /// The disk itself.
-class PosixDisk : public Disk
+class PosixCalls : public SystemCalls
 {
 public:
     Error Open(const std::string& path, int flags, mode_t mode, int& descriptor) override;
@@ -83,7 +84,7 @@ public:
     Error Write(int descriptor, off_t offset, std::string_view bytes, std::size_t& count) override;
     Error Truncate(int descriptor, off_t size) override;
     Error Sync(int descriptor) override;
-    Error Lock(int descriptor) override;
+    Error Lock(int descriptor, bool waits) override;
     Error Status(int descriptor, FileStatus& status) override;
     Error StatusAt(const std::string& path, FileStatus& status) override;
     Error AttributeSize(int descriptor, const char* name, std::size_t& size) override;

@@ -25,27 +25,56 @@ constexpr TextView openElsewhereWords =
     u"\r\n\r\n"
     u"Then try to AutoInsert the special effect again.";
 
+constexpr TextView tooLargeWords =
+    u"Your Web page file is larger than 512 MB, which is too large for AutoInsert.  Please insert "
+    u"the special effect code manually.";
+
+constexpr TextView changedWords =
+    u"Another application has changed your Web page file in the meantime.  The file stays as that "
+    u"application saved it, without the special effect."
+    u"\r\n\r\n"
+    u"Please try to AutoInsert the special effect again.";
+
+/// The words for a fault that ends the command.
+TextView TellingWords(Fault fault)
+{
+    if (fault == Fault::PermissionDenied)
+        return openElsewhereWords;
+    return fault == Fault::OutOfMemory ? tooLargeWords : Words(fault);
+}
+
 AutoInsertion Tell(Dialogs& dialogs, Fault fault)
 {
-    dialogs.Say(fault == Fault::PermissionDenied ? openElsewhereWords : Words(fault));
+    dialogs.Say(TellingWords(fault));
     return AutoInsertion::NothingDone;
 }
 
-bool IsMissing(const Outcome<std::string>& read)
+/// Makes the backup, and sure of it: a new file that is not the page and holds its bytes. Nobody
+/// may do more with it than with the page.
+Done BackUp(FileStore& files, TextView page, std::string_view bytes)
 {
-    const Fault* fault = FaultIn(read);
-    return fault && (*fault == Fault::FileNotFound || *fault == Fault::PathNotFound);
+    const Text backup = Join({FolderOf(page), u"Backup of ", GetFileName(page)});
+    const Done done = files.PutNew(backup, bytes, page);
+    if (FaultIn(done))
+        return done;
+    const auto kept = files.Read(backup);
+    if (const Fault* fault = FaultIn(kept))
+        return *fault;
+    // A page that is a link to its own backup has none.
+    if (ValueIn(kept) != bytes || files.AreOneFile(backup, page))
+        return Fault::PathFileAccess;
+    return {};
 }
 
 /// Whatever already lies at that place, even unreadable, is an earlier backup and stays.
 void KeepFirstBackup(FileStore& files, const KeptPages& kept, TextView page, std::string_view bytes)
 {
     const Text path = KeptPagePath(kept, page);
-    if (!IsMissing(files.Read(path)))
+    if (files.IsTaken(path))
         return;
     const TextView folder = FolderOf(path);
-    if (!FaultIn(MakeFolders(files, Left(folder, folder.size() - 1))))
-        std::ignore = files.Replace(path, bytes);
+    if (!FaultIn(MakeFolders(files, Left(folder, folder.size() - 1), Access::OwnerAlone)))
+        std::ignore = files.PutNew(path, bytes, page);
 }
 
 } // namespace
@@ -75,36 +104,29 @@ Text KeptPagePath(const KeptPages& kept, TextView page)
 AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
                          const FinishedPayload& payload, const KeptPages& kept)
 {
-    const Text backup = Join({FolderOf(page), u"Backup of ", GetFileName(page)});
     const auto read = files.Read(page);
     if (const Fault* fault = FaultIn(read))
         return Tell(dialogs, *fault);
     const std::string& bytes = ValueIn(read);
-    const Done backedUp = files.Replace(backup, bytes);
+    const Done backedUp = BackUp(files, page, bytes);
     if (const Fault* fault = FaultIn(backedUp))
         return Tell(dialogs, *fault);
     KeepFirstBackup(files, kept, page, bytes);
 
-    bool wasAsked = false;
-    const PageEdit edit = EditPage(bytes, payload, [&] {
-        wasAsked = true;
-        return dialogs.Ask(replaceQuestion);
-    });
+    const PageEdit edit = EditPage(bytes, payload, [&] { return dialogs.Ask(replaceQuestion); });
     if (const Fault* fault = std::get_if<Fault>(&edit))
         return Tell(dialogs, *fault);
     if (std::holds_alternative<ManualFallback>(edit)) {
         dialogs.Say(manualWords);
         return AutoInsertion::Manual;
     }
-    if (wasAsked) {
-        // While a question waits, the author may save the page from an editor.
-        const auto now = files.Read(page);
-        if (now != read)
-            return Tell(dialogs, FaultIn(now) ? *FaultIn(now) : Fault::PermissionDenied);
-    }
-    const Done written = files.Replace(page, std::get<EditedPage>(edit).Bytes);
+    const auto written = files.Exchange(page, bytes, std::get<EditedPage>(edit).Bytes);
     if (const Fault* fault = FaultIn(written))
         return Tell(dialogs, *fault);
+    if (!ValueIn(written)) {
+        dialogs.Say(changedWords);
+        return AutoInsertion::NothingDone;
+    }
     return AutoInsertion::Inserted;
 }
 

@@ -63,8 +63,8 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(QStringLiteral("orvane"));
     QApplication::setQuitOnLastWindowClosed(false);
 
-    PosixDisk disk;
-    DiskFileStore files(disk, folders->State);
+    PosixCalls calls;
+    DiskFileStore files(calls, folders->State);
     SettingsFile settings(files, folders->Settings);
     QtDialogs dialogs;
     QtShell shell;

@@ -97,7 +97,10 @@ Text CFile::GetFileName(TextView path)
 
 Outcome<Text> CFile::GetPath(TextView path)
 {
-    return orvane::GetPath(path);
+    const TextView folder = FolderOf(path);
+    if (folder.empty())
+        return Fault::InvalidProcedureCall;
+    return Text(Left(folder, folder.size() - 1));
 }
 
 } // namespace orvane

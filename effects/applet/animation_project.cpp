@@ -18,6 +18,9 @@ constexpr std::size_t filledRows = 31;
 /// The rows that a list can number; a file of bars alone would fill the memory otherwise.
 constexpr std::size_t numberedRows = 32767;
 
+/// A larger file is none that a person made with this program.
+constexpr std::size_t sizeLimit = 4 << 20;
+
 /// The texts of one column, joined by bars.
 Text Joined(const std::vector<ImageRow>& rows, Text ImageRow::*field, TextView otherwise)
 {
@@ -175,7 +178,12 @@ AdvancedAnimator OpenProject(const AdvancedAnimator& animator, Dialogs& dialogs,
 {
     if (const auto path = dialogs.OpenFile(ProjectRequest(u"Open"))) {
         const auto bytes = files.Read(*path);
-        return ReadProject(FaultIn(bytes) ? std::string_view() : ValueIn(bytes));
+        const Fault* fault = FaultIn(bytes);
+        if (fault ? *fault == Fault::OutOfMemory : ValueIn(bytes).size() > sizeLimit) {
+            dialogs.Say(u"This file is larger than 4 MB, which is too large for a project.");
+            return animator;
+        }
+        return ReadProject(fault ? std::string_view() : ValueIn(bytes));
     }
     AdvancedAnimator emptied = animator;
     emptied.Rows.clear();

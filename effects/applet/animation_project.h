@@ -25,7 +25,8 @@ std::optional<Complaint> CheckProject(const AdvancedAnimator& animator);
 void SaveProject(const AdvancedAnimator& animator, Dialogs& dialogs, FileStore& files);
 
 /// Asks for a project and gives its animation; after a cancel the rows are gone and all else is as
-/// it was. A file that cannot be read counts as an empty one.
+/// it was. A file that cannot be read counts as an empty one; one of more than 4 MB is refused with
+/// a word, and everything is as it was.
 AdvancedAnimator OpenProject(const AdvancedAnimator& animator, Dialogs& dialogs,
                              const FileStore& files);
 

@@ -23,8 +23,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const bool isWarm = argc > 1 && QByteArray(argv[1]) == "warm";
     QTemporaryDir home;
-    PosixDisk disk;
-    DiskFileStore files(disk, FromQt(home.path()));
+    PosixCalls calls;
+    DiskFileStore files(calls, FromQt(home.path()));
     orvane::testing::FakeDesk desk;
     desk.Core.ProgramFolder = FromQt(home.path());
     QtPreviewPane pane(desk.Dialogs, desk.Shell, files);

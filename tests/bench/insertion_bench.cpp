@@ -123,9 +123,9 @@ private:
     }
 
     const fs::path m_folder = MakeFolder();
-    PosixDisk m_disk;
+    PosixCalls m_calls;
     NoDialogs m_dialogs;
-    DiskFileStore m_files{m_disk, FromUtf8((m_folder / "state").string())};
+    DiskFileStore m_files{m_calls, FromUtf8((m_folder / "state").string())};
     KeptPages m_kept{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
 };
 

@@ -124,8 +124,8 @@ protected:
 
     FakeDesk m_desk;
     TestFolder m_folder;
-    PosixDisk m_disk;
-    DiskFileStore m_files{m_disk, m_folder.TextAt("state")};
+    PosixCalls m_calls;
+    DiskFileStore m_files{m_calls, m_folder.TextAt("state")};
     Workbench m_bench{.Core = m_desk.Core,
                       .Dialogs = m_desk.Dialogs,
                       .Files = m_files,

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace orvane {
 namespace {
 
@@ -67,6 +69,9 @@ TEST(TextTest, Utf8RoundTripsAndReplacesWhatIsIllFormed)
     EXPECT_EQ(FromUtf8(ToUtf8(text)), text);
     EXPECT_EQ(FromUtf8("\xC0\x80\xE9t\xED\xA0\x80"), u"\uFFFD\uFFFD\uFFFDt\uFFFD\uFFFD\uFFFD");
     EXPECT_EQ(FromUtf8("\xE2\x82"), u"\uFFFD\uFFFD");
+    for (const char* wrong : {"\xE0\x80\xAF", "\xE0\x9F\xBF", "\xF0\x80\x80\xAF",
+                              "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80"})
+        EXPECT_EQ(FromUtf8(wrong), Text(std::strlen(wrong), u'\uFFFD')) << "overlong or too large";
     const char16_t half[] = {0xD83D, u'x', 0};
     EXPECT_EQ(ToUtf8(half), "\xEF\xBF\xBDx");
 }

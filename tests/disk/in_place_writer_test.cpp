@@ -36,8 +36,8 @@ protected:
     }
 
     TestFolder Folder;
-    PosixDisk Disk;
-    DiskFileStore Store{Disk, Folder.TextAt("state")};
+    PosixCalls Calls;
+    DiskFileStore Store{Calls, Folder.TextAt("state")};
 };
 
 TEST_F(InPlaceWriterTest, HalfWrittenFileGetsItsOldBytesBackUnderEachOfItsNames)
@@ -76,13 +76,23 @@ TEST_F(InPlaceWriterTest, NeitherReadsNorWritesInPlaceWhileAnotherProgramDoes)
     EXPECT_EQ(Replace("page"), Done());
 }
 
-TEST_F(InPlaceWriterTest, RecoveryCopyOfAStrangerIsPassedOver)
+TEST_F(InPlaceWriterTest, RecoveryCopyCountsIfItIsTheUsersTheOwnersOrTheSuperusers)
 {
     if (::geteuid() != 0)
         GTEST_SKIP() << "needs a second user";
-    const std::string copy = LeaveHalfWritten("the newes");
-    ASSERT_EQ(::chown(Folder.At(copy).c_str(), 1234, 1234), 0);
-    EXPECT_EQ(ValueIn(Read("page")), "the newes");
+    constexpr uid_t user = 65534;
+    constexpr uid_t author = 1234;
+    ASSERT_EQ(::chmod(Folder.At("").c_str(), 0777), 0);
+    for (const uid_t owner : {uid_t{0}, user, author, uid_t{4321}}) {
+        for (const char* name : {"page", "alias"})
+            ::unlink(Folder.At(name).c_str());
+        const std::string copy = LeaveHalfWritten("the newes");
+        ASSERT_EQ(::chmod(Folder.At("page").c_str(), 0666), 0);
+        ASSERT_EQ(::chown(Folder.At("page").c_str(), author, author), 0);
+        ASSERT_EQ(::chown(Folder.At(copy).c_str(), owner, owner), 0);
+        const OrdinaryUser ordinary;
+        EXPECT_EQ(ValueIn(Read("page")), owner == 4321 ? "the newes" : "old bytes") << owner;
+    }
 }
 
 struct HalfWrittenRow

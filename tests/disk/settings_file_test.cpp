@@ -1,11 +1,14 @@
 #include "disk/settings_file.h"
 
+#include "disk/disk_file_store.h"
 #include "disk/program_folder.h"
 #include "tests/support/doubles.h"
+#include "tests/support/test_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <thread>
 
 namespace orvane {
 namespace {
@@ -65,6 +68,23 @@ TEST(SettingsFileTest, UnreadableFileIsNeverWrittenOver)
     EXPECT_EQ(settings.Get(u"Misc", u"HTMLEditor", u"", orvane), u"");
     settings.Put(u"Misc", u"DefaultPath", u"/x", orvane);
     EXPECT_TRUE(files.Writes.empty());
+}
+
+TEST(SettingsFileTest, TwoProgramsThatStoreAtTheSameTimeKeepBoth)
+{
+    const testing::TestFolder folder;
+    const auto store = [&](TextView section) {
+        PosixCalls calls;
+        DiskFileStore files(calls, u"");
+        SettingsFile settings(files, folder.TextAt("settings"));
+        for (char16_t key = u'a'; key <= u'z'; ++key)
+            settings.Put(section, Text(1, key), u"stored", orvane);
+    };
+    std::thread other(store, u"other");
+    store(u"one");
+    other.join();
+    const auto settings = ReadSettings(folder.Get("settings/Orvane.conf").value_or(""));
+    EXPECT_EQ(settings.size(), 52u);
 }
 
 TEST(ProgramFolderTest, FollowsTheDesktopsConventionsAndItsOwnVariable)

@@ -14,14 +14,9 @@ void CheckSplitting(TextView path)
     const TextView name = GetFileName(path);
     Require(Join({FolderOf(path), name}) == path, "folder and name make up the path");
     Require(name.find_first_of(u"/\\") == TextView::npos, "a name holds no separator");
-    const auto folder = GetPath(path);
-    if (last == 0) {
-        Require(FaultIn(folder) && *FaultIn(folder) == Fault::InvalidProcedureCall,
-                "a path without a separator has no folder");
-        Require(name == path, "a path without a separator is a name");
+    Require(FolderOf(path).size() == last, "a folder ends with its separator");
+    if (last == 0)
         return;
-    }
-    Require(ValueIn(folder).size() + 1 == last, "a folder ends before its separator");
     Require(PathIn(FolderOf(path), name) == path, "a folder keeps its own separator");
 }
 

@@ -2,21 +2,18 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 
 namespace orvane::testing {
 
-/// Ends the run with the name of what does not hold, so that the fuzzer keeps the input.
+/// Throws the name of what does not hold: the fuzzer keeps the input, a test that replays it fails.
 inline void Require(bool holds, const char* what)
 {
-    if (holds)
-        return;
-    std::fprintf(stderr, "does not hold: %s\n", what);
-    std::abort();
+    if (!holds)
+        throw std::logic_error(what);
 }
 
 /// A fuzzer's bytes, taken piece by piece: a first byte of choices, then texts parted by "|||", so

@@ -1,6 +1,8 @@
 #include "insertion/auto_insert.h"
 
+#include "disk/disk_file_store.h"
 #include "tests/support/doubles.h"
+#include "tests/support/test_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +30,10 @@ constexpr TextView openElsewhere =
     u"Your Web page file is open in another application.  Please close the open Web page file or "
     u"exit the application you are using to edit it.\r\n\r\nThen try to AutoInsert the special "
     u"effect again.";
+
+constexpr TextView tooLarge =
+    u"Your Web page file is larger than 512 MB, which is too large for AutoInsert.  Please insert "
+    u"the special effect code manually.";
 
 class AutoInsertTest : public ::testing::Test
 {
@@ -110,29 +116,26 @@ TEST_F(AutoInsertTest, WritesNothingForAMissingPage)
     EXPECT_TRUE(m_files.Writes.empty());
 }
 
-/// A disk on which an editor saves the page just before it is looked at again.
+/// A disk on which an editor saves the page while it is worked on.
 class BusyFileStore : public FakeFileStore
 {
 public:
-    Outcome<std::string> Read(TextView path) const override
+    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override
     {
-        if (path == pagePath && ++m_reads == 2)
-            return std::string("saved meanwhile");
-        return FakeFileStore::Read(path);
+        Contents[Text(path)] = "saved meanwhile";
+        return FakeFileStore::Exchange(path, old, bytes);
     }
-
-private:
-    mutable int m_reads = 0;
 };
 
-TEST_F(AutoInsertTest, KeepsWhatAnEditorSavedWhileTheQuestionWaited)
+TEST_F(AutoInsertTest, KeepsWhatAnEditorSavedMeanwhileThoughNothingWasAsked)
 {
     BusyFileStore files;
-    files.Contents[pagePath] = runBefore;
-    m_dialogs.ExpectAsk(Text(question), true);
+    files.Contents[pagePath] = oldBytes;
     EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::NothingDone);
-    ExpectSaid(openElsewhere);
-    EXPECT_EQ(files.Contents[pagePath], runBefore);
+    ExpectSaid(u"Another application has changed your Web page file in the meantime.  The file "
+               u"stays as that application saved it, without the special effect.\r\n\r\n"
+               u"Please try to AutoInsert the special effect again.");
+    EXPECT_EQ(files.Contents[pagePath], "saved meanwhile");
 }
 
 struct FaultWords
@@ -149,17 +152,19 @@ INSTANTIATE_TEST_SUITE_P(Faults, AutoInsertFaultTest,
                          ::testing::Values(FaultWords{Fault::PermissionDenied, openElsewhere},
                                            FaultWords{Fault::DiskFull, u"Disk full"},
                                            FaultWords{Fault::DeviceError, u"Device I/O error"},
+                                           FaultWords{Fault::OutOfMemory, tooLarge},
                                            FaultWords{Fault::PathFileAccess,
                                                       u"Path/File access error"}));
 
-// Read page, write backup, look for the kept page, make its five folders, write it, write page.
+// Read page, write backup and read it, make the kept page's five folders, write it, write page.
 constexpr int readingThePage = 1;
 constexpr int writingTheBackup = 2;
+constexpr int readingTheBackup = 3;
 constexpr int writingThePage = 10;
 
 TEST_P(AutoInsertFaultTest, LeavesThePageAndTellsItsWords)
 {
-    for (const int call : {readingThePage, writingTheBackup, writingThePage}) {
+    for (const int call : {readingThePage, writingTheBackup, readingTheBackup, writingThePage}) {
         FakeFileStore files = m_files;
         files.FailAt(call, GetParam().What);
         EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept),
@@ -176,7 +181,7 @@ TEST_P(AutoInsertFaultTest, LeavesThePageAndTellsItsWords)
 
 TEST_P(AutoInsertFaultTest, GoesOnWithoutAWordWhenTheFirstBackupCannotBeKept)
 {
-    for (int call = writingTheBackup + 1; call < writingThePage; ++call) {
+    for (int call = readingTheBackup + 1; call < writingThePage; ++call) {
         FakeFileStore files = m_files;
         files.FailAt(call, GetParam().What);
         EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::Inserted);
@@ -207,6 +212,68 @@ TEST_F(AutoInsertTest, LeavesAKeptPageThatCannotBeRead)
     m_files.FailOn(keptPath, Fault::PermissionDenied);
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     EXPECT_EQ(Bytes(keptPath), "first");
+}
+
+/// The same on the real disk, where a downloaded folder may hold anything.
+class AutoInsertIntoFolderTest : public AutoInsertTest
+{
+protected:
+    AutoInsertIntoFolderTest()
+    {
+        Folder.MakeFolder("site");
+        Folder.Put("site/index.html", oldBytes, 0640);
+        Folder.Put("private", "mine", 0600);
+    }
+
+    AutoInsertion Run()
+    {
+        return AutoInsert(m_store, m_dialogs, Folder.TextAt("site/index.html"), m_payload,
+                          {Folder.TextAt("state"), kept.Day});
+    }
+
+    testing::TestFolder Folder;
+
+private:
+    PosixCalls m_calls;
+    DiskFileStore m_store{m_calls, u""};
+};
+
+TEST_F(AutoInsertIntoFolderTest, BackupIsAFileOfItsOwnWhateverLayUnderItsName)
+{
+    const char* const backup = "site/Backup of index.html";
+    for (const char* target : {"../private", "../none", "index.html", "hard"}) {
+        Folder.Put("site/index.html", oldBytes, 0640);
+        std::filesystem::remove(Folder.At(backup));
+        if (target == std::string_view("hard"))
+            Folder.HardLink("site/index.html", backup);
+        else
+            Folder.Link(target, backup);
+        EXPECT_EQ(Run(), AutoInsertion::Inserted) << target;
+        EXPECT_EQ(Folder.Get("site/index.html"), newBytes);
+        EXPECT_EQ(Folder.Get(backup), oldBytes) << target;
+        EXPECT_EQ(Folder.Status(backup).st_mode, S_IFREG | 0640u);
+        EXPECT_EQ(Folder.Get("private"), "mine");
+        EXPECT_FALSE(Folder.Get("none"));
+    }
+}
+
+TEST_F(AutoInsertIntoFolderTest, PageThatIsALinkToItsOwnBackupIsLeft)
+{
+    std::filesystem::rename(Folder.At("site/index.html"), Folder.At("site/Backup of index.html"));
+    Folder.Link("Backup of index.html", "site/index.html");
+    EXPECT_EQ(Run(), AutoInsertion::NothingDone);
+    ExpectSaid(u"Path/File access error");
+    EXPECT_EQ(Folder.Get("site/index.html"), oldBytes);
+}
+
+TEST_F(AutoInsertIntoFolderTest, KeptPageIsAsPrivateAsThePageAndItsFoldersMore)
+{
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    const std::string page = "state/2001-11-28" + Folder.At("site/index.html");
+    EXPECT_EQ(Folder.Get(page), oldBytes);
+    EXPECT_EQ(Folder.Status(page).st_mode & 07777, 0640u);
+    for (const std::string folder : {"state", "state/2001-11-28", "state/2001-11-28/tmp"})
+        EXPECT_EQ(Folder.Status(folder).st_mode & 07777, 0700u) << folder;
 }
 
 TEST(KeptPagePathTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)

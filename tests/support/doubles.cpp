@@ -172,6 +172,17 @@ Done FakeFileStore::Replace(TextView path, std::string_view bytes)
     return {};
 }
 
+Outcome<bool> FakeFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes)
+{
+    const auto found = Contents.find(Text(path));
+    if (found == Contents.end() || found->second != old)
+        return false;
+    const Done done = Replace(path, bytes);
+    if (const Fault* fault = FaultIn(done))
+        return *fault;
+    return true;
+}
+
 Done FakeFileStore::Copy(TextView from, TextView to)
 {
     const auto bytes = Read(from);
@@ -190,7 +201,7 @@ Done FakeFileStore::Remove(TextView path)
     return {};
 }
 
-Done FakeFileStore::MakeFolder(TextView path)
+Done FakeFileStore::MakeFolder(TextView path, Access)
 {
     if (const auto fault = NextFault(path))
         return *fault;

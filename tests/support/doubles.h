@@ -88,11 +88,19 @@ public:
     int Calls() const { return m_calls; }
 
     bool FileExists(TextView path) const override;
+    bool IsTaken(TextView path) const override { return FileExists(path); }
+    bool AreOneFile(TextView path, TextView other) const override { return path == other; }
     Outcome<std::string> Read(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
+    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
+    Done PutNew(TextView path, std::string_view bytes, TextView) override
+    {
+        return Replace(path, bytes);
+    }
     Done Copy(TextView from, TextView to) override;
     Done Remove(TextView path) override;
-    Done MakeFolder(TextView path) override;
+    Done MakeFolder(TextView path, Access access) override;
+    std::shared_ptr<const void> Hold(TextView) override { return nullptr; }
     std::vector<Text> Files(TextView folder) const override;
     Outcome<std::vector<Text>> SubFolders(TextView folder) const override;
     bool FolderExists(TextView path) const override;

@@ -24,7 +24,7 @@ std::pair<dev_t, ino_t> IdentityOf(int descriptor)
 std::pair<dev_t, ino_t> FolderIdentity(const std::string& path)
 {
     FileStatus status{};
-    ::stat(FolderPart(path).c_str(), &status);
+    ::stat(FolderOf(path).c_str(), &status);
     return {status.st_dev, status.st_ino};
 }
 

@@ -81,8 +81,8 @@ TEST(FolderBoxesOnDiskTest, FollowsLinksAndListsNeitherPipesNorHiddenFiles)
         WriteFile((folder.path() + u'/').toStdString() + name, "");
     ASSERT_EQ(mkfifo(root.filePath(QStringLiteral("pipe.gif")).toUtf8().constData(), 0600), 0);
 
-    PosixDisk disk;
-    const DiskFileStore store(disk, FromQt(root.filePath(QStringLiteral("state"))));
+    PosixCalls calls;
+    const DiskFileStore store(calls, FromQt(root.filePath(QStringLiteral("state"))));
     FolderBoxes boxes(store, {"Drive1", "Dir1", "File1"}, u"*.jpg;*.gif");
     ASSERT_TRUE(boxes.GoTo(FromQt(folder.path())));
     EXPECT_EQ(RowsOf(boxes, "File1"), (std::vector<Text>{u"a.JPG", u"b.GIF"}));

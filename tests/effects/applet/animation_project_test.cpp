@@ -205,6 +205,12 @@ TEST_F(ProjectDeskTest, OpensAProjectOrLeavesTheRowsEmpty)
     m_dialogs.AnswerOpenFile(u"/p/missing.ovn");
     EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), ReadProject(""));
     EXPECT_TRUE(m_dialogs.Said.empty());
+
+    m_files.Contents[u"/p/large.ovn"] = std::string((4 << 20) + 1, '|');
+    m_dialogs.AnswerOpenFile(u"/p/large.ovn");
+    EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), TwoImages());
+    EXPECT_EQ(m_dialogs.Said, std::vector<Text>{u"This file is larger than 4 MB, which is too "
+                                                u"large for a project."});
 }
 
 TEST_F(ProjectDeskTest, StartsANewAnimationOnYesAlone)

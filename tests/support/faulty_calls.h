@@ -43,18 +43,18 @@ struct Killed
 /// run it again and again, each time on fresh files, with the trouble one call later:
 ///
 ///     for (int call = 1; call > 0;) {
-///         FaultyDisk disk;
-///         disk.Arm(trouble, call);
-///         try { outcome = command(disk); } catch (const Killed&) {}
-///         disk.Heal();
-///         call = disk.NextCall();
+///         FaultyCalls calls;
+///         calls.Arm(trouble, call);
+///         try { outcome = command(calls); } catch (const Killed&) {}
+///         calls.Heal();
+///         call = calls.NextCall();
 ///         ...
 ///     }
 ///
 /// From a death on nothing that the program still does reaches the disk, so that no clean-up of a
 /// destructor does either. A death at a close lets that call return and shows at the next one. A
 /// sync costs no time: what it protects from is played by the power cuts.
-class FaultyDisk : public Disk
+class FaultyCalls : public SystemCalls
 {
 public:
     /// From now on calls are counted from 1, and the one with this number meets the trouble.
@@ -78,7 +78,7 @@ public:
     Error Write(int descriptor, off_t offset, std::string_view bytes, std::size_t& count) override;
     Error Truncate(int descriptor, off_t size) override;
     Error Sync(int descriptor) override;
-    Error Lock(int descriptor) override;
+    Error Lock(int descriptor, bool waits) override;
     Error Status(int descriptor, FileStatus& status) override;
     Error StatusAt(const std::string& path, FileStatus& status) override;
     Error AttributeSize(int descriptor, const char* name, std::size_t& size) override;
@@ -100,13 +100,13 @@ private:
 
     std::optional<Trouble> m_trouble;
     int m_troubledCall = 0;
-    int m_calls = 0;
+    int m_callCount = 0;
     int m_openDescriptors = 0;
     int m_struckAt = 0;
     bool m_isFull = false;
     bool m_isDead = false;
     std::optional<int> m_exitStatus;
-    PosixDisk m_disk;
+    PosixCalls m_calls;
     Unsynced m_unsynced;
 };
 

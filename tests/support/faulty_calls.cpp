@@ -1,4 +1,4 @@
-#include "tests/support/faulty_disk.h"
+#include "tests/support/faulty_calls.h"
 
 #include <utility>
 
@@ -15,7 +15,7 @@ bool IsHalfway(Trouble trouble)
            trouble == Trouble::KillHalfway;
 }
 
-Disk::Error ErrorOf(Trouble trouble)
+SystemCalls::Error ErrorOf(Trouble trouble)
 {
     switch (trouble) {
     case Trouble::DiskFull:
@@ -56,40 +56,40 @@ bool IsDeath(Trouble trouble)
            trouble == Trouble::PowerCut || trouble == Trouble::PowerCutLateBytes;
 }
 
-void FaultyDisk::Arm(Trouble trouble, int call)
+void FaultyCalls::Arm(Trouble trouble, int call)
 {
     m_trouble = trouble;
     m_troubledCall = call;
-    m_calls = 0;
+    m_callCount = 0;
     m_struckAt = 0;
     m_isFull = false;
 }
 
-void FaultyDisk::Heal()
+void FaultyCalls::Heal()
 {
     m_trouble.reset();
     m_isFull = false;
     m_isDead = false;
 }
 
-void FaultyDisk::CutPower()
+void FaultyCalls::CutPower()
 {
     m_unsynced.LoseContent();
     m_unsynced.LoseNames();
 }
 
-std::optional<Trouble> FaultyDisk::Next(bool isWrite)
+std::optional<Trouble> FaultyCalls::Next(bool isWrite)
 {
-    ++m_calls;
-    if (!m_trouble || m_calls < m_troubledCall || (IsHalfway(*m_trouble) && !isWrite) ||
+    ++m_callCount;
+    if (!m_trouble || m_callCount < m_troubledCall || (IsHalfway(*m_trouble) && !isWrite) ||
         (Struck() && *m_trouble != Trouble::BrokenFromThere))
         return std::nullopt;
     if (!Struck())
-        m_struckAt = m_calls;
+        m_struckAt = m_callCount;
     return m_trouble;
 }
 
-void FaultyDisk::Die(Trouble death)
+void FaultyCalls::Die(Trouble death)
 {
     if (death == Trouble::PowerCutLateBytes)
         m_unsynced.KeepNames();
@@ -100,7 +100,7 @@ void FaultyDisk::Die(Trouble death)
         ::_exit(*m_exitStatus);
 }
 
-Disk::Error FaultyDisk::Meet()
+SystemCalls::Error FaultyCalls::Meet()
 {
     if (m_isDead)
         throw Killed();
@@ -114,12 +114,13 @@ Disk::Error FaultyDisk::Meet()
     return ErrorOf(*trouble);
 }
 
-Disk::Error FaultyDisk::Open(const std::string& path, int flags, mode_t mode, int& descriptor)
+SystemCalls::Error FaultyCalls::Open(const std::string& path, int flags, mode_t mode,
+                                     int& descriptor)
 {
     if (const Error error = Meet())
         return error;
     const bool isNew = (flags & O_CREAT) != 0 && ::access(path.c_str(), F_OK) != 0;
-    if (const Error error = m_disk.Open(path, flags, mode, descriptor))
+    if (const Error error = m_calls.Open(path, flags, mode, descriptor))
         return error;
     ++m_openDescriptors;
     m_unsynced.Opened(descriptor, path);
@@ -128,25 +129,25 @@ Disk::Error FaultyDisk::Open(const std::string& path, int flags, mode_t mode, in
     return {};
 }
 
-Disk::Error FaultyDisk::Close(int descriptor)
+SystemCalls::Error FaultyCalls::Close(int descriptor)
 {
     --m_openDescriptors;
-    m_disk.Close(descriptor);
+    m_calls.Close(descriptor);
     const auto trouble = m_isDead ? std::nullopt : Next(false);
     if (trouble && IsDeath(*trouble))
         Die(*trouble);
     return trouble ? ErrorOf(*trouble) : Error();
 }
 
-Disk::Error FaultyDisk::Read(int descriptor, off_t offset, std::span<char> buffer,
-                             std::size_t& count)
+SystemCalls::Error FaultyCalls::Read(int descriptor, off_t offset, std::span<char> buffer,
+                                     std::size_t& count)
 {
     const Error error = Meet();
-    return error ? error : m_disk.Read(descriptor, offset, buffer, count);
+    return error ? error : m_calls.Read(descriptor, offset, buffer, count);
 }
 
-Disk::Error FaultyDisk::Write(int descriptor, off_t offset, std::string_view bytes,
-                              std::size_t& count)
+SystemCalls::Error FaultyCalls::Write(int descriptor, off_t offset, std::string_view bytes,
+                                      std::size_t& count)
 {
     if (m_isDead)
         throw Killed();
@@ -156,8 +157,8 @@ Disk::Error FaultyDisk::Write(int descriptor, off_t offset, std::string_view byt
     Error error;
     if (!trouble || isHalfway)
         error =
-            m_disk.Write(descriptor, offset,
-                         bytes.substr(0, isHalfway ? (bytes.size() + 1) / 2 : bytes.npos), count);
+            m_calls.Write(descriptor, offset,
+                          bytes.substr(0, isHalfway ? (bytes.size() + 1) / 2 : bytes.npos), count);
     m_isFull = m_isFull || trouble == Trouble::FullHalfway;
     if (trouble && IsDeath(*trouble)) {
         Die(*trouble);
@@ -166,15 +167,15 @@ Disk::Error FaultyDisk::Write(int descriptor, off_t offset, std::string_view byt
     return trouble && !isHalfway ? ErrorOf(*trouble) : error;
 }
 
-Disk::Error FaultyDisk::Truncate(int descriptor, off_t size)
+SystemCalls::Error FaultyCalls::Truncate(int descriptor, off_t size)
 {
     if (const Error error = Meet())
         return error;
     m_unsynced.BeforeWriting(descriptor);
-    return m_disk.Truncate(descriptor, size);
+    return m_calls.Truncate(descriptor, size);
 }
 
-Disk::Error FaultyDisk::Sync(int descriptor)
+SystemCalls::Error FaultyCalls::Sync(int descriptor)
 {
     if (const Error error = Meet())
         return error;
@@ -182,90 +183,90 @@ Disk::Error FaultyDisk::Sync(int descriptor)
     return {};
 }
 
-Disk::Error FaultyDisk::Lock(int descriptor)
+SystemCalls::Error FaultyCalls::Lock(int descriptor, bool waits)
 {
     const Error error = Meet();
-    return error ? error : m_disk.Lock(descriptor);
+    return error ? error : m_calls.Lock(descriptor, waits);
 }
 
-Disk::Error FaultyDisk::Status(int descriptor, FileStatus& status)
+SystemCalls::Error FaultyCalls::Status(int descriptor, FileStatus& status)
 {
     const Error error = Meet();
-    return error ? error : m_disk.Status(descriptor, status);
+    return error ? error : m_calls.Status(descriptor, status);
 }
 
-Disk::Error FaultyDisk::StatusAt(const std::string& path, FileStatus& status)
+SystemCalls::Error FaultyCalls::StatusAt(const std::string& path, FileStatus& status)
 {
     const Error error = Meet();
-    return error ? error : m_disk.StatusAt(path, status);
+    return error ? error : m_calls.StatusAt(path, status);
 }
 
-Disk::Error FaultyDisk::AttributeSize(int descriptor, const char* name, std::size_t& size)
+SystemCalls::Error FaultyCalls::AttributeSize(int descriptor, const char* name, std::size_t& size)
 {
     const Error error = Meet();
-    return error ? error : m_disk.AttributeSize(descriptor, name, size);
+    return error ? error : m_calls.AttributeSize(descriptor, name, size);
 }
 
-Disk::Error FaultyDisk::ChangeMode(int descriptor, mode_t mode)
+SystemCalls::Error FaultyCalls::ChangeMode(int descriptor, mode_t mode)
 {
     const Error error = Meet();
-    return error ? error : m_disk.ChangeMode(descriptor, mode);
+    return error ? error : m_calls.ChangeMode(descriptor, mode);
 }
 
-Disk::Error FaultyDisk::ChangeOwner(int descriptor, uid_t user, gid_t group)
+SystemCalls::Error FaultyCalls::ChangeOwner(int descriptor, uid_t user, gid_t group)
 {
     const Error error = Meet();
-    return error ? error : m_disk.ChangeOwner(descriptor, user, group);
+    return error ? error : m_calls.ChangeOwner(descriptor, user, group);
 }
 
-Disk::Error FaultyDisk::Rename(const std::string& from, const std::string& to)
+SystemCalls::Error FaultyCalls::Rename(const std::string& from, const std::string& to)
 {
     if (const Error error = Meet())
         return error;
     Unsynced::Undo undo = m_unsynced.BeforeRemoving(to);
-    const Error error = m_disk.Rename(from, to);
+    const Error error = m_calls.Rename(from, to);
     if (!error)
         m_unsynced.Renamed(from, to, std::move(undo));
     return error;
 }
 
-Disk::Error FaultyDisk::Remove(const std::string& path)
+SystemCalls::Error FaultyCalls::Remove(const std::string& path)
 {
     if (const Error error = Meet())
         return error;
     Unsynced::Undo undo = m_unsynced.BeforeRemoving(path);
-    const Error error = m_disk.Remove(path);
+    const Error error = m_calls.Remove(path);
     if (!error)
         m_unsynced.Removed(path, std::move(undo));
     return error;
 }
 
-Disk::Error FaultyDisk::ReadLink(const std::string& path, std::string& target)
+SystemCalls::Error FaultyCalls::ReadLink(const std::string& path, std::string& target)
 {
     const Error error = Meet();
-    return error ? error : m_disk.ReadLink(path, target);
+    return error ? error : m_calls.ReadLink(path, target);
 }
 
-Disk::Error FaultyDisk::MakeFolder(const std::string& path, mode_t mode)
+SystemCalls::Error FaultyCalls::MakeFolder(const std::string& path, mode_t mode)
 {
     if (const Error error = Meet())
         return error;
-    const Error error = m_disk.MakeFolder(path, mode);
+    const Error error = m_calls.MakeFolder(path, mode);
     if (!error)
         m_unsynced.MadeFolder(path);
     return error;
 }
 
-Disk::Error FaultyDisk::RemoveFolder(const std::string& path)
+SystemCalls::Error FaultyCalls::RemoveFolder(const std::string& path)
 {
     const Error error = Meet();
-    return error ? error : m_disk.RemoveFolder(path);
+    return error ? error : m_calls.RemoveFolder(path);
 }
 
-Disk::Error FaultyDisk::List(const std::string& path, std::vector<FolderEntry>& entries)
+SystemCalls::Error FaultyCalls::List(const std::string& path, std::vector<FolderEntry>& entries)
 {
     const Error error = Meet();
-    return error ? error : m_disk.List(path, entries);
+    return error ? error : m_calls.List(path, entries);
 }
 
 } // namespace orvane::testing

@@ -1,0 +1,137 @@
+#include "disk/whole_files.h"
+
+#include "disk/replacement_file.h"
+
+#include <tuple>
+
+#include <fcntl.h>
+
+namespace orvane {
+
+namespace {
+
+constexpr int linkLimit = 40;
+constexpr off_t sizeLimit = 512 << 20;
+
+/// Puts a file with the bytes of `old` in the place that `file` has taken from it.
+void PutBack(const FileHandle& old, ReplacementFile& file)
+{
+    std::string bytes;
+    if (!old.ReadAll(bytes))
+        std::ignore = file.Put(bytes);
+}
+
+} // namespace
+
+WholeFiles::WholeFiles(SystemCalls& calls, std::string stateFolder)
+    : m_calls(calls), m_inPlace(calls, std::move(stateFolder))
+{
+}
+
+/// Turns the path of a symbolic link into that of what it leads to, which may be missing.
+std::error_code WholeFiles::FollowLinks(std::string& path) const
+{
+    for (int i = 0; i < linkLimit; ++i) {
+        std::string target;
+        const auto error = Retried([&] { return m_calls.ReadLink(path, target); });
+        const bool isEnd =
+            error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory;
+        if (error)
+            return isEnd && !path.empty() ? std::error_code() : error;
+        path = target.starts_with('/') ? target : FolderOf(path) + target;
+    }
+    return std::make_error_code(std::errc::too_many_symbolic_link_levels);
+}
+
+std::error_code WholeFiles::Read(std::string path, std::string& bytes) const
+{
+    if (const auto error = FollowLinks(path))
+        return error;
+    FileHandle file(m_calls);
+    if (const auto error = file.OpenRegular(path, O_RDONLY))
+        return error;
+    if (file.Status().st_size > sizeLimit)
+        return std::make_error_code(std::errc::not_enough_memory);
+    if (const auto error = m_inPlace.Restore(path, file.Status()))
+        return error;
+    return file.ReadAll(bytes);
+}
+
+std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
+                                    std::optional<std::string_view> expected)
+{
+    if (const auto error = FollowLinks(path))
+        return error;
+    FileHandle old(m_calls);
+    if (const auto error = old.OpenRegular(path, O_RDWR)) {
+        if (error != std::errc::no_such_file_or_directory)
+            return error;
+        return expected ? std::make_error_code(std::errc::operation_canceled)
+                        : PutWhereNoneIs(path, bytes);
+    }
+    if (const auto error = m_inPlace.Restore(path, old.Status()))
+        return error;
+    bool hasAccessList = false;
+    if (const auto error = old.HasAccessList(hasAccessList))
+        return error;
+    if (old.Status().st_nlink == 1 && !hasAccessList) {
+        ReplacementFile file(m_calls, path, old.Status(), ReplacementFile::Rights::All);
+        const auto error = file.Put(bytes, [&] { return LookAgain(path, expected); });
+        if (error && file.IsInPlace())
+            PutBack(old, file);
+        if (!IsRefusal(error) || file.IsInPlace())
+            return error;
+    }
+    return m_inPlace.Write(old, path, bytes, expected);
+}
+
+/// operation_canceled when the file does not hold what is expected.
+std::error_code WholeFiles::LookAgain(const std::string& path,
+                                      std::optional<std::string_view> expected) const
+{
+    if (!expected)
+        return {};
+    FileHandle now(m_calls);
+    const auto error = now.OpenRegular(path, O_RDONLY);
+    if (error == std::errc::no_such_file_or_directory)
+        return std::make_error_code(std::errc::operation_canceled);
+    return error ? error : now.MustHold(*expected);
+}
+
+std::error_code WholeFiles::PutNew(const std::string& path, std::string_view bytes,
+                                   const std::string& like)
+{
+    FileHandle old(m_calls);
+    const auto missing = old.OpenRegular(path, O_RDWR | O_NOFOLLOW);
+    const bool isLink = missing == std::errc::too_many_symbolic_link_levels;
+    const bool isFree = missing == std::errc::no_such_file_or_directory;
+    if (missing && !isLink && !isFree)
+        return missing;
+    FileStatus rights = old.Status();
+    if (!like.empty())
+        if (const auto error = Retried([&] { return m_calls.StatusAt(like, rights); }))
+            return error;
+    if (missing && like.empty())
+        return PutWhereNoneIs(path, bytes);
+    ReplacementFile file(m_calls, path, rights, ReplacementFile::Rights::Permissions);
+    const auto error = file.Put(bytes);
+    // A link that is gone stays so: the new file holds what was wanted.
+    if (error && file.IsInPlace() && !missing) {
+        ReplacementFile before(m_calls, path, old.Status(), ReplacementFile::Rights::Permissions);
+        PutBack(old, before);
+    } else if (error && file.IsInPlace() && isFree) {
+        std::ignore = Retried([&] { return m_calls.Remove(path); });
+    }
+    return error;
+}
+
+std::error_code WholeFiles::PutWhereNoneIs(const std::string& path, std::string_view bytes)
+{
+    ReplacementFile file(m_calls, path, 0666);
+    const auto error = file.Put(bytes);
+    if (error && file.IsInPlace())
+        std::ignore = Retried([&] { return m_calls.Remove(path); });
+    return error;
+}
+
+} // namespace orvane
