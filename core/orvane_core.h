@@ -47,6 +47,7 @@ struct OrvaneCore
     Text PastedApplet; ///< the whole pasted tag
     Text ImageFolderMemo;
     Text LinkFolderMemo;
+    Text LastSoundFolder;
     Text BrowserPathChoice;
     Text RandomMode;
     bool TransitionsImageMode = false;

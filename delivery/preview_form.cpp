@@ -205,8 +205,12 @@ void PreviewForm::OfferEditorHelp()
 
 void PreviewForm::Preview(PreviewMode mode)
 {
-    const WaitCursor wait;
-    LinkToBrowser(m_bench, m_payload, mode, m_windows.ShowOptions);
+    const bool wantsOptions = [&] {
+        const WaitCursor wait;
+        return LinkToBrowser(m_bench, m_payload, mode);
+    }();
+    if (wantsOptions)
+        m_windows.ShowOptions();
 }
 
 void PreviewForm::BeginPreview()

@@ -3,6 +3,9 @@
 #include "core/file_names.h"
 #include "core/template.h"
 #include "insertion/page_encoding.h"
+#include "preview/preview_note.h"
+
+#include <utility>
 
 namespace orvane {
 
@@ -142,22 +145,36 @@ Text FindBrowser(Workbench& bench)
     return browser;
 }
 
-void ShowInBrowser(Workbench& bench, const std::function<void()>& showOptions)
+/// True when the browser did not start and the author wants to see the preferences.
+bool ShowInBrowser(Workbench& bench)
 {
     const Text browser = FindBrowser(bench);
     const Text page = PreviewPagePath(bench.Core);
     if (bench.Settings.Get(u"Apps", u"Override", u"0") == u"0") {
         bench.Shell.OpenWithShell(page);
-        return;
+        return false;
     }
-    if (bench.Shell.Start(browser, page))
-        return;
-    if (bench.Dialogs.Ask(
-            u"Could not locate browser using the specified path/filename found in the "
-            u"Windows Registry.  Check your Preference settings.  Would you like to "
-            u"view your settings now?",
-            u"Incorrect Browser path/filename"))
-        showOptions();
+    return !bench.Shell.Start(browser, page) &&
+           bench.Dialogs.Ask(
+               u"Could not locate browser using the specified path/filename found in the "
+               u"Windows Registry.  Check your Preference settings.  Would you like to "
+               u"view your settings now?",
+               u"Incorrect Browser path/filename");
+}
+
+/// Writes the page and, inline, shows it at once.
+Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mode)
+{
+    const Text path = PreviewPagePath(bench.Core);
+    std::string bytes = EncodeForPage(PreviewPageText(payload, mode), PageEncoding::Windows1252);
+    if (mode == PreviewMode::Inline)
+        return bench.Pane.Navigate(
+            {.Path = path,
+             .Bytes = std::move(bytes),
+             .Note = PreviewNote(payload.Effect, bench.Files, bench.Core.ProgramFolder),
+             .RunsInStatus = RunsInStatus(payload.Effect.Kind)});
+    bench.Pane.LeaveFile();
+    return bench.Files.Replace(path, bytes);
 }
 
 } // namespace
@@ -180,27 +197,20 @@ Text PreviewPagePath(const OrvaneCore& core)
     return PathIn(core.ProgramFolder, u"ov-prvw.htm");
 }
 
-void LinkToBrowser(Workbench& bench, const FinishedPayload& payload, PreviewMode mode,
-                   const std::function<void()>& showOptions)
+bool LinkToBrowser(Workbench& bench, const FinishedPayload& payload, PreviewMode mode)
 {
     // Two empty texts still have the line end between them.
     if (payload.PreviewCode.empty()) {
         bench.Dialogs.Say(u"There is no code in the preview window.  Cannot preview the special "
                           u"effect.");
-        return;
+        return false;
     }
-    const Text path = PreviewPagePath(bench.Core);
-    const std::string bytes =
-        EncodeForPage(PreviewPageText(payload, mode), PageEncoding::Windows1252);
-    const Done written = bench.Files.Replace(path, bytes);
+    const Done written = WritePage(bench, payload, mode);
     if (const Fault* fault = FaultIn(written)) {
         bench.Dialogs.Say(Words(*fault));
-        return;
+        return false;
     }
-    if (mode == PreviewMode::Inline)
-        bench.Pane.Navigate(path);
-    else
-        ShowInBrowser(bench, showOptions);
+    return mode == PreviewMode::Browser1 && ShowInBrowser(bench);
 }
 
 } // namespace orvane

@@ -3,8 +3,6 @@
 #include "core/payload.h"
 #include "core/workbench.h"
 
-#include <functional>
-
 namespace orvane {
 
 /// Where a preview is shown.
@@ -20,9 +18,10 @@ Text PreviewPageText(const FinishedPayload& payload, PreviewMode mode);
 /// The full path of the preview page.
 Text PreviewPagePath(const OrvaneCore& core);
 
-/// Writes the preview page and shows it. Says so when there is no code or the page cannot be
-/// written; when the author's browser does not start, offers the preferences by `showOptions`.
-void LinkToBrowser(Workbench& bench, const FinishedPayload& payload, PreviewMode mode,
-                   const std::function<void()>& showOptions);
+/// Shows the preview page. Says so when there is no code or the page cannot be written. A browser's
+/// page stays as it is until it is removed, and the pane keeps its hands off it. True when the
+/// author's browser did not start and the author wants to see the preferences.
+[[nodiscard]] bool LinkToBrowser(Workbench& bench, const FinishedPayload& payload,
+                                 PreviewMode mode);
 
 } // namespace orvane

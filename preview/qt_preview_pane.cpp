@@ -23,6 +23,9 @@ namespace {
 constexpr TextView instead =
     u"\r\n\r\nYou can preview the special effect in your own Web browser instead.";
 
+/// The name of the page file while a browser has the other; it lies beside that.
+constexpr TextView ownPageName = u"ov-pane.htm";
+
 /// One line of plain text that is cut at the label's edge and never widens it; every blank counts.
 class StatusLine : public QLabel
 {
@@ -43,6 +46,11 @@ protected:
             fontMetrics().elidedText(text(), Qt::ElideRight, room.width()), foregroundRole());
     }
 };
+
+Text OwnPath(TextView path)
+{
+    return PathIn(FolderOf(path), ownPageName);
+}
 
 Text LeadOutsideQuestion(TextView target)
 {
@@ -66,9 +74,9 @@ QtPreviewPane::QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, Q
       m_notePage(new QWidget),
       m_viewPage(new QWidget),
       lblPreviewNote(new QLabel),
+      lblCannotShow(new QLabel),
       lblPageStatus(new StatusLine),
-      cmdTryAgain(new QPushButton("&Try again")),
-      cmdPreviewInBrowser(new QPushButton("Preview in &Browser"))
+      cmdTryAgain(new QPushButton("&Try again"))
 {
     BuildViewPage();
     BuildNotePage();
@@ -87,13 +95,10 @@ void QtPreviewPane::BuildNotePage()
     lblPreviewNote->setTextFormat(Qt::PlainText);
     lblPreviewNote->setWordWrap(true);
     cmdTryAgain->setObjectName("cmdTryAgain");
-    cmdPreviewInBrowser->setObjectName("cmdPreviewInBrowser");
     connect(cmdTryAgain, &QPushButton::clicked, this, [this] { TryAgain(); });
-    connect(cmdPreviewInBrowser, &QPushButton::clicked, this, [this] { OpenInBrowser(); });
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cmdTryAgain);
-    buttons->addWidget(cmdPreviewInBrowser);
     buttons->addStretch();
     auto* rows = new QVBoxLayout(m_notePage);
     rows->addStretch();
@@ -107,26 +112,42 @@ void QtPreviewPane::BuildViewPage()
     lblPageStatus->setObjectName("lblPageStatus");
     lblPageStatus->setAccessibleName("Page status");
     lblPageStatus->setTextFormat(Qt::PlainText);
+    lblCannotShow->setObjectName("lblCannotShow");
+    lblCannotShow->setTextFormat(Qt::PlainText);
+    lblCannotShow->setWordWrap(true);
+    lblCannotShow->setMargin(4);
+    lblCannotShow->setFrameStyle(QFrame::StyledPanel);
+    lblCannotShow->hide();
     auto* rows = new QVBoxLayout(m_viewPage);
     rows->setContentsMargins({});
+    rows->addWidget(lblCannotShow);
     rows->addStretch();
     rows->addWidget(lblPageStatus);
 }
 
-void QtPreviewPane::Navigate(TextView path)
+Done QtPreviewPane::Navigate(const PanePage& page)
 {
-    if (path != m_path)
-        PageRead();
-    m_path = path;
-    const Outcome<std::string> page = m_files.Read(m_path);
-    if (const Fault* fault = FaultIn(page)) {
-        Clear();
-        return ShowNote(Join({u"The preview page could not be read: ", Words(*fault), u"."}),
-                        false);
+    PageRead();
+    PanePage former = std::exchange(m_page, page);
+    if (m_isFileLeft)
+        m_page.Path = OwnPath(page.Path);
+    const Done written = WritePage();
+    if (FaultIn(written)) {
+        m_page = std::move(former);
+        return written;
     }
-    m_page = ValueIn(page);
-    m_fileGone = false;
     ShowPage();
+    return {};
+}
+
+void QtPreviewPane::LeaveFile()
+{
+    if (std::exchange(m_isFileLeft, true))
+        return;
+    m_page.Path = OwnPath(m_page.Path);
+    // A page that is still being read goes on under the other name.
+    if (!std::exchange(m_fileGone, true) && !FaultIn(WritePage()))
+        ShowPage();
 }
 
 void QtPreviewPane::Clear()
@@ -135,6 +156,7 @@ void QtPreviewPane::Clear()
         m_view->Clear();
     lblPageStatus->clear();
     PageRead();
+    m_isFileLeft = false;
 }
 
 void QtPreviewPane::Warm()
@@ -147,12 +169,16 @@ void QtPreviewPane::ShowPage()
     m_boxes.StartPage();
     m_ledOutside = false;
     lblPageStatus->clear();
+    lblPageStatus->setFrameStyle(m_page.RunsInStatus ? QFrame::Box | QFrame::Plain
+                                                     : QFrame::NoFrame);
+    lblCannotShow->setText(ToQtLines(m_page.Note));
+    lblCannotShow->setVisible(!m_page.Note.empty());
     if (const auto refusal = LoadView()) {
         PageRead();
         return ShowNote(Join({*refusal, instead}), false);
     }
     m_stack->setCurrentWidget(m_viewPage);
-    m_view->ShowPage(m_path);
+    m_view->ShowPage(m_page.Path);
 }
 
 /// Loads the module and makes its view, once; what stands against it otherwise.
@@ -171,8 +197,8 @@ std::optional<Text> QtPreviewPane::LoadView()
         return refusal;
     m_view->setObjectName("WebBrowser1");
     auto* rows = static_cast<QVBoxLayout*>(m_viewPage->layout());
-    delete rows->takeAt(0); // the stretch that kept the view's place
-    rows->insertWidget(0, m_view, 1);
+    delete rows->takeAt(1); // the stretch that kept the view's place
+    rows->insertWidget(1, m_view, 1);
     return std::nullopt;
 }
 
@@ -185,30 +211,19 @@ void QtPreviewPane::ShowNote(const Text& words, bool canTryAgain)
 
 void QtPreviewPane::TryAgain()
 {
-    const Done restored = RestorePage();
-    if (const Fault* fault = FaultIn(restored))
+    const Done written = WritePage();
+    if (const Fault* fault = FaultIn(written))
         return ShowNote(Join({u"The preview page could not be written: ", Words(*fault), u"."}),
                         true);
     ShowPage();
 }
 
-void QtPreviewPane::OpenInBrowser()
-{
-    if (PreviewInBrowser)
-        return PreviewInBrowser();
-    const Done restored = RestorePage();
-    if (const Fault* fault = FaultIn(restored))
-        return ShowNote(Join({u"The preview page could not be written: ", Words(*fault), u"."}),
-                        cmdTryAgain->isVisible());
-    m_shell.OpenWithShell(m_path);
-}
-
-/// Puts the page file back in its place after it was deleted.
-Done QtPreviewPane::RestorePage()
+/// Puts the page file in its place, where it is not there any more.
+Done QtPreviewPane::WritePage()
 {
     if (!m_fileGone)
         return {};
-    const Done done = m_files.Replace(m_path, m_page);
+    const Done done = m_files.Replace(m_page.Path, m_page.Bytes);
     m_fileGone = FaultIn(done) != nullptr;
     return done;
 }
@@ -221,13 +236,13 @@ PageBoxReply QtPreviewPane::AnswerBox(const PageBox& box)
 void QtPreviewPane::PageNeeded()
 {
     // A page that cannot be put back fails to load, and the view shows that.
-    static_cast<void>(RestorePage());
+    static_cast<void>(WritePage());
 }
 
 void QtPreviewPane::PageRead()
 {
     if (!std::exchange(m_fileGone, true))
-        static_cast<void>(m_files.Remove(m_path));
+        static_cast<void>(m_files.Remove(m_page.Path));
 }
 
 void QtPreviewPane::StatusWritten(TextView status)
@@ -245,9 +260,12 @@ void QtPreviewPane::OutsideWanted(TextView target, bool byAuthor)
         return;
     m_ledOutside = true;
     m_askingOutside = true;
-    const bool isFile = target.starts_with(pathSeparator);
-    if (isFile && !m_files.FileExists(target))
-        m_dialogs.Say(Join({u"The page leads to a file that is not there:\r\n\r\n", target}));
+    // A file is never handed on: what the desktop would do with it is not for a page to choose.
+    if (target.starts_with(pathSeparator))
+        m_dialogs.Say(Join({m_files.FileExists(target)
+                                ? u"The page leads to a file that the preview does not open:"
+                                : u"The page leads to a file that is not there:",
+                            u"\r\n\r\n", target}));
     else if (m_dialogs.Ask(LeadOutsideQuestion(target)))
         m_shell.OpenWithShell(target);
     m_askingOutside = false;

@@ -8,7 +8,6 @@
 
 #include <QWidget>
 
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,17 +17,18 @@ class QStackedLayout;
 
 namespace orvane {
 
-/// The preview as the author sees it: the web view with a status line below it or, where there is
-/// nothing to see, a note that says why and what can be done.
+/// The preview as the author sees it: the web view with the page's status line below it and above
+/// it what it cannot show; or, where there is nothing to see, a note that says why and what can be
+/// done.
 class QtPreviewPane : public QWidget, public PreviewPane, private WebViewOwner
 {
 public:
     QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent = nullptr);
     ~QtPreviewPane() override;
 
-    /// Shows the page file in the web view, loaded now if it was not before; a note says so when
-    /// either cannot be used.
-    void Navigate(TextView path) override;
+    /// A note stands in place of the page when the web view cannot be used.
+    [[nodiscard]] Done Navigate(const PanePage& page) override;
+    void LeaveFile() override;
     void Clear() override;
 
     /// Loads the web view ahead of the first page; a failure shows at the first page.
@@ -36,9 +36,6 @@ public:
 
     /// The web view; null as long as it is not loaded.
     WebView* View() const { return m_view; }
-
-    /// What the note's "Preview in Browser" does; unless set, the desktop opens the page file.
-    std::function<void()> PreviewInBrowser;
 
 private:
     PageBoxReply AnswerBox(const PageBox& box) override;
@@ -53,8 +50,7 @@ private:
     void ShowNote(const Text& words, bool canTryAgain);
     void ShowPage();
     void TryAgain();
-    void OpenInBrowser();
-    [[nodiscard]] Done RestorePage();
+    [[nodiscard]] Done WritePage();
     std::optional<Text> LoadView();
 
     Dialogs& m_dialogs;
@@ -62,9 +58,9 @@ private:
     FileStore& m_files;
     PageBoxes m_boxes;
 
-    Text m_path;
-    std::string m_page; ///< the page's bytes, since its file is deleted once it is read
-    bool m_fileGone = true;
+    PanePage m_page;           ///< as shown; its path is where the file lies now
+    bool m_fileGone = true;    ///< the page file was deleted, or never written
+    bool m_isFileLeft = false; ///< the file under the first name belongs to a browser
     bool m_ledOutside = false; ///< the author was asked about an address outside
     bool m_askingOutside = false;
 
@@ -73,9 +69,9 @@ private:
     QWidget* m_notePage;
     QWidget* m_viewPage;
     QLabel* lblPreviewNote;
+    QLabel* lblCannotShow;
     QLabel* lblPageStatus;
     QPushButton* cmdTryAgain;
-    QPushButton* cmdPreviewInBrowser;
 };
 
 } // namespace orvane

@@ -4,7 +4,6 @@
 #include "preview/web_view_page.h"
 #include "windows/qt_text.h"
 
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QUuid>
 #include <QVBoxLayout>
@@ -15,20 +14,24 @@
 #include <QWebEngineSettings>
 #include <QtWebEngineQuick>
 
-#include <csignal>
 #include <optional>
 
 namespace orvane {
 
 namespace {
 
-constexpr int pingMs = 1000;
-constexpr qint64 patienceMs = 8000;
+constexpr const char* flagsVariable = "QTWEBENGINE_CHROMIUM_FLAGS";
+
+/// Cuts the engine off from every network, whatever a page finds to call with: a proxy that nobody
+/// runs, no traffic past it, and no name that is looked up.
+constexpr const char* engineFlags =
+    " --proxy-server=socks5://127.0.0.1:9 --proxy-bypass-list=<-loopback>"
+    " --force-webrtc-ip-handling-policy=disable_non_proxied_udp"
+    " --host-resolver-rules=\"MAP * ~NOTFOUND\"";
 
 /// The preview's own script, first in every document. It gives window.status back its voice, which
 /// the engine keeps and shows nowhere; the property stays configurable, since pages declare
-/// functions of that name. It takes away what calls servers behind the request interceptor's back.
-/// It reports "begin" for a new page and "=" and the words for a status.
+/// functions of that name. It reports "begin" for a new page and "=" and the words for a status.
 QString PreviewScript(const QString& token)
 {
     return QStringLiteral(R"js((function () {
@@ -40,59 +43,11 @@ QString PreviewScript(const QString& token)
     };
     Object.defineProperty(window, "status",
                           {configurable: true, enumerable: true, get: () => shown, set: write});
-    for (const caller of ["RTCPeerConnection", "webkitRTCPeerConnection", "WebTransport"])
-        delete window[caller];
     if (window === window.top)
         report("%1begin");
 })();)js")
         .arg(token);
 }
-
-/// Whether the shown page still answers, asked once a second while no box holds it up.
-class AnswerWatch : public QObject
-{
-public:
-    AnswerWatch(PageRoom& room, std::function<void()> hung) : m_room(room), m_hung(std::move(hung))
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] { Tick(); });
-    }
-
-    /// Watches this page from its first sign of life on.
-    void Watch(QWebEnginePage& page)
-    {
-        m_page = &page;
-        m_asked = false;
-        m_timer.start(pingMs);
-    }
-
-    void Stop() { m_timer.stop(); }
-
-private:
-    void Tick()
-    {
-        if (m_room.BoxOpen) {
-            m_since.start();
-        } else if (!m_asked) {
-            m_asked = true;
-            m_since.start();
-            m_page->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
-                                  [this, alive = QPointer(this)](const QVariant&) {
-                                      if (alive)
-                                          m_asked = false;
-                                  });
-        } else if (m_since.elapsed() >= patienceMs) {
-            Stop();
-            m_hung();
-        }
-    }
-
-    PageRoom& m_room;
-    std::function<void()> m_hung;
-    QPointer<QWebEnginePage> m_page;
-    QTimer m_timer;
-    QElapsedTimer m_since;
-    bool m_asked = false;
-};
 
 /// The view of the module: one engine profile, and a fresh page for each page file, so that nothing
 /// of a page survives it. A spare page stands ready while none is shown: the engine starts its
@@ -102,9 +57,11 @@ class EngineView : public WebView
 public:
     EngineView(WebViewOwner& owner, QWidget* parent)
         : WebView(parent),
-          m_room{.Owner = owner, .Guard = m_guard, .Token = QUuid::createUuid().toString()},
-          m_view(m_room, this),
-          m_watch(m_room, [this] { StopHungPage(); })
+          m_room{.Owner = owner,
+                 .Guard = m_guard,
+                 .Token = QUuid::createUuid().toString(),
+                 .Hung = [this] { EndPage(PageEnd::Hung); }},
+          m_view(m_room, this)
     {
         SetUpProfile();
         auto* layout = new QVBoxLayout(this);
@@ -150,7 +107,6 @@ public:
 private:
     void SetUpProfile();
     void MakePage();
-    void StopHungPage();
     void EndPage(PageEnd end);
     void Turn(std::function<void()> toNext);
 
@@ -158,10 +114,8 @@ private:
     QWebEngineProfile m_profile; ///< without a name: it leaves nothing on the disk
     PageRoom m_room;
     PageView m_view;
-    AnswerWatch m_watch;
     PreviewWebPage* m_page = nullptr;
     bool m_isSpare = false; ///< nothing was shown in the page yet
-    bool m_stoppedHung = false;
 };
 
 void EngineView::SetUpProfile()
@@ -194,35 +148,22 @@ void EngineView::SetUpProfile()
 
 void EngineView::MakePage()
 {
-    m_watch.Stop();
     m_room.CloseWindows();
     m_room.Page.clear();
     m_room.AuthorActed = false;
     m_isSpare = true;
-    m_stoppedHung = false;
     PreviewWebPage* former = m_page;
     m_page = new PreviewWebPage(m_profile, m_room, m_view);
-    m_page->Reported = [this](const QString& report) {
-        const bool isStatus = report.startsWith(u'=');
-        m_room.Owner.StatusWritten(isStatus ? FromQt(report.mid(1)) : Text());
-        if (!isStatus)
-            m_watch.Watch(*m_page);
+    m_page->StatusWritten = [this](const QString& status) {
+        m_room.Owner.StatusWritten(FromQt(status));
     };
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status, int) {
                 if (status != QWebEnginePage::NormalTerminationStatus)
-                    EndPage(m_stoppedHung ? PageEnd::Hung : PageEnd::Crashed);
+                    EndPage(PageEnd::Crashed);
             });
     m_view.setPage(m_page);
     delete former;
-}
-
-void EngineView::StopHungPage()
-{
-    m_stoppedHung = true;
-    const std::int64_t pid = RendererPid();
-    if (pid <= 0 || kill(static_cast<pid_t>(pid), SIGKILL) != 0)
-        EndPage(PageEnd::Hung);
 }
 
 void EngineView::EndPage(PageEnd end)
@@ -255,6 +196,14 @@ extern "C" Q_DECL_EXPORT orvane::WebView* OrvaneMakeWebView(orvane::WebViewOwner
 {
     if (const auto reason = orvane::WhyEngineCannotStart(orvane::FindSandboxFacts())) {
         refusal = *reason;
+        return nullptr;
+    }
+    using orvane::engineFlags;
+    using orvane::flagsVariable;
+    // The engine reads its flags once, before its first view.
+    static const bool isOffline = qputenv(flagsVariable, qgetenv(flagsVariable) + engineFlags);
+    if (!isOffline) {
+        refusal = u"The built-in preview could not be cut off from the network.";
         return nullptr;
     }
     // Without this, a view in a module loaded behind the application's start crashes.

@@ -3,6 +3,7 @@
 #include "windows/qt_text.h"
 
 #include <QChildEvent>
+#include <QCloseEvent>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -13,6 +14,7 @@
 #include <QWebEngineUrlRequestInfo>
 
 #include <algorithm>
+#include <csignal>
 
 namespace orvane {
 
@@ -26,7 +28,7 @@ bool IsForOutside(const QUrl& url)
 {
     const QString scheme = url.scheme();
     return scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
-           scheme == QLatin1String("mailto") || scheme == QLatin1String("file");
+           scheme == QLatin1String("mailto");
 }
 
 } // namespace
@@ -54,8 +56,42 @@ void PageRoom::CloseWindows()
         delete window.data();
 }
 
+PageBoxReply PageRoom::Answer(const PageBox& box)
+{
+    const bool inOther = std::exchange(BoxOpen, true);
+    const PageBoxReply reply = Owner.AnswerBox(box);
+    BoxOpen = inOther;
+    if (inOther)
+        return reply;
+    for (const QPointer<QWidget>& window : std::vector(Windows))
+        if (window && window->isHidden())
+            window->close();
+    if (AfterBox)
+        std::exchange(AfterBox, nullptr)();
+    return reply;
+}
+
+PageWindow::PageWindow(PageRoom& room, QWidget& owner) : QWidget(&owner, Qt::Window), m_room(room)
+{
+    setObjectName("PageWindow");
+    // So nothing that must outlive it takes it for an owner.
+    setAttribute(Qt::WA_DeleteOnClose);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+void PageWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(!m_room.BoxOpen);
+    if (m_room.BoxOpen)
+        hide();
+}
+
 PreviewWebPage::PreviewWebPage(QWebEngineProfile& profile, PageRoom& room, QWidget& view)
-    : QWebEnginePage(&profile, &view), m_room(room), m_view(view)
+    : QWebEnginePage(&profile, &view),
+      m_room(room),
+      m_view(view),
+      m_watch(
+          *this, [&room] { return room.BoxOpen; }, [this] { StopHung(); })
 {
     RefusePrivileges();
     connect(this, &QWebEnginePage::newWindowRequested, this, &PreviewWebPage::OpenWindow);
@@ -99,25 +135,28 @@ bool PreviewWebPage::acceptNavigationRequest(const QUrl& url, NavigationType, bo
 
 void PreviewWebPage::OfferOutside(const QUrl& url)
 {
-    if (!IsForOutside(url))
+    if (!IsForOutside(url) && !url.isLocalFile())
         return;
-    // The engine waits for this decision; the author is asked once it has it.
-    QTimer::singleShot(0, this, [this, url] {
+    // The engine waits for this decision; the author is asked once it has it, and the page may be
+    // gone by then.
+    QTimer::singleShot(0, &m_room.Guard, [&room = m_room, url] {
         const QString target = url.isLocalFile() ? url.toLocalFile() : url.toString();
-        m_room.Owner.OutsideWanted(FromQt(target), std::exchange(m_room.AuthorActed, false));
+        room.Owner.OutsideWanted(FromQt(target), std::exchange(room.AuthorActed, false));
     });
+}
+
+/// A page that hangs stays deaf to whatever the engine asks it, so its process is ended.
+void PreviewWebPage::StopHung()
+{
+    if (const qint64 pid = renderProcessPid(); pid > 0)
+        kill(static_cast<pid_t>(pid), SIGKILL);
+    m_room.Hung();
 }
 
 PageBoxReply PreviewWebPage::Answer(PageBox::Kind shape, const QString& words,
                                     const QString& proposed)
 {
-    const bool inOther = std::exchange(m_room.BoxOpen, true);
-    const PageBoxReply reply = m_room.Owner.AnswerBox(
-        {.Shape = shape, .Words = FromQt(words), .Proposed = FromQt(proposed)});
-    m_room.BoxOpen = inOther;
-    if (!inOther && m_room.AfterBox)
-        std::exchange(m_room.AfterBox, nullptr)();
-    return reply;
+    return m_room.Answer({.Shape = shape, .Words = FromQt(words), .Proposed = FromQt(proposed)});
 }
 
 void PreviewWebPage::javaScriptAlert(const QUrl&, const QString& words)
@@ -141,8 +180,14 @@ bool PreviewWebPage::javaScriptPrompt(const QUrl&, const QString& words, const Q
 void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message,
                                               int, const QString&)
 {
-    if (Reported && message.startsWith(m_room.Token))
-        Reported(message.mid(m_room.Token.size()));
+    if (!message.startsWith(m_room.Token))
+        return;
+    const QString report = message.mid(m_room.Token.size());
+    const bool isStatus = report.startsWith(u'=');
+    if (!isStatus)
+        m_watch.Start();
+    if (StatusWritten)
+        StatusWritten(isStatus ? report.mid(1) : QString());
 }
 
 QStringList PreviewWebPage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&)
@@ -159,9 +204,7 @@ void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
     if (m_room.Windows.size() >= mostWindows)
         return;
 
-    auto* window = new QWidget(&m_view, Qt::Window);
-    window->setObjectName("PageWindow");
-    window->setAttribute(Qt::WA_DeleteOnClose);
+    auto* window = new PageWindow(m_room, m_view);
     const QSize asked = request.requestedGeometry().size();
     window->resize(asked.isEmpty() ? windowSize : asked);
     auto* view = new PageView(m_room, window);
@@ -173,7 +216,6 @@ void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
     connect(page, &QWebEnginePage::titleChanged, window, &QWidget::setWindowTitle);
     connect(page, &QWebEnginePage::windowCloseRequested, window, &QWidget::close);
     connect(page, &QWebEnginePage::renderProcessTerminated, window, &QWidget::close);
-    connect(new QShortcut(Qt::Key_Escape, window), &QShortcut::activated, window, &QWidget::close);
     m_room.Windows.emplace_back(window);
     request.openIn(page);
     window->show();

@@ -2,6 +2,7 @@
 
 #include "preview/page_folder.h"
 #include "preview/web_view.h"
+#include "preview/web_view_watch.h"
 
 #include <QPointer>
 #include <QUrl>
@@ -34,8 +35,9 @@ struct PageRoom
 {
     WebViewOwner& Owner;
     FolderGuard& Guard;
-    QString Token;  ///< begins the console messages of the preview's own script
-    QUrl Page = {}; ///< the shown page file; empty when there is none
+    QString Token;                   ///< begins the console messages of the preview's own script
+    std::function<void()> Hung = {}; ///< called when a page no longer answers and was stopped
+    QUrl Page = {};                  ///< the shown page file; empty when there is none
     bool BoxOpen = false;
     std::function<void()> AfterBox = {}; ///< run once the open box has closed
     bool AuthorActed = false;            ///< clicked or typed since the page last led outside
@@ -43,6 +45,23 @@ struct PageRoom
 
     /// Closes the windows that the page opened.
     void CloseWindows();
+
+    /// Lets the owner show a box. No page and no window of one goes away meanwhile.
+    PageBoxReply Answer(const PageBox& box);
+};
+
+/// A window that a page opened. It closes itself whenever the page wants, but not under a box of
+/// the page that shows in it: it is hidden then and goes once the box has its answer.
+class PageWindow : public QWidget
+{
+public:
+    PageWindow(PageRoom& room, QWidget& owner);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    PageRoom& m_room;
 };
 
 /// A page under the preview's rules: nothing from outside, boxes through the owner, all that would
@@ -53,8 +72,9 @@ public:
     /// A page inside `view`, which is the page's parent.
     PreviewWebPage(QWebEngineProfile& profile, PageRoom& room, QWidget& view);
 
-    /// Called with each report of the preview's own script; unless set, they are dropped.
-    std::function<void(const QString&)> Reported;
+    /// Called with what the page wrote into its status line, empty when the page begins; unless
+    /// set, it is dropped.
+    std::function<void(const QString&)> StatusWritten;
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -72,10 +92,12 @@ private:
     void OpenWindow(QWebEngineNewWindowRequest& request);
     bool MayGoTo(const QUrl& url);
     void OfferOutside(const QUrl& url);
+    void StopHung();
     PageBoxReply Answer(PageBox::Kind shape, const QString& words, const QString& proposed = {});
 
     PageRoom& m_room;
     QWidget& m_view;
+    AnswerWatch m_watch;
 };
 
 /// A browser view without a menu of its own, which notices when the author acts in it.

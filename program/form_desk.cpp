@@ -4,6 +4,15 @@
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/applet/advanced_animator_form.h"
+#include "effects/applet/image_effects_form.h"
+#include "effects/applet/image_fade_form.h"
+#include "effects/applet/more_image_effects_form.h"
+#include "effects/applet/typewriter_text_form.h"
+#include "effects/page/cursor_trail_form.h"
+#include "effects/page/dynamic_button_form.h"
+#include "effects/page/popup_alert_form.h"
+#include "effects/page/popup_window_form.h"
+#include "effects/page/slideshow_form.h"
 #include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "program/about_form.h"
@@ -37,6 +46,24 @@ WizardMaker MakerOf(EffectKind kind)
         return &Make<DigitalClockForm>;
     case EffectKind::StatusBarTicker:
         return &Make<StatusBarTickerForm>;
+    case EffectKind::TypewriterText:
+        return &Make<TypewriterTextForm>;
+    case EffectKind::ImageEffects:
+        return &Make<ImageEffectsForm>;
+    case EffectKind::MoreImageEffects:
+        return &Make<MoreImageEffectsForm>;
+    case EffectKind::ImageFade:
+        return &Make<ImageFadeForm>;
+    case EffectKind::DynamicButton:
+        return &Make<DynamicButtonForm>;
+    case EffectKind::Slideshow:
+        return &Make<SlideshowForm>;
+    case EffectKind::CursorTrail:
+        return &Make<CursorTrailForm>;
+    case EffectKind::PopupAlert:
+        return &Make<PopupAlertForm>;
+    case EffectKind::PopupWindow:
+        return &Make<PopupWindowForm>;
     default:
         return nullptr;
     }

@@ -1,55 +1,58 @@
 #include "program/qt_dialogs.h"
 
+#include "program/words_box.h"
 #include "windows/qt_text.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QVBoxLayout>
+
+#include <vector>
 
 namespace orvane {
 
 namespace {
 
+/// The window in front, over which a box or dialog shall stand. It owns the box, so a window that
+/// closes by itself, as one of a previewed page may, is passed over.
 QWidget* WindowInFront()
 {
-    return QApplication::activeWindow();
+    QWidget* window = QApplication::activeWindow();
+    while (window != nullptr && window->testAttribute(Qt::WA_DeleteOnClose))
+        window = window->parentWidget() == nullptr ? nullptr : window->parentWidget()->window();
+    return window;
 }
 
-/// A message box in plain text, so that no word of a page or a file name is read as markup.
-void Fill(QMessageBox& box, TextView words, TextView title)
+/// Shows a box or dialog until the author has answered; true when it was accepted. Only the author
+/// is waited for then, so no wait pointer stands over it.
+bool Run(QDialog& dialog)
 {
-    box.setTextFormat(Qt::PlainText);
-    box.setText(ToQtLines(words));
-    box.setWindowTitle(ToQt(title));
+    std::vector<QCursor> waiting;
+    for (; QApplication::overrideCursor() != nullptr; QApplication::restoreOverrideCursor())
+        waiting.push_back(*QApplication::overrideCursor());
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    for (; !waiting.empty(); waiting.pop_back())
+        QApplication::setOverrideCursor(waiting.back());
+    return isAccepted;
 }
 
-std::optional<bool> AskWith(TextView words, TextView title, QMessageBox::StandardButtons buttons,
-                            QMessageBox::StandardButton escape)
+std::optional<bool> AskWith(TextView words, TextView title,
+                            QDialogButtonBox::StandardButtons buttons)
 {
-    QMessageBox box(WindowInFront());
-    Fill(box, words, title);
-    box.setIcon(QMessageBox::Question);
-    box.setStandardButtons(buttons);
-    box.setDefaultButton(QMessageBox::Yes);
-    box.setEscapeButton(escape);
-    switch (box.exec()) {
-    case QMessageBox::Yes:
+    WordsBox box(words, title, buttons, WindowInFront());
+    box.ShowIcon(QStyle::SP_MessageBoxQuestion);
+    Run(box);
+    if (box.Pressed() == QDialogButtonBox::Yes)
         return true;
-    case QMessageBox::No:
+    if (box.Pressed() == QDialogButtonBox::No)
         return false;
-    default:
-        return std::nullopt;
-    }
+    return std::nullopt;
 }
 
 /// "*.html;*.htm" gives "html"; "*.*" gives nothing.
@@ -91,22 +94,21 @@ QStringList QtNameFilters(TextView filter)
 
 void QtDialogs::Say(TextView words, Tone tone)
 {
-    QMessageBox box(WindowInFront());
-    orvane::Fill(box, words, u"Orvane");
-    box.setIcon(tone == Tone::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon);
-    box.exec();
+    WordsBox box(words, u"Orvane", QDialogButtonBox::Ok, WindowInFront());
+    if (tone == Tone::Exclamation)
+        box.ShowIcon(QStyle::SP_MessageBoxWarning);
+    Run(box);
 }
 
 bool QtDialogs::Ask(TextView words, TextView title)
 {
-    return AskWith(words, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-        .value_or(false);
+    return AskWith(words, title, QDialogButtonBox::Yes | QDialogButtonBox::No).value_or(false);
 }
 
 std::optional<bool> QtDialogs::AskOrCancel(TextView words, TextView title)
 {
-    return AskWith(words, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                   QMessageBox::Cancel);
+    return AskWith(words, title,
+                   QDialogButtonBox::Yes | QDialogButtonBox::No | QDialogButtonBox::Cancel);
 }
 
 std::optional<Text> QtDialogs::OpenFile(const FileRequest& request)
@@ -145,7 +147,7 @@ std::optional<Text> QtDialogs::PickFile(const FileRequest& request, bool isSave)
     }
     if (!request.FileName.empty())
         dialog.selectFile(ToQt(request.FileName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    if (!Run(dialog) || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();
     m_lastFolder = QFileInfo(path).absolutePath();
@@ -157,7 +159,7 @@ std::optional<Text> QtDialogs::PickFolder(TextView title, TextView start)
     QFileDialog dialog(WindowInFront(), ToQt(title), StartFolder(start));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    if (!Run(dialog) || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return FromQt(QDir(dialog.selectedFiles().constFirst()).absolutePath());
 }
@@ -165,7 +167,7 @@ std::optional<Text> QtDialogs::PickFolder(TextView title, TextView start)
 std::optional<std::int32_t> QtDialogs::PickColor()
 {
     QColorDialog dialog(WindowInFront());
-    if (dialog.exec() != QDialog::Accepted)
+    if (!Run(dialog))
         return std::nullopt;
     const QColor color = dialog.currentColor();
     return color.blue() << 16 | color.green() << 8 | color.red();
@@ -179,7 +181,7 @@ FontChoice QtDialogs::PickFont(const FontChoice& start)
     font.setBold(start.Bold);
     font.setItalic(start.Italic);
     QFontDialog dialog(font, WindowInFront());
-    if (dialog.exec() != QDialog::Accepted)
+    if (!Run(dialog))
         return start;
     const QFont chosen = dialog.selectedFont();
     return {.Name = FromQt(chosen.family()),
@@ -190,29 +192,24 @@ FontChoice QtDialogs::PickFont(const FontChoice& start)
 
 PageBoxReply QtDialogs::Answer(const PageBox& box)
 {
-    QDialog dialog(WindowInFront());
+    WordsBox dialog(box.Words, u"Orvane preview",
+                    box.Shape == PageBox::Kind::Alert
+                        ? QDialogButtonBox::Ok
+                        : QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
+                    WindowInFront());
     dialog.setObjectName(QStringLiteral("PageBox"));
-    dialog.setWindowTitle(QStringLiteral("Orvane preview"));
-    auto* all = new QVBoxLayout(&dialog);
-    auto* words = new QLabel(ToQtLines(box.Words));
-    words->setTextFormat(Qt::PlainText);
-    words->setWordWrap(true);
-    words->setMinimumWidth(320);
-    all->addWidget(words);
     auto* entry = new QLineEdit(ToQt(box.Proposed));
+    entry->setObjectName("txtEntry");
     entry->setAccessibleName(ToQt(box.Words));
     entry->setVisible(box.Shape == PageBox::Kind::Prompt);
-    all->addWidget(entry);
+    dialog.Below().addWidget(entry);
+    if (box.Shape == PageBox::Kind::Prompt)
+        entry->setFocus();
     auto* stop = new QCheckBox(QStringLiteral("&Show no more boxes of this page"));
+    stop->setObjectName("chkStop");
     stop->setVisible(box.OffersStop);
-    all->addWidget(stop);
-    auto* buttons = new QDialogButtonBox(box.Shape == PageBox::Kind::Alert
-                                             ? QDialogButtonBox::Ok
-                                             : QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    all->addWidget(buttons);
-    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    dialog.Below().addWidget(stop);
+    const bool isAccepted = Run(dialog);
     return {.Accepted = isAccepted, .Entered = FromQt(entry->text()), .Stop = stop->isChecked()};
 }
 

@@ -40,6 +40,7 @@ void PrepareMainWindow(OrvaneCore& core)
 {
     core.ImageFolderMemo = core.ProgramFolder;
     core.LinkFolderMemo = core.ProgramFolder;
+    core.LastSoundFolder = core.ProgramFolder;
 }
 
 } // namespace orvane

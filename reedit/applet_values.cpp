@@ -1,6 +1,29 @@
 #include "reedit/applet_values.h"
 
+#include "core/numbers.h"
+
+#include <algorithm>
+#include <cmath>
+
 namespace orvane {
+
+namespace {
+
+/// The place of a key outside all quotes, so that an author's words that look like one are passed
+/// over; its first place in a tag whose quotes do not pair up.
+std::size_t FindKey(TextView tag, TextView key)
+{
+    bool isQuoted = false;
+    for (std::size_t i = 0; i < tag.size(); ++i) {
+        if (tag[i] == u'"')
+            isQuoted = !isQuoted;
+        else if (!isQuoted && tag.substr(i).starts_with(key))
+            return i + 1;
+    }
+    return isQuoted ? Find(tag, key) : 0;
+}
+
+} // namespace
 
 Text GetAppletValue(TextView pasted, TextView key)
 {
@@ -21,7 +44,7 @@ Text TagValue(const PastedTag& tag, TextView key)
 {
     if (tag.Reading == Quotes::Kept)
         return GetAppletValue(tag.Whole, key);
-    const std::size_t place = Find(tag.Whole, key);
+    const std::size_t place = FindKey(tag.Whole, key);
     if (place == 0)
         return {};
     const TextView value = Mid(tag.Whole, place + key.size());
@@ -29,6 +52,12 @@ Text TagValue(const PastedTag& tag, TextView key)
     const std::size_t end = isQuoted ? value.find(u'"', 1) : value.find_first_of(u" >\r\n");
     return Text(isQuoted ? value.substr(1, end == TextView::npos ? end : end - 1)
                          : value.substr(0, end));
+}
+
+int TagNumber(const PastedTag& tag, TextView key, int lowest, int highest)
+{
+    const double number = std::clamp<double>(Val(TagValue(tag, key)), lowest, highest);
+    return static_cast<int>(std::nearbyint(number));
 }
 
 PipeValues PipeParse(TextView text)

@@ -15,6 +15,9 @@ Text GetAppletValue(TextView pasted, TextView key);
 /// alone, without its quotes and ended by a blank or ">" where it has none.
 Text TagValue(const PastedTag& tag, TextView key);
 
+/// The leading number of that value, 0 for none, brought within the two bounds.
+int TagNumber(const PastedTag& tag, TextView key, int lowest, int highest);
+
 /// The cells of a value of the earlier applet, whose lists are joined by bars.
 using PipeValues = std::array<Text, 3>;
 

@@ -30,12 +30,17 @@ constexpr TextView soundFilter =
 constexpr TextView videoFilter =
     u"All Files (*.*)|*.*|Video Files (*.avi, *.mov, *.mpeg, *.mpg)|*.avi;*.mov;*.mpeg;*.mpg";
 
-/// By the kind that a caller of BrowseForFile() gives.
 constexpr TextView filterCatalogue[] = {pageFilter, imageFilter,   multimediaFilter, javaFilter,
                                         textFilter, programFilter, soundFilter,      videoFilter};
 constexpr std::int32_t ownFilterKind = 8;
 
 } // namespace
+
+TextView FileFilter(std::int32_t kind)
+{
+    const bool isCatalogued = kind >= 0 && kind < std::ssize(filterCatalogue);
+    return isCatalogued ? filterCatalogue[kind] : TextView();
+}
 
 FileRequest CFile::Request(TextView title, TextView filter, TextView initDir) const
 {
@@ -80,10 +85,8 @@ Done CFile::Browse()
 Outcome<Text> CFile::BrowseForFile(std::int32_t kind)
 {
     const bool isOwn = kind == ownFilterKind;
-    const bool isCatalogued = kind >= 0 && kind < std::ssize(filterCatalogue);
-    const TextView catalogued = isCatalogued ? filterCatalogue[kind] : TextView();
     FileRequest request =
-        Request(DialogTitle, isOwn ? TextView(Filter) : catalogued, isOwn ? InitDir : Text());
+        Request(DialogTitle, isOwn ? TextView(Filter) : FileFilter(kind), isOwn ? InitDir : Text());
     request.FilterIndex = 1;
     if (const auto picked = m_dialogs.OpenFile(request))
         return Store(*picked);

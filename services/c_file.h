@@ -14,6 +14,10 @@ struct frmCmnDlg
     Text LastFolder; ///< of the last picked file; empty before the first
 };
 
+/// The catalogue's filter: 0 pages, 1 images, 2 multimedia, 3 Java, 4 texts, 5 programs, 6 sounds,
+/// 7 videos; empty for any other kind.
+TextView FileFilter(std::int32_t kind);
+
 /// One use of the file dialogs: set the properties, browse, read the properties. Each operation
 /// gives the fault of a picked name without a folder, which leaves Path as it was.
 class CFile
@@ -37,9 +41,8 @@ public:
     /// Lets the author pick an existing file by the properties; Cancel leaves them all.
     [[nodiscard]] Done Browse();
 
-    /// The full path of an existing file, with the catalogue's filter: 0 pages, 1 images, 2
-    /// multimedia, 3 Java, 4 texts, 5 programs, 6 sounds, 7 videos, 8 Filter and InitDir, any other
-    /// none; empty on Cancel.
+    /// The full path of an existing file, with the catalogue's filter, or for kind 8 with Filter
+    /// and InitDir; empty on Cancel.
     [[nodiscard]] Outcome<Text> BrowseForFile(std::int32_t kind);
 
     /// The name behind the last separator; the whole text when there is none.

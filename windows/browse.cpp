@@ -12,13 +12,20 @@ namespace {
 
 void Browse(Workbench& bench, QLineEdit& field, const BrowseRule& rule)
 {
-    const auto path = bench.Dialogs.OpenFile(rule.Request);
+    FileRequest request = rule.Request;
+    if (rule.Folder != nullptr)
+        request.InitDir = bench.Core.*rule.Folder;
+    const auto path = bench.Dialogs.OpenFile(request);
     if (!path || (rule.Admits && !rule.Admits(*path)))
         return;
+    if (rule.Instead)
+        return rule.Instead(*path);
     const TextView name = GetFileName(*path);
     if (rule.NoBlanks)
         if (const auto complaint = CheckNoBlank(name, *rule.NoBlanks))
             return bench.Dialogs.Say(complaint->Words);
+    if (rule.Folder != nullptr)
+        bench.Core.*rule.Folder = FolderOf(*path);
     field.setText(ToQt(rule.KeepsPath ? TextView(*path) : name));
     if (rule.Slot)
         bench.Core.Required.Sources.at(*rule.Slot) = *path;

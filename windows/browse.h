@@ -19,12 +19,17 @@ struct BrowseRule
     ControlName Button;
     TextView Caption;
     FileRequest Request;
+    /// Where the dialog starts; the folder of the picked file is stored there. Null: as the request
+    /// says.
+    Text OrvaneCore::*Folder = nullptr;
     std::optional<FileRole> NoBlanks = {}; ///< a name with a blank is refused, for such a file
     std::optional<std::size_t> Slot = {};  ///< of the files to copy, where the source is recorded
     /// Called with a picked path before anything is set; false refuses it. Null admits all.
     std::function<bool(const Text& path)> Admits = {};
     /// Called with the path once the field holds the file's name.
     std::function<void(const Text& path)> Then = {};
+    /// Called with a picked path in place of all that.
+    std::function<void(const Text& path)> Instead = {};
     bool KeepsPath = false; ///< the field takes the full path instead of the bare name
 };
 

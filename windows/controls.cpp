@@ -144,6 +144,19 @@ QLabel* LabelOf(QWidget* control)
     return item == nullptr ? nullptr : qobject_cast<QLabel*>(item->widget());
 }
 
+QLabel* WordsBeside(QWidget* control, int place)
+{
+    const FormRow row = RowOf(control);
+    for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole}) {
+        QLayoutItem* item = row.Rows == nullptr ? nullptr : row.Rows->itemAt(row.Row, role);
+        QLayout* line = item == nullptr ? nullptr : item->layout();
+        const int at = line == nullptr ? -1 : line->indexOf(control);
+        if (QLayoutItem* beside = at < 0 ? nullptr : line->itemAt(at + place))
+            return qobject_cast<QLabel*>(beside->widget());
+    }
+    return nullptr;
+}
+
 void ShowRow(QWidget* control, bool isShown)
 {
     if (const FormRow place = RowOf(control); place.Rows != nullptr)

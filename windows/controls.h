@@ -43,6 +43,10 @@ void SetReadingOrder(QWidget& window);
 /// The label of the form row in which the control stands; null for a row without one.
 QLabel* LabelOf(QWidget* control);
 
+/// The words that stand in the control's row right before it (place -1) or behind it (place 1);
+/// null when there are none.
+QLabel* WordsBeside(QWidget* control, int place);
+
 /// Shows or hides the row of a form layout in which the control stands, with its label.
 void ShowRow(QWidget* control, bool isShown);
 

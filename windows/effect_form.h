@@ -42,6 +42,8 @@ public:
         m_tag = {core.PastedApplet, core.AppletTextAfterCODE, core.AppletText};
         FillFromTag();
         m_bench.Core.EditMode = false;
+        if (m_tag.Whole.empty())
+            return;
         auto* offer = AddOffer("lblTakeQuotesOff",
                                u"The values came with their quotation marks. Take them off.");
         offer->show();
@@ -85,6 +87,9 @@ protected:
             Finish(effect);
     }
 
+    /// What the effect gives to a page; for an effect whose `Generate` wants more than the fields.
+    virtual EffectPayload Produce(const Effect& effect) const { return Generate(effect); }
+
     /// Ends the wizard with an effect that passed its checks.
     void Finish(Effect effect)
     {
@@ -92,7 +97,7 @@ protected:
             Tidy(effect);
             SetParameters(effect);
         }
-        Deliver(Generate(effect));
+        Deliver(Produce(effect));
     }
 
     Text Draft() const override { return WriteDraft(Parameters()); }

@@ -1,5 +1,6 @@
 #include "windows/page_builder.h"
 
+#include "core/pick_lists.h"
 #include "windows/color_swatch.h"
 #include "windows/font_boxes.h"
 #include "windows/multi_line_box.h"
@@ -134,10 +135,21 @@ FileNameBox* PageBuilder::LockedBrowseRow(ControlName name, TextView label, Text
     return box;
 }
 
-QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule)
+QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule,
+                                  TextView unit)
 {
     auto* box = MakeTextBox(m_page);
-    FieldRow(box, name, label, tip, BrowseButton(box, std::move(rule)));
+    QPushButton* button = BrowseButton(box, std::move(rule));
+    if (unit.empty()) {
+        FieldRow(box, name, label, tip, button);
+        return box;
+    }
+    auto* behind = new QWidget(m_page);
+    auto* line = new QHBoxLayout(behind);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(Words(unit));
+    line->addWidget(button);
+    FieldRow(box, name, label, tip, behind);
     return box;
 }
 
@@ -155,6 +167,21 @@ QComboBox* PageBuilder::ComboBox(ControlName name, TextView label, std::span<con
     for (const TextView item : items)
         box->addItem(ToQt(item));
     FieldRow(box, name, label, tip, Words(unit));
+    return box;
+}
+
+QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName swatch)
+{
+    QComboBox* box = ComboBox(name, label, BasicColors, true);
+    auto* picker = new orvane::ColorSwatch(u"Click to Select Color", ColorNotation::Channels,
+                                           m_bench->Dialogs, m_page);
+    picker->setObjectName(ToQt(swatch));
+    picker->setAccessibleName(SpokenName(label));
+    picker->setToolTip(QStringLiteral("Click here to select a color"));
+    QObject::connect(picker, &orvane::ColorSwatch::Picked, box,
+                     [box, picker] { SetComboText(*box, picker->Value()); });
+    QLayout* line = m_rows->itemAt(m_rows->rowCount() - 1, QFormLayout::FieldRole)->layout();
+    line->addWidget(picker);
     return box;
 }
 
@@ -340,7 +367,7 @@ PageBuilder PageBuilder::Frame(TextView caption, ControlName name)
     return PageBuilder(frame, m_bench);
 }
 
-void PageBuilder::Fill(QWidget* widget)
+QWidget* PageBuilder::Fill(QWidget* widget)
 {
     if (widget == nullptr)
         widget = new QWidget(m_page);
@@ -349,6 +376,7 @@ void PageBuilder::Fill(QWidget* widget)
     policy.setVerticalStretch(1);
     widget->setSizePolicy(policy);
     m_rows->addRow(widget);
+    return widget;
 }
 
 void SetComboText(QComboBox& box, TextView text)

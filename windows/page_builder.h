@@ -63,10 +63,15 @@ public:
 
     /// A locked file field with its Browse button, and one that any text may be typed into.
     FileNameBox* LockedBrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule);
-    QLineEdit* BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule);
+    QLineEdit* BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule,
+                         TextView unit = {});
 
     QComboBox* ComboBox(ControlName name, TextView label, std::span<const TextView> items,
                         bool isEditable, TextView tip = {}, TextView unit = {});
+
+    /// A box with the basic colours, and a swatch beside it that puts a picked colour's channels
+    /// into the box.
+    QComboBox* ColorBox(ControlName name, TextView label, ControlName swatch);
 
     /// A text box with up-down buttons that step a number between the two bounds.
     orvane::NumberBox* NumberBox(ControlName name, TextView label, int lowest, int highest,
@@ -125,8 +130,9 @@ public:
     /// A framed group with a caption; the returned builder adds to it.
     PageBuilder Frame(TextView caption, ControlName name = {});
 
-    /// A row that takes the room that is left, or a stretch of nothing when null.
-    void Fill(QWidget* widget = nullptr);
+    /// A row that takes the room that is left, or a stretch of nothing when null; gives
+    /// what stands there.
+    QWidget* Fill(QWidget* widget = nullptr);
 
     QWidget* Page() const { return m_page; }
 

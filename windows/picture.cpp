@@ -1,5 +1,7 @@
 #include "windows/picture.h"
 
+#include "windows/qt_text.h"
+
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -44,6 +46,14 @@ std::optional<LoadedPicture> LoadPicture(const QString& path, QSize room)
     if (thumbnail.isNull())
         return std::nullopt;
     return LoadedPicture{size, thumbnail};
+}
+
+PickedImage Measured(const Text& path)
+{
+    PickedImage image{.Path = path};
+    if (const auto picture = LoadPicture(ToQt(path), {1, 1}))
+        image.Size = {picture->Size.width(), picture->Size.height()};
+    return image;
 }
 
 } // namespace orvane

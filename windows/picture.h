@@ -1,5 +1,7 @@
 #pragma once
 
+#include "services/picked_image.h"
+
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -19,5 +21,8 @@ struct LoadedPicture
 /// `room`; nothing for any other file, a broken one, and one too large to be read while the author
 /// waits.
 std::optional<LoadedPicture> LoadPicture(const QString& path, QSize room);
+
+/// An image file that the author picked, measured.
+PickedImage Measured(const Text& path);
 
 } // namespace orvane

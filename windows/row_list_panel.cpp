@@ -24,7 +24,7 @@ RowListPanel::RowListPanel(std::vector<ListColumn> columns, const RowListWords& 
         QPushButton* control = MakeButton(button.Name, button.Caption, button.Tip);
         connect(control, &QPushButton::clicked, this,
                 [this, command = button.Command, index = place++] { Run(command, index); });
-        if (button.Command != RowCommand::Add)
+        if (button.Command != RowCommand::Add && !button.StaysEnabled)
             m_rowButtons.push_back(control);
         column->addWidget(control);
     }

@@ -27,10 +27,11 @@ struct RowButton
     ControlName Name;
     TextView Caption;
     TextView Tip = {};
+    bool StaysEnabled = false; ///< without a row it tells the author so
 };
 
-/// Lists that speak of the same rows, with buttons that add, edit, remove and move them. All but
-/// those that add are disabled while there is no row.
+/// Lists that speak of the same rows, with buttons that add, edit, remove and move them. Those
+/// that need a row are disabled while there is none.
 class RowListPanel : public QWidget
 {
     Q_OBJECT

@@ -11,8 +11,8 @@ namespace {
 constexpr TextView transitionList =
     u"shutter|slidein(1-8)|slideout(1-8)|scroll(2:4:6:8)|expand(1-9)|overwrite|shrink(1-9)";
 
-/// The rows that a pasted tag can fill.
-constexpr std::size_t readableRows = 31;
+/// The rows that a tag fills while its quotes are kept.
+constexpr std::size_t rowsWithQuotes = 31;
 
 /// Projects write "null" where nothing is set.
 bool IsSet(TextView value)
@@ -42,7 +42,7 @@ void AddSet(AppletTagBuilder& tag, TextView name, const std::vector<ImageRow>& r
 std::vector<ImageRow> ReadRows(const PastedTag& tag)
 {
     std::vector<ImageRow> rows;
-    for (std::size_t i = 0; i < readableRows; ++i) {
+    for (std::size_t i = 0; i < rowsWithQuotes || tag.Reading == Quotes::TakenOff; ++i) {
         const auto read = [&](TextView name) {
             return TagValue(tag, Join({name, u".", NumberToText(i), u" VALUE="}));
         };

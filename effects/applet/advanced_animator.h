@@ -45,7 +45,7 @@ std::optional<Complaint> Check(const AdvancedAnimator& animator);
 EffectPayload Generate(const AdvancedAnimator& animator);
 
 /// Fills the animator from a pasted tag. The tag of the earlier applet gives its size and loop
-/// count alone. At most 31 images are read.
+/// count alone. At most 31 images are read, or all where the quotes are taken off.
 void ReadTag(AdvancedAnimator& animator, const PastedTag& tag);
 
 } // namespace orvane

@@ -80,12 +80,8 @@ TEST_P(PageFilesBrowserTest, ReadsOnlyWhatLiesBelowItsFolder)
     BrowserPage outside;
     BrowserPage page;
     outside.AddFile("there.gif", picture);
-    std::filesystem::create_directory(page.Path("sub"));
-    for (const char* name : {"here.gif", "sub/here.gif", "with blank#%.gif"})
-        page.AddFile(name, picture);
+    page.AddFile("with blank#%.gif", picture);
     std::filesystem::create_symlink(outside.Path("there.gif"), page.Path("link.gif"));
-    std::filesystem::create_symlink(outside.Path(""), page.Path("linked"));
-    std::filesystem::create_symlink("here.gif", page.Path("inner.gif"));
 
     const Text source =
         ReplaceAll(FromUtf8(GetParam().Source), u"OUTSIDE", FromUtf8(outside.Path("")));
@@ -97,21 +93,16 @@ TEST_P(PageFilesBrowserTest, ReadsOnlyWhatLiesBelowItsFolder)
 }
 INSTANTIATE_TEST_SUITE_P(
     , PageFilesBrowserTest,
-    ::testing::Values(PictureCase{"Beside", "here.gif", true},
-                      PictureCase{"Below", "sub/../sub/here.gif", true},
-                      PictureCase{"OddName", "with%20blank%23%25.gif", true},
-                      PictureCase{"LinkInside", "inner.gif", true},
+    ::testing::Values(PictureCase{"Beside", "with%20blank%23%25.gif", true},
                       PictureCase{"InTheAddress",
                                   "data:image/gif;base64,R0lGODlhAQABAIAAAAAAAP///"
                                   "ywAAAAAAQABAAACAkQBADs=",
                                   true},
                       PictureCase{"Outside", "file://OUTSIDE/there.gif", false},
-                      PictureCase{"Above", "../../OUTSIDE/there.gif", false},
-                      PictureCase{"LinkOut", "link.gif", false},
-                      PictureCase{"FolderLinkOut", "linked/there.gif", false}),
+                      PictureCase{"LinkOut", "link.gif", false}),
     [](const auto& test) { return test.param.Name; });
 
-/// A server on this machine that answers nobody and notices who calls.
+/// A port of this machine that answers nobody and notices who calls, by TCP or UDP.
 class ListeningServer
 {
 public:
@@ -122,21 +113,31 @@ public:
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t size = sizeof address;
         auto* plain = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(bind(m_socket, plain, size), 0);
-        EXPECT_EQ(listen(m_socket, 10), 0);
-        getsockname(m_socket, plain, &size);
+        EXPECT_EQ(bind(m_stream, plain, size), 0);
+        EXPECT_EQ(listen(m_stream, 10), 0);
+        getsockname(m_stream, plain, &size);
+        EXPECT_EQ(bind(m_datagrams, plain, size), 0);
         Address = "127.0.0.1:" + std::to_string(ntohs(address.sin_port));
     }
-    ~ListeningServer() { close(m_socket); }
+    ~ListeningServer()
+    {
+        close(m_stream);
+        close(m_datagrams);
+    }
     ListeningServer(const ListeningServer&) = delete;
     ListeningServer& operator=(const ListeningServer&) = delete;
 
-    bool WasCalled() const { return accept(m_socket, nullptr, nullptr) >= 0; }
+    bool WasCalled() const
+    {
+        char byte = 0;
+        return accept(m_stream, nullptr, nullptr) >= 0 || recv(m_datagrams, &byte, 1, 0) >= 0;
+    }
 
     std::string Address;
 
 private:
-    int m_socket = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0);
+    int m_stream = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0);
+    int m_datagrams = socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK, 0);
 };
 
 class PageNetworkBrowserTest : public ::testing::TestWithParam<const char*>
@@ -147,7 +148,7 @@ TEST_P(PageNetworkBrowserTest, CallsNobody)
     const ListeningServer server;
     BrowserPage page;
     const Text body = ReplaceAll(FromUtf8(GetParam()), u"SERVER", FromUtf8(server.Address));
-    page.Load("<script>const over = () => status = 'over'; setTimeout(over, 400);</script>" +
+    page.Load("<script>const over = () => status = 'over'; setTimeout(over, 1000);</script>" +
               ToUtf8(body));
     EXPECT_TRUE(WaitFor([&] { return page.Status() == u"over"; }));
     EXPECT_FALSE(server.WasCalled());
@@ -162,10 +163,12 @@ INSTANTIATE_TEST_SUITE_P(
         "<script>fetch('http://SERVER/a', {mode: 'no-cors'}).catch(() => 0);"
         "navigator.sendBeacon('http://SERVER/a', 'x'); new EventSource('http://SERVER/a');</script>",
         "<script>new WebSocket('ws://SERVER/a');</script>",
-        "<script>const peer = new RTCPeerConnection({iceServers: [{urls:"
-        "'turn:SERVER?transport=tcp', username: 'a', credential: 'b'}]});"
-        "peer.createDataChannel('a'); peer.createOffer().then(offer =>"
-        "peer.setLocalDescription(offer));</script>",
+        "<iframe name=fresh></iframe><script>for (const urls of ['stun:SERVER', 'turn:SERVER',"
+        "'turn:SERVER?transport=tcp']) { const peer = new fresh.RTCPeerConnection({iceServers:"
+        "[{urls, username: 'a', credential: 'b'}]}); peer.createDataChannel('a');"
+        "peer.createOffer().then(offer => peer.setLocalDescription(offer)); }</script>",
+        "<iframe name=fresh></iframe><script>const call = \"new WebTransport('https://SERVER/a')\";"
+        "fresh.eval(call); new Worker(URL.createObjectURL(new Blob([call])));</script>",
         "<form action=http://SERVER/a method=post target=inner></form><iframe name=inner></iframe>"
         "<script>document.forms[0].submit();</script>"));
 
@@ -177,8 +180,8 @@ TEST(PageLinksBrowserTest, OffersAddressesOutsideToTheAuthor)
 {
     BrowserPage outside;
     BrowserPage page;
-    outside.AddFile("there.html", "there");
-    const std::string there = outside.Path("there.html");
+    outside.AddFile("there.desktop", "there");
+    const std::string there = outside.Path("there.desktop");
     page.Load("<body>here <a href='http://www.varlo.example/a%20b'>web</a>"
               "<a href='mailto:ann@varlo.example'>mail</a><a href='file://" +
               there +
@@ -194,15 +197,15 @@ TEST(PageLinksBrowserTest, OffersAddressesOutsideToTheAuthor)
                            true);
     page.ClickOn("document.links[1]");
     ASSERT_TRUE(WaitFor([&] { return page.Dialogs.Asked.size() == 2; }));
-    page.Dialogs.ExpectAsk(Join({u"The page leads out of the preview, to:\r\n\r\n", FromUtf8(there),
-                                 u"\r\n\r\nDo you want to open it in your Web browser?"}),
-                           false);
     page.ClickOn("document.links[2]");
-    ASSERT_TRUE(WaitFor([&] { return page.Dialogs.Asked.size() == 3; }));
+    ASSERT_TRUE(WaitFor([&] { return page.Dialogs.Said.size() == 1; }));
+    EXPECT_EQ(page.Dialogs.Said[0],
+              Join({u"The page leads to a file that the preview does not open:\r\n\r\n",
+                    FromUtf8(there)}));
     page.ClickOn("document.links[3]");
     page.ClickOn("document.links[5]");
-    ASSERT_TRUE(WaitFor([&] { return !page.Dialogs.Said.empty(); }));
-    EXPECT_EQ(page.Dialogs.Said[0], Join({u"The page leads to a file that is not there:\r\n\r\n",
+    ASSERT_TRUE(WaitFor([&] { return page.Dialogs.Said.size() == 2; }));
+    EXPECT_EQ(page.Dialogs.Said[1], Join({u"The page leads to a file that is not there:\r\n\r\n",
                                           FromUtf8(page.Path("missing.html"))}));
     page.ClickOn("document.links[4]");
     page.WaitUntil("document.body.className == 'clicked'");
@@ -222,58 +225,6 @@ TEST(PageLinksBrowserTest, AScriptThatLeadsAwayAgainAndAgainAsksOnce)
                  u"still here");
     LetRun();
     EXPECT_EQ(page.Dialogs.Asked.size(), 1u);
-}
-
-struct WindowCase
-{
-    const char* Name;
-    const char* Open;
-    const char* Close; ///< a script; empty: the Escape key
-    QSize Size;
-};
-class PageWindowBrowserTest : public ::testing::TestWithParam<WindowCase>
-{
-};
-TEST_P(PageWindowBrowserTest, OpensAndCloses)
-{
-    BrowserPage page;
-    page.AddFile("other.html", "<script>opener.status = 'opened'</script>");
-    ExpectStatus(page, GetParam().Open, u"opened");
-    ASSERT_EQ(page.Windows().size(), 1u);
-    QWidget* window = page.Windows()[0];
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->size(), GetParam().Size);
-    if (GetParam().Close == std::string())
-        QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
-    else
-        page.Value(GetParam().Close);
-    EXPECT_TRUE(WaitFor([&] { return page.Windows().empty(); }, 3000));
-}
-INSTANTIATE_TEST_SUITE_P(
-    , PageWindowBrowserTest,
-    ::testing::Values(WindowCase{"ByItself", "w = open('other.html', 'w', 'width=200,height=150')",
-                                 "w.close()", QSize(200, 150)},
-                      WindowCase{
-                          "ByEscape",
-                          "open('', 'w').document.write('<script>opener.status = \"opened\"<'"
-                          " + '/script>')",
-                          "", QSize(480, 360)},
-                      WindowCase{"ByItsPage", "w = open('other.html')",
-                                 "w.setTimeout('close()', 10)", QSize(480, 360)}),
-    [](const auto& test) { return test.param.Name; });
-
-TEST(PageWindowsBrowserTest, CloseWithThePageAndShowNothingFromOutside)
-{
-    BrowserPage page;
-    page.Dialogs.ExpectAsk(Text(webQuestion), false);
-    ExpectStatus(page,
-                 "for (let i = 0; i < 30; i++) open('', 'w' + i);"
-                 "open('http://www.varlo.example/a%20b'); status = 'opened'",
-                 u"opened");
-    EXPECT_EQ(page.Windows().size(), 10u);
-    page.Load("<body>next");
-    EXPECT_TRUE(page.Windows().empty());
-    EXPECT_TRUE(WaitFor([&] { return page.Dialogs.Asked.size() == 1; }));
 }
 
 struct RuleCase

@@ -34,10 +34,14 @@ void Change(QWidget&, FieldName, bool& value)
     value = !value;
 }
 
-[[maybe_unused]] void Change(QWidget& window, FieldName name, int& value)
+void Change(QWidget& window, FieldName name, int& value)
 {
+    // A number without a slider stands in a text that the author does not see.
     const auto* slider = window.findChild<QSlider*>(ToQt(name.Name));
-    value = slider->value() == slider->maximum() ? slider->minimum() : slider->maximum();
+    if (slider == nullptr)
+        value += 7;
+    else
+        value = slider->value() == slider->maximum() ? slider->minimum() : slider->maximum();
 }
 
 template <class Choice>
@@ -50,7 +54,7 @@ void Change(QWidget& window, FieldName name, Choice& value)
     value = static_cast<Choice>(last);
 }
 
-[[maybe_unused]] void Change(QWidget&, FieldName, std::vector<Text>& value)
+void Change(QWidget&, FieldName, std::vector<Text>& value)
 {
     value = {Text(oddText), u"two\r\nlines"};
 }

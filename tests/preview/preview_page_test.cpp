@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace orvane {
 namespace {
 
@@ -51,37 +53,34 @@ TEST(PreviewPageTest, SaysThatAServerScriptCannotBeTestedHere)
                    PreviewPageText(payload, PreviewMode::Browser1));
 }
 
-/// Previews in the author's browser and counts how often the preferences were wanted.
+/// Previews in the author's browser.
 class BrowserLaunchTest : public ::testing::Test
 {
 protected:
-    void Launch()
-    {
-        LinkToBrowser(m_desk.Bench, PlainPayload(4), PreviewMode::Browser1, [&] { ++m_options; });
-    }
+    bool Launch() { return LinkToBrowser(m_desk.Bench, PlainPayload(4), PreviewMode::Browser1); }
 
     Text StoredBrowser() { return m_desk.Settings.Get(u"Apps", u"Browser", u"none", u"Orvane"); }
     void Override() { m_desk.Settings.Put(u"Apps", u"Override", u"1", u"Orvane"); }
 
     FakeDesk m_desk;
-    int m_options = 0;
     const Text m_page = u"/program/ov-prvw.htm";
 };
 
 TEST_F(BrowserLaunchTest, OpensThePageWithTheDesktopUnlessOverridden)
 {
     m_desk.Shell.Browser = u"/usr/bin/browser";
-    Launch();
+    EXPECT_FALSE(Launch());
     EXPECT_EQ(m_desk.Shell.Opened, std::vector<Text>{m_page});
     EXPECT_EQ(StoredBrowser(), u"/usr/bin/browser");
     EXPECT_TRUE(m_desk.Files.Contents.contains(m_page));
+    EXPECT_TRUE(m_desk.Pane.IsFileLeft);
 }
 
 TEST_F(BrowserLaunchTest, CutsTheCommandBehindExeAndDropsItsQuotes)
 {
     Override();
     m_desk.Shell.Browser = u"\"c:\\web\\b.exe\" -home.exe";
-    Launch();
+    EXPECT_FALSE(Launch());
     EXPECT_EQ(StoredBrowser(), u"c:\\web\\b.exe");
     EXPECT_EQ(m_desk.Shell.Started,
               (std::vector<std::pair<Text, Text>>{{u"c:\\web\\b.exe", m_page}}));
@@ -90,7 +89,7 @@ TEST_F(BrowserLaunchTest, CutsTheCommandBehindExeAndDropsItsQuotes)
 TEST_F(BrowserLaunchTest, AsksForABrowserWhenTheDesktopTellsNone)
 {
     m_desk.Dialogs.AnswerOpenFile(u"/opt/b");
-    Launch();
+    EXPECT_FALSE(Launch());
     EXPECT_EQ(m_desk.Dialogs.Said,
               std::vector<Text>{u"Browser statement not found in Windows Registry.\r\n"
                                 u"Select the file/path of the browser you wish to use."});
@@ -104,34 +103,54 @@ TEST_F(BrowserLaunchTest, FailedStartOffersThePreferences)
     Override();
     m_desk.Settings.Put(u"Apps", u"Browser", u"/gone", u"Orvane");
     m_desk.Shell.Starts = false;
-    const Text question =
-        u"Could not locate browser using the specified path/filename found in the "
-        u"Windows Registry.  Check your Preference settings.  Would you like to "
-        u"view your settings now?";
-    m_desk.Dialogs.ExpectAsk(question, false);
-    Launch();
-    EXPECT_EQ(m_options, 0);
-    m_desk.Dialogs.ExpectAsk(question, true);
-    Launch();
-    EXPECT_EQ(m_options, 1);
+    for (const bool answer : {false, true}) {
+        m_desk.Dialogs.ExpectAsk(
+            u"Could not locate browser using the specified path/filename found in the "
+            u"Windows Registry.  Check your Preference settings.  Would you like to "
+            u"view your settings now?",
+            answer);
+        EXPECT_EQ(Launch(), answer);
+    }
     EXPECT_EQ(m_desk.Dialogs.Titles.at(0), u"Incorrect Browser path/filename");
 }
 
 TEST_F(BrowserLaunchTest, SaysWhyThePreviewPageCannotBeWritten)
 {
     m_desk.Files.FailOn(m_page, Fault::DiskFull);
-    LinkToBrowser(m_desk.Bench, PlainPayload(4), PreviewMode::Inline, [] {});
+    EXPECT_FALSE(Launch());
     EXPECT_EQ(m_desk.Dialogs.Said, std::vector<Text>{u"Disk full"});
-    EXPECT_TRUE(m_desk.Pane.Navigated.empty());
+    EXPECT_TRUE(m_desk.Shell.Opened.empty());
 }
 
 TEST_F(BrowserLaunchTest, PayloadWithoutCodeIsNotPreviewed)
 {
-    LinkToBrowser(m_desk.Bench, {}, PreviewMode::Inline, [] {});
+    EXPECT_FALSE(LinkToBrowser(m_desk.Bench, {}, PreviewMode::Inline));
     EXPECT_EQ(
         m_desk.Dialogs.Said,
         std::vector<Text>{u"There is no code in the preview window.  Cannot preview the special "
                           u"effect."});
+}
+
+TEST(PreviewNoteTest, SaysWhatThePaneCannotShowAndWhatIsMissing)
+{
+    FakeDesk desk;
+    FinishedPayload payload = PlainPayload(1);
+    payload.Effect.BODYHTML = u"<b>x</b><applet code=A.class></applet>";
+    payload.Effect.Required.Names[2] = u"gone.gif";
+    payload.Effect.Required.Names[4] = u"there.gif";
+    payload.Effect.SupportFiles[0] = u"A.class";
+    desk.Files.Contents[u"/program/there.gif"] = "GIF89a";
+    std::ignore = LinkToBrowser(desk.Bench, payload, PreviewMode::Inline);
+    std::ignore = LinkToBrowser(desk.Bench, PlainPayload(9), PreviewMode::Inline);
+    std::ignore = LinkToBrowser(desk.Bench, PlainPayload(4), PreviewMode::Inline);
+
+    const std::vector<PanePage>& pages = desk.Pane.Pages;
+    EXPECT_EQ(pages.at(0).Note,
+              u"Today's browsers do not run Java applets.  Your page is right; visitors see the "
+              u"effect in a browser that runs them.  Not found in /program: gone.gif, A.class.");
+    EXPECT_TRUE(pages.at(1).RunsInStatus);
+    EXPECT_EQ(pages.at(2).Note, u"");
+    EXPECT_FALSE(pages.at(2).RunsInStatus);
 }
 
 } // namespace

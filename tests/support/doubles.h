@@ -153,7 +153,15 @@ class FakePreviewPane : public PreviewPane
 public:
     std::vector<Text> Navigated;
     int Clears = 0;
-    void Navigate(TextView path) override { Navigated.emplace_back(path); }
+    std::vector<PanePage> Pages;
+    bool IsFileLeft = false;
+    Done Navigate(const PanePage& page) override
+    {
+        Navigated.push_back(page.Path);
+        Pages.push_back(page);
+        return {};
+    }
+    void LeaveFile() override { IsFileLeft = true; }
     void Clear() override { ++Clears; }
 };
 

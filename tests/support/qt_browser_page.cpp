@@ -89,8 +89,8 @@ void BrowserPage::AddFile(const std::string& name, std::string_view bytes)
 
 void BrowserPage::Open(std::string_view page)
 {
-    AddFile("page.html", m_clock + std::string(page));
-    Pane.Navigate(FromUtf8(Path("page.html")));
+    EXPECT_FALSE(FaultIn(Pane.Navigate(
+        {.Path = FromUtf8(Path("page.html")), .Bytes = m_clock + std::string(page)})));
 }
 
 void BrowserPage::Load(std::string_view page)

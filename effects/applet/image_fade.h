@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/pasted_tag.h"
+#include "core/payload.h"
+#include "services/picked_image.h"
+#include "services/row_list.h"
+
+#include <optional>
+#include <vector>
+
+namespace orvane {
+
+/// What the author enters on the Image Fade window; the defaults are those of a fresh window.
+struct ImageFade
+{
+    std::vector<Text> FadeImages; ///< without their folders
+    std::vector<Text> FadeLinks;  ///< one for each image, empty for no link
+    Text FadePause = u"1";        ///< seconds, as typed
+    int FadeSpeed = 40;           ///< 10 for slow to 160 for fast
+    Text FadeTarget;
+    Text FadeWidth; ///< of the first image; empty while there is none
+    Text FadeHeight;
+    RequiredFiles Required; ///< the source of each image at its row
+    bool operator==(const ImageFade&) const = default;
+};
+
+/// The bounds of `FadeSpeed`.
+inline constexpr int slowestFade = 10;
+inline constexpr int fastestFade = 160;
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<ImageFade> Fade, class Field>
+void ForEachField(Fade& fade, Field&& field)
+{
+    field("FadeImages", fade.FadeImages);
+    field("FadeLinks", fade.FadeLinks);
+    field("FadePause", fade.FadePause);
+    field("FadeSpeed", fade.FadeSpeed);
+    field("FadeTarget", fade.FadeTarget);
+    field("FadeWidth", fade.FadeWidth);
+    field("FadeHeight", fade.FadeHeight);
+    field("Required", fade.Required);
+}
+
+/// What the author is told when a command finds no row to work on.
+inline constexpr RowListWords fadeWords = {
+    .EditEmpty = u"Select an image from the list and then click the 'Link to URL' button.",
+    .EditNone = u"Select an image from the list and then click the 'Link to URL' button.",
+    .RemoveEmpty = u"Select an image from the list in order to remove it.",
+    .RemoveNone = u"Select an image from the list in order to remove it.",
+    .CannotMoveUp = u"Select an item in the Images list.  You cannot move the first image upward.",
+    .CannotMoveDown =
+        u"Select an item in the Images list.  You cannot move the last image downward.",
+};
+
+/// Adds a picked image behind the others, or gives what speaks against it; a file that is no
+/// picture adds nothing. All images have the size of the first.
+std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image);
+
+/// Lets go of an image that left the lists: its source, and with the last one the size.
+void ForgetImage(ImageFade& fade, std::size_t row);
+
+/// Lets the sources follow two neighbours that changed places; `upper` is the place of the first.
+void ExchangeSources(ImageFade& fade, std::size_t upper);
+
+/// What speaks against a link that was entered for an image.
+std::optional<Complaint> CheckFadeLink(TextView link);
+
+/// The complaint about too few images, or nothing when the wizard may finish.
+std::optional<Complaint> Check(const ImageFade& fade);
+
+/// The fade's page text. Expects a fade that passes Check().
+EffectPayload Generate(const ImageFade& fade);
+
+/// Fills pause, speed and target from a tag, whose images it leaves out, and forgets the files
+/// recorded so far.
+void ReadTag(ImageFade& fade, const PastedTag& tag);
+
+} // namespace orvane

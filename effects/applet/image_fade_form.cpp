@@ -1,0 +1,103 @@
+#include "effects/applet/image_fade_form.h"
+
+#include "core/pick_lists.h"
+#include "effects/applet/image_fade_url_form.h"
+#include "windows/picture.h"
+#include "windows/row_list_panel.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr RowButton buttons[] = {
+    {RowCommand::Add, "cmdAddImage", u"&Add Image...",
+     u"Click here to insert an image into the fading image list"},
+    {RowCommand::Remove, "cmdRemoveImage", u"&Remove Image",
+     u"Click here to remove an image from the list"},
+    {.Command = RowCommand::Edit,
+     .Name = "cmdLinkToURL",
+     .Caption = u"&Link to URL...",
+     .Tip = u"Click here to link the selected image to a Web page",
+     .StaysEnabled = true},
+    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"},
+};
+
+} // namespace
+
+ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
+    : EffectForm("ImageFade", bench, parent),
+      m_images(new RowListPanel(
+          {{"FadeImages", u"Images:"}, {"FadeLinks", u"Link to this Web page URL:"}}, fadeWords,
+          buttons, bench.Dialogs))
+{
+    PageBuilder page =
+        AddPage({u"Image Fade effect",
+                 u"Insert images in the order you want them to fade.  All images must be the same "
+                 u"size (width and height) in pixels."});
+    page.Fill(m_images);
+    AddFields(page);
+    connect(m_images, &RowListPanel::AddWanted, this, &ImageFadeForm::AddImage);
+    connect(m_images, &RowListPanel::EditWanted, this, &ImageFadeForm::EditLink);
+    connect(m_images, &RowListPanel::RowRemoved, this, [this](std::size_t row) {
+        ImageFade fade = Parameters();
+        ForgetImage(fade, row);
+        Show(fade);
+    });
+    connect(m_images, &RowListPanel::RowsExchanged, this, [this](std::size_t upper) {
+        ImageFade fade = Parameters();
+        ExchangeSources(fade, upper);
+        Show(fade);
+    });
+    AddButtons(Buttons::OnePage, "cmdHelp");
+}
+
+void ImageFadeForm::AddFields(PageBuilder& page)
+{
+    page.NumberBox("FadePause", u"Pause after each fade:", 0, 999,
+                   u"This is the amount of time to wait before fading to the next image, specified "
+                   u"in seconds",
+                   u"second(s)");
+    page.Slider("FadeSpeed", u"Speed of fade:", u"Slow", u"Fast",
+                {.Lowest = slowestFade,
+                 .Highest = fastestFade,
+                 .Tick = 15,
+                 .LargeStep = 10,
+                 .SmallStep = 5},
+                u"This specifies how quickly to fade from one image to the next");
+    page.ComboBox("FadeTarget", u"Target frame (optional):", LinkTargets, true,
+                  u"This is the name of the target frame where the Web page will be opened");
+    page.HiddenText("FadeWidth");
+    page.HiddenText("FadeHeight");
+}
+
+void ImageFadeForm::Show(const ImageFade& fade)
+{
+    const auto selected = m_images->Rows().Selected;
+    SetParameters(fade);
+    if (selected)
+        m_images->Select(*selected);
+}
+
+void ImageFadeForm::AddImage()
+{
+    const auto path = m_bench.Dialogs.OpenFile(ImageRequest());
+    if (!path)
+        return;
+    ImageFade fade = Parameters();
+    const std::size_t row = fade.FadeImages.size();
+    if (const auto complaint = orvane::AddImage(fade, Measured(*path)))
+        return Report(*complaint);
+    Show(fade);
+    if (row < fade.FadeImages.size())
+        m_images->Select(row);
+}
+
+void ImageFadeForm::EditLink()
+{
+    const std::vector<Text> row = m_images->Rows().Rows.at(m_images->Rows().Selected.value());
+    auto* form = new ImageFadeURLForm(m_bench, row[1], this);
+    form->Begin([this, form, name = row[0]] { m_images->ChangeSelectedRow({name, form->URL()}); });
+}
+
+} // namespace orvane

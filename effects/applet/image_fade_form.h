@@ -1,0 +1,27 @@
+#pragma once
+
+#include "effects/applet/image_fade.h"
+#include "windows/effect_form.h"
+
+namespace orvane {
+
+class RowListPanel;
+
+/// The window of Image Fade.
+class ImageFadeForm : public EffectForm<ImageFade>
+{
+public:
+    explicit ImageFadeForm(Workbench& bench, QWidget* parent = nullptr);
+
+private:
+    void AddFields(PageBuilder& page);
+    void AddImage();
+    void EditLink();
+
+    /// Shows the fade and keeps the selection.
+    void Show(const ImageFade& fade);
+
+    RowListPanel* m_images;
+};
+
+} // namespace orvane

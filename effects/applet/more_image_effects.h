@@ -1,0 +1,94 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+#include "services/picked_image.h"
+
+#include <array>
+#include <optional>
+
+namespace orvane {
+
+/// What the author enters on the More Image Effects window; the defaults are those of a fresh
+/// window.
+struct MoreImageEffects
+{
+    Text EffectPicker;  ///< one of MoreImageEffectNames; empty while nothing is chosen
+    Text ImageFile;     ///< without its folder
+    Text ImageWidth;    ///< pixels, as typed
+    Text ImageHeight;   ///< pixels, as typed
+    Text BackColorText; ///< red, green and blue as "255,128,0"; empty when none was picked
+    Text LinkUrl;
+    int SpeedSlider = 50;   ///< 1 for slow to 100 for fast
+    Text LoopCount;         ///< an entry of LoopCounts, or as typed
+    Text PauseSeconds;      ///< as typed
+    Text StartEdge;         ///< an entry of StartEdges, or as typed
+    RequiredFiles Required; ///< the source of `ImageFile`
+    bool operator==(const MoreImageEffects&) const = default;
+};
+
+/// The effects in the order of the pick-list.
+inline constexpr std::array<TextView, 8> MoreImageEffectNames = {
+    u"Shutter in",           u"Shutter out", u"Slide-in", u"Slide-out",
+    u"Slide-in & Slide-out", u"Expand",      u"Shrink",   u"Expand & Shrink"};
+
+inline constexpr std::array<TextView, 6> LoopCounts = {u"1", u"2", u"3", u"4", u"5", u"Infinite"};
+
+inline constexpr std::array<TextView, 15> PauseLengths = {u"0",   u"0.1", u"0.2", u"0.3", u"0.4",
+                                                          u"0.5", u"0.6", u"0.7", u"0.8", u"0.9",
+                                                          u"1",   u"2",   u"3",   u"4",   u"5"};
+
+inline constexpr std::array<TextView, 8> StartEdges = {u"top",
+                                                       u"right side",
+                                                       u"bottom",
+                                                       u"left side",
+                                                       u"upper left corner",
+                                                       u"upper right corner",
+                                                       u"lower left corner",
+                                                       u"lower right corner"};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<MoreImageEffects> Effects, class Field>
+void ForEachField(Effects& effects, Field&& field)
+{
+    field("EffectPicker", effects.EffectPicker);
+    field("ImageFile", effects.ImageFile);
+    field("ImageWidth", effects.ImageWidth);
+    field("ImageHeight", effects.ImageHeight);
+    field("lblBGColor", effects.BackColorText);
+    field("LinkUrl", effects.LinkUrl);
+    field("SpeedSlider", effects.SpeedSlider);
+    field("LoopCount", effects.LoopCount);
+    field("PauseSeconds", effects.PauseSeconds);
+    field("StartEdge", effects.StartEdge);
+    field("Required", effects.Required);
+}
+
+/// Whether the effect comes in from an edge that the author chooses.
+bool ShowsStartEdge(const MoreImageEffects& effects);
+
+/// Whether a choice of the effect leaves the pause to the author.
+bool ShowsPauseOnChoice(const MoreImageEffects& effects);
+
+/// The same after a change of the loop count; an effect that goes on longer than one loop pauses.
+bool ShowsPauseForLoops(const MoreImageEffects& effects);
+
+/// The word behind the loop count.
+TextView LoopUnit(TextView loopCount);
+
+/// Takes a picked image, or gives what speaks against it; a file that is no picture changes
+/// nothing.
+std::optional<Complaint> ChooseImage(MoreImageEffects& effects, const PickedImage& image);
+
+/// The first failing check in order, or nothing when the wizard may finish.
+std::optional<Complaint> Check(const MoreImageEffects& effects);
+
+/// Leads a link that begins with "www." by its scheme.
+void Tidy(MoreImageEffects& effects);
+
+/// The page text of the effect that is chosen. A pause or an edge counts even while its row is
+/// hidden. Expects effects that pass Check().
+EffectPayload Generate(const MoreImageEffects& effects);
+
+} // namespace orvane

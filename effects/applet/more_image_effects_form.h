@@ -1,0 +1,33 @@
+#pragma once
+
+#include "effects/applet/more_image_effects.h"
+#include "windows/effect_form.h"
+
+namespace orvane {
+
+/// The window of More Image Effects.
+class MoreImageEffectsForm : public EffectForm<MoreImageEffects>
+{
+public:
+    explicit MoreImageEffectsForm(Workbench& bench, QWidget* parent = nullptr);
+
+protected:
+    void UpdateForm() override;
+
+private:
+    void AddProperties(PageBuilder page);
+    void AddBehavior(PageBuilder page);
+    void ChooseEffect();
+    void TakeImage(const Text& path);
+
+    QWidget* m_above = nullptr; ///< holds the picker in the middle while nothing is chosen
+    QWidget* m_properties = nullptr;
+    QWidget* m_behavior = nullptr;
+    FileNameBox* ImageFile = nullptr;
+    QComboBox* LoopCount = nullptr;
+    QComboBox* PauseSeconds = nullptr;
+    QComboBox* StartEdge = nullptr;
+    Text m_shownEffect; ///< whose rows were shown last
+};
+
+} // namespace orvane

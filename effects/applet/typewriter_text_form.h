@@ -1,0 +1,28 @@
+#pragma once
+
+#include "effects/applet/typewriter_text.h"
+#include "windows/effect_form.h"
+
+namespace orvane {
+
+/// The window of Typewriter Text.
+class TypewriterTextForm : public EffectForm<TypewriterText>
+{
+public:
+    explicit TypewriterTextForm(Workbench& bench, QWidget* parent = nullptr);
+
+protected:
+    void UpdateForm() override;
+
+private:
+    void AddTextPage();
+    void AddFontPage();
+    void AddPropertiesPage();
+    void WatchSize(QLineEdit* box);
+
+    orvane::MultiLineBox* TypedText = nullptr;
+    FileNameBox* TextFile = nullptr;
+    QComboBox* FontSize = nullptr;
+};
+
+} // namespace orvane

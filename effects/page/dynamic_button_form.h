@@ -1,0 +1,41 @@
+#pragma once
+
+#include "effects/page/dynamic_button.h"
+#include "windows/effect_form.h"
+
+#include <array>
+
+namespace orvane {
+
+class PictureBox;
+
+/// The window of the Dynamic Button.
+class DynamicButtonForm : public EffectForm<DynamicButton>
+{
+    Q_OBJECT
+
+public:
+    explicit DynamicButtonForm(Workbench& bench, QWidget* parent = nullptr);
+
+    /// Ends the edit; nothing of a pasted button comes back into the fields.
+    void EditApplet() { m_bench.Core.EditMode = false; }
+
+protected:
+    void UpdateForm() override;
+    EffectPayload Produce(const DynamicButton& button) const override;
+
+private:
+    PageBuilder AddButtonPage(TextView frame, ControlName focus);
+    void AddImage(PageBuilder& frame, ControlName name, TextView tip, std::size_t slot);
+    void AddSound(PageBuilder& frame, ControlName name, TextView tip, std::size_t slot);
+    void AddLink(PageBuilder& frame);
+
+    struct Preview
+    {
+        std::size_t Slot;
+        PictureBox* Box;
+    };
+    std::vector<Preview> m_previews; ///< of the images, by their slots
+};
+
+} // namespace orvane

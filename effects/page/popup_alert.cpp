@@ -1,0 +1,74 @@
+#include "effects/page/popup_alert.h"
+
+#include "core/template.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr Template body(uR"page(
+<SCRIPT LANGUAGE="JavaScript">
+«CreditBanner»
+<!--
+«AlertLines»
+//-->
+</SCRIPT>
+
+)page");
+
+// Stays as it is: this line alone has no semicolon.
+constexpr Template simpleLines(uR"page(    window.alert("«AlertText»"))page");
+
+constexpr Template confirmLines(uR"page(
+    res = window.confirm("«AlertText»");
+    document.writeln(res);)page");
+
+constexpr Template promptLines(uR"page(
+    res = window.prompt("«AlertText»","");
+    if (res != null) {document.writeln(res)};)page");
+
+TemplateView LinesOf(TextView type)
+{
+    if (type == AlertTypes[2].Item)
+        return promptLines;
+    if (type == AlertTypes[1].Item)
+        return confirmLines;
+    return simpleLines;
+}
+
+} // namespace
+
+TextView AlertTypeDescription(TextView type)
+{
+    for (const AlertType& known : AlertTypes)
+        if (known.Item == type)
+            return known.Description;
+    return {};
+}
+
+std::optional<Complaint> Check(const PopupAlert& alert)
+{
+    if (alert.cmboAlertType.empty())
+        return Complaint{u"Select a PopUp Alert box type.", "cmboAlertType"};
+    if (alert.txtAlertText.empty())
+        return Complaint{u"Enter the text you wish to appear in the PopUp Alert box.",
+                         "txtAlertText"};
+    return std::nullopt;
+}
+
+void Tidy(PopupAlert& alert)
+{
+    alert.txtAlertText = ReplaceAll(alert.txtAlertText, lineEnd, u"\\n");
+}
+
+EffectPayload Generate(const PopupAlert& alert)
+{
+    // The text goes in as it is: a quote in it ends the string, and always has.
+    const Text lines = Fill(LinesOf(alert.cmboAlertType), {{u"AlertText", alert.txtAlertText}});
+    return {
+        .Kind = EffectKind::PopupAlert,
+        .BODYHTML = Fill(body, {{u"CreditBanner", CreditBanner}, {u"AlertLines", lines}}),
+    };
+}
+
+} // namespace orvane

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+
+#include <array>
+#include <optional>
+
+namespace orvane {
+
+/// A type of box as the list shows it, and what it allows.
+struct AlertType
+{
+    TextView Item;
+    TextView Description;
+};
+
+/// The types in the order of their list.
+inline constexpr std::array<AlertType, 3> AlertTypes = {{
+    {u"Simple Alert box", u"Allows you to alert the user with a message in the pop-up box"},
+    {u"OK/Cancel box", u"Allows the user to click 'OK' or 'CANCEL' in the pop-up box"},
+    {u"Input Prompt box", u"Allows the user to input text into the pop-up box"},
+}};
+
+/// What the author enters on the Popup Alert window; the defaults are those of a fresh window.
+struct PopupAlert
+{
+    Text cmboAlertType = Text(AlertTypes[0].Item); ///< empty when none is chosen
+    Text txtAlertText;
+    bool operator==(const PopupAlert&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<PopupAlert> Alert, class Field>
+void ForEachField(Alert& alert, Field&& field)
+{
+    field("cmboAlertType", alert.cmboAlertType);
+    field("txtAlertText", alert.txtAlertText);
+}
+
+/// What a type of box allows; empty when none is chosen.
+TextView AlertTypeDescription(TextView type);
+
+/// The first failing check in field order, or nothing when the wizard may finish.
+std::optional<Complaint> Check(const PopupAlert& alert);
+
+/// Writes the line ends of the text as a script's string has them.
+void Tidy(PopupAlert& alert);
+
+/// The box's page text. Expects an alert that passes Check() and went through Tidy().
+EffectPayload Generate(const PopupAlert& alert);
+
+} // namespace orvane

@@ -1,0 +1,42 @@
+#include "effects/page/popup_alert_form.h"
+
+#include "windows/multi_line_box.h"
+#include "windows/qt_text.h"
+
+#include <QComboBox>
+
+namespace orvane {
+
+PopupAlertForm::PopupAlertForm(Workbench& bench, QWidget* parent)
+    : EffectForm("PopupAlert", bench, parent)
+{
+    PageBuilder page = AddPage({u"Popup Alert box effect",
+                                u"Create a Popup Alert box when the user loads your Web page.  "
+                                u"Choose from three different PopUp box styles."});
+    std::array<TextView, AlertTypes.size()> types;
+    for (std::size_t i = 0; i < types.size(); ++i)
+        types[i] = AlertTypes[i].Item;
+    cmboAlertType = page.ComboBox("cmboAlertType", u"PopUp Alert box type:", types, false,
+                                  u"This specifies the type of Alert box to be displayed");
+    lblAlertTypeDesc = page.Note({}, "lblAlertTypeDesc");
+    txtAlertText =
+        page.MultiLineBox("txtAlertText", u"Popup Alert box text:",
+                          u"This is the text that will be displayed in the Popup Alert box");
+    page.Example(QStringLiteral("popup_alert_sample"), {320, 120});
+    connect(cmboAlertType, &QComboBox::currentIndexChanged, this,
+            &PopupAlertForm::ChangePopUpAlertType);
+    AddButtons(Buttons::OnePage);
+}
+
+void PopupAlertForm::UpdateForm()
+{
+    lblAlertTypeDesc->setText(ToQt(AlertTypeDescription(FromQt(cmboAlertType->currentText()))));
+}
+
+void PopupAlertForm::ChangePopUpAlertType()
+{
+    UpdateForm();
+    txtAlertText->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace orvane

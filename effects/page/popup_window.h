@@ -1,0 +1,86 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+
+#include <optional>
+
+namespace orvane {
+
+/// What makes the popup window appear; the numbers are the indexes of the options.
+enum class WhenToAppear
+{
+    OnLoad = 0,
+    OnExit = 1,
+    OnHyperlink = 2,
+    OnImage = 3,
+};
+
+/// What the author enters on the Popup Window window; the defaults are those of a fresh window.
+struct PopupWindow
+{
+    WhenToAppear optWhenToAppear = WhenToAppear::OnLoad;
+    Text txtLinkItem; ///< text of the link, or file name of the image
+    Text txtWindowName;
+    Text txtURL;
+    Text txtWidth;  ///< pixels, as typed
+    Text txtHeight; ///< pixels, as typed
+    Text txtHorizLocation;
+    Text txtVertLocation;
+    bool chkShowToolbar = false;
+    bool chkShowStatusBar = false;
+    bool chkShowLocation = false;
+    bool chkShowMenu = false;
+    bool chkShowDirectory = false;
+    bool chkShowScrollbars = false;
+    bool chkResizable = false;
+    RequiredFiles Required; ///< slot 0: what Browse gave for `txtURL`
+    bool operator==(const PopupWindow&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<PopupWindow> Window, class Field>
+void ForEachField(Window& window, Field&& field)
+{
+    field("optWhenToAppear", window.optWhenToAppear);
+    field("txtLinkItem", window.txtLinkItem);
+    field("txtWindowName", window.txtWindowName);
+    field("txtURL", window.txtURL);
+    field("txtWidth", window.txtWidth);
+    field("txtHeight", window.txtHeight);
+    field("txtHorizLocation", window.txtHorizLocation);
+    field("txtVertLocation", window.txtVertLocation);
+    field("chkShowToolbar", window.chkShowToolbar);
+    field("chkShowStatusBar", window.chkShowStatusBar);
+    field("chkShowLocation", window.chkShowLocation);
+    field("chkShowMenu", window.chkShowMenu);
+    field("chkShowDirectory", window.chkShowDirectory);
+    field("chkShowScrollbars", window.chkShowScrollbars);
+    field("chkResizable", window.chkResizable);
+    field("Required", window.Required);
+}
+
+/// How the frame of the link asks for what is clicked.
+struct LinkSettings
+{
+    TextView Explanation;
+    TextView ItemLabel;
+    TextView ItemTip;
+    bool IsFile = false; ///< the item is filled by Browse
+};
+
+/// The frame of the link for a choice; nothing when the choice needs no link.
+std::optional<LinkSettings> LinkSettingsFor(WhenToAppear choice);
+
+/// Whether a file shown in the popup window is a picture, whose size the window takes.
+bool IsPopupPicture(TextView fileName);
+
+/// What Next, or Done on the last page, refuses on a page, counted from 0, or nothing.
+std::optional<Complaint> CheckPage(const PopupWindow& window, int page);
+
+/// The call of the popup window in the page, with the file that it shows. Expects a window that
+/// passes CheckPage().
+EffectPayload Generate(const PopupWindow& window);
+
+} // namespace orvane

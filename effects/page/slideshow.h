@@ -1,0 +1,52 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+#include "services/image_list.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+
+/// What the author enters on the Slideshow window; the defaults are those of a fresh window.
+struct Slideshow
+{
+    std::vector<ImageRow> Rows;
+    Text txtSlideDuration = u"5"; ///< seconds, as typed
+    bool chkDisplayControls = false;
+    bool chkAutoStart = true;
+    bool chkRepeat = false;
+    Text cmbTransitions;    ///< one of RevealTransitions; empty when none was chosen
+    RequiredFiles Required; ///< every image added so far
+    bool operator==(const Slideshow&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<Slideshow> Show, class Field>
+void ForEachField(Show& show, Field&& field)
+{
+    field("List1", show.Rows);
+    field("txtSlideDuration", show.txtSlideDuration);
+    field("chkDisplayControls", show.chkDisplayControls);
+    field("chkAutoStart", show.chkAutoStart);
+    field("chkRepeat", show.chkRepeat);
+    field("cmbTransitions", show.cmbTransitions);
+    field("Required", show.Required);
+}
+
+/// What the author is told when a slideshow has lost both its timer and its buttons, and the box
+/// that gets the tick in its place; `unticked` is the box that the author has just emptied. Nothing
+/// as long as the show can move.
+std::optional<Complaint> CheckMoves(const Slideshow& show, std::string_view unticked);
+
+/// What Next refuses on a page, counted from 0, or nothing.
+std::optional<Complaint> CheckPage(const Slideshow& show, int page);
+
+/// The slideshow's page text, with the images that must lie beside the page. Expects a show that
+/// passes CheckPage().
+EffectPayload Generate(const Slideshow& show);
+
+} // namespace orvane

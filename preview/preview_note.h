@@ -1,0 +1,15 @@
+#pragma once
+
+#include "core/file_store.h"
+#include "core/payload.h"
+
+namespace orvane {
+
+/// What the pane cannot show of an effect, and why, in words for the author; empty when it shows
+/// all. Names the files that are missing in the folder, which is where the preview page lies.
+Text PreviewNote(const EffectPayload& effect, const FileStore& files, TextView folder);
+
+/// Whether the effect shows in the browser's status line alone.
+bool RunsInStatus(EffectKind kind);
+
+} // namespace orvane

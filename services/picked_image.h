@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/file_names.h"
+#include "core/numbers.h"
+#include "services/recorded_files.h"
+
+#include <optional>
+
+namespace orvane {
+
+/// What a dialog offers that asks for an image or for a Web page.
+inline constexpr TextView imageFilter =
+    u"All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg";
+inline constexpr TextView webPageFilter =
+    u"All Files (*.*)|*.*|HTML Files (*.htm, *.html)|*.htm;*.html";
+
+/// The dialog in which the author picks an image.
+inline FileRequest ImageRequest()
+{
+    return {.Title = u"Browse...", .Filter = Text(imageFilter), .FilterIndex = 2};
+}
+
+/// The dialog in which the author picks a Web page to link to.
+inline FileRequest WebPageRequest()
+{
+    return {.Title = u"Browse...", .Filter = Text(webPageFilter), .FilterIndex = 2};
+}
+
+/// The size of a picture in pixels.
+struct PixelSize
+{
+    int Width;
+    int Height;
+    bool operator==(const PixelSize&) const = default;
+};
+
+/// An image file that the author picked.
+struct PickedImage
+{
+    Text Path;
+    std::optional<PixelSize> Size; ///< nothing for a file that is no picture
+};
+
+/// Puts a picked image into an effect that shows one: name and size into their fields, the source
+/// into the first slot. Expects an image with a size.
+template <class Effect>
+void TakeImage(Effect& effect, const PickedImage& image)
+{
+    effect.ImageFile = GetFileName(image.Path);
+    effect.ImageWidth = NumberToText(image.Size->Width);
+    effect.ImageHeight = NumberToText(image.Size->Height);
+    effect.Required.Sources[0] = image.Path;
+}
+
+} // namespace orvane

@@ -1,0 +1,116 @@
+#include "effects/applet/image_effects_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/picture_files.h"
+#include "tests/support/qt_controls.h"
+#include "tests/support/test_folder.h"
+
+#include <QComboBox>
+#include <QSlider>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class ImageEffectsFormTest : public ::testing::Test
+{
+protected:
+    ImageEffectsFormTest() { m_form.show(); }
+
+    void Pick(const char* effect)
+    {
+        auto* picker = Find<QComboBox>(m_form, "EffectPicker");
+        picker->setCurrentText(QString::fromUtf8(effect));
+        emit picker->textActivated(picker->currentText());
+    }
+
+    void Browse(unsigned width, unsigned height)
+    {
+        m_folder.Put("a.gif", GifBytes(width, height));
+        m_desk.Dialogs.AnswerOpenFile(m_folder.TextAt("a.gif"));
+        Click(m_form, "cmdBrowseForImage");
+    }
+
+    /// The visible ones of the rows that come and go.
+    std::string Rows()
+    {
+        std::string rows;
+        for (const char* name : {"LinkOrColor", "ColorSwatch", "TargetFrame", "FrameCount",
+                                 "chkGradual", "SizeSlider", "RotationSlider"})
+            if (m_form.findChild<QWidget*>(name)->isVisibleTo(&m_form))
+                rows += std::string(name) + " ";
+        return rows;
+    }
+
+    FakeDesk m_desk;
+    TestFolder m_folder;
+    ImageEffectsForm m_form{m_desk.Bench};
+};
+
+TEST_F(ImageEffectsFormTest, HandsOverACubeWithItsColor)
+{
+    EXPECT_FALSE(Find<QWidget>(m_form, "ImageFile")->isVisible());
+    Pick("Image Cube");
+    EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("ImageFile"));
+    Browse(256, 255);
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    Browse(256, 256);
+    m_desk.Dialogs.AnswerColor(0x0080FF);
+    Click(m_form, "ColorSwatch");
+    Find<QSlider>(m_form, "SizeSlider")->setValue(999);
+    Click(m_form, "cmdDone");
+    ImageEffects expected{.EffectPicker = u"Image Cube",
+                          .ImageFile = u"a.gif",
+                          .ImageWidth = u"256",
+                          .ImageHeight = u"256",
+                          .SizeSlider = 250,
+                          .Required = {.Sources = {m_folder.TextAt("a.gif")}}};
+    ChooseColor(expected, u"255,128,0");
+    EXPECT_EQ(m_form.Parameters(), expected);
+    EXPECT_EQ(m_form.TakePayload(), Generate(expected));
+}
+
+TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
+{
+    const QSize size = m_form.size();
+    const auto expectMode = [&](const char* effect, const std::string& rows, const char* label,
+                                int topic) {
+        Pick(effect);
+        EXPECT_EQ(Rows(), rows) << effect;
+        EXPECT_EQ(LabelOf(Find<QWidget>(m_form, "ImageWidth"))->text().toStdString(), label);
+        Click(m_form, "cmdClickHereForHelp");
+        EXPECT_EQ(m_desk.Help.Shown.back(), topic);
+        EXPECT_EQ(m_form.size(), size);
+    };
+    expectMode("Lake Reflection", "LinkOrColor TargetFrame ", "Image Width:", 15);
+    Find<QComboBox>(m_form, "TargetFrame")->setEditText(QStringLiteral("_top"));
+    expectMode("Image Cube", "ColorSwatch SizeSlider RotationSlider ", "Applet Width:", 13);
+    m_desk.Dialogs.AnswerColor(0x030201);
+    Click(m_form, "ColorSwatch");
+    Find<QSlider>(m_form, "RotationSlider")->setValue(60);
+    EXPECT_EQ(WordsBeside(Find<QWidget>(m_form, "SizeSlider"), 1)->text(), QStringLiteral("Small"));
+    expectMode("Image Ripple", "FrameCount SizeSlider ", "Image Width:", 14);
+    EXPECT_EQ(LabelOf(Find<QWidget>(m_form, "SizeSlider"))->text(), QStringLiteral("Ripple size:"));
+    expectMode("Image Brighten", "LinkOrColor chkGradual ", "Image Width:", 40);
+    Browse(7, 8);
+    Click(m_form, "chkGradual");
+    EXPECT_EQ(Rows(), "LinkOrColor chkGradual SizeSlider ");
+    EXPECT_EQ(Find<QSlider>(m_form, "SizeSlider")->maximum(), 15);
+    EXPECT_EQ(m_form.Parameters().SizeSlider, 5);
+    expectMode("Image Brighten", "LinkOrColor chkGradual ", "Image Width:", 40);
+    const ImageEffects emptied{.EffectPicker = u"Image Brighten",
+                               .ColorSwatch =
+                                   u"32,48,0", // five digits are shifted by their padding
+                               .TargetFrame = u"_top",
+                               .chkGradual = true,
+                               .RotationSlider = 60,
+                               .BackRed = 32,
+                               .BackGreen = 48,
+                               .BackBlue = 0};
+    EXPECT_EQ(ToUtf8(WriteDraft(m_form.Parameters())), ToUtf8(WriteDraft(emptied)));
+    EXPECT_NE(Find(Generate(emptied).HEADHTML, u"opacity += 125;\r\n"), 0u);
+}
+
+} // namespace
+} // namespace orvane

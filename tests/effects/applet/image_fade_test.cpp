@@ -1,0 +1,81 @@
+#include "effects/applet/image_fade.h"
+
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedText;
+using testing::ExpectSameText;
+
+ImageFade TwoImages()
+{
+    ImageFade fade{.FadePause = u"2.5", .FadeSpeed = 55, .FadeTarget = u" _top "};
+    EXPECT_EQ(AddImage(fade, {u"/p/a.gif", PixelSize{100, 80}}), std::nullopt);
+    EXPECT_EQ(AddImage(fade, {u"/q/b.gif", PixelSize{100, 80}}), std::nullopt);
+    fade.FadeLinks[1] = u"http://www.example.com/b.html";
+    return fade;
+}
+
+TEST(ImageFadeTest, WritesItsTagIntoTheBody)
+{
+    ImageFade fade = TwoImages();
+    const EffectPayload payload = Generate(fade);
+    ExpectSameText(ExpectedText("image_fade_two_images.html"), payload.BODYHTML);
+    const EffectPayload rest{
+        .Kind = EffectKind::ImageFade,
+        .BODYHTML = payload.BODYHTML,
+        .Required = {.Names = {u"a.gif", u"b.gif"}, .Sources = {u"/p/a.gif", u"/q/b.gif"}},
+        .SupportFiles = {u"ImageFade2ech.class", u"Pixelator3.class"}};
+    EXPECT_EQ(payload, rest);
+    fade.FadeTarget = u"";
+    EXPECT_EQ(Find(Generate(fade).BODYHTML, u"TARGET"), 0u);
+    EXPECT_EQ(Check(fade), std::nullopt);
+    fade.FadeImages.pop_back();
+    EXPECT_EQ(
+        Check(fade),
+        (Complaint{u"You must enter at least 2 images to create the image fade effect.", ""}));
+}
+
+TEST(ImageFadeTest, TakesImagesOfTheFirstOnesSize)
+{
+    ImageFade fade;
+    EXPECT_EQ(AddImage(fade, {u"/p/a b.gif", {}})->Words.substr(0, 30),
+              u"This special effect does not a");
+    EXPECT_EQ(AddImage(fade, {u"/p/a.txt", {}}), std::nullopt);
+    EXPECT_EQ(fade, ImageFade{});
+    fade = TwoImages();
+    const ImageFade before = fade;
+    EXPECT_EQ(AddImage(fade, {u"/p/c.gif", PixelSize{100, 81}})->Words,
+              u"The images must be exactly the same size.  If one image is 100 pixels by 100 "
+              u"pixels, then this image must be 100 x 100.");
+    EXPECT_EQ(fade, before);
+    fade.FadeImages.resize(60);
+    fade.FadeLinks.resize(60);
+    EXPECT_EQ(AddImage(fade, {u"/p/late.gif", PixelSize{100, 80}}), std::nullopt);
+    ExchangeSources(fade, 50); // the last that is recorded, and one that is not
+    ForgetImage(fade, 60);
+    EXPECT_NE(Find(Generate(fade).BODYHTML, u"\"IMAGE.60\" VALUE=\"late.gif\""), 0u);
+}
+
+TEST(ImageFadeTest, ReadsPauseSpeedAndTargetAlone)
+{
+    ImageFade fade = TwoImages();
+    ReadTag(fade, {.Whole = u"PAUSE 3000 \"><PARAM TARGET VALUE=\"_top\"><PARAM "
+                            u"TRANSITION.SPEED VALUE=170 \">"});
+    ImageFade expected = TwoImages();
+    expected.Required = {};
+    expected.FadePause = u"3";
+    expected.FadeTarget = u"\"_top";
+    expected.FadeSpeed = 160;
+    EXPECT_EQ(fade, expected);
+    ReadTag(fade, {.Whole = Generate(TwoImages()).BODYHTML}); // whose names stand in quotes
+    EXPECT_EQ(fade.FadePause, u"0");
+    EXPECT_EQ(fade.FadeTarget, u"");
+    EXPECT_EQ(fade.FadeSpeed, 10);
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,90 @@
+#include "effects/applet/more_image_effects_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/picture_files.h"
+#include "tests/support/qt_controls.h"
+#include "tests/support/test_folder.h"
+
+#include <QComboBox>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class MoreImageEffectsFormTest : public ::testing::Test
+{
+protected:
+    MoreImageEffectsFormTest() { m_form.show(); }
+
+    void Pick(const char* effect)
+    {
+        auto* picker = Find<QComboBox>(m_form, "EffectPicker");
+        picker->setCurrentText(QString::fromUtf8(effect));
+        emit picker->textActivated(picker->currentText());
+    }
+
+    bool Shows(const char* name) { return m_form.findChild<QWidget*>(name)->isVisible(); }
+
+    FakeDesk m_desk;
+    MoreImageEffectsForm m_form{m_desk.Bench};
+};
+
+TEST_F(MoreImageEffectsFormTest, HandsOverWhatWasTyped)
+{
+    EXPECT_FALSE(Shows("ImageFile"));
+    Pick("Slide-in");
+    TestFolder folder;
+    folder.Put("a.gif", GifBytes(70, 80));
+    for (const char* file : {"missing.gif", "a.gif"}) {
+        m_desk.Dialogs.AnswerOpenFile(folder.TextAt(file));
+        Click(m_form, "cmdBrowseForImage");
+    }
+    m_desk.Dialogs.AnswerColor(0x0080FF);
+    Click(m_form, "lblBGColor");
+    Type(m_form, "LinkUrl", u"www.x");
+    Find<QComboBox>(m_form, "StartEdge")->setEditText(QStringLiteral("bottom"));
+    Click(m_form, "cmdDone");
+    const MoreImageEffects expected{.EffectPicker = u"Slide-in",
+                                    .ImageFile = u"a.gif",
+                                    .ImageWidth = u"70",
+                                    .ImageHeight = u"80",
+                                    .BackColorText = u"255,128,0",
+                                    .LinkUrl = u"http://www.x",
+                                    .LoopCount = u"1",
+                                    .StartEdge = u"bottom",
+                                    .Required = {.Sources = {folder.TextAt("a.gif")}}};
+    EXPECT_EQ(m_form.Parameters(), expected);
+    EXPECT_EQ(m_form.TakePayload(), Generate(expected));
+    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
+}
+
+TEST_F(MoreImageEffectsFormTest, PauseAndEdgeComeAndGo)
+{
+    Pick("Shutter in");
+    EXPECT_FALSE(Shows("StartEdge") || Shows("PauseSeconds"));
+    Pick("Expand & Shrink");
+    EXPECT_TRUE(Shows("StartEdge") && Shows("PauseSeconds"));
+    auto* loops = Find<QComboBox>(m_form, "LoopCount");
+    EXPECT_EQ(WordsBeside(loops, 1)->text(), QStringLiteral("time"));
+    for (const char* count : {"2", "1.5", "Infinite"}) {
+        loops->setEditText(QString::fromUtf8(count));
+        EXPECT_TRUE(Shows("PauseSeconds"));
+        EXPECT_EQ(WordsBeside(loops, 1)->text(), QStringLiteral("times"));
+        loops->setEditText(QStringLiteral("1"));
+        EXPECT_FALSE(Shows("PauseSeconds"));
+    }
+    loops->setEditText(QStringLiteral("1"));
+    EXPECT_FALSE(Shows("PauseSeconds"));
+    m_form.SetParameters(m_form.Parameters());
+    EXPECT_FALSE(Shows("PauseSeconds"));
+    Pick("Expand & Shrink");
+    EXPECT_TRUE(Shows("PauseSeconds"));
+    Pick("Slide-in & Slide-out");
+    loops->setEditText(QStringLiteral("2"));
+    loops->setEditText(QStringLiteral("1"));
+    EXPECT_TRUE(Shows("PauseSeconds"));
+}
+
+} // namespace
+} // namespace orvane

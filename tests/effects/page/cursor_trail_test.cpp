@@ -1,0 +1,46 @@
+#include "effects/page/cursor_trail.h"
+
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedText;
+using testing::ExpectSameText;
+
+TEST(CursorTrailTest, WritesItsScriptIntoTheHead)
+{
+    const EffectPayload payload = Generate({.txtImage = u"/pictures/star.gif", .Slider = 7});
+    EffectPayload expected{.Kind = EffectKind::CursorTrail,
+                           .HEADHTML = ExpectedText("cursor_trail.html")};
+    expected.Required.Names[0] = u"star.gif";
+    expected.Required.Sources[0] = u"/pictures/star.gif";
+    ExpectSameText(expected.HEADHTML, payload.HEADHTML);
+    EXPECT_EQ(payload, expected);
+}
+
+TEST(CursorTrailTest, CutsTheNameBehindEitherSeparator)
+{
+    const std::array<TextView, 3> cases[] = {
+        {u"c:\\my pics\\a star.gif", u"a star.gif", u"c:\\my pics\\a star.gif"},
+        {u"star.gif", u"star.gif", u""},
+        {u"/pictures/", u"", u""}};
+    for (const auto& [typed, name, source] : cases) {
+        const EffectPayload payload = Generate({.txtImage = Text(typed)});
+        EXPECT_EQ(payload.Required.Names[0], name);
+        EXPECT_EQ(payload.Required.Sources[0], source);
+        EXPECT_NE(Find(payload.HEADHTML, Join({u"strImgPathFilename = '", name, u"';\r\n"})), 0u);
+    }
+}
+
+TEST(CursorTrailTest, NeedsAnImage)
+{
+    EXPECT_EQ(Check({}), (Complaint{u"Please specify an image to use as your Mouse Cursor Trail.",
+                                    "txtImage"}));
+    EXPECT_EQ(Check({.txtImage = u"/pictures/"}), std::nullopt);
+}
+
+} // namespace
+} // namespace orvane

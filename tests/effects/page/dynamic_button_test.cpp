@@ -1,0 +1,75 @@
+#include "effects/page/dynamic_button.h"
+
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedText;
+using testing::ExpectSameText;
+
+DynamicButton FullButton()
+{
+    return {.DefaultImage = u"up.gif",
+            .OverImage = u"over.gif",
+            .OverSound = u"hover.wav",
+            .ClickImage = u"down.gif",
+            .ClickSound = u"click.wav",
+            .LinkUrl = u"http://www.example.com/next.html",
+            .LinkTarget = u"_blank"};
+}
+
+TEST(DynamicButtonTest, WritesItsTagIntoTheBody)
+{
+    EffectPayload expected{.Kind = EffectKind::DynamicButton,
+                           .BODYHTML = ExpectedText("dynamic_button_full.html")};
+    DynamicButton button = FullButton();
+    button.Required.Sources = {u"/p/up.gif", u"/p/over.gif", u"/s/other.wav", {}, u"/s/click.wav"};
+    expected.Required.Names = {u"up.gif", u"over.gif", u"hover.wav", u"down.gif", u"click.wav"};
+    expected.Required.Sources = {u"/p/up.gif", u"/p/over.gif", {}, {}, u"/s/click.wav"};
+    const EffectPayload payload = Generate(button, SoundElement(37865.2705851851));
+    ExpectSameText(expected.BODYHTML, payload.BODYHTML);
+    EXPECT_EQ(payload, expected);
+}
+
+TEST(DynamicButtonTest, LeavesOutWhatIsNotSet)
+{
+    const DynamicButton bare{.DefaultImage = u"up.gif", .LinkTarget = u"_top"};
+    ExpectSameText(ExpectedText("dynamic_button_bare.html"), Generate(bare, u"bgs1").BODYHTML);
+    DynamicButton button = FullButton();
+    button.OverSound.clear();
+    button.ClickImage.clear();
+    button.LinkTarget.clear();
+    ExpectSameText(u"<bgsound id='bgs1' src='' loop='1'>\r\n"
+                   u"<a href='http://www.example.com/next.html'>"
+                   u"<img src='up.gif' alt='' border='0'\r\n"
+                   u"    onMouseover=\"this.src='over.gif';\"\r\n"
+                   u"    onMouseout = \"this.src='up.gif'\"\r\n"
+                   u"    onMousedown = \"this.src='over.gif'; bgs1.src='click.wav'\"\r\n"
+                   u"    onMouseUp=\"this.src='over.gif'\"></a>\r\n",
+                   Generate(button, u"bgs1").BODYHTML);
+}
+
+TEST(DynamicButtonTest, NamesTheSoundByTheClock)
+{
+    EXPECT_EQ(SoundElement(45000.5), u"bgs5000");
+    EXPECT_EQ(SoundElement(45000), u"bgs45000"); // at midnight the clock's text is short
+    EXPECT_EQ(SoundElement(37865.270585185123), u"bgs8518");
+}
+
+TEST(DynamicButtonTest, CompletesTheAddressAndAsksForTheFirstImageAlone)
+{
+    DynamicButton button{.LinkUrl = u"WWW.example.com"};
+    Tidy(button);
+    EXPECT_EQ(button.LinkUrl, u"http://WWW.example.com");
+    const Complaint missing{u"Please specify an image for the button.", "DefaultImage"};
+    EXPECT_EQ(CheckPage(button, 0), missing);
+    EXPECT_EQ(CheckPage(button, 1), std::nullopt);
+    button.DefaultImage = u" ";
+    EXPECT_EQ(CheckPage(button, 0), std::nullopt);
+}
+
+} // namespace
+} // namespace orvane

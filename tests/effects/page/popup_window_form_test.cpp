@@ -1,0 +1,75 @@
+#include "effects/page/popup_window_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/picture_files.h"
+#include "tests/support/qt_controls.h"
+#include "tests/support/test_folder.h"
+
+#include <QPushButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class PopupWindowFormTest : public ::testing::Test
+{
+protected:
+    FakeDesk m_desk;
+    PopupWindowForm m_form{m_desk.Bench};
+};
+
+TEST_F(PopupWindowFormTest, TwoPagesFromFreshToPayload)
+{
+    TestFolder folder;
+    WriteFile(folder.At("photo.GIF"), GifBytes(30, 20));
+    m_form.show();
+    Click(m_form, "optWhenToAppear(1)");
+    Click(m_form, "cmdNext");
+    Type(m_form, "txtWindowName", u"photo");
+    m_desk.Dialogs.AnswerOpenFile(folder.TextAt("photo.GIF"));
+    Click(m_form, "cmdBrowseForWebPageOrImage");
+    EXPECT_EQ(m_desk.Dialogs.Requests[0].FilterIndex, 2);
+    Click(m_form, "chkResizable");
+    Click(m_form, "cmdNext");
+    PopupWindow window{.optWhenToAppear = WhenToAppear::OnExit,
+                       .txtWindowName = u"photo",
+                       .txtURL = u"photo.GIF",
+                       .txtWidth = u"30",
+                       .txtHeight = u"20",
+                       .chkResizable = true};
+    window.Required.Sources[0] = folder.TextAt("photo.GIF");
+    EXPECT_EQ(m_form.TakePayload(), Generate(window));
+    m_form.show();
+    Type(m_form, "txtURL", u"x");
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_form.TakePayload()->Required.Sources[0], u"");
+}
+
+TEST_F(PopupWindowFormTest, TheLinkFrameFollowsTheChoice)
+{
+    auto* item = Find<QLineEdit>(m_form, "txtLinkItem");
+    auto* browse = Find<QPushButton>(m_form, "cmdBrowseForImage");
+    m_form.show();
+    EXPECT_FALSE(item->isEnabled());
+    Click(m_form, "optWhenToAppear(2)");
+    EXPECT_FALSE(browse->isEnabled());
+    Type(m_form, "txtLinkItem", u"Help");
+    Click(m_form, "optWhenToAppear(2)");
+    EXPECT_EQ(WordsOf(m_form, "txtLinkItem"), u"Help");
+    Click(m_form, "optWhenToAppear(3)");
+    EXPECT_EQ(WordsOf(m_form, "txtLinkItem"), u"");
+    EXPECT_EQ(WordsOf(m_form, "lblLinkItem"), u"Image name:");
+    Type(m_form, "txtLinkItem", u"x");
+    EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
+    m_desk.Dialogs.AnswerOpenFile(u"/pics/small.gif");
+    Click(m_form, "cmdBrowseForImage");
+    Click(m_form, "optWhenToAppear(0)");
+    EXPECT_FALSE(item->isEnabled());
+    EXPECT_FALSE(browse->isEnabled());
+    EXPECT_EQ(WordsOf(m_form, "lblLinkItem"), u"Image name:");
+    EXPECT_EQ(m_form.Parameters().txtLinkItem, u"small.gif");
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,145 @@
+#include "program/qt_dialogs.h"
+
+#include "tests/support/qt_controls.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace orvane::testing {
+namespace {
+
+const QString manyLines = QStringLiteral("A line of <b>words</b>\r\n").repeated(300);
+const Text manyWords(manyLines.toStdU16String());
+
+TEST(QtDialogsTest, GivesTheAnswerOfEachButtonAndOfEscape)
+{
+    QtDialogs dialogs;
+    const auto press = [](const char* button) {
+        WhenInFront<QDialog>([button](QDialog& box) {
+            EXPECT_EQ(WordsOf(box, "lblWords"), u"Sure & <safe>?\nYes?");
+            EXPECT_TRUE(Find<QPushButton>(box, "cmdYes")->isDefault());
+            button == nullptr ? Press(box, Qt::Key_Escape) : Click(box, button);
+        });
+    };
+    const Text words = u"Sure & <safe>?\r\nYes?";
+    for (const auto& [button, answer] : std::initializer_list<std::pair<const char*, bool>>{
+             {"cmdYes", true}, {"cmdNo", false}, {nullptr, false}}) {
+        press(button);
+        EXPECT_EQ(dialogs.Ask(words, u"Title"), answer);
+    }
+    for (const auto& [button, answer] :
+         std::initializer_list<std::pair<const char*, std::optional<bool>>>{
+             {"cmdYes", true}, {"cmdNo", false}, {"cmdCancel", {}}, {nullptr, {}}}) {
+        press(button);
+        EXPECT_EQ(dialogs.AskOrCancel(words, u"Title"), answer);
+    }
+}
+
+TEST(QtDialogsTest, KeepsWhatTheAuthorAnswersWithOnTheScreenHoweverManyTheWords)
+{
+    QtDialogs dialogs;
+    WhenInFront<QDialog>([](QDialog& box) {
+        const QRect room = box.screen()->availableGeometry();
+        EXPECT_LT(box.height(), room.height());
+        auto* stop = Find<QCheckBox>(box, "chkStop");
+        for (const QWidget* control :
+             {static_cast<QWidget*>(stop), static_cast<QWidget*>(Find<QPushButton>(box, "cmdOK"))})
+            EXPECT_TRUE(box.rect().contains(control->geometry())) << control->isVisible();
+        stop->click();
+        Find<QLineEdit>(box, "txtEntry")->setText("typed");
+        ExpectAccessible(box);
+        Click(box, "cmdOK");
+    });
+    const PageBoxReply reply = dialogs.Answer(
+        {.Shape = PageBox::Kind::Prompt, .Words = manyWords, .Proposed = u"a", .OffersStop = true});
+    EXPECT_TRUE(reply.Accepted && reply.Stop);
+    EXPECT_EQ(reply.Entered, u"typed");
+}
+
+TEST(QtDialogsTest, NoBoxBelongsToAWindowThatClosesByItself)
+{
+    QtDialogs dialogs;
+    QWidget wizard;
+    wizard.show();
+    auto* popup = new QWidget(&wizard, Qt::Window);
+    popup->setAttribute(Qt::WA_DeleteOnClose);
+    popup->show();
+    popup->activateWindow();
+    LetRun();
+    ASSERT_EQ(QApplication::activeWindow(), popup);
+    WhenInFront<QDialog>([&](QDialog& box) {
+        EXPECT_EQ(box.parentWidget(), &wizard);
+        box.accept();
+    });
+    dialogs.Say(u"Hello", Tone::Exclamation);
+}
+
+TEST(QtDialogsTest, TheWaitPointerDoesNotStandOverAQuestion)
+{
+    QtDialogs dialogs;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    WhenInFront<QDialog>([](QDialog& box) {
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        box.accept();
+    });
+    dialogs.Say(u"Hello", Tone::Plain);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BusyCursor);
+    QApplication::restoreOverrideCursor();
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    QApplication::restoreOverrideCursor();
+}
+
+TEST(QtDialogsTest, FileDialogsHaveTheAskedKindsAndRememberTheirFolder)
+{
+    EXPECT_EQ(QtNameFilters(u"All Files (*.*)|*.*|Pages (*.htm, *.html)|*.html;*.htm|rest"),
+              (QStringList{"All Files (*)", "Pages (*.html *.htm)"}));
+
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QtDialogs dialogs;
+    const QTemporaryDir folder;
+    const Text path = folder.path().toStdU16String();
+    const FileRequest request{.Filter = u"All|*.*|Pages|*.html", .FilterIndex = 2, .InitDir = path};
+    WhenInFront<QFileDialog>([](QFileDialog& dialog) {
+        dialog.selectFile("page");
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(dialogs.SaveFile(request), path + u"/page.html");
+    WhenInFront<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().path(), folder.path());
+        dialog.reject();
+    });
+    EXPECT_EQ(dialogs.OpenFile({}), std::nullopt);
+}
+
+TEST(QtDialogsTest, ColoursArePackedWithBlueFirstAndACancelledFontStays)
+{
+    QtDialogs dialogs;
+    WhenInFront<QColorDialog>([](QColorDialog& dialog) {
+        dialog.setCurrentColor(QColor(1, 2, 3));
+        dialog.accept();
+    });
+    EXPECT_EQ(dialogs.PickColor(), 0x030201);
+    const FontChoice start{.Name = u"Any", .Size = u"7.5", .Bold = true};
+    WhenInFront<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(dialogs.PickFont(start), start);
+    WhenInFront<QFontDialog>([](QFontDialog& dialog) {
+        dialog.setCurrentFont(QFont("Sans", 12, QFont::Normal, true));
+        dialog.accept();
+    });
+    const FontChoice chosen = dialogs.PickFont(start);
+    EXPECT_EQ(chosen.Size, u"12");
+    EXPECT_TRUE(chosen.Italic && !chosen.Bold);
+}
+
+} // namespace
+} // namespace orvane::testing
