@@ -110,6 +110,7 @@ struct FinishedPayload
     bool NeedsFiles = false;
     bool ScriptedHelp = false;
     bool ReplaceInBody = false;
+    bool RunsToday = false; ///< the author wants the page script for today's browsers beside it
     bool operator==(const FinishedPayload&) const = default;
 };
 

@@ -1,5 +1,6 @@
 #include "delivery/code_panel.h"
 
+#include "insertion/page_script.h"
 #include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
 
@@ -8,23 +9,58 @@
 namespace orvane {
 
 CodePanel::CodePanel(Workbench& bench, const Words& words, const Text& code, DeliveryReport& report)
+    : m_bench(bench), m_report(report)
 {
     PageBuilder page(this);
-    MultiLineBox* box = page.CodeBox(words.Box, Join({words.Part, u" HTML code"}));
-    box->SetWords(code);
+    m_pageScript = new QWidget(this);
+    m_pageScript->hide();
+    page.Row({}, {m_pageScript});
+    m_box = page.CodeBox(words.Box, Join({words.Part, u" HTML code"}));
+    m_box->SetWords(code);
     if (!words.Example.empty())
         page.Note(words.Example, "lblBODYAttribExample");
     lblNeedHelp = new LinkLabel(words.HelpLabel, {}, this);
     connect(lblNeedHelp, &LinkLabel::Followed, this,
-            [this, &bench] { bench.Help.ShowTopic(m_helpTopic); });
-    QPushButton* copy = page.Button(words.CopyButton, u"C&opy");
-    connect(copy, &QPushButton::clicked, this, [&, box, code, part = words.Part] {
+            [this] { m_bench.Help.ShowTopic(m_helpTopic); });
+    m_copy = CopyButton(page, words.CopyButton, u"C&opy", m_box, code, words.Part);
+    page.Row({}, {lblNeedHelp, m_copy});
+}
+
+QPushButton* CodePanel::CopyButton(PageBuilder& page, ControlName name, TextView caption,
+                                   MultiLineBox* box, const Text& code, TextView part)
+{
+    QPushButton* copy = page.Button(name, caption);
+    connect(copy, &QPushButton::clicked, this, [this, box, code, part] {
         box->selectAll();
-        bench.Clipboard.Put(code);
+        m_bench.Clipboard.Put(code);
         box->setFocus();
-        report.CodeCopied(part);
+        m_report.CodeCopied(part);
     });
-    page.Row({}, {lblNeedHelp, copy});
+    return copy;
+}
+
+void CodePanel::AddPageScript()
+{
+    PageBuilder page(m_pageScript);
+    m_pageScript->layout()->setContentsMargins({});
+    page.Note(u"Add these lines first, in front of all special effects; once is enough for a Web "
+              u"page:");
+    MultiLineBox* box = page.CodeBox("txtPageScript", u"Page script HTML code");
+    box->SetWords(pageScriptLines);
+    box->setFixedHeight(box->fontMetrics().lineSpacing() * 5);
+    page.Buttons({CopyButton(page, "cmdCopyPageScript", u"Co&py", box, Text(pageScriptLines),
+                             u"page script")});
+}
+
+void CodePanel::ShowPageScript(bool isWanted)
+{
+    if (isWanted && m_pageScript->layout() == nullptr)
+        AddPageScript();
+    m_pageScript->setVisible(isWanted);
+    // The lines may be all that goes into the HEAD.
+    const bool isCodeShown = !isWanted || !m_box->Words().empty();
+    m_box->setVisible(isCodeShown);
+    m_copy->setVisible(isCodeShown);
 }
 
 void CodePanel::OfferHelp(const EditorHelp& help)

@@ -26,6 +26,7 @@ struct DeliveryFacts
     bool IsEditorKnown = false; ///< the page editor was chosen in this run or an earlier one
 };
 
+/// The page script comes as a part of the HEAD code, and as a file.
 DeliveryFacts FactsOf(const FinishedPayload& payload, bool isEditorKnown);
 
 /// A place in the delivery wizard.

@@ -7,8 +7,6 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include <utility>
-
 namespace orvane {
 
 FinishPanel::FinishPanel(Workbench& bench, const FinishedPayload& payload,
@@ -29,8 +27,7 @@ FinishPanel::FinishPanel(Workbench& bench, const FinishedPayload& payload,
                      u"If you wish to upload your special effect to the Web, you must "
                      u"also upload the following files:",
                      {});
-    for (const Text& name : FilesToUpload(payload))
-        lstFilesToUpload->addItem(ToQt(name));
+    ListFiles(FilesToUpload(payload));
     auto* link = new LinkLabel("lblClickHere", u"click here.");
     connect(link, &LinkLabel::Followed, this,
             [&bench] { bench.Help.ShowTopic(help_topics::transfer); });
@@ -46,9 +43,15 @@ void FinishPanel::Begin()
     lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
     cmdOpenPage->setVisible(!m_report.Page().empty());
     cmdOpenFolder->setVisible(!m_report.Folder().empty());
-    if (!std::exchange(m_filesListed, true))
-        for (const Text& name : ListedFiles(m_payload))
-            lstFilesToUpload->addItem(ToQt(name));
+    lstFilesToUpload->clear();
+    ListFiles(FilesToUpload(m_payload));
+    ListFiles(ListedFiles(m_payload));
+}
+
+void FinishPanel::ListFiles(const std::vector<Text>& names)
+{
+    for (const Text& name : names)
+        lstFilesToUpload->addItem(ToQt(name));
 }
 
 } // namespace orvane

@@ -23,9 +23,10 @@ public:
     void Begin();
 
 private:
+    void ListFiles(const std::vector<Text>& names);
+
     const FinishedPayload& m_payload;
     const DeliveryReport& m_report;
-    bool m_filesListed = false;
     QLabel* lblReport;
     QPushButton* cmdOpenPage;
     QPushButton* cmdOpenFolder;

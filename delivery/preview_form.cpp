@@ -1,5 +1,6 @@
 #include "delivery/preview_form.h"
 
+#include "core/todays_browsers.h"
 #include "delivery/editor_panel.h"
 #include "delivery/finish_panel.h"
 #include "delivery/ftp_panel.h"
@@ -25,6 +26,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
       m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
+    m_payload.RunsToday = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
     AddPanels();
     ConnectPanels();
     AddButtons(Buttons::Paged, "cmdHelp");
@@ -51,7 +53,9 @@ Panel* PreviewForm::Add(int index, Panel* panel)
 
 void PreviewForm::AddPanels()
 {
-    auto* preview = Add(0, new PreviewPanel(m_pane));
+    auto* preview = Add(0, new PreviewPanel(m_pane, {InTodaysBrowsers(m_payload.Effect.Kind),
+                                                     m_payload.RunsToday}));
+    connect(preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
     connect(preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
     m_editorPanel = Add(1, new EditorPanel);
     m_methodPanel = Add(2, new MethodPanel);
@@ -148,6 +152,7 @@ void PreviewForm::ChangePage(DeliveryStep step)
         m_insertPanel->Begin(Mode() == InsertMode::NewPage);
         break;
     case 5:
+        m_codePanels[0]->ShowPageScript(m_payload.RunsToday);
         cmdPrevious->setEnabled(true);
         break;
     case 8:
@@ -211,6 +216,13 @@ void PreviewForm::Preview(PreviewMode mode)
     }();
     if (wantsOptions)
         m_windows.ShowOptions();
+}
+
+void PreviewForm::ChooseRunsToday(bool isWanted)
+{
+    m_payload.RunsToday = isWanted;
+    m_bench.Settings.Put(u"Misc", u"RunsToday", isWanted ? u"1" : u"0");
+    Preview(PreviewMode::Inline);
 }
 
 void PreviewForm::BeginPreview()

@@ -67,6 +67,7 @@ private:
     void ShowFinish();
     void KeepEditor();
     void OfferEditorHelp();
+    void ChooseRunsToday(bool isWanted);
     void BeginPreview();
     void Preview(PreviewMode mode);
     void FinishCopying(const AfterCopying& after);

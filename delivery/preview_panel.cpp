@@ -2,16 +2,22 @@
 
 #include "windows/page_builder.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 
 namespace orvane {
 
-PreviewPanel::PreviewPanel(QWidget* pane) : m_pane(pane)
+PreviewPanel::PreviewPanel(QWidget* pane, TodaysBrowsers today) : m_pane(pane)
 {
     PageBuilder page(this);
     page.Fill(pane);
     if (pane != nullptr)
         pane->show();
+    page.Note(today.Sentence, "lblRunsToday")->setVisible(!today.Sentence.empty());
+    QCheckBox* runsToday = page.CheckBox("chkRunsToday", u"Make it run in today's browsers",
+                                         u"Lets your Web page use Orvane's page script, orvane.js");
+    runsToday->setChecked(today.RunsToday);
+    connect(runsToday, &QCheckBox::toggled, this, &PreviewPanel::RunsTodayChosen);
     QPushButton* preview = page.Button("cmdPreview1", u"Preview in &Browser");
     connect(preview, &QPushButton::clicked, this,
             [this] { emit PreviewWanted(PreviewMode::Browser1); });

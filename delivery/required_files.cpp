@@ -2,12 +2,15 @@
 
 #include "core/file_names.h"
 #include "insertion/new_page.h"
+#include "insertion/page_script.h"
 
 #include <algorithm>
 
 namespace orvane {
 
 namespace {
+
+constexpr TextView noRequiredFiles = u"No Required Files.";
 
 /// The files that an effect of this kind always needs, as the list shows them.
 struct FixedFiles
@@ -28,7 +31,7 @@ constexpr FixedFiles fixedFiles[] = {
     {EffectKind::MoreImageEffects, {u"Animate1.class", u"CoolTool3.class", u"invisi.gif"}},
     {EffectKind::ImageFade, {u"ImageFade2ech.class", u"Pixelator3.class"}},
     {EffectKind::PasswordServer, {u"password.cgi"}},
-    {EffectKind::PopupWindow, {u"No Required Files."}},
+    {EffectKind::PopupWindow, {noRequiredFiles}},
     {EffectKind::TextButton, {u"ButtonPLUS3.class"}},
     {EffectKind::FlyingText, {u"nameMotion.swf"}},
 };
@@ -125,6 +128,27 @@ Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing
     return {};
 }
 
+/// An earlier version of the page script is replaced and a later one stays; about any other file of
+/// its name the author is asked.
+Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing)
+{
+    if (!desk.Payload.RunsToday || folder == WithSeparator(desk.ProgramFolder))
+        return {};
+    const Text source = PathIn(desk.ProgramFolder, pageScriptFile);
+    const Text destination = Join({folder, pageScriptFile});
+    if (desk.Files.IsTaken(destination)) {
+        const auto own = desk.Files.Read(source);
+        const auto present = desk.Files.Read(destination);
+        const auto version = [](const Outcome<std::string>& file) {
+            return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
+        };
+        if (version(present).empty() ? !MayOverwrite(desk.Dialogs, pageScriptFile)
+                                     : IsLaterVersion(version(present), version(own)))
+            return {};
+    }
+    return CopyOrMiss(desk, folder, pageScriptFile, source, missing);
+}
+
 bool IsListed(const std::vector<Text>& names, TextView name)
 {
     return std::any_of(names.begin(), names.end(),
@@ -163,7 +187,11 @@ std::vector<Text> FilesToUpload(const FinishedPayload& payload)
     if (AreClassFilesChosen(payload.Effect.Kind))
         AddNonEmpty(list, payload.Effect.SupportFiles);
     if (!payload.NeedsFiles)
-        list.emplace_back(u"No Required Files.");
+        list.emplace_back(noRequiredFiles);
+    if (payload.RunsToday) {
+        std::erase(list, noRequiredFiles);
+        list.emplace_back(pageScriptFile);
+    }
     return list;
 }
 
@@ -187,9 +215,11 @@ Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
         if (const Fault* fault = FaultIn(done))
             return *fault;
     }
-    const Done done = CopyClassFiles(desk, folder, missing);
-    if (const Fault* fault = FaultIn(done))
-        return *fault;
+    for (const auto copy : {CopyClassFiles, CopyPageScript}) {
+        const Done done = copy(desk, folder, missing);
+        if (const Fault* fault = FaultIn(done))
+            return *fault;
+    }
     if (missing.empty())
         desk.Dialogs.Say(
             Join({u"All files have been copied to the ", folder,

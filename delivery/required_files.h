@@ -24,17 +24,18 @@ struct CopyDesk
     DeliveryReport* Report = nullptr; ///< where it is written down what was copied; may be null
 };
 
-/// What `lstFilesToUpload` holds from the start: the files that the effect always needs.
+/// What `lstFilesToUpload` holds from the start: the files that the effect always needs, and
+/// the page script where the author wants it.
 std::vector<Text> FilesToUpload(const FinishedPayload& payload);
 
 /// What the last page adds behind them: the author's own files, none for an effect without files.
 std::vector<Text> ListedFiles(const FinishedPayload& payload);
 
-/// Copies the author's files and the class files to the page's folder, asks before it overwrites
-/// one of the author's, and says at the end whether all is there; the window then goes into
-/// missing-files mode if a name is missing. Expects the folder with its final separator, or the
-/// empty text for the current folder. Stops without that word on a fault that is no matter of one
-/// file, which the caller shows.
+/// Copies the author's files, the class files and a wanted page script to the page's folder, asks
+/// before it overwrites one of the author's, and says at the end whether all is there; the window
+/// then goes into missing-files mode if a name is missing. Expects the folder with its final
+/// separator, or the empty text for the current folder. Stops without that word on a fault that is
+/// no matter of one file, which the caller shows.
 [[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder);
 
 /// Copies the author's files to the program's folder, where the preview page lies, and says so when

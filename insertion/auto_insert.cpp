@@ -2,7 +2,7 @@
 
 #include "core/file_names.h"
 #include "disk/program_folder.h"
-#include "insertion/page_edit.h"
+#include "insertion/page_script.h"
 
 #include <filesystem>
 #include <tuple>
@@ -34,6 +34,14 @@ constexpr TextView changedWords =
     u"application saved it, without the special effect."
     u"\r\n\r\n"
     u"Please try to AutoInsert the special effect again.";
+
+constexpr TextView noHeadWords =
+    u"The special effect is in your Web page, but the page script is not: your Web page has no HEAD "
+    u"tag."
+    u"\r\n\r\n"
+    u"To make the special effect run in today's browsers, insert these lines manually at the top of "
+    u"your Web page, behind the <HTML> tag and in front of all special effects:"
+    u"\r\n\r\n";
 
 /// The words for a fault that ends the command.
 TextView TellingWords(Fault fault)
@@ -113,20 +121,24 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
         return Tell(dialogs, *fault);
     KeepFirstBackup(files, kept, page, bytes);
 
-    const PageEdit edit = EditPage(bytes, payload, [&] { return dialogs.Ask(replaceQuestion); });
+    const PageEdit edit =
+        EditPageAndScript(bytes, payload, [&] { return dialogs.Ask(replaceQuestion); });
     if (const Fault* fault = std::get_if<Fault>(&edit))
         return Tell(dialogs, *fault);
     if (std::holds_alternative<ManualFallback>(edit)) {
         dialogs.Say(manualWords);
         return AutoInsertion::Manual;
     }
-    const auto written = files.Exchange(page, bytes, std::get<EditedPage>(edit).Bytes);
+    const std::string& edited = std::get<EditedPage>(edit).Bytes;
+    const auto written = files.Exchange(page, bytes, edited);
     if (const Fault* fault = FaultIn(written))
         return Tell(dialogs, *fault);
     if (!ValueIn(written)) {
         dialogs.Say(changedWords);
         return AutoInsertion::NothingDone;
     }
+    if (payload.RunsToday && !HasPageScript(edited))
+        dialogs.Say(Join({noHeadWords, pageScriptLines}));
     return AutoInsertion::Inserted;
 }
 

@@ -36,10 +36,11 @@ Text PagePath(TextView txtFileName, TextView currentFolder);
 Text KeptPagePath(const KeptPages& kept, TextView page);
 
 /// Edits the author's page: backs it up, puts the effect in, writes it, and tells the author when
-/// that did not work. The page holds its old bytes or the new ones; the backup, its old bytes. A
-/// page that another program saves before it is written stays as that program left it. The backup
-/// that is the day's first of its page is kept a second time and never written over; when that
-/// fails, the work goes on and nothing is said. Expects a full path.
+/// that did not work, or that the page has no place for the page script. The page holds its old
+/// bytes or the new ones; the backup, its old bytes. A page that another program saves before it is
+/// written stays as that program left it. The backup that is the day's first of its page is kept a
+/// second time and never written over; when that fails, the work goes on and nothing is said.
+/// Expects a full path.
 AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
                          const FinishedPayload& payload, const KeptPages& kept);
 

@@ -2,6 +2,7 @@
 
 #include "core/template.h"
 #include "insertion/page_encoding.h"
+#include "insertion/page_script.h"
 
 namespace orvane {
 
@@ -28,7 +29,8 @@ Text NewPageText(const FinishedPayload& payload)
 
 std::string NewPageBytes(const FinishedPayload& payload)
 {
-    return EncodeForPage(NewPageText(payload), PageEncoding::Windows1252);
+    const std::string page = EncodeForPage(NewPageText(payload), PageEncoding::Windows1252);
+    return payload.RunsToday ? WithPageScript(page) : page;
 }
 
 Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payload)

@@ -11,7 +11,7 @@ namespace orvane {
 /// The whole text of a new page around the effect.
 Text NewPageText(const FinishedPayload& payload);
 
-/// The bytes of that page.
+/// The bytes of that page, with the page script's lines where the payload wants them.
 std::string NewPageBytes(const FinishedPayload& payload);
 
 /// Writes a new page around the effect; on failure the file keeps what it had.

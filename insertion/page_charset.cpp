@@ -1,6 +1,6 @@
 #include "insertion/page_charset.h"
 
-#include "core/text.h"
+#include "insertion/page_markup.h"
 
 #include <algorithm>
 #include <optional>
@@ -21,12 +21,6 @@ bool IsBlank(char16_t c)
 bool IsLetter(char16_t c)
 {
     return c >= u'a' && c <= u'z';
-}
-
-TextView WithoutBlanksInFront(TextView text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    return text;
 }
 
 /// The charset of a name in lower case; nothing for an empty one. A name that means nothing to a
@@ -96,7 +90,7 @@ public:
                     return charset;
             } else if (m_rest.front() == u'<' && name < m_rest.size() && IsLetter(m_rest[name])) {
                 SkipTo(u"\t\n\f\r >");
-                while (NextAttribute()) {
+                while (NextAttribute(m_rest)) {
                 }
             } else if (m_rest.starts_with(u"<!") || m_rest.starts_with(u"</") ||
                        m_rest.starts_with(u"<?")) {
@@ -109,12 +103,6 @@ public:
     }
 
 private:
-    struct Attribute
-    {
-        TextView Name;
-        TextView Value;
-    };
-
     bool IsNameEnd(std::size_t at) const
     {
         return at < m_rest.size() && (IsBlank(m_rest[at]) || m_rest[at] == u'/');
@@ -133,36 +121,10 @@ private:
         m_rest.remove_prefix(place == TextView::npos ? m_rest.size() : place + end.size());
     }
 
-    /// The tag's next attribute; nothing at its end. One that is cut off by the end of what is
-    /// looked at has no value.
-    std::optional<Attribute> NextAttribute()
-    {
-        m_rest.remove_prefix(std::min(m_rest.find_first_not_of(u"\t\n\f\r /"), m_rest.size()));
-        if (m_rest.empty() || m_rest.front() == u'>')
-            return std::nullopt;
-        // An equals sign at its start belongs to the name.
-        const std::size_t end = m_rest.find_first_of(u"\t\n\f\r />=", 1);
-        Attribute attribute{m_rest.substr(0, end), {}};
-        m_rest.remove_prefix(attribute.Name.size());
-        const TextView behind = WithoutBlanksInFront(m_rest);
-        if (!behind.starts_with(u'='))
-            return attribute;
-        m_rest = WithoutBlanksInFront(behind.substr(1));
-        if (!m_rest.starts_with(u'"') && !m_rest.starts_with(u'\'')) {
-            attribute.Value = SkipTo(u"\t\n\f\r >");
-            return attribute;
-        }
-        const std::size_t close = m_rest.find(m_rest.front(), 1);
-        if (close != TextView::npos)
-            attribute.Value = m_rest.substr(1, close - 1);
-        m_rest.remove_prefix(close == TextView::npos ? m_rest.size() : close + 1);
-        return attribute;
-    }
-
     std::optional<DeclaredCharset> ReadMeta()
     {
         std::optional<TextView> httpEquiv, content, charset;
-        while (const auto attribute = NextAttribute()) {
+        while (const auto attribute = NextAttribute(m_rest)) {
             for (auto& [name, value] : {std::pair(TextView(u"http-equiv"), &httpEquiv),
                                         std::pair(TextView(u"content"), &content),
                                         std::pair(TextView(u"charset"), &charset)})

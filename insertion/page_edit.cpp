@@ -39,8 +39,8 @@ EffectPayload Encoded(const EffectPayload& effect, PageEncoding encoding)
 /// between.
 struct Inside
 {
-    std::size_t G;
-    std::size_t C;
+    std::size_t TagEnd;   ///< of the ">" of its open tag
+    std::size_t CloseTag; ///< of the "<" of its close tag
     TextView Inner;
 };
 
@@ -48,13 +48,13 @@ struct Inside
 /// open tag without ">" ends at 0, and all goes on from there.
 Outcome<Inside> InsideOf(TextView page, std::size_t tag, TextView closeTag)
 {
-    const std::size_t G = Find(page, u">", tag);
-    const std::size_t C = FindIgnoringCase(page, closeTag, tag);
-    if (!Fits(G) || !Fits(C) || !Fits(G + 1))
+    const std::size_t tagEnd = Find(page, u">", tag);
+    const std::size_t closing = FindIgnoringCase(page, closeTag, tag);
+    if (!Fits(tagEnd) || !Fits(closing) || !Fits(tagEnd + 1))
         return Fault::Overflow;
-    if (C < G + 1)
+    if (closing < tagEnd + 1)
         return Fault::InvalidProcedureCall;
-    return Inside{G, C, Mid(page, G + 1, C - (G + 1))};
+    return Inside{tagEnd, closing, Mid(page, tagEnd + 1, closing - (tagEnd + 1))};
 }
 
 /// One page on its way through the three kinds of insertion.
@@ -74,17 +74,17 @@ public:
 
     Stop InsertIntoHead(TextView HEADHTML)
     {
-        const std::size_t H = FindIgnoringCase(m_page, u"<head");
-        if (!Fits(H))
+        const std::size_t headTag = FindIgnoringCase(m_page, u"<head");
+        if (!Fits(headTag))
             return Fault::Overflow;
-        if (H == 0)
+        if (headTag == 0)
             return ManualFallback();
-        const auto head = InsideOf(m_page, H, u"</head");
+        const auto head = InsideOf(m_page, headTag, u"</head");
         if (const Fault* fault = FaultIn(head))
             return *fault;
-        const auto& [G, C, Inner] = ValueIn(head);
-        if (!FindEffectInExistingCode(Inner, m_begin, m_end)) {
-            PutBehindTag(G, HEADHTML, G + 1);
+        const auto& [tagEnd, closeTag, inner] = ValueIn(head);
+        if (!FindEffectInExistingCode(inner, m_begin, m_end)) {
+            PutBehindTag(tagEnd, HEADHTML, tagEnd + 1);
             return {};
         }
         if (!m_ask())
@@ -95,17 +95,17 @@ public:
 
     Stop InsertIntoBody(TextView BODYHTML)
     {
-        const std::size_t B = FindIgnoringCase(m_page, u"<body");
-        if (!Fits(B))
+        const std::size_t bodyTag = FindIgnoringCase(m_page, u"<body");
+        if (!Fits(bodyTag))
             return Fault::Overflow;
-        if (B == 0)
+        if (bodyTag == 0)
             return ManualFallback();
-        const auto body = InsideOf(m_page, B, u"</body");
+        const auto body = InsideOf(m_page, bodyTag, u"</body");
         if (const Fault* fault = FaultIn(body))
             return *fault;
-        const auto& [G, C, Inner] = ValueIn(body);
-        if (!m_replaceInBody || !FindEffectInExistingCode(Inner, m_begin, m_end)) {
-            PutBehindTag(G, BODYHTML, G + 1);
+        const auto& [tagEnd, closeTag, inner] = ValueIn(body);
+        if (!m_replaceInBody || !FindEffectInExistingCode(inner, m_begin, m_end)) {
+            PutBehindTag(tagEnd, BODYHTML, tagEnd + 1);
             return {};
         }
         if (!m_isConfirmed && !m_ask())
@@ -115,44 +115,44 @@ public:
 
     Stop InsertAttribute(TextView word, TextView Func, TextView Args)
     {
-        const std::size_t B = FindIgnoringCase(m_page, u"<body");
-        if (B == 0)
+        const std::size_t bodyTag = FindIgnoringCase(m_page, u"<body");
+        if (bodyTag == 0)
             return {};
-        const std::size_t G = Find(m_page, u">", B);
-        if (!Fits(B) || !Fits(G))
+        const std::size_t tagEnd = Find(m_page, u">", bodyTag);
+        if (!Fits(bodyTag) || !Fits(tagEnd))
             return Fault::Overflow;
-        if (G < B)
+        if (tagEnd < bodyTag)
             return Fault::InvalidProcedureCall;
-        const TextView tag = Mid(m_page, B, G - B);
+        const TextView tag = Mid(m_page, bodyTag, tagEnd - bodyTag);
         if (!FindEffectInExistingCode(tag, Func, {})) {
-            m_page =
-                Join({Left(m_page, G - 1), u" ", word, u"=\"", Func, Args, u"\" ", Mid(m_page, G)});
+            m_page = Join({Left(m_page, tagEnd - 1), u" ", word, u"=\"", Func, Args, u"\" ",
+                           Mid(m_page, tagEnd)});
             return {};
         }
         // A No leaves the attribute as it is; only the HEAD's Yes saves the question.
         if (!m_isConfirmed && !m_ask())
             return {};
-        const auto New = ReplaceEffectInExistingCode(tag, Join({Func, Args}), Func, u")");
-        if (const Fault* fault = FaultIn(New))
+        const auto replaced = ReplaceEffectInExistingCode(tag, Join({Func, Args}), Func, u")");
+        if (const Fault* fault = FaultIn(replaced))
             return *fault;
-        m_page = Join({Left(m_page, B - 1), ValueIn(New), Mid(m_page, G)});
+        m_page = Join({Left(m_page, bodyTag - 1), ValueIn(replaced), Mid(m_page, tagEnd)});
         return {};
     }
 
 private:
     /// Stays as it is: the character behind the tag is kept in front of the inserted text and comes
     /// again behind it, so that a tag with CR LF behind it gets a lone CR.
-    void PutBehindTag(std::size_t G, TextView text, std::size_t goOnFrom)
+    void PutBehindTag(std::size_t tagEnd, TextView text, std::size_t goOnFrom)
     {
-        m_page = Join({Left(m_page, G + 1), lineEnd, text, lineEnd, Mid(m_page, goOnFrom)});
+        m_page = Join({Left(m_page, tagEnd + 1), lineEnd, text, lineEnd, Mid(m_page, goOnFrom)});
     }
 
     Stop ReplaceInside(const Inside& inside, TextView code)
     {
-        const auto New = ReplaceEffectInExistingCode(inside.Inner, code, m_begin, m_end);
-        if (const Fault* fault = FaultIn(New))
+        const auto replaced = ReplaceEffectInExistingCode(inside.Inner, code, m_begin, m_end);
+        if (const Fault* fault = FaultIn(replaced))
             return *fault;
-        PutBehindTag(inside.G, ValueIn(New), inside.C);
+        PutBehindTag(inside.TagEnd, ValueIn(replaced), inside.CloseTag);
         return {};
     }
 
@@ -193,17 +193,17 @@ bool FindEffectInExistingCode(TextView code, TextView begin, TextView end)
 Outcome<Text> ReplaceEffectInExistingCode(TextView code, TextView newText, TextView begin,
                                           TextView end)
 {
-    const std::size_t S = FindIgnoringCase(code, begin);
-    if (!Fits(S))
+    const std::size_t start = FindIgnoringCase(code, begin);
+    if (!Fits(start))
         return Fault::Overflow;
-    const std::size_t place = FindIgnoringCase(code, end, S);
+    const std::size_t place = FindIgnoringCase(code, end, start);
     if (place == 0)
         return Fault::InvalidProcedureCall;
-    const std::size_t E = place + end.size();
-    if (!Fits(E))
+    const std::size_t behind = place + end.size();
+    if (!Fits(behind))
         return Fault::Overflow;
-    const TextView Old = Mid(code, S, E - S);
-    return ReplaceAll(code, Old, newText);
+    const TextView old = Mid(code, start, behind - start);
+    return ReplaceAll(code, old, newText);
 }
 
 } // namespace orvane

@@ -63,13 +63,14 @@ void AddSentence(Text& note, TextView words)
 
 } // namespace
 
-Text PreviewNote(const EffectPayload& effect, const FileStore& files, TextView folder)
+Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextView folder)
 {
+    const EffectPayload& effect = payload.Effect;
     Text note;
     for (const auto& [mark, words] : markNotes)
-        if (FindIgnoringCase(effect.BODYHTML, mark) != 0)
+        if (!payload.RunsToday && FindIgnoringCase(effect.BODYHTML, mark) != 0)
             AddSentence(note, words);
-    if (const KindNote* kind = NoteOf(effect.Kind))
+    if (const KindNote* kind = NoteOf(effect.Kind); kind != nullptr && !payload.RunsToday)
         AddSentence(note, kind->Words);
     if (const Text missing = MissingNames(effect, files, folder); !missing.empty())
         AddSentence(note, Join({u"Not found in ", folder, u": ", missing, u"."}));

@@ -3,6 +3,7 @@
 #include "core/file_names.h"
 #include "core/template.h"
 #include "insertion/page_encoding.h"
+#include "insertion/page_script.h"
 #include "preview/preview_note.h"
 
 #include <utility>
@@ -45,11 +46,14 @@ Text BrowserPreviewBanner(EffectKind kind, PreviewMode mode)
 }
 
 /// The code with a word to the author where a plain preview cannot show the effect.
-Text PreviewBodyPart(const EffectPayload& effect, PreviewMode mode)
+Text PreviewBodyPart(const FinishedPayload& payload, PreviewMode mode)
 {
+    const EffectPayload& effect = payload.Effect;
     const Text& body = effect.BODYHTML;
     switch (effect.Kind) {
     case EffectKind::StatusBarTicker:
+        if (payload.RunsToday)
+            return body;
         return body +
                u"\r\n<br><br><br>This special effect cannot be previewed in Orvane's built-in "
                u"Previewer.";
@@ -167,12 +171,14 @@ Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mod
 {
     const Text path = PreviewPagePath(bench.Core);
     std::string bytes = EncodeForPage(PreviewPageText(payload, mode), PageEncoding::Windows1252);
+    if (payload.RunsToday)
+        bytes = WithPageScript(bytes);
     if (mode == PreviewMode::Inline)
         return bench.Pane.Navigate(
             {.Path = path,
              .Bytes = std::move(bytes),
-             .Note = PreviewNote(payload.Effect, bench.Files, bench.Core.ProgramFolder),
-             .RunsInStatus = RunsInStatus(payload.Effect.Kind)});
+             .Note = PreviewNote(payload, bench.Files, bench.Core.ProgramFolder),
+             .RunsInStatus = !payload.RunsToday && RunsInStatus(payload.Effect.Kind)});
     bench.Pane.LeaveFile();
     return bench.Files.Replace(path, bytes);
 }
@@ -189,7 +195,7 @@ Text PreviewPageText(const FinishedPayload& payload, PreviewMode mode)
     return Fill(previewPage, {{u"PreviewHeadPart", PreviewHeadPart(effect, mode)},
                               {u"BODYAttribute", payload.BODYAttribute},
                               {u"BrowserPreviewBanner", bannerText},
-                              {u"PreviewBodyPart", PreviewBodyPart(effect, mode)}});
+                              {u"PreviewBodyPart", PreviewBodyPart(payload, mode)}});
 }
 
 Text PreviewPagePath(const OrvaneCore& core)

@@ -8,13 +8,20 @@
 #include "effects/applet/image_fade_form.h"
 #include "effects/applet/more_image_effects_form.h"
 #include "effects/applet/typewriter_text_form.h"
+#include "effects/page/all_in_one_button_form.h"
+#include "effects/page/anti_spam_link_form.h"
 #include "effects/page/cursor_trail_form.h"
 #include "effects/page/dynamic_button_form.h"
+#include "effects/page/password_protection_form.h"
 #include "effects/page/popup_alert_form.h"
 #include "effects/page/popup_window_form.h"
+#include "effects/page/pulldown_menu_form.h"
+#include "effects/page/search_box_form.h"
 #include "effects/page/slideshow_form.h"
 #include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
+#include "effects/text/tooltips_form.h"
+#include "effects/text/vertical_scroller_form.h"
 #include "program/about_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
@@ -46,6 +53,10 @@ WizardMaker MakerOf(EffectKind kind)
         return &Make<DigitalClockForm>;
     case EffectKind::StatusBarTicker:
         return &Make<StatusBarTickerForm>;
+    case EffectKind::Tooltips:
+        return &Make<TooltipsForm>;
+    case EffectKind::VerticalScroller:
+        return &Make<VerticalScrollerForm>;
     case EffectKind::TypewriterText:
         return &Make<TypewriterTextForm>;
     case EffectKind::ImageEffects:
@@ -64,6 +75,20 @@ WizardMaker MakerOf(EffectKind kind)
         return &Make<PopupAlertForm>;
     case EffectKind::PopupWindow:
         return &Make<PopupWindowForm>;
+    case EffectKind::PulldownMenu:
+        return &Make<PulldownMenuForm>;
+    case EffectKind::AllInOneButton:
+        return &Make<AllInOneButtonForm>;
+    case EffectKind::AntiSpamLink:
+        return &Make<AntiSpamLinkForm>;
+    case EffectKind::SearchBox:
+        return &Make<SearchBoxForm>;
+    case EffectKind::Translator:
+        return [](Workbench& bench, QWidget* parent) -> std::unique_ptr<WizardForm> {
+            return std::make_unique<SearchBoxForm>(bench, parent, TranslateMode);
+        };
+    case EffectKind::PasswordScript:
+        return &Make<PasswordProtectionForm>;
     default:
         return nullptr;
     }

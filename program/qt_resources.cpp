@@ -45,7 +45,8 @@ void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder
     };
     const Place places[] = {{":/help", "*.hlp", Text(programFolder)},
                             {":/help", "*.svg", PathIn(programFolder, u"help")},
-                            {":/applets", "*", Text(programFolder)}};
+                            {":/applets", "*", Text(programFolder)},
+                            {":/runtime", "*", Text(programFolder)}};
     for (const Place& place : places) {
         const Done installed = InstallFolder(files, QLatin1String(place.Resources),
                                              QLatin1String(place.Masks), place.Folder);

@@ -11,7 +11,7 @@ namespace orvane {
 /// What a dialog offers that asks for an image or for a Web page.
 inline constexpr TextView imageFilter =
     u"All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg";
-inline constexpr TextView webPageFilter =
+inline constexpr TextView linkedPageFilter =
     u"All Files (*.*)|*.*|HTML Files (*.htm, *.html)|*.htm;*.html";
 
 /// The dialog in which the author picks an image.
@@ -23,7 +23,7 @@ inline FileRequest ImageRequest()
 /// The dialog in which the author picks a Web page to link to.
 inline FileRequest WebPageRequest()
 {
-    return {.Title = u"Browse...", .Filter = Text(webPageFilter), .FilterIndex = 2};
+    return {.Title = u"Browse...", .Filter = Text(linkedPageFilter), .FilterIndex = 2};
 }
 
 /// The size of a picture in pixels.

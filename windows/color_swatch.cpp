@@ -33,7 +33,8 @@ ColorSwatch::ColorSwatch(TextView caption, ColorNotation notation, Dialogs& dial
 void ColorSwatch::SetValue(TextView value)
 {
     m_value = value;
-    Show(PackedColor(value));
+    const bool isDefault = m_notation == ColorNotation::RgbFunction && value.starts_with(u'#');
+    Show(isDefault ? std::nullopt : PackedColor(value));
 }
 
 void ColorSwatch::Show(std::optional<std::int32_t> color)

@@ -23,7 +23,8 @@ public:
     /// The colour as the page writes it; empty when none was picked.
     const Text& Value() const { return m_value; }
 
-    /// Takes a colour and shows it, or the caption for an empty text.
+    /// Takes a colour and shows it. The caption stays for an empty text, and for a default that the
+    /// author did not pick, which is "#000000" in a field that writes "rgb(0,0,0)".
     void SetValue(TextView value);
 
     /// Takes a colour and goes on showing what was there.

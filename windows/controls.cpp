@@ -14,6 +14,8 @@
 #include <QSplitter>
 #include <QStackedWidget>
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
@@ -134,6 +136,17 @@ void SetReadingOrder(QWidget& window)
     Collect(&window, controls);
     for (std::size_t i = 1; i < controls.size(); ++i)
         QWidget::setTabOrder(controls[i - 1], controls[i]);
+}
+
+QWidget* FirstControl(QWidget& page)
+{
+    std::vector<QWidget*> controls;
+    Collect(&page, controls);
+    const auto stops = [&](const QWidget* control) {
+        return control->isEnabled() && control->isVisibleTo(&page);
+    };
+    const auto first = std::ranges::find_if(controls, stops);
+    return first == controls.end() ? nullptr : *first;
 }
 
 QLabel* LabelOf(QWidget* control)

@@ -40,6 +40,9 @@ void Report(QWidget& window, Dialogs& dialogs, const Complaint& complaint);
 /// Lets Tab walk the window's controls in reading order, which is the order of its layouts.
 void SetReadingOrder(QWidget& window);
 
+/// The first control of a page in reading order that Tab stops at; null when there is none.
+QWidget* FirstControl(QWidget& page);
+
 /// The label of the form row in which the control stands; null for a row without one.
 QLabel* LabelOf(QWidget* control);
 

@@ -64,7 +64,7 @@ protected:
     void AddButtons(Buttons buttons, ControlName helpName = "cmdClickHereForHelp")
     {
         PagedForm::AddButtons(buttons, helpName);
-        SetParameters({});
+        SetParameters(Fresh());
         GoTo(0);
         const bool isFresh = !m_bench.Core.EditMode;
         if constexpr (requires(Effect & effect, const PastedTag& tag) { ReadTag(effect, tag); })
@@ -72,6 +72,9 @@ protected:
                 EditApplet();
         BeginDrafts(isFresh);
     }
+
+    /// What a fresh window shows; where the struct's defaults are not all that is known.
+    virtual Effect Fresh() const { return {}; }
 
     /// Shows what depends on the values of the fields; called whenever they were set.
     virtual void UpdateForm() {}

@@ -29,9 +29,9 @@ void PagedForm::GoTo(int page)
                                               : QStringLiteral("&Next >>"));
     }
     ShowPanel(page);
-    if (words.Focus.empty())
-        return;
-    if (auto* control = findChild<QWidget*>(ToQt(words.Focus)))
+    auto* control =
+        words.Focus.empty() ? FirstControl(*PanelAt(page)) : findChild<QWidget*>(ToQt(words.Focus));
+    if (control != nullptr)
         control->setFocus(Qt::OtherFocusReason);
 }
 

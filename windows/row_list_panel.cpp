@@ -57,6 +57,8 @@ std::vector<Text> RowListPanel::Column(ControlName name) const
 
 void RowListPanel::SetColumn(ControlName name, const std::vector<Text>& texts)
 {
+    if (Column(name) == texts)
+        return;
     const std::size_t column = IndexOf(name);
     m_list.Selected.reset();
     if (m_list.Rows.size() < texts.size())

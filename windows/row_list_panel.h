@@ -42,7 +42,8 @@ public:
 
     const RowList& Rows() const { return m_list; }
 
-    /// One list's texts, and other texts for it; rows come and go with the longest list.
+    /// One list's texts, and other texts for it; rows come and go with the longest list. The
+    /// selection goes when the texts are others.
     std::vector<Text> Column(ControlName name) const;
     void SetColumn(ControlName name, const std::vector<Text>& texts);
     bool HasColumn(ControlName name) const { return IndexOf(name) < m_columns.size(); }

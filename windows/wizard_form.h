@@ -28,8 +28,9 @@ public:
     void DropDraft();
 
 protected:
-    /// Hands the payload over to the delivery wizard.
-    void Deliver(EffectPayload payload);
+    /// Hands the payload over to the delivery wizard. A window that has more to do then does it
+    /// first, and stays open when that fails.
+    virtual void Deliver(EffectPayload payload);
 
     /// Makes the window that of another effect with a row of its own: title, help topic, draft.
     void SetEffect(EffectKind kind);

@@ -125,6 +125,11 @@ int WizardFrame::PanelCount() const
     return m_pages->count();
 }
 
+QWidget* WizardFrame::PanelAt(int index) const
+{
+    return m_pages->widget(index);
+}
+
 void WizardFrame::SetHeading(TextView heading, TextView subHeading)
 {
     lblHeading->setText(ToQt(heading));

@@ -38,6 +38,7 @@ protected:
     void ShowPanel(int index);
     int CurrentPanel() const;
     int PanelCount() const;
+    QWidget* PanelAt(int index) const;
     void SetHeading(TextView heading, TextView subHeading);
     void SetHelpTopic(int topic) { m_helpTopic = topic; }
 

@@ -63,7 +63,7 @@ void MoreImageEffectsForm::AddBehavior(PageBuilder page)
 void MoreImageEffectsForm::ChooseEffect()
 {
     MoreImageEffects effects = Parameters();
-    effects.LoopCount = u"1";
+    effects.LoopCount = Text(LoopCounts[0]);
     m_shownEffect.clear();
     SetParameters(effects);
     ImageFile->setFocus(Qt::OtherFocusReason);

@@ -8,20 +8,17 @@ final class AllApplets {
         Cases.expected = Paths.get(arguments[0]);
         Cases.folder = Files.createTempDirectory("applets");
         Cases.writeImages();
-        int passed = 0;
-        int failed = 0;
-        for (String name : new String[] {"AnimationCases", "TypewriterCases", "PictureCases"})
-            for (Method method : Class.forName(name).getDeclaredMethods())
-                if (method.getModifiers() == Modifier.STATIC && method.getParameterCount() == 0) {
-                    boolean passes = passes(method);
-                    passed += passes ? 1 : 0;
-                    failed += passes ? 0 : 1;
-                }
+        int[] counts = new int[2];
+        for (Class<?> cases :
+             new Class<?>[] {AnimationCases.class, TypewriterCases.class, PictureCases.class})
+            for (Method method : cases.getDeclaredMethods())
+                if (method.getModifiers() == Modifier.STATIC && method.getParameterCount() == 0)
+                    counts[passes(method) ? 0 : 1]++;
         for (File file : Cases.folder.toFile().listFiles())
             Files.delete(file.toPath());
         Files.delete(Cases.folder);
-        System.out.println(passed + " passed, " + failed + " failed");
-        System.exit(failed == 0 && passed > 0 ? 0 : 1);
+        System.out.println(counts[0] + " passed, " + counts[1] + " failed");
+        System.exit(counts[1] == 0 && counts[0] > 0 ? 0 : 1);
     }
 
     private static boolean passes(Method method) throws IllegalAccessException {

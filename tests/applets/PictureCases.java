@@ -17,10 +17,8 @@ final class PictureCases extends Cases {
         BufferedImage first = host.at(0);
         samePicture("a quarter about each axis", first, host.at(900));
         String still = page.replaceAll("(ROT.) VALUE=\"25\"", "$1 VALUE=\"0\"");
-        for (int time : new int[] {900, 1800, 2700})
-            samePicture("round", first, host(with(still, "ROTY", "25")).at(time));
-        for (int time : new int[] {900, 2700})
-            samePicture("over", first, host(with(still, "ROTX", "25")).at(time));
+        samePicture("round", first, host(with(still, "ROTY", "25")).at(2700));
+        samePicture("over", first, host(with(still, "ROTX", "25")).at(900));
         // After 30 degrees the middle of the near face has gone 19 pixels.
         colors(host(with(still, "ROTX", "25")), "300 145,117 ff0000", "300 145,121 0000ff");
         colors(host(with(still, "ROTY", "25")), "300 133,95 00ff00", "300 129,95 ff0000");
@@ -41,7 +39,6 @@ final class PictureCases extends Cases {
                "1250 7,188 000010");
         host.click(5);
         same("link", "[_top http://www.example.com/lake.html]", host.opened.toString());
-        colors(host(page("image_effects_lake.html").replace("190", "90")), "0 7,10 000015");
     }
 
     static void ripplesThePond() throws Exception {
@@ -50,7 +47,6 @@ final class PictureCases extends Cases {
         String page = page("image_effects_ripple.html");
         colors(host(page), "49 204,49 00c831", "600 204,49 00d031", "1250 204,49 00c831",
                "300 194,49 00c531", "600 159,49 009f31");
-        colors(host(page.replace("WIDTH=\"320\"", "WIDTH=\"160\"")), "0 79,49 009f31");
         Host host = host(without(page, "FRAMES"));
         samePicture("15 pictures of their own", host.at(0), host.at(750));
     }

@@ -1,6 +1,5 @@
 #include "core/orvane_core.h"
 
-#include "core/fault.h"
 #include "tests/support/doubles.h"
 
 #include <gtest/gtest.h>
@@ -50,22 +49,6 @@ TEST(OrvaneCoreTest, CancelledBrowseStoresNothing)
     desk.Dialogs.AnswerOpenFile(u"/bin/browser");
     BrowseDialog(desk.Core, desk.Dialogs, {});
     EXPECT_EQ(desk.Core.BrowserPathChoice, u"/bin/browser");
-}
-
-TEST(FaultTest, ErrorsOfTheSystemHaveTheirNumbers)
-{
-    const auto number = [](std::errc code) {
-        return static_cast<int>(FaultOf(std::make_error_code(code)));
-    };
-    EXPECT_EQ(number(std::errc::no_such_file_or_directory), 53);
-    EXPECT_EQ(number(std::errc::not_a_directory), 76);
-    EXPECT_EQ(number(std::errc::permission_denied), 70);
-    EXPECT_EQ(number(std::errc::read_only_file_system), 70);
-    EXPECT_EQ(number(std::errc::text_file_busy), 70);
-    EXPECT_EQ(number(std::errc::is_a_directory), 75);
-    EXPECT_EQ(number(std::errc::no_space_on_device), 61);
-    EXPECT_EQ(number(std::errc::too_many_files_open), 67);
-    EXPECT_EQ(number(std::errc::io_error), 57);
 }
 
 } // namespace

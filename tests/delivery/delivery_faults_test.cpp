@@ -3,10 +3,9 @@
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
 #include "insertion/page_edit.h"
+#include "insertion/page_script.h"
 #include "tests/support/doubles.h"
 #include "tests/support/fault_trials.h"
-
-#include <utility>
 
 namespace orvane::testing {
 namespace {
@@ -18,6 +17,7 @@ const std::string oldPage =
 const std::string picture(400, 'p');
 const std::string secondPicture(500, 's');
 const std::string appletClass(300, 'c');
+const std::string pageScript = "/*! Orvane page script 1.0.0 */";
 const std::string oldPicture = "what the author had under that name";
 
 /// An effect that brings code for all places of a page, two pictures and a class file.
@@ -68,21 +68,19 @@ struct Delivery
 
 const char* const pageName = "page/index.html";
 
-/// An insertion without the copying behind it, which is the same for every page.
-void InsertAlone(Delivery& delivery)
-{
-    const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
-    delivery.Heard.IsComplete =
-        AutoInsert(delivery.Files, delivery.Author, delivery.Folder.TextAt(pageName),
-                   delivery.Payload, kept) == AutoInsertion::Inserted;
-}
-
 void InsertIntoPage(Delivery& delivery)
 {
-    InsertAlone(delivery);
-    if (std::exchange(delivery.Heard.IsComplete, false))
-        delivery.End(
-            CopyRequiredFiles(delivery.Desk(), FolderOf(delivery.Folder.TextAt(pageName))));
+    const Text page = delivery.Folder.TextAt(pageName);
+    const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    if (AutoInsert(delivery.Files, delivery.Author, page, delivery.Payload, kept) ==
+        AutoInsertion::Inserted)
+        delivery.End(CopyRequiredFiles(delivery.Desk(), FolderOf(page)));
+}
+
+void InsertForToday(Delivery& delivery)
+{
+    delivery.Payload.RunsToday = true;
+    InsertIntoPage(delivery);
 }
 
 void SaveNewPage(Delivery& delivery)
@@ -121,20 +119,32 @@ Contents WithCopies(Contents written)
     return written;
 }
 
-/// What an insertion leaves of a page: itself under `names`, its backup and its first backup.
-auto Inserted(std::vector<std::string> names, std::string before)
+const std::string earlierRun = [] {
+    std::string page = oldPage;
+    const std::string code = "<!-- ***** Begin:Varlo Personalize special effect ***** -->x"
+                             "<!-- ***** End:Varlo Personalize special effect ***** -->";
+    return page.insert(page.find("</head>"), code);
+}();
+
+/// What an insertion leaves: the page, its backup and its first backup, and the copies.
+Contents Inserted(const TestFolder& folder)
 {
-    return [=](const TestFolder& folder) {
-        const auto edited =
-            std::get<EditedPage>(EditPage(before, MakePayload(folder), [] { return true; }));
-        EXPECT_NE(edited.Bytes, before);
-        Contents written = {
-            {"page/Backup of index.html", before},
-            {"state/first-backups/2024-05-31" + folder.At("page/index.html"), before}};
-        for (const std::string& name : names)
-            written[name] = edited.Bytes;
-        return written;
-    };
+    const auto edited =
+        std::get<EditedPage>(EditPage(earlierRun, MakePayload(folder), [] { return true; }));
+    EXPECT_NE(edited.Bytes, earlierRun);
+    return WithCopies(
+        {{pageName, edited.Bytes},
+         {"page/Backup of index.html", earlierRun},
+         {"state/first-backups/2024-05-31" + folder.At("page/index.html"), earlierRun}});
+}
+
+/// The same with the page script, an earlier version of which lay beside the page.
+Contents InsertedForToday(const TestFolder& folder)
+{
+    Contents written = Inserted(folder);
+    written[pageName] = WithPageScript(written[pageName]);
+    written["page/orvane.js"] = pageScript;
+    return written;
 }
 
 auto NewPageAs(std::string name)
@@ -148,13 +158,6 @@ void PutPage(const TestFolder& folder)
 {
     folder.Put(pageName, oldPage, 0640);
 }
-
-const std::string earlierRun = [] {
-    std::string page = oldPage;
-    const std::string code = "<!-- ***** Begin:Varlo Personalize special effect ***** -->x"
-                             "<!-- ***** End:Varlo Personalize special effect ***** -->";
-    return page.insert(page.find("</head>"), code);
-}();
 
 /// Runs one of the deliveries above over prepared files.
 WritingWay Way(const char* name, void (*prepare)(const TestFolder&), void (*run)(Delivery&),
@@ -182,31 +185,21 @@ WritingWay Way(const char* name, void (*prepare)(const TestFolder&), void (*run)
 }
 
 const WritingWay ways[] = {
-    Way("InsertIntoPage", PutPage, InsertIntoPage,
-        [](const TestFolder& f) { return WithCopies(Inserted({pageName}, oldPage)(f)); }),
     Way(
-        "InsertAgain",
+        "InsertIntoPage",
         [](const TestFolder& f) {
             f.Put(pageName, earlierRun, 0640);
             f.Put("page/Backup of index.html", "an earlier backup");
         },
-        InsertAlone, Inserted({pageName}, earlierRun)),
+        InsertIntoPage, Inserted),
     Way(
-        "InsertThroughLink",
+        "InsertForToday",
         [](const TestFolder& f) {
-            f.Put("other/real.html", oldPage, 0640);
-            f.Link("../other/real.html", pageName);
+            f.Put(pageName, earlierRun, 0640);
+            f.Put("page/orvane.js", "/*! Orvane page script 0.9 */");
+            f.Put("program/orvane.js", pageScript);
         },
-        InsertAlone, Inserted({"other/real.html"}, oldPage)),
-    Way(
-        "InsertIntoHardLinked",
-        [](const TestFolder& f) {
-            PutPage(f);
-            f.HardLink(pageName, "other/alias.html");
-        },
-        InsertAlone, Inserted({pageName, "other/alias.html"}, oldPage)),
-    Way(
-        "NewPage", [](const TestFolder&) {}, SaveNewPage, NewPageAs(pageName)),
+        InsertForToday, InsertedForToday),
     Way("NewPageOverOld", PutPage, SaveNewPage, NewPageAs(pageName)),
     Way(
         "PublishAgain", [](const TestFolder& f) { f.Put("page/ovtemp.html", "an earlier effect"); },

@@ -241,6 +241,51 @@ TEST_F(PreviewFormTest, CopyPutsTheExactCodeOnTheClipboard)
               u"HTML code copied for you to paste: HEAD, BODY attribute");
 }
 
+TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
+{
+    const auto holdsLines = [](const std::string& page) {
+        return page.find("<HEAD><!-- Begin Orvane page script -->") != std::string::npos;
+    };
+    const auto hasLines = [&](const Text& path) { return holdsLines(m_desk.Files.Contents[path]); };
+    m_desk.Files.Contents[u"/program/orvane.js"] = "/*! Orvane page script 1.0.0 */";
+    EXPECT_TRUE(
+        WordsOf(*m_form, "lblRunsToday").ends_with(u"in a strip at the foot of the window."));
+    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+    Click(*m_form, "chkRunsToday");
+    EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+    EXPECT_EQ(m_desk.Pane.Navigated.size(), 2u);
+
+    m_form.reset();
+    m_desk.Files.Folders = {u"/", u"/program"};
+    m_payload.HEADHTML.clear();
+    m_payload.BODYHTML = u"<P>";
+    Open();
+    EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes)) << "the choice is kept";
+    ToNewPage();
+    m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
+    Click(*m_form, "cmdSaveWebPage");
+    EXPECT_TRUE(hasLines(u"/site/index.html"));
+    EXPECT_TRUE(m_desk.Files.Contents.contains(u"/site/orvane.js"));
+    EXPECT_EQ(Find<QListWidget>(*m_form, "lstFilesToUpload")->item(0)->text(),
+              QStringLiteral("orvane.js"));
+    while (Heading() != u"Step 2: Select Method for Inserting your Special Effect")
+        Click(*m_form, "cmdPrevious");
+    Choose(1);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Step 3: Insert HEAD HTML code into your Web page");
+    EXPECT_FALSE(Find<QWidget>(*m_form, "txtHEADHTML")->isVisible());
+    ExpectAccessible(*m_form);
+    Click(*m_form, "cmdCopyPageScript");
+    EXPECT_EQ(m_desk.Clipboard.Content, u"<!-- Begin Orvane page script -->\r\n"
+                                        u"<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n"
+                                        u"<!-- End Orvane page script -->");
+    for (int page = 0; page < 3; ++page)
+        Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Step 6: Publish required files to local hard drive");
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_TRUE(hasLines(u"/program/ovtemp.html"));
+}
+
 TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
 {
     ToMethodPage();
@@ -279,6 +324,7 @@ TEST(FormDeskTest, LeadsBackToTheWizardWithItsFieldAndOutOfBoth)
             WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& again) {
                 EXPECT_EQ(again.Parameters().txtStatusBarText, u"one");
                 EXPECT_EQ(desk.Core.Payload.HEADHTML, u"");
+                Press(*Find<QWidget>(again, "txtStatusBarText"), Qt::Key_A, Qt::ControlModifier);
                 Type(again, "txtStatusBarText", u"two");
                 WhenInFront<PreviewForm>([&](PreviewForm& second) {
                     EXPECT_EQ(desk.Core.Payload, Generate(StatusBarTicker{u"two"}));

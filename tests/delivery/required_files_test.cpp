@@ -75,14 +75,6 @@ TEST_F(RequiredFilesTest, CopiesPicturesThenClassFilesAndSaysSo)
     EXPECT_EQ(dialogs.LastTone, Tone::Plain);
 }
 
-TEST_F(RequiredFilesTest, SaysThatAllIsCopiedForAnEffectWithoutFiles)
-{
-    payload = {};
-    EXPECT_EQ(Copy(), MissingFiles());
-    EXPECT_EQ(dialogs.Said, Names{Text(allCopied)});
-    EXPECT_EQ(disk.Calls(), 0);
-}
-
 TEST_F(RequiredFilesTest, ANameWithoutKnownSourceIsMissingAndNeverAskedFor)
 {
     Require(0, u"a.gif", u"");
@@ -155,14 +147,38 @@ TEST_F(RequiredFilesTest, AFaultOfOneFileMakesItMissingAndAnyOtherEndsTheCopying
     EXPECT_EQ(dialogs.Said, Names());
 }
 
-TEST_F(RequiredFilesTest, PublishesTheBackupPageInFrontOfTheFiles)
+TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItAlone)
 {
-    payload.Effect.HEADHTML = u"<!--h-->";
-    EXPECT_EQ(ValueIn(Publish(Desk(), u"/site")), MissingFiles());
-    EXPECT_EQ(disk.Contents[u"/site/ovtemp.html"], NewPageBytes(payload));
-    EXPECT_EQ(disk.Writes.at(0), u"/site/ovtemp.html");
-    EXPECT_EQ(disk.Writes.size(), 5u);
-    EXPECT_EQ(dialogs.Said, Names{Text(allCopied)});
+    const std::string own = "/*! Orvane page script 1.2.0 */new";
+    const std::string earlier = "/*! Orvane page script 1.1.9 */old";
+    const std::string later = "/*! Orvane page script 1.10.0 */newer";
+    struct Case
+    {
+        const char* Present; ///< null: no such file
+        std::optional<bool> Answer;
+        std::string Left;
+    };
+    const Case cases[] = {{nullptr, {}, own},         {earlier.c_str(), {}, own},
+                          {later.c_str(), {}, later}, {"mine", false, "mine"},
+                          {"mine", true, own},        {"", false, ""}};
+    disk.Contents[u"/program/orvane.js"] = own;
+    payload = {.RunsToday = true};
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.Present ? test.Present : "no file");
+        disk.Contents.erase(u"/site/orvane.js");
+        if (test.Present)
+            disk.Contents[u"/site/orvane.js"] = test.Present;
+        if (test.Answer)
+            dialogs.ExpectAsk(OverwriteQuestion(u"orvane.js"), *test.Answer);
+        EXPECT_EQ(Copy(), MissingFiles());
+        EXPECT_EQ(disk.Contents[u"/site/orvane.js"], test.Left);
+        EXPECT_EQ(dialogs.TakeSaid(), Names{Text(allCopied)});
+    }
+    EXPECT_EQ(FilesToUpload(payload), Names{u"orvane.js"});
+    payload.RunsToday = false;
+    disk.Contents.erase(u"/site/orvane.js");
+    Copy();
+    EXPECT_FALSE(disk.Contents.contains(u"/site/orvane.js"));
 }
 
 TEST_F(RequiredFilesTest, ReplacesABackupPageOnYesAloneAndStillCopies)
@@ -181,21 +197,12 @@ TEST_F(RequiredFilesTest, ReplacesABackupPageOnYesAloneAndStillCopies)
     EXPECT_EQ(disk.Contents[u"/site/ovtemp.html"], NewPageBytes(payload));
 }
 
-TEST_F(RequiredFilesTest, EndsPublishingWhenTheBackupPageCannotBeWritten)
-{
-    disk.FailOn(u"/site/ovtemp.html", Fault::PermissionDenied);
-    const auto outcome = Publish(Desk(), u"/site/");
-    ASSERT_NE(FaultIn(outcome), nullptr);
-    EXPECT_EQ(*FaultIn(outcome), Fault::PermissionDenied);
-    EXPECT_EQ(disk.Calls(), 1);
-    EXPECT_EQ(dialogs.Said, Names());
-}
-
 TEST_F(RequiredFilesTest, BringsPicturesToThePreviewWithoutAWord)
 {
     EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
     EXPECT_EQ(disk.Writes, (Names{u"/program/a.gif", u"/program/b.gif"}));
     EXPECT_EQ(dialogs.Said, Names());
+    EXPECT_EQ(report.Folder(), u"") << "nothing is delivered by that";
 }
 
 TEST_F(RequiredFilesTest, DoesNotCopyAgainForThePreviewWhatLiesThereInAnyCase)
@@ -215,13 +222,6 @@ TEST_F(RequiredFilesTest, TellsWhichFilesThePreviewLacks)
     EXPECT_EQ(disk.Contents[u"/program/b.gif"], "b");
     EXPECT_EQ(dialogs.Said, Names{Text(noPreview)});
     EXPECT_EQ(dialogs.LastTone, Tone::Exclamation);
-}
-
-TEST_F(RequiredFilesTest, CountsEveryFailedCopyForThePreviewAsMissing)
-{
-    disk.FailAt(4, Fault::DiskFull);
-    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles{u"b.gif"});
-    EXPECT_EQ(report.Folder(), u"") << "nothing is delivered by that";
 }
 
 } // namespace

@@ -95,35 +95,22 @@ TEST_F(InPlaceWriterTest, RecoveryCopyCountsIfItIsTheUsersTheOwnersOrTheSuperuse
     }
 }
 
-struct HalfWrittenRow
+TEST(RecoveryCopyTest, TellsAnOverwritingCutShortFromAnotherContent)
 {
-    const char* Content;
-    std::size_t Size;
-    bool Expected;
-};
-
-class HalfWrittenTest : public ::testing::TestWithParam<HalfWrittenRow>
-{
-};
-
-TEST_P(HalfWrittenTest, TellsAnOverwritingCutShortFromAnotherContent)
-{
-    const std::string_view content(GetParam().Content, GetParam().Size);
     const RecoveryCopy growing{"", "abc", "ABCDEF"};
     const RecoveryCopy shrinking{"", "ABCDEF", "abc"};
-    EXPECT_EQ(IsHalfWritten(content, growing), GetParam().Expected);
-    // A gap of zeros can only lie behind the old end.
-    if (content.find('\0') == content.npos) {
-        EXPECT_EQ(IsHalfWritten(content, shrinking), GetParam().Expected);
+    const std::pair<std::string_view, bool> cases[] = {
+        {{"abc", 3}, true},      {{"ABCDEF", 6}, true}, {{"ABcD", 4}, true},
+        {{"Abc\0\0F", 6}, true}, {{"A\0c", 3}, false},  {{"AB", 2}, false},
+        {{"ABCDEFG", 7}, false}, {{"ABCDeF", 6}, false}};
+    for (const auto& [content, expected] : cases) {
+        EXPECT_EQ(IsHalfWritten(content, growing), expected) << content;
+        // A gap of zeros can only lie behind the old end.
+        if (content.find('\0') == content.npos) {
+            EXPECT_EQ(IsHalfWritten(content, shrinking), expected) << content;
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Contents, HalfWrittenTest,
-    ::testing::Values(HalfWrittenRow{"abc", 3, true}, HalfWrittenRow{"ABCDEF", 6, true},
-                      HalfWrittenRow{"ABcD", 4, true}, HalfWrittenRow{"Abc\0\0F", 6, true},
-                      HalfWrittenRow{"A\0c", 3, false}, HalfWrittenRow{"AB", 2, false},
-                      HalfWrittenRow{"ABCDEFG", 7, false}, HalfWrittenRow{"ABCDeF", 6, false}));
 
 TEST(RecoveryCopyTest, IsReadWholeOrNotAtAll)
 {

@@ -53,7 +53,10 @@ TEST_P(AllWizardsTest, HelpButtonOpensItsTopic)
 }
 
 INSTANTIATE_TEST_SUITE_P(Effects, AllWizardsTest, ::testing::ValuesIn(BuiltEffects()),
-                         [](const auto& row) { return ToUtf8(row.param->Form); });
+                         [](const auto& row) {
+                             return ToUtf8(row.param->Form) +
+                                    std::to_string(static_cast<int>(row.param->Kind));
+                         });
 
 } // namespace
 } // namespace orvane

@@ -5,13 +5,20 @@
 #include "effects/applet/image_fade_form.h"
 #include "effects/applet/more_image_effects_form.h"
 #include "effects/applet/typewriter_text_form.h"
+#include "effects/page/all_in_one_button_form.h"
+#include "effects/page/anti_spam_link_form.h"
 #include "effects/page/cursor_trail_form.h"
 #include "effects/page/dynamic_button_form.h"
+#include "effects/page/password_protection_form.h"
 #include "effects/page/popup_alert_form.h"
 #include "effects/page/popup_window_form.h"
+#include "effects/page/pulldown_menu_form.h"
+#include "effects/page/search_box_form.h"
 #include "effects/page/slideshow_form.h"
 #include "effects/text/digital_clock_form.h"
 #include "effects/text/status_bar_ticker_form.h"
+#include "effects/text/tooltips_form.h"
+#include "effects/text/vertical_scroller_form.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +26,10 @@ namespace orvane::testing {
 
 /// The windows of all effects.
 using EffectForms =
-    ::testing::Types<AdvancedAnimatorForm, DigitalClockForm, StatusBarTickerForm, CursorTrailForm,
-                     DynamicButtonForm, PopupAlertForm, PopupWindowForm, SlideshowForm,
-                     ImageEffectsForm, ImageFadeForm, MoreImageEffectsForm, TypewriterTextForm>;
+    ::testing::Types<AdvancedAnimatorForm, AllInOneButtonForm, AntiSpamLinkForm, CursorTrailForm,
+                     DigitalClockForm, DynamicButtonForm, ImageEffectsForm, ImageFadeForm,
+                     MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm, PopupWindowForm,
+                     PulldownMenuForm, SearchBoxForm, SlideshowForm, StatusBarTickerForm,
+                     TooltipsForm, TypewriterTextForm, VerticalScrollerForm>;
 
 } // namespace orvane::testing

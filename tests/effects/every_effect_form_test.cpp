@@ -121,6 +121,16 @@ TYPED_TEST(EveryEffectTest, GeneratedTextsHaveWholeLineEndsAndNoUnfilledMark)
     }
 }
 
+TYPED_TEST(EveryEffectTest, ShrinksWithItsButtonsInSight)
+{
+    this->m_form.resize(640, 440);
+    this->m_form.show();
+    LetRun();
+    EXPECT_EQ(this->m_form.size(), QSize(640, 440));
+    const auto* cancel = Find<QWidget>(this->m_form, "cmdCancel");
+    EXPECT_TRUE(this->m_form.rect().contains(cancel->geometry()));
+}
+
 TYPED_TEST(EveryEffectTest, CancelledWorkIsOfferedAndTakenUpByTheNextWindow)
 {
     this->m_form.show();

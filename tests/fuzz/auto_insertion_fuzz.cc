@@ -1,6 +1,6 @@
 #include "insertion/page_edit.h"
 #include "tests/fuzz/fuzz_input.h"
-#include "tests/support/insertion_oracle.h"
+#include "tests/fuzz/insertion_oracle.h"
 
 namespace orvane::testing {
 

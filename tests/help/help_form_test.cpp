@@ -4,6 +4,7 @@
 #include "program/form_desk.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
+#include "tests/support/qt_mouse.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
@@ -36,14 +37,7 @@ protected:
         return Find<TopicBrowser>(m_form, "txtTopic")->toPlainText().trimmed().toStdString();
     }
 
-    std::vector<std::string> Listed()
-    {
-        std::vector<std::string> titles;
-        const auto* list = Find<QListWidget>(m_form, "lstContents");
-        for (int row = 0; row < list->count(); ++row)
-            titles.push_back(list->item(row)->text().toStdString());
-        return titles;
-    }
+    std::vector<Text> Listed() { return RowsOf(m_form, "lstContents"); }
 
     std::string Marked()
     {
@@ -69,7 +63,7 @@ TEST_F(HelpFormTest, ShowsTheTopicAndMarksItInTheContents)
     m_form.ShowTopic(7);
     EXPECT_TRUE(m_form.isVisible());
     EXPECT_EQ(Shown(), "A <B>\nSeven");
-    EXPECT_EQ(Listed(), (std::vector<std::string>{"Contents", "A <B>", "Ticker"}));
+    EXPECT_EQ(Listed(), (std::vector<Text>{u"Contents", u"A <B>", u"Ticker"}));
     EXPECT_EQ(Marked(), "A <B>");
     ExpectAccessible(m_form);
 }
@@ -107,14 +101,14 @@ TEST_F(HelpFormTest, SearchListsTheHitsAndEnterOpensTheFirst)
 {
     m_form.ShowTopic(0);
     Type(m_form, "txtSearch", u"NINE");
-    EXPECT_EQ(Listed(), (std::vector<std::string>{"Ticker"}));
+    EXPECT_EQ(Listed(), std::vector<Text>{u"Ticker"});
     EXPECT_EQ(Marked(), "");
     Press(*Find<QLineEdit>(m_form, "txtSearch"), Qt::Key_Return);
     EXPECT_EQ(Shown(), "Ticker\nNine");
     EXPECT_TRUE(m_form.isVisible());
 
     Type(m_form, "txtSearch", u" moon");
-    EXPECT_EQ(Listed(), (std::vector<std::string>{"Nothing found"}));
+    EXPECT_EQ(Listed(), std::vector<Text>{u"Nothing found"});
     Press(*Find<QLineEdit>(m_form, "txtSearch"), Qt::Key_Return);
     Click(m_form, "cmdContents");
     EXPECT_EQ(Listed().size(), 3u);

@@ -3,9 +3,7 @@
 #include "effects/text/status_bar_ticker.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
-#include "windows/qt_text.h"
 
-#include <QDir>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -77,27 +75,6 @@ TEST_F(AutoInsertFormTest, ATypedPageGetsTheEffectAndEndsTheWizard)
         << page;
 }
 
-TEST_F(AutoInsertFormTest, ANameWithoutAFolderLiesInTheCurrentOne)
-{
-    const Text folder = FromQt(QDir::currentPath()) + u"/";
-    m_desk.Files.Contents[folder + u"index.html"] = oldPage;
-    Open();
-    Insert(u"index.html");
-    EXPECT_EQ(Heading(), u"Finished!");
-    EXPECT_NE(Bytes(folder + u"index.html"), oldPage);
-    EXPECT_EQ(Bytes(folder + u"Backup of index.html"), oldPage);
-}
-
-TEST_F(AutoInsertFormTest, WantsThePagesName)
-{
-    Open();
-    Click(*m_form, "cmdAutoInsert");
-    EXPECT_EQ(m_desk.Dialogs.Said,
-              Names{u"Please specify the filename of a Web page in the input box below."});
-    EXPECT_EQ(m_form->focusWidget(), Find<QWidget>(*m_form, "txtFileName"));
-    EXPECT_EQ(Heading(), u"Step 3: Auto-Insert the special effect in your Web page");
-}
-
 TEST_F(AutoInsertFormTest, APageOpenElsewhereIsNotWrittenAndMayBeTriedAgain)
 {
     Open();
@@ -131,20 +108,6 @@ TEST_F(AutoInsertFormTest, WhatCannotBeDoneAloneLeadsToTheCodeForTheHead)
     Click(*m_form, "cmdPrevious");
     EXPECT_EQ(Heading(), u"Step 3: Select Method for Inserting your Special Effect");
     EXPECT_TRUE(Find<QRadioButton>(*m_form, "optInsertMode(1)")->isChecked());
-}
-
-TEST_F(AutoInsertFormTest, NoToTheQuestionLeavesThePageAndLeadsToTheCodeForTheHead)
-{
-    Open();
-    Insert(u"/site/index.html");
-    const std::string once = Bytes(u"/site/index.html");
-    Open();
-    m_desk.Dialogs.ExpectAsk(u"Orvane has found existing code for this special effect in your Web "
-                             u"page.  Do you want to replace it?",
-                             false);
-    Insert(u"/site/index.html");
-    EXPECT_EQ(Bytes(u"/site/index.html"), once);
-    EXPECT_EQ(Heading(), u"Step 4: Insert HEAD HTML code into your Web page");
 }
 
 TEST_F(AutoInsertFormTest, MissingFilesAreToldAndTheLastPageComesAllTheSame)

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace orvane {
 namespace {
 
@@ -71,30 +73,29 @@ TEST_F(AutoInsertTest, BacksThePageUpBeforeItWritesIt)
     EXPECT_TRUE(m_dialogs.Said.empty());
 }
 
-TEST_F(AutoInsertTest, OverwritesAnEarlierBackupWithoutAsking)
-{
-    m_files.Contents[backupPath] = "earlier";
-    EXPECT_EQ(Run(), AutoInsertion::Inserted);
-    EXPECT_EQ(Bytes(backupPath), oldBytes);
-}
-
-TEST_F(AutoInsertTest, AsksBeforeItReplaces)
-{
-    m_files.Contents[pagePath] = runBefore;
-    m_dialogs.ExpectAsk(Text(question), true);
-    EXPECT_EQ(Run(), AutoInsertion::Inserted);
-    EXPECT_EQ(Bytes(pagePath), "<head>x\r\nx<!--B-->h<!--E-->\r\n</head>");
-    EXPECT_EQ(Bytes(backupPath), runBefore);
-}
-
-TEST_F(AutoInsertTest, LeavesThePageToTheAuthorOnNo)
+TEST_F(AutoInsertTest, ReplacesOnYesAndLeavesThePageToTheAuthorOnNo)
 {
     m_files.Contents[pagePath] = runBefore;
     m_dialogs.ExpectAsk(Text(question), false);
     EXPECT_EQ(Run(), AutoInsertion::Manual);
     ExpectSaid(manual);
     EXPECT_EQ(Bytes(pagePath), runBefore);
+    m_dialogs.ExpectAsk(Text(question), true);
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    EXPECT_EQ(Bytes(pagePath), "<head>x\r\nx<!--B-->h<!--E-->\r\n</head>");
     EXPECT_EQ(Bytes(backupPath), runBefore);
+}
+
+TEST_F(AutoInsertTest, TellsWhichLinesToAddWhenThePageHasNoPlaceForThePageScript)
+{
+    m_files.Contents[pagePath] = "<body></body>";
+    m_payload.Effect.BODYHTML = std::exchange(m_payload.Effect.HEADHTML, Text());
+    m_payload.RunsToday = true;
+    EXPECT_EQ(Run(), AutoInsertion::Inserted);
+    EXPECT_EQ(Bytes(pagePath), "<body><\r\n<!--B-->h<!--E-->\r\n</body>");
+    const std::vector<Text> said = m_dialogs.TakeSaid();
+    ASSERT_EQ(said.size(), 1u);
+    EXPECT_TRUE(said[0].find(u"\r\n<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n") != Text::npos);
 }
 
 TEST_F(AutoInsertTest, TellsTheFaultOfThePageItself)
@@ -138,58 +139,29 @@ TEST_F(AutoInsertTest, KeepsWhatAnEditorSavedMeanwhileThoughNothingWasAsked)
     EXPECT_EQ(files.Contents[pagePath], "saved meanwhile");
 }
 
-struct FaultWords
-{
-    Fault What;
-    TextView Said;
-};
-
-class AutoInsertFaultTest : public AutoInsertTest, public ::testing::WithParamInterface<FaultWords>
-{
-};
-
-INSTANTIATE_TEST_SUITE_P(Faults, AutoInsertFaultTest,
-                         ::testing::Values(FaultWords{Fault::PermissionDenied, openElsewhere},
-                                           FaultWords{Fault::DiskFull, u"Disk full"},
-                                           FaultWords{Fault::DeviceError, u"Device I/O error"},
-                                           FaultWords{Fault::OutOfMemory, tooLarge},
-                                           FaultWords{Fault::PathFileAccess,
-                                                      u"Path/File access error"}));
-
 // Read page, write backup and read it, make the kept page's five folders, write it, write page.
-constexpr int readingThePage = 1;
 constexpr int writingTheBackup = 2;
-constexpr int readingTheBackup = 3;
-constexpr int writingThePage = 10;
+constexpr int faultyCalls[] = {1, writingTheBackup, 3, 10};
 
-TEST_P(AutoInsertFaultTest, LeavesThePageAndTellsItsWords)
+TEST_F(AutoInsertTest, LeavesThePageOnAFaultAndTellsItsWords)
 {
-    for (const int call : {readingThePage, writingTheBackup, readingTheBackup, writingThePage}) {
-        FakeFileStore files = m_files;
-        files.FailAt(call, GetParam().What);
-        EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept),
-                  AutoInsertion::NothingDone);
-        ExpectSaid(GetParam().Said);
-        EXPECT_EQ(files.Calls(), call);
-        EXPECT_EQ(files.Contents[pagePath], oldBytes);
-        EXPECT_EQ(files.Contents.contains(backupPath), call > writingTheBackup);
-        if (call > writingTheBackup) {
-            EXPECT_EQ(files.Contents[backupPath], oldBytes);
+    const std::pair<Fault, TextView> faults[] = {
+        {Fault::PermissionDenied, openElsewhere},
+        {Fault::DiskFull, u"Disk full"},
+        {Fault::DeviceError, u"Device I/O error"},
+        {Fault::OutOfMemory, tooLarge},
+        {Fault::PathFileAccess, u"Path/File access error"}};
+    for (const auto& [fault, words] : faults)
+        for (const int call : faultyCalls) {
+            FakeFileStore files = m_files;
+            files.FailAt(call, fault);
+            EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept),
+                      AutoInsertion::NothingDone);
+            ExpectSaid(words);
+            EXPECT_EQ(files.Calls(), call);
+            EXPECT_EQ(files.Contents[pagePath], oldBytes);
+            EXPECT_EQ(files.Contents.contains(backupPath), call > writingTheBackup);
         }
-    }
-}
-
-TEST_P(AutoInsertFaultTest, GoesOnWithoutAWordWhenTheFirstBackupCannotBeKept)
-{
-    for (int call = readingTheBackup + 1; call < writingThePage; ++call) {
-        FakeFileStore files = m_files;
-        files.FailAt(call, GetParam().What);
-        EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::Inserted);
-        EXPECT_TRUE(m_dialogs.TakeSaid().empty());
-        EXPECT_FALSE(files.Contents.contains(keptPath)) << call;
-        EXPECT_EQ(files.Contents[pagePath], newBytes);
-        EXPECT_EQ(files.Contents[backupPath], oldBytes);
-    }
 }
 
 TEST_F(AutoInsertTest, KeepsTheFirstBackupOfEachDay)

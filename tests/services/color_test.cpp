@@ -17,61 +17,35 @@ Channels ChannelsOf(TextView text)
     return {color.Red, color.Green, color.Blue};
 }
 
-struct HexCase
+TEST(ColorTest, ReadsChannelsFromAnyDigits)
 {
-    TextView Digits;
-    Channels Expected;
-};
-
-class ColorTextTest : public ::testing::TestWithParam<HexCase>
-{
-};
-
-TEST_P(ColorTextTest, GivesItsChannels)
-{
-    EXPECT_EQ(ChannelsOf(GetParam().Digits), GetParam().Expected) << ToUtf8(GetParam().Digits);
+    const std::vector<std::pair<TextView, Channels>> cases = {
+        {u"#FF8000", {255, 128, 0}}, {u"ff8000", {255, 128, 0}}, {u"F#F#8000", {255, 128, 0}},
+        {u"", {192, 192, 192}},      {u"##", {192, 192, 192}},   {u" ", {0, 0, 0}},
+        {u"F0A", {240, 160, 0}},     {u"1234567", {18, 52, 86}}, {u"red", {14, 208, 0}},
+        {u"0G-1٣9", {0, 1, 9}}};
+    for (const auto& [digits, expected] : cases)
+        EXPECT_EQ(ChannelsOf(digits), expected) << ToUtf8(digits);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ColorTextTest,
-    ::testing::Values(HexCase{u"#FF8000", {255, 128, 0}}, HexCase{u"ff8000", {255, 128, 0}},
-                      HexCase{u"F#F#8000", {255, 128, 0}}, HexCase{u"", {192, 192, 192}},
-                      HexCase{u"##", {192, 192, 192}}, HexCase{u" ", {0, 0, 0}},
-                      HexCase{u"F0A", {240, 160, 0}}, HexCase{u"1234567", {18, 52, 86}},
-                      HexCase{u"red", {14, 208, 0}}, HexCase{u"0G-1٣9", {0, 1, 9}}));
-
-struct PackedCase
+TEST(ColorTest, GivesDigitsByThePaddingThatPagesAreMadeWith)
 {
-    std::int32_t Packed;
-    TextView Digits;
-};
-
-class PackedColorTest : public ::testing::TestWithParam<PackedCase>
-{
-};
-
-TEST_P(PackedColorTest, GivesDigitsByThePaddingThatPagesAreMadeWith)
-{
-    CColor color;
-    color.Red = 7;
-    EXPECT_EQ(ToUtf8(color.ConvertToRGBHex(GetParam().Packed)), ToUtf8(GetParam().Digits));
-    EXPECT_EQ(color.Red, 7);
-
-    FakeDialogs dialogs;
-    dialogs.AnswerColor(GetParam().Packed);
-    color.SelectColor(dialogs);
-    EXPECT_EQ(ToUtf8(color.HexColor), ToUtf8(GetParam().Digits));
-    EXPECT_EQ(color.RGBColor, GetParam().Packed);
+    const std::vector<std::pair<std::int32_t, std::string>> cases = {
+        {0, "000000"},         {0xA, "0A0000"},     {255, "FF0000"},        {0xABC, "AB0000"},
+        {0xABCD, "CDAB00"},    {0xABCDE, "CDAB00"}, {0xABCDEF, "EFCDAB"},   {16777215, "FFFFFF"},
+        {0x1234567, "563412"}, {-2, "FFFFFF"},      {-0x00FEDCBB, "2301FF"}};
+    for (const auto& [packed, digits] : cases) {
+        CColor color;
+        color.Red = 7;
+        EXPECT_EQ(ToUtf8(color.ConvertToRGBHex(packed)), digits);
+        EXPECT_EQ(color.Red, 7);
+        FakeDialogs dialogs;
+        dialogs.AnswerColor(packed);
+        color.SelectColor(dialogs);
+        EXPECT_EQ(ToUtf8(color.HexColor), digits);
+        EXPECT_EQ(color.RGBColor, packed);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Values, PackedColorTest,
-    ::testing::Values(PackedCase{0, u"000000"}, PackedCase{0xA, u"0A0000"},
-                      PackedCase{255, u"FF0000"}, PackedCase{0xABC, u"AB0000"},
-                      PackedCase{0xABCD, u"CDAB00"}, PackedCase{0xABCDE, u"CDAB00"},
-                      PackedCase{0xABCDEF, u"EFCDAB"}, PackedCase{16777215, u"FFFFFF"},
-                      PackedCase{0x1234567, u"563412"}, PackedCase{-2, u"FFFFFF"},
-                      PackedCase{-0x00FEDCBB, u"2301FF"}));
 
 TEST(ColorTest, ChannelsOfAPickedColorInheritThePadding)
 {

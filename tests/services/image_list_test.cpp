@@ -27,35 +27,21 @@ std::string Names(const ImageList& list)
     return ToUtf8(names);
 }
 
-struct Placing
+TEST(ImageListTest, NewImageGoesInFrontOfTheSelectedOneOrToTheEnd)
 {
-    const char* Name;
-    std::optional<std::size_t> Selected;
-    const char* Order;
-    std::optional<std::size_t> SelectedAfter;
-
-    friend void PrintTo(const Placing& placing, std::ostream* out) { *out << placing.Name; }
-};
-
-class ImagePlacingTest : public ::testing::TestWithParam<Placing>
-{
-};
-
-TEST_P(ImagePlacingTest, NewImageGoesInFrontOfTheSelectedOneOrToTheEnd)
-{
-    OrvaneCore core;
-    ImageList list = ListOf({u"a", u"b", u"c"}, GetParam().Selected);
-    EXPECT_EQ(AddImageToList(list, core, u"/x", u"new"), std::nullopt);
-    EXPECT_EQ(Names(list), GetParam().Order);
-    EXPECT_EQ(list.Selected, GetParam().SelectedAfter);
+    using Row = std::optional<std::size_t>;
+    const std::tuple<Row, const char*, Row> cases[] = {{Row(), "a b c new ", Row()},
+                                                       {0, "new a b c ", 1},
+                                                       {1, "a new b c ", 2},
+                                                       {2, "a b c new ", 2}};
+    for (const auto& [selected, order, selectedAfter] : cases) {
+        OrvaneCore core;
+        ImageList list = ListOf({u"a", u"b", u"c"}, selected);
+        EXPECT_EQ(AddImageToList(list, core, u"/x", u"new"), std::nullopt);
+        EXPECT_EQ(Names(list), order);
+        EXPECT_EQ(list.Selected, selectedAfter);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Selections, ImagePlacingTest,
-                         ::testing::Values(Placing{"None", std::nullopt, "a b c new ", {}},
-                                           Placing{"First", 0, "new a b c ", 1},
-                                           Placing{"Middle", 1, "a new b c ", 2},
-                                           Placing{"Last", 2, "a b c new ", 2}),
-                         [](const auto& row) { return row.param.Name; });
 
 TEST(ImageListTest, RefusesABlankInTheNameButNotAroundItNorInTheFolder)
 {

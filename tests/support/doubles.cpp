@@ -13,46 +13,6 @@ FakeDialogs::~FakeDialogs()
         << "an answer was prepared for a dialog that never came";
 }
 
-void FakeDialogs::ExpectAsk(Text words, bool answer)
-{
-    m_questions.push_back({std::move(words), answer});
-}
-
-void FakeDialogs::ExpectAskOrCancel(Text words, std::optional<bool> answer)
-{
-    m_questions.push_back({std::move(words), answer});
-}
-
-std::vector<Text> FakeDialogs::TakeSaid()
-{
-    return std::exchange(Said, {});
-}
-
-void FakeDialogs::AnswerOpenFile(std::optional<Text> path)
-{
-    m_openFiles.push_back(std::move(path));
-}
-void FakeDialogs::AnswerSaveFile(std::optional<Text> path)
-{
-    m_saveFiles.push_back(std::move(path));
-}
-void FakeDialogs::AnswerFolder(std::optional<Text> path)
-{
-    m_folders.push_back(std::move(path));
-}
-void FakeDialogs::AnswerColor(std::optional<std::int32_t> color)
-{
-    m_colors.push_back(color);
-}
-void FakeDialogs::AnswerFont(const FontChoice& font)
-{
-    m_fonts.push_back(font);
-}
-void FakeDialogs::AnswerBox(const PageBoxReply& reply)
-{
-    m_boxes.push_back(reply);
-}
-
 template <class Value>
 Value FakeDialogs::Next(std::deque<Value>& script, const char* what, Value otherwise)
 {
@@ -97,9 +57,8 @@ std::optional<Text> FakeDialogs::SaveFile(const FileRequest& request)
     return Next(m_saveFiles, "save file", std::optional<Text>());
 }
 
-std::optional<Text> FakeDialogs::PickFolder(TextView, TextView start)
+std::optional<Text> FakeDialogs::PickFolder(TextView, TextView)
 {
-    FolderStarts.emplace_back(start);
     return Next(m_folders, "pick folder", std::optional<Text>());
 }
 
@@ -120,15 +79,6 @@ PageBoxReply FakeDialogs::Answer(const PageBox& box)
     return Next(m_boxes, "page box", PageBoxReply());
 }
 
-void FakeFileStore::FailAt(int call, Fault fault)
-{
-    m_faultAt[call] = fault;
-}
-void FakeFileStore::FailOn(TextView path, Fault fault)
-{
-    m_faultOn[Text(path)] = fault;
-}
-
 std::optional<Fault> FakeFileStore::NextFault(TextView path) const
 {
     ++m_calls;
@@ -145,11 +95,6 @@ Fault FakeFileStore::MissingFault(TextView path) const
     return Folders.empty() || Folders.contains(Text(Left(folder, folder.size() - 1)))
                ? Fault::FileNotFound
                : Fault::PathNotFound;
-}
-
-bool FakeFileStore::FileExists(TextView path) const
-{
-    return Contents.contains(Text(path));
 }
 
 Outcome<std::string> FakeFileStore::Read(TextView path) const
@@ -210,33 +155,30 @@ Done FakeFileStore::MakeFolder(TextView path, Access)
     return {};
 }
 
-std::vector<Text> FakeFileStore::Files(TextView folder) const
+static std::vector<Text> NamesIn(TextView folder, const auto& paths)
 {
     std::vector<Text> names;
-    for (const auto& [path, bytes] : Contents)
+    for (const Text& path : paths)
         if (FolderOf(path) == WithSeparator(folder))
             names.emplace_back(GetFileName(path));
     std::sort(names.begin(), names.end(),
               [](const Text& a, const Text& b) { return ToLower(a) < ToLower(b); });
     return names;
+}
+
+std::vector<Text> FakeFileStore::Files(TextView folder) const
+{
+    std::vector<Text> paths;
+    for (const auto& [path, bytes] : Contents)
+        paths.push_back(path);
+    return NamesIn(folder, paths);
 }
 
 Outcome<std::vector<Text>> FakeFileStore::SubFolders(TextView folder) const
 {
     if (const auto fault = NextFault(folder))
         return *fault;
-    std::vector<Text> names;
-    for (const Text& path : Folders)
-        if (FolderOf(path) == WithSeparator(folder))
-            names.emplace_back(GetFileName(path));
-    std::sort(names.begin(), names.end(),
-              [](const Text& a, const Text& b) { return ToLower(a) < ToLower(b); });
-    return names;
-}
-
-bool FakeFileStore::FolderExists(TextView path) const
-{
-    return Folders.contains(Text(path));
+    return NamesIn(folder, Folders);
 }
 
 Text FakeSettings::Get(TextView section, TextView key, TextView otherwise,
@@ -250,17 +192,6 @@ void FakeSettings::Put(TextView section, TextView key, TextView value, TextView 
 {
     Writes.push_back(Join({section, u"/", key}));
     Stored[{Text(application), Text(section), Text(key)}] = value;
-}
-
-bool FakeShell::Start(TextView program, TextView argument)
-{
-    Started.emplace_back(program, argument);
-    return Starts;
-}
-
-FakeDesk::FakeDesk()
-{
-    Core.ProgramFolder = u"/program";
 }
 
 } // namespace orvane::testing

@@ -22,23 +22,24 @@ public:
     ~FakeDialogs() override;
 
     /// The next question must have these words and is answered so.
-    void ExpectAsk(Text words, bool answer);
-    void ExpectAskOrCancel(Text words, std::optional<bool> answer);
-    /// The next box must say this; without such a call Say() only records.
+    void ExpectAsk(Text words, bool answer) { ExpectAskOrCancel(std::move(words), answer); }
+    void ExpectAskOrCancel(Text words, std::optional<bool> answer)
+    {
+        m_questions.push_back({std::move(words), answer});
+    }
     std::vector<Text> Said; ///< every box, in order; take it empty with TakeSaid()
-    std::vector<Text> TakeSaid();
+    std::vector<Text> TakeSaid() { return std::exchange(Said, {}); }
 
-    void AnswerOpenFile(std::optional<Text> path);
-    void AnswerSaveFile(std::optional<Text> path);
-    void AnswerFolder(std::optional<Text> path);
-    void AnswerColor(std::optional<std::int32_t> color);
-    void AnswerFont(const FontChoice& font);
-    void AnswerBox(const PageBoxReply& reply);
+    void AnswerOpenFile(std::optional<Text> path) { m_openFiles.push_back(std::move(path)); }
+    void AnswerSaveFile(std::optional<Text> path) { m_saveFiles.push_back(std::move(path)); }
+    void AnswerFolder(std::optional<Text> path) { m_folders.push_back(std::move(path)); }
+    void AnswerColor(std::optional<std::int32_t> color) { m_colors.push_back(color); }
+    void AnswerFont(const FontChoice& font) { m_fonts.push_back(font); }
+    void AnswerBox(const PageBoxReply& reply) { m_boxes.push_back(reply); }
 
     std::vector<Text> Asked;            ///< the words of every question
     std::vector<Text> Titles;           ///< the titles of every question
     std::vector<FileRequest> Requests;  ///< of every file dialog
-    std::vector<Text> FolderStarts;     ///< of every folder dialog
     std::vector<FontChoice> FontStarts; ///< of every font dialog
     std::vector<PageBox> Boxes;         ///< of every page box
     Tone LastTone = Tone::Plain;
@@ -82,12 +83,12 @@ public:
     mutable std::vector<Text> Reads;
 
     /// The call with this number, counted from 1 over all calls that can fail, fails so.
-    void FailAt(int call, Fault fault);
+    void FailAt(int call, Fault fault) { m_faultAt[call] = fault; }
     /// Every call that touches this path fails so.
-    void FailOn(TextView path, Fault fault);
+    void FailOn(TextView path, Fault fault) { m_faultOn[Text(path)] = fault; }
     int Calls() const { return m_calls; }
 
-    bool FileExists(TextView path) const override;
+    bool FileExists(TextView path) const override { return Contents.contains(Text(path)); }
     bool IsTaken(TextView path) const override { return FileExists(path); }
     bool AreOneFile(TextView path, TextView other) const override { return path == other; }
     Outcome<std::string> Read(TextView path) const override;
@@ -103,7 +104,7 @@ public:
     std::shared_ptr<const void> Hold(TextView) override { return nullptr; }
     std::vector<Text> Files(TextView folder) const override;
     Outcome<std::vector<Text>> SubFolders(TextView folder) const override;
-    bool FolderExists(TextView path) const override;
+    bool FolderExists(TextView path) const override { return Folders.contains(Text(path)); }
 
 private:
     std::optional<Fault> NextFault(TextView path) const;
@@ -136,7 +137,11 @@ public:
     std::optional<Text> Browser;
 
     void OpenWithShell(TextView target) override { Opened.emplace_back(target); }
-    bool Start(TextView program, TextView argument) override;
+    bool Start(TextView program, TextView argument) override
+    {
+        Started.emplace_back(program, argument);
+        return Starts;
+    }
     std::optional<Text> DefaultBrowser() override { return Browser; }
 };
 
@@ -152,7 +157,6 @@ class FakePreviewPane : public PreviewPane
 {
 public:
     std::vector<Text> Navigated;
-    int Clears = 0;
     std::vector<PanePage> Pages;
     bool IsFileLeft = false;
     Done Navigate(const PanePage& page) override
@@ -162,7 +166,7 @@ public:
         return {};
     }
     void LeaveFile() override { IsFileLeft = true; }
-    void Clear() override { ++Clears; }
+    void Clear() override {}
 };
 
 class FakeHelpViewer : public HelpViewer
@@ -195,7 +199,7 @@ struct FakeDesk
                     .StateFolder = u"/state",
                     .Today = [] { return Text(u"2024-05-31"); }};
 
-    FakeDesk();
+    FakeDesk() { Core.ProgramFolder = u"/program"; }
 };
 
 } // namespace orvane::testing

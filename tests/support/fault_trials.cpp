@@ -7,9 +7,6 @@
 
 #include <algorithm>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace orvane::testing {
 
 namespace {
@@ -170,29 +167,6 @@ int FaultTrials::Try(Trouble trouble, int call) const
     }
     ExpectWhole(scene, calls);
     return calls.NextCall();
-}
-
-int FaultTrials::KillProcesses() const
-{
-    constexpr int killed = 7;
-    int status = 0;
-    int call = 0;
-    do {
-        SCOPED_TRACE("call " + std::to_string(++call));
-        const Scene scene(m_way);
-        const pid_t child = ::fork();
-        if (child == 0) {
-            FaultyCalls calls;
-            calls.ExitAtDeath(killed);
-            calls.Arm(Trouble::Kill, call);
-            ::_exit(scene.Run(calls).IsComplete ? 0 : 1);
-        }
-        EXPECT_EQ(::waitpid(child, &status, 0), child);
-        FaultyCalls calls;
-        ExpectWhole(scene, calls);
-    } while (WIFEXITED(status) && WEXITSTATUS(status) == killed && !::testing::Test::HasFailure());
-    EXPECT_EQ(status, 0);
-    return call;
 }
 
 /// Nothing is torn, even when the power goes off after a first look, and the next run goes well.

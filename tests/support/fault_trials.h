@@ -48,9 +48,6 @@ public:
     /// Every trouble at every call; gives the number of trials.
     int PlayAll() const;
 
-    /// The same for real processes that end at every call.
-    int KillProcesses() const;
-
 private:
     /// The mode of each name, and a file's bytes or where a link leads.
     struct Entry

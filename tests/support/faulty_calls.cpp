@@ -96,8 +96,6 @@ void FaultyCalls::Die(Trouble death)
     if (death == Trouble::PowerCut || death == Trouble::PowerCutLateBytes)
         CutPower();
     m_isDead = true;
-    if (m_exitStatus)
-        ::_exit(*m_exitStatus);
 }
 
 SystemCalls::Error FaultyCalls::Meet()
@@ -139,13 +137,6 @@ SystemCalls::Error FaultyCalls::Close(int descriptor)
     return trouble ? ErrorOf(*trouble) : Error();
 }
 
-SystemCalls::Error FaultyCalls::Read(int descriptor, off_t offset, std::span<char> buffer,
-                                     std::size_t& count)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.Read(descriptor, offset, buffer, count);
-}
-
 SystemCalls::Error FaultyCalls::Write(int descriptor, off_t offset, std::string_view bytes,
                                       std::size_t& count)
 {
@@ -183,42 +174,6 @@ SystemCalls::Error FaultyCalls::Sync(int descriptor)
     return {};
 }
 
-SystemCalls::Error FaultyCalls::Lock(int descriptor, bool waits)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.Lock(descriptor, waits);
-}
-
-SystemCalls::Error FaultyCalls::Status(int descriptor, FileStatus& status)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.Status(descriptor, status);
-}
-
-SystemCalls::Error FaultyCalls::StatusAt(const std::string& path, FileStatus& status)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.StatusAt(path, status);
-}
-
-SystemCalls::Error FaultyCalls::AttributeSize(int descriptor, const char* name, std::size_t& size)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.AttributeSize(descriptor, name, size);
-}
-
-SystemCalls::Error FaultyCalls::ChangeMode(int descriptor, mode_t mode)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.ChangeMode(descriptor, mode);
-}
-
-SystemCalls::Error FaultyCalls::ChangeOwner(int descriptor, uid_t user, gid_t group)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.ChangeOwner(descriptor, user, group);
-}
-
 SystemCalls::Error FaultyCalls::Rename(const std::string& from, const std::string& to)
 {
     if (const Error error = Meet())
@@ -241,12 +196,6 @@ SystemCalls::Error FaultyCalls::Remove(const std::string& path)
     return error;
 }
 
-SystemCalls::Error FaultyCalls::ReadLink(const std::string& path, std::string& target)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.ReadLink(path, target);
-}
-
 SystemCalls::Error FaultyCalls::MakeFolder(const std::string& path, mode_t mode)
 {
     if (const Error error = Meet())
@@ -255,18 +204,6 @@ SystemCalls::Error FaultyCalls::MakeFolder(const std::string& path, mode_t mode)
     if (!error)
         m_unsynced.MadeFolder(path);
     return error;
-}
-
-SystemCalls::Error FaultyCalls::RemoveFolder(const std::string& path)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.RemoveFolder(path);
-}
-
-SystemCalls::Error FaultyCalls::List(const std::string& path, std::vector<FolderEntry>& entries)
-{
-    const Error error = Meet();
-    return error ? error : m_calls.List(path, entries);
 }
 
 } // namespace orvane::testing

@@ -61,8 +61,6 @@ public:
     void Arm(Trouble trouble, int call);
     /// The disk works again, for the program that lives or for one started after its end.
     void Heal();
-    /// Ends the process itself at a death, with this status, in place of throwing.
-    void ExitAtDeath(int status) { m_exitStatus = status; }
     /// Takes what was not synced so far, as a power cut at this moment would.
     void CutPower();
 
@@ -74,22 +72,49 @@ public:
 
     Error Open(const std::string& path, int flags, mode_t mode, int& descriptor) override;
     Error Close(int descriptor) override;
-    Error Read(int descriptor, off_t offset, std::span<char> buffer, std::size_t& count) override;
+    Error Read(int file, off_t offset, std::span<char> buffer, std::size_t& count) override
+    {
+        return Try(&PosixCalls::Read, file, offset, buffer, count);
+    }
     Error Write(int descriptor, off_t offset, std::string_view bytes, std::size_t& count) override;
     Error Truncate(int descriptor, off_t size) override;
     Error Sync(int descriptor) override;
-    Error Lock(int descriptor, bool waits) override;
-    Error Status(int descriptor, FileStatus& status) override;
-    Error StatusAt(const std::string& path, FileStatus& status) override;
-    Error AttributeSize(int descriptor, const char* name, std::size_t& size) override;
-    Error ChangeMode(int descriptor, mode_t mode) override;
-    Error ChangeOwner(int descriptor, uid_t user, gid_t group) override;
+    Error Lock(int file, bool waits) override { return Try(&PosixCalls::Lock, file, waits); }
+    Error Status(int file, FileStatus& status) override
+    {
+        return Try(&PosixCalls::Status, file, status);
+    }
+    Error StatusAt(const std::string& path, FileStatus& status) override
+    {
+        return Try(&PosixCalls::StatusAt, path, status);
+    }
+    Error AttributeSize(int file, const char* name, std::size_t& size) override
+    {
+        return Try(&PosixCalls::AttributeSize, file, name, size);
+    }
+    Error ChangeMode(int file, mode_t mode) override
+    {
+        return Try(&PosixCalls::ChangeMode, file, mode);
+    }
+    Error ChangeOwner(int file, uid_t user, gid_t group) override
+    {
+        return Try(&PosixCalls::ChangeOwner, file, user, group);
+    }
     Error Rename(const std::string& from, const std::string& to) override;
     Error Remove(const std::string& path) override;
-    Error ReadLink(const std::string& path, std::string& target) override;
+    Error ReadLink(const std::string& path, std::string& target) override
+    {
+        return Try(&PosixCalls::ReadLink, path, target);
+    }
     Error MakeFolder(const std::string& path, mode_t mode) override;
-    Error RemoveFolder(const std::string& path) override;
-    Error List(const std::string& path, std::vector<FolderEntry>& entries) override;
+    Error RemoveFolder(const std::string& path) override
+    {
+        return Try(&PosixCalls::RemoveFolder, path);
+    }
+    Error List(const std::string& path, std::vector<FolderEntry>& entries) override
+    {
+        return Try(&PosixCalls::List, path, entries);
+    }
 
 private:
     /// The trouble of this call, if it meets any.
@@ -98,6 +123,14 @@ private:
     Error Meet();
     void Die(Trouble death);
 
+    /// Meets an error or makes the call.
+    template <class... Declared, class... Given>
+    Error Try(Error (PosixCalls::*call)(Declared...), Given&&... given)
+    {
+        const Error error = Meet();
+        return error ? error : (m_calls.*call)(std::forward<Given>(given)...);
+    }
+
     std::optional<Trouble> m_trouble;
     int m_troubledCall = 0;
     int m_callCount = 0;
@@ -105,7 +138,6 @@ private:
     int m_struckAt = 0;
     bool m_isFull = false;
     bool m_isDead = false;
-    std::optional<int> m_exitStatus;
     PosixCalls m_calls;
     Unsynced m_unsynced;
 };

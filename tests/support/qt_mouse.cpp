@@ -49,6 +49,14 @@ std::vector<Text> RowsOf(QWidget& window, const char* name)
     return rows;
 }
 
+int RowWith(QWidget& window, const char* name, TextView words)
+{
+    const std::vector<Text> rows = RowsOf(window, name);
+    const auto found = std::find(rows.begin(), rows.end(), words);
+    EXPECT_NE(found, rows.end()) << ToUtf8(words) << " is not in " << name;
+    return static_cast<int>(found - rows.begin());
+}
+
 int SelectedRowOf(QWidget& window, const char* name)
 {
     const auto* list = Find<QListWidget>(window, name);

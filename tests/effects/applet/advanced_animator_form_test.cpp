@@ -81,22 +81,6 @@ TEST_F(AdvancedAnimatorFormTest, DoneHandsTheTypedAnimationOver)
     EXPECT_EQ(Form().Parameters(), expected);
 }
 
-TEST_F(AdvancedAnimatorFormTest, ComplaintsKeepTheWindowOpen)
-{
-    AddImage(0);
-    Click(Form(), "cmdDone");
-    EXPECT_EQ(m_desk.Dialogs.LastTone, Tone::Exclamation);
-    AddImage(1);
-    Form().activateWindow();
-    Click(Form(), "cmdDone");
-    EXPECT_EQ(m_desk.Dialogs.Said,
-              (std::vector<Text>{
-                  u"You must insert more than one image into the Animation Image List.",
-                  u"Animation width and height properties are required.  Please enter them."}));
-    EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("Text20"));
-    EXPECT_EQ(Form().TakePayload(), std::nullopt);
-}
-
 TEST_F(AdvancedAnimatorFormTest, PropertiesGoIntoTheSelectedRow)
 {
     AddImage(0);
@@ -135,9 +119,6 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnew)
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
               std::vector<Text>{u"You must enter an image into the Animation Image List."});
     AddImage(0);
-    Choose("mnuFileSave");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Please enter the animation width and height properties."});
     Type(Form(), "Text20", u"1");
     Type(Form(), "Text21", u"2");
     m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
@@ -158,21 +139,6 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnew)
     Choose("mnuFileReturnToMainMenu");
     EXPECT_FALSE(Form().isVisible());
     EXPECT_EQ(Form().TakePayload(), std::nullopt);
-}
-
-TEST_F(AdvancedAnimatorFormTest, OpensFilledFromAPastedTagWhileAnEditIsOn)
-{
-    m_desk.Core.EditMode = true;
-    m_desk.Core.AppletText = u"\"Animate";
-    m_desk.Core.PastedApplet = Generate({.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
-                                         .AnimationWidth = u"20"})
-                                   .BODYHTML;
-    AdvancedAnimator read;
-    ReadTag(read, {.Whole = m_desk.Core.PastedApplet, .AppletText = m_desk.Core.AppletText});
-    EXPECT_EQ(Form().Parameters(), read);
-    EXPECT_EQ(WordsOf(Form(), "Text20"), u"\"20");
-    EXPECT_EQ(Find<QListWidget>(Form(), "List1")->count(), 2);
-    EXPECT_FALSE(m_desk.Core.EditMode);
 }
 
 } // namespace

@@ -79,54 +79,43 @@ AdvancedAnimator Read(TextView pasted, TextView appletText)
     return animator;
 }
 
-/// A field of the first row, or of the window, and the line that it gives; empty for no line.
-struct LineCase
+TEST(AdvancedAnimatorTest, WritesTheLinesOfARowAndOfTheWindowAsTheyAreEntered)
 {
-    const char* Name;
-    void (*Enter)(AdvancedAnimator& animator);
-    TextView Key;
-    TextView Line;
-};
-
-class AnimatorLineTest : public ::testing::TestWithParam<LineCase>
-{
-};
-
-TEST_P(AnimatorLineTest, HoldsItsValue)
-{
-    AdvancedAnimator animator = TwoImages();
-    GetParam().Enter(animator);
-    const Text tag = Generate(animator).BODYHTML;
-    const std::size_t place = Find(tag, GetParam().Key);
-    const Text line(place == 0 ? u"" : Mid(tag, place, Find(tag, u"\r\n", place) - place));
-    ExpectSameText(GetParam().Line, line);
+    using A = AdvancedAnimator;
+    struct LineCase
+    {
+        void (*Enter)(A& animator);
+        TextView Key;
+        TextView Line; ///< empty for no line
+    };
+    const LineCase cases[] = {
+        {[](A& a) { a.Rows[0].FileName = u" \"a.gif"; }, u"<PARAM NAME=IMAGE.0",
+         u"<PARAM NAME=IMAGE.0 VALUE=\" \"a.gif\">"},
+        {[](A& a) { a.Rows[0].Pause = u" "; }, u"<PARAM NAME=PAUSE.0",
+         u"<PARAM NAME=PAUSE.0 VALUE=\"\">"},
+        {[](A& a) { a.Rows[0].Pause = u"null"; }, u"<PARAM NAME=PAUSE.0",
+         u"<PARAM NAME=PAUSE.0 VALUE=\"100\">"},
+        {[](A& a) { a.Rows[0].Sound = u" null"; }, u"<PARAM NAME=SOUND.0",
+         u"<PARAM NAME=SOUND.0 VALUE=\"null\">"},
+        {[](A& a) { a.Rows[0].Transition = u"NULL"; }, u"<PARAM NAME=TRANSITION.TYPE.0",
+         u"<PARAM NAME=TRANSITION.TYPE.0 VALUE=\"NULL\">"},
+        {[](A& a) { a.Rows[0].URL = u" x y ☃ "; }, u"<PARAM NAME=URL.0",
+         u"<PARAM NAME=URL.0 VALUE=\"x y ☃\">"},
+        {[](A& a) { a.LoopCount = u""; }, u"<PARAM NAME=CYCLES", u""},
+        {[](A& a) { a.LoopCount = u" 10 times"; }, u"<PARAM NAME=CYCLES",
+         u"<PARAM NAME=CYCLES VALUE=\"1\">"},
+        {[](A& a) { a.BackgroundColor = u" "; }, u"<PARAM NAME=BGCOLOR",
+         u"<PARAM NAME=BGCOLOR.0 VALUE=\"\">"},
+        {[](A& a) { a.AnimationHeight = u" 7 px "; }, u"HEIGHT=", u"HEIGHT=\"7 px\">"}};
+    for (const auto& [enter, key, expected] : cases) {
+        AdvancedAnimator animator = TwoImages();
+        enter(animator);
+        const Text tag = Generate(animator).BODYHTML;
+        const std::size_t place = Find(tag, key);
+        const Text line(place == 0 ? u"" : Mid(tag, place, Find(tag, u"\r\n", place) - place));
+        ExpectSameText(expected, line);
+    }
 }
-
-using A = AdvancedAnimator;
-INSTANTIATE_TEST_SUITE_P(
-    Values, AnimatorLineTest,
-    ::testing::Values(
-        LineCase{"ImageIsNotTrimmed", [](A& a) { a.Rows[0].FileName = u" \"a.gif"; },
-                 u"<PARAM NAME=IMAGE.0", u"<PARAM NAME=IMAGE.0 VALUE=\" \"a.gif\">"},
-        LineCase{"BlankPauseIsNotEmpty", [](A& a) { a.Rows[0].Pause = u" "; },
-                 u"<PARAM NAME=PAUSE.0", u"<PARAM NAME=PAUSE.0 VALUE=\"\">"},
-        LineCase{"NullPause", [](A& a) { a.Rows[0].Pause = u"null"; }, u"<PARAM NAME=PAUSE.0",
-                 u"<PARAM NAME=PAUSE.0 VALUE=\"100\">"},
-        LineCase{"BlankNullIsNoNull", [](A& a) { a.Rows[0].Sound = u" null"; },
-                 u"<PARAM NAME=SOUND.0", u"<PARAM NAME=SOUND.0 VALUE=\"null\">"},
-        LineCase{"CapitalNullIsNoNull", [](A& a) { a.Rows[0].Transition = u"NULL"; },
-                 u"<PARAM NAME=TRANSITION.TYPE.0",
-                 u"<PARAM NAME=TRANSITION.TYPE.0 VALUE=\"NULL\">"},
-        LineCase{"UrlIsTrimmed", [](A& a) { a.Rows[0].URL = u" x y ☃ "; }, u"<PARAM NAME=URL.0",
-                 u"<PARAM NAME=URL.0 VALUE=\"x y ☃\">"},
-        LineCase{"EmptyLoop", [](A& a) { a.LoopCount = u""; }, u"<PARAM NAME=CYCLES", u""},
-        LineCase{"LoopIsCutBeforeItIsTrimmed", [](A& a) { a.LoopCount = u" 10 times"; },
-                 u"<PARAM NAME=CYCLES", u"<PARAM NAME=CYCLES VALUE=\"1\">"},
-        LineCase{"BlankBackground", [](A& a) { a.BackgroundColor = u" "; }, u"<PARAM NAME=BGCOLOR",
-                 u"<PARAM NAME=BGCOLOR.0 VALUE=\"\">"},
-        LineCase{"HeightIsTrimmed", [](A& a) { a.AnimationHeight = u" 7 px "; }, u"HEIGHT=",
-                 u"HEIGHT=\"7 px\">"}),
-    [](const auto& row) { return row.param.Name; });
 
 TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
 {

@@ -72,14 +72,6 @@ TEST_F(ImgPropsFormTest, ChoosingATransitionRefillsTheDirections)
     EXPECT_EQ(m_form->Row().Transition, u"slideout(r)");
 }
 
-TEST_F(ImgPropsFormTest, AStoredShutterOpensWithAnEnabledEmptyDirectionBox)
-{
-    Open({.FileName = u"a.gif", .Transition = u"shutter(1)"});
-    EXPECT_TRUE(Box("Combo1").isEnabled());
-    EXPECT_EQ(Box("Combo1").count(), 0);
-    EXPECT_EQ(WordsOf(*m_form, "lblDescription"), u"");
-}
-
 TEST_F(ImgPropsFormTest, WaitingForAClickFillsAndLocksThePause)
 {
     Open({.FileName = u"a.gif", .Pause = u"250"});

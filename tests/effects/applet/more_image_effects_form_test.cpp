@@ -74,8 +74,6 @@ TEST_F(MoreImageEffectsFormTest, PauseAndEdgeComeAndGo)
         loops->setEditText(QStringLiteral("1"));
         EXPECT_FALSE(Shows("PauseSeconds"));
     }
-    loops->setEditText(QStringLiteral("1"));
-    EXPECT_FALSE(Shows("PauseSeconds"));
     m_form.SetParameters(m_form.Parameters());
     EXPECT_FALSE(Shows("PauseSeconds"));
     Pick("Expand & Shrink");

@@ -24,49 +24,38 @@ Text LineOf(const DigitalClock& clock, int line)
     return Text(Mid(page, start, Find(page, lineEnd, start) - start));
 }
 
-struct PageCase
+TEST(DigitalClockTest, WritesScriptAndElementsIntoTheBodyAlone)
 {
-    const char* File;
-    DigitalClock Clock;
-};
-
-class DigitalClockPageTest : public ::testing::TestWithParam<PageCase>
-{
-};
-
-TEST_P(DigitalClockPageTest, WritesScriptAndElementsIntoTheBodyAlone)
-{
-    EffectPayload payload = Generate(GetParam().Clock);
-    payload.SavedHEAD.clear();
-    payload.SavedBODY.clear();
-    ExpectSameText(ExpectedText(GetParam().File), payload.BODYHTML);
-    const EffectPayload rest{.Kind = EffectKind::DigitalClock, .BODYHTML = payload.BODYHTML};
-    EXPECT_EQ(payload, rest);
+    const std::pair<std::string, DigitalClock> cases[] = {
+        {"date_default_november_28_2001", {.lstDateTimeFormat = u"November 28, 2001"}},
+        {"both_day_of_week",
+         {.optDateTime = both,
+          .lstDateTimeFormat = u"11/28/2001",
+          .chkDayOfWeek = true,
+          .cboFont = u"Courier New",
+          .cboFontSize = u"20",
+          .cboFontStyle = u"Bold Italic",
+          .txtPadding = u"5",
+          .BGColor = u"#FFFF00",
+          .FontColor = u"#0000FF"}},
+        {"time_first",
+         {.optDateTime = both,
+          .lstDateTimeFormat = u"28 November 2001",
+          .chkShowTimeBeforeDate = true,
+          .chkMilitaryTime = true,
+          .chkShowSeconds = true,
+          .chkShowAMPM = true}},
+        {"dangling", {.lstDateTimeFormat = u"28-11-2001"}},
+        {"time_only_plain", {.optDateTime = time}}};
+    for (const auto& [name, clock] : cases) {
+        EffectPayload payload = Generate(clock);
+        payload.SavedHEAD.clear();
+        payload.SavedBODY.clear();
+        ExpectSameText(ExpectedText("digital_clock_" + name + ".html"), payload.BODYHTML);
+        const EffectPayload rest{.Kind = EffectKind::DigitalClock, .BODYHTML = payload.BODYHTML};
+        EXPECT_EQ(payload, rest);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Pages, DigitalClockPageTest,
-    ::testing::Values(PageCase{"digital_clock_date_default_november_28_2001.html",
-                               {.lstDateTimeFormat = u"November 28, 2001"}},
-                      PageCase{"digital_clock_both_day_of_week.html",
-                               {.optDateTime = both,
-                                .lstDateTimeFormat = u"11/28/2001",
-                                .chkDayOfWeek = true,
-                                .cboFont = u"Courier New",
-                                .cboFontSize = u"20",
-                                .cboFontStyle = u"Bold Italic",
-                                .txtPadding = u"5",
-                                .BGColor = u"#FFFF00",
-                                .FontColor = u"#0000FF"}},
-                      PageCase{"digital_clock_time_first.html",
-                               {.optDateTime = both,
-                                .lstDateTimeFormat = u"28 November 2001",
-                                .chkShowTimeBeforeDate = true,
-                                .chkMilitaryTime = true,
-                                .chkShowSeconds = true,
-                                .chkShowAMPM = true}},
-                      PageCase{"digital_clock_dangling.html", {.lstDateTimeFormat = u"28-11-2001"}},
-                      PageCase{"digital_clock_time_only_plain.html", {.optDateTime = time}}));
 
 TEST(DigitalClockTest, SavesTheScriptAndTheElementsWithSampleWords)
 {
@@ -94,72 +83,60 @@ TEST(DigitalClockTest, EachDateFormatHasItsLineWithAndWithoutTheDayOfWeek)
     EXPECT_EQ(count, 24);
 }
 
-struct LineCase
+TEST(DigitalClockTest, WritesTheLinesOfTimeAndStyle)
 {
-    int Line;
-    TextView Expected;
-    DigitalClock Clock;
-};
-
-class DigitalClockLineTest : public ::testing::TestWithParam<LineCase>
-{
-};
-
-TEST_P(DigitalClockLineTest, ReadsAsItAlwaysDid)
-{
-    ExpectSameText(GetParam().Expected, LineOf(GetParam().Clock, GetParam().Line));
+    struct LineCase
+    {
+        int Line;
+        TextView Expected;
+        DigitalClock Clock;
+    };
+    const LineCase cases[] = {
+        {60,
+         u" strClock = int24Hours + ':' + intMinutes + ' ' + strAMPM",
+         {.optDateTime = time,
+          .lstDateTimeFormat = u"November 28",
+          .chkDayOfWeek = true,
+          .chkShowTimeBeforeDate = true,
+          .chkMilitaryTime = true,
+          .chkShowAMPM = true}},
+        {60,
+         u" strClock = intHours + ':' + intMinutes + ':' + intSeconds",
+         {.optDateTime = time, .chkShowSeconds = true}},
+        {60,
+         u" strClock = '' + strMonthName + ' ' + intWeekday",
+         {.optDateTime = date,
+          .lstDateTimeFormat = u"November 28",
+          .chkShowTimeBeforeDate = true,
+          .chkShowSeconds = true}},
+        {60,
+         u" strClock = '' +  + ' &nbsp; ' + intHours + ':' + intMinutes",
+         {.optDateTime = both, .lstDateTimeFormat = u"28-11-2001"}},
+        {60,
+         u" strClock = intHours + ':' + intMinutes + ' &nbsp; ' + strDayName + ', ' + ",
+         {.optDateTime = both,
+          .lstDateTimeFormat = u"28-11-2001",
+          .chkDayOfWeek = true,
+          .chkShowTimeBeforeDate = true}},
+        {79, u"<LAYER ID='lyrClock' bgcolor=''></LAYER>", {.FontColor = u"#0000FF"}},
+        {80,
+         u"<SPAN ID='spnClock' style=';color:#0000FF;font-weight:bold;font-family:Arial;"
+         u"font-size:12pt;padding:2'></SPAN>",
+         {.cboFontStyle = u"Bold", .FontColor = u"#0000FF"}},
+        {80,
+         u"<SPAN ID='spnClock' style=';background-color:#AB0000;font-style:italic;"
+         u"font-family:Arial;font-size:12pt;padding:'></SPAN>",
+         {.cboFontStyle = u"Italic", .txtPadding = u"", .BGColor = u"#AB0000"}},
+        {64,
+         u"       strClock = \"<span style=';font-family:A\"'«ClockExpr»Ω\n;font-size: x pt;"
+         u"padding:two'>\" + strClock + \"</span>\"",
+         {.cboFont = u"A\"'«ClockExpr»Ω\n",
+          .cboFontSize = u" x ",
+          .cboFontStyle = u"bold",
+          .txtPadding = u"two"}}};
+    for (const auto& [line, expected, clock] : cases)
+        ExpectSameText(expected, LineOf(clock, line));
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Times, DigitalClockLineTest,
-    ::testing::Values(
-        LineCase{60,
-                 u" strClock = int24Hours + ':' + intMinutes + ' ' + strAMPM",
-                 {.optDateTime = time,
-                  .lstDateTimeFormat = u"November 28",
-                  .chkDayOfWeek = true,
-                  .chkShowTimeBeforeDate = true,
-                  .chkMilitaryTime = true,
-                  .chkShowAMPM = true}},
-        LineCase{60,
-                 u" strClock = intHours + ':' + intMinutes + ':' + intSeconds",
-                 {.optDateTime = time, .chkShowSeconds = true}},
-        LineCase{60,
-                 u" strClock = '' + strMonthName + ' ' + intWeekday",
-                 {.optDateTime = date,
-                  .lstDateTimeFormat = u"November 28",
-                  .chkShowTimeBeforeDate = true,
-                  .chkShowSeconds = true}},
-        LineCase{60,
-                 u" strClock = '' +  + ' &nbsp; ' + intHours + ':' + intMinutes",
-                 {.optDateTime = both, .lstDateTimeFormat = u"28-11-2001"}},
-        LineCase{60,
-                 u" strClock = intHours + ':' + intMinutes + ' &nbsp; ' + strDayName + ', ' + ",
-                 {.optDateTime = both,
-                  .lstDateTimeFormat = u"28-11-2001",
-                  .chkDayOfWeek = true,
-                  .chkShowTimeBeforeDate = true}}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Styles, DigitalClockLineTest,
-    ::testing::Values(
-        LineCase{79, u"<LAYER ID='lyrClock' bgcolor=''></LAYER>", {.FontColor = u"#0000FF"}},
-        LineCase{80,
-                 u"<SPAN ID='spnClock' style=';color:#0000FF;font-weight:bold;font-family:Arial;"
-                 u"font-size:12pt;padding:2'></SPAN>",
-                 {.cboFontStyle = u"Bold", .FontColor = u"#0000FF"}},
-        LineCase{80,
-                 u"<SPAN ID='spnClock' style=';background-color:#AB0000;font-style:italic;"
-                 u"font-family:Arial;font-size:12pt;padding:'></SPAN>",
-                 {.cboFontStyle = u"Italic", .txtPadding = u"", .BGColor = u"#AB0000"}},
-        LineCase{
-            64,
-            u"       strClock = \"<span style=';font-family:A\"'«ClockExpr»Ω\n;font-size: x pt;"
-            u"padding:two'>\" + strClock + \"</span>\"",
-            {.cboFont = u"A\"'«ClockExpr»Ω\n",
-             .cboFontSize = u" x ",
-             .cboFontStyle = u"bold",
-             .txtPadding = u"two"}}));
 
 TEST(DigitalClockTest, NeedsADateFormatUnlessItTellsTheTimeAlone)
 {
@@ -171,36 +148,26 @@ TEST(DigitalClockTest, NeedsADateFormatUnlessItTellsTheTimeAlone)
     EXPECT_EQ(Check({.lstDateTimeFormat = u"28-11-2001"}), std::nullopt);
 }
 
-struct RoadCase
+TEST(DigitalClockTest, CountsThePagesSeenForthAndBack)
 {
-    ClockContent Content;
-    std::vector<int> Pages; ///< from the first one to the end
-};
-
-class DigitalClockRoadTest : public ::testing::TestWithParam<RoadCase>
-{
-};
-
-TEST_P(DigitalClockRoadTest, CountsThePagesSeenForthAndBack)
-{
-    const DigitalClock clock{.optDateTime = GetParam().Content};
-    ClockPosition at;
-    std::int16_t step = 1;
-    for (const int page : GetParam().Pages) {
-        EXPECT_EQ(at.CurrentPage, page);
-        EXPECT_EQ(at.CurrentStep, step++);
-        at = NextPage(clock, at);
-    }
-    for (auto page = GetParam().Pages.rbegin(); page != GetParam().Pages.rend(); ++page) {
-        at = PreviousPage(clock, at);
-        EXPECT_EQ(at.CurrentPage, *page);
-        EXPECT_EQ(at.CurrentStep, --step);
+    const std::pair<ClockContent, std::vector<int>> roads[] = {
+        {date, {1, 2, 4}}, {time, {1, 3, 4}}, {both, {1, 2, 3, 4}}};
+    for (const auto& [content, pages] : roads) {
+        const DigitalClock clock{.optDateTime = content};
+        ClockPosition at;
+        std::int16_t step = 1;
+        for (const int page : pages) {
+            EXPECT_EQ(at.CurrentPage, page);
+            EXPECT_EQ(at.CurrentStep, step++);
+            at = NextPage(clock, at);
+        }
+        for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
+            at = PreviousPage(clock, at);
+            EXPECT_EQ(at.CurrentPage, *page);
+            EXPECT_EQ(at.CurrentStep, --step);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Roads, DigitalClockRoadTest,
-                         ::testing::Values(RoadCase{date, {1, 2, 4}}, RoadCase{time, {1, 3, 4}},
-                                           RoadCase{both, {1, 2, 3, 4}}));
 
 } // namespace
 } // namespace orvane

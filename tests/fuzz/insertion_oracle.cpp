@@ -1,4 +1,4 @@
-#include "tests/support/insertion_oracle.h"
+#include "tests/fuzz/insertion_oracle.h"
 
 #include <cstdint>
 

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+#include "core/settings.h"
+
+#include <optional>
+
+namespace orvane {
+
+/// What the author enters on the Anti-Spam Email Link window; the defaults are those of a fresh
+/// window without a stored address.
+struct AntiSpamLink
+{
+    Text Email;
+    Text MailToText;
+    Text txtImage; ///< file name; empty for a link of text alone
+    Text txtSubject;
+    bool chkAntiSpam = true; ///< the address never stands whole in the page
+    bool operator==(const AntiSpamLink&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<AntiSpamLink> Link, class Field>
+void ForEachField(Link& link, Field&& field)
+{
+    field("Email", link.Email);
+    field("MailToText", link.MailToText);
+    field("txtImage", link.txtImage);
+    field("txtSubject", link.txtSubject);
+    field("chkAntiSpam", link.chkAntiSpam);
+}
+
+/// The author's address, which is shared with the maker's page editor; empty before the first use.
+Text StoredEmail(const Settings& settings);
+void StoreEmail(Settings& settings, TextView email);
+
+/// The first failing check in field order, or nothing when the wizard may finish.
+std::optional<Complaint> Check(const AntiSpamLink& link);
+
+/// The link's page text. Expects a link that passes Check().
+EffectPayload Generate(const AntiSpamLink& link);
+
+} // namespace orvane

@@ -1,0 +1,148 @@
+#include "effects/page/password_protection_form.h"
+
+#include "core/file_names.h"
+#include "insertion/page_encoding.h"
+#include "windows/qt_text.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <utility>
+
+namespace orvane {
+
+using namespace password_pages;
+
+namespace {
+
+constexpr TextView heading = u"Password Protection";
+
+} // namespace
+
+PasswordProtectionForm::PasswordProtectionForm(Workbench& bench, QWidget* parent)
+    : EffectForm("Password", bench, parent)
+{
+    AddSchemePage();
+    AddScriptPage();
+    AddServerPage();
+    for (auto* option : findChildren<QRadioButton*>())
+        connect(option, &QRadioButton::toggled, this, [this] { UpdateForm(); });
+    AddButtons(Buttons::Paged);
+}
+
+void PasswordProtectionForm::AddSchemePage()
+{
+    PageBuilder page = AddPage({heading, FindRow(EffectKind::PasswordScript)->Description});
+    PageBuilder frame = page.Frame(u"Select a password protection scheme");
+    frame.OptionGroup("optScheme",
+                      {u"JavaScript Password (medium security)", u"CGI Password (high security)"});
+    lblDescription = frame.Note(DescriptionOf(PasswordScheme::None), "lblDescription");
+    page.Fill();
+}
+
+void PasswordProtectionForm::AddScriptPage()
+{
+    PageBuilder page =
+        AddPage({heading, FindRow(EffectKind::PasswordScript)->Description, "optPasswordType(0)"});
+    PageBuilder frame = page.Frame(u"Password type");
+    optOnePassword = frame.Option("optPasswordType", 0,
+                                  u"Use one password to gain access to a specific Web page.");
+    frame.Option("optPasswordType", 1,
+                 u"Use different passwords that allow access to different Web pages.",
+                 u"For example, typing the password \"bob\" accesses the bob.html Web page, and "
+                 u"typing \"sam\" will access the sam.html Web page.");
+    const GateWords words = GateWordsOf(PasswordType::One);
+    GatePassword = page.TextBox("GatePassword", u"Password:",
+                                u"This is the password to be used in the password protection");
+    GateUrl = page.TextBox("GateUrl", words.Label,
+                           u"This i the Web page URL (address) to be displayed if the user logs "
+                           u"in successfully");
+    lblGateUrl = LabelOf(GateUrl);
+    lblGateUrl->setObjectName(QStringLiteral("lblGateUrl"));
+    lblExample = page.Note(words.Example, "lblExample");
+    page.Fill();
+}
+
+void PasswordProtectionForm::AddServerPage()
+{
+    PageBuilder page =
+        AddPage({heading, FindRow(EffectKind::PasswordServer)->Description, "LoginUsername"});
+    page.TextBox("LoginUsername", u"Username:",
+                 u"This is the username to be used in the password protection");
+    page.TextBox("LoginPassword", u"Password:",
+                 u"This is the password to be used in the password protection");
+    page.TextBox("LandingUrl", u"Display this Web page (URL) when user logs in:",
+                 u"This is the Web page URL (address) that will be displayed if the user logs in "
+                 u"successfully");
+    PageBuilder optional = page.Frame(u"Optional settings");
+    optional.Note(u"These settings may need to be specified if your Internet service provider's "
+                  u"Web server requires them.  Click on the help button for more information.");
+    auto* change = optional.CheckBox("ChangeSettings", u"Change settings");
+    CgiDirectory = optional.TextBox(
+        "CgiDirectory", u"Directory containing password.cgi file:",
+        u"This is the directory (folder) that contains the password.cgi file on the Web server",
+        u"(if different from default directory)");
+    PerlPath = optional.TextBox("PerlPath", u"Path to PERL compiler:",
+                                u"This is the pathname of the PERL compiler on your Web server");
+    connect(change, &QCheckBox::toggled, this, [this] { UpdateForm(); });
+    page.Fill();
+}
+
+void PasswordProtectionForm::UpdateForm()
+{
+    const PasswordProtection fields = Parameters();
+    lblDescription->setText(ToQt(DescriptionOf(fields.optScheme)));
+    const GateWords words = GateWordsOf(fields.optPasswordType);
+    ShowRow(GatePassword, fields.optPasswordType == PasswordType::One);
+    lblGateUrl->setText(ToQt(words.Label));
+    GateUrl->setAccessibleName(SpokenName(words.Label));
+    lblExample->setText(ToQt(words.Example));
+    CgiDirectory->setEnabled(fields.ChangeSettings);
+    PerlPath->setEnabled(fields.ChangeSettings);
+}
+
+int PasswordProtectionForm::PageBehind(int page) const
+{
+    if (page != scheme)
+        return -1;
+    return Parameters().optScheme == PasswordScheme::Server ? server : script;
+}
+
+int PasswordProtectionForm::PageBefore(int) const
+{
+    return scheme;
+}
+
+void PasswordProtectionForm::Next()
+{
+    const int before = Page();
+    EffectForm::Next();
+    if (Page() == before)
+        return;
+    SetEffect(Page() == server ? EffectKind::PasswordServer : EffectKind::PasswordScript);
+    // Stays as it is: whoever comes to the page again starts with one password.
+    if (Page() == script && !std::exchange(m_keepsOption, false))
+        optOnePassword->setChecked(true);
+}
+
+void PasswordProtectionForm::TakeDraft(TextView draft)
+{
+    EffectForm::TakeDraft(draft);
+    m_keepsOption = true;
+}
+
+/// The login form needs its script in the program's folder, from where it is copied to the page.
+void PasswordProtectionForm::Deliver(EffectPayload payload)
+{
+    if (payload.Kind == EffectKind::PasswordServer) {
+        const Done written = m_bench.Files.Replace(
+            PathIn(m_bench.Core.ProgramFolder, PasswordScriptName),
+            EncodeForPage(PasswordScript(Parameters()), PageEncoding::Windows1252));
+        if (const Fault* fault = FaultIn(written))
+            return Report({Text(Words(*fault)), {}});
+    }
+    EffectForm::Deliver(std::move(payload));
+}
+
+} // namespace orvane

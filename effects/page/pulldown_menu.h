@@ -1,0 +1,69 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+
+#include <array>
+#include <optional>
+
+namespace orvane {
+
+/// How a menu looks on the page; the numbers are the indexes of the options.
+enum class MenuDisplay
+{
+    AllItems = 0,
+    Dropdown = 1,
+};
+
+/// What the author enters on the Pulldown Menu window; the defaults are those of a fresh window.
+struct PulldownMenu
+{
+    std::vector<Text> List1; ///< item texts
+    std::vector<Text> List2; ///< the items' addresses, in step with the texts
+    MenuDisplay optDisplay = MenuDisplay::Dropdown;
+    Text cboTarget = u"self";
+    bool operator==(const PulldownMenu&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<PulldownMenu> Menu, class Field>
+void ForEachField(Menu& menu, Field&& field)
+{
+    field("List1", menu.List1);
+    field("List2", menu.List2);
+    field("optDisplay", menu.optDisplay);
+    field("cboTarget", menu.cboTarget);
+}
+
+/// The target frames that the window offers.
+inline constexpr std::array<TextView, 4> MenuTargets = {u"blank - Open in new window", u"parent",
+                                                        u"self", u"top"};
+
+/// The item that parts a menu; it is known by this text and has no address.
+inline constexpr TextView MenuSeparator = u"--------------------";
+
+/// What the author enters for one item.
+struct MenuItem
+{
+    Text txtMenuItem;
+    Text txtMenuItemURL;
+    bool operator==(const MenuItem&) const = default;
+};
+
+/// What an item may not be left without, or nothing when it may go into the menu.
+std::optional<Complaint> Check(const MenuItem& item);
+
+/// Completes the item's address.
+void Tidy(MenuItem& item);
+
+/// Why the item of that text cannot be edited, or nothing when it can.
+std::optional<Complaint> CheckEdit(TextView item);
+
+/// The complaint about a menu without items, or nothing when the wizard may finish.
+std::optional<Complaint> Check(const PulldownMenu& menu);
+
+/// The menu's page text. Expects a menu that passes Check().
+EffectPayload Generate(const PulldownMenu& menu);
+
+} // namespace orvane

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+
+#include <optional>
+
+namespace orvane {
+
+/// What a search box searches; the numbers are the indexes of the options.
+enum class SearchPlace
+{
+    Web = 0,
+    Site = 1,
+};
+
+/// The mode of the search box; any other text is that of the translator.
+inline constexpr TextView SearchMode = u"Search";
+inline constexpr TextView TranslateMode = u"Translate";
+
+/// The sample page of the translator's label and message.
+inline constexpr TextView TranslateSample = u"http://www.mysite.example/mypage.html";
+
+/// What the author enters on the window that makes search boxes and page translators; the defaults
+/// are those of a fresh window.
+struct SearchBox
+{
+    Text Mode = Text(SearchMode);
+    SearchPlace optSearch = SearchPlace::Web;
+    Text txtURL; ///< the site to search
+    Text txtTranslateURL = u"http://";
+    bool operator==(const SearchBox&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<SearchBox> Box, class Field>
+void ForEachField(Box& box, Field&& field)
+{
+    field("Mode", box.Mode);
+    field("optSearch", box.optSearch);
+    field("txtURL", box.txtURL);
+    field("txtTranslateURL", box.txtTranslateURL);
+}
+
+/// What the window is called and shows in a mode.
+struct SearchModeWords
+{
+    EffectKind Kind;
+    TextView Heading;
+    TextView SubHeading;
+};
+SearchModeWords WordsOfMode(TextView mode);
+
+/// The picture of both forms, which lies in the program's folder and must lie beside the page.
+inline constexpr TextView SearchLogo = u"GoogleLogo.gif";
+
+/// The failing check of the mode, or nothing when the wizard may finish.
+std::optional<Complaint> Check(const SearchBox& box);
+
+/// The form's page text, with its picture in slot 0 of the files and the picture's source unknown.
+/// Expects a box that passes Check().
+EffectPayload Generate(const SearchBox& box);
+
+} // namespace orvane

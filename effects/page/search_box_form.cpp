@@ -1,0 +1,54 @@
+#include "effects/page/search_box_form.h"
+
+#include "core/file_names.h"
+
+#include <QRadioButton>
+
+namespace orvane {
+
+SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
+    : EffectForm("frmGoogle", bench, parent), m_mode(mode)
+{
+    const SearchModeWords words = WordsOfMode(mode);
+    SetEffect(words.Kind);
+    // The cursor waits behind the "http://", which stays unselected.
+    PageBuilder page = AddPage(
+        {words.Heading, words.SubHeading, mode == SearchMode ? ControlName() : "txtTranslateURL"});
+    page.HiddenText("Mode");
+    PageBuilder search = page.Frame(u"Search box settings", "frameSearch");
+    frameSearch = search.Page();
+    search.OptionGroup("optSearch", {u"Search the Web", u"Search a specific Web site"});
+    for (int i = 0; i < 2; ++i)
+        connect(findChild<QRadioButton*>(MemberName("optSearch", i)), &QRadioButton::toggled, this,
+                [this] { UpdateForm(); });
+    txtURL = search.TextBox("txtURL", u"Web site:", {}, u"e.g., mysite.com");
+    PageBuilder translate = page.Frame(u"Translation settings", "frameTranslate");
+    frameTranslate = translate.Page();
+    translate.TextBox("txtTranslateURL", u"Web page:");
+    translate.Note(Join({u"e.g., ", TranslateSample}));
+    page.Fill();
+    AddButtons(Buttons::OnePage);
+}
+
+SearchBox SearchBoxForm::Fresh() const
+{
+    return {.Mode = Text(m_mode)};
+}
+
+void SearchBoxForm::UpdateForm()
+{
+    const SearchBox box = Parameters();
+    frameSearch->setVisible(box.Mode == SearchMode);
+    frameTranslate->setVisible(box.Mode != SearchMode);
+    txtURL->setEnabled(box.optSearch == SearchPlace::Site);
+}
+
+/// The picture comes out of the program's folder.
+EffectPayload SearchBoxForm::Produce(const SearchBox& box) const
+{
+    EffectPayload payload = Generate(box);
+    payload.Required.Sources[0] = PathIn(m_bench.Core.ProgramFolder, SearchLogo);
+    return payload;
+}
+
+} // namespace orvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "effects/page/search_box.h"
+#include "windows/effect_form.h"
+
+namespace orvane {
+
+/// The window of the Search Box and of the Web Page Translator.
+class SearchBoxForm : public EffectForm<SearchBox>
+{
+    Q_OBJECT
+
+public:
+    /// The window in that mode.
+    explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = SearchMode);
+
+protected:
+    SearchBox Fresh() const override;
+    void UpdateForm() override;
+    EffectPayload Produce(const SearchBox& box) const override;
+
+private:
+    const TextView m_mode;
+    QWidget* frameSearch;
+    QLineEdit* txtURL;
+    QWidget* frameTranslate;
+};
+
+} // namespace orvane

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+#include "core/pick_lists.h"
+
+#include <array>
+#include <optional>
+
+namespace orvane {
+
+/// Over what the mouse brings the tooltip up; the numbers are the indexes of the options.
+enum class HoverObject
+{
+    None = -1,
+    Words = 0,
+    Image = 1,
+};
+
+/// Where the tooltip comes up.
+inline constexpr std::array<TextView, 2> tooltipLocations = {u"Below the mousepointer",
+                                                             u"Above the mousepointer"};
+
+/// What the author enters on the Tooltips window; the defaults are those of a fresh window.
+struct Tooltips
+{
+    Text txtTooltipText;
+    Text cboFont = u"Arial";
+    Text cboFontSize = Text(FontSizes[6]);
+    Text cboFontStyle = u"Normal";
+    Text TextColor = u"#000000"; ///< a picked one is as "rgb(255,128,0)"
+    Text BGColor = u"#FFFFFF";
+    Text txtWidth = u"150";
+    Text txtHeight = u"50";
+    bool chk3D = false;
+    Text cboDisplayLocation = Text(tooltipLocations[0]);
+    Text txtTitleText; ///< optional
+    Text cboTitleAlign = u"Left";
+    HoverObject optHoverObject = HoverObject::None;
+    Text txtMainText;
+    Text txtImage; ///< with its folder, as Browse gave it
+    bool operator==(const Tooltips&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<Tooltips> Tooltip, class Field>
+void ForEachField(Tooltip& tooltip, Field&& field)
+{
+    field("txtTooltipText", tooltip.txtTooltipText);
+    field("cboFont", tooltip.cboFont);
+    field("cboFontSize", tooltip.cboFontSize);
+    field("cboFontStyle", tooltip.cboFontStyle);
+    field("TextColor", tooltip.TextColor);
+    field("BGColor", tooltip.BGColor);
+    field("txtWidth", tooltip.txtWidth);
+    field("txtHeight", tooltip.txtHeight);
+    field("chk3D", tooltip.chk3D);
+    field("cboDisplayLocation", tooltip.cboDisplayLocation);
+    field("txtTitleText", tooltip.txtTitleText);
+    field("cboTitleAlign", tooltip.cboTitleAlign);
+    field("optHoverObject", tooltip.optHoverObject);
+    field("txtMainText", tooltip.txtMainText);
+    field("txtImage", tooltip.txtImage);
+}
+
+/// What Next refuses on a page, which is counted from 0; nothing when the author may go on.
+std::optional<Complaint> CheckPage(const Tooltips& tooltip, int page);
+
+/// The tooltip's page text, with the image that must lie beside the page. Expects a tooltip that
+/// passes CheckPage() on every page.
+EffectPayload Generate(const Tooltips& tooltip);
+
+} // namespace orvane

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "core/complaint.h"
+#include "core/fields.h"
+#include "core/payload.h"
+#include "core/pick_lists.h"
+#include "services/row_list.h"
+
+#include <optional>
+#include <vector>
+
+namespace orvane {
+
+/// What the author enters on the Vertical Scroller window; the defaults are those of a fresh
+/// window.
+struct VerticalScroller
+{
+    std::vector<Text> lstItems; ///< the messages; lines of one end in CR LF
+    std::vector<Text> lstLinks; ///< the address of each message, or an empty text
+    Text cboFont = u"Arial";
+    Text cboFontSize = Text(FontSizes[6]);
+    Text cboFontStyle = u"Normal";
+    Text TextColor; ///< as "rgb(255,128,0)"; empty when none was picked, as are the other two
+    Text LinkColor;
+    Text cboTextAlign = u"Left"; ///< stays as it is: no page has ever shown it
+    Text txtWidth = u"150";
+    Text txtHeight = u"75";
+    Text BGColor;
+    int sldrSpeed = 90;
+    Text txtPause = u"3"; ///< seconds, as typed
+    bool operator==(const VerticalScroller&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<VerticalScroller> Scroller, class Field>
+void ForEachField(Scroller& scroller, Field&& field)
+{
+    field("lstItems", scroller.lstItems);
+    field("lstLinks", scroller.lstLinks);
+    field("cboFont", scroller.cboFont);
+    field("cboFontSize", scroller.cboFontSize);
+    field("cboFontStyle", scroller.cboFontStyle);
+    field("cmdTextColor", scroller.TextColor);
+    field("cmdLinkColor", scroller.LinkColor);
+    field("cboTextAlign", scroller.cboTextAlign);
+    field("txtWidth", scroller.txtWidth);
+    field("txtHeight", scroller.txtHeight);
+    field("cmdBGColor", scroller.BGColor);
+    field("sldrSpeed", scroller.sldrSpeed);
+    field("txtPause", scroller.txtPause);
+}
+
+/// What an author is told when a command finds no message to work on.
+inline constexpr RowListWords scrollerWords{
+    .EditEmpty = u"The list of items is empty.  Please add an item before editing it.",
+    .EditNone = u"Select an item from the list in order to edit it.",
+    .RemoveEmpty = u"The list of items is empty.  Please add an item before removing it.",
+    .RemoveNone = u"Select an item from the list in order to remove it.",
+    .CannotMoveUp = u"Select an item in the list.  You cannot move the first item upward.",
+    .CannotMoveDown = u"Select an item in the list.  You cannot move the last item downward.",
+};
+
+/// The complaint about an empty text of a message.
+std::optional<Complaint> CheckScrollerItem(TextView txtItem);
+
+/// What keeps the author on a page, which is counted from 0; nothing when there is no such thing.
+std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page);
+
+/// Puts the usual colours where none was picked.
+void Tidy(VerticalScroller& scroller);
+
+/// The scroller's page text. Expects a scroller that passes CheckPage() on every page.
+EffectPayload Generate(VerticalScroller scroller);
+
+} // namespace orvane

@@ -1,0 +1,115 @@
+#include "effects/text/vertical_scroller_form.h"
+
+#include "effects/text/vert_scroller_add_form.h"
+#include "windows/row_list_panel.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView heading = u"Vertical Scrolling Text";
+constexpr TextView subHeading =
+    u"Scroll text vertically like a newsfeed and link each scrolling item to a Web page!  Hovering "
+    u"over the text pauses the scroller.";
+
+constexpr RowButton buttons[] = {
+    {RowCommand::Add, "cmdAdd", u"&Add item..."},
+    {RowCommand::Edit, "cmdEdit", u"&Edit item..."},
+    {RowCommand::Remove, "cmdRemove", u"&Remove item"},
+    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"},
+};
+
+constexpr TextView alignments[] = {u"Left", u"Right", u"Center"};
+
+constexpr int endOfWizard = 3;
+
+} // namespace
+
+VerticalScrollerForm::VerticalScrollerForm(Workbench& bench, QWidget* parent)
+    : EffectForm("frmVertScroller", bench, parent),
+      m_items(new RowListPanel(
+          {{"lstItems", u"Vertical Scroller items:"}, {"lstLinks", u"Link to this URL:"}},
+          scrollerWords, buttons, bench.Dialogs))
+{
+    AddItemsPage();
+    AddTextPage();
+    AddScrollerPage();
+    AddButtons(Buttons::Paged);
+    resize(FromTwips(8010, 6210));
+}
+
+void VerticalScrollerForm::AddItemsPage()
+{
+    AddPage({heading, subHeading}).Fill(m_items);
+    connect(m_items, &RowListPanel::AddWanted, this, &VerticalScrollerForm::AddItem);
+    connect(m_items, &RowListPanel::EditWanted, this, &VerticalScrollerForm::EditItem);
+}
+
+void VerticalScrollerForm::AddTextPage()
+{
+    PageBuilder page = AddPage({heading, subHeading, "cboFont"});
+    PageBuilder frame = page.Frame(u"Text properties");
+    frame.FontRow();
+    frame.ColorSwatch("cmdTextColor", u"Text color:", ColorNotation::RgbFunction, u"Select Color");
+    frame.ColorSwatch("cmdLinkColor", u"Link color:", ColorNotation::RgbFunction, u"Select Color");
+    frame.ComboBox("cboTextAlign", u"Align Text:", alignments, false);
+    page.Fill();
+}
+
+void VerticalScrollerForm::AddScrollerPage()
+{
+    PageBuilder page = AddPage({heading, subHeading, "txtWidth"});
+    PageBuilder frame = page.Frame(u"Vertical Scroller properties");
+    frame.TextBox("txtWidth", u"Width:");
+    frame.TextBox("txtHeight", u"Height:");
+    frame.ColorSwatch("cmdBGColor", u"Background color:", ColorNotation::RgbFunction,
+                      u"Select Color");
+    frame.Slider("sldrSpeed", u"Scrolling speed:", u"Slow", u"Fast", {});
+    frame.TextBox("txtPause", u"Pause after each frame:", {}, u"seconds");
+    page.Fill();
+}
+
+void VerticalScrollerForm::AddItem()
+{
+    auto* form = new VertScrollerAddForm(m_bench, {}, this);
+    form->Begin([this, form] { m_items->AddRow(form->Row()); });
+}
+
+void VerticalScrollerForm::EditItem()
+{
+    const RowList& list = m_items->Rows();
+    auto* form = new VertScrollerAddForm(m_bench, list.Rows.at(list.Selected.value()), this);
+    form->Begin([this, form] { m_items->ChangeSelectedRow(form->Row()); });
+}
+
+void VerticalScrollerForm::Next()
+{
+    ++m_page;
+    ChangePage();
+}
+
+void VerticalScrollerForm::Previous()
+{
+    --m_page;
+    ChangePage();
+}
+
+/// Stays as it is: when the author comes back from the delivery, Done counts on and does nothing,
+/// and Previous behind it ends the wizard once more.
+void VerticalScrollerForm::ChangePage()
+{
+    if (m_page > endOfWizard)
+        return;
+    const VerticalScroller scroller = Parameters();
+    if (const auto complaint = CheckPage(scroller, m_page - 1)) {
+        GoTo(--m_page);
+        return Report(*complaint);
+    }
+    if (m_page == endOfWizard)
+        Finish(scroller);
+    else
+        GoTo(m_page);
+}
+
+} // namespace orvane

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "effects/text/vertical_scroller.h"
+#include "windows/effect_form.h"
+
+namespace orvane {
+
+class RowListPanel;
+
+/// The window of the Vertical Scroller.
+class VerticalScrollerForm : public EffectForm<VerticalScroller>
+{
+public:
+    explicit VerticalScrollerForm(Workbench& bench, QWidget* parent = nullptr);
+
+protected:
+    void Next() override;
+    void Previous() override;
+
+private:
+    void AddItemsPage();
+    void AddTextPage();
+    void AddScrollerPage();
+    void AddItem();
+    void EditItem();
+    void ChangePage();
+
+    RowListPanel* m_items;
+    int m_page = 0; ///< the wizard page on screen; from the third on the wizard has ended once
+};
+
+} // namespace orvane

@@ -1,0 +1,86 @@
+#include "effects/page/all_in_one_button_form.h"
+
+#include "core/draft.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QComboBox>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class AllInOneButtonFormTest : public ::testing::Test
+{
+protected:
+    void Choose(ButtonAction action)
+    {
+        Find<QComboBox>(m_form, "cboButtonAction")->setCurrentIndex(static_cast<int>(action));
+        Click(m_form, "cmdNext");
+    }
+
+    FakeDesk m_desk;
+    AllInOneButtonForm m_form{m_desk.Bench};
+};
+
+TEST_F(AllInOneButtonFormTest, FromFreshToPayload)
+{
+    m_form.show();
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    Choose(ButtonAction::Sound);
+    ExpectAccessible(m_form);
+    EXPECT_EQ(WordsOf(m_form, "lblURL"), u"Sound file:");
+    EXPECT_FALSE(Find<QWidget>(m_form, "txtBookmarkURL")->isVisible());
+    Type(m_form, "txtURL", u"x");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    m_desk.Dialogs.AnswerOpenFile(u"/sounds/my ding.wav");
+    Click(m_form, "cmdBrowse");
+    Type(m_form, "txtButtonText", u"Go");
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_form.TakePayload(), Generate({.cboButtonAction = Text(ButtonActions[3]),
+                                              .txtButtonText = u"Go",
+                                              .txtURL = u"my ding.wav"}));
+    EXPECT_EQ(m_desk.Core.Required, RequiredFiles());
+}
+
+TEST_F(AllInOneButtonFormTest, AnotherTypeAndANewEntryEmptyTheTexts)
+{
+    m_form.show();
+    Choose(ButtonAction::Link);
+    Type(m_form, "txtButtonText", u"Go");
+    Type(m_form, "txtURL", u"a.html");
+    Click(m_form, "optButtonType(0)");
+    EXPECT_EQ(m_form.Parameters().txtURL, u"a.html");
+    Click(m_form, "optButtonType(2)");
+    EXPECT_EQ(m_form.Parameters().txtURL, u"");
+    EXPECT_EQ(WordsOf(m_form, "lblButtonText"), u"Image filename:");
+    Type(m_form, "txtButtonText", u"x");
+    EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
+    Click(m_form, "optButtonType(1)");
+    Type(m_form, "txtButtonText", u"Go");
+    Click(m_form, "cmdPrevious");
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_form.Parameters().txtButtonText, u"");
+}
+
+TEST_F(AllInOneButtonFormTest, ADraftsTextsSurviveTheFirstEntryAlone)
+{
+    const AllInOneButton draft{
+        .cboButtonAction = Text(ButtonActions[0]), .txtButtonText = u"Go", .txtURL = u"a.html"};
+    m_form.show();
+    m_form.SetParameters(draft);
+    Press(m_form, Qt::Key_Escape);
+    AllInOneButtonForm next(m_desk.Bench);
+    next.show();
+    Press(*Find<QWidget>(next, "lblTakeUp"), Qt::Key_Return);
+    Click(next, "cmdNext");
+    EXPECT_EQ(next.Parameters(), draft);
+    Click(next, "cmdPrevious");
+    Click(next, "cmdNext");
+    EXPECT_EQ(next.Parameters().txtButtonText, u"");
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,101 @@
+#include "effects/page/password_protection_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QRadioButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class PasswordProtectionFormTest : public ::testing::Test
+{
+protected:
+    PasswordProtectionFormTest() { m_form.show(); }
+
+    FakeDesk m_desk;
+    PasswordProtectionForm m_form{m_desk.Bench};
+};
+
+TEST_F(PasswordProtectionFormTest, TheGateStartsWithOnePasswordOnEachEntry)
+{
+    EXPECT_TRUE(WordsOf(m_form, "lblDescription").starts_with(u"JavaScript"));
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              std::vector<Text>{u"Please select a password protection scheme."});
+    Click(m_form, "optScheme(0)");
+    EXPECT_TRUE(WordsOf(m_form, "lblDescription").starts_with(u"  JavaScript"));
+    Click(m_form, "cmdNext");
+    ExpectAccessible(m_form);
+    Click(m_form, "optPasswordType(1)");
+    EXPECT_FALSE(Find<QWidget>(m_form, "GatePassword")->isVisible());
+    EXPECT_EQ(WordsOf(m_form, "lblGateUrl"),
+              u"URL of Web page to display when user types in password:");
+    Click(m_form, "cmdPrevious");
+    Click(m_form, "cmdNext");
+    Type(m_form, "GatePassword", u"open sesame");
+    Type(m_form, "GateUrl", u"secret/");
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_form.TakePayload(),
+              Generate({.GatePassword = u"open sesame", .GateUrl = u"secret"}));
+    EXPECT_EQ(WordsOf(m_form, "GateUrl"), u"secret");
+    EXPECT_TRUE(m_desk.Files.Contents.find(u"/program/password.cgi") ==
+                m_desk.Files.Contents.end());
+}
+
+TEST_F(PasswordProtectionFormTest, TheLoginWritesItsScriptOrStaysOpen)
+{
+    const Text script = u"/program/password.cgi";
+    Click(m_form, "optScheme(1)");
+    Click(m_form, "cmdNext");
+    ExpectAccessible(m_form);
+    EXPECT_FALSE(Find<QWidget>(m_form, "PerlPath")->isEnabled());
+    Type(m_form, "LoginUsername", u"Zo\u00EB");
+    Type(m_form, "LoginPassword", u"secret word");
+    Type(m_form, "LandingUrl", u"www.example.com");
+    Click(m_form, "ChangeSettings");
+    Type(m_form, "CgiDirectory", u"/cgi-bin");
+    m_desk.Files.FailOn(script, Fault::PermissionDenied);
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Permission denied"});
+    EXPECT_TRUE(m_form.isVisible());
+    EXPECT_EQ(m_form.TakePayload(), std::nullopt);
+    m_form.hide();
+    for (const auto& [path, bytes] : m_desk.Files.Contents)
+        EXPECT_EQ(bytes.find("secret word"), std::string::npos) << ToUtf8(path);
+}
+
+TEST_F(PasswordProtectionFormTest, TheScriptLiesInTheProgramsFolderOnceDone)
+{
+    Click(m_form, "optScheme(1)");
+    Click(m_form, "cmdNext");
+    Type(m_form, "LoginUsername", u"Zo\u00EB");
+    Type(m_form, "LoginPassword", u"x");
+    Type(m_form, "LandingUrl", u"a.html");
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(m_form.TakePayload()->Kind, EffectKind::PasswordServer);
+    EXPECT_NE(m_desk.Files.Contents[u"/program/password.cgi"].find("$username = \"Zo\xEB\";\r\n"),
+              std::string::npos);
+}
+
+TEST_F(PasswordProtectionFormTest, ADraftsOptionSurvivesTheFirstEntryAndNoSecretIsKept)
+{
+    m_form.SetParameters({.optScheme = PasswordScheme::Script,
+                          .optPasswordType = PasswordType::Many,
+                          .GatePassword = u"hidden"});
+    Press(m_form, Qt::Key_Escape);
+    PasswordProtectionForm next(m_desk.Bench);
+    next.show();
+    Press(*Find<QWidget>(next, "lblTakeUp"), Qt::Key_Return);
+    Click(next, "cmdNext");
+    EXPECT_EQ(next.Parameters(), (PasswordProtection{.optScheme = PasswordScheme::Script,
+                                                     .optPasswordType = PasswordType::Many}));
+    Click(next, "cmdPrevious");
+    Click(next, "cmdNext");
+    EXPECT_TRUE(Find<QRadioButton>(next, "optPasswordType(0)")->isChecked());
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,68 @@
+#include "effects/page/pulldown_menu_form.h"
+
+#include "effects/page/pulldown_url_form.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+#include "windows/acting_list.h"
+
+#include <QPushButton>
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+class PulldownMenuFormTest : public ::testing::Test
+{
+protected:
+    PulldownMenuFormTest() { m_form.show(); }
+
+    PulldownURLForm& Item() { return *m_form.findChild<PulldownURLForm*>(); }
+
+    FakeDesk m_desk;
+    PulldownMenuForm m_form{m_desk.Bench};
+};
+
+TEST_F(PulldownMenuFormTest, FromFreshToPayload)
+{
+    EXPECT_FALSE(Find<QPushButton>(m_form, "cmdEditMenuItem")->isEnabled());
+    Click(m_form, "cmdDone");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    Click(m_form, "cmdAddMenuItem");
+    Click(Item(), "cmdOK");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    Type(Item(), "txtMenuItem", u"Home");
+    Type(Item(), "txtMenuItemURL", u"www.example.com");
+    Click(Item(), "cmdOK");
+    LetRun();
+    Click(m_form, "cmdAddSeparator");
+    Click(m_form, "optDisplay(0)");
+    Click(m_form, "cmdDone");
+    EXPECT_EQ(m_form.TakePayload(), Generate({.List1 = {u"Home", Text(MenuSeparator)},
+                                              .List2 = {u"http://www.example.com", u""},
+                                              .optDisplay = MenuDisplay::AllItems}));
+}
+
+TEST_F(PulldownMenuFormTest, EditsTheSelectedItemButNoSeparator)
+{
+    m_form.SetParameters({.List1 = {u"a", Text(MenuSeparator)}, .List2 = {u"a.html", u""}});
+    Click(m_form, "cmdEditMenuItem");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              std::vector<Text>{u"Select a menu item from the list in order to edit it."});
+    Find<ActingList>(m_form, "List2")->setCurrentRow(1);
+    Click(m_form, "cmdEditMenuItem");
+    EXPECT_EQ(
+        m_desk.Dialogs.TakeSaid(),
+        std::vector<Text>{u"The separator can't be edited.  It can only be added or removed."});
+    Click(m_form, "cmdMoveUp");
+    Find<ActingList>(m_form, "List1")->setCurrentRow(1);
+    Click(m_form, "cmdEditMenuItem");
+    EXPECT_EQ(Item().Item(), (MenuItem{u"a", u"a.html"}));
+    m_desk.Dialogs.AnswerOpenFile(u"/pages/b.html");
+    Click(Item(), "cmdBrowseForURL");
+    Click(Item(), "cmdOK");
+    EXPECT_EQ(m_form.Parameters().List2, (std::vector<Text>{u"", u"b.html"}));
+}
+
+} // namespace
+} // namespace orvane

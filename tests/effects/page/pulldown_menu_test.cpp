@@ -1,0 +1,61 @@
+#include "effects/page/pulldown_menu.h"
+
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using testing::ExpectedText;
+using testing::ExpectSameText;
+
+const PulldownMenu threeRows{
+    .List1 = {u"Home", Text(MenuSeparator), u"News"},
+    .List2 = {u"http://www.example.com/", u"", u"news.html"},
+    .cboTarget = u" self ",
+};
+
+TEST(PulldownMenuTest, WritesBothDisplaysIntoTheBody)
+{
+    PulldownMenu menu = threeRows;
+    ExpectSameText(ExpectedText("pulldown_dropdown.html"), Generate(menu).BODYHTML);
+    menu.optDisplay = MenuDisplay::AllItems;
+    menu.cboTarget = u"blank - Open in new window";
+    ExpectSameText(ExpectedText("pulldown_all_items.html"), Generate(menu).BODYHTML);
+    EXPECT_EQ(Generate(menu), (EffectPayload{.Kind = EffectKind::PulldownMenu,
+                                             .BODYHTML = ExpectedText("pulldown_all_items.html")}));
+}
+
+TEST(PulldownMenuTest, PutsValuesInUnescapedAndKnowsBlankAndSeparatorExactly)
+{
+    const Text body = Generate({.List1 = {u"«URL» \"a\" é☃", u"---------------------"},
+                                .List2 = {u"o'neil.html", u"x"},
+                                .cboTarget = u"Blank «Item»'"})
+                          .BODYHTML;
+    EXPECT_NE(Find(body, u"          <OPTION VALUE=\"o'neil.html\">«URL» \"a\" é☃\r\n"
+                         u"          <OPTION VALUE=\"x\">---------------------\r\n    </SELECT>"),
+              0u);
+    EXPECT_NE(Find(body, u"    window.parent.frames['Blank «Item»''].location = "), 0u);
+}
+
+TEST(PulldownMenuTest, AnItemNeedsItsTextAndThenItsAddress)
+{
+    MenuItem item;
+    EXPECT_EQ(
+        Check(item),
+        (Complaint{u"Enter menu item text in the text input box or click Cancel.", "txtMenuItem"}));
+    item.txtMenuItem = u" ";
+    EXPECT_EQ(Check(item),
+              (Complaint{u"Enter a Web page URL in the text input box or click Cancel.",
+                         "txtMenuItemURL"}));
+    item.txtMenuItemURL = u"WWW.example.com";
+    EXPECT_EQ(Check(item), std::nullopt);
+    Tidy(item);
+    EXPECT_EQ(item.txtMenuItemURL, u"http://WWW.example.com");
+    EXPECT_EQ(Check(PulldownMenu()),
+              (Complaint{u"Please enter 1 or more menu items in the list below.", "List1"}));
+}
+
+} // namespace
+} // namespace orvane

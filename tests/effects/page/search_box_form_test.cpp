@@ -1,0 +1,47 @@
+#include "effects/page/search_box_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+namespace orvane {
+namespace {
+
+using namespace orvane::testing;
+
+TEST(SearchBoxFormTest, SearchesASiteOnceItIsChosen)
+{
+    FakeDesk desk;
+    SearchBoxForm form(desk.Bench);
+    form.show();
+    EXPECT_FALSE(Find<QWidget>(form, "txtURL")->isEnabled());
+    EXPECT_FALSE(Find<QWidget>(form, "txtTranslateURL")->isVisible());
+    Click(form, "optSearch(1)");
+    Type(form, "txtURL", u"mysite.com");
+    Click(form, "cmdDone");
+    EffectPayload expected = Generate({.optSearch = SearchPlace::Site, .txtURL = u"mysite.com"});
+    expected.Required.Sources[0] = u"/program/GoogleLogo.gif";
+    EXPECT_EQ(form.TakePayload(), expected);
+}
+
+TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
+{
+    FakeDesk desk;
+    SearchBoxForm form(desk.Bench, nullptr, TranslateMode);
+    form.show();
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("Web Page Translator"));
+    EXPECT_EQ(WordsOf(form, "lblHeading"), u"Web Page Translator");
+    EXPECT_FALSE(Find<QWidget>(form, "txtURL")->isVisible());
+    Click(form, "cmdDone");
+    EXPECT_EQ(desk.Dialogs.Said.size(), 1u);
+    Press(*Find<QWidget>(form, "txtTranslateURL"), Qt::Key_End);
+    Type(form, "txtTranslateURL", u"a.example");
+    Click(form, "cmdDone");
+    const auto payload = form.TakePayload();
+    ASSERT_TRUE(payload);
+    EXPECT_EQ(
+        payload->BODYHTML,
+        Generate({.Mode = Text(TranslateMode), .txtTranslateURL = u"http://a.example"}).BODYHTML);
+}
+
+} // namespace
+} // namespace orvane
