@@ -138,6 +138,10 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
     const Text destination = Join({folder, pageScriptFile});
     if (desk.Files.IsTaken(destination)) {
         const auto own = desk.Files.Read(source);
+        if (FaultIn(own)) {
+            missing.emplace_back(pageScriptFile);
+            return {};
+        }
         const auto present = desk.Files.Read(destination);
         const auto version = [](const Outcome<std::string>& file) {
             return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
