@@ -138,10 +138,8 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
     const Text destination = Join({folder, pageScriptFile});
     if (desk.Files.IsTaken(destination)) {
         const auto own = desk.Files.Read(source);
-        if (FaultIn(own)) {
-            missing.emplace_back(pageScriptFile);
-            return {};
-        }
+        if (FaultIn(own))
+            return Miss(desk, folder, pageScriptFile, missing);
         const auto present = desk.Files.Read(destination);
         const auto version = [](const Outcome<std::string>& file) {
             return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
