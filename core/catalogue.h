@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/complaint.h"
 #include "core/payload.h"
 #include "core/text.h"
 
@@ -27,11 +28,11 @@ enum class FilesNeeded
 struct CatalogueRow
 {
     EffectKind Kind;
-    TextView MenuCommand; ///< the object name of the command that opens it
-    TextView Picture;     ///< of the program's resources, such as "status_bar"
+    ControlName MenuCommand; ///< the object name of the command that opens it
+    TextView Picture;        ///< of the program's resources, such as "status_bar"
     TextView Title;
     TextView Description;
-    TextView Form; ///< the wizard window
+    ControlName Form; ///< the wizard window
     TextView MarkerName;
     FilesNeeded Files;
     bool ScriptedHelp;
@@ -42,7 +43,7 @@ struct CatalogueRow
 /// One command of a sub-menu of "Special Effects".
 struct EffectCommand
 {
-    TextView Name;
+    ControlName Name;
     TextView Caption; ///< "&" marks the access key
     CataloguePage Page;
     EffectKind Kind; ///< the effect that it opens
@@ -58,6 +59,6 @@ const CatalogueRow* FindRow(EffectKind kind);
 std::span<const EffectCommand> EffectCommands();
 
 /// The command of that name, or null.
-const EffectCommand* FindCommand(TextView name);
+const EffectCommand* FindCommand(ControlName name);
 
 } // namespace orvane

@@ -3,7 +3,6 @@
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 
-#include <QDialogButtonBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -30,15 +29,14 @@ void AddLink(QDialog* window, ControlName name, TextView words, TextView address
     window->layout()->addWidget(link);
 }
 
-void AddButton(QDialog* window, const QString& name, TextView caption)
+void AddButton(QDialog* window, ControlName name, TextView caption)
 {
-    auto* box = new QDialogButtonBox(window);
-    QPushButton* button = box->addButton(ToQt(caption), QDialogButtonBox::AcceptRole);
-    button->setObjectName(name);
+    QPushButton* button = MakeButton(name, caption);
+    window->layout()->addWidget(button);
+    window->layout()->setAlignment(button, Qt::AlignRight);
     button->setDefault(true);
     button->setFocus();
     QObject::connect(button, &QPushButton::clicked, window, &QDialog::accept);
-    window->layout()->addWidget(box);
 }
 
 } // namespace
@@ -55,7 +53,7 @@ AboutForm::AboutForm(Workbench& bench, QWidget* parent) : QDialog(parent)
     AddWords(this, Join({u"Version ", bench.Version, u" for Windows 95/98/NT/ME/2000/XP"}),
              QStringLiteral("lblVersionInfo"));
     AddLink(this, "lblLink", MakerSiteURL, MakerSiteURL, bench.Shell);
-    AddButton(this, QStringLiteral("cmdOK"), u"&OK");
+    AddButton(this, "cmdOK", u"&OK");
     OpenHelpOnF1(this, bench.Help, help_topics::contents);
 }
 
@@ -69,7 +67,7 @@ DownloadForm::DownloadForm(Workbench& bench, QWidget* parent) : QDialog(parent)
     AddLink(this, "lblDownloadOrvane", u"Download the Netscape version of Orvane", ProductPageURL,
             bench.Shell);
     AddLink(this, "lblDownloadBrowser", u"Download Internet Explorer", MakerSiteURL, bench.Shell);
-    AddButton(this, QStringLiteral("cmdClose"), u"&Close");
+    AddButton(this, "cmdClose", u"&Close");
 }
 
 } // namespace orvane

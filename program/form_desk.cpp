@@ -85,7 +85,7 @@ WizardMaker MakerOf(EffectKind kind)
         return &Make<SearchBoxForm>;
     case EffectKind::Translator:
         return [](Workbench& bench, QWidget* parent) -> std::unique_ptr<WizardForm> {
-            return std::make_unique<SearchBoxForm>(bench, parent, TranslateMode);
+            return std::make_unique<SearchBoxForm>(bench, parent, translateMode);
         };
     case EffectKind::PasswordScript:
         return &Make<PasswordProtectionForm>;

@@ -12,27 +12,6 @@
 
 namespace orvane {
 
-namespace {
-
-/// A sub-menu of a menu or of the menu bar.
-template <class Parent>
-QMenu* AddMenu(Parent* parent, TextView name, TextView caption)
-{
-    QMenu* menu = parent->addMenu(ToQt(caption));
-    menu->setObjectName(ToQt(name));
-    return menu;
-}
-
-template <class Receiver, class Slot>
-QAction* AddCommand(QMenu* menu, TextView name, TextView caption, Receiver* receiver, Slot slot)
-{
-    QAction* command = menu->addAction(ToQt(caption), receiver, slot);
-    command->setObjectName(ToQt(name));
-    return command;
-}
-
-} // namespace
-
 OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& isBuilt)
     : m_bench(bench)
 {
@@ -50,37 +29,39 @@ OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& 
 
 void OVMainForm::AddMenus()
 {
-    QMenu* file = AddMenu(menuBar(), u"mnuFile", u"&File");
-    AddCommand(file, u"mnuFileExit", u"E&xit", this, &QWidget::close)
-        ->setShortcut(Qt::CTRL | Qt::Key_Q);
+    const auto add = [this](QMenu* menu, ControlName name, TextView caption, auto run) {
+        QAction* command = AddCommand(*menu, name, caption);
+        connect(command, &QAction::triggered, this, run);
+        return command;
+    };
+    QMenu* file = AddMenu(*menuBar(), "mnuFile", u"&File");
+    add(file, "mnuFileExit", u"E&xit", &QWidget::close)->setShortcut(Qt::CTRL | Qt::Key_Q);
 
-    QMenu* edit = AddMenu(menuBar(), u"mnuEdit", u"&Edit");
-    AddCommand(edit, u"mnuEditApplet", u"&Edit Special Effect...", this,
-               &OVMainForm::EditAppletWanted);
-    AddCommand(edit, u"mnuPreferences", u"&Preferences...", this, &OVMainForm::PreferencesWanted);
+    QMenu* edit = AddMenu(*menuBar(), "mnuEdit", u"&Edit");
+    add(edit, "mnuEditApplet", u"&Edit Special Effect...", &OVMainForm::EditAppletWanted);
+    add(edit, "mnuPreferences", u"&Preferences...", &OVMainForm::PreferencesWanted);
 
-    QMenu* effects = AddMenu(menuBar(), u"mnuAppletS", u"&Special Effects");
-    AddEffects(AddMenu(effects, u"mnuImageEffectsMain", u"&Image Effects"),
+    QMenu* effects = AddMenu(*menuBar(), "mnuAppletS", u"&Special Effects");
+    AddEffects(*AddMenu(*effects, "mnuImageEffectsMain", u"&Image Effects"),
                CataloguePage::ImageEffects);
-    AddEffects(AddMenu(effects, u"mnuTextEffects", u"&Text Effects"), CataloguePage::TextEffects);
-    AddEffects(AddMenu(effects, u"mnuOtherEffects", u"&Other Special Effects"),
+    AddEffects(*AddMenu(*effects, "mnuTextEffects", u"&Text Effects"), CataloguePage::TextEffects);
+    AddEffects(*AddMenu(*effects, "mnuOtherEffects", u"&Other Special Effects"),
                CataloguePage::OtherEffects);
 
-    QMenu* help = AddMenu(menuBar(), u"mnuHelp", u"&Help");
-    AddCommand(help, u"mnuHelpContents", u"&Contents...", this,
-               [this] { m_bench.Help.ShowTopic(help_topics::contents); });
-    AddCommand(help, u"mnuCheckForUpdate", u"Chec&k for update...", this,
-               &OVMainForm::CheckForUpdate);
+    QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
+    add(help, "mnuHelpContents", u"&Contents...",
+        [this] { m_bench.Help.ShowTopic(help_topics::contents); });
+    add(help, "mnuCheckForUpdate", u"Chec&k for update...", &OVMainForm::CheckForUpdate);
     help->addSeparator();
-    AddCommand(help, u"mnuHelpAbout", u"&About...", this, &OVMainForm::AboutWanted);
+    add(help, "mnuHelpAbout", u"&About...", &OVMainForm::AboutWanted);
 }
 
-void OVMainForm::AddEffects(QMenu* menu, CataloguePage page)
+void OVMainForm::AddEffects(QMenu& menu, CataloguePage page)
 {
     for (const EffectCommand& command : EffectCommands())
         if (command.Page == page)
-            AddCommand(menu, command.Name, command.Caption, this,
-                       [this, &command] { emit EffectWanted(command); });
+            connect(AddCommand(menu, command.Name, command.Caption), &QAction::triggered, this,
+                    [this, &command] { emit EffectWanted(command); });
 }
 
 void OVMainForm::closeEvent(QCloseEvent* event)

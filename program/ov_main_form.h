@@ -31,7 +31,7 @@ protected:
 
 private:
     void AddMenus();
-    void AddEffects(QMenu* menu, CataloguePage page);
+    void AddEffects(QMenu& menu, CataloguePage page);
     void CheckForUpdate();
 
     Workbench& m_bench;

@@ -6,9 +6,9 @@
 
 namespace orvane {
 
-Text DraftPathOf(TextView stateFolder, TextView effect)
+Text DraftPathOf(TextView stateFolder, ControlName effect)
 {
-    return PathIn(PathIn(stateFolder, u"drafts"), Join({effect, u".txt"}));
+    return PathIn(PathIn(stateFolder, u"drafts"), Join({FromUtf8(effect), u".txt"}));
 }
 
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path)

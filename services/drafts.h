@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/complaint.h"
 #include "core/file_store.h"
 
 #include <optional>
@@ -7,7 +8,7 @@
 namespace orvane {
 
 /// Where the draft of an effect lies; `effect` is the name of its menu command.
-Text DraftPathOf(TextView stateFolder, TextView effect);
+Text DraftPathOf(TextView stateFolder, ControlName effect);
 
 /// The text of a draft; nothing when there is none that can be read.
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path);

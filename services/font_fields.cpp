@@ -7,8 +7,8 @@ namespace {
 TextView StyleOf(const FontChoice& font)
 {
     if (font.Bold)
-        return font.Italic ? FontStyles[3] : FontStyles[1];
-    return font.Italic ? FontStyles[2] : FontStyles[0];
+        return font.Italic ? fontStyles[3] : fontStyles[1];
+    return font.Italic ? fontStyles[2] : fontStyles[0];
 }
 
 } // namespace

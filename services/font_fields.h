@@ -7,11 +7,11 @@
 
 namespace orvane {
 
-inline constexpr std::array<TextView, 10> PageFonts = {
+inline constexpr std::array<TextView, 10> pageFonts = {
     u"Arial",         u"Courier", u"Courier New", u"Terminal",        u"MS Serif",
     u"MS Sans Serif", u"Symbol",  u"Modern",      u"Times New Roman", u"Wingdings"};
 
-inline constexpr std::array<TextView, 4> FontStyles = {u"Normal", u"Bold", u"Italic",
+inline constexpr std::array<TextView, 4> fontStyles = {u"Normal", u"Bold", u"Italic",
                                                        u"Bold Italic"};
 
 /// The three fields in which an author chooses the font of a page's text.
@@ -19,7 +19,7 @@ struct FontFields
 {
     Text Font;
     Text Size;  ///< points, as typed
-    Text Style; ///< one of FontStyles, or any text
+    Text Style; ///< one of fontStyles, or any text
     bool operator==(const FontFields&) const = default;
 };
 

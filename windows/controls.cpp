@@ -8,6 +8,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
@@ -105,6 +106,20 @@ QPushButton* MakeButton(ControlName name, TextView caption, TextView tip)
     button->setToolTip(ToQt(tip));
     button->setAutoDefault(true);
     return button;
+}
+
+QMenu* AddMenu(QMenuBar& bar, ControlName name, TextView caption)
+{
+    QMenu* menu = bar.addMenu(ToQt(caption));
+    menu->setObjectName(ToQt(name));
+    return menu;
+}
+
+QMenu* AddMenu(QMenu& menu, ControlName name, TextView caption)
+{
+    QMenu* inner = menu.addMenu(ToQt(caption));
+    inner->setObjectName(ToQt(name));
+    return inner;
 }
 
 QAction* AddCommand(QMenu& menu, ControlName name, TextView caption)

@@ -8,6 +8,7 @@
 class QAction;
 class QLabel;
 class QMenu;
+class QMenuBar;
 class QPushButton;
 class QWidget;
 
@@ -27,6 +28,10 @@ QString SpokenName(TextView label);
 
 /// A button that Enter presses while it has the focus; left without a parent.
 QPushButton* MakeButton(ControlName name, TextView caption, TextView tip = {});
+
+/// A menu of the menu bar, or a sub-menu; "&" in the caption marks the access key.
+QMenu* AddMenu(QMenuBar& bar, ControlName name, TextView caption);
+QMenu* AddMenu(QMenu& menu, ControlName name, TextView caption);
 
 /// A command of a menu.
 QAction* AddCommand(QMenu& menu, ControlName name, TextView caption);

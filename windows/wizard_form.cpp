@@ -16,7 +16,7 @@ constexpr int keepEveryMilliseconds = 2000;
 EffectKind KindOf(ControlName form)
 {
     for (const CatalogueRow& row : Catalogue())
-        if (ToUtf8(row.Form) == form)
+        if (row.Form == form)
             return row.Kind;
     return EffectKind::None;
 }
@@ -46,7 +46,7 @@ void WizardForm::SetEffect(EffectKind kind)
 Text WizardForm::DraftPath() const
 {
     const CatalogueRow* row = FindRow(m_kind);
-    return DraftPathOf(m_bench.StateFolder, row == nullptr ? TextView() : row->MenuCommand);
+    return DraftPathOf(m_bench.StateFolder, row == nullptr ? ControlName() : row->MenuCommand);
 }
 
 void WizardForm::BeginDrafts(bool isFresh)

@@ -40,8 +40,7 @@ AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
 void AdvancedAnimatorForm::AddMenus()
 {
     auto* bar = new QMenuBar(this);
-    QMenu* mnuFile = bar->addMenu(QStringLiteral("&File"));
-    mnuFile->setObjectName(QStringLiteral("mnuFile"));
+    QMenu* mnuFile = AddMenu(*bar, "mnuFile", u"&File");
     const auto add = [this](QMenu& menu, ControlName name, TextView words, QKeySequence keys,
                             auto run) {
         QAction* command = AddCommand(menu, name, words);
@@ -59,8 +58,7 @@ void AdvancedAnimatorForm::AddMenus()
         SaveProject(animator, m_bench.Dialogs, m_bench.Files);
     });
     add(*mnuFile, "mnuFileReturnToMainMenu", u"&Return to Main menu", {}, [this] { reject(); });
-    mnuProperties = bar->addMenu(QStringLiteral("&Properties"));
-    mnuProperties->setObjectName(QStringLiteral("mnuProperties"));
+    mnuProperties = AddMenu(*bar, "mnuProperties", u"&Properties");
     add(*mnuProperties, "mnuSetProperties", u"Set &Properties...", {}, [this] { SetProperties(); });
     layout()->setMenuBar(bar);
 }

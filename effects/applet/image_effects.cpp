@@ -13,10 +13,10 @@ namespace orvane {
 
 namespace {
 
-constexpr TextView cube = ImageEffectNames[0];
-constexpr TextView ripple = ImageEffectNames[1];
-constexpr TextView lake = ImageEffectNames[2];
-constexpr TextView brighten = ImageEffectNames[3];
+constexpr TextView cube = imageEffectNames[0];
+constexpr TextView ripple = imageEffectNames[1];
+constexpr TextView lake = imageEffectNames[2];
+constexpr TextView brighten = imageEffectNames[3];
 
 constexpr int restingSize = 125;
 constexpr EffectSlider distance{70, 250, 10, 1, 70, u"Size of cube:", u"Large", u"Small"};

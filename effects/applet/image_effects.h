@@ -15,7 +15,7 @@ namespace orvane {
 /// controls; the defaults are those of a fresh window.
 struct ImageEffects
 {
-    Text EffectPicker; ///< one of ImageEffectNames; empty while nothing is chosen
+    Text EffectPicker; ///< one of imageEffectNames; empty while nothing is chosen
     Text ImageFile;    ///< without its folder
     Text ImageWidth;   ///< pixels, as typed
     Text ImageHeight;  ///< pixels, as typed
@@ -34,7 +34,7 @@ struct ImageEffects
 };
 
 /// The effects in the order of the pick-list.
-inline constexpr std::array<TextView, 4> ImageEffectNames = {u"Image Cube", u"Image Ripple",
+inline constexpr std::array<TextView, 4> imageEffectNames = {u"Image Cube", u"Image Ripple",
                                                              u"Lake Reflection", u"Image Brighten"};
 
 /// Calls `field` with the name of each control and the field that it shows, in the window's order.

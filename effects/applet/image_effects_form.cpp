@@ -23,7 +23,7 @@ ImageEffectsForm::ImageEffectsForm(Workbench& bench, QWidget* parent)
 {
     PageBuilder page =
         AddPage({u"Image special effects", u"Select an image special effect from the list below."});
-    auto* picker = page.ComboBox("EffectPicker", u"Pick an effect:", ImageEffectNames, false);
+    auto* picker = page.ComboBox("EffectPicker", u"Pick an effect:", imageEffectNames, false);
     PageBuilder properties = page.Frame(u"Properties");
     m_properties = properties.Page();
     AddFields(properties);

@@ -8,10 +8,10 @@ namespace orvane {
 
 namespace {
 
-constexpr TextView slideIn = MoreImageEffectNames[2];
-constexpr TextView slideInAndOut = MoreImageEffectNames[4];
-constexpr TextView expandAndShrink = MoreImageEffectNames[7];
-constexpr TextView endless = LoopCounts[5];
+constexpr TextView slideIn = moreImageEffectNames[2];
+constexpr TextView slideInAndOut = moreImageEffectNames[4];
+constexpr TextView expandAndShrink = moreImageEffectNames[7];
+constexpr TextView endless = loopCounts[5];
 
 /// A picture of one transparent pixel, which stands where the image does not.
 constexpr TextView nothingShown = u"invisi.gif";

@@ -14,32 +14,32 @@ namespace orvane {
 /// window.
 struct MoreImageEffects
 {
-    Text EffectPicker;  ///< one of MoreImageEffectNames; empty while nothing is chosen
+    Text EffectPicker;  ///< one of moreImageEffectNames; empty while nothing is chosen
     Text ImageFile;     ///< without its folder
     Text ImageWidth;    ///< pixels, as typed
     Text ImageHeight;   ///< pixels, as typed
     Text BackColorText; ///< red, green and blue as "255,128,0"; empty when none was picked
     Text LinkUrl;
     int SpeedSlider = 50;   ///< 1 for slow to 100 for fast
-    Text LoopCount;         ///< an entry of LoopCounts, or as typed
+    Text LoopCount;         ///< an entry of loopCounts, or as typed
     Text PauseSeconds;      ///< as typed
-    Text StartEdge;         ///< an entry of StartEdges, or as typed
+    Text StartEdge;         ///< an entry of startEdges, or as typed
     RequiredFiles Required; ///< the source of `ImageFile`
     bool operator==(const MoreImageEffects&) const = default;
 };
 
 /// The effects in the order of the pick-list.
-inline constexpr std::array<TextView, 8> MoreImageEffectNames = {
+inline constexpr std::array<TextView, 8> moreImageEffectNames = {
     u"Shutter in",           u"Shutter out", u"Slide-in", u"Slide-out",
     u"Slide-in & Slide-out", u"Expand",      u"Shrink",   u"Expand & Shrink"};
 
-inline constexpr std::array<TextView, 6> LoopCounts = {u"1", u"2", u"3", u"4", u"5", u"Infinite"};
+inline constexpr std::array<TextView, 6> loopCounts = {u"1", u"2", u"3", u"4", u"5", u"Infinite"};
 
-inline constexpr std::array<TextView, 15> PauseLengths = {u"0",   u"0.1", u"0.2", u"0.3", u"0.4",
+inline constexpr std::array<TextView, 15> pauseLengths = {u"0",   u"0.1", u"0.2", u"0.3", u"0.4",
                                                           u"0.5", u"0.6", u"0.7", u"0.8", u"0.9",
                                                           u"1",   u"2",   u"3",   u"4",   u"5"};
 
-inline constexpr std::array<TextView, 8> StartEdges = {u"top",
+inline constexpr std::array<TextView, 8> startEdges = {u"top",
                                                        u"right side",
                                                        u"bottom",
                                                        u"left side",

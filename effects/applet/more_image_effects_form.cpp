@@ -15,7 +15,7 @@ MoreImageEffectsForm::MoreImageEffectsForm(Workbench& bench, QWidget* parent)
     PageBuilder page =
         AddPage({u"More Image Special effects", u"Select an effect from the box below."});
     m_above = page.Fill();
-    auto* picker = page.ComboBox("EffectPicker", u"Pick an effect:", MoreImageEffectNames, false);
+    auto* picker = page.ComboBox("EffectPicker", u"Pick an effect:", moreImageEffectNames, false);
     AddProperties(page.Frame(u"Properties"));
     AddBehavior(page.Frame(u"Behavior"));
     page.Fill();
@@ -53,17 +53,17 @@ void MoreImageEffectsForm::AddBehavior(PageBuilder page)
     m_behavior = page.Page();
     page.Slider("SpeedSlider", u"Speed:", u"Slow", u"Fast", {.Lowest = 1, .Highest = 100});
     LoopCount =
-        page.ComboBox("LoopCount", u"Loop/repeat the effect:", LoopCounts, true, {}, u"times");
-    PauseSeconds = page.ComboBox("PauseSeconds", u"Pause after each loop:", PauseLengths, true, {},
+        page.ComboBox("LoopCount", u"Loop/repeat the effect:", loopCounts, true, {}, u"times");
+    PauseSeconds = page.ComboBox("PauseSeconds", u"Pause after each loop:", pauseLengths, true, {},
                                  u"seconds");
-    StartEdge = page.ComboBox("StartEdge", u"Image starts from the:", StartEdges, true, {},
+    StartEdge = page.ComboBox("StartEdge", u"Image starts from the:", startEdges, true, {},
                               u"of the special effect");
 }
 
 void MoreImageEffectsForm::ChooseEffect()
 {
     MoreImageEffects effects = Parameters();
-    effects.LoopCount = Text(LoopCounts[0]);
+    effects.LoopCount = Text(loopCounts[0]);
     m_shownEffect.clear();
     SetParameters(effects);
     ImageFile->setFocus(Qt::OtherFocusReason);

@@ -145,9 +145,9 @@ std::optional<Complaint> CheckAction(const AllInOneButton& button)
 
 ButtonAction ActionOf(TextView item)
 {
-    const auto found = std::ranges::find(ButtonActions, item);
-    return found == ButtonActions.end() ? ButtonAction::None
-                                        : static_cast<ButtonAction>(found - ButtonActions.begin());
+    const auto found = std::ranges::find(buttonActions, item);
+    return found == buttonActions.end() ? ButtonAction::None
+                                        : static_cast<ButtonAction>(found - buttonActions.begin());
 }
 
 ButtonTextBox TextBoxOf(ButtonType type)

@@ -21,7 +21,7 @@ enum class ButtonType
 /// window.
 struct AllInOneButton
 {
-    Text cboButtonAction; ///< an item of ButtonActions; empty when none is chosen
+    Text cboButtonAction; ///< an item of buttonActions; empty when none is chosen
     ButtonType optButtonType = ButtonType::Button;
     Text txtButtonText; ///< the text, or the file name of the image
     Text txtURL;        ///< the address, or the file name of the sound
@@ -42,7 +42,7 @@ void ForEachField(Button& button, Field&& field)
     field("txtBookmarkTitle", button.txtBookmarkTitle);
 }
 
-/// What a click on the button does; the numbers are the indexes in ButtonActions.
+/// What a click on the button does; the numbers are the indexes in buttonActions.
 enum class ButtonAction
 {
     None = -1,
@@ -54,7 +54,7 @@ enum class ButtonAction
 };
 
 /// The actions in the order of their list.
-inline constexpr std::array<TextView, 5> ButtonActions = {
+inline constexpr std::array<TextView, 5> buttonActions = {
     u"Link to another Web page", u"Print the current Web page", u"Close the current browser window",
     u"Play a sound", u"Add current Web page to Favorites/Bookmarks"};
 

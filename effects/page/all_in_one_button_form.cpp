@@ -41,7 +41,7 @@ AllInOneButtonForm::AllInOneButtonForm(Workbench& bench, QWidget* parent)
 void AllInOneButtonForm::AddActionPage()
 {
     PageBuilder page = AddPage({heading, subHeading});
-    page.ComboBox("cboButtonAction", u"Button action:", ButtonActions, false);
+    page.ComboBox("cboButtonAction", u"Button action:", buttonActions, false);
     page.Fill();
 }
 

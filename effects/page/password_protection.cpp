@@ -249,7 +249,7 @@ EffectPayload Generate(const PasswordProtection& protection)
         return {
             .Kind = EffectKind::PasswordServer,
             .BODYHTML = Fill(loginForm, {{u"CgiDirectory", protection.CgiDirectory}}),
-            .SupportFiles = {Text(PasswordScriptName)},
+            .SupportFiles = {Text(passwordScriptName)},
         };
     return {
         .Kind = EffectKind::PasswordScript,

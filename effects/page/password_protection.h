@@ -85,7 +85,7 @@ std::optional<Complaint> CheckPage(const PasswordProtection& protection, int pag
 void Tidy(PasswordProtection& protection);
 
 /// The name of the server's script.
-inline constexpr TextView PasswordScriptName = u"password.cgi";
+inline constexpr TextView passwordScriptName = u"password.cgi";
 
 /// The text of the server's script. Expects a protection that went through Tidy().
 Text PasswordScript(const PasswordProtection& protection);

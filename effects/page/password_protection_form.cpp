@@ -137,7 +137,7 @@ void PasswordProtectionForm::Deliver(EffectPayload payload)
 {
     if (payload.Kind == EffectKind::PasswordServer) {
         const Done written = m_bench.Files.Replace(
-            PathIn(m_bench.Core.ProgramFolder, PasswordScriptName),
+            PathIn(m_bench.Core.ProgramFolder, passwordScriptName),
             EncodeForPage(PasswordScript(Parameters()), PageEncoding::Windows1252));
         if (const Fault* fault = FaultIn(written))
             return Report({Text(Words(*fault)), {}});

@@ -29,9 +29,9 @@ constexpr Template promptLines(uR"page(
 
 TemplateView LinesOf(TextView type)
 {
-    if (type == AlertTypes[2].Item)
+    if (type == alertTypes[2].Item)
         return promptLines;
-    if (type == AlertTypes[1].Item)
+    if (type == alertTypes[1].Item)
         return confirmLines;
     return simpleLines;
 }
@@ -40,7 +40,7 @@ TemplateView LinesOf(TextView type)
 
 TextView AlertTypeDescription(TextView type)
 {
-    for (const AlertType& known : AlertTypes)
+    for (const AlertType& known : alertTypes)
         if (known.Item == type)
             return known.Description;
     return {};

@@ -17,7 +17,7 @@ struct AlertType
 };
 
 /// The types in the order of their list.
-inline constexpr std::array<AlertType, 3> AlertTypes = {{
+inline constexpr std::array<AlertType, 3> alertTypes = {{
     {u"Simple Alert box", u"Allows you to alert the user with a message in the pop-up box"},
     {u"OK/Cancel box", u"Allows the user to click 'OK' or 'CANCEL' in the pop-up box"},
     {u"Input Prompt box", u"Allows the user to input text into the pop-up box"},
@@ -26,7 +26,7 @@ inline constexpr std::array<AlertType, 3> AlertTypes = {{
 /// What the author enters on the Popup Alert window; the defaults are those of a fresh window.
 struct PopupAlert
 {
-    Text cmboAlertType = Text(AlertTypes[0].Item); ///< empty when none is chosen
+    Text cmboAlertType = Text(alertTypes[0].Item); ///< empty when none is chosen
     Text txtAlertText;
     bool operator==(const PopupAlert&) const = default;
 };

@@ -13,9 +13,9 @@ PopupAlertForm::PopupAlertForm(Workbench& bench, QWidget* parent)
     PageBuilder page = AddPage({u"Popup Alert box effect",
                                 u"Create a Popup Alert box when the user loads your Web page.  "
                                 u"Choose from three different PopUp box styles."});
-    std::array<TextView, AlertTypes.size()> types;
+    std::array<TextView, alertTypes.size()> types;
     for (std::size_t i = 0; i < types.size(); ++i)
-        types[i] = AlertTypes[i].Item;
+        types[i] = alertTypes[i].Item;
     cmboAlertType = page.ComboBox("cmboAlertType", u"PopUp Alert box type:", types, false,
                                   u"This specifies the type of Alert box to be displayed");
     lblAlertTypeDesc = page.Note({}, "lblAlertTypeDesc");

@@ -52,7 +52,7 @@ Text OptionLines(const PulldownMenu& menu)
     for (std::size_t i = 0; i < menu.List1.size(); ++i) {
         const TextView item = menu.List1[i];
         const TextView url = i < menu.List2.size() ? TextView(menu.List2[i]) : TextView();
-        lines += Fill(optionLine, {{u"URL", item == MenuSeparator ? u"#" : url}, {u"Item", item}});
+        lines += Fill(optionLine, {{u"URL", item == menuSeparator ? u"#" : url}, {u"Item", item}});
     }
     return lines;
 }
@@ -77,7 +77,7 @@ void Tidy(MenuItem& item)
 
 std::optional<Complaint> CheckEdit(TextView item)
 {
-    if (item == MenuSeparator)
+    if (item == menuSeparator)
         return Complaint{u"The separator can't be edited.  It can only be added or removed.", {}};
     return std::nullopt;
 }

@@ -37,11 +37,11 @@ void ForEachField(Menu& menu, Field&& field)
 }
 
 /// The target frames that the window offers.
-inline constexpr std::array<TextView, 4> MenuTargets = {u"blank - Open in new window", u"parent",
+inline constexpr std::array<TextView, 4> menuTargets = {u"blank - Open in new window", u"parent",
                                                         u"self", u"top"};
 
 /// The item that parts a menu; it is known by this text and has no address.
-inline constexpr TextView MenuSeparator = u"--------------------";
+inline constexpr TextView menuSeparator = u"--------------------";
 
 /// What the author enters for one item.
 struct MenuItem

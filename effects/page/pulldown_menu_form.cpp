@@ -42,7 +42,7 @@ PulldownMenuForm::PulldownMenuForm(Workbench& bench, QWidget* parent)
                  u"started by clicking the 'Add Menu Item' button below."});
     page.Fill(m_items);
     page.OptionGroup("optDisplay", {u"Display all menu items", u"Display as a dropdown menu"});
-    page.ComboBox("cboTarget", u"Target frame (optional, only if using Frames):", MenuTargets,
+    page.ComboBox("cboTarget", u"Target frame (optional, only if using Frames):", menuTargets,
                   true);
     connect(m_items, &RowListPanel::AddWanted, this, &PulldownMenuForm::Add);
     connect(m_items, &RowListPanel::EditWanted, this, &PulldownMenuForm::EditItem);
@@ -52,7 +52,7 @@ PulldownMenuForm::PulldownMenuForm(Workbench& bench, QWidget* parent)
 void PulldownMenuForm::Add(int button)
 {
     if (button != addItemButton)
-        return m_items->AddRow({Text(MenuSeparator), {}});
+        return m_items->AddRow({Text(menuSeparator), {}});
     auto* window = new PulldownURLForm(m_bench, {}, this);
     window->Begin([this, window] {
         const MenuItem item = window->Item();

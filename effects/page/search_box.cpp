@@ -67,7 +67,7 @@ Text TranslateForm(const SearchBox& box)
 
 SearchModeWords WordsOfMode(TextView mode)
 {
-    if (mode == SearchMode)
+    if (mode == searchMode)
         return {EffectKind::SearchBox, u"Search Box",
                 u"Add a Google search box to your Web pages so anyone can search the Web from your "
                 u"page!  Or search a specific Web site of your choice!"};
@@ -78,7 +78,7 @@ SearchModeWords WordsOfMode(TextView mode)
 
 std::optional<Complaint> Check(const SearchBox& box)
 {
-    if (box.Mode == SearchMode) {
+    if (box.Mode == searchMode) {
         if (box.optSearch == SearchPlace::Site && box.txtURL.empty())
             return Complaint{u"Please enter a domain name or Web site in the input box below.",
                              "txtURL"};
@@ -88,7 +88,7 @@ std::optional<Complaint> Check(const SearchBox& box)
     if (!box.txtTranslateURL.starts_with(scheme) || box.txtTranslateURL == scheme)
         return Complaint{Join({u"The Web page you wish to translate must be specified with the "
                                u"entire URL.  For example, type \"",
-                               TranslateSample, u"\" and not \"mypage.html\""}),
+                               translateSample, u"\" and not \"mypage.html\""}),
                          "txtTranslateURL"};
     return std::nullopt;
 }
@@ -97,9 +97,9 @@ EffectPayload Generate(const SearchBox& box)
 {
     EffectPayload payload{
         .Kind = WordsOfMode(box.Mode).Kind,
-        .BODYHTML = box.Mode == SearchMode ? SearchForm(box) : TranslateForm(box),
+        .BODYHTML = box.Mode == searchMode ? SearchForm(box) : TranslateForm(box),
     };
-    RequireFile(payload.Required, 0, SearchLogo);
+    RequireFile(payload.Required, 0, searchLogo);
     return payload;
 }
 

@@ -16,17 +16,17 @@ enum class SearchPlace
 };
 
 /// The mode of the search box; any other text is that of the translator.
-inline constexpr TextView SearchMode = u"Search";
-inline constexpr TextView TranslateMode = u"Translate";
+inline constexpr TextView searchMode = u"Search";
+inline constexpr TextView translateMode = u"Translate";
 
 /// The sample page of the translator's label and message.
-inline constexpr TextView TranslateSample = u"http://www.mysite.example/mypage.html";
+inline constexpr TextView translateSample = u"http://www.mysite.example/mypage.html";
 
 /// What the author enters on the window that makes search boxes and page translators; the defaults
 /// are those of a fresh window.
 struct SearchBox
 {
-    Text Mode = Text(SearchMode);
+    Text Mode = Text(searchMode);
     SearchPlace optSearch = SearchPlace::Web;
     Text txtURL; ///< the site to search
     Text txtTranslateURL = u"http://";
@@ -53,7 +53,7 @@ struct SearchModeWords
 SearchModeWords WordsOfMode(TextView mode);
 
 /// The picture of both forms, which lies in the program's folder and must lie beside the page.
-inline constexpr TextView SearchLogo = u"GoogleLogo.gif";
+inline constexpr TextView searchLogo = u"GoogleLogo.gif";
 
 /// The failing check of the mode, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const SearchBox& box);

@@ -13,7 +13,7 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
     SetEffect(words.Kind);
     // The cursor waits behind the "http://", which stays unselected.
     PageBuilder page = AddPage(
-        {words.Heading, words.SubHeading, mode == SearchMode ? ControlName() : "txtTranslateURL"});
+        {words.Heading, words.SubHeading, mode == searchMode ? ControlName() : "txtTranslateURL"});
     page.HiddenText("Mode");
     PageBuilder search = page.Frame(u"Search box settings", "frameSearch");
     frameSearch = search.Page();
@@ -25,7 +25,7 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
     PageBuilder translate = page.Frame(u"Translation settings", "frameTranslate");
     frameTranslate = translate.Page();
     translate.TextBox("txtTranslateURL", u"Web page:");
-    translate.Note(Join({u"e.g., ", TranslateSample}));
+    translate.Note(Join({u"e.g., ", translateSample}));
     page.Fill();
     AddButtons(Buttons::OnePage);
 }
@@ -38,8 +38,8 @@ SearchBox SearchBoxForm::Fresh() const
 void SearchBoxForm::UpdateForm()
 {
     const SearchBox box = Parameters();
-    frameSearch->setVisible(box.Mode == SearchMode);
-    frameTranslate->setVisible(box.Mode != SearchMode);
+    frameSearch->setVisible(box.Mode == searchMode);
+    frameTranslate->setVisible(box.Mode != searchMode);
     txtURL->setEnabled(box.optSearch == SearchPlace::Site);
 }
 
@@ -47,7 +47,7 @@ void SearchBoxForm::UpdateForm()
 EffectPayload SearchBoxForm::Produce(const SearchBox& box) const
 {
     EffectPayload payload = Generate(box);
-    payload.Required.Sources[0] = PathIn(m_bench.Core.ProgramFolder, SearchLogo);
+    payload.Required.Sources[0] = PathIn(m_bench.Core.ProgramFolder, searchLogo);
     return payload;
 }
 

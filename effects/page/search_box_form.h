@@ -12,7 +12,7 @@ class SearchBoxForm : public EffectForm<SearchBox>
 
 public:
     /// The window in that mode.
-    explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = SearchMode);
+    explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = searchMode);
 
 protected:
     SearchBox Fresh() const override;

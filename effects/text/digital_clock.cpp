@@ -104,8 +104,8 @@ constexpr TextView sampleContent =
 
 TextView ExpressionOf(TextView item)
 {
-    const auto found = std::ranges::find(DateFormats, item, &DateFormat::Item);
-    return found == DateFormats.end() ? TextView() : found->Expression;
+    const auto found = std::ranges::find(dateFormats, item, &DateFormat::Item);
+    return found == dateFormats.end() ? TextView() : found->Expression;
 }
 
 Text DateExpr(const DigitalClock& clock)

@@ -64,7 +64,7 @@ struct DateFormat
 };
 
 /// The date formats in the order of their list.
-inline constexpr std::array<DateFormat, 12> DateFormats = {{
+inline constexpr std::array<DateFormat, 12> dateFormats = {{
     {u"November 28, 2001", u"strMonthName + ' ' + intWeekday + ', ' + intYear"},
     {u"28 November 2001", u"intWeekday + ' ' + strMonthName + ' ' + strYear"},
     {u"November 2001", u"strMonthName + ' ' + intYear"},

@@ -45,8 +45,8 @@ void DigitalClockForm::AddDatePage()
     PageBuilder page =
         AddPage({u": Set Date format",
                  u"Select the date format you wish to be displayed on your Web page."});
-    std::array<TextView, DateFormats.size()> items;
-    std::ranges::transform(DateFormats, items.begin(), &DateFormat::Item);
+    std::array<TextView, dateFormats.size()> items;
+    std::ranges::transform(dateFormats, items.begin(), &DateFormat::Item);
     page.ListBox("lstDateTimeFormat", u"Date Format", items);
     page.CheckBox("chkDayOfWeek", u"Show the day of the week (Monday, Tuesday, etc.)");
 }

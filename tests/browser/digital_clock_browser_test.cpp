@@ -53,7 +53,7 @@ TEST_F(DigitalClockBrowserTest, ShowsEachDateFormatWithAndWithoutTheDayOfWeek)
         {u"28-11-01", "07-04-03"},
         {u"28/11/2001", "07/04/2003"},
     };
-    EXPECT_EQ(cases.size() + 1, DateFormats.size());
+    EXPECT_EQ(cases.size() + 1, dateFormats.size());
     for (const auto& [item, words] : cases) {
         DigitalClock clock{.lstDateTimeFormat = Text(item)};
         EXPECT_EQ(WordsAt("2003-04-07T12:00:00", clock), words);

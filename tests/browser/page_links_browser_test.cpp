@@ -58,7 +58,7 @@ TEST(AllInOneButtonBrowserTest, EachActionCallsWhatItShould)
         BrowserPage page;
         page.AddFile("next.html", "<p>next</p>");
         page.Load(PageOf(
-            AllInOneButton{.cboButtonAction = Text(ButtonActions[static_cast<std::size_t>(action)]),
+            AllInOneButton{.cboButtonAction = Text(buttonActions[static_cast<std::size_t>(action)]),
                            .optButtonType = static_cast<ButtonType>(type++ % 2),
                            .txtButtonText = u"Go",
                            .txtURL = u"next.html",
@@ -101,7 +101,7 @@ TEST(SearchBoxBrowserTest, SubmitsTheRightQuery)
 
     BrowserPage translate;
     translate.Load(PageOf(
-        SearchBox{.Mode = Text(TranslateMode), .txtTranslateURL = u"http://a.example/x.html"}));
+        SearchBox{.Mode = Text(translateMode), .txtTranslateURL = u"http://a.example/x.html"}));
     translate.Value(caught);
     translate.Value("document.forms[0].langpair.selectedIndex = 1");
     translate.ClickOn("document.querySelector('input[type=submit]')");

@@ -22,7 +22,7 @@ TEST(PopupAlertBrowserTest, EachBoxComesAndItsAnswerIsWritten)
     for (const auto& [shape, reply, written] : cases) {
         BrowserPage page;
         page.Dialogs.AnswerBox(reply);
-        PopupAlert alert{.cmboAlertType = Text(AlertTypes[static_cast<std::size_t>(shape)].Item),
+        PopupAlert alert{.cmboAlertType = Text(alertTypes[static_cast<std::size_t>(shape)].Item),
                          .txtAlertText = u"Hello,\r\nyou!"};
         Tidy(alert);
         page.Load(NewPageBytes(Finish(Generate(alert))));

@@ -78,14 +78,14 @@ TEST(NewPageTest, KeepsTheOldFileWhenTheDiskIsFull)
 
 TEST(CatalogueTest, EveryRowOpensByACommandAndOnlyTwinsShareOne)
 {
-    std::map<TextView, int> buttons;
+    std::map<ControlName, int> buttons;
     for (const CatalogueRow& row : Catalogue()) {
-        EXPECT_NE(FindCommand(row.MenuCommand), nullptr) << ToUtf8(row.MenuCommand);
+        EXPECT_NE(FindCommand(row.MenuCommand), nullptr) << row.MenuCommand;
         buttons[row.MenuCommand] += row.HasButton ? 1 : 0;
     }
     EXPECT_EQ(Catalogue().size(), 50u);
     for (const auto& [command, count] : buttons)
-        EXPECT_EQ(count, 1) << ToUtf8(command);
+        EXPECT_EQ(count, 1) << command;
     EXPECT_EQ(FindRow(static_cast<EffectKind>(41)), nullptr);
 }
 

@@ -336,7 +336,7 @@ TEST(FormDeskTest, LeadsBackToTheWizardWithItsFieldAndOutOfBoth)
         });
         Click(wizard, "cmdDone");
     });
-    road.OpenEffect(*FindCommand(u"mnuStatusBar"));
+    road.OpenEffect(*FindCommand("mnuStatusBar"));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(road.MainForm()->isVisible());
     EXPECT_EQ(desk.Core.Payload.HEADHTML, u"");

@@ -28,7 +28,7 @@ protected:
 
 TEST_P(AllWizardsTest, HasItsNameTitleAndAccessibleControls)
 {
-    EXPECT_EQ(m_form->objectName().toStdString(), ToUtf8(GetParam()->Form));
+    EXPECT_EQ(m_form->objectName().toStdString(), GetParam()->Form);
     EXPECT_EQ(m_form->windowTitle().isEmpty(), false);
     m_form->show();
     LetRun();
@@ -54,7 +54,7 @@ TEST_P(AllWizardsTest, HelpButtonOpensItsTopic)
 
 INSTANTIATE_TEST_SUITE_P(Effects, AllWizardsTest, ::testing::ValuesIn(BuiltEffects()),
                          [](const auto& row) {
-                             return ToUtf8(row.param->Form) +
+                             return std::string(row.param->Form) +
                                     std::to_string(static_cast<int>(row.param->Kind));
                          });
 

@@ -51,7 +51,7 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
             continue;
         const QToolButton* button = ButtonOf(row);
         ASSERT_NE(button, nullptr) << ToUtf8(row.Title);
-        EXPECT_FALSE(button->icon().pixmap(48, 48).isNull()) << ToUtf8(row.MenuCommand);
+        EXPECT_FALSE(button->icon().pixmap(48, 48).isNull()) << row.MenuCommand;
         EXPECT_EQ(button->text().replace(u'\n', u' ').toStdString(), ToUtf8(row.Title));
         ++buttons;
     }
@@ -93,14 +93,14 @@ TEST_F(OVMainFormTest, EffectWithoutAWizardIsGreyedInMenuAndCatalogueAlike)
 
 TEST_F(OVMainFormTest, ButtonItsReturnKeyAndCommandWantTheSameEffect)
 {
-    std::vector<TextView> wanted;
+    std::vector<ControlName> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
                      [&](const EffectCommand& command) { wanted.push_back(command.Name); });
     Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(1);
     Click(m_form, "cmdSpecialFX(9)");
     Press(*ButtonOf(*FindRow(EffectKind::StatusBarTicker)), Qt::Key_Return);
     Command("mnuStatusBar")->trigger();
-    EXPECT_EQ(wanted, std::vector<TextView>(3, u"mnuStatusBar"));
+    EXPECT_EQ(wanted, std::vector<ControlName>(3, "mnuStatusBar"));
 }
 
 TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)

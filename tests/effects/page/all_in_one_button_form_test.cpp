@@ -39,7 +39,7 @@ TEST_F(AllInOneButtonFormTest, FromFreshToPayload)
     Click(m_form, "cmdBrowse");
     Type(m_form, "txtButtonText", u"Go");
     Click(m_form, "cmdNext");
-    EXPECT_EQ(m_form.TakePayload(), Generate({.cboButtonAction = Text(ButtonActions[3]),
+    EXPECT_EQ(m_form.TakePayload(), Generate({.cboButtonAction = Text(buttonActions[3]),
                                               .txtButtonText = u"Go",
                                               .txtURL = u"my ding.wav"}));
     EXPECT_EQ(m_desk.Core.Required, RequiredFiles());
@@ -68,7 +68,7 @@ TEST_F(AllInOneButtonFormTest, AnotherTypeAndANewEntryEmptyTheTexts)
 TEST_F(AllInOneButtonFormTest, ADraftsTextsSurviveTheFirstEntryAlone)
 {
     const AllInOneButton draft{
-        .cboButtonAction = Text(ButtonActions[0]), .txtButtonText = u"Go", .txtURL = u"a.html"};
+        .cboButtonAction = Text(buttonActions[0]), .txtButtonText = u"Go", .txtURL = u"a.html"};
     m_form.show();
     m_form.SetParameters(draft);
     Press(m_form, Qt::Key_Escape);

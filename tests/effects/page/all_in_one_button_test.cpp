@@ -15,7 +15,7 @@ using testing::ExpectSameText;
 AllInOneButton Sample(ButtonAction action, ButtonType type)
 {
     AllInOneButton button{
-        .cboButtonAction = Text(ButtonActions.at(static_cast<std::size_t>(action))),
+        .cboButtonAction = Text(buttonActions.at(static_cast<std::size_t>(action))),
         .optButtonType = type,
         .txtButtonText = type == ButtonType::Image ? u"go.gif" : u"Go on",
         .txtBookmarkURL = u"http://www.example.com/",
@@ -32,13 +32,13 @@ TEST(AllInOneButtonTest, WritesEachActionInEachType)
 {
     const char* const heads[] = {"link", "print", "close", "sound", "favorites"};
     Text lines;
-    for (std::size_t action = 0; action < ButtonActions.size(); ++action) {
+    for (std::size_t action = 0; action < buttonActions.size(); ++action) {
         for (const ButtonType type :
              {ButtonType::Button, ButtonType::Hyperlink, ButtonType::Image}) {
             const EffectPayload payload = Generate(Sample(static_cast<ButtonAction>(action), type));
             Text body = payload.BODYHTML;
             EXPECT_TRUE(body.ends_with(lineEnd));
-            lines += Join({ButtonActions[action], u"\t", NumberToText(static_cast<int>(type)),
+            lines += Join({buttonActions[action], u"\t", NumberToText(static_cast<int>(type)),
                            u"\t", ReplaceAll(body.erase(body.size() - 2), lineEnd, u"\t"), u"\n"});
             EXPECT_EQ(payload,
                       (EffectPayload{.Kind = EffectKind::AllInOneButton,
@@ -58,7 +58,7 @@ TEST(AllInOneButtonTest, CompletesTheAddressAndPutsTheRestInUnescaped)
     EXPECT_EQ(Generate(button).BODYHTML,
               u"<form><input type=button value=\"«Call» \"é☃\"\" "
               u"onClick=\"LinkToLocation('http://Www.example.com/it's «Text»')\"></form>\r\n");
-    button.cboButtonAction = ButtonActions[3];
+    button.cboButtonAction = buttonActions[3];
     EXPECT_NE(Find(Generate(button).BODYHTML, u"playSound('Www.example.com"), 0u);
 }
 
@@ -79,8 +79,8 @@ TEST(AllInOneButtonTest, AsksForTheActionThenForWhatItNeedsThenForTheText)
         noText,
         {u"Please enter a sound file to be played when your button is pushed.", "txtURL"},
         {bookmark, "txtBookmarkURL"}};
-    for (std::size_t action = 0; action < ButtonActions.size(); ++action) {
-        button.cboButtonAction = ButtonActions[action];
+    for (std::size_t action = 0; action < buttonActions.size(); ++action) {
+        button.cboButtonAction = buttonActions[action];
         EXPECT_EQ(CheckPage(button, 0), std::nullopt);
         EXPECT_EQ(CheckPage(button, 1), first[action]);
     }

@@ -17,9 +17,9 @@ TEST(PopupAlertFormTest, FromFreshToPayload)
     PopupAlertForm form(desk.Bench);
     form.show();
     form.activateWindow();
-    EXPECT_EQ(WordsOf(form, "lblAlertTypeDesc"), AlertTypes[0].Description);
+    EXPECT_EQ(WordsOf(form, "lblAlertTypeDesc"), alertTypes[0].Description);
     Press(*Find<QComboBox>(form, "cmboAlertType"), Qt::Key_Down);
-    EXPECT_EQ(WordsOf(form, "lblAlertTypeDesc"), AlertTypes[1].Description);
+    EXPECT_EQ(WordsOf(form, "lblAlertTypeDesc"), alertTypes[1].Description);
     EXPECT_EQ(form.focusWidget()->objectName(), QStringLiteral("txtAlertText"));
     Find<QPlainTextEdit>(form, "txtAlertText")->setPlainText(QStringLiteral("Do you\nlike it?"));
     Click(form, "cmdDone");

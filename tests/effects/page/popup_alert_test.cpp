@@ -17,7 +17,7 @@ TEST(PopupAlertTest, WritesEachTypeIntoTheBody)
     const std::array files = {"popup_alert_simple.html", "popup_alert_confirm.html",
                               "popup_alert_prompt.html"};
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        PopupAlert alert{.cmboAlertType = Text(AlertTypes[i].Item), .txtAlertText = texts[i]};
+        PopupAlert alert{.cmboAlertType = Text(alertTypes[i].Item), .txtAlertText = texts[i]};
         Tidy(alert);
         const EffectPayload payload = Generate(alert);
         ExpectSameText(ExpectedText(files[i]), payload.BODYHTML);
@@ -41,7 +41,7 @@ TEST(PopupAlertTest, AsksForTheTypeBeforeTheText)
 {
     PopupAlert alert{.cmboAlertType = u""};
     EXPECT_EQ(Check(alert), (Complaint{u"Select a PopUp Alert box type.", "cmboAlertType"}));
-    alert.cmboAlertType = AlertTypes[2].Item;
+    alert.cmboAlertType = alertTypes[2].Item;
     EXPECT_EQ(Check(alert), (Complaint{u"Enter the text you wish to appear in the PopUp Alert box.",
                                        "txtAlertText"}));
     alert.txtAlertText = u" ";

@@ -38,14 +38,14 @@ TEST_F(PulldownMenuFormTest, FromFreshToPayload)
     Click(m_form, "cmdAddSeparator");
     Click(m_form, "optDisplay(0)");
     Click(m_form, "cmdDone");
-    EXPECT_EQ(m_form.TakePayload(), Generate({.List1 = {u"Home", Text(MenuSeparator)},
+    EXPECT_EQ(m_form.TakePayload(), Generate({.List1 = {u"Home", Text(menuSeparator)},
                                               .List2 = {u"http://www.example.com", u""},
                                               .optDisplay = MenuDisplay::AllItems}));
 }
 
 TEST_F(PulldownMenuFormTest, EditsTheSelectedItemButNoSeparator)
 {
-    m_form.SetParameters({.List1 = {u"a", Text(MenuSeparator)}, .List2 = {u"a.html", u""}});
+    m_form.SetParameters({.List1 = {u"a", Text(menuSeparator)}, .List2 = {u"a.html", u""}});
     Click(m_form, "cmdEditMenuItem");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
               std::vector<Text>{u"Select a menu item from the list in order to edit it."});

@@ -11,7 +11,7 @@ using testing::ExpectedText;
 using testing::ExpectSameText;
 
 const PulldownMenu threeRows{
-    .List1 = {u"Home", Text(MenuSeparator), u"News"},
+    .List1 = {u"Home", Text(menuSeparator), u"News"},
     .List2 = {u"http://www.example.com/", u"", u"news.html"},
     .cboTarget = u" self ",
 };

@@ -26,7 +26,7 @@ TEST(SearchBoxFormTest, SearchesASiteOnceItIsChosen)
 TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
 {
     FakeDesk desk;
-    SearchBoxForm form(desk.Bench, nullptr, TranslateMode);
+    SearchBoxForm form(desk.Bench, nullptr, translateMode);
     form.show();
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Web Page Translator"));
     EXPECT_EQ(WordsOf(form, "lblHeading"), u"Web Page Translator");
@@ -40,7 +40,7 @@ TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
     ASSERT_TRUE(payload);
     EXPECT_EQ(
         payload->BODYHTML,
-        Generate({.Mode = Text(TranslateMode), .txtTranslateURL = u"http://a.example"}).BODYHTML);
+        Generate({.Mode = Text(translateMode), .txtTranslateURL = u"http://a.example"}).BODYHTML);
 }
 
 } // namespace

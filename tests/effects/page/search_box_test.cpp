@@ -16,13 +16,13 @@ TEST(SearchBoxTest, WritesEachFormWithItsPicture)
         {"search_box_web.html", {}},
         {"search_box_site.html", {.optSearch = SearchPlace::Site, .txtURL = u"mysite.com"}},
         {"translate_box.html",
-         {.Mode = Text(TranslateMode), .txtTranslateURL = u"http://www.example.com/mypage.html"}},
+         {.Mode = Text(translateMode), .txtTranslateURL = u"http://www.example.com/mypage.html"}},
     };
     for (const auto& [file, box] : cases) {
         EXPECT_EQ(Check(box), std::nullopt);
         const EffectPayload payload = Generate(box);
         ExpectSameText(ExpectedText(file), payload.BODYHTML);
-        EffectPayload expected{.Kind = box.Mode == SearchMode ? EffectKind::SearchBox
+        EffectPayload expected{.Kind = box.Mode == searchMode ? EffectKind::SearchBox
                                                               : EffectKind::Translator,
                                .BODYHTML = ExpectedText(file)};
         expected.Required.Names[0] = u"GoogleLogo.gif";
@@ -51,8 +51,8 @@ TEST(SearchBoxTest, AsksForAWholeAddressToTranslate)
         "txtTranslateURL"};
     for (const char16_t* url :
          {u"", u"http:/", u"http://", u"HTTP://a", u"https://a", u" http://a"})
-        EXPECT_EQ(Check({.Mode = Text(TranslateMode), .txtTranslateURL = url}), complaint);
-    EXPECT_EQ(Check({.Mode = Text(TranslateMode), .txtTranslateURL = u"http:// "}), std::nullopt);
+        EXPECT_EQ(Check({.Mode = Text(translateMode), .txtTranslateURL = url}), complaint);
+    EXPECT_EQ(Check({.Mode = Text(translateMode), .txtTranslateURL = u"http:// "}), std::nullopt);
 }
 
 } // namespace

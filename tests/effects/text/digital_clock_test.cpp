@@ -76,7 +76,7 @@ TEST(DigitalClockTest, EachDateFormatHasItsLineWithAndWithoutTheDayOfWeek)
         const Text item(row.substr(0, tab));
         const bool withDay = row.at(tab + 1) == u'1';
         SCOPED_TRACE(ToUtf8(row));
-        EXPECT_EQ(ToUtf8(DateFormats.at(static_cast<std::size_t>(count / 2)).Item), ToUtf8(item));
+        EXPECT_EQ(ToUtf8(dateFormats.at(static_cast<std::size_t>(count / 2)).Item), ToUtf8(item));
         ExpectSameText(row.substr(tab + 3),
                        LineOf({.lstDateTimeFormat = item, .chkDayOfWeek = withDay}, 60));
     }
