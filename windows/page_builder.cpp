@@ -1,6 +1,7 @@
 #include "windows/page_builder.h"
 
 #include "core/pick_lists.h"
+#include "windows/boxes.h"
 #include "windows/color_swatch.h"
 #include "windows/font_boxes.h"
 #include "windows/multi_line_box.h"
@@ -9,58 +10,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 
-#include <limits>
-
 namespace orvane {
-
-namespace {
-
-/// A label's click selects its option, as a click on the option itself would.
-class OptionText : public QLabel
-{
-public:
-    OptionText(TextView words, QRadioButton* option, QWidget* parent)
-        : QLabel(ToQt(words), parent), m_option(option)
-    {
-        setWordWrap(true);
-        setTextFormat(Qt::PlainText);
-        setIndent(24);
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent*) override { m_option->click(); }
-
-private:
-    QRadioButton* m_option;
-};
-
-/// It takes what the author gives, however long.
-QLineEdit* MakeTextBox(QWidget* parent)
-{
-    auto* box = new QLineEdit(parent);
-    box->setMaxLength(std::numeric_limits<int>::max());
-    return box;
-}
-
-QLabel* MakePicture(const QString& name, QSize size, QWidget* parent)
-{
-    auto* picture = new QLabel(parent);
-    picture->setPixmap(QIcon(QStringLiteral(":/pictures/%1.svg").arg(name))
-                           .pixmap(size, parent->devicePixelRatioF()));
-    picture->setAlignment(Qt::AlignCenter);
-    return picture;
-}
-
-} // namespace
 
 PageBuilder::PageBuilder(QWidget* page, Workbench* bench)
     : m_page(page), m_rows(new QFormLayout(page)), m_bench(bench)
@@ -76,6 +33,15 @@ QLabel* PageBuilder::Words(TextView words)
     auto* label = new QLabel(ToQt(words), m_page);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+/// A field's label, which names it to a screen reader as well.
+QLabel* PageBuilder::Caption(TextView label, QWidget* field)
+{
+    auto* caption = new QLabel(ToQt(label), m_page);
+    caption->setBuddy(field);
+    field->setAccessibleName(SpokenName(label));
+    return caption;
 }
 
 void PageBuilder::FieldRow(QWidget* field, ControlName name, TextView label, TextView tip,
@@ -156,16 +122,7 @@ QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip
 QComboBox* PageBuilder::ComboBox(ControlName name, TextView label, std::span<const TextView> items,
                                  bool isEditable, TextView tip, TextView unit)
 {
-    auto* box = new QComboBox(m_page);
-    box->setEditable(isEditable);
-    box->setInsertPolicy(QComboBox::NoInsert);
-    // What is typed stays as it is: no "12" for a typed "1", no "Arial" for a typed "arial".
-    if (isEditable) {
-        box->setCompleter(nullptr);
-        box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
-    }
-    for (const TextView item : items)
-        box->addItem(ToQt(item));
+    QComboBox* box = MakeComboBox(items, isEditable, m_page);
     FieldRow(box, name, label, tip, Words(unit));
     return box;
 }
@@ -200,22 +157,14 @@ orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int 
 QSlider* PageBuilder::Slider(ControlName name, TextView label, TextView low, TextView high,
                              const SliderRange& range, TextView tip)
 {
-    auto* slider = new QSlider(Qt::Horizontal, m_page);
+    QSlider* slider = MakeSlider(range, m_page);
     slider->setObjectName(ToQt(name));
     slider->setToolTip(ToQt(tip));
-    slider->setRange(range.Lowest, range.Highest);
-    slider->setTickInterval(range.Tick);
-    slider->setTickPosition(QSlider::TicksBelow);
-    slider->setPageStep(range.LargeStep);
-    slider->setSingleStep(range.SmallStep);
     auto* line = new QHBoxLayout;
     line->addWidget(Words(low));
     line->addWidget(slider, 1);
     line->addWidget(Words(high));
-    auto* caption = new QLabel(ToQt(label), m_page);
-    caption->setBuddy(slider);
-    slider->setAccessibleName(SpokenName(label));
-    m_rows->addRow(caption, line);
+    m_rows->addRow(Caption(label, slider), line);
     return slider;
 }
 
@@ -237,14 +186,10 @@ ActingList* PageBuilder::ListBox(ControlName name, TextView label, std::span<con
 {
     auto* box = new ActingList(m_page);
     box->setObjectName(ToQt(name));
-    box->setAccessibleName(SpokenName(label));
     for (const TextView item : items)
         box->addItem(ToQt(item));
-    if (!label.empty()) {
-        auto* caption = new QLabel(ToQt(label), m_page);
-        caption->setBuddy(box);
-        m_rows->addRow(caption);
-    }
+    if (!label.empty())
+        m_rows->addRow(Caption(label, box));
     Fill(box);
     return box;
 }
@@ -266,8 +211,7 @@ QRadioButton* PageBuilder::Option(ControlName group, int index, TextView caption
     m_rows->addRow(option);
     if (description.empty())
         return option;
-    auto* words = new OptionText(description, option, m_page);
-    option->setAccessibleDescription(ToQt(description));
+    QLabel* words = MakeOptionWords(description, option, m_page);
     if (picture.isEmpty())
         m_rows->addRow(words);
     else
@@ -292,14 +236,9 @@ QLineEdit* PageBuilder::HiddenText(ControlName name)
 
 orvane::MultiLineBox* PageBuilder::CodeBox(ControlName name, TextView accessibleName)
 {
-    auto* box = new orvane::MultiLineBox(m_page);
+    orvane::MultiLineBox* box = MakeCodeBox(m_page);
     box->setObjectName(ToQt(name));
     box->setAccessibleName(ToQt(accessibleName));
-    box->setReadOnly(true);
-    box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box->setTabChangesFocus(true);
-    box->setLineWrapMode(QPlainTextEdit::NoWrap);
-    box->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     Fill(box);
     return box;
 }
@@ -351,10 +290,7 @@ QLabel* PageBuilder::Row(TextView label, std::initializer_list<QWidget*> widgets
         m_rows->addRow(line);
         return nullptr;
     }
-    QWidget* field = *widgets.begin();
-    auto* caption = new QLabel(ToQt(label), m_page);
-    caption->setBuddy(field);
-    field->setAccessibleName(SpokenName(label));
+    QLabel* caption = Caption(label, *widgets.begin());
     m_rows->addRow(caption, line);
     return caption;
 }
@@ -377,14 +313,6 @@ QWidget* PageBuilder::Fill(QWidget* widget)
     widget->setSizePolicy(policy);
     m_rows->addRow(widget);
     return widget;
-}
-
-void SetComboText(QComboBox& box, TextView text)
-{
-    // With an item of that text current, the arrow keys go on from there.
-    box.setCurrentIndex(box.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    if (box.isEditable())
-        box.setEditText(ToQt(text));
 }
 
 } // namespace orvane

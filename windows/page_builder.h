@@ -3,6 +3,7 @@
 #include "core/workbench.h"
 #include "services/color.h"
 #include "windows/acting_list.h"
+#include "windows/boxes.h"
 #include "windows/browse.h"
 #include "windows/controls.h"
 #include "windows/file_name_box.h"
@@ -26,16 +27,6 @@ namespace orvane {
 class ColorSwatch;
 class MultiLineBox;
 class NumberBox;
-
-/// How far a slider goes, and how it moves.
-struct SliderRange
-{
-    int Lowest = 0;
-    int Highest = 100;
-    int Tick = 10;
-    int LargeStep = 5;
-    int SmallStep = 1;
-};
 
 /// The row vocabulary of all windows: each call adds one row, in reading order.
 class PageBuilder
@@ -138,15 +129,12 @@ public:
 
 private:
     void FieldRow(QWidget* field, ControlName name, TextView label, TextView tip, QWidget* beside);
+    QLabel* Caption(TextView label, QWidget* field);
     QLabel* Words(TextView words);
 
     QWidget* m_page;
     QFormLayout* m_rows;
     Workbench* m_bench;
 };
-
-/// Shows a text in a combo box: its item is current when there is one, and an editable box takes
-/// any other text as well.
-void SetComboText(QComboBox& box, TextView text);
 
 } // namespace orvane

@@ -1,0 +1,107 @@
+#include "windows/boxes.h"
+
+#include "windows/multi_line_box.h"
+#include "windows/qt_text.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSlider>
+
+#include <limits>
+
+namespace orvane {
+
+namespace {
+
+class OptionText : public QLabel
+{
+public:
+    OptionText(TextView words, QRadioButton* option, QWidget* parent)
+        : QLabel(ToQt(words), parent), m_option(option)
+    {
+        setWordWrap(true);
+        setTextFormat(Qt::PlainText);
+        setIndent(24);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { m_option->click(); }
+
+private:
+    QRadioButton* m_option;
+};
+
+} // namespace
+
+QLineEdit* MakeTextBox(QWidget* parent)
+{
+    auto* box = new QLineEdit(parent);
+    box->setMaxLength(std::numeric_limits<int>::max());
+    return box;
+}
+
+QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent)
+{
+    auto* box = new QComboBox(parent);
+    box->setEditable(isEditable);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    // What is typed stays as it is: no "12" for a typed "1", no "Arial" for a typed "arial".
+    if (isEditable) {
+        box->setCompleter(nullptr);
+        box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
+    }
+    for (const TextView item : items)
+        box->addItem(ToQt(item));
+    return box;
+}
+
+void SetComboText(QComboBox& box, TextView text)
+{
+    // With an item of that text current, the arrow keys go on from there.
+    box.setCurrentIndex(box.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    if (box.isEditable())
+        box.setEditText(ToQt(text));
+}
+
+QSlider* MakeSlider(const SliderRange& range, QWidget* parent)
+{
+    auto* slider = new QSlider(Qt::Horizontal, parent);
+    slider->setRange(range.Lowest, range.Highest);
+    slider->setTickInterval(range.Tick);
+    slider->setTickPosition(QSlider::TicksBelow);
+    slider->setPageStep(range.LargeStep);
+    slider->setSingleStep(range.SmallStep);
+    return slider;
+}
+
+MultiLineBox* MakeCodeBox(QWidget* parent)
+{
+    auto* box = new MultiLineBox(parent);
+    box->setReadOnly(true);
+    box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box->setTabChangesFocus(true);
+    box->setLineWrapMode(QPlainTextEdit::NoWrap);
+    box->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    return box;
+}
+
+QLabel* MakeOptionWords(TextView words, QRadioButton* option, QWidget* parent)
+{
+    option->setAccessibleDescription(ToQt(words));
+    return new OptionText(words, option, parent);
+}
+
+QLabel* MakePicture(const QString& name, QSize size, QWidget* parent)
+{
+    auto* picture = new QLabel(parent);
+    picture->setPixmap(QIcon(QStringLiteral(":/pictures/%1.svg").arg(name))
+                           .pixmap(size, parent->devicePixelRatioF()));
+    picture->setAlignment(Qt::AlignCenter);
+    return picture;
+}
+
+} // namespace orvane
