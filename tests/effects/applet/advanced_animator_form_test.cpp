@@ -57,30 +57,6 @@ protected:
     std::unique_ptr<AdvancedAnimatorForm> m_form;
 };
 
-TEST_F(AdvancedAnimatorFormTest, DoneHandsTheTypedAnimationOver)
-{
-    AddImage(0);
-    AddImage(1);
-    Type(Form(), "Text20", u"320");
-    Type(Form(), "Text21", u"200");
-    m_desk.Dialogs.AnswerColor(0x0080FF);
-    Click(Form(), "Label16");
-    Find<QComboBox>(Form(), "Combo3")->setCurrentIndex(10);
-    Click(Form(), "cmdDone");
-    RequiredFiles required;
-    required.Names = {u"a.gif", u"b.gif"};
-    required.Sources = {u"/pics/a.gif", u"/pics/b.gif"};
-    const AdvancedAnimator expected{.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
-                                    .AnimationWidth = u"320",
-                                    .AnimationHeight = u"200",
-                                    .LoopCount = u"10 times",
-                                    .BackgroundColor = u"255,128,0",
-                                    .Required = required};
-    EXPECT_EQ(Form().TakePayload(), Generate(expected));
-    EXPECT_FALSE(Form().isVisible());
-    EXPECT_EQ(Form().Parameters(), expected);
-}
-
 TEST_F(AdvancedAnimatorFormTest, PropertiesGoIntoTheSelectedRow)
 {
     AddImage(0);

@@ -48,29 +48,6 @@ protected:
     ImageEffectsForm m_form{m_desk.Bench};
 };
 
-TEST_F(ImageEffectsFormTest, HandsOverACubeWithItsColor)
-{
-    EXPECT_FALSE(Find<QWidget>(m_form, "ImageFile")->isVisible());
-    Pick("Image Cube");
-    EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("ImageFile"));
-    Browse(256, 255);
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Browse(256, 256);
-    m_desk.Dialogs.AnswerColor(0x0080FF);
-    Click(m_form, "ColorSwatch");
-    Find<QSlider>(m_form, "SizeSlider")->setValue(999);
-    Click(m_form, "cmdDone");
-    ImageEffects expected{.EffectPicker = u"Image Cube",
-                          .ImageFile = u"a.gif",
-                          .ImageWidth = u"256",
-                          .ImageHeight = u"256",
-                          .SizeSlider = 250,
-                          .Required = {.Sources = {m_folder.TextAt("a.gif")}}};
-    ChooseColor(expected, u"255,128,0");
-    EXPECT_EQ(m_form.Parameters(), expected);
-    EXPECT_EQ(m_form.TakePayload(), Generate(expected));
-}
-
 TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
 {
     const QSize size = m_form.size();

@@ -37,36 +37,6 @@ protected:
     ImageFadeForm m_form{m_desk.Bench};
 };
 
-TEST_F(ImageFadeFormTest, HandsOverTheImagesInTheirOrderWithLinkAndSource)
-{
-    Add("a.gif");
-    Add("d.gif");
-    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
-    Add("c.gif");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Add("b.gif");
-    Click(m_form, "cmdLinkToURL");
-    auto* link = m_form.findChild<ImageFadeURLForm*>();
-    ASSERT_NE(link, nullptr);
-    Click(*link, "cmdOK");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Enter a URL in the text input box or click Cancel."});
-    Type(*link, "txtURL", u"WWW.x");
-    Click(*link, "cmdOK");
-    Click(m_form, "cmdMoveUp"); // the new row was selected
-    Type(m_form, "FadePause", u".5");
-    Click(m_form, "cmdDone");
-    const ImageFade expected{
-        .FadeImages = {u"b.gif", u"a.gif"},
-        .FadeLinks = {u"http://WWW.x", u""},
-        .FadePause = u"1.5",
-        .FadeWidth = u"100",
-        .FadeHeight = u"80",
-        .Required = {.Sources = {m_folder.TextAt("b.gif"), m_folder.TextAt("a.gif")}}};
-    EXPECT_EQ(m_form.Parameters(), expected);
-    EXPECT_EQ(m_form.TakePayload(), Generate(expected));
-}
-
 TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
 {
     EXPECT_FALSE(Find<QPushButton>(m_form, "cmdRemoveImage")->isEnabled());

@@ -1,9 +1,7 @@
 #include "effects/applet/more_image_effects_form.h"
 
 #include "tests/support/doubles.h"
-#include "tests/support/picture_files.h"
 #include "tests/support/qt_controls.h"
-#include "tests/support/test_folder.h"
 
 #include <QComboBox>
 
@@ -29,35 +27,6 @@ protected:
     FakeDesk m_desk;
     MoreImageEffectsForm m_form{m_desk.Bench};
 };
-
-TEST_F(MoreImageEffectsFormTest, HandsOverWhatWasTyped)
-{
-    EXPECT_FALSE(Shows("ImageFile"));
-    Pick("Slide-in");
-    TestFolder folder;
-    folder.Put("a.gif", GifBytes(70, 80));
-    for (const char* file : {"missing.gif", "a.gif"}) {
-        m_desk.Dialogs.AnswerOpenFile(folder.TextAt(file));
-        Click(m_form, "cmdBrowseForImage");
-    }
-    m_desk.Dialogs.AnswerColor(0x0080FF);
-    Click(m_form, "lblBGColor");
-    Type(m_form, "LinkUrl", u"www.x");
-    Find<QComboBox>(m_form, "StartEdge")->setEditText(QStringLiteral("bottom"));
-    Click(m_form, "cmdDone");
-    const MoreImageEffects expected{.EffectPicker = u"Slide-in",
-                                    .ImageFile = u"a.gif",
-                                    .ImageWidth = u"70",
-                                    .ImageHeight = u"80",
-                                    .BackColorText = u"255,128,0",
-                                    .LinkUrl = u"http://www.x",
-                                    .LoopCount = u"1",
-                                    .StartEdge = u"bottom",
-                                    .Required = {.Sources = {folder.TextAt("a.gif")}}};
-    EXPECT_EQ(m_form.Parameters(), expected);
-    EXPECT_EQ(m_form.TakePayload(), Generate(expected));
-    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
-}
 
 TEST_F(MoreImageEffectsFormTest, PauseAndEdgeComeAndGo)
 {

@@ -5,7 +5,6 @@
 
 #include <QComboBox>
 #include <QPlainTextEdit>
-#include <QSlider>
 
 namespace orvane {
 namespace {
@@ -20,43 +19,6 @@ protected:
     FakeDesk m_desk;
     TypewriterTextForm m_form{m_desk.Bench};
 };
-
-TEST_F(TypewriterTextFormTest, HandsOverWhatWasTypedOnThreePages)
-{
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Find<QPlainTextEdit>(m_form, "TypedText")->setPlainText(QStringLiteral("a\nb"));
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(WordsOf(m_form, "lblHeading"), u"Step 2: Text Properties");
-    Click(m_form, "Italic");
-    m_desk.Dialogs.AnswerColor(0x0080FF);
-    Click(m_form, "TextColorSwatch");
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(WordsOf(m_form, "cmdNext"), u"&Done");
-    Click(m_form, "cmdPrevious");
-    EXPECT_EQ(WordsOf(m_form, "cmdNext"), u"&Next >>");
-    Click(m_form, "cmdNext");
-    Type(m_form, "AppletWidth", u"300");
-    Type(m_form, "AppletHeight", u"80");
-    Find<QSlider>(m_form, "Speed")->setValue(500);
-    m_desk.Dialogs.AnswerOpenFile(u"/p/a b.gif");
-    Click(m_form, "cmdBrowseForImage");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    m_desk.Dialogs.AnswerOpenFile(u"/p/a.gif");
-    Click(m_form, "cmdBrowseForImage");
-    Type(m_form, "LinkURL", u"www.x");
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(m_form.TakePayload(), Generate({.TypedText = u"a\r\nb",
-                                              .Italic = true,
-                                              .TextColor = u"255,128,0",
-                                              .AppletWidth = u"300",
-                                              .AppletHeight = u"80",
-                                              .Speed = 500,
-                                              .BackImage = u"a.gif",
-                                              .LinkURL = u"http://www.x",
-                                              .Required = {.Sources = {u"/p/a.gif"}}}));
-    EXPECT_EQ(WordsOf(m_form, "LinkURL"), u"http://www.x");
-}
 
 TEST_F(TypewriterTextFormTest, ATextFileTakesThePlaceOfTheText)
 {

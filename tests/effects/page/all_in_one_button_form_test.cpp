@@ -24,27 +24,6 @@ protected:
     AllInOneButtonForm m_form{m_desk.Bench};
 };
 
-TEST_F(AllInOneButtonFormTest, FromFreshToPayload)
-{
-    m_form.show();
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Choose(ButtonAction::Sound);
-    ExpectAccessible(m_form);
-    EXPECT_EQ(WordsOf(m_form, "lblURL"), u"Sound file:");
-    EXPECT_FALSE(Find<QWidget>(m_form, "txtBookmarkURL")->isVisible());
-    Type(m_form, "txtURL", u"x");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    m_desk.Dialogs.AnswerOpenFile(u"/sounds/my ding.wav");
-    Click(m_form, "cmdBrowse");
-    Type(m_form, "txtButtonText", u"Go");
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(m_form.TakePayload(), Generate({.cboButtonAction = Text(buttonActions[3]),
-                                              .txtButtonText = u"Go",
-                                              .txtURL = u"my ding.wav"}));
-    EXPECT_EQ(m_desk.Core.Required, RequiredFiles());
-}
-
 TEST_F(AllInOneButtonFormTest, AnotherTypeAndANewEntryEmptyTheTexts)
 {
     m_form.show();

@@ -67,19 +67,6 @@ TEST_F(PasswordProtectionFormTest, TheLoginWritesItsScriptOrStaysOpen)
         EXPECT_EQ(bytes.find("secret word"), std::string::npos) << ToUtf8(path);
 }
 
-TEST_F(PasswordProtectionFormTest, TheScriptLiesInTheProgramsFolderOnceDone)
-{
-    Click(m_form, "optScheme(1)");
-    Click(m_form, "cmdNext");
-    Type(m_form, "LoginUsername", u"Zo\u00EB");
-    Type(m_form, "LoginPassword", u"x");
-    Type(m_form, "LandingUrl", u"a.html");
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(m_form.TakePayload()->Kind, EffectKind::PasswordServer);
-    EXPECT_NE(m_desk.Files.Contents[u"/program/password.cgi"].find("$username = \"Zo\xEB\";\r\n"),
-              std::string::npos);
-}
-
 TEST_F(PasswordProtectionFormTest, ADraftsOptionSurvivesTheFirstEntryAndNoSecretIsKept)
 {
     m_form.SetParameters({.optScheme = PasswordScheme::Script,

@@ -1,9 +1,7 @@
 #include "effects/page/popup_window_form.h"
 
 #include "tests/support/doubles.h"
-#include "tests/support/picture_files.h"
 #include "tests/support/qt_controls.h"
-#include "tests/support/test_folder.h"
 
 #include <QPushButton>
 
@@ -18,33 +16,6 @@ protected:
     FakeDesk m_desk;
     PopupWindowForm m_form{m_desk.Bench};
 };
-
-TEST_F(PopupWindowFormTest, TwoPagesFromFreshToPayload)
-{
-    TestFolder folder;
-    WriteFile(folder.At("photo.GIF"), GifBytes(30, 20));
-    m_form.show();
-    Click(m_form, "optWhenToAppear(1)");
-    Click(m_form, "cmdNext");
-    Type(m_form, "txtWindowName", u"photo");
-    m_desk.Dialogs.AnswerOpenFile(folder.TextAt("photo.GIF"));
-    Click(m_form, "cmdBrowseForWebPageOrImage");
-    EXPECT_EQ(m_desk.Dialogs.Requests[0].FilterIndex, 2);
-    Click(m_form, "chkResizable");
-    Click(m_form, "cmdNext");
-    PopupWindow window{.optWhenToAppear = WhenToAppear::OnExit,
-                       .txtWindowName = u"photo",
-                       .txtURL = u"photo.GIF",
-                       .txtWidth = u"30",
-                       .txtHeight = u"20",
-                       .chkResizable = true};
-    window.Required.Sources[0] = folder.TextAt("photo.GIF");
-    EXPECT_EQ(m_form.TakePayload(), Generate(window));
-    m_form.show();
-    Type(m_form, "txtURL", u"x");
-    Click(m_form, "cmdNext");
-    EXPECT_EQ(m_form.TakePayload()->Required.Sources[0], u"");
-}
 
 TEST_F(PopupWindowFormTest, TheLinkFrameFollowsTheChoice)
 {

@@ -23,26 +23,6 @@ protected:
     PulldownMenuForm m_form{m_desk.Bench};
 };
 
-TEST_F(PulldownMenuFormTest, FromFreshToPayload)
-{
-    EXPECT_FALSE(Find<QPushButton>(m_form, "cmdEditMenuItem")->isEnabled());
-    Click(m_form, "cmdDone");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Click(m_form, "cmdAddMenuItem");
-    Click(Item(), "cmdOK");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Type(Item(), "txtMenuItem", u"Home");
-    Type(Item(), "txtMenuItemURL", u"www.example.com");
-    Click(Item(), "cmdOK");
-    LetRun();
-    Click(m_form, "cmdAddSeparator");
-    Click(m_form, "optDisplay(0)");
-    Click(m_form, "cmdDone");
-    EXPECT_EQ(m_form.TakePayload(), Generate({.List1 = {u"Home", Text(menuSeparator)},
-                                              .List2 = {u"http://www.example.com", u""},
-                                              .optDisplay = MenuDisplay::AllItems}));
-}
-
 TEST_F(PulldownMenuFormTest, EditsTheSelectedItemButNoSeparator)
 {
     m_form.SetParameters({.List1 = {u"a", Text(menuSeparator)}, .List2 = {u"a.html", u""}});

@@ -8,21 +8,6 @@ namespace {
 
 using namespace orvane::testing;
 
-TEST(SearchBoxFormTest, SearchesASiteOnceItIsChosen)
-{
-    FakeDesk desk;
-    SearchBoxForm form(desk.Bench);
-    form.show();
-    EXPECT_FALSE(Find<QWidget>(form, "txtURL")->isEnabled());
-    EXPECT_FALSE(Find<QWidget>(form, "txtTranslateURL")->isVisible());
-    Click(form, "optSearch(1)");
-    Type(form, "txtURL", u"mysite.com");
-    Click(form, "cmdDone");
-    EffectPayload expected = Generate({.optSearch = SearchPlace::Site, .txtURL = u"mysite.com"});
-    expected.Required.Sources[0] = u"/program/GoogleLogo.gif";
-    EXPECT_EQ(form.TakePayload(), expected);
-}
-
 TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
 {
     FakeDesk desk;

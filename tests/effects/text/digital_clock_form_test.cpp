@@ -1,17 +1,10 @@
 #include "effects/text/digital_clock_form.h"
 
 #include "tests/support/doubles.h"
-#include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"
-#include "windows/color_swatch.h"
-#include "windows/number_box.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QListWidget>
-#include <QMouseEvent>
-#include <QRadioButton>
 
 namespace orvane {
 namespace {
@@ -42,33 +35,6 @@ protected:
     FakeDesk m_desk;
     DigitalClockForm m_form{m_desk.Bench};
 };
-
-TEST_F(DigitalClockFormTest, TypedAndClickedThroughGivesThePage)
-{
-    Click(m_form, "optDateTime(2)");
-    Click(m_form, "cmdNext");
-    ChooseFormat(QStringLiteral("11/28/2001"));
-    Click(m_form, "chkDayOfWeek");
-    Click(m_form, "cmdNext");
-    Click(m_form, "cmdNext");
-    Retype("cboFont", u"Courier New");
-    Retype("cboFontSize", u"20");
-    Retype("cboFontStyle", u"Bold Italic");
-    Retype("txtPadding", u"5");
-    m_desk.Dialogs.AnswerColor(0x00FFFF);
-    Click(m_form, "lblBGColor");
-    m_desk.Dialogs.AnswerColor(0xFF0000);
-    Click(m_form, "lblFontColor");
-    Click(m_form, "cmdNext");
-
-    const auto payload = m_form.TakePayload();
-    ASSERT_TRUE(payload);
-    EXPECT_EQ(payload->Kind, EffectKind::DigitalClock);
-    ExpectSameText(ExpectedText("digital_clock_both_day_of_week.html"), payload->BODYHTML);
-    EXPECT_TRUE(payload->BODYHTML.starts_with(m_desk.Core.SavedHEAD));
-    EXPECT_NE(Find(m_desk.Core.SavedBODY, u"Digital clock will be displayed here"), 0u);
-    EXPECT_FALSE(m_form.isVisible());
-}
 
 TEST_F(DigitalClockFormTest, ShowsItsPagesForthAndBack)
 {

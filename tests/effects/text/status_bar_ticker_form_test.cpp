@@ -17,17 +17,6 @@ protected:
     StatusBarTickerForm m_form{m_desk.Bench};
 };
 
-TEST_F(StatusBarTickerFormTest, DoneHandsTheTypedTextOver)
-{
-    m_form.show();
-    Type(m_form, "txtStatusBarText", u" \"Hi\" Ω");
-    Click(m_form, "cmdDone");
-    EXPECT_EQ(m_form.TakePayload(), Generate({u" \"Hi\" Ω"}));
-    EXPECT_FALSE(m_form.isVisible());
-    EXPECT_EQ(m_form.Parameters().txtStatusBarText, u" \"Hi\" Ω");
-    EXPECT_EQ(m_form.TakePayload(), std::nullopt);
-}
-
 TEST_F(StatusBarTickerFormTest, EmptyTextKeepsTheWindowOpenWithTheFocusInIt)
 {
     m_form.show();
