@@ -7,6 +7,7 @@ run_packages=(
     openjdk-17-jdk-headless esbuild
 )
 test_packages=(clang-format openjdk-17-jre xvfb xauth)
+desktop_packages=(desktop-file-utils shared-mime-info appstream mandoc lintian dpkg-dev file)
 
 # Installs the packages that are missing, as root or by sudo; a machine that has all is not asked.
 install_packages() {

@@ -1,12 +1,11 @@
 #include "preview/qt_preview_pane.h"
 
 #include "core/file_names.h"
+#include "preview/qt_web_view_module.h"
 #include "windows/qt_text.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLibrary>
 #include <QPainter>
 #include <QPushButton>
 #include <QStackedLayout>
@@ -186,8 +185,7 @@ std::optional<Text> QtPreviewPane::LoadView()
 {
     if (m_view)
         return std::nullopt;
-    QLibrary module(QCoreApplication::applicationDirPath() + u'/' + webViewModule);
-    const auto make = reinterpret_cast<MakeWebView>(module.resolve(makeWebViewName));
+    const MakeWebView make = LoadWebViewModule();
     if (!make)
         return u"The built-in preview could not be loaded: its file (orvane_web_view) or a library "
                u"that it needs is missing.";

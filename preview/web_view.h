@@ -67,7 +67,7 @@ public:
 /// outlive the view.
 using MakeWebView = WebView* (*)(WebViewOwner& owner, QWidget* parent, Text& refusal);
 
-/// The module that holds the view, beside the program, and the function in it.
+/// The module that holds the view, and the function in it.
 inline constexpr const char* webViewModule = "orvane_web_view";
 inline constexpr const char* makeWebViewName = "OrvaneMakeWebView";
 

@@ -151,17 +151,29 @@ Text FormDesk::ListEffectsOfTags()
 
 void FormDesk::OpenEffect(const EffectCommand& command)
 {
-    const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get());
-    if (wizard == nullptr)
-        return;
+    if (const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get()))
+        LeadThrough(*wizard);
+}
+
+void FormDesk::OpenProject(TextView path)
+{
+    if (!m_bench.Files.FileExists(path))
+        return m_bench.Dialogs.Say(Join({u"Orvane finds no file ", path, u"."}));
+    AdvancedAnimatorForm animator(m_bench, m_mainForm.get());
+    animator.ShowProject(path);
+    LeadThrough(animator);
+}
+
+void FormDesk::LeadThrough(WizardForm& wizard)
+{
     emit WizardOpened();
     while (true) {
-        ShowModally(*wizard);
-        const auto payload = wizard->TakePayload();
+        ShowModally(wizard);
+        const auto payload = wizard.TakePayload();
         if (!payload)
             return;
         m_bench.Core.Payload = *payload;
-        if (ShowPreview(*payload, *wizard) == DeliveryEnd::Finished)
+        if (ShowPreview(*payload, wizard) == DeliveryEnd::Finished)
             return;
     }
 }

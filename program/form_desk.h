@@ -41,6 +41,10 @@ public:
     /// Leads the author through the effect's wizard and its delivery until both are closed.
     void OpenEffect(const EffectCommand& command);
 
+    /// Leads the author through the animator's wizard, which opens with a project; a file that does
+    /// not exist is told, and no wizard opens.
+    void OpenProject(TextView path);
+
     /// Asks for a pasted applet tag and leads the author through its effect's wizard.
     void EditApplet();
 
@@ -51,6 +55,7 @@ signals:
     void WizardOpened();
 
 private:
+    void LeadThrough(WizardForm& wizard);
     void ShowModally(QDialog& window);
     DeliveryEnd ShowPreview(const EffectPayload& payload, WizardForm& wizard);
     void ShowOptions(QWidget* parent);

@@ -4,6 +4,7 @@
 #include "disk/system_calls.h"
 #include "help/help_form.h"
 #include "preview/qt_preview_pane.h"
+#include "program/command_line.h"
 #include "program/form_desk.h"
 #include "program/qt_dialogs.h"
 #include "program/qt_resources.h"
@@ -26,6 +27,9 @@ namespace {
 
 constexpr int warmDelayMs = 400;
 
+/// The name of the desktop entry and of the icon that are installed with the program.
+constexpr orvane::TextView desktopId = u"example.varlo.orvane";
+
 std::optional<orvane::Text> EnvironmentVariable(orvane::TextView name)
 {
     const char* value = std::getenv(orvane::ToUtf8(name).c_str());
@@ -45,11 +49,21 @@ void ProvideHome()
         setenv("HOME", account->pw_dir, 1);
 }
 
+/// Writes the answer where its reader looks for it, and gives the exit code.
+int Tell(const orvane::TerminalAnswer& answer)
+{
+    std::fputs(answer.Words.c_str(), answer.ExitCode == EXIT_SUCCESS ? stdout : stderr);
+    return answer.ExitCode;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     using namespace orvane;
+    const QStringList words(argv + 1, argv + argc);
+    if (const auto answer = AnswerOf(words, ORVANE_VERSION))
+        return Tell(*answer);
     ProvideHome();
     const auto folders = FindUserFolders(EnvironmentVariable);
     if (!folders) {
@@ -60,8 +74,11 @@ int main(int argc, char** argv)
     QuietEngines();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
-    QApplication::setDesktopFileName(QStringLiteral("orvane"));
+    QApplication::setDesktopFileName(ToQt(desktopId));
     QApplication::setQuitOnLastWindowClosed(false);
+    const auto project = ProjectOf(QApplication::arguments().mid(1));
+    if (const auto* answer = std::get_if<TerminalAnswer>(&project))
+        return Tell(*answer);
 
     PosixCalls calls;
     DiskFileStore files(calls, folders->State);
@@ -92,8 +109,11 @@ int main(int argc, char** argv)
     desk.Start();
     // Behind the first paint of the window: the icon alone loads a library.
     QTimer::singleShot(0, &desk, [&] {
-        QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
+        QApplication::setWindowIcon(
+            QIcon::fromTheme(ToQt(desktopId), QIcon(QStringLiteral(":/pictures/orvane.svg"))));
         InstallResources(files, dialogs, folders->Program);
+        if (const Text& path = std::get<Text>(project); !path.empty())
+            desk.OpenProject(path);
     });
     return QApplication::exec();
 }

@@ -37,6 +37,11 @@ AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
     AddButtons(Buttons::OnePage, "cmdHelp");
 }
 
+void AdvancedAnimatorForm::ShowProject(TextView path)
+{
+    TakeProject(LoadProject(path, m_bench.Dialogs, m_bench.Files).value_or(Parameters()));
+}
+
 void AdvancedAnimatorForm::AddMenus()
 {
     auto* bar = new QMenuBar(this);

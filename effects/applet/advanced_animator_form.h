@@ -13,6 +13,9 @@ class AdvancedAnimatorForm : public EffectForm<AdvancedAnimator>
 public:
     explicit AdvancedAnimatorForm(Workbench& bench, QWidget* parent = nullptr);
 
+    /// Shows the animation of a project file, as File, Open does once the author has picked it.
+    void ShowProject(TextView path);
+
 private:
     void AddMenus();
     void AddFields(PageBuilder& page);

@@ -173,18 +173,22 @@ void SaveProject(const AdvancedAnimator& animator, Dialogs& dialogs, FileStore& 
         static_cast<void>(files.Replace(*path, ProjectBytes(animator)));
 }
 
+std::optional<AdvancedAnimator> LoadProject(TextView path, Dialogs& dialogs, const FileStore& files)
+{
+    const auto bytes = files.Read(path);
+    const Fault* fault = FaultIn(bytes);
+    if (fault ? *fault == Fault::OutOfMemory : ValueIn(bytes).size() > sizeLimit) {
+        dialogs.Say(u"This file is larger than 4 MB, which is too large for a project.");
+        return std::nullopt;
+    }
+    return ReadProject(fault ? std::string_view() : ValueIn(bytes));
+}
+
 AdvancedAnimator OpenProject(const AdvancedAnimator& animator, Dialogs& dialogs,
                              const FileStore& files)
 {
-    if (const auto path = dialogs.OpenFile(ProjectRequest(u"Open"))) {
-        const auto bytes = files.Read(*path);
-        const Fault* fault = FaultIn(bytes);
-        if (fault ? *fault == Fault::OutOfMemory : ValueIn(bytes).size() > sizeLimit) {
-            dialogs.Say(u"This file is larger than 4 MB, which is too large for a project.");
-            return animator;
-        }
-        return ReadProject(fault ? std::string_view() : ValueIn(bytes));
-    }
+    if (const auto path = dialogs.OpenFile(ProjectRequest(u"Open")))
+        return LoadProject(*path, dialogs, files).value_or(animator);
     AdvancedAnimator emptied = animator;
     emptied.Rows.clear();
     return emptied;

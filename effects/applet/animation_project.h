@@ -24,9 +24,13 @@ std::optional<Complaint> CheckProject(const AdvancedAnimator& animator);
 /// Expects an animation that passes CheckProject().
 void SaveProject(const AdvancedAnimator& animator, Dialogs& dialogs, FileStore& files);
 
+/// The animation of a project file. A file that cannot be read counts as an empty one; one of more
+/// than 4 MB is refused with a word, and gives nothing.
+std::optional<AdvancedAnimator> LoadProject(TextView path, Dialogs& dialogs,
+                                            const FileStore& files);
+
 /// Asks for a project and gives its animation; after a cancel the rows are gone and all else is as
-/// it was. A file that cannot be read counts as an empty one; one of more than 4 MB is refused with
-/// a word, and everything is as it was.
+/// it was. After a refusal everything is as it was.
 AdvancedAnimator OpenProject(const AdvancedAnimator& animator, Dialogs& dialogs,
                              const FileStore& files);
 

@@ -2,7 +2,9 @@
 
 #include "effects/applet/animation_project.h"
 #include "effects/applet/img_props_form.h"
+#include "program/form_desk.h"
 #include "tests/support/doubles.h"
+#include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"
 
 #include <QAction>
@@ -115,6 +117,22 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnew)
     Choose("mnuFileReturnToMainMenu");
     EXPECT_FALSE(Form().isVisible());
     EXPECT_EQ(Form().TakePayload(), std::nullopt);
+}
+
+TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith)
+{
+    FormDesk road(m_desk.Bench, nullptr);
+    road.OpenProject(u"/film.ovn");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Orvane finds no file /film.ovn."});
+
+    m_desk.Files.Contents[u"/film.ovn"] = ExpectedBytes("animator_project_two_images.ovn");
+    Text image;
+    WhenInFront<AdvancedAnimatorForm>([&](AdvancedAnimatorForm& wizard) {
+        image = wizard.Parameters().Rows.at(1).FileName;
+        wizard.reject();
+    });
+    road.OpenProject(u"/film.ovn");
+    EXPECT_EQ(image, u"b.gif");
 }
 
 } // namespace

@@ -1,0 +1,13 @@
+# Removes what the last `cmake --install` has put anywhere, and the folders that are Orvane's alone.
+if(NOT EXISTS install_manifest.txt)
+  message(FATAL_ERROR "Nothing was installed from this folder")
+endif()
+file(STRINGS install_manifest.txt files)
+foreach(file IN LISTS files)
+  file(REMOVE $ENV{DESTDIR}${file})
+  get_filename_component(folder $ENV{DESTDIR}${file} DIRECTORY)
+  file(GLOB left ${folder}/*)
+  if(folder MATCHES "/orvane$" AND NOT left)
+    file(REMOVE_RECURSE ${folder})
+  endif()
+endforeach()
