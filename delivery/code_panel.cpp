@@ -48,14 +48,16 @@ void CodePanel::AddPageScript()
     MultiLineBox* box = page.CodeBox("txtPageScript", u"Page script HTML code");
     box->SetWords(pageScriptLines);
     box->setFixedHeight(box->fontMetrics().lineSpacing() * 5);
-    page.Buttons({CopyButton(page, "cmdCopyPageScript", u"Co&py", box, Text(pageScriptLines),
+    page.Buttons({CopyButton(page, "cmdCopyPageScript", u"Cop&y", box, Text(pageScriptLines),
                              u"page script")});
 }
 
 void CodePanel::ShowPageScript(bool isWanted)
 {
-    if (isWanted && m_pageScript->layout() == nullptr)
+    if (isWanted && m_pageScript->layout() == nullptr) {
         AddPageScript();
+        SetReadingOrder(*window());
+    }
     m_pageScript->setVisible(isWanted);
     // The lines may be all that goes into the HEAD.
     const bool isCodeShown = !isWanted || !m_box->Words().empty();

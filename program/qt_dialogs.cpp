@@ -1,6 +1,7 @@
 #include "program/qt_dialogs.h"
 
 #include "program/words_box.h"
+#include "windows/controls.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
@@ -209,6 +210,7 @@ PageBoxReply QtDialogs::Answer(const PageBox& box)
     stop->setObjectName("chkStop");
     stop->setVisible(box.OffersStop);
     dialog.Below().addWidget(stop);
+    SetReadingOrder(dialog);
     const bool isAccepted = Run(dialog);
     return {.Accepted = isAccepted, .Entered = FromQt(entry->text()), .Stop = stop->isChecked()};
 }

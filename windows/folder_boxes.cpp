@@ -84,8 +84,8 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    AddBox(column, names.Drive, u"D&rive:", m_drives, 0);
-    AddBox(column, names.Folder, u"F&older:", m_folders, 2);
+    AddBox(column, names.Drive, u"Drive:", m_drives, 0);
+    AddBox(column, names.Folder, u"Folder:", m_folders, 2);
     for (const Text& drive : m_driveList)
         m_drives->addItem(ToQt(drive));
     connect(m_drives, &QComboBox::activated, this, &FolderBoxes::PickDrive);
@@ -97,7 +97,7 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
     connect(m_folders, &QListWidget::itemDoubleClicked, this, pick);
     if (!names.File.empty()) {
         m_files = new ActingList;
-        AddBox(column, names.File, u"F&iles:", m_files, 3);
+        AddBox(column, names.File, u"Files:", m_files, 3);
         connect(m_files, &ActingList::DoubleClicked, this, &FolderBoxes::FileActivated);
         connect(m_files, &ActingList::Entered, this, &FolderBoxes::FileActivated);
         connect(m_files, &QListWidget::itemSelectionChanged, this, &FolderBoxes::FileSelected);

@@ -11,7 +11,9 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <map>
 #include <set>
+#include <vector>
 
 namespace orvane::testing {
 
@@ -43,6 +45,51 @@ QString SpokenName(const QWidget& control)
         button != nullptr && !button->text().isEmpty())
         return button->text();
     return control.accessibleName();
+}
+
+/// The caption that may mark an access key: of a button, or of a label that leads to a field.
+QString CaptionOf(const QWidget& control)
+{
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
+        return button->text();
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    return label != nullptr && label->buddy() != nullptr ? label->text() : QString();
+}
+
+QChar AccessKeyIn(QString caption)
+{
+    caption.remove(QStringLiteral("&&"));
+    const auto mark = caption.indexOf(u'&');
+    return mark < 0 || mark + 1 == caption.size() ? QChar() : caption[mark + 1].toLower();
+}
+
+/// Whether a reader comes to `next` behind `control`: further right, or further down.
+bool IsBehind(const QRect& control, const QRect& next)
+{
+    const bool isInOneRow = next.top() < control.bottom() && control.top() < next.bottom();
+    return isInOneRow ? next.left() >= control.left()
+                      : next.top() >= control.top() || next.left() >= control.right();
+}
+
+/// Tab goes in reading order and reaches every control.
+void ExpectReadingOrder(QWidget& window)
+{
+    std::vector<const QWidget*> stops;
+    const QWidget* control = &window;
+    do {
+        // What is scrolled out of sight has no place.
+        if (TakesFocus(*control) && control->isEnabled() &&
+            control->visibleRegion().boundingRect() == control->rect())
+            stops.push_back(control);
+        control = control->nextInFocusChain();
+    } while (control != &window);
+    const auto place = [&](const QWidget& stop) {
+        return QRect(stop.mapTo(&window, QPoint()), stop.size());
+    };
+    for (std::size_t i = 1; i < stops.size(); ++i)
+        EXPECT_TRUE(IsBehind(place(*stops[i - 1]), place(*stops[i])))
+            << "Tab goes back from " << stops[i - 1]->objectName().toStdString() << " to "
+            << stops[i]->objectName().toStdString();
 }
 
 } // namespace
@@ -112,12 +159,19 @@ void Poll(const std::function<bool(QWidget* front, bool mayWait)>& action)
 void ExpectAccessible(QWidget& window)
 {
     std::set<QString> names;
+    std::map<QChar, std::string> keys;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QString name = control->objectName();
         if (!control->isVisibleTo(&window) || IsInner(*control))
             continue;
         EXPECT_TRUE(name.isEmpty() || names.insert(name).second)
             << "twice on a page: " << name.toStdString();
+        const QString caption = CaptionOf(*control);
+        if (const QChar key = AccessKeyIn(caption); !key.isNull()) {
+            const auto [other, isFirst] = keys.emplace(key, caption.toStdString());
+            EXPECT_TRUE(isFirst) << "one access key: " << other->second << ", "
+                                 << caption.toStdString();
+        }
         if (TakesFocus(*control)) {
             EXPECT_FALSE(name.isEmpty())
                 << "no object name: " << control->metaObject()->className();
@@ -129,6 +183,7 @@ void ExpectAccessible(QWidget& window)
             EXPECT_GE(label->height(), needed) << "cut off: " << label->text().toStdString();
         }
     }
+    ExpectReadingOrder(window);
 }
 
 } // namespace orvane::testing

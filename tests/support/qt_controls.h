@@ -39,8 +39,9 @@ Text WordsOf(QWidget& window, const char* name);
 /// Runs what waits in the event loop.
 void LetRun();
 
-/// What every window owes the author; fails the test with the control's name: object names unique
-/// among the visible ones, an accessible name for each control that takes focus, no text cut off.
+/// What every window owes the author; fails the test with the control's name: object names and
+/// access keys unique among the visible ones, an accessible name for each control that takes focus,
+/// Tab in reading order, no text cut off.
 void ExpectAccessible(QWidget& window);
 
 /// Calls `action` from the event loop, with the modal window in front and whether it is still worth
