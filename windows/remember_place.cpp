@@ -1,0 +1,85 @@
+#include "windows/remember_place.h"
+
+#include "core/settings.h"
+#include "windows/qt_text.h"
+
+#include <QByteArray>
+#include <QEvent>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView section = u"Places";
+
+/// Waits for the window to come up and to go.
+class PlaceKeeper : public QObject
+{
+public:
+    PlaceKeeper(QWidget& window, Settings& settings)
+        : QObject(&window), m_window(window), m_settings(settings)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        // Polish comes once, before the first show, when the window is complete.
+        if (event->type() == QEvent::Polish)
+            Restore();
+        else if (event->type() == QEvent::Hide && !event->spontaneous())
+            Save();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Text Key() const { return FromQt(m_window.objectName()); }
+
+    void Restore()
+    {
+        const auto stored =
+            QByteArray::fromBase64(ToQt(m_settings.Get(section, Key(), u"")).toLatin1());
+        // A text that was cut short would be read as zeros behind its end.
+        if (stored.size() != m_window.saveGeometry().size() || !m_window.restoreGeometry(stored))
+            return;
+        if (!m_window.isMaximized() && !m_window.isFullScreen())
+            BringIntoSight();
+    }
+
+    /// The toolkit moves a window off a screen that is gone; a smaller screen is left to us.
+    void BringIntoSight()
+    {
+        const QRect room = m_window.screen()->availableGeometry();
+        const QSize size = m_window.size().boundedTo(room.size());
+        if (size != m_window.size())
+            m_window.resize(size);
+        const QPoint behind = room.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+        const QPoint place(std::clamp(m_window.x(), room.left(), behind.x()),
+                           std::clamp(m_window.y(), room.top(), behind.y()));
+        if (place != m_window.pos())
+            m_window.move(place);
+    }
+
+    void Save()
+    {
+        const Text place = FromQt(QString::fromLatin1(m_window.saveGeometry().toBase64()));
+        if (m_settings.Get(section, Key(), u"") != place)
+            m_settings.Put(section, Key(), place);
+    }
+
+    QWidget& m_window;
+    Settings& m_settings;
+};
+
+} // namespace
+
+void RememberPlace(QWidget& window, Settings& settings)
+{
+    new PlaceKeeper(window, settings);
+}
+
+} // namespace orvane
