@@ -1,207 +1,262 @@
 #include "program/catalogue_panel.h"
 
-#include "windows/page_builder.h"
+#include "core/catalogue_search.h"
+#include "program/catalogue_head.h"
+#include "program/effect_button.h"
+#include "program/effect_description.h"
+#include "program/favorites_page.h"
+#include "windows/controls.h"
+#include "windows/page_area.h"
 #include "windows/qt_text.h"
 
-#include <QGridLayout>
-#include <QIcon>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QScrollArea>
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QTabBar>
 #include <QTimer>
-#include <QToolButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace orvane {
 
 namespace {
 
-constexpr int columns = 6;
-constexpr QSize pictureSize{48, 48};
+constexpr int favoritesTab = 3;
+constexpr int resultsPage = 4;
 
-/// The words of a tab of the catalogue.
-struct TabWords
+EffectRows EffectsOn(CataloguePage page)
 {
-    const char* Caption;
-    const char* Tip;
-};
-
-constexpr std::array<TabWords, 3> tabs = {{
-    {"Image Effects", "Animations, billboards, etc."},
-    {"Text Effects", "Scrolling Text, Fading Text, etc."},
-    {"Other Special Effects", "Other special effects"},
-}};
-
-CataloguePage PageOf(const CatalogueRow& row)
-{
-    const EffectCommand* command = FindCommand(row.MenuCommand);
-    return command == nullptr ? CataloguePage::OtherEffects : command->Page;
-}
-
-/// A title on two lines where it is long, so that the buttons stay narrow.
-QString WrappedTitle(TextView title)
-{
-    QString wrapped = ToQt(title);
-    if (wrapped.size() > 14) {
-        const qsizetype middle = wrapped.size() / 2;
-        const qsizetype before = wrapped.lastIndexOf(u' ', middle);
-        const qsizetype behind = wrapped.indexOf(u' ', middle);
-        const bool isBeforeNearer =
-            behind < 0 || (before >= 0 && middle - before < behind - middle);
-        if (const qsizetype place = isBeforeNearer ? before : behind; place >= 0)
-            wrapped[place] = u'\n';
-    }
-    return wrapped;
-}
-
-bool IsReturn(const QEvent& event)
-{
-    if (event.type() != QEvent::KeyPress)
-        return false;
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
+    EffectRows effects;
+    for (const CatalogueRow& row : Catalogue())
+        if (row.HasButton && FindCommand(row.MenuCommand)->Page == page)
+            effects.push_back(&row);
+    return effects;
 }
 
 } // namespace
 
-CataloguePanel::CataloguePanel(const std::function<bool(EffectKind)>& isBuilt)
-    : TabStrip1(new QTabBar),
+CataloguePanel::CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings& settings)
+    : m_isBuilt(std::move(isBuilt)),
+      m_settings(settings),
+      m_head(new CatalogueHead),
       m_pages(new QStackedWidget),
-      m_scroller(new QScrollArea),
-      Label3(new QLabel),
-      Label2(new QLabel)
+      m_favorites(new FavoritesPage(MakerFor("cmdSpecialFX"), MakerFor("cmdRecentFX"))),
+      m_results(new EffectSection(
+          {u"",
+           u"No effect answers to these words. Try fewer or other ones, or press Escape to see "
+           u"all effects again."},
+          MakerFor("cmdSpecialFX"))),
+      m_description(new EffectDescription),
+      m_favorite(new QAction(this))
 {
     installEventFilter(this);
     auto* lines = new QVBoxLayout(this);
-    lines->addWidget(TabStrip1);
-    lines->addWidget(m_scroller, 1);
-    m_scroller->setWidget(m_pages);
-    m_scroller->setWidgetResizable(true);
-    m_scroller->setFrameShape(QFrame::NoFrame);
-    m_scroller->setFocusPolicy(Qt::NoFocus);
     AddPages();
-    for (const CatalogueRow& row : Catalogue())
-        if (row.HasButton)
-            AddButton(row, isBuilt(row.Kind));
-    AddDescription();
-    AddKey(Qt::CTRL | Qt::Key_Tab, 1);
-    AddKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
-}
-
-QSize CataloguePanel::sizeHint() const
-{
-    return QWidget::sizeHint() + m_pages->sizeHint() - m_scroller->sizeHint();
+    lines->addWidget(m_head);
+    lines->addWidget(m_pages, 1);
+    lines->addWidget(m_description);
+    AddKeys();
+    SetReadingOrder(*this);
 }
 
 void CataloguePanel::AddPages()
 {
-    TabStrip1->setObjectName(QStringLiteral("TabStrip1"));
-    TabStrip1->setDrawBase(false);
-    for (std::size_t i = 0; i < tabs.size(); ++i) {
-        TabStrip1->addTab(QString::fromUtf8(tabs[i].Caption));
-        TabStrip1->setTabToolTip(static_cast<int>(i), QString::fromUtf8(tabs[i].Tip));
-        auto* page = new QWidget;
-        page->setObjectName(MemberName("Picture1", static_cast<int>(i)));
-        page->installEventFilter(this);
-        m_grids[i] = new QGridLayout(page);
-        m_grids[i]->setSpacing(4);
-        m_grids[i]->setRowStretch(8, 1);
-        m_pages->addWidget(page);
+    for (const auto page :
+         {CataloguePage::ImageEffects, CataloguePage::TextEffects, CataloguePage::OtherEffects}) {
+        auto* section = new EffectSection({}, MakerFor("cmdSpecialFX"));
+        section->setObjectName(MemberName("Picture1", static_cast<int>(page)));
+        section->SetEffects(EffectsOn(page));
+        AddPage(section);
     }
-    connect(TabStrip1, &QTabBar::currentChanged, this, [this](int tab) {
-        m_pages->setCurrentIndex(tab);
-        DrawPictures(tab);
+    AddPage(m_favorites);
+    AddPage(m_results);
+}
+
+void CataloguePanel::AddPage(QWidget* page)
+{
+    page->installEventFilter(this);
+    m_pages->addWidget(new PageArea(page));
+}
+
+void CataloguePanel::AddKeys()
+{
+    connect(m_head, &CatalogueHead::Changed, this, &CataloguePanel::Search);
+    connect(m_head, &CatalogueHead::FirstWanted, this, [this] {
+        EffectButton* first = m_head->IsSearching() ? FirstButton() : nullptr;
+        if (first != nullptr)
+            first->click();
+    });
+    connect(m_head, &CatalogueHead::ListWanted, this, [this] {
+        if (EffectButton* first = FirstButton())
+            first->setFocus(Qt::TabFocusReason);
+    });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_head,
+            &CatalogueHead::BeginSearch);
+    m_favorite->setObjectName(QStringLiteral("mnuFavorite"));
+    m_favorite->setShortcut(Qt::CTRL | Qt::Key_D);
+    m_favorite->setShortcutVisibleInContextMenu(true);
+    connect(m_favorite, &QAction::triggered, this, [this] {
+        auto* focused = qobject_cast<EffectButton*>(focusWidget());
+        ToggleFavoriteOf(m_described != nullptr ? m_described.data() : focused);
+    });
+    addAction(m_favorite);
+}
+
+ButtonMaker CataloguePanel::MakerFor(ControlName group)
+{
+    return [this, group](const CatalogueRow& row) {
+        auto* button = new EffectButton(row, m_isBuilt(row.Kind),
+                                        MemberName(group, static_cast<int>(row.Kind)));
+        button->installEventFilter(this);
+        connect(button, &EffectButton::EffectWanted, this, &CataloguePanel::EffectWanted);
+        return button;
+    };
+}
+
+void CataloguePanel::ShowPage()
+{
+    m_pages->setCurrentIndex(m_head->IsSearching() ? resultsPage : m_head->Tab());
+    if (m_pages->currentIndex() == favoritesTab)
+        m_favorites->Refresh(m_settings);
+    RefreshButtons();
+    Describe(nullptr);
+}
+
+/// Gives the buttons of the page in front their pictures and stars, and all their order.
+void CataloguePanel::RefreshButtons()
+{
+    const EffectRows favorites = FavoriteEffects(m_settings);
+    for (auto* button : m_pages->currentWidget()->findChildren<EffectButton*>()) {
+        button->DrawPicture();
+        button->SetFavorite(std::ranges::find(favorites, &button->Row()) != favorites.end());
+    }
+    SetReadingOrder(*this);
+}
+
+void CataloguePanel::Search()
+{
+    const EffectRows effects = SearchCatalogue(m_head->Typed());
+    m_results->SetEffects(effects);
+    m_head->ShowFound(effects.size());
+    ShowPage();
+}
+
+EffectButton* CataloguePanel::FirstButton() const
+{
+    return static_cast<EffectButton*>(FirstControl(*m_pages->currentWidget()));
+}
+
+void CataloguePanel::Describe(EffectButton* button)
+{
+    m_described = button;
+    m_description->Show(button);
+}
+
+void CataloguePanel::TakeButtonEvent(EffectButton& button, const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::FocusIn:
+        static_cast<PageArea*>(m_pages->currentWidget())->ensureWidgetVisible(&button);
+        Describe(&button);
+        break;
+    case QEvent::Enter:
+        Describe(&button);
+        break;
+    case QEvent::FocusOut: {
+        // The button keeps its description while its menu or its wizard is in front.
+        const auto reason = static_cast<const QFocusEvent&>(event).reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            Describe(nullptr);
+        break;
+    }
+    case QEvent::Leave:
         Describe(nullptr);
-    });
-}
-
-void CataloguePanel::AddDescription()
-{
-    Label3->setObjectName(QStringLiteral("Label3"));
-    QFont bold = Label3->font();
-    bold.setBold(true);
-    Label3->setFont(bold);
-    Label2->setObjectName(QStringLiteral("Label2"));
-    Label2->setWordWrap(true);
-    Label2->setAlignment(Qt::AlignTop);
-    // Room for the longest description, so that the window stays still under the mouse.
-    Label2->setMinimumHeight(3 * Label2->fontMetrics().lineSpacing());
-    layout()->addWidget(Label3);
-    layout()->addWidget(Label2);
-}
-
-void CataloguePanel::AddKey(const QKeySequence& keys, int step)
-{
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, step] {
-        const int count = TabStrip1->count();
-        TabStrip1->setCurrentIndex((TabStrip1->currentIndex() + step + count) % count);
-    });
-}
-
-void CataloguePanel::AddButton(const CatalogueRow& row, bool isBuilt)
-{
-    QGridLayout* grid = m_grids[static_cast<std::size_t>(PageOf(row))];
-    auto* button = new QToolButton;
-    button->setObjectName(MemberName("cmdSpecialFX", static_cast<int>(row.Kind)));
-    button->setAccessibleName(ToQt(row.Title));
-    button->setAccessibleDescription(ToQt(row.Description));
-    button->setText(WrappedTitle(row.Title));
-    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button->setIconSize(pictureSize);
-    // The picture comes later; its room, and two lines of words, are there from the start.
-    button->setMinimumHeight(pictureSize.height() + 3 * fontMetrics().lineSpacing());
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    button->setEnabled(isBuilt);
-    button->setProperty("kind", static_cast<int>(row.Kind));
-    button->installEventFilter(this);
-    connect(button, &QToolButton::clicked, this,
-            [this, &row] { emit EffectWanted(*FindCommand(row.MenuCommand)); });
-    const int place = grid->count();
-    grid->addWidget(button, place / columns, place % columns);
-}
-
-void CataloguePanel::DrawPictures(int page)
-{
-    for (QToolButton* button : m_pages->widget(page)->findChildren<QToolButton*>()) {
-        if (!button->icon().isNull())
-            continue;
-        const CatalogueRow* row =
-            FindRow(static_cast<EffectKind>(button->property("kind").toInt()));
-        button->setIcon(QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(row->Picture))));
+        break;
+    case QEvent::ContextMenu:
+        ShowMenu(button, static_cast<const QContextMenuEvent&>(event).globalPos());
+        break;
+    default:
+        break;
     }
 }
 
-void CataloguePanel::Describe(const CatalogueRow* row)
+bool CataloguePanel::TakeButtonKey(EffectButton& button, const QKeyEvent& key)
 {
-    Label3->setText(row == nullptr ? QString() : ToQt(row->Title));
-    Label2->setText(row == nullptr ? QString() : ToQt(row->Description));
+    switch (key.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        if (EffectButton* next = ButtonTowards(key.key(), button, *m_pages->currentWidget()))
+            next->setFocus(Qt::TabFocusReason);
+        else if (key.key() == Qt::Key_Up && m_head->IsSearching())
+            m_head->BeginSearch();
+        return true;
+    case Qt::Key_Escape:
+        if (m_head->IsSearching())
+            m_head->EndSearch();
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool CataloguePanel::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto kind = static_cast<EffectKind>(watched->property("kind").toInt());
-    if (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)
-        Describe(FindRow(kind));
-    else if (event->type() == QEvent::Leave)
-        Describe(nullptr);
-    else if (auto* button = qobject_cast<QToolButton*>(watched);
-             button != nullptr && IsReturn(*event)) {
-        button->click();
-        return true;
+    auto* button = qobject_cast<EffectButton*>(watched);
+    if (event->type() == QEvent::KeyPress && watched != this) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (button != nullptr && TakeButtonKey(*button, key))
+            return true;
+        return m_head->BeginSearchWith(key);
     }
+    if (button != nullptr)
+        TakeButtonEvent(*button, *event);
+    else if (event->type() == QEvent::Enter)
+        Describe(nullptr);
     return QWidget::eventFilter(watched, event);
+}
+
+void CataloguePanel::ShowMenu(EffectButton& button, const QPoint& place)
+{
+    button.setFocus();
+    m_favorite->setText(button.IsFavorite() ? QStringLiteral("Remove from &Favorites")
+                                            : QStringLiteral("Add to &Favorites"));
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(m_favorite);
+    menu->popup(place);
+}
+
+void CataloguePanel::ToggleFavoriteOf(const EffectButton* button)
+{
+    if (button == nullptr)
+        return;
+    ToggleFavorite(m_settings, button->Row());
+    if (m_pages->currentIndex() == favoritesTab)
+        m_favorites->Refresh(m_settings);
+    RefreshButtons();
+}
+
+void CataloguePanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    // Back from a wizard, it is the effect used last.
+    if (event->type() == QEvent::ActivationChange && m_pages->currentIndex() == favoritesTab) {
+        m_favorites->Refresh(m_settings);
+        RefreshButtons();
+    }
 }
 
 void CataloguePanel::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     // Behind the first paint: the window is up sooner, and the other pages are drawn when wanted.
-    QTimer::singleShot(0, this, [this] { DrawPictures(m_pages->currentIndex()); });
+    QTimer::singleShot(0, this, &CataloguePanel::RefreshButtons);
 }
 
 } // namespace orvane

@@ -1,55 +1,65 @@
 #pragma once
 
-#include "core/catalogue.h"
+#include "program/effect_section.h"
 
+#include <QPointer>
 #include <QWidget>
 
-#include <array>
 #include <functional>
 
-class QGridLayout;
-class QKeySequence;
-class QLabel;
-class QScrollArea;
+class QAction;
+class QKeyEvent;
 class QStackedWidget;
-class QTabBar;
 
 namespace orvane {
 
-/// All effects as pictures on three tabs, and the title and description of the one that is pointed
-/// at.
+class CatalogueHead;
+class EffectDescription;
+class FavoritesPage;
+
+/// All effects as pictures on three tabs, the author's favorites on a fourth, a box that searches
+/// them all, and the title and description of the one that is pointed at.
 class CataloguePanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `isBuilt` tells which effects have a wizard; the buttons of the others are disabled.
-    explicit CataloguePanel(const std::function<bool(EffectKind)>& isBuilt);
-
-    /// Room for every picture of the fullest page.
-    QSize sizeHint() const override;
+    /// `isBuilt` tells which effects have a wizard; `settings` hold the favorites and what was used
+    /// last.
+    CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings& settings);
 
 signals:
     void EffectWanted(const orvane::EffectCommand& command);
 
 protected:
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void AddPages();
-    void AddDescription();
-    void AddKey(const QKeySequence& keys, int step);
-    void AddButton(const CatalogueRow& row, bool isBuilt);
-    void DrawPictures(int page);
-    void Describe(const CatalogueRow* row);
+    void AddPage(QWidget* page);
+    void AddKeys();
+    ButtonMaker MakerFor(ControlName group);
+    EffectButton* FirstButton() const;
+    void ShowPage();
+    void RefreshButtons();
+    void Search();
+    void TakeButtonEvent(EffectButton& button, const QEvent& event);
+    bool TakeButtonKey(EffectButton& button, const QKeyEvent& key);
+    void Describe(EffectButton* button);
+    void ShowMenu(EffectButton& button, const QPoint& place);
+    void ToggleFavoriteOf(const EffectButton* button);
 
-    QTabBar* TabStrip1;
+    std::function<bool(EffectKind)> m_isBuilt;
+    Settings& m_settings;
+    CatalogueHead* m_head;
     QStackedWidget* m_pages;
-    QScrollArea* m_scroller;
-    std::array<QGridLayout*, 3> m_grids{};
-    QLabel* Label3;
-    QLabel* Label2;
+    FavoritesPage* m_favorites;
+    EffectSection* m_results;
+    EffectDescription* m_description;
+    QAction* m_favorite;
+    QPointer<EffectButton> m_described;
 };
 
 } // namespace orvane

@@ -28,6 +28,7 @@
 #include "program/startup.h"
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
+#include "services/chosen_effects.h"
 
 #include <QCoreApplication>
 
@@ -151,14 +152,18 @@ Text FormDesk::ListEffectsOfTags()
 
 void FormDesk::OpenEffect(const EffectCommand& command)
 {
-    if (const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get()))
-        LeadThrough(*wizard);
+    const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get());
+    if (wizard == nullptr)
+        return;
+    RememberEffect(m_bench.Settings, command.Kind);
+    LeadThrough(*wizard);
 }
 
 void FormDesk::OpenProject(TextView path)
 {
     if (!m_bench.Files.FileExists(path))
         return m_bench.Dialogs.Say(Join({u"Orvane finds no file ", path, u"."}));
+    RememberEffect(m_bench.Settings, EffectKind::AdvancedAnimator);
     AdvancedAnimatorForm animator(m_bench, m_mainForm.get());
     animator.ShowProject(path);
     LeadThrough(animator);

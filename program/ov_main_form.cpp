@@ -3,6 +3,7 @@
 #include "program/catalogue_panel.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
+#include "windows/remember_place.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -20,10 +21,11 @@ OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& 
     AddMenus();
     for (const EffectCommand& command : EffectCommands())
         findChild<QAction*>(ToQt(command.Name))->setEnabled(isBuilt(command.Kind));
-    auto* catalogue = new CataloguePanel(isBuilt);
+    auto* catalogue = new CataloguePanel(isBuilt, bench.Settings);
     connect(catalogue, &CataloguePanel::EffectWanted, this, &OVMainForm::EffectWanted);
     setCentralWidget(catalogue);
     resize(sizeHint().boundedTo(screen()->availableSize()));
+    RememberPlace(*this, bench.Settings);
     OpenHelpOnF1(this, bench.Help, help_topics::mainWindow);
 }
 

@@ -1,10 +1,10 @@
 #include "windows/wizard_frame.h"
 
+#include "windows/page_area.h"
 #include "windows/qt_text.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -25,22 +25,6 @@ QLabel* MakeHeading(ControlName name, double scale)
     label->setFont(font);
     return label;
 }
-
-/// Gives its page the room that it asks for, and scrolls it where the window has less.
-class PageArea : public QScrollArea
-{
-public:
-    explicit PageArea(QWidget* page)
-    {
-        setWidget(page);
-        setWidgetResizable(true);
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-    }
-
-    QSize sizeHint() const override { return widget()->sizeHint(); }
-    QSize minimumSizeHint() const override { return {80, 60}; }
-};
 
 } // namespace
 

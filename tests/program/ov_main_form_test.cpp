@@ -1,7 +1,9 @@
 #include "program/ov_main_form.h"
 
+#include "services/chosen_effects.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
+#include "windows/qt_text.h"
 
 #include <QAction>
 #include <QApplication>
@@ -11,6 +13,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace orvane {
 namespace {
@@ -62,18 +65,21 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
               "Picture1(2)");
 }
 
-TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndNothingElsewhere)
+TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndWelcomesElsewhere)
 {
     Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(1);
+    EXPECT_NE(WordsOf(m_form, "lblWelcome"), u"");
     const CatalogueRow& ticker = *FindRow(EffectKind::StatusBarTicker);
     QEnterEvent enter({}, {}, {});
     QApplication::sendEvent(ButtonOf(ticker), &enter);
     EXPECT_EQ(WordsOf(m_form, "Label3"), ticker.Title);
     EXPECT_EQ(WordsOf(m_form, "Label2"), ticker.Description);
+    EXPECT_EQ(WordsOf(m_form, "lblWelcome"), u"");
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(ButtonOf(ticker), &leave);
     EXPECT_EQ(WordsOf(m_form, "Label3"), u"");
     EXPECT_EQ(WordsOf(m_form, "Label2"), u"");
+    EXPECT_NE(WordsOf(m_form, "lblWelcome"), u"");
 }
 
 TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
@@ -84,11 +90,20 @@ TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
     EXPECT_TRUE(m_form.rect().contains(QRect(label->mapTo(&m_form, QPoint()), label->size())));
 }
 
-TEST_F(OVMainFormTest, EffectWithoutAWizardIsGreyedInMenuAndCatalogueAlike)
+TEST_F(OVMainFormTest, EffectWithoutAWizardSaysSoAndIsNotOpened)
 {
-    EXPECT_FALSE(ButtonOf(*FindRow(EffectKind::Sound))->isEnabled());
+    QObject::connect(&m_form, &OVMainForm::EffectWanted, [] { ADD_FAILURE(); });
+    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(2);
+    QToolButton* button = ButtonOf(*FindRow(EffectKind::Sound));
+    button->setFocus();
+    EXPECT_EQ(WordsOf(m_form, "Label3"), u"Sound Effect");
+    EXPECT_NE(WordsOf(m_form, "lblNotYet"), u"");
+    Press(*button, Qt::Key_Return);
+    EXPECT_EQ(FromQt(QToolTip::text()), WordsOf(m_form, "lblNotYet"));
     EXPECT_FALSE(Command("mnuSoundFX")->isEnabled());
     EXPECT_TRUE(Command("mnuStatusBar")->isEnabled());
+    ButtonOf(*FindRow(EffectKind::DigitalClock))->setFocus();
+    EXPECT_EQ(WordsOf(m_form, "lblNotYet"), u"");
 }
 
 TEST_F(OVMainFormTest, ButtonItsReturnKeyAndCommandWantTheSameEffect)
@@ -106,14 +121,80 @@ TEST_F(OVMainFormTest, ButtonItsReturnKeyAndCommandWantTheSameEffect)
 TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)
 {
     const auto* tabs = Find<QTabBar>(m_form, "TabStrip1");
-    for (const int tab : {1, 2, 0}) {
+    for (const int tab : {1, 2, 3, 0}) {
         QTest::keyClick(&m_form, Qt::Key_Tab, Qt::ControlModifier);
         EXPECT_EQ(tabs->currentIndex(), tab);
     }
     QTest::keyClick(&m_form, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(tabs->currentIndex(), 2);
+    EXPECT_EQ(tabs->currentIndex(), 3);
     QTest::keyClick(&m_form, Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(m_form.isVisible());
+}
+
+TEST_F(OVMainFormTest, ArrowsFollowTheGridAsItIsShown)
+{
+    for (const int width : {640, 1400}) {
+        m_form.resize(width, 600);
+        LetRun();
+        auto* first = ButtonOf(*FindRow(EffectKind::AdvancedAnimator));
+        first->setFocus();
+        int columns = 1;
+        while (m_form.focusWidget()->y() == first->y() && columns++ < 20)
+            Press(*m_form.focusWidget(), Qt::Key_Right);
+        const QWidget* below = m_form.focusWidget();
+        Press(*first, Qt::Key_Down);
+        EXPECT_EQ(m_form.focusWidget(), below);
+        EXPECT_EQ(below->x(), first->x());
+        Press(*m_form.focusWidget(), Qt::Key_Up);
+        EXPECT_EQ(m_form.focusWidget(), first);
+        EXPECT_EQ(columns > 8, width > 640) << columns;
+    }
+}
+
+TEST_F(OVMainFormTest, TypedLettersSearchAllTabsAndEscapeGivesThemBack)
+{
+    std::vector<ControlName> wanted;
+    QObject::connect(&m_form, &OVMainForm::EffectWanted,
+                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
+    auto* start = ButtonOf(*FindRow(EffectKind::AdvancedAnimator));
+    start->setFocus();
+    for (const Qt::Key key : {Qt::Key_C, Qt::Key_L, Qt::Key_O})
+        QTest::keyClick(m_form.focusWidget(), key);
+    EXPECT_EQ(WordsOf(m_form, "txtSearch"), u"clo");
+    EXPECT_EQ(WordsOf(m_form, "lblFound"), u"3 effects found");
+    ExpectAccessible(m_form);
+    Press(*m_form.focusWidget(), Qt::Key_Return);
+    Press(*m_form.focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(WordsOf(m_form, "Label3"), u"Digital Clock");
+    Press(*m_form.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(wanted, std::vector<ControlName>(2, "mnuClock"));
+    Press(*m_form.focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(Find<QTabBar>(m_form, "TabStrip1")->isVisible());
+    EXPECT_EQ(m_form.focusWidget(), start);
+
+    QTest::keyClick(m_form.focusWidget(), Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(m_form.focusWidget(), QStringLiteral("zebra"));
+    EXPECT_EQ(WordsOf(m_form, "lblFound"), u"0 effects found");
+    Press(*m_form.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(wanted.size(), 2u);
+}
+
+TEST_F(OVMainFormTest, FavoritesAndRecentEffectsHaveATabOfTheirOwn)
+{
+    RememberEffect(m_desk.Settings, EffectKind::DigitalClock);
+    ButtonOf(*FindRow(EffectKind::Slideshow))->setFocus();
+    QTest::keyClick(m_form.focusWidget(), Qt::Key_D, Qt::ControlModifier);
+    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(3);
+    LetRun();
+    ExpectAccessible(m_form);
+    const auto* favorite = Find<QToolButton>(m_form, "cmdSpecialFX(47)");
+    EXPECT_TRUE(favorite->isVisible());
+    EXPECT_FALSE(favorite->icon().isNull());
+    EXPECT_TRUE(Find<QToolButton>(m_form, "cmdRecentFX(4)")->isVisible());
+    Find<QToolButton>(m_form, "cmdSpecialFX(47)")->setFocus();
+    QTest::keyClick(m_form.focusWidget(), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_FALSE(Find<QToolButton>(m_form, "cmdSpecialFX(47)")->isVisible());
+    EXPECT_EQ(m_form.focusWidget()->objectName(), "cmdRecentFX(4)");
 }
 
 /// A menu's captions in order, with "-" for a separator and sub-menus in brackets.

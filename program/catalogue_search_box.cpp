@@ -1,0 +1,44 @@
+#include "program/catalogue_search_box.h"
+
+#include <QKeyEvent>
+
+namespace orvane {
+
+CatalogueSearchBox::CatalogueSearchBox()
+{
+    setObjectName(QStringLiteral("txtSearch"));
+    setPlaceholderText(QStringLiteral("Search (Ctrl+F)"));
+    setAccessibleName(QStringLiteral("Search effects"));
+    setClearButtonEnabled(true);
+}
+
+bool CatalogueSearchBox::BeginWith(const QKeyEvent& key)
+{
+    const bool isCommand =
+        key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (isCommand || key.text().isEmpty() || !key.text().front().isLetterOrNumber())
+        return false;
+    setFocus();
+    insert(key.text());
+    return true;
+}
+
+void CatalogueSearchBox::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        emit FirstWanted();
+        break;
+    case Qt::Key_Down:
+        emit ListWanted();
+        break;
+    case Qt::Key_Escape:
+        emit Left();
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+} // namespace orvane

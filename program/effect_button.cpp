@@ -1,0 +1,167 @@
+#include "program/effect_button.h"
+
+#include "windows/qt_text.h"
+
+#include <QIcon>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+#include <QToolTip>
+
+#include <cmath>
+#include <numbers>
+
+namespace orvane {
+
+namespace {
+
+constexpr QSize pictureSize{48, 48};
+constexpr int lettersPerLine = 16;
+
+/// A title on two lines where it is long, so that the buttons stay narrow.
+QString WrappedTitle(TextView title)
+{
+    QString wrapped = ToQt(title);
+    if (wrapped.size() > 14) {
+        const qsizetype middle = wrapped.size() / 2;
+        const qsizetype before = wrapped.lastIndexOf(u' ', middle);
+        const qsizetype behind = wrapped.indexOf(u' ', middle);
+        const bool isBeforeNearer =
+            behind < 0 || (before >= 0 && middle - before < behind - middle);
+        if (const qsizetype place = isBeforeNearer ? before : behind; place >= 0)
+            wrapped[place] = u'\n';
+    }
+    return wrapped;
+}
+
+QColor Mixed(const QColor& ground, const QColor& ink, double share)
+{
+    const auto mix = [share](int from, int to) {
+        return static_cast<int>(std::lround(from + (to - from) * share));
+    };
+    return {mix(ground.red(), ink.red()), mix(ground.green(), ink.green()),
+            mix(ground.blue(), ink.blue())};
+}
+
+/// The picture as a drawing in the window's own colours: what was dark comes close to the colour of
+/// its words, what was light to its background, so that it is dimmer than the live ones in light
+/// and dark windows alike.
+QPixmap Dimmed(const QPixmap& picture, const QPalette& palette)
+{
+    QImage drawn = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor ink = palette.color(QPalette::WindowText);
+    for (int y = 0; y < drawn.height(); ++y) {
+        auto* pixels = reinterpret_cast<QRgb*>(drawn.scanLine(y));
+        for (int x = 0; x < drawn.width(); ++x) {
+            const double darkness = 1 - qGray(pixels[x]) / 255.0;
+            const QRgb color = Mixed(ground, ink, std::min(0.1 + 0.75 * darkness, 0.6)).rgb();
+            pixels[x] = qRgba(qRed(color), qGreen(color), qBlue(color), qAlpha(pixels[x]));
+        }
+    }
+    return QPixmap::fromImage(drawn);
+}
+
+QPainterPath Star(QPointF middle, double radius)
+{
+    QPainterPath star;
+    for (int point = 0; point < 10; ++point) {
+        const double angle = std::numbers::pi * (point / 5.0 - 0.5);
+        const double reach = point % 2 == 0 ? radius : radius * 0.45;
+        const QPointF tip = middle + reach * QPointF(std::cos(angle), std::sin(angle));
+        point == 0 ? star.moveTo(tip) : star.lineTo(tip);
+    }
+    star.closeSubpath();
+    return star;
+}
+
+} // namespace
+
+EffectButton::EffectButton(const CatalogueRow& row, bool isBuilt, const QString& name)
+    : m_row(row), m_isBuilt(isBuilt)
+{
+    setObjectName(name);
+    setAccessibleName(ToQt(row.Title));
+    setText(WrappedTitle(row.Title));
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setIconSize(pictureSize);
+    setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    QFont titleFont = font();
+    titleFont.setItalic(!isBuilt);
+    setFont(titleFont);
+    Describe();
+    connect(this, &QToolButton::clicked, this, &EffectButton::Open);
+}
+
+void EffectButton::SetFavorite(bool isFavorite)
+{
+    m_isFavorite = isFavorite;
+    Describe();
+    update();
+}
+
+void EffectButton::DrawPicture()
+{
+    if (icon().isNull())
+        setIcon(QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(m_row.Picture))));
+}
+
+QSize EffectButton::sizeHint() const
+{
+    // Every button is as large as one with two lines of words, so that all pages look alike.
+    const QFontMetrics letters = fontMetrics();
+    return QToolButton::sizeHint().expandedTo({lettersPerLine * letters.averageCharWidth(),
+                                               pictureSize.height() + 3 * letters.lineSpacing()});
+}
+
+void EffectButton::initStyleOption(QStyleOptionToolButton* option) const
+{
+    QToolButton::initStyleOption(option);
+    if (m_isBuilt)
+        return;
+    option->icon = Dimmed(icon().pixmap(iconSize(), devicePixelRatioF()), palette());
+    const QColor words =
+        Mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.65);
+    option->palette.setColor(QPalette::ButtonText, words);
+}
+
+void EffectButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QToolButton::keyPressEvent(event);
+}
+
+void EffectButton::paintEvent(QPaintEvent* event)
+{
+    QToolButton::paintEvent(event);
+    if (!m_isFavorite)
+        return;
+    const double radius = fontMetrics().height() / 2.0;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setBrush(palette().color(QPalette::Highlight));
+    painter.drawPath(Star({width() - radius - 3, radius + 3}, radius));
+}
+
+void EffectButton::Open()
+{
+    if (m_isBuilt)
+        emit EffectWanted(*FindCommand(m_row.MenuCommand));
+    else
+        QToolTip::showText(mapToGlobal(rect().center()), ToQt(notYetAvailable), this);
+}
+
+void EffectButton::Describe()
+{
+    const QString star = m_isFavorite ? QStringLiteral("Favorite. ") : QString();
+    const QString state = m_isBuilt ? QString() : ToQt(notYetAvailable) + u' ';
+    setAccessibleDescription(star + state + ToQt(m_row.Description));
+}
+
+} // namespace orvane

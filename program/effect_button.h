@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/catalogue.h"
+
+#include <QToolButton>
+
+namespace orvane {
+
+/// What the catalogue says of an effect without a wizard.
+inline constexpr TextView notYetAvailable = u"Not available yet: this effect has no wizard so far.";
+
+/// An effect as a picture with its title. One without a wizard is drawn in grey, and says so when
+/// it is pressed; one of the author's favorites has a star.
+class EffectButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    /// `row` outlives the button.
+    EffectButton(const CatalogueRow& row, bool isBuilt, const QString& name);
+
+    const CatalogueRow& Row() const { return m_row; }
+    bool IsBuilt() const { return m_isBuilt; }
+    bool IsFavorite() const { return m_isFavorite; }
+    void SetFavorite(bool isFavorite);
+
+    /// Loads the picture; its room is kept from the start.
+    void DrawPicture();
+
+    QSize sizeHint() const override;
+
+signals:
+    void EffectWanted(const orvane::EffectCommand& command);
+
+protected:
+    void initStyleOption(QStyleOptionToolButton* option) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Open();
+    void Describe();
+
+    const CatalogueRow& m_row;
+    bool m_isBuilt;
+    bool m_isFavorite = false;
+};
+
+} // namespace orvane

@@ -1,0 +1,56 @@
+#include "program/effect_description.h"
+
+#include "program/effect_button.h"
+#include "windows/qt_text.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView welcome =
+    u"<b>Welcome to Orvane</b><br>Point at a picture to read what its effect does; click it to "
+    u"make one for your Web page. To find an effect, just type what you are looking for "
+    u"(Ctrl+F). Ctrl+D on an effect keeps it among your favorites.";
+
+} // namespace
+
+EffectDescription::EffectDescription()
+    : Label3(new QLabel), m_notYet(new QLabel), Label2(new QLabel), m_welcome(new QLabel)
+{
+    Label3->setObjectName(QStringLiteral("Label3"));
+    QFont bold = Label3->font();
+    bold.setBold(true);
+    Label3->setFont(bold);
+    m_notYet->setObjectName(QStringLiteral("lblNotYet"));
+    Label2->setObjectName(QStringLiteral("Label2"));
+    Label2->setWordWrap(true);
+    Label2->setAlignment(Qt::AlignTop);
+    m_welcome->setObjectName(QStringLiteral("lblWelcome"));
+    m_welcome->setTextFormat(Qt::RichText);
+    m_welcome->setWordWrap(true);
+    m_welcome->setAlignment(Qt::AlignTop);
+    // Room for the longest description, so that the window stays still under the mouse.
+    Label2->setMinimumHeight(3 * Label2->fontMetrics().lineSpacing());
+    auto* rows = new QGridLayout(this);
+    rows->setContentsMargins({});
+    rows->addWidget(Label3, 0, 0);
+    rows->addWidget(m_notYet, 0, 1);
+    rows->setColumnStretch(1, 1);
+    rows->addWidget(Label2, 1, 0, 1, 2);
+    rows->addWidget(m_welcome, 0, 0, 2, 2);
+    Show(nullptr);
+}
+
+void EffectDescription::Show(const EffectButton* button)
+{
+    const bool isMissing = button != nullptr && !button->IsBuilt();
+    Label3->setText(button == nullptr ? QString() : ToQt(button->Row().Title));
+    m_notYet->setText(isMissing ? ToQt(notYetAvailable) : QString());
+    Label2->setText(button == nullptr ? QString() : ToQt(button->Row().Description));
+    m_welcome->setText(button == nullptr ? ToQt(welcome) : QString());
+}
+
+} // namespace orvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/catalogue.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace orvane {
+
+class EffectButton;
+
+/// The title and description of the effect that is pointed at; with none, a welcome in their place.
+class EffectDescription : public QWidget
+{
+public:
+    EffectDescription();
+
+    /// Shows the button's effect, or the welcome for null.
+    void Show(const EffectButton* button);
+
+private:
+    QLabel* Label3;
+    QLabel* m_notYet;
+    QLabel* Label2;
+    QLabel* m_welcome;
+};
+
+} // namespace orvane

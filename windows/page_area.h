@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace orvane {
+
+/// Gives its page the room that it asks for, and scrolls it where the window has less.
+class PageArea : public QScrollArea
+{
+public:
+    explicit PageArea(QWidget* page)
+    {
+        setWidget(page);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override { return {80, 60}; }
+};
+
+} // namespace orvane
