@@ -10,6 +10,7 @@ CatalogueSearchBox::CatalogueSearchBox()
     setPlaceholderText(QStringLiteral("Search (Ctrl+F)"));
     setAccessibleName(QStringLiteral("Search effects"));
     setClearButtonEnabled(true);
+    SetHintColor();
 }
 
 bool CatalogueSearchBox::BeginWith(const QKeyEvent& key)
@@ -21,6 +22,23 @@ bool CatalogueSearchBox::BeginWith(const QKeyEvent& key)
     setFocus();
     insert(key.text());
     return true;
+}
+
+void CatalogueSearchBox::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        SetHintColor();
+}
+
+/// Some desktops give dark windows the hint's colour of light ones.
+void CatalogueSearchBox::SetHintColor()
+{
+    QPalette colors = palette();
+    QColor hint = colors.color(QPalette::Text);
+    hint.setAlphaF(0.7F);
+    colors.setColor(QPalette::PlaceholderText, hint);
+    setPalette(colors);
 }
 
 void CatalogueSearchBox::keyPressEvent(QKeyEvent* event)

@@ -22,7 +22,11 @@ signals:
     void Left();        ///< Escape: back to where the focus was
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void SetHintColor();
 };
 
 } // namespace orvane

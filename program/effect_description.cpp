@@ -32,7 +32,9 @@ EffectDescription::EffectDescription()
     m_welcome->setTextFormat(Qt::RichText);
     m_welcome->setWordWrap(true);
     m_welcome->setAlignment(Qt::AlignTop);
-    // Room for the longest description, so that the window stays still under the mouse.
+    // Room for the longest description whatever is shown, so that the window stays still under the
+    // mouse.
+    m_welcome->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     Label2->setMinimumHeight(3 * Label2->fontMetrics().lineSpacing());
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins({});

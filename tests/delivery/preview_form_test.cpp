@@ -5,6 +5,7 @@
 #include "insertion/new_page.h"
 #include "program/form_desk.h"
 #include "program/ov_main_form.h"
+#include "services/chosen_effects.h"
 #include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"
@@ -340,6 +341,7 @@ TEST(FormDeskTest, LeadsBackToTheWizardWithItsFieldAndOutOfBoth)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(road.MainForm()->isVisible());
     EXPECT_EQ(desk.Core.Payload.HEADHTML, u"");
+    EXPECT_EQ(RecentEffects(desk.Settings).front()->Kind, EffectKind::StatusBarTicker);
 }
 
 } // namespace

@@ -85,9 +85,15 @@ TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndWelcomesElsewhere)
 TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
 {
     m_form.resize(640, 440);
+    LetRun();
     EXPECT_EQ(m_form.size(), QSize(640, 440));
     const auto* label = Find<QWidget>(m_form, "Label2");
     EXPECT_TRUE(m_form.rect().contains(QRect(label->mapTo(&m_form, QPoint()), label->size())));
+    // The window stays still when the welcome gives way to a description.
+    const int height = Find<QWidget>(m_form, "Picture1(0)")->parentWidget()->height();
+    ButtonOf(*FindRow(EffectKind::ImageEffects))->setFocus();
+    LetRun();
+    EXPECT_EQ(Find<QWidget>(m_form, "Picture1(0)")->parentWidget()->height(), height);
 }
 
 TEST_F(OVMainFormTest, EffectWithoutAWizardSaysSoAndIsNotOpened)
