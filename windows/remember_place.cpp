@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
@@ -28,8 +29,8 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // Polish comes once, before the first show, when the window is complete.
-        if (event->type() == QEvent::Polish)
+        // The first Show comes before the window is on screen, when all its parts are there.
+        if (event->type() == QEvent::Show && !std::exchange(m_wasShown, true))
             Restore();
         else if (event->type() == QEvent::Hide && !event->spontaneous())
             Save();
@@ -73,6 +74,7 @@ private:
 
     QWidget& m_window;
     Settings& m_settings;
+    bool m_wasShown = false;
 };
 
 } // namespace

@@ -16,6 +16,7 @@ QRect ShowAndHide(
 {
     QWidget window;
     window.setObjectName(QStringLiteral("Window"));
+    window.ensurePolished(); // by who asks for its size
     RememberPlace(window, settings);
     window.resize(300, 200);
     window.show();
