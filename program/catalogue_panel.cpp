@@ -200,6 +200,11 @@ bool CataloguePanel::TakeButtonKey(EffectButton& button, const QKeyEvent& key)
         if (m_head->IsSearching())
             m_head->EndSearch();
         return true;
+    case Qt::Key_F10:
+        if (key.modifiers() != Qt::ShiftModifier)
+            return false;
+        ShowMenu(button, button.mapToGlobal(button.rect().center()));
+        return true;
     default:
         return false;
     }

@@ -38,6 +38,7 @@ EffectDescription::EffectDescription()
     Label2->setMinimumHeight(3 * Label2->fontMetrics().lineSpacing());
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins({});
+    rows->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
     rows->addWidget(Label3, 0, 0);
     rows->addWidget(m_notYet, 0, 1);
     rows->setColumnStretch(1, 1);
