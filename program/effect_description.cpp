@@ -25,6 +25,7 @@ EffectDescription::EffectDescription()
     bold.setBold(true);
     Label3->setFont(bold);
     m_notYet->setObjectName(QStringLiteral("lblNotYet"));
+    m_notYet->setIndent(2 * m_notYet->fontMetrics().averageCharWidth());
     Label2->setObjectName(QStringLiteral("Label2"));
     Label2->setWordWrap(true);
     Label2->setAlignment(Qt::AlignTop);
@@ -38,7 +39,6 @@ EffectDescription::EffectDescription()
     Label2->setMinimumHeight(3 * Label2->fontMetrics().lineSpacing());
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins({});
-    rows->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
     rows->addWidget(Label3, 0, 0);
     rows->addWidget(m_notYet, 0, 1);
     rows->setColumnStretch(1, 1);
