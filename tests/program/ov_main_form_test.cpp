@@ -168,6 +168,7 @@ TEST_F(OVMainFormTest, TypedLettersSearchAllTabsAndEscapeGivesThemBack)
         QTest::keyClick(m_form.focusWidget(), key);
     EXPECT_EQ(WordsOf(m_form, "txtSearch"), u"clo");
     EXPECT_EQ(WordsOf(m_form, "lblFound"), u"3 effects found");
+    LetRun();
     ExpectAccessible(m_form);
     Press(*m_form.focusWidget(), Qt::Key_Return);
     Press(*m_form.focusWidget(), Qt::Key_Down);
