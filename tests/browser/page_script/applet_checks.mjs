@@ -1,5 +1,5 @@
 /** The applets' canvases, at chosen times, against numbers worked out from the rules by hand. */
-import assert from "node:assert/strict";
+import assert from "./assert.mjs";
 import { effect } from "./pages.mjs";
 import { calm, check, recorder, stoppedClock, wait } from "./tools.mjs";
 

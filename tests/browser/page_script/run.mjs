@@ -1,9 +1,9 @@
 /** Runs every check in each browser, with and without a doctype, and prints "effect by browser". */
 import { readFileSync } from "node:fs";
+import { serve } from "./server.mjs";
 import { launch, names } from "./browsers.mjs";
 import { appletChecks } from "./applet_checks.mjs";
 import { pageChecks } from "./page_checks.mjs";
-import { serve } from "./pages.mjs";
 import { textChecks } from "./text_checks.mjs";
 import { Visit } from "./tools.mjs";
 

@@ -1,5 +1,5 @@
 /** Texts that move, tell the time or point things out. */
-import assert from "node:assert/strict";
+import assert from "./assert.mjs";
 import { effect } from "./pages.mjs";
 import { calm, check, wait } from "./tools.mjs";
 
@@ -42,7 +42,7 @@ export const textChecks = [
         const top = () => v.value(() => parseInt(spnOne.style.top));
         const box = await v.value(() => [divContainer.offsetWidth, divContainer.offsetHeight]);
         const sizes = /width:(\d+); height:(\d+)/.exec(scroller.body);
-        assert.deepEqual(box, [Number(sizes[1]), Number(sizes[2])]);
+        assert.equal(box, [Number(sizes[1]), Number(sizes[2])]);
         const first = await top();
         await wait(600);
         assert.ok((await top()) < first, "moves");
@@ -76,7 +76,7 @@ export const textChecks = [
             await v.value(() => {
                 window.steps = 0;
                 const step = window.moveSpan;
-                window.moveSpan = () => (steps++, step());
+                window.moveSpan = () => (window.steps++, step());
                 link.focus();
                 spnOne.dispatchEvent(new MouseEvent("mouseover"));
                 spnOne.dispatchEvent(new MouseEvent("mouseout"));

@@ -6,8 +6,13 @@ export const check = (effect, name, run) => ({ effect, name, run });
 
 export const wait = (ms) => new Promise((done) => setTimeout(done, ms));
 
-/** Notes in `played` what the page plays, and in `opened` the windows that it asks for. */
-export const recorder = `window.played = []; window.opened = [];
+/**
+ * Notes in `played` what the page plays, in `opened` the windows and in `boxes` the boxes that it
+ * asks for.
+ */
+export const recorder = `window.played = []; window.opened = []; window.boxes = [];
+  window.alert = (words) => boxes.push(words);
+  window.prompt = (words) => (boxes.push(words), "bob");
   window.open = (...asked) => { opened.push(asked.join(" ")); return window.blocks ? null : {}; };
   HTMLMediaElement.prototype.play = async function () { played.push(this.src); };`;
 
@@ -59,22 +64,35 @@ export class Visit {
 
     /** The canvas at a time: "r,g,b" at each of the points, which are written "x,y x,y". */
     async colors(t, points) {
-        await this.value((t) => window.turn(t), t);
-        await wait(30);
-        const color =
-            '(point) => canvas.getContext("2d").getImageData(...point, 1, 1).data.slice(0, 3)';
-        const list = JSON.stringify(points.split(" ").map((point) => point.split(",")));
-        return this.own("canvas", `(canvas) => ${list}.map(${color}).join(" ")`);
+        await this.turn(t);
+        return (
+            await this.pixels(points.split(" ").map((point) => point.split(",").map(Number)))
+        ).join(" ");
     }
 
-    /** How many pixels of it are dark then. */
+    /** How many of every fourth pixel of it are dark then. */
     async dark(t) {
-        await this.value((t) => window.turn(t), t);
-        await wait(30);
-        return this.own("canvas", (canvas) => {
-            const { width, height } = canvas;
-            const { data } = canvas.getContext("2d").getImageData(0, 0, width, height);
-            return data.filter((part, i) => i % 4 === 0 && part + data[i + 1] < 200).length;
-        });
+        await this.turn(t);
+        const [w, h] = await this.own("canvas", ({ width, height }) => [width, height]);
+        const points = Array.from({ length: (w >> 1) * (h >> 1) }, (_, i) => [
+            2 * (i % (w >> 1)),
+            2 * Math.floor(i / (w >> 1)),
+        ]);
+        return (await this.pixels(points)).filter(([r, g]) => r + g < 200).length;
+    }
+
+    async turn(t) {
+        await this.value((t) => window.turn?.(t), t);
+        await wait(60);
+    }
+
+    /** The colours of the canvas at points, each [r, g, b]. */
+    pixels(points) {
+        const color = "([x, y]) => [...pen.getImageData(x, y, 1, 1).data.slice(0, 3)]";
+        return this.own(
+            "canvas",
+            `(canvas) => { const pen = canvas.getContext("2d", { willReadFrequently: true });
+                return ${JSON.stringify(points)}.map(${color}); }`,
+        );
     }
 }

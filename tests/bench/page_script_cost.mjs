@@ -2,9 +2,10 @@
  * What the page script costs a page: milliseconds to start, and of script a frame for each effect.
  */
 import { readFileSync } from "node:fs";
-import { launch } from "./browsers.mjs";
-import { effect, page, serve, text } from "./pages.mjs";
-import { wait } from "./tools.mjs";
+import { serve } from "../browser/page_script/server.mjs";
+import { launch } from "../browser/page_script/browsers.mjs";
+import { effect, page, text } from "../browser/page_script/pages.mjs";
+import { wait } from "../browser/page_script/tools.mjs";
 
 const place = process.argv[2];
 const pages = new Map();
