@@ -8,17 +8,28 @@ import { drawTransition, isWay, readTransition } from "./transitions.js";
 
 const blank = "invisi.gif";
 
-/** The brightness of a picture as a whole, 0 to 255. @param {HTMLCanvasElement} picture */
+/**
+ * The brightness of 64 parts of a picture, each 0 to 255; empty when its pixels are kept secret.
+ * @param {HTMLCanvasElement} picture
+ */
 function brightness(picture) {
     const { canvas, pen } = sheet(8, 8, "white");
     pen.imageSmoothingEnabled = true;
     pen.drawImage(picture, 0, 0, 8, 8);
-    const pixels = pixelsOf(canvas);
-    if (!pixels) return 0;
-    const of = (/** @type {number} */ pixel) =>
-        0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255);
-    return pixels.reduce((sum, pixel) => sum + of(pixel), 0) / pixels.length;
+    return Array.from(
+        pixelsOf(canvas) ?? [],
+        (pixel) =>
+            0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255),
+    );
 }
+
+/**
+ * Whether a change between two pictures, back and forth, is a flash: a quarter of the parts differ.
+ * @param {number[]} from @param {number[]} to
+ */
+const differ = (from, to) =>
+    from.filter((light, i) => Math.abs(light - to[i]) > 25).length >= from.length / 4 &&
+    from.length > 0;
 
 /**
  * The images as frames that fill the area, each in the middle.
@@ -97,9 +108,13 @@ export async function animator(tag, pen) {
     const ends = () => n < 2 || (frame === n - 1 && cycle >= tag.cycles());
     const pause = () => {
         const asked = tag.number(`PAUSE.${frame}`, 100, -2);
-        const cut = !isWay(steps[frame]) || calm();
-        const flashes = cut && Math.abs(lights[frame] - lights[next()]) > 25;
-        return asked < 0 ? asked : Math.max(asked, flashes ? shortestFlash : 10);
+        if (asked < 0) return asked;
+        const way = isWay(steps[frame]) && !calm() ? S * each : 0;
+        // A quick shutter is a flash by itself.
+        const closes =
+            /^\s*(shutter|random)/i.test(steps[frame]) && S * each < 2 * shortestFlash && !calm();
+        const changes = closes ? 2 : Number(differ(lights[frame], lights[next()]));
+        return Math.max(asked, changes * shortestFlash - way, 10);
     };
     const stand = (/** @type {number} */ t) => {
         since = t;

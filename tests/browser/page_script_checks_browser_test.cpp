@@ -74,11 +74,17 @@ private:
         else if (what == "click")
             QTest::mouseClick(&m_page->Surface(), Qt::LeftButton, Qt::NoModifier, at);
         else if (what == "touch")
-            QTest::touchEvent(&m_page->Surface(), m_finger.get()).press(0, at).commit();
+            Tap(at);
         else
             QTest::keyClick(&m_page->Surface(),
                             asked["key"] == "Tab" ? Qt::Key_Tab : Qt::Key_Return);
         return {};
+    }
+
+    void Tap(const QPoint& at)
+    {
+        QTest::touchEvent(&m_page->Surface(), m_finger.get()).press(0, at);
+        QTest::touchEvent(&m_page->Surface(), m_finger.get()).release(0, at);
     }
 
     void Begin()

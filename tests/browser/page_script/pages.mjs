@@ -67,8 +67,8 @@ const plain = (color, w = 100, h = 80) => picture(w, h, () => [...color]);
 const pictures = {
     "a.gif": plain([255, 0, 0]),
     "b.gif": plain([0, 0, 255]),
-    "black.gif": plain([0, 0, 0], 200, 150),
-    "white.gif": plain([255, 255, 255], 200, 150),
+    "black.gif": plain([0, 0, 0], 40, 40),
+    "white.gif": plain([255, 255, 255], 40, 40),
     "photo.gif": plain([0, 0, 255], 200, 150),
     "paper.gif": plain([255, 255, 220]),
     "face.gif": picture(256, 256, (x, y) => [x, y, 128]),

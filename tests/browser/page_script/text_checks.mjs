@@ -125,5 +125,15 @@ export const textChecks = [
         assert.equal(await v.value(() => box1.style.visibility), "hidden");
         await v.tab.keyboard.press("Tab");
         assert.equal(await v.value(() => box1.style.visibility), "visible");
+        if (!(await v.value(() => "TouchEvent" in window))) return;
+        await v.show([tooltip]);
+        await v.tab.touchscreen.tap(
+            ...(await v.value(() => {
+                const { x, y } = document.querySelector("[onmousemove]").getBoundingClientRect();
+                return [x + 4, y + 4];
+            })),
+        );
+        await wait(400);
+        assert.equal(await v.value(() => box1.style.visibility), "visible", "by touch");
     }),
 ];

@@ -19,6 +19,15 @@ export const recorder = `window.played = []; window.opened = []; window.boxes = 
 /** The visitor wants as little motion as possible. */
 export const calm = `window.matchMedia = (query) => ({ matches: /motion: reduce/.test(query) });`;
 
+/** `leave` lets the visitor turn to another tab and back; `drawn` counts what is drawn. */
+export const tabs = `window.drawn = 0;
+  Object.defineProperty(document, "hidden", { get: () => window.away === true });
+  window.leave = (away) => ((window.away = away), document.dispatchEvent(new Event("visibilitychange")));
+  for (const draw of ["drawImage", "putImageData"]) {
+    const real = CanvasRenderingContext2D.prototype[draw];
+    CanvasRenderingContext2D.prototype[draw] = function (...all) { drawn++; real.apply(this, all); };
+  }`;
+
 /** The clock that pictures are drawn by stands still; `turn` sets it and draws. */
 export const stoppedClock = `window.clock = 1; performance.now = () => window.clock;
   window.turn = (t) => { clock = 1 + t; document.dispatchEvent(new Event("visibilitychange")); };`;
