@@ -133,7 +133,7 @@ export const appletChecks = [
             assert.notEqual(await drawn(), stopped);
         }
     }),
-    check("Canvases", "flash three times a second at most", async (v) => {
+    check(null, "canvases flash three times a second at most", async (v) => {
         const tag = (code, values) =>
             `<APPLET CODE="${code}.class" WIDTH="40" HEIGHT="40"><PARAM NAME="WIZARD" VALUE="Orvane">` +
             `${values} IMAGE.0=black.bmp IMAGE.1=white.bmp`.replace(

@@ -76,11 +76,11 @@ async function run(group, doctype) {
         const tab = new EmbeddedTab();
         await ask("begin");
         try {
-            await check.run(new EmbeddedVisit(tab, (...page) => tab.open(...page), doctype));
+            await check.run(new EmbeddedVisit(tab, (...page) => tab.open(...page), { doctype }));
             const errors = await evaluate("window.scriptErrors ?? []");
             if (errors.length) throw new Error(`script error: ${errors[0]}`);
         } catch (error) {
-            faults.push(`${check.effect}: ${check.name}: ${error.message}`);
+            faults.push(`${check.effect ?? "Pages"}: ${check.name}: ${error.message}`);
         }
     }
     await ask("end", { faults });

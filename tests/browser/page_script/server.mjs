@@ -15,10 +15,11 @@ export async function serve(pages, script) {
     const server = createServer(async (request, answer) => {
         const name = request.url.slice(1).split("?")[0];
         if (name === "orvane.js") return answer.end(script);
-        if (/\.(gif|jpg)$/.test(name) && image(name)) return answer.end(image(name));
         const found = pages.get(name);
-        if (found === undefined) return answer.writeHead(404).end();
-        answer.setHeader("Content-Type", "text/html; charset=windows-1252");
+        if (!found && /\.(gif|jpg)$/.test(name) && image(name)) return answer.end(image(name));
+        if (!found) return answer.writeHead(404).end();
+        if (/\.html$/.test(name))
+            answer.setHeader("Content-Type", "text/html; charset=windows-1252");
         if (!found.slow) return answer.end(found.html);
         for (let at = 0; at < found.html.length; at += found.slow) {
             answer.write(found.html.slice(at, at + found.slow));

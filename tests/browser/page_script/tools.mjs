@@ -1,7 +1,7 @@
 /** What the checks share. */
 import { page } from "./pages.mjs";
 
-/** A check of an effect: what a visitor sees, and how it is seen. */
+/** A check of an effect (null: of pages as such): what a visitor sees, and how it is seen. */
 export const check = (effect, name, run) => ({ effect, name, run });
 
 export const wait = (ms) => new Promise((done) => setTimeout(done, ms));
@@ -34,14 +34,18 @@ export const stoppedClock = `window.clock = 1; performance.now = () => window.cl
 
 /** A visitor's tab on one page after the other. */
 export class Visit {
-    /** `open` loads a page's text, `doctype` tells whether pages have one. */
-    constructor(tab, open, doctype) {
-        Object.assign(this, { tab, open, doctype });
+    /**
+     * `open` loads a page's text; pages have a doctype or not, and lead to the page script or not.
+     */
+    constructor(tab, open, { doctype, script = true }) {
+        Object.assign(this, { tab, open, doctype, script });
     }
 
     /** Loads a page with these effects; `options` are those of a page and of `open`. */
     show(effects, options = {}) {
-        return this.open(page({ effects, doctype: this.doctype, ...options }), options);
+        const whole = page({ effects, doctype: this.doctype, ...options });
+        const bare = /<script src=['"]?orvane\.js[^>]*><\/script>/gi;
+        return this.open(this.script ? whole : whole.replace(bare, ""), options);
     }
 
     /** What a function gives in the page. */
