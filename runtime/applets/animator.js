@@ -6,6 +6,7 @@ import { drawTransition, isWay, readTransition } from "./transitions.js";
 
 /** @typedef {import("./tag.js").Tag} Tag */
 
+/** The image of one pixel that stands for nothing. */
 const blank = "invisi.gif";
 
 /**
@@ -47,12 +48,14 @@ async function frames({ W, H }, names, ground) {
     });
 }
 
-/** @param {Tag} tag @param {string[]} links */
-function linkOf(tag, links) {
-    return (/** @type {number} */ i) => {
-        while (i > 0 && links[i] === undefined) i--;
-        return links[i] === undefined || links[i].toLowerCase() === "null" ? null : links[i];
-    };
+/**
+ * The link of a frame: its own, or that of the nearest frame before it that has one.
+ * @param {(string | null)[]} links @param {number} frame
+ */
+function linkOf(links, frame) {
+    while (frame > 0 && links[frame] === null) frame--;
+    const link = links[frame] ?? null;
+    return link?.toLowerCase() === "null" ? null : link;
 }
 
 /**
@@ -73,6 +76,7 @@ function stepsOf(tag, n) {
 }
 
 /**
+ * Shows the frames one after the other.
  * @param {Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */
@@ -85,17 +89,10 @@ export async function animator(tag, pen) {
         : [words(missing("IMAGE.0"), tag.W, tag.H)];
     const lights = pictures.map(brightness);
     const steps = stepsOf(tag, n);
-    const each =
-        tag.number(
-            "TRANSITION.RATE.0",
-            tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20,
-            0,
-        ) + 10;
+    const usual = tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20;
+    const each = tag.number("TRANSITION.RATE.0", usual, 0) + 10;
     const S = tag.number("TRANSITION.STEP.0", 20, 1);
-    const link = linkOf(
-        tag,
-        names.map((_, i) => /** @type {any} */ (tag.text(`URL.${i}`) ?? undefined)),
-    );
+    const links = names.map((_, i) => tag.text(`URL.${i}`));
 
     let frame = 0;
     let cycle = 1;
@@ -176,18 +173,10 @@ export async function animator(tag, pen) {
             return ends() || pause() < 0 ? Infinity : since + pause() - t;
         },
         drawStill() {
-            pen.drawImage(
-                pictures[
-                    Math.max(
-                        names.findIndex((name) => name.toLowerCase() !== blank),
-                        0,
-                    )
-                ],
-                0,
-                0,
-            );
+            const seen = names.findIndex((name) => name.toLowerCase() !== blank);
+            pen.drawImage(pictures[Math.max(seen, 0)], 0, 0);
         },
-        link: () => link(frame),
+        link: () => linkOf(links, frame),
         waits,
         press: (t) => void (waits() && leave(t)),
         over: (t) => void (waits() && pause() === -2 && leave(t)),

@@ -20,7 +20,9 @@ const faces = [
     { axis: 1, side: -1, u: [0, 1], v: [2, -1] },
     { axis: 1, side: 1, u: [0, 1], v: [2, 1] },
 ];
+/** Half the length of an edge. */
 const half = 25;
+/** Milliseconds between two pictures. */
 const each = 40;
 
 /**
@@ -155,6 +157,7 @@ function drawTriangles(pen, picture, axes, D) {
 }
 
 /**
+ * Turns the cube.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

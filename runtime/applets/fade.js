@@ -3,6 +3,7 @@ import { calm, shortestFlash } from "../calm.js";
 import { stretched } from "./tag.js";
 
 /**
+ * Shows the pictures one after the other.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

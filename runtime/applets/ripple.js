@@ -1,6 +1,7 @@
 /** A picture with waves that run from its middle. */
 import { pixelsOf, sheet, stretched } from "./tag.js";
 
+/** Milliseconds between two pictures. */
 const each = 50;
 
 /**
@@ -59,6 +60,7 @@ function bentDiscs(from, W, H, bend) {
 }
 
 /**
+ * Runs the waves.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

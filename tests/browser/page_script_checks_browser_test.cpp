@@ -70,7 +70,7 @@ private:
         else if (what == "pixels")
             return m_page->ColorsAt(asked["points"].toList());
         else if (what == "mouse")
-            QTest::mouseMove(&m_page->Surface(), at);
+            Move(at);
         else if (what == "click")
             QTest::mouseClick(&m_page->Surface(), Qt::LeftButton, Qt::NoModifier, at);
         else if (what == "touch")
@@ -79,6 +79,13 @@ private:
             QTest::keyClick(&m_page->Surface(),
                             asked["key"] == "Tab" ? Qt::Key_Tab : Qt::Key_Return);
         return {};
+    }
+
+    /// Moves the mouse, which may stand there since the page before.
+    void Move(const QPoint& at)
+    {
+        QTest::mouseMove(&m_page->Surface(), at + QPoint(1, 1));
+        QTest::mouseMove(&m_page->Surface(), at);
     }
 
     void Tap(const QPoint& at)
