@@ -19,12 +19,12 @@ std::string WithEffects(std::string page)
 {
     const EffectPayload effects[] = {
         Generate(StatusBarTicker{u"Welcome to my page!"}),
-        Generate(DigitalClock{.lstDateTimeFormat = Text(DateFormats[0].Item)}),
+        Generate(DigitalClock{.lstDateTimeFormat = Text(dateFormats[0].Item)}),
         Generate(VerticalScroller{.lstItems = {u"First", u"Second"}, .lstLinks = {u"", u""}}),
         Generate(Slideshow{.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
                            .txtSlideDuration = u"1",
                            .chkRepeat = true}),
-        Generate(ImageEffects{.EffectPicker = Text(ImageEffectNames[0]),
+        Generate(ImageEffects{.EffectPicker = Text(imageEffectNames[0]),
                               .ImageFile = u"a.gif",
                               .ImageWidth = u"200",
                               .ImageHeight = u"100"}),

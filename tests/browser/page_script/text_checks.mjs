@@ -151,4 +151,19 @@ export const textChecks = [
         await wait(400);
         assert.equal(await v.value(() => box1.style.visibility), "visible", "by touch");
     }),
+    check(null, "texts have the sizes and places of pages without a doctype", async (v) => {
+        const boxes = [];
+        for (const doctype of [true, false]) {
+            await v.show([scroller, clock, tooltip], { doctype, before: calm });
+            await wait(300);
+            const boxOf = (name) => {
+                const { x, y, width, height } = window[name].getBoundingClientRect();
+                return [name, x, y, width, height].join(" ");
+            };
+            boxes.push(
+                await v.value(`["divContainer", "spnOne", "spnClock", "box1"].map(${boxOf})`),
+            );
+        }
+        assert.equal(boxes[0], boxes[1]);
+    }),
 ];
