@@ -36,7 +36,7 @@ for (const name of asked) {
                 if (script && fault)
                     console.error(
                         `FAILED ${title}, ${doctype ? "with" : "without"} doctype, ` +
-                            `${check.effect}: ${check.name}\n${fault.stack}`,
+                            `${check.effect ?? "Pages"}: ${check.name}\n${fault.stack}`,
                     );
             }
         }
