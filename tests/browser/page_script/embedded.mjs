@@ -5,10 +5,11 @@
 import { appletChecks } from "./applet_checks.mjs";
 import { image } from "./pages.mjs";
 import { pageChecks } from "./page_checks.mjs";
+import { ruleChecks } from "./rule_checks.mjs";
 import { textChecks } from "./text_checks.mjs";
 import { Visit } from "./tools.mjs";
 
-const groups = { texts: textChecks, pages: pageChecks, applets: appletChecks };
+const groups = { texts: textChecks, pages: pageChecks, applets: appletChecks, rules: ruleChecks };
 
 /** What is asked for now, and whom to tell the answer. */
 let asked = null;

@@ -8,13 +8,14 @@ import { launch, names } from "./browsers.mjs";
 import { appletChecks } from "./applet_checks.mjs";
 import { pageChecks } from "./page_checks.mjs";
 import { resultsPage } from "./results.mjs";
+import { ruleChecks } from "./rule_checks.mjs";
 import { textChecks } from "./text_checks.mjs";
 import { Visit } from "./tools.mjs";
 
 const place = process.argv[2];
 const asked = names.filter((name) => !process.argv[3] || process.argv.includes(name));
 const only = process.env.CHECK && new RegExp(process.env.CHECK);
-const checks = [...textChecks, ...pageChecks, ...appletChecks].filter(
+const checks = [...textChecks, ...pageChecks, ...appletChecks, ...ruleChecks].filter(
     (check) => !only || only.test(`${check.effect}: ${check.name}`),
 );
 
