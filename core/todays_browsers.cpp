@@ -31,9 +31,7 @@ constexpr Row rows[] = {
     {EffectKind::StatusBarTicker,
      u"Today's browsers show this effect only with Orvane's page script, in a strip at the foot of "
      u"the window."},
-    {EffectKind::TypewriterText,
-     u"Today's browsers show this effect only with Orvane's page script, and play its sounds only "
-     u"after the visitor's first click or key."},
+    {EffectKind::TypewriterText, withScriptAlone},
     {EffectKind::PulldownMenu, withoutScript},
     {EffectKind::MoreImageEffects, withScriptAlone},
     {EffectKind::PopupAlert, withoutScript},
@@ -50,12 +48,14 @@ constexpr Row rows[] = {
     {EffectKind::CursorTrail, withScriptAlone},
     {EffectKind::AntiSpamLink, withoutScript},
     {EffectKind::Slideshow,
-     u"Today's browsers change the images without transitions unless Orvane's page script is "
-     u"there."},
+     u"Today's browsers change the images without transitions, and its buttons load the Web page "
+     u"anew, unless Orvane's page script is there."},
     {EffectKind::Tooltips,
-     u"Today's browsers show tooltips to the mouse; with Orvane's page script the keyboard and "
-     u"touch bring them up too."},
-    {EffectKind::VerticalScroller, withScriptAlone},
+     u"Today's browsers show tooltips to the mouse, out of place once the Web page is scrolled; "
+     u"with Orvane's page script they are in place, and the keyboard and touch bring them up too."},
+    {EffectKind::VerticalScroller,
+     u"Today's browsers move this text only on Web pages without a doctype; with Orvane's page "
+     u"script it moves on all of them, and the visitor can stop it."},
 };
 
 } // namespace

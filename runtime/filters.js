@@ -17,7 +17,7 @@ export function prepareFilter(element) {
     if (found) setOpacity(element, Number(found[1]));
 }
 
-/** @param {HTMLElement} element @param {number} percent */
+/** Shows and keeps an opacity. @param {HTMLElement} element @param {number} percent */
 function setOpacity(element, percent) {
     opacities.set(element, percent);
     element.style.opacity = String(Math.min(Math.max(percent / 100, 0), 1));

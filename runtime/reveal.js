@@ -29,7 +29,7 @@ const frame = (p) => [
     [1 - p / 2, p / 2, p / 2, 1 - p],
 ];
 
-/** @param {number} p @param {number} x the column's share of the way @returns {number} */
+/** How far one of several rows is. @param {number} p @param {number} x the column's share of the way @returns {number} */
 const stair = (p, x) => Math.min(Math.max(2 * p - x, 0), 1);
 
 /**
@@ -45,7 +45,7 @@ function checkers(p) {
     }).concat(pieces(blinds / 2, (i) => [0, (2 * i + 1) * w, Math.max(p - 0.5, 0) * w, w]));
 }
 
-/** @param {Piece[]} from @returns {Piece[]} */
+/** Rows for columns. @param {Piece[]} from @returns {Piece[]} */
 const turned = (from) => from.map(([x, y, w, h]) => [y, x, h, w]);
 
 /**
@@ -61,13 +61,13 @@ const strips = (p, left, up) =>
         return [left ? 1 - long : 0, i / rows, long, 1 / rows];
     });
 
-/** @param {number[]} order @param {number} p @returns {Piece[]} */
+/** Lines by chance. @param {number[]} order @param {number} p @returns {Piece[]} */
 const some = (order, p) =>
     order
         .slice(0, Math.round(p * order.length))
         .map((i) => [0, i / order.length, 1, 1 / order.length]);
 
-/** @param {number[]} order @param {number} p @returns {Piece[]} */
+/** Dots by chance. @param {number[]} order @param {number} p @returns {Piece[]} */
 const dots = (order, p) => {
     const side = Math.sqrt(order.length);
     return order
@@ -115,7 +115,7 @@ const uncovered = {
  * @param {number} kind @param {number} p @param {number[]} order
  * @param {number} w @param {number} h
  */
-export function coverPath(kind, p, order, w, h) {
+function coverPath(kind, p, order, w, h) {
     const all = `M0 0H${w}V${h}H0Z`;
     if (kind === 2 || kind === 3) {
         const radius = (Math.hypot(w, h) / 2) * (kind === 2 ? 1 - p : p);

@@ -6,6 +6,7 @@ import { go, stop } from "./timers.js";
 const step = "moveSpan";
 
 /**
+ * Prepares the frame in which the text moves.
  * @param {HTMLElement} element
  */
 export function prepareScroller(element) {

@@ -26,6 +26,7 @@ function addPause(picture) {
 }
 
 /**
+ * Prepares the picture and the buttons.
  * @param {HTMLElement} element
  */
 export function prepareSlideshow(element) {

@@ -22,7 +22,7 @@ function loudness(byte) {
  * stay what they are.
  * @param {ArrayBuffer} bytes
  */
-export function playable(bytes) {
+function playable(bytes) {
     const from = new DataView(bytes);
     if (bytes.byteLength < 24 || from.getUint32(0) !== 0x2e736e64 || from.getUint32(12) !== 1)
         return new Blob([bytes]);
@@ -50,7 +50,7 @@ export function playable(bytes) {
     return new Blob([to.buffer], { type: "audio/wav" });
 }
 
-/** @param {string} url @returns {Promise<string>} */
+/** An address that plays, made from a telephone sound. @param {string} url @returns {Promise<string>} */
 async function translated(url) {
     const bytes = await read(url);
     return bytes ? URL.createObjectURL(playable(bytes)) : url;

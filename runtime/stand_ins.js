@@ -43,7 +43,7 @@ function standIn(real, changes) {
     );
 }
 
-/** @param {any} value */
+/** A change that always gives one value. @param {any} value */
 const only = (value) => ({ get: () => value });
 
 /** @type {WeakMap<Element, any>} */
@@ -53,7 +53,7 @@ const elements = new WeakMap();
  * The stand-in of an element, whose style takes lengths without units.
  * @param {any} element
  */
-export function elementStandIn(element) {
+function elementStandIn(element) {
     if (!(element instanceof HTMLElement)) return element;
     let known = elements.get(element);
     if (!known) {
@@ -66,7 +66,7 @@ export function elementStandIn(element) {
     return known;
 }
 
-/** @param {HTMLElement} element */
+/** The stand-in of an element's style. @param {HTMLElement} element */
 function styleOf(element) {
     const { style } = element;
     /** @type {Changes} */

@@ -11,13 +11,16 @@ import { openOnLeaving, openWindow } from "./windows.js";
 /** The call that starts each effect which is started by the BODY tag. */
 const starts = ["scrollit_r2l(99)", "moveSpan()", "loadImages()"];
 
-/** Things to do once the effects have started. @type {(() => void)[]} */
+/** @type {(() => void)[]} */
 const afterwards = [];
 
-/** @param {() => void} run */
+/** Runs something once the effects have started. @param {() => void} run */
 export const afterStart = (run) => afterwards.push(run);
 
-/** @param {string} event @param {any} run */
+/**
+ * Adds what a script puts into `window.onload` or `window.onunload` to what is there.
+ * @param {string} event @param {any} run
+ */
 export function listenLate(event, run) {
     if (typeof run === "function") window.addEventListener(event, (told) => run.call(window, told));
 }
@@ -48,12 +51,12 @@ export function takeBodyCalls() {
     }
 }
 
-/** @param {Call} call */
+/** Opens the window of a call. @param {Call} call */
 function open(call) {
     openWindow(.../** @type {[string, string, string]} */ (call.args()));
 }
 
-/** @param {Call} call */
+/** Offers the window of a call on leaving. @param {Call} call */
 function leave(call) {
     openOnLeaving(.../** @type {[string, string, string]} */ (call.args()));
 }

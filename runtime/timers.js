@@ -8,11 +8,11 @@ import { make, readCall } from "./calls.js";
 
 /** Calls that came due while their effect rested, by timer number. @type {Map<number, Call>} */
 const waiting = new Map();
-/** @type {Set<string>} */
+/** Functions that the visitor has stopped. @type {Set<string>} */
 const stopped = new Set();
-/** The calls of running intervals. @type {Map<number, string>} */
+/** What running intervals call, by their number. @type {Map<number, string>} */
 const intervals = new Map();
-/** @type {Set<string>} */
+/** Functions of effects that have started. @type {Set<string>} */
 const seen = new Set();
 
 /** Shortest pauses between two calls of a function, in milliseconds. @type {Map<string, number>} */
@@ -28,7 +28,7 @@ export const idle = new Map();
  */
 export const onInterval = new Map();
 
-/** @param {string} name */
+/** Whether the calls of a function rest now. @param {string} name */
 const rests = (name) => document.hidden || stopped.has(name);
 
 /** Whether a timer has named this function, or `note` has. @param {string} name */
@@ -46,6 +46,7 @@ export function go(name) {
     wake();
 }
 
+/** Makes the calls that have waited and need not wait any longer. */
 function wake() {
     for (const [id, call] of [...waiting]) {
         if (rests(call.name)) continue;
@@ -55,7 +56,7 @@ function wake() {
 }
 document.addEventListener("visibilitychange", wake);
 
-/** @param {string} name */
+/** Tells those who asked whether an interval of a function runs. @param {string} name */
 function tellInterval(name) {
     onInterval.get(name)?.([...intervals.values()].includes(name));
 }

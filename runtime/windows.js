@@ -16,7 +16,7 @@ const look = `
  * @param {string} words
  * @param {{caption: string, run: () => void}} [action]
  */
-export function showBox(words, action) {
+function showBox(words, action) {
     const { host, inside } = ownPlace("all:initial", look);
     const box = document.createElement("div");
     box.className = "box";
@@ -40,7 +40,10 @@ export function showBox(words, action) {
     setTimeout(() => (text.textContent = words));
 }
 
-/** @param {string} url @param {string} name @param {string} features */
+/**
+ * Offers a window in a box.
+ * @param {string} url @param {string} name @param {string} features
+ */
 function offerWindow(url, name, features) {
     showBox(`This page has a window to show: ${url}`, {
         caption: "Open it",

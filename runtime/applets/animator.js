@@ -6,19 +6,31 @@ import { drawTransition, isWay, readTransition } from "./transitions.js";
 
 /** @typedef {import("./tag.js").Tag} Tag */
 
+/** The image of one pixel that stands for nothing. */
 const blank = "invisi.gif";
 
-/** The brightness of a picture as a whole, 0 to 255. @param {HTMLCanvasElement} picture */
+/**
+ * The brightness of 64 parts of a picture, each 0 to 255; empty when its pixels are kept secret.
+ * @param {HTMLCanvasElement} picture
+ */
 function brightness(picture) {
     const { canvas, pen } = sheet(8, 8, "white");
     pen.imageSmoothingEnabled = true;
     pen.drawImage(picture, 0, 0, 8, 8);
-    const pixels = pixelsOf(canvas);
-    if (!pixels) return 0;
-    const of = (/** @type {number} */ pixel) =>
-        0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255);
-    return pixels.reduce((sum, pixel) => sum + of(pixel), 0) / pixels.length;
+    return Array.from(
+        pixelsOf(canvas) ?? [],
+        (pixel) =>
+            0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255),
+    );
 }
+
+/**
+ * Whether a change between two pictures, back and forth, is a flash: a quarter of the parts differ.
+ * @param {number[]} from @param {number[]} to
+ */
+const differ = (from, to) =>
+    from.filter((light, i) => Math.abs(light - to[i]) > 25).length >= from.length / 4 &&
+    from.length > 0;
 
 /**
  * The images as frames that fill the area, each in the middle.
@@ -36,12 +48,14 @@ async function frames({ W, H }, names, ground) {
     });
 }
 
-/** @param {Tag} tag @param {string[]} links */
-function linkOf(tag, links) {
-    return (/** @type {number} */ i) => {
-        while (i > 0 && links[i] === undefined) i--;
-        return links[i] === undefined || links[i].toLowerCase() === "null" ? null : links[i];
-    };
+/**
+ * The link of a frame: its own, or that of the nearest frame before it that has one.
+ * @param {(string | null)[]} links @param {number} frame
+ */
+function linkOf(links, frame) {
+    while (frame > 0 && links[frame] === null) frame--;
+    const link = links[frame] ?? null;
+    return link?.toLowerCase() === "null" ? null : link;
 }
 
 /**
@@ -62,6 +76,7 @@ function stepsOf(tag, n) {
 }
 
 /**
+ * Shows the frames one after the other.
  * @param {Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */
@@ -74,17 +89,10 @@ export async function animator(tag, pen) {
         : [words(missing("IMAGE.0"), tag.W, tag.H)];
     const lights = pictures.map(brightness);
     const steps = stepsOf(tag, n);
-    const each =
-        tag.number(
-            "TRANSITION.RATE.0",
-            tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20,
-            0,
-        ) + 10;
+    const usual = tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20;
+    const each = tag.number("TRANSITION.RATE.0", usual, 0) + 10;
     const S = tag.number("TRANSITION.STEP.0", 20, 1);
-    const link = linkOf(
-        tag,
-        names.map((_, i) => /** @type {any} */ (tag.text(`URL.${i}`) ?? undefined)),
-    );
+    const links = names.map((_, i) => tag.text(`URL.${i}`));
 
     let frame = 0;
     let cycle = 1;
@@ -97,9 +105,13 @@ export async function animator(tag, pen) {
     const ends = () => n < 2 || (frame === n - 1 && cycle >= tag.cycles());
     const pause = () => {
         const asked = tag.number(`PAUSE.${frame}`, 100, -2);
-        const cut = !isWay(steps[frame]) || calm();
-        const flashes = cut && Math.abs(lights[frame] - lights[next()]) > 25;
-        return asked < 0 ? asked : Math.max(asked, flashes ? shortestFlash : 10);
+        if (asked < 0) return asked;
+        const way = isWay(steps[frame]) && !calm() ? S * each : 0;
+        // A quick shutter is a flash by itself.
+        const closes =
+            /^\s*(shutter|random)/i.test(steps[frame]) && S * each < 2 * shortestFlash && !calm();
+        const changes = closes ? 2 : Number(differ(lights[frame], lights[next()]));
+        return Math.max(asked, changes * shortestFlash - way, 10);
     };
     const stand = (/** @type {number} */ t) => {
         since = t;
@@ -161,18 +173,10 @@ export async function animator(tag, pen) {
             return ends() || pause() < 0 ? Infinity : since + pause() - t;
         },
         drawStill() {
-            pen.drawImage(
-                pictures[
-                    Math.max(
-                        names.findIndex((name) => name.toLowerCase() !== blank),
-                        0,
-                    )
-                ],
-                0,
-                0,
-            );
+            const seen = names.findIndex((name) => name.toLowerCase() !== blank);
+            pen.drawImage(pictures[Math.max(seen, 0)], 0, 0);
         },
-        link: () => link(frame),
+        link: () => linkOf(links, frame),
         waits,
         press: (t) => void (waits() && leave(t)),
         over: (t) => void (waits() && pause() === -2 && leave(t)),

@@ -49,7 +49,7 @@ const aligned = new Map([
 
 /** Plays one show: its clock, its links, its button. */
 class Stage {
-    /** @param {Tag} tag */
+    /** Puts the canvas into the tag's place. @param {Tag} tag */
     constructor(tag) {
         const { applet, W, H } = tag;
         const px = (/** @type {string} */ name) =>
@@ -85,7 +85,7 @@ class Stage {
         this.button = null;
     }
 
-    /** @param {Show} show */
+    /** Begins the show, once its files have come. @param {Show} show */
     play(show) {
         this.show = show;
         this.canvas.setAttribute("aria-label", this.tag.applet.getAttribute("alt") ?? show.name);
@@ -109,7 +109,10 @@ class Stage {
         this.go();
     }
 
-    /** @param {((t: number) => void) | undefined} told */
+    /**
+     * Tells the show of what the visitor did, unless it is stopped.
+     * @param {((t: number) => void) | undefined} told
+     */
     tell(told) {
         if (!this.moves || !told) return;
         told(this.time());
@@ -124,11 +127,13 @@ class Stage {
         return this.t;
     }
 
+    /** Goes on from where the clock stands. */
     go() {
         if (!this.moves || document.hidden) return;
         this.step(++this.round);
     }
 
+    /** Stops the clock, and what was to be drawn next. */
     pause() {
         if (this.last !== null) this.time();
         this.last = null;
@@ -149,7 +154,7 @@ class Stage {
         else if (wait < Infinity) setTimeout(again, wait - 8);
     }
 
-    /** @param {boolean} needed */
+    /** Shows the button that stops and starts, or takes it away. @param {boolean} needed */
     setButton(needed) {
         if (!needed) {
             this.button?.remove();
@@ -164,6 +169,7 @@ class Stage {
         this.inside.append(this.button);
     }
 
+    /** Gives the canvas the link that the show has now, or makes it a button that is waited for. */
     setLink() {
         const url = this.show?.link?.() ?? null;
         const waits = !!this.show?.waits?.();

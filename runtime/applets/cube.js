@@ -20,7 +20,9 @@ const faces = [
     { axis: 1, side: -1, u: [0, 1], v: [2, -1] },
     { axis: 1, side: 1, u: [0, 1], v: [2, 1] },
 ];
+/** Half the length of an edge. */
 const half = 25;
+/** Milliseconds between two pictures. */
 const each = 40;
 
 /**
@@ -44,6 +46,23 @@ function axesAfter([alpha, beta, gamma]) {
 }
 
 /**
+ * Where a face stands on the picture: its edges at the left, top, right and bottom.
+ * @param {Face} face @param {Vector[]} axes @param {number} D @param {number} f
+ */
+function edgesOf({ axis, side, u, v }, axes, D, f) {
+    const corners = [-1, 1].flatMap((a) =>
+        [-1, 1].map((b) => {
+            const [x, y, z] = [0, 1, 2].map(
+                (k) => half * (side * axes[axis][k] + a * axes[u[0]][k] + b * axes[v[0]][k]),
+            );
+            return { x: (x * f) / (z + D), y: (y * f) / (z + D) };
+        }),
+    );
+    const [xs, ys] = [corners.map(({ x }) => x), corners.map(({ y }) => y)];
+    return [Math.min(...xs), Math.min(...ys), Math.max(...xs), Math.max(...ys)];
+}
+
+/**
  * Colours the pixels that see the cube.
  * @param {Uint32Array} to @param {number} W @param {number} H @param {number} r the size of a dot
  * @param {Uint32Array} from @param {number} iw @param {number} ih
@@ -51,28 +70,35 @@ function axesAfter([alpha, beta, gamma]) {
  */
 function castRays(to, W, H, r, from, iw, ih, axes, D) {
     const f = 0.6 * Math.min(W, H);
-    // No point of the cube is farther from its middle than a corner; that bounds what can see it.
-    const round = (f * half * 1.74) / Math.sqrt(Math.max(D * D - 3 * half * half, 1)) + r + 1;
-    const edge = (/** @type {number} */ at, /** @type {number} */ size) =>
-        Math.min(Math.max(Math.floor(size / 2 + at), 0), size);
-    for (const { axis, side, u, v } of faces) {
+    const [perX, perY] = [iw / (2 * half), ih / (2 * half)];
+    for (const face of faces) {
+        const { axis, side, u, v } = face;
         // The eye as the cube sees it; the faces that look at it do not overlap.
         const eye = side * -D * axes[axis][2];
         if (eye <= half) continue;
+        const edges = edgesOf(face, axes, D, f);
+        const [left, top] = [edges[0] + W / 2, edges[1] + H / 2].map((at) =>
+            Math.max(Math.floor(at) - 1, 0),
+        );
+        // The last dot that begins on the face reaches beyond it.
+        const right = Math.min(Math.ceil(edges[2] + W / 2) + r, W);
+        const bottom = Math.min(Math.ceil(edges[3] + H / 2) + r, H);
         const [dx, dy, dz] = axes[axis].map((part) => side * part);
         const [ux, uy, uz] = axes[u[0]].map((part) => u[1] * part);
         const [vx, vy, vz] = axes[v[0]].map((part) => v[1] * part);
-        for (let y = edge(-round, H); y < edge(round, H); y++) {
+        const [u0, v0] = [half - D * uz, half - D * vz];
+        for (let y = top; y < bottom; y++) {
             const py = y - (y % r) + 0.5 - H / 2;
-            for (let x = edge(-round, W); x < edge(round, W); x++) {
+            const [d, pu0, pv0] = [dy * py + dz * f, uy * py + uz * f, vy * py + vz * f];
+            for (let x = left, i = y * W + left; x < right; x++, i++) {
                 const px = x - (x % r) + 0.5 - W / 2;
-                const far = (half - eye) / (dx * px + dy * py + dz * f);
-                const pu = far * (ux * px + uy * py + uz * f) - D * uz + half;
-                const pv = far * (vx * px + vy * py + vz * f) - D * vz + half;
+                const far = (half - eye) / (dx * px + d);
+                const pu = far * (ux * px + pu0) + u0;
+                const pv = far * (vx * px + pv0) + v0;
                 if (!(far > 0) || pu < 0 || pu > 2 * half || pv < 0 || pv > 2 * half) continue;
-                const ix = Math.min(Math.floor((pu * iw) / (2 * half)), iw - 1);
-                const iy = Math.min(Math.floor((pv * ih) / (2 * half)), ih - 1);
-                to[y * W + x] = from[iy * iw + ix];
+                const ix = Math.min((pu * perX) | 0, iw - 1);
+                const iy = Math.min((pv * perY) | 0, ih - 1);
+                to[i] = from[iy * iw + ix];
             }
         }
     }
@@ -131,6 +157,7 @@ function drawTriangles(pen, picture, axes, D) {
 }
 
 /**
+ * Turns the cube.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

@@ -1,8 +1,9 @@
 /** Images that fade into one another. */
-import { calm } from "../calm.js";
+import { calm, shortestFlash } from "../calm.js";
 import { stretched } from "./tag.js";
 
 /**
+ * Shows the pictures one after the other.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */
@@ -12,10 +13,10 @@ export async function fade(tag, pen) {
     const asked = names.length ? names : [null];
     const pictures = await Promise.all(asked.map((name) => stretched(name, "IMAGE.0", W, H)));
     const n = pictures.length;
-    const pause = tag.number("PAUSE", 100, 0);
     const S = tag.number("TRANSITION.STEPS", 15, 1);
     const V = tag.number("TRANSITION.SPEED", 40, 1);
     const way = Math.ceil((1000 * S) / V);
+    const pause = Math.max(tag.number("PAUSE", 100, 0), shortestFlash - way);
     let shown = 0;
     return {
         name: "Fading pictures: " + names.join(", "),

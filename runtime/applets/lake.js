@@ -1,9 +1,11 @@
 /** A picture and its reflection in moving water. */
 import { stretched } from "./tag.js";
 
+/** Milliseconds between two pictures. */
 const each = 50;
 
 /**
+ * Moves the water.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

@@ -1,6 +1,7 @@
 /** A picture with waves that run from its middle. */
 import { pixelsOf, sheet, stretched } from "./tag.js";
 
+/** Milliseconds between two pictures. */
 const each = 50;
 
 /**
@@ -8,18 +9,28 @@ const each = 50;
  * @typedef {(rho: number) => number} Bend
  */
 
-/** @param {Uint32Array} from @param {number} W @param {number} H @param {Bend} bend */
+/**
+ * The bent picture. A pixel and its mirror images are equally far from the middle.
+ * @param {Uint32Array} from @param {number} W @param {number} H @param {Bend} bend
+ */
 function bentPixels(from, W, H, bend) {
     const { canvas, pen } = sheet(W, H, "white");
     const data = new ImageData(W, H);
     const to = new Uint32Array(data.data.buffer);
     const [cx, cy] = [(W - 1) / 2, (H - 1) / 2];
-    for (let y = 0, i = 0; y < H; y++)
-        for (let x = 0; x < W; x++, i++) {
+    /** @param {number} x @param {number} y @param {number} q */
+    const put = (x, y, q) => {
+        const sx = Math.min(Math.max(x + Math.floor((x - cx) * q + 0.5), 0), W - 1);
+        const sy = Math.min(Math.max(y + Math.floor((y - cy) * q + 0.5), 0), H - 1);
+        to[y * W + x] = from[sy * W + sx];
+    };
+    for (let y = 0; y <= cy; y++)
+        for (let x = 0; x <= cx; x++) {
             const q = bend(Math.sqrt((x - cx) ** 2 + (y - cy) ** 2));
-            const sx = Math.min(Math.max(x + Math.floor((x - cx) * q + 0.5), 0), W - 1);
-            const sy = Math.min(Math.max(y + Math.floor((y - cy) * q + 0.5), 0), H - 1);
-            to[i] = from[sy * W + sx];
+            put(x, y, q);
+            put(W - 1 - x, y, q);
+            put(x, H - 1 - y, q);
+            put(W - 1 - x, H - 1 - y, q);
         }
     pen.putImageData(data, 0, 0);
     return canvas;
@@ -49,6 +60,7 @@ function bentDiscs(from, W, H, bend) {
 }
 
 /**
+ * Runs the waves.
  * @param {import("./tag.js").Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

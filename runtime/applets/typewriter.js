@@ -11,6 +11,7 @@ const families = new Map([
     ["timesroman", "serif"],
     ["courier", "monospace"],
 ]);
+/** How long the whole text stands. */
 const rest = 2000;
 
 /**
@@ -42,7 +43,7 @@ async function textOf(tag) {
     return (await linesOf(file)) ?? `The text file "${file}" could not be loaded.`;
 }
 
-/** @param {Tag} tag */
+/** The font in the words of a canvas. @param {Tag} tag */
 function fontOf(tag) {
     const name = tag.text("FONTNAME") ?? "Dialog";
     const style = (tag.text("FONTSTYLE") ?? "").toLowerCase();
@@ -52,6 +53,7 @@ function fontOf(tag) {
 }
 
 /**
+ * Types the text.
  * @param {Tag} tag @param {CanvasRenderingContext2D} pen
  * @returns {Promise<import("./applets.js").Show>}
  */

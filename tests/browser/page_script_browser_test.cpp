@@ -1,5 +1,10 @@
+#include "effects/applet/image_effects.h"
+#include "effects/page/slideshow.h"
+#include "effects/text/digital_clock.h"
 #include "effects/text/status_bar_ticker.h"
+#include "effects/text/vertical_scroller.h"
 #include "insertion/page_script.h"
+#include "tests/support/picture_files.h"
 #include "tests/support/qt_browser_page.h"
 
 #include <QFile>
@@ -9,30 +14,66 @@
 namespace orvane::testing {
 namespace {
 
-TEST(PageScriptBrowserTest, ADeliveredTickerRunsInAStripBesideTheAuthorsOwnOnload)
+/// The page with effects of all kinds, delivered one after the other with the page script.
+std::string WithEffects(std::string page)
 {
-    FinishedPayload payload = Finish(Generate(StatusBarTicker{u"Welcome to my page!"}));
-    payload.RunsToday = true;
-    const auto edit =
-        EditPageAndScript("<!DOCTYPE html><html><head><title>x</title></head>"
-                          "<body onload=\"window.own = 1\"><p>Hello</p></body></html>",
-                          payload, [] { return true; });
+    const EffectPayload effects[] = {
+        Generate(StatusBarTicker{u"Welcome to my page!"}),
+        Generate(DigitalClock{.lstDateTimeFormat = Text(dateFormats[0].Item)}),
+        Generate(VerticalScroller{.lstItems = {u"First", u"Second"}, .lstLinks = {u"", u""}}),
+        Generate(Slideshow{.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
+                           .txtSlideDuration = u"1",
+                           .chkRepeat = true}),
+        Generate(ImageEffects{.EffectPicker = Text(imageEffectNames[0]),
+                              .ImageFile = u"a.gif",
+                              .ImageWidth = u"200",
+                              .ImageHeight = u"100"}),
+    };
+    for (const EffectPayload& effect : effects) {
+        FinishedPayload payload = Finish(effect);
+        payload.RunsToday = true;
+        const auto edit = EditPageAndScript(page, payload, [] { return true; });
+        page = std::get<EditedPage>(edit).Bytes;
+    }
+    return page;
+}
+
+class PageScriptBrowserTest : public ::testing::TestWithParam<const char*>
+{
+};
+TEST_P(PageScriptBrowserTest, AllEffectsOfADeliveredPageRunBesideTheAuthorsOwnOnload)
+{
+    const std::string delivered = WithEffects(
+        GetParam() + std::string("<html><head><title>x</title></head>"
+                                 "<body onload=\"window.own = 1\"><p>Hello</p></body></html>"));
     QFile script(QStringLiteral(":/runtime/orvane.js"));
     ASSERT_TRUE(script.open(QIODevice::ReadOnly));
     const std::string bytes = script.readAll().toStdString();
     EXPECT_NE(PageScriptVersion(bytes), "");
 
     BrowserPage page;
+    page.AddFile("a.gif", GifBytes(10, 10));
+    page.AddFile("b.gif", GifBytes(20, 10));
+    page.Load(delivered);
+    page.WaitUntil("!window.orvane && spnClock.textContent.length > 5"); // no script, no harm
+
     page.AddFile("orvane.js", bytes);
-    page.Load(std::get<EditedPage>(edit).Bytes);
-    page.Value("window.strip = () => [...document.querySelectorAll('*')]"
-               ".map(e => e.shadowRoot && e.shadowRoot.querySelector('.shown')).find(e => e)");
-    page.WaitUntil("!!strip() && strip().textContent.includes('Welcome to my page!')");
-    page.Value("window.first = strip().textContent.length");
-    page.WaitUntil("strip().textContent.length < first");
-    page.WaitUntil("Math.abs(strip().parentNode.getBoundingClientRect().bottom - innerHeight) < 2");
+    page.Load(delivered);
+    page.Value("window.place = css => [...document.querySelectorAll('*')]"
+               ".map(e => e.shadowRoot && e.shadowRoot.querySelector(css)).find(e => e)");
     page.WaitUntil("window.own === 1");
+    page.WaitUntil(
+        "!!place('.shown') && place('.shown').textContent.includes('Welcome to my page!')");
+    page.Value("window.first = place('.shown').textContent.length");
+    page.WaitUntil("place('.shown').textContent.length < first");
+    page.WaitUntil("Math.abs(place('.strip').getBoundingClientRect().bottom - innerHeight) < 2");
+    page.WaitUntil("spnClock.textContent.length > 5");
+    page.Value("window.before = spnOne.style.top");
+    page.WaitUntil("divContainer.offsetWidth === 150 && spnOne.style.top !== before");
+    page.WaitUntil("oImg.src.endsWith('b.gif')");
+    page.WaitUntil("place('canvas').getBoundingClientRect().width === 200");
 }
+INSTANTIATE_TEST_SUITE_P(, PageScriptBrowserTest, ::testing::Values("<!DOCTYPE html>", ""));
 
 } // namespace
 } // namespace orvane::testing

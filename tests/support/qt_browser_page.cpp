@@ -126,13 +126,24 @@ QPoint BrowserPage::MiddleOf(const std::string& element)
     return middle.size() == 2 ? QPoint(middle[0].toInt(), middle[1].toInt()) : QPoint();
 }
 
-/// The widget in which the engine takes the mouse.
 QWidget& BrowserPage::Surface()
 {
     QWidget* surface = Pane.View();
     while (surface->focusProxy() != nullptr)
         surface = surface->focusProxy();
     return *surface;
+}
+
+QVariantList BrowserPage::ColorsAt(const QVariantList& points)
+{
+    const QImage picture = Surface().grab().toImage();
+    QVariantList colors;
+    for (const QVariant& point : points) {
+        const QVariantList at = point.toList();
+        const QColor color = picture.pixelColor(at[0].toInt(), at[1].toInt());
+        colors.push_back(QVariantList{color.red(), color.green(), color.blue()});
+    }
+    return colors;
 }
 
 void BrowserPage::MoveTo(const std::string& element)

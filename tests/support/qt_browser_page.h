@@ -55,6 +55,12 @@ public:
     void MoveTo(const std::string& element);
     void ClickOn(const std::string& element);
 
+    /// The widget in which the engine takes mouse, keys and fingers.
+    QWidget& Surface();
+
+    /// The colours on the screen at points of the page, which are lists of two: [red, green, blue].
+    QVariantList ColorsAt(const QVariantList& points);
+
     /// What the page wrote into its status line; empty while a note is shown.
     Text Status();
 
@@ -74,7 +80,6 @@ public:
 
 private:
     QPoint MiddleOf(const std::string& element);
-    QWidget& Surface();
 
     QTemporaryDir m_folder;
     std::string m_clock;

@@ -1,7 +1,7 @@
 /** The applets' canvases, at chosen times, against numbers worked out from the rules by hand. */
-import assert from "node:assert/strict";
-import { effect } from "./pages.mjs";
-import { calm, check, recorder, stoppedClock, wait } from "./tools.mjs";
+import assert from "./assert.mjs";
+import { effect, image } from "./pages.mjs";
+import { calm, check, recorder, stoppedClock, tabs, wait } from "./tools.mjs";
 
 const images = (file) => [effect("Image Effects", file)];
 const still = { before: stoppedClock };
@@ -95,5 +95,81 @@ export const appletChecks = [
         near(await v.colors(2637, "5,5"), "136,0,119");
         near(await v.colors(2780, "5,5"), "0,0,255");
         assert.match(await v.own("a", (a) => a.href), /^http:/);
+    }),
+    check("Image Cube", "stands where its tag says, and says what is missing", async (v) => {
+        const html = (text) =>
+            text
+                .replace("<APPLET ", '<APPLET ALIGN="right" HSPACE="7" VSPACE="5" ')
+                .replace("face.gif", "gone.gif");
+        const authorBody = "<p id=own style='margin:0'>Words</p>";
+        await v.show(images("image_effects_cube"), { change: html, authorBody, ...still });
+        await wait(200);
+        const canvas = await v.own("canvas", (canvas) => {
+            const at = canvas.getBoundingClientRect();
+            const body = document.body.getBoundingClientRect();
+            return [body.right - at.right, at.y - body.y, at.width, at.height];
+        });
+        assert.equal(canvas, [7, 5, 300, 200]);
+        assert.ok((await v.dark(0)) > 25, "words in place of the picture");
+        assert.match(await v.own("canvas", (canvas) => canvas.ariaLabel), /gone\.gif/);
+    }),
+    check("Image Cube", "is stopped and started by the keyboard", async (v) => {
+        const drawn = () => v.value(() => window.drawn);
+        for (const before of [tabs, calm]) {
+            await v.show(images("image_effects_cube"), { before });
+            await wait(300);
+            const moves = before === tabs;
+            const press = async (name) => {
+                assert.equal(await v.button(), `${name} the moving picture`);
+                await v.tab.keyboard.press("Enter");
+                await wait(100);
+            };
+            await v.tab.keyboard.press("Tab");
+            if (moves) await press("Pause");
+            const stopped = await drawn();
+            await wait(300);
+            assert.equal(await drawn(), stopped);
+            await press("Play");
+            assert.notEqual(await drawn(), stopped);
+        }
+    }),
+    check(null, "canvases flash three times a second at most", async (v) => {
+        const tag = (code, values) =>
+            `<APPLET CODE="${code}.class" WIDTH="40" HEIGHT="40"><PARAM NAME="WIZARD" VALUE="Orvane">` +
+            `${values} IMAGE.0=black.bmp IMAGE.1=white.bmp`.replace(
+                /(\S+)=(\S+)/g,
+                '<PARAM NAME="$1" VALUE="$2">',
+            ) +
+            "</APPLET>";
+        const short = "TRANSITION.STEP.0=2 TRANSITION.RATE.0=0 PAUSE.0=10 PAUSE.1=10";
+        for (const [code, values] of [
+            ["Animate1", "PAUSE.0=10 PAUSE.1=10"],
+            ["Animate1", `${short} TRANSITION.LIST=x TRANSITION.TYPE.0=slidein(2)`],
+            ["Animate1", `${short} TRANSITION.TYPE.1=shutter(1) FGCOLOR.0=128,128,128`],
+            ["ImageFade2ech", "PAUSE=0 TRANSITION.STEPS=1 TRANSITION.SPEED=1000"],
+        ]) {
+            const body = tag(code, values).replace(
+                /(black|white)\.bmp/g,
+                (name) =>
+                    "data:image/bmp;base64," +
+                    btoa(String.fromCharCode(...image(name.replace("bmp", "gif")))),
+            );
+            await v.show([{ name: "Animation", body }], still);
+            await wait(200);
+            const longest = await v.own("canvas", (canvas) => {
+                const pen = canvas.getContext("2d");
+                const changes = [];
+                for (let t = 0, before; t < 3000; t += 5) {
+                    turn(t);
+                    const [light] = pen.getImageData(20, 20, 1, 1).data;
+                    if (Math.abs(light - (before ?? light)) > 25) changes.push(t);
+                    before = light;
+                }
+                return Math.max(
+                    ...changes.map((at) => changes.filter((t) => t >= at && t < at + 1000).length),
+                );
+            });
+            assert.ok(longest > 1 && longest <= 7, `${code} ${values}: ${longest} changes`);
+        }
     }),
 ];

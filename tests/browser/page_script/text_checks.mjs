@@ -1,5 +1,5 @@
 /** Texts that move, tell the time or point things out. */
-import assert from "node:assert/strict";
+import assert from "./assert.mjs";
 import { effect } from "./pages.mjs";
 import { calm, check, wait } from "./tools.mjs";
 
@@ -8,6 +8,13 @@ const ticker = effect("Status Bar Scroller", "status_bar_ticker");
 const scroller = effect("Vertical Scrolling Text", "vertical_scroller_bare");
 const clock = effect("DigitalClock", "digital_clock_both_day_of_week");
 const tooltip = effect("Tooltip", "tooltip_text");
+
+/** A point on the words that have the tooltip. */
+const pointOnWords = (v) =>
+    v.value(() => {
+        const { x, y } = document.querySelector("[onmousemove]").getBoundingClientRect();
+        return [x + 4, y + 4];
+    });
 
 export const textChecks = [
     check("Status Bar Text Ticker", "moves in a strip that lets clicks through", async (v) => {
@@ -37,15 +44,20 @@ export const textChecks = [
         await wait(600);
         assert.equal(await v.button(), "Pause the moving text");
     }),
-    check("Vertical Scrolling Text", "has its size, moves up, and can be stopped", async (v) => {
+    check("Vertical Scrolling Text", "has its size and moves up", async (v) => {
         await v.show([scroller], { attributes: 'onLoad="moveSpan()"' });
         const top = () => v.value(() => parseInt(spnOne.style.top));
         const box = await v.value(() => [divContainer.offsetWidth, divContainer.offsetHeight]);
         const sizes = /width:(\d+); height:(\d+)/.exec(scroller.body);
-        assert.deepEqual(box, [Number(sizes[1]), Number(sizes[2])]);
+        assert.equal(box, [Number(sizes[1]), Number(sizes[2])]);
         const first = await top();
         await wait(600);
         assert.ok((await top()) < first, "moves");
+    }),
+    check("Vertical Scrolling Text", "can be stopped", async (v) => {
+        await v.show([scroller], { attributes: 'onLoad="moveSpan()"' });
+        const top = () => v.value(() => spnOne.style.top);
+        assert.equal(await v.button(), "Pause the scrolling text");
         await v.own("button", (button) => button.click());
         const still = await top();
         await wait(400);
@@ -76,7 +88,7 @@ export const textChecks = [
             await v.value(() => {
                 window.steps = 0;
                 const step = window.moveSpan;
-                window.moveSpan = () => (steps++, step());
+                window.moveSpan = () => (window.steps++, step());
                 link.focus();
                 spnOne.dispatchEvent(new MouseEvent("mouseover"));
                 spnOne.dispatchEvent(new MouseEvent("mouseout"));
@@ -88,26 +100,31 @@ export const textChecks = [
             assert.ok(steps > 2 && steps <= 500 / speed + 8, `${steps} steps of ${speed} ms`);
         },
     ),
-    check("Digital Clock", "shows the time; other effects start beside it", async (v) => {
+    check("Digital Clock", "shows the time", async (v) => {
+        await v.show([clock]);
+        await wait(300);
+        assert.match(await v.value(() => spnClock.textContent), /^\w+day, \d+\/\d+\/\d{4}/);
+    }),
+    check("Digital Clock", "has its padding and lets other effects start", async (v) => {
         await v.show([ticker, clock], { attributes: starts });
         await wait(300);
-        const seen = await v.value(() => [
-            spnClock.textContent,
-            getComputedStyle(spnClock).paddingTop,
-        ]);
-        assert.match(seen[0], /^\w+day, \d+\/\d+\/\d{4}/);
-        assert.equal(seen[1], "5px");
+        assert.equal(await v.value(() => getComputedStyle(spnClock).paddingTop), "5px");
         assert.match(await v.words(".shown"), /Welcome/);
     }),
-    check("Tooltips", "come up at the pointer, and by the keyboard", async (v) => {
+    check("Tooltips", "come up at the mouse", async (v) => {
+        await v.show([tooltip]);
+        await v.tab.mouse.move(...(await pointOnWords(v)));
+        await wait(100);
+        assert.equal(await v.value(() => box1.style.visibility), "visible");
+    }),
+    check("Tooltips", "are in place on scrolled pages", async (v) => {
         await v.show([tooltip], { authorBody: "<div style='height:2000px'></div>" });
-        const spot = await v.value(() => {
+        await v.value(() => {
             const words = document.querySelector("[onmousemove]");
             words.style.cssText = "position:absolute;top:900px;left:50px";
             scrollTo(0, 700);
-            const { x, y } = words.getBoundingClientRect();
-            return [x + 4, y + 4];
         });
+        const spot = await pointOnWords(v);
         await v.tab.mouse.move(...spot);
         await wait(100);
         const shown = await v.value(() => {
@@ -123,7 +140,30 @@ export const textChecks = [
         await v.tab.mouse.move(700, 500);
         await wait(50);
         assert.equal(await v.value(() => box1.style.visibility), "hidden");
+    }),
+    check("Tooltips", "come up by keyboard and touch", async (v) => {
+        await v.show([tooltip]);
         await v.tab.keyboard.press("Tab");
         assert.equal(await v.value(() => box1.style.visibility), "visible");
+        if (!(await v.value(() => "TouchEvent" in window))) return;
+        await v.show([tooltip]);
+        await v.tab.touchscreen.tap(...(await pointOnWords(v)));
+        await wait(400);
+        assert.equal(await v.value(() => box1.style.visibility), "visible", "by touch");
+    }),
+    check(null, "texts have the sizes and places of pages without a doctype", async (v) => {
+        const boxes = [];
+        for (const doctype of [true, false]) {
+            await v.show([scroller, clock, tooltip], { doctype, before: calm });
+            await wait(300);
+            const boxOf = (name) => {
+                const { x, y, width, height } = window[name].getBoundingClientRect();
+                return [name, x, y, width, height].join(" ");
+            };
+            boxes.push(
+                await v.value(`["divContainer", "spnOne", "spnClock", "box1"].map(${boxOf})`),
+            );
+        }
+        assert.equal(boxes[0], boxes[1]);
     }),
 ];

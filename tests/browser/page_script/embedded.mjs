@@ -1,0 +1,98 @@
+/**
+ * The checks in the embedded engine: a page of its own runs them, and whoever shows that page does
+ * to another what is asked here, one request after the other.
+ */
+import { appletChecks } from "./applet_checks.mjs";
+import { image } from "./pages.mjs";
+import { pageChecks } from "./page_checks.mjs";
+import { ruleChecks } from "./rule_checks.mjs";
+import { textChecks } from "./text_checks.mjs";
+import { Visit } from "./tools.mjs";
+
+const groups = { texts: textChecks, pages: pageChecks, applets: appletChecks, rules: ruleChecks };
+
+/** What is asked for now, and whom to tell the answer. */
+let asked = null;
+const ask = (what, values = {}) =>
+    new Promise((done) => (asked = { request: { what, ...values }, done }));
+
+/** Evaluates in the page, a function with its values or a text. */
+async function evaluate(take, ...values) {
+    const code = typeof take === "string" ? take : `(${take})(...${JSON.stringify(values)})`;
+    const { value, fault } = JSON.parse(await ask("value", { code }));
+    if (fault) throw new Error(fault);
+    return value;
+}
+
+const latin1 = (bytes) => Array.from(bytes, (byte) => String.fromCharCode(byte)).join("");
+
+/** The tab of a visitor, with as much of puppeteer's as the checks use. */
+class EmbeddedTab {
+    constructor() {
+        this.before =
+            "window.scriptErrors = [];" +
+            "window.addEventListener('error', (e) => e.message && scriptErrors.push(e.message));";
+        this.evaluate = evaluate;
+        this.mouse = { move: (x, y) => ask("mouse", { x, y }) };
+        this.keyboard = { press: (key) => ask("key", { key }) };
+        this.touchscreen = { tap: (x, y) => ask("touch", { x, y }) };
+    }
+
+    url() {
+        return evaluate("location.href");
+    }
+
+    async click(css) {
+        const [x, y] = await evaluate((css) => {
+            const box = document.querySelector(css).getBoundingClientRect();
+            return [box.x + box.width / 2, box.y + box.height / 2];
+        }, css);
+        await ask("click", { x, y });
+    }
+
+    async open(html, { before = "", files = {} } = {}) {
+        this.before += before;
+        const page = html.replace(/<HEAD>/, () => `<HEAD><script>${this.before}</script>`);
+        const all = { ...files };
+        for (const [name] of html.matchAll(/[\w-]+\.(gif|jpg)/g))
+            if (image(name)) all[name] = latin1(image(name));
+        await ask("open", { page, files: all });
+    }
+}
+
+/** A visit whose pictures are those on the screen, since the engine keeps pixels of files secret. */
+class EmbeddedVisit extends Visit {
+    async pixels(points) {
+        const at = await this.own("canvas", (canvas) => {
+            const { x, y } = canvas.getBoundingClientRect();
+            return { x, y };
+        });
+        return ask("pixels", { points: points.map(([x, y]) => [at.x + x, at.y + y]) });
+    }
+}
+
+async function run(group, doctype) {
+    const faults = [];
+    for (const check of groups[group]) {
+        const tab = new EmbeddedTab();
+        await ask("begin");
+        try {
+            await check.run(new EmbeddedVisit(tab, (...page) => tab.open(...page), { doctype }));
+            const errors = await evaluate("window.scriptErrors ?? []");
+            if (errors.length) throw new Error(`script error: ${errors[0]}`);
+        } catch (error) {
+            faults.push(`${check.effect ?? "Pages"}: ${check.name}: ${error.message}`);
+        }
+    }
+    await ask("end", { faults });
+}
+
+Object.assign(globalThis, {
+    run,
+    request: () => asked && asked.request,
+    answer(value) {
+        const { done } = asked;
+        asked = null;
+        done(value);
+    },
+});
