@@ -30,8 +30,8 @@ public:
     /// nowhere.
     virtual bool IsTaken(TextView path) const = 0;
 
-    /// True when both paths lead to one file.
-    virtual bool AreOneFile(TextView path, TextView other) const = 0;
+    /// True when the path leads to a file that is not the file `other` and holds exactly `bytes`.
+    virtual Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const = 0;
 
     /// The whole content of a file. A missing file is FileNotFound, a missing folder PathNotFound,
     /// one of more than 512 MB OutOfMemory.

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "core/letters.h"
+#include "core/utf8.h"
+
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -34,10 +38,6 @@ TextView Mid(TextView text, std::size_t from, std::size_t count = TextView::npos
 /// `text` without the blanks (0x20 alone) at both ends.
 TextView Trim(TextView text);
 
-/// The lower- or upper-case partner of a character, one to one and without locale.
-char16_t ToLower(char16_t character);
-char16_t ToUpper(char16_t character);
-
 /// `text` with every character in lower or upper case; its length stays.
 Text ToLower(TextView text);
 Text ToUpper(TextView text);
@@ -60,10 +60,14 @@ Text FromBytes(std::string_view bytes);
 /// above 255.
 std::string ToBytes(TextView text);
 
-/// The text of UTF-8 bytes; an ill-formed sequence becomes U+FFFD.
-Text FromUtf8(std::string_view bytes);
-
-/// The UTF-8 bytes of a text; half of a surrogate pair becomes U+FFFD.
-std::string ToUtf8(TextView text);
+/// The same for bytes, each of which counts as the character of its number: an author's page is
+/// searched and edited as it lies on the disk, whatever its encoding.
+std::size_t Find(std::string_view bytes, std::string_view sought, std::size_t from = 1);
+std::size_t FindIgnoringCase(std::string_view bytes, std::string_view sought, std::size_t from = 1);
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
+bool StartsWithIgnoringCase(std::string_view bytes, std::string_view start);
+bool EndsWithIgnoringCase(std::string_view bytes, std::string_view end);
+std::string ReplaceAll(std::string_view bytes, std::string_view old, std::string_view replacement);
+std::string Join(std::initializer_list<std::string_view> pieces);
 
 } // namespace orvane

@@ -23,11 +23,12 @@ void EditorPanel::Begin()
     lstHTMLEditors->setFocus();
 }
 
-Text EditorPanel::Chosen() const
+void EditorPanel::Keep(Settings& settings) const
 {
     // A row that only has the focus was not chosen.
     const int row = lstHTMLEditors->SelectedRow();
-    return row < 0 ? Text() : Text(htmlEditors[static_cast<std::size_t>(row)]);
+    if (row >= 0 && settings.Get(u"Misc", u"HTMLEditor", u"").empty())
+        settings.Put(u"Misc", u"HTMLEditor", htmlEditors[static_cast<std::size_t>(row)]);
 }
 
 } // namespace orvane

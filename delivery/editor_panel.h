@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/text.h"
+#include "core/settings.h"
 
 #include <QWidget>
 
@@ -19,8 +19,8 @@ public:
     /// The page comes to the front.
     void Begin();
 
-    /// The name of the chosen editor; empty when none is.
-    Text Chosen() const;
+    /// Keeps the chosen editor for this and later runs, unless one is known.
+    void Keep(Settings& settings) const;
 
 signals:
     /// A double click or Enter chose an editor.

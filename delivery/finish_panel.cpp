@@ -1,6 +1,6 @@
 #include "delivery/finish_panel.h"
 
-#include "delivery/required_files.h"
+#include "delivery/files_to_upload.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 

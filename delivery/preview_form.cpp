@@ -3,7 +3,6 @@
 #include "core/todays_browsers.h"
 #include "delivery/editor_panel.h"
 #include "delivery/finish_panel.h"
-#include "delivery/ftp_panel.h"
 #include "delivery/insert_panel.h"
 #include "delivery/method_panel.h"
 #include "delivery/preview_panel.h"
@@ -27,10 +26,15 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     m_payload.RunsToday = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
-    AddPanels();
-    ConnectPanels();
+    auto* preview =
+        new PreviewPanel(m_pane, {InTodaysBrowsers(m_payload.Effect.Kind), m_payload.RunsToday});
+    connect(preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
+    connect(preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
+    AddPanelOf(0, preview);
     AddButtons(Buttons::Paged, "cmdHelp");
     setMinimumSize(640, 440);
+    // The pages that are built later have room in so many lines.
+    resize(minimumWidth(), fontMetrics().lineSpacing() * 35);
     ChangePage(m_step);
 }
 
@@ -43,65 +47,44 @@ PreviewForm::~PreviewForm()
     m_bench.Core.Payload.BODYHTML.clear();
 }
 
-template <class Panel>
-Panel* PreviewForm::Add(int index, Panel* panel)
+void PreviewForm::AddPanelOf(int index, QWidget* content)
 {
-    panel->layout()->setContentsMargins({});
-    PageBuilder(AddPanel(MemberName("Picture1", index))).Fill(panel);
-    return panel;
+    content->layout()->setContentsMargins({});
+    PageBuilder(AddPanel(MemberName("Picture1", index))).Fill(content);
 }
 
-void PreviewForm::AddPanels()
+void PreviewForm::NeedPanels()
 {
-    auto* preview = Add(0, new PreviewPanel(m_pane, {InTodaysBrowsers(m_payload.Effect.Kind),
-                                                     m_payload.RunsToday}));
-    connect(preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
-    connect(preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
-    m_editorPanel = Add(1, new EditorPanel);
-    m_methodPanel = Add(2, new MethodPanel);
-    m_insertPanel = Add(3, new InsertPanel(m_bench, Desk()));
-    AddCodePanels();
-    m_publishPanel = Add(7, new PublishPanel(Desk(), m_windows.MakeFolder));
-    // No page shows it.
-    Add(8, new FtpPanel(m_bench.Settings));
-    m_finishPanel = Add(9, new FinishPanel(m_bench, m_payload, m_report));
-}
-
-void PreviewForm::AddCodePanels()
-{
-    const CodePanel::Words words[] = {
-        {"lblNeedHelp(0)", "txtHEADHTML", "cmdCopyHEADHTML", u"HEAD", {}},
-        {"lblNeedHelp(1)", "txtBODYHTML", "cmdcopyBODYHTML", u"BODY", {}},
-        {"lblNeedHelp(2)", "txtBODYAttribute", "cmdCopyBODYAttrib", u"BODY attribute",
-         Join({u"For example:  <BODY", m_payload.BODYAttribute, u">"})},
-    };
-    const Text* const codes[] = {&m_payload.Effect.HEADHTML, &m_payload.Effect.BODYHTML,
-                                 &m_payload.BODYAttribute};
-    for (std::size_t i = 0; i < m_codePanels.size(); ++i)
-        m_codePanels[i] =
-            Add(4 + static_cast<int>(i), new CodePanel(m_bench, words[i], *codes[i], m_report));
+    if (m_panels)
+        return;
+    m_panels.emplace(m_bench, Desk(), m_windows.MakeFolder);
+    int index = 0;
+    for (QWidget* panel : m_panels->InOrder())
+        AddPanelOf(++index, panel);
+    ConnectPanels();
+    SetReadingOrder(*this);
 }
 
 void PreviewForm::ConnectPanels()
 {
-    connect(m_editorPanel, &EditorPanel::EditorChosen, this, &PreviewForm::Next);
-    connect(m_insertPanel, &InsertPanel::Complained, this, &PreviewForm::Report);
-    connect(m_insertPanel, &InsertPanel::ManualWanted, this, &PreviewForm::InsertByHand);
-    connect(m_insertPanel, &InsertPanel::Delivered, this, [this] { GoOnTo(9); });
-    connect(m_insertPanel, &InsertPanel::FilesMissing, this, [this](const Text& folder) {
-        m_publishPanel->GoTo(folder);
+    connect(m_panels->Editor, &EditorPanel::EditorChosen, this, &PreviewForm::Next);
+    connect(m_panels->Insert, &InsertPanel::Complained, this, &PreviewForm::Report);
+    connect(m_panels->Insert, &InsertPanel::ManualWanted, this, &PreviewForm::InsertByHand);
+    connect(m_panels->Insert, &InsertPanel::Delivered, this, [this] { GoOnTo(9); });
+    connect(m_panels->Insert, &InsertPanel::FilesMissing, this, [this](const Text& folder) {
+        m_panels->Publish->GoTo(folder);
         GoOnTo(8);
     });
-    connect(m_publishPanel, &PublishPanel::ControlsChanged, this,
+    connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);
                 cmdNext->setVisible(controls.cmdNext);
             });
-    connect(m_publishPanel, &PublishPanel::ActionChanged, this,
-            [this] { LeadEnterTo(m_publishPanel->Action()); });
-    connect(m_publishPanel, &PublishPanel::CopyingDone, this,
+    connect(m_panels->Publish, &PublishPanel::ActionChanged, this,
+            [this] { LeadEnterTo(m_panels->Publish->Action()); });
+    connect(m_panels->Publish, &PublishPanel::CopyingDone, this,
             [this] { FinishCopying(DoneCopying()); });
-    connect(m_publishPanel, &PublishPanel::PreviewWanted, this,
+    connect(m_panels->Publish, &PublishPanel::PreviewWanted, this,
             [this] { FinishCopying(PreviewAfterCopying()); });
 }
 
@@ -116,8 +99,9 @@ void PreviewForm::showEvent(QShowEvent* event)
 
 void PreviewForm::Next()
 {
+    NeedPanels();
     if (Mode() == InsertMode::ManualCopy)
-        OfferEditorHelp();
+        m_panels->OfferEditorHelp(m_bench.Settings, m_payload.ScriptedHelp);
     ChangePage(NextStep(m_step, Mode(), Facts()));
 }
 
@@ -141,22 +125,22 @@ void PreviewForm::ChangePage(DeliveryStep step)
     LeadEnterTo(nullptr);
     switch (step.PageStep) {
     case 2:
-        m_editorPanel->Begin();
+        m_panels->Editor->Begin();
         break;
     case 3:
-        KeepEditor();
-        m_methodPanel->Begin();
+        m_panels->Editor->Keep(m_bench.Settings);
+        m_panels->Method->Begin();
         break;
     case 4:
-        LeadEnterTo(m_insertPanel->Action(Mode() == InsertMode::NewPage));
-        m_insertPanel->Begin(Mode() == InsertMode::NewPage);
+        LeadEnterTo(m_panels->Insert->Action(Mode() == InsertMode::NewPage));
+        m_panels->Insert->Begin(Mode() == InsertMode::NewPage);
         break;
     case 5:
-        m_codePanels[0]->ShowPageScript(m_payload.RunsToday);
+        m_panels->Codes[0]->ShowPageScript(m_payload.RunsToday);
         cmdPrevious->setEnabled(true);
         break;
     case 8:
-        m_publishPanel->Begin();
+        m_panels->Publish->Begin();
         break;
     case 9:
         ShowFinish();
@@ -188,24 +172,7 @@ void PreviewForm::ShowFinish()
     cmdNext->setEnabled(false);
     cmdCancel->setText(QStringLiteral("&Done"));
     LeadEnterTo(cmdCancel);
-    m_finishPanel->Begin();
-}
-
-void PreviewForm::KeepEditor()
-{
-    const Text editor = m_editorPanel->Chosen();
-    if (!editor.empty() && m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty())
-        m_bench.Settings.Put(u"Misc", u"HTMLEditor", editor);
-}
-
-void PreviewForm::OfferEditorHelp()
-{
-    /// The own topic of the three pages that show code to copy.
-    constexpr int manualPagesTopic = 50;
-    const EditorHelp help = setWebPageEditor(m_bench.Settings.Get(u"Misc", u"HTMLEditor", u""),
-                                             m_payload.ScriptedHelp, manualPagesTopic);
-    for (CodePanel* panel : m_codePanels)
-        panel->OfferHelp(help);
+    m_panels->Finish->Begin();
 }
 
 void PreviewForm::Preview(PreviewMode mode)
@@ -231,14 +198,15 @@ void PreviewForm::BeginPreview()
     if (missing.empty())
         return Preview(PreviewMode::Inline);
     SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);
+    NeedPanels();
     ShowPanel(7);
-    m_publishPanel->FindMissing(PublishMode::MissingForPreview, missing,
-                                m_bench.Core.ProgramFolder);
+    m_panels->Publish->FindMissing(PublishMode::MissingForPreview, missing,
+                                   m_bench.Core.ProgramFolder);
 }
 
 void PreviewForm::FinishCopying(const AfterCopying& after)
 {
-    m_publishPanel->Begin();
+    m_panels->Publish->Begin();
     ShowPage(
         DescribePage({static_cast<std::int16_t>(after.HeadingPage), m_step.StepNumber}, Mode()),
         after.Panel);
@@ -252,7 +220,7 @@ void PreviewForm::FinishCopying(const AfterCopying& after)
 
 void PreviewForm::InsertByHand()
 {
-    m_methodPanel->Choose(InsertMode::ManualCopy);
+    m_panels->Method->Choose(InsertMode::ManualCopy);
     m_step.PageStep = 3;
     Next();
 }
@@ -271,7 +239,7 @@ CopyDesk PreviewForm::Desk()
 
 InsertMode PreviewForm::Mode() const
 {
-    return m_methodPanel->Mode();
+    return m_panels ? m_panels->Method->Mode() : InsertMode::AutoInsert;
 }
 
 DeliveryFacts PreviewForm::Facts() const

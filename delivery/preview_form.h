@@ -1,17 +1,13 @@
 #pragma once
 
-#include "delivery/code_panel.h"
 #include "delivery/delivery_flow.h"
-#include "delivery/publish_panel.h"
+#include "delivery/delivery_panel.h"
 #include "preview/preview_page.h"
 #include "windows/wizard_frame.h"
 
-namespace orvane {
+#include <optional>
 
-class EditorPanel;
-class FinishPanel;
-class InsertPanel;
-class MethodPanel;
+namespace orvane {
 
 /// How the delivery wizard ended.
 enum class DeliveryEnd
@@ -53,20 +49,17 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void AddPanels();
-    void AddCodePanels();
+    /// Adds the pages behind the preview, once: they are built when the author goes on to them, so
+    /// that the preview comes the sooner.
+    void NeedPanels();
     void ConnectPanels();
-    /// Adds the panel of that index; they are added in turn.
-    template <class Panel>
-    Panel* Add(int index, Panel* panel);
+    void AddPanelOf(int index, QWidget* content);
 
     void ChangePage(DeliveryStep step);
     void ShowPage(const DeliveryPage& page, int panel);
     /// Enter does what waits to be done on the page; "Next" when that is null.
     void LeadEnterTo(QPushButton* action);
     void ShowFinish();
-    void KeepEditor();
-    void OfferEditorHelp();
     void ChooseRunsToday(bool isWanted);
     void BeginPreview();
     void Preview(PreviewMode mode);
@@ -84,13 +77,7 @@ private:
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;
     bool m_isPreviewed = false;
-
-    EditorPanel* m_editorPanel;
-    MethodPanel* m_methodPanel;
-    InsertPanel* m_insertPanel;
-    std::array<CodePanel*, 3> m_codePanels{};
-    PublishPanel* m_publishPanel;
-    FinishPanel* m_finishPanel;
+    std::optional<DeliveryPanels> m_panels; ///< empty as long as the preview alone was shown
 };
 
 } // namespace orvane

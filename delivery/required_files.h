@@ -24,13 +24,6 @@ struct CopyDesk
     DeliveryReport* Report = nullptr; ///< where it is written down what was copied; may be null
 };
 
-/// What `lstFilesToUpload` holds from the start: the files that the effect always needs, and
-/// the page script where the author wants it.
-std::vector<Text> FilesToUpload(const FinishedPayload& payload);
-
-/// What the last page adds behind them: the author's own files, none for an effect without files.
-std::vector<Text> ListedFiles(const FinishedPayload& payload);
-
 /// Copies the author's files, the class files and a wanted page script to the page's folder, asks
 /// before it overwrites one of the author's, and says at the end whether all is there; the window
 /// then goes into missing-files mode if a name is missing. Expects the folder with its final

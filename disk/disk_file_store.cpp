@@ -68,9 +68,13 @@ bool DiskFileStore::IsTaken(TextView path) const
     return !error || (error == std::errc::invalid_argument && !FolderExists(path));
 }
 
-bool DiskFileStore::AreOneFile(TextView path, TextView other) const
+Outcome<bool> DiskFileStore::IsCopyOf(TextView path, TextView other, std::string_view bytes) const
 {
-    return AreSame(PathBytes(path), PathBytes(other));
+    const std::string name = PathBytes(path);
+    const auto error = m_files.MustBeCopy(name, PathBytes(other), bytes);
+    if (error && error != std::errc::operation_canceled)
+        return FaultAt(name, error);
+    return !error;
 }
 
 Outcome<std::string> DiskFileStore::Read(TextView path) const
@@ -164,8 +168,7 @@ bool DiskFileStore::AreSame(const std::string& path, const std::string& other) c
     FileStatus one{};
     FileStatus two{};
     return !Retried([&] { return m_calls.StatusAt(path, one); }) && S_ISREG(one.st_mode) &&
-           !Retried([&] { return m_calls.StatusAt(other, two); }) && one.st_dev == two.st_dev &&
-           one.st_ino == two.st_ino;
+           !Retried([&] { return m_calls.StatusAt(other, two); }) && IsOneFile(one, two);
 }
 
 /// The names of what is of this kind in a folder, links followed; nothing of the store's own.

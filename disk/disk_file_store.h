@@ -22,7 +22,7 @@ public:
 
     bool FileExists(TextView path) const override;
     bool IsTaken(TextView path) const override;
-    bool AreOneFile(TextView path, TextView other) const override;
+    Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const override;
     Outcome<std::string> Read(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
     Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;

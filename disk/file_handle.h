@@ -22,6 +22,9 @@ std::error_code Retried(Call call)
 /// The part of a path through its last "/"; "./" when there is none.
 std::string FolderOf(std::string_view path);
 
+/// Whether both are of one file.
+bool IsOneFile(const FileStatus& one, const FileStatus& other);
+
 /// An open file or folder of a disk, closed with the object. Interrupted calls are repeated, short
 /// ones continued. A failing close has no say: what must be on the disk was synced before.
 class FileHandle

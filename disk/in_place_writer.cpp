@@ -25,7 +25,7 @@ std::string Hexadecimal(Number number)
     return std::string(digits.data(), end);
 }
 
-std::string PlaceBeside(const std::string& path, const FileStatus& status)
+std::string PlaceBeside(std::string_view path, const FileStatus& status)
 {
     return FolderOf(path)
         .append(ownNameStart)
@@ -68,9 +68,10 @@ std::error_code InPlaceWriter::Write(const FileHandle& file, const std::string& 
 {
     if (const auto error = file.Lock(); error == std::errc::permission_denied)
         return error;
-    RecoveryCopy copy{path, std::string(expected.value_or("")), std::string(bytes)};
-    if (const auto error = expected ? std::error_code() : file.ReadAll(copy.Old))
+    std::string content;
+    if (const auto error = expected ? std::error_code() : file.ReadAll(content))
         return error;
+    const RecoveryCopy copy{path, expected.value_or(content), bytes};
     std::string place;
     if (const auto error = Keep(copy, file.Status(), place))
         return error;

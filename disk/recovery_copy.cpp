@@ -27,11 +27,11 @@ std::optional<std::size_t> TakeNumber(std::string_view& bytes, std::string_view 
 }
 
 /// Takes `size` bytes off the front; fewer when there are no more.
-std::string TakeBytes(std::string_view& bytes, std::size_t size)
+std::string_view TakeBytes(std::string_view& bytes, std::size_t size)
 {
     const std::string_view taken = bytes.substr(0, size);
     bytes.remove_prefix(taken.size());
-    return std::string(taken);
+    return taken;
 }
 
 } // namespace
@@ -46,7 +46,8 @@ std::string WriteRecoveryCopy(const RecoveryCopy& copy)
     bytes += newSign;
     bytes += std::to_string(copy.New.size());
     bytes += endSign;
-    return bytes.append(copy.Path).append(copy.Old).append(copy.New);
+    bytes.append(copy.Path).append(copy.Old).append(copy.New);
+    return bytes;
 }
 
 std::optional<RecoveryCopy> ReadRecoveryCopy(std::string_view bytes)
@@ -63,7 +64,7 @@ std::optional<RecoveryCopy> ReadRecoveryCopy(std::string_view bytes)
     copy.New = TakeBytes(bytes, *newSize);
     const bool isWhole = copy.Path.size() == *pathSize && copy.Old.size() == *oldSize &&
                          copy.New.size() == *newSize && bytes.empty();
-    return isWhole ? std::optional(std::move(copy)) : std::nullopt;
+    return isWhole ? std::optional(copy) : std::nullopt;
 }
 
 bool IsHalfWritten(std::string_view content, const RecoveryCopy& copy)

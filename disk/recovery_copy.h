@@ -7,11 +7,12 @@
 namespace orvane {
 
 /// What a recovery copy holds: a file's content before and after the overwriting that it guards.
+/// The bytes themselves are somebody else's.
 struct RecoveryCopy
 {
-    std::string Path; ///< for a person who finds the copy
-    std::string Old;
-    std::string New;
+    std::string_view Path; ///< for a person who finds the copy
+    std::string_view Old;
+    std::string_view New;
     bool operator==(const RecoveryCopy&) const = default;
 };
 
@@ -19,7 +20,7 @@ struct RecoveryCopy
 /// content, «N» of new content", and behind it the three.
 std::string WriteRecoveryCopy(const RecoveryCopy& copy);
 
-/// The copy in these bytes, or nothing when they are none or not all of it.
+/// The copy that lies in these bytes, or nothing when they are none or not all of it.
 std::optional<RecoveryCopy> ReadRecoveryCopy(std::string_view bytes);
 
 /// Whether an overwriting of `copy.Old` with `copy.New` that was cut short can have left `content`:

@@ -57,6 +57,19 @@ std::error_code WholeFiles::Read(std::string path, std::string& bytes) const
     return file.ReadAll(bytes);
 }
 
+std::error_code WholeFiles::MustBeCopy(const std::string& path, const std::string& other,
+                                       std::string_view bytes) const
+{
+    FileHandle copy(m_calls);
+    if (const auto error = copy.OpenRegular(path, O_RDONLY))
+        return error;
+    FileStatus status{};
+    if (const auto error = Retried([&] { return m_calls.StatusAt(other, status); }))
+        return error;
+    return IsOneFile(copy.Status(), status) ? std::make_error_code(std::errc::operation_canceled)
+                                            : copy.MustHold(bytes);
+}
+
 std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
                                     std::optional<std::string_view> expected)
 {

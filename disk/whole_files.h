@@ -22,6 +22,11 @@ public:
     /// The whole content, links followed; not_enough_memory when it is more than 512 MB.
     [[nodiscard]] std::error_code Read(std::string path, std::string& bytes) const;
 
+    /// operation_canceled unless the path leads to a file that is not the file `other` and holds
+    /// exactly these bytes.
+    [[nodiscard]] std::error_code MustBeCopy(const std::string& path, const std::string& other,
+                                             std::string_view bytes) const;
+
     /// Makes the file, links followed, hold these bytes. operation_canceled, with the file as it
     /// was, when it does not hold what is expected until directly before.
     [[nodiscard]] std::error_code Replace(std::string path, std::string_view bytes,

@@ -65,11 +65,11 @@ Done BackUp(FileStore& files, TextView page, std::string_view bytes)
     const Done done = files.PutNew(backup, bytes, page);
     if (FaultIn(done))
         return done;
-    const auto kept = files.Read(backup);
-    if (const Fault* fault = FaultIn(kept))
-        return *fault;
     // A page that is a link to its own backup has none.
-    if (ValueIn(kept) != bytes || files.AreOneFile(backup, page))
+    const auto isKept = files.IsCopyOf(backup, page, bytes);
+    if (const Fault* fault = FaultIn(isKept))
+        return *fault;
+    if (!ValueIn(isKept))
         return Fault::PathFileAccess;
     return {};
 }

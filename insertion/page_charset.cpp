@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace orvane {
@@ -11,29 +12,29 @@ namespace orvane {
 namespace {
 
 constexpr std::size_t lookAt = 4096;
-constexpr TextView blanks = u"\t\n\f\r ";
+constexpr std::string_view blanks = "\t\n\f\r ";
 
-bool IsBlank(char16_t c)
+bool IsBlank(char c)
 {
-    return blanks.find(c) != TextView::npos;
+    return blanks.find(c) != std::string_view::npos;
 }
 
-bool IsLetter(char16_t c)
+bool IsLetter(char c)
 {
-    return c >= u'a' && c <= u'z';
+    return c >= 'a' && c <= 'z';
 }
 
 /// The charset of a name in lower case; nothing for an empty one. A name that means nothing to a
 /// browser counts as Other, which is right for whatever the browser takes instead.
-std::optional<DeclaredCharset> CharsetNamed(TextView name)
+std::optional<DeclaredCharset> CharsetNamed(std::string_view name)
 {
-    constexpr TextView utf8Names[] = {u"utf-8",    u"utf8",     u"unicode-1-1-utf-8", u"utf-16",
-                                      u"utf-16le", u"utf-16be", u"x-unicode20utf8"};
-    constexpr TextView windows1252Names[] = {
-        u"windows-1252",    u"cp1252",        u"x-cp1252",   u"iso-8859-1", u"iso8859-1",
-        u"iso88591",        u"iso_8859-1",    u"iso-ir-100", u"latin1",     u"l1",
-        u"us-ascii",        u"ascii",         u"cp819",      u"ibm819",     u"csisolatin1",
-        u"iso_8859-1:1987", u"ansi_x3.4-1968"};
+    constexpr std::string_view utf8Names[] = {"utf-8",    "utf8",     "unicode-1-1-utf-8", "utf-16",
+                                              "utf-16le", "utf-16be", "x-unicode20utf8"};
+    constexpr std::string_view windows1252Names[] = {
+        "windows-1252",    "cp1252",        "x-cp1252",   "iso-8859-1", "iso8859-1",
+        "iso88591",        "iso_8859-1",    "iso-ir-100", "latin1",     "l1",
+        "us-ascii",        "ascii",         "cp819",      "ibm819",     "csisolatin1",
+        "iso_8859-1:1987", "ansi_x3.4-1968"};
     name = WithoutBlanksInFront(name);
     name = name.substr(0, name.find_last_not_of(blanks) + 1);
     if (name.empty())
@@ -48,25 +49,25 @@ std::optional<DeclaredCharset> CharsetNamed(TextView name)
 }
 
 /// The charset in a value such as "text/html; charset=utf-8".
-std::optional<DeclaredCharset> CharsetInContent(TextView content)
+std::optional<DeclaredCharset> CharsetInContent(std::string_view content)
 {
-    constexpr TextView word = u"charset";
+    constexpr std::string_view word = "charset";
     for (;;) {
         const std::size_t place = content.find(word);
-        if (place == TextView::npos)
+        if (place == std::string_view::npos)
             return std::nullopt;
         content = WithoutBlanksInFront(content.substr(place + word.size()));
-        if (content.starts_with(u'='))
+        if (content.starts_with('='))
             break;
     }
     content = WithoutBlanksInFront(content.substr(1));
-    if (content.starts_with(u'"') || content.starts_with(u'\'')) {
+    if (content.starts_with('"') || content.starts_with('\'')) {
         const std::size_t end = content.find(content.front(), 1);
-        if (end == TextView::npos)
+        if (end == std::string_view::npos)
             return std::nullopt;
         return CharsetNamed(content.substr(1, end - 1));
     }
-    return CharsetNamed(content.substr(0, content.find_first_of(u"\t\n\f\r ;")));
+    return CharsetNamed(content.substr(0, content.find_first_of("\t\n\f\r ;")));
 }
 
 /// Walks over the start of a page as a browser does that looks for its encoding: it knows
@@ -75,28 +76,28 @@ class CharsetSearch
 {
 public:
     /// Expects the text in lower case.
-    explicit CharsetSearch(TextView start) : m_rest(start) {}
+    explicit CharsetSearch(std::string_view start) : m_rest(start) {}
 
     std::optional<DeclaredCharset> Run()
     {
         while (!m_rest.empty()) {
-            const std::size_t name = m_rest.starts_with(u"</") ? 2 : 1;
-            if (m_rest.starts_with(u"<!--")) {
+            const std::size_t name = m_rest.starts_with("</") ? 2 : 1;
+            if (m_rest.starts_with("<!--")) {
                 // The dashes that open a comment may be those that close it.
-                SkipThrough(u"-->");
-            } else if (m_rest.starts_with(u"<meta") && IsNameEnd(5)) {
+                SkipThrough("-->");
+            } else if (m_rest.starts_with("<meta") && IsNameEnd(5)) {
                 m_rest.remove_prefix(5);
                 if (const auto charset = ReadMeta())
                     return charset;
-            } else if (m_rest.front() == u'<' && name < m_rest.size() && IsLetter(m_rest[name])) {
-                SkipTo(u"\t\n\f\r >");
+            } else if (m_rest.front() == '<' && name < m_rest.size() && IsLetter(m_rest[name])) {
+                SkipTo("\t\n\f\r >");
                 while (NextAttribute(m_rest)) {
                 }
-            } else if (m_rest.starts_with(u"<!") || m_rest.starts_with(u"</") ||
-                       m_rest.starts_with(u"<?")) {
-                SkipThrough(u">");
+            } else if (m_rest.starts_with("<!") || m_rest.starts_with("</") ||
+                       m_rest.starts_with("<?")) {
+                SkipThrough(">");
             } else {
-                m_rest.remove_prefix(1);
+                m_rest.remove_prefix(std::min(m_rest.find('<', 1), m_rest.size()));
             }
         }
         return std::nullopt;
@@ -105,67 +106,69 @@ public:
 private:
     bool IsNameEnd(std::size_t at) const
     {
-        return at < m_rest.size() && (IsBlank(m_rest[at]) || m_rest[at] == u'/');
+        return at < m_rest.size() && (IsBlank(m_rest[at]) || m_rest[at] == '/');
     }
 
-    TextView SkipTo(TextView stops)
+    std::string_view SkipTo(std::string_view stops)
     {
-        const TextView passed = m_rest.substr(0, m_rest.find_first_of(stops));
+        const std::string_view passed = m_rest.substr(0, m_rest.find_first_of(stops));
         m_rest.remove_prefix(passed.size());
         return passed;
     }
 
-    void SkipThrough(TextView end)
+    void SkipThrough(std::string_view end)
     {
         const std::size_t place = m_rest.find(end);
-        m_rest.remove_prefix(place == TextView::npos ? m_rest.size() : place + end.size());
+        m_rest.remove_prefix(place == std::string_view::npos ? m_rest.size() : place + end.size());
     }
 
     std::optional<DeclaredCharset> ReadMeta()
     {
-        std::optional<TextView> httpEquiv, content, charset;
+        std::optional<std::string_view> httpEquiv, content, charset;
         while (const auto attribute = NextAttribute(m_rest)) {
-            for (auto& [name, value] : {std::pair(TextView(u"http-equiv"), &httpEquiv),
-                                        std::pair(TextView(u"content"), &content),
-                                        std::pair(TextView(u"charset"), &charset)})
+            for (auto& [name, value] : {std::pair(std::string_view("http-equiv"), &httpEquiv),
+                                        std::pair(std::string_view("content"), &content),
+                                        std::pair(std::string_view("charset"), &charset)})
                 if (attribute->Name == name && !*value)
                     *value = attribute->Value;
         }
         if (charset)
             return CharsetNamed(*charset);
-        if (httpEquiv == u"content-type" && content)
+        if (httpEquiv == "content-type" && content)
             return CharsetInContent(*content);
         return std::nullopt;
     }
 
-    TextView m_rest;
+    std::string_view m_rest;
 };
 
 /// The encoding in a declaration such as <?xml version="1.0" encoding="utf-8"?>.
-std::optional<DeclaredCharset> CharsetInXmlDeclaration(TextView start)
+std::optional<DeclaredCharset> CharsetInXmlDeclaration(std::string_view start)
 {
-    constexpr TextView word = u"encoding";
-    if (!start.starts_with(u"<?xml"))
+    constexpr std::string_view word = "encoding";
+    if (!start.starts_with("<?xml"))
         return std::nullopt;
-    TextView rest = start.substr(0, start.find(u'>'));
+    std::string_view rest = start.substr(0, start.find('>'));
     const std::size_t place = rest.find(word);
-    if (place == TextView::npos)
+    if (place == std::string_view::npos)
         return std::nullopt;
     rest = WithoutBlanksInFront(rest.substr(place + word.size()));
-    if (!rest.starts_with(u'='))
+    if (!rest.starts_with('='))
         return std::nullopt;
     rest = WithoutBlanksInFront(rest.substr(1));
-    if (!rest.starts_with(u'"') && !rest.starts_with(u'\''))
+    if (!rest.starts_with('"') && !rest.starts_with('\''))
         return std::nullopt;
     const std::size_t close = rest.find(rest.front(), 1);
-    return close == TextView::npos ? std::nullopt : CharsetNamed(rest.substr(1, close - 1));
+    return close == std::string_view::npos ? std::nullopt : CharsetNamed(rest.substr(1, close - 1));
 }
 
 } // namespace
 
 DeclaredCharset DeclaredCharsetOf(std::string_view page)
 {
-    const Text start = ToLower(FromBytes(page.substr(0, lookAt)));
+    std::string start(page.substr(0, lookAt));
+    std::transform(start.begin(), start.end(), start.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
     auto charset = CharsetSearch(start).Run();
     if (!charset)
         charset = CharsetInXmlDeclaration(start);

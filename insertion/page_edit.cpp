@@ -19,20 +19,40 @@ bool Fits(std::size_t position)
 /// What ends the work on a page early, or nothing when it goes on.
 using Stop = std::optional<PageEdit>;
 
-/// The page code of the effect, each text made of the bytes that the page will hold.
-EffectPayload Encoded(const EffectPayload& effect, PageEncoding encoding)
+/// The payload's texts, each as the bytes that the page will hold.
+struct PageCode
 {
-    const auto code = [&](TextView text) { return FromBytes(EncodeForPage(text, encoding)); };
-    const auto value = [&](TextView text) { return FromBytes(EncodeForAttribute(text, encoding)); };
-    return {
-        .Kind = effect.Kind,
-        .HEADHTML = code(effect.HEADHTML),
-        .BODYHTML = code(effect.BODYHTML),
-        .OnLoadFunc = value(effect.OnLoadFunc),
-        .OnLoadArgs = value(effect.OnLoadArgs),
-        .OnUnloadFunc = value(effect.OnUnloadFunc),
-        .OnUnloadArgs = value(effect.OnUnloadArgs),
-    };
+    PageCode(const FinishedPayload& payload, PageEncoding encoding)
+        : HEADHTML(EncodeForPage(payload.Effect.HEADHTML, encoding)),
+          BODYHTML(EncodeForPage(payload.Effect.BODYHTML, encoding)),
+          OnLoadFunc(EncodeForAttribute(payload.Effect.OnLoadFunc, encoding)),
+          OnLoadArgs(EncodeForAttribute(payload.Effect.OnLoadArgs, encoding)),
+          OnUnloadFunc(EncodeForAttribute(payload.Effect.OnUnloadFunc, encoding)),
+          OnUnloadArgs(EncodeForAttribute(payload.Effect.OnUnloadArgs, encoding)),
+          BeginMarker(EncodeForPage(payload.BeginMarker, encoding)),
+          EndMarker(EncodeForPage(payload.EndMarker, encoding))
+    {
+    }
+
+    std::string HEADHTML;
+    std::string BODYHTML;
+    std::string OnLoadFunc;
+    std::string OnLoadArgs;
+    std::string OnUnloadFunc;
+    std::string OnUnloadArgs;
+    std::string BeginMarker;
+    std::string EndMarker;
+};
+
+/// A copy of the page that grows by what an effect puts in without being copied once more.
+std::string CopyToEdit(std::string_view page, const PageCode& code)
+{
+    constexpr std::size_t pageScript = 1024; // the page script's lines, which may follow
+    std::string copy;
+    copy.reserve(page.size() + 2 * (code.HEADHTML.size() + code.BODYHTML.size()) +
+                 2 * (code.OnLoadArgs.size() + code.OnUnloadArgs.size()) + pageScript);
+    copy.append(page);
+    return copy;
 }
 
 /// The inside of an element: where its open tag ends, where its close tag begins, and the text
@@ -41,45 +61,46 @@ struct Inside
 {
     std::size_t TagEnd;   ///< of the ">" of its open tag
     std::size_t CloseTag; ///< of the "<" of its close tag
-    TextView Inner;
+    std::string_view Inner;
 };
 
 /// The inside of the element whose open tag begins at `tag`. Every element needs its close tag. An
 /// open tag without ">" ends at 0, and all goes on from there.
-Outcome<Inside> InsideOf(TextView page, std::size_t tag, TextView closeTag)
+Outcome<Inside> InsideOf(std::string_view page, std::size_t tag, std::string_view closeTag)
 {
-    const std::size_t tagEnd = Find(page, u">", tag);
+    const std::size_t tagEnd = Find(page, ">", tag);
     const std::size_t closing = FindIgnoringCase(page, closeTag, tag);
     if (!Fits(tagEnd) || !Fits(closing) || !Fits(tagEnd + 1))
         return Fault::Overflow;
     if (closing < tagEnd + 1)
         return Fault::InvalidProcedureCall;
-    return Inside{tagEnd, closing, Mid(page, tagEnd + 1, closing - (tagEnd + 1))};
+    return Inside{tagEnd, closing, page.substr(tagEnd, closing - (tagEnd + 1))};
 }
 
 /// One page on its way through the three kinds of insertion.
 class PageRun
 {
 public:
-    PageRun(Text page, const FinishedPayload& payload, const ReplaceQuestion& askToReplace)
+    PageRun(std::string page, const PageCode& code, bool replaceInBody,
+            const ReplaceQuestion& askToReplace)
         : m_page(std::move(page)),
-          m_begin(payload.BeginMarker),
-          m_end(payload.EndMarker),
-          m_replaceInBody(payload.ReplaceInBody),
+          m_begin(code.BeginMarker),
+          m_end(code.EndMarker),
+          m_replaceInBody(replaceInBody),
           m_ask(askToReplace)
     {
     }
 
-    const Text& Page() const { return m_page; }
+    std::string TakePage() { return std::move(m_page); }
 
-    Stop InsertIntoHead(TextView HEADHTML)
+    Stop InsertIntoHead(std::string_view HEADHTML)
     {
-        const std::size_t headTag = FindIgnoringCase(m_page, u"<head");
+        const std::size_t headTag = FindIgnoringCase(m_page, "<head");
         if (!Fits(headTag))
             return Fault::Overflow;
         if (headTag == 0)
             return ManualFallback();
-        const auto head = InsideOf(m_page, headTag, u"</head");
+        const auto head = InsideOf(m_page, headTag, "</head");
         if (const Fault* fault = FaultIn(head))
             return *fault;
         const auto& [tagEnd, closeTag, inner] = ValueIn(head);
@@ -93,14 +114,14 @@ public:
         return ReplaceInside(ValueIn(head), HEADHTML);
     }
 
-    Stop InsertIntoBody(TextView BODYHTML)
+    Stop InsertIntoBody(std::string_view BODYHTML)
     {
-        const std::size_t bodyTag = FindIgnoringCase(m_page, u"<body");
+        const std::size_t bodyTag = FindIgnoringCase(m_page, "<body");
         if (!Fits(bodyTag))
             return Fault::Overflow;
         if (bodyTag == 0)
             return ManualFallback();
-        const auto body = InsideOf(m_page, bodyTag, u"</body");
+        const auto body = InsideOf(m_page, bodyTag, "</body");
         if (const Fault* fault = FaultIn(body))
             return *fault;
         const auto& [tagEnd, closeTag, inner] = ValueIn(body);
@@ -113,41 +134,41 @@ public:
         return ReplaceInside(ValueIn(body), BODYHTML);
     }
 
-    Stop InsertAttribute(TextView word, TextView Func, TextView Args)
+    Stop InsertAttribute(std::string_view word, std::string_view Func, std::string_view Args)
     {
-        const std::size_t bodyTag = FindIgnoringCase(m_page, u"<body");
+        const std::size_t bodyTag = FindIgnoringCase(m_page, "<body");
         if (bodyTag == 0)
             return {};
-        const std::size_t tagEnd = Find(m_page, u">", bodyTag);
+        const std::size_t tagEnd = Find(m_page, ">", bodyTag);
         if (!Fits(bodyTag) || !Fits(tagEnd))
             return Fault::Overflow;
         if (tagEnd < bodyTag)
             return Fault::InvalidProcedureCall;
-        const TextView tag = Mid(m_page, bodyTag, tagEnd - bodyTag);
+        const std::string_view tag = std::string_view(m_page).substr(bodyTag - 1, tagEnd - bodyTag);
         if (!FindEffectInExistingCode(tag, Func, {})) {
-            m_page = Join({Left(m_page, tagEnd - 1), u" ", word, u"=\"", Func, Args, u"\" ",
-                           Mid(m_page, tagEnd)});
+            m_page.insert(tagEnd - 1, Join({" ", word, "=\"", Func, Args, "\" "}));
             return {};
         }
         // A No leaves the attribute as it is; only the HEAD's Yes saves the question.
         if (!m_isConfirmed && !m_ask())
             return {};
-        const auto replaced = ReplaceEffectInExistingCode(tag, Join({Func, Args}), Func, u")");
+        const auto replaced = ReplaceEffectInExistingCode(tag, Join({Func, Args}), Func, ")");
         if (const Fault* fault = FaultIn(replaced))
             return *fault;
-        m_page = Join({Left(m_page, bodyTag - 1), ValueIn(replaced), Mid(m_page, tagEnd)});
+        m_page.replace(bodyTag - 1, tag.size(), ValueIn(replaced));
         return {};
     }
 
 private:
     /// Stays as it is: the character behind the tag is kept in front of the inserted text and comes
     /// again behind it, so that a tag with CR LF behind it gets a lone CR.
-    void PutBehindTag(std::size_t tagEnd, TextView text, std::size_t goOnFrom)
+    void PutBehindTag(std::size_t tagEnd, std::string_view text, std::size_t goOnFrom)
     {
-        m_page = Join({Left(m_page, tagEnd + 1), lineEnd, text, lineEnd, Mid(m_page, goOnFrom)});
+        const std::string behindTag = m_page.substr(tagEnd, 1);
+        m_page.replace(tagEnd, goOnFrom - 1 - tagEnd, Join({behindTag, "\r\n", text, "\r\n"}));
     }
 
-    Stop ReplaceInside(const Inside& inside, TextView code)
+    Stop ReplaceInside(const Inside& inside, std::string_view code)
     {
         const auto replaced = ReplaceEffectInExistingCode(inside.Inner, code, m_begin, m_end);
         if (const Fault* fault = FaultIn(replaced))
@@ -156,9 +177,9 @@ private:
         return {};
     }
 
-    Text m_page;
-    TextView m_begin;
-    TextView m_end;
+    std::string m_page;
+    std::string_view m_begin;
+    std::string_view m_end;
     bool m_replaceInBody;
     const ReplaceQuestion& m_ask;
     bool m_isConfirmed = false;
@@ -169,29 +190,29 @@ private:
 PageEdit EditPage(std::string_view page, const FinishedPayload& payload,
                   const ReplaceQuestion& askToReplace)
 {
-    const EffectPayload effect = Encoded(payload.Effect, EncodingOf(page));
-    PageRun run(FromBytes(page), payload, askToReplace);
+    const PageCode code(payload, EncodingOf(page));
+    PageRun run(CopyToEdit(page, code), code, payload.ReplaceInBody, askToReplace);
     Stop stop;
-    if (!effect.HEADHTML.empty())
-        stop = run.InsertIntoHead(effect.HEADHTML);
-    if (!stop && !effect.BODYHTML.empty())
-        stop = run.InsertIntoBody(effect.BODYHTML);
-    if (!stop && !effect.OnLoadFunc.empty())
-        stop = run.InsertAttribute(u"onload", effect.OnLoadFunc, effect.OnLoadArgs);
-    if (!stop && !effect.OnUnloadFunc.empty())
-        stop = run.InsertAttribute(u"onunload", effect.OnUnloadFunc, effect.OnUnloadArgs);
+    if (!code.HEADHTML.empty())
+        stop = run.InsertIntoHead(code.HEADHTML);
+    if (!stop && !code.BODYHTML.empty())
+        stop = run.InsertIntoBody(code.BODYHTML);
+    if (!stop && !code.OnLoadFunc.empty())
+        stop = run.InsertAttribute("onload", code.OnLoadFunc, code.OnLoadArgs);
+    if (!stop && !code.OnUnloadFunc.empty())
+        stop = run.InsertAttribute("onunload", code.OnUnloadFunc, code.OnUnloadArgs);
     if (stop)
         return *stop;
-    return EditedPage{ToBytes(run.Page())};
+    return EditedPage{run.TakePage()};
 }
 
-bool FindEffectInExistingCode(TextView code, TextView begin, TextView end)
+bool FindEffectInExistingCode(std::string_view code, std::string_view begin, std::string_view end)
 {
     return FindIgnoringCase(code, begin) != 0 && (end.empty() || FindIgnoringCase(code, end) != 0);
 }
 
-Outcome<Text> ReplaceEffectInExistingCode(TextView code, TextView newText, TextView begin,
-                                          TextView end)
+Outcome<std::string> ReplaceEffectInExistingCode(std::string_view code, std::string_view newText,
+                                                 std::string_view begin, std::string_view end)
 {
     const std::size_t start = FindIgnoringCase(code, begin);
     if (!Fits(start))
@@ -202,8 +223,7 @@ Outcome<Text> ReplaceEffectInExistingCode(TextView code, TextView newText, TextV
     const std::size_t behind = place + end.size();
     if (!Fits(behind))
         return Fault::Overflow;
-    const TextView old = Mid(code, start, behind - start);
-    return ReplaceAll(code, old, newText);
+    return ReplaceAll(code, code.substr(start - 1, behind - start), newText);
 }
 
 } // namespace orvane

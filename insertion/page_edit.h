@@ -37,12 +37,12 @@ PageEdit EditPage(std::string_view page, const FinishedPayload& payload,
 
 /// Whether `code` holds `begin` and, unless it is empty, `end`: anywhere, in any order, upper and
 /// lower case taken as equal.
-bool FindEffectInExistingCode(TextView code, TextView begin, TextView end);
+bool FindEffectInExistingCode(std::string_view code, std::string_view begin, std::string_view end);
 
 /// `code` with the stretch from the first `begin` through the next `end`, and every exact copy of
 /// that stretch, replaced by `newText`. InvalidProcedureCall when there is no such stretch,
 /// Overflow when it begins or ends past position 32767.
-Outcome<Text> ReplaceEffectInExistingCode(TextView code, TextView newText, TextView begin,
-                                          TextView end);
+Outcome<std::string> ReplaceEffectInExistingCode(std::string_view code, std::string_view newText,
+                                                 std::string_view begin, std::string_view end);
 
 } // namespace orvane

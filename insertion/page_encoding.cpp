@@ -28,15 +28,6 @@ std::optional<char> Windows1252Byte(char16_t unit)
     return static_cast<char>(0x80 + (found - upperControls.begin()));
 }
 
-bool IsHighSurrogate(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool IsLowSurrogate(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 std::string ScriptEscape(char16_t unit)
 {
     constexpr std::string_view digits = "0123456789ABCDEF";
@@ -55,18 +46,30 @@ std::string MarkupEscape(std::uint32_t point)
 class ScriptTracker
 {
 public:
-    explicit ScriptTracker(TextView code) : m_code(code) {}
+    explicit ScriptTracker(TextView code) : m_text(code) {}
 
     /// Expects places in rising order.
     bool IsInScript(std::size_t at)
     {
+        if (m_code.size() != m_text.size())
+            ReadCode();
         while (at >= m_script.End && m_script.End < m_code.size())
             m_script = NextScript(m_code, m_script.End);
         return at >= m_script.Begin && at < m_script.End;
     }
 
 private:
-    TextView m_code;
+    /// Tags are of ASCII characters alone: any other one becomes a byte that is in none.
+    void ReadCode()
+    {
+        m_code.resize(m_text.size());
+        std::transform(m_text.begin(), m_text.end(), m_code.begin(), [](char16_t unit) {
+            return unit < 0x80 ? static_cast<char>(unit) : '\x80';
+        });
+    }
+
+    TextView m_text;
+    std::string m_code; ///< made once somebody asks, which most code needs not
     CodeSpan m_script;
 };
 
@@ -94,26 +97,31 @@ std::string Encode(TextView code, PageEncoding encoding, ScriptTracker scripts)
     return bytes;
 }
 
-/// The page without the halves of characters that an earlier insertion left: it writes the byte
+/// Whether the byte is half of a character, left behind by an earlier insertion: it writes the byte
 /// behind a tag twice, and puts a line end behind the first.
-std::string WithoutDoubledBytes(std::string_view page)
+bool IsDoubledByte(std::string_view page, std::size_t at)
 {
-    const auto isLead = [](char byte) { return byte >= '\xC2' && byte <= '\xF4'; };
-    std::string whole(page);
-    for (std::size_t i = 1; i + 2 < page.size(); ++i)
-        if (isLead(page[i]) && (page[i - 1] == '>' || page[i - 1] == '\n') && page[i + 1] == '\r' &&
-            page[i + 2] == '\n')
-            whole[i] = ' ';
-    return whole;
+    return at > 0 && page[at] >= '\xC2' && page[at] <= '\xF4' &&
+           (page[at - 1] == '>' || page[at - 1] == '\n') && page.substr(at + 1, 2) == "\r\n";
 }
 
 /// Whether the page holds characters above 127 and every such character is well-formed UTF-8.
 bool IsWellFormedUtf8(std::string_view page)
 {
-    const std::string bytes = WithoutDoubledBytes(page);
-    const bool isAscii = std::none_of(bytes.begin(), bytes.end(),
-                                      [](char byte) { return static_cast<signed char>(byte) < 0; });
-    return !isAscii && ToUtf8(FromUtf8(bytes)) == bytes;
+    bool holdsAny = false;
+    for (std::size_t at = FindAboveAscii(page, 0); at < page.size();
+         at = FindAboveAscii(page, at)) {
+        if (IsDoubledByte(page, at)) {
+            ++at;
+            continue;
+        }
+        const std::size_t length = Utf8Length(page.substr(at));
+        if (length == 0)
+            return false;
+        holdsAny = true;
+        at += length;
+    }
+    return holdsAny;
 }
 
 } // namespace

@@ -2,12 +2,12 @@
 
 namespace orvane {
 
-CodeSpan NextScript(TextView code, std::size_t from)
+CodeSpan NextScript(std::string_view code, std::size_t from)
 {
     Markup markup{{from, from}, from};
     do
         markup = NextMarkup(code, markup.Next);
-    while (markup.Whole.Begin < code.size() && !IsTag(code, markup.Whole.Begin, u"<script"));
+    while (markup.Whole.Begin < code.size() && !IsTag(code, markup.Whole.Begin, "<script"));
     return {markup.Whole.End, markup.Next};
 }
 

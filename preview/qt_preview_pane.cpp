@@ -1,18 +1,16 @@
 #include "preview/qt_preview_pane.h"
 
 #include "core/file_names.h"
+#include "preview/qt_status_line.h"
 #include "preview/qt_web_view_module.h"
 #include "windows/qt_text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QStackedLayout>
-#include <QStyle>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace orvane {
@@ -25,56 +23,24 @@ constexpr TextView instead =
 /// The name of the page file while a browser has the other; it lies beside that.
 constexpr TextView ownPageName = u"ov-pane.htm";
 
-/// One line of plain text that is cut at the label's edge and never widens it; every blank counts.
-class StatusLine : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-    QSize sizeHint() const override { return {0, QLabel::sizeHint().height()}; }
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QFrame::paintEvent(event);
-        QPainter painter(this);
-        const QRect room = contentsRect();
-        style()->drawItemText(
-            &painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-            fontMetrics().elidedText(text(), Qt::ElideRight, room.width()), foregroundRole());
-    }
-};
-
 Text OwnPath(TextView path)
 {
     return PathIn(FolderOf(path), ownPageName);
-}
-
-Text LeadOutsideQuestion(TextView target)
-{
-    constexpr std::size_t longest = 500;
-    const bool isMail = StartsWithIgnoringCase(target, u"mailto:");
-    return Join({u"The page leads out of the preview, to:\r\n\r\n", Left(target, longest),
-                 target.size() > longest ? u"..." : u"",
-                 isMail ? u"\r\n\r\nDo you want to open it in your e-mail program?"
-                        : u"\r\n\r\nDo you want to open it in your Web browser?"});
 }
 
 } // namespace
 
 QtPreviewPane::QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent)
     : QWidget(parent),
-      m_dialogs(dialogs),
-      m_shell(shell),
       m_files(files),
       m_boxes(dialogs),
+      m_outside(dialogs, shell, files),
       m_stack(new QStackedLayout(this)),
       m_notePage(new QWidget),
       m_viewPage(new QWidget),
       lblPreviewNote(new QLabel),
       lblCannotShow(new QLabel),
-      lblPageStatus(new StatusLine),
+      lblPageStatus(new QtStatusLine),
       cmdTryAgain(new QPushButton("&Try again"))
 {
     BuildViewPage();
@@ -110,7 +76,6 @@ void QtPreviewPane::BuildViewPage()
 {
     lblPageStatus->setObjectName("lblPageStatus");
     lblPageStatus->setAccessibleName("Page status");
-    lblPageStatus->setTextFormat(Qt::PlainText);
     lblCannotShow->setObjectName("lblCannotShow");
     lblCannotShow->setTextFormat(Qt::PlainText);
     lblCannotShow->setWordWrap(true);
@@ -166,7 +131,7 @@ void QtPreviewPane::Warm()
 void QtPreviewPane::ShowPage()
 {
     m_boxes.StartPage();
-    m_ledOutside = false;
+    m_outside.StartPage();
     lblPageStatus->clear();
     lblPageStatus->setFrameStyle(m_page.RunsInStatus ? QFrame::Box | QFrame::Plain
                                                      : QFrame::NoFrame);
@@ -245,28 +210,12 @@ void QtPreviewPane::PageRead()
 
 void QtPreviewPane::StatusWritten(TextView status)
 {
-    Text line(status);
-    std::replace_if(
-        line.begin(), line.end(), [](char16_t character) { return character < u' '; }, u' ');
-    lblPageStatus->setText(ToQt(line));
+    lblPageStatus->SetStatus(status);
 }
 
 void QtPreviewPane::OutsideWanted(TextView target, bool byAuthor)
 {
-    // A script may lead away again and again; the author is asked once, and after each act.
-    if (m_askingOutside || (m_ledOutside && !byAuthor))
-        return;
-    m_ledOutside = true;
-    m_askingOutside = true;
-    // A file is never handed on: what the desktop would do with it is not for a page to choose.
-    if (target.starts_with(pathSeparator))
-        m_dialogs.Say(Join({m_files.FileExists(target)
-                                ? u"The page leads to a file that the preview does not open:"
-                                : u"The page leads to a file that is not there:",
-                            u"\r\n\r\n", target}));
-    else if (m_dialogs.Ask(LeadOutsideQuestion(target)))
-        m_shell.OpenWithShell(target);
-    m_askingOutside = false;
+    m_outside.Offer(target, byAuthor);
 }
 
 void QtPreviewPane::PageEnded(PageEnd end)

@@ -2,7 +2,7 @@
 
 #include "core/file_store.h"
 #include "core/preview_pane.h"
-#include "core/shell.h"
+#include "preview/outside_links.h"
 #include "preview/page_boxes.h"
 #include "preview/web_view.h"
 
@@ -16,6 +16,8 @@ class QPushButton;
 class QStackedLayout;
 
 namespace orvane {
+
+class QtStatusLine;
 
 /// The preview as the author sees it: the web view with the page's status line below it and above
 /// it what it cannot show; or, where there is nothing to see, a note that says why and what can be
@@ -53,16 +55,13 @@ private:
     [[nodiscard]] Done WritePage();
     std::optional<Text> LoadView();
 
-    Dialogs& m_dialogs;
-    Shell& m_shell;
     FileStore& m_files;
     PageBoxes m_boxes;
+    OutsideLinks m_outside;
 
     PanePage m_page;           ///< as shown; its path is where the file lies now
     bool m_fileGone = true;    ///< the page file was deleted, or never written
     bool m_isFileLeft = false; ///< the file under the first name belongs to a browser
-    bool m_ledOutside = false; ///< the author was asked about an address outside
-    bool m_askingOutside = false;
 
     WebView* m_view = nullptr;
     QStackedLayout* m_stack;
@@ -70,7 +69,7 @@ private:
     QWidget* m_viewPage;
     QLabel* lblPreviewNote;
     QLabel* lblCannotShow;
-    QLabel* lblPageStatus;
+    QtStatusLine* lblPageStatus;
     QPushButton* cmdTryAgain;
 };
 

@@ -163,6 +163,8 @@ void EngineView::MakePage()
                     EndPage(PageEnd::Crashed);
             });
     m_view.setPage(m_page);
+    // The engine makes a page's process when the page is first asked for something.
+    m_page->runJavaScript(QString());
     delete former;
 }
 

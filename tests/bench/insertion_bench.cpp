@@ -5,14 +5,16 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <stdexcept>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
-// The ticker's way into a page of 30 kB, backup and syncing included, beside the bare system calls
-// that bring the same bytes to the disk as safely.
+// The ticker's way into a page of the size that the argument says, backup and syncing included,
+// beside the bare system calls that bring the same bytes to the disk as safely.
 namespace orvane {
 namespace {
 
@@ -20,15 +22,13 @@ namespace fs = std::filesystem;
 
 const FinishedPayload ticker = Finish(Generate({u"Welcome to my page!"}));
 
-std::string MakePage()
+std::string MakePage(std::size_t size)
 {
     std::string page = "<html>\r\n<head>\r\n<title>My page</title>\r\n</head>\r\n<body>\r\n";
-    while (page.size() < 30000)
+    while (page.size() < size)
         page += "<p>One more line of the text that makes a page of its usual size.</p>\r\n";
     return page + "</body>\r\n</html>\r\n";
 }
-
-const std::string page = MakePage();
 
 /// Nobody is asked and nothing fails while a page is written for the first time.
 class NoDialogs : public Dialogs
@@ -80,7 +80,7 @@ void PutBare(const std::string& folder, const std::string& path, const std::stri
 class Site
 {
 public:
-    Site()
+    explicit Site(std::size_t pageSize) : m_page(MakePage(pageSize))
     {
         fs::create_directory(m_folder / "state");
         Restore();
@@ -112,7 +112,7 @@ public:
     }
 
     /// The page as it was, on the disk.
-    void Restore() const { PutBare(m_folder, Page(), page); }
+    void Restore() const { PutBare(m_folder, Page(), m_page); }
 
 private:
     static fs::path MakeFolder()
@@ -122,6 +122,7 @@ private:
         return name;
     }
 
+    const std::string m_page;
     const fs::path m_folder = MakeFolder();
     PosixCalls m_calls;
     NoDialogs m_dialogs;
@@ -129,9 +130,32 @@ private:
     KeptPages m_kept{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
 };
 
+/// What the system says of this program's memory under that name, in kB.
+double MemoryOf(const std::string& name)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with(name + ":"))
+            return std::stod(line.substr(name.size() + 1));
+    throw std::runtime_error("the system does not tell the memory");
+}
+
+/// The memory that an insertion takes at its peak beyond what the program had before, in kB.
+double PeakOf(Site& site, void (*insert)(Site&))
+{
+    ::malloc_trim(0);
+    std::ofstream("/proc/self/clear_refs") << "5"; // the peak counts from here on
+    const double before = MemoryOf("VmRSS");
+    insert(site);
+    const double peak = MemoryOf("VmHWM") - before;
+    site.Restore();
+    return peak;
+}
+
 void Measure(benchmark::State& state, void (*insert)(Site&))
 {
-    Site site;
+    Site site(static_cast<std::size_t>(state.range()));
+    state.counters["PeakMemory"] = PeakOf(site, insert);
     for (auto _ : state) {
         insert(site);
         state.PauseTiming();
@@ -146,13 +170,23 @@ void InsertTicker(benchmark::State& state)
 {
     Measure(state, [](Site& site) { site.Insert(); });
 }
-BENCHMARK(InsertTicker)->UseRealTime()->Unit(benchmark::kMicrosecond)->MinTime(1);
+BENCHMARK(InsertTicker)
+    ->Arg(30'000)
+    ->Arg(10'000'000)
+    ->UseRealTime()
+    ->Unit(benchmark::kMicrosecond)
+    ->MinTime(1);
 
 void WriteBareFiles(benchmark::State& state)
 {
     Measure(state, [](Site& site) { site.InsertBare(); });
 }
-BENCHMARK(WriteBareFiles)->UseRealTime()->Unit(benchmark::kMicrosecond)->MinTime(1);
+BENCHMARK(WriteBareFiles)
+    ->Arg(30'000)
+    ->Arg(10'000'000)
+    ->UseRealTime()
+    ->Unit(benchmark::kMicrosecond)
+    ->MinTime(1);
 
 } // namespace
 } // namespace orvane

@@ -1,4 +1,4 @@
-#include "delivery/required_files.h"
+#include "delivery/files_to_upload.h"
 
 #include "tests/support/doubles.h"
 

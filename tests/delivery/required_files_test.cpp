@@ -1,5 +1,6 @@
 #include "delivery/required_files.h"
 
+#include "delivery/files_to_upload.h"
 #include "insertion/new_page.h"
 #include "tests/support/doubles.h"
 

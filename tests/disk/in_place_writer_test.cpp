@@ -114,7 +114,7 @@ TEST(RecoveryCopyTest, TellsAnOverwritingCutShortFromAnotherContent)
 
 TEST(RecoveryCopyTest, IsReadWholeOrNotAtAll)
 {
-    const RecoveryCopy copy{"/a page\n.html", std::string("old\0 1 of", 9), "new\r\n"};
+    const RecoveryCopy copy{"/a page\n.html", std::string_view("old\0 1 of", 9), "new\r\n"};
     const std::string bytes = WriteRecoveryCopy(copy);
     EXPECT_EQ(ReadRecoveryCopy(bytes), copy);
     for (std::size_t size = 0; size < bytes.size(); ++size)

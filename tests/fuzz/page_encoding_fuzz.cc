@@ -91,16 +91,16 @@ private:
     std::string_view m_bytes;
 };
 
-void CheckScripts(TextView code)
+void CheckScripts(std::string_view code)
 {
     for (std::size_t at = 0; at < code.size();) {
         const CodeSpan script = NextScript(code, at);
         Require(script.Begin <= script.End && script.End <= code.size(), "a script lies inside");
         Require(script.End > at, "the search for scripts gets on");
         if (script.Begin < code.size()) {
-            Require(code[script.Begin - 1] == u'>', "a script begins behind its tag");
+            Require(code[script.Begin - 1] == '>', "a script begins behind its tag");
             Require(script.End == code.size() ||
-                        StartsWithIgnoringCase(code.substr(script.End), u"</script"),
+                        StartsWithIgnoringCase(code.substr(script.End), "</script"),
                     "a script ends at its close tag");
         }
         at = script.End;
@@ -109,7 +109,7 @@ void CheckScripts(TextView code)
 
 void CheckCode(TextView code, bool isWellFormed)
 {
-    CheckScripts(code);
+    CheckScripts(ToUtf8(code));
     for (const PageEncoding encoding : {PageEncoding::Windows1252, PageEncoding::AsciiOnly}) {
         SideBySide(code, EncodeForAttribute(code, encoding)).CheckAll(encoding, false);
         const bool hasScript = FindIgnoringCase(code, u"<script") != 0;

@@ -214,24 +214,24 @@ TEST(WholeEditTest, LooksForTheBodyInWhatTheHeadPutIn)
 
 TEST(ReplaceEffectInExistingCodeTest, GivesTheFaultsOfItsPositions)
 {
-    const auto replaced = [](TextView code) {
-        return ReplaceEffectInExistingCode(code, u"new", u"<b>", u"</b>");
+    const auto replaced = [](std::string_view code) {
+        return ReplaceEffectInExistingCode(code, "new", "<b>", "</b>");
     };
-    const Text fill(32756, u'.');
-    EXPECT_EQ(replaced(Join({u"<b>....", fill, u"</b>?"})), Outcome<Text>(Fault::Overflow));
-    EXPECT_EQ(replaced(Join({u"<b>...", fill, u"</b>?"})), Outcome<Text>(u"new?"));
-    EXPECT_EQ(replaced(Join({fill, u"...........<b></b>"})), Outcome<Text>(Fault::Overflow));
-    EXPECT_EQ(replaced(u"</b><b>"), Outcome<Text>(Fault::InvalidProcedureCall));
-    EXPECT_EQ(replaced(u"<b>"), Outcome<Text>(Fault::InvalidProcedureCall));
-    EXPECT_EQ(replaced(u"</b>"), Outcome<Text>(Fault::InvalidProcedureCall));
+    const std::string fill(32756, '.');
+    EXPECT_EQ(replaced(Join({"<b>....", fill, "</b>?"})), Outcome<std::string>(Fault::Overflow));
+    EXPECT_EQ(replaced(Join({"<b>...", fill, "</b>?"})), Outcome<std::string>("new?"));
+    EXPECT_EQ(replaced(Join({fill, "...........<b></b>"})), Outcome<std::string>(Fault::Overflow));
+    EXPECT_EQ(replaced("</b><b>"), Outcome<std::string>(Fault::InvalidProcedureCall));
+    EXPECT_EQ(replaced("<b>"), Outcome<std::string>(Fault::InvalidProcedureCall));
+    EXPECT_EQ(replaced("</b>"), Outcome<std::string>(Fault::InvalidProcedureCall));
 }
 
 TEST(FindEffectInExistingCodeTest, WantsBothMarkersInAnyOrderAndCase)
 {
-    EXPECT_TRUE(FindEffectInExistingCode(u"..END..begin", u"Begin", u"end"));
-    EXPECT_TRUE(FindEffectInExistingCode(u"begin", u"Begin", u""));
-    EXPECT_FALSE(FindEffectInExistingCode(u"begin", u"Begin", u"end"));
-    EXPECT_FALSE(FindEffectInExistingCode(u"end", u"Begin", u"end"));
+    EXPECT_TRUE(FindEffectInExistingCode("..END..begin", "Begin", "end"));
+    EXPECT_TRUE(FindEffectInExistingCode("begin", "Begin", ""));
+    EXPECT_FALSE(FindEffectInExistingCode("begin", "Begin", "end"));
+    EXPECT_FALSE(FindEffectInExistingCode("end", "Begin", "end"));
 }
 
 TEST(PageEditEncodingTest, WritesEachPieceInThePagesEncoding)

@@ -108,6 +108,14 @@ Outcome<std::string> FakeFileStore::Read(TextView path) const
     return found->second;
 }
 
+Outcome<bool> FakeFileStore::IsCopyOf(TextView path, TextView other, std::string_view bytes) const
+{
+    const auto read = Read(path);
+    if (const Fault* fault = FaultIn(read))
+        return *fault;
+    return path != other && ValueIn(read) == bytes;
+}
+
 Done FakeFileStore::Replace(TextView path, std::string_view bytes)
 {
     Writes.emplace_back(path);

@@ -90,7 +90,7 @@ public:
 
     bool FileExists(TextView path) const override { return Contents.contains(Text(path)); }
     bool IsTaken(TextView path) const override { return FileExists(path); }
-    bool AreOneFile(TextView path, TextView other) const override { return path == other; }
+    Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const override;
     Outcome<std::string> Read(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
     Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;

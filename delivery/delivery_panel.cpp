@@ -1,0 +1,56 @@
+#include "delivery/delivery_panel.h"
+
+#include "delivery/editor_panel.h"
+#include "delivery/finish_panel.h"
+#include "delivery/ftp_panel.h"
+#include "delivery/insert_panel.h"
+#include "delivery/method_panel.h"
+
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+std::array<CodePanel*, 3> MakeCodePanels(Workbench& bench, const CopyDesk& desk)
+{
+    const FinishedPayload& payload = desk.Payload;
+    const CodePanel::Words head{"lblNeedHelp(0)", "txtHEADHTML", "cmdCopyHEADHTML", u"HEAD", {}};
+    const CodePanel::Words body{"lblNeedHelp(1)", "txtBODYHTML", "cmdcopyBODYHTML", u"BODY", {}};
+    const CodePanel::Words attribute{"lblNeedHelp(2)", "txtBODYAttribute", "cmdCopyBODYAttrib",
+                                     u"BODY attribute",
+                                     Join({u"For example:  <BODY", payload.BODYAttribute, u">"})};
+    return {new CodePanel(bench, head, payload.Effect.HEADHTML, *desk.Report),
+            new CodePanel(bench, body, payload.Effect.BODYHTML, *desk.Report),
+            new CodePanel(bench, attribute, payload.BODYAttribute, *desk.Report)};
+}
+
+} // namespace
+
+DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder)
+    : Editor(new EditorPanel),
+      Method(new MethodPanel),
+      Insert(new InsertPanel(bench, desk)),
+      Codes(MakeCodePanels(bench, desk)),
+      Publish(new PublishPanel(desk, std::move(makeFolder))),
+      Ftp(new FtpPanel(bench.Settings)),
+      Finish(new FinishPanel(bench, desk.Payload, *desk.Report))
+{
+}
+
+std::array<QWidget*, 9> DeliveryPanels::InOrder() const
+{
+    return {Editor, Method, Insert, Codes[0], Codes[1], Codes[2], Publish, Ftp, Finish};
+}
+
+void DeliveryPanels::OfferEditorHelp(const Settings& settings, bool isScripted) const
+{
+    /// The own topic of the three pages that show code to copy.
+    constexpr int manualPagesTopic = 50;
+    const EditorHelp help =
+        setWebPageEditor(settings.Get(u"Misc", u"HTMLEditor", u""), isScripted, manualPagesTopic);
+    for (CodePanel* panel : Codes)
+        panel->OfferHelp(help);
+}
+
+} // namespace orvane

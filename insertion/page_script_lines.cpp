@@ -1,0 +1,91 @@
+#include "insertion/page_script_lines.h"
+
+#include "core/text.h"
+#include "insertion/page_script.h"
+
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::string_view beginLine = "<!-- Begin Orvane page script -->";
+constexpr std::string_view endLine = "<!-- End Orvane page script -->";
+
+bool IsBlank(std::string_view code, std::size_t begin, std::size_t end)
+{
+    return WithoutBlanksInFront(CodeIn(code, {begin, end})).empty();
+}
+
+/// Reads the SCRIPT tag of the lines; false when it leads to another file.
+bool ReadTag(std::string_view tag, PageScriptLines& lines)
+{
+    const std::string file = ToBytes(pageScriptFile);
+    bool isOurs = false;
+    tag.remove_prefix(std::string_view("<script").size());
+    while (const auto attribute = NextAttribute(tag)) {
+        if (EqualIgnoringCase(attribute->Name, "src")) {
+            isOurs = EndsWithIgnoringCase(attribute->Value, file);
+            lines.IsChanged = lines.IsChanged || attribute->Value != file;
+        } else if (attribute->Name == "data-onload") {
+            lines.Carried.OnLoad = attribute->Value;
+        } else if (attribute->Name == "data-onunload") {
+            lines.Carried.OnUnload = attribute->Value;
+        } else {
+            lines.IsChanged = true;
+        }
+    }
+    return isOurs;
+}
+
+/// The lines if they begin with this comment, and hold the one script and nothing else.
+std::optional<PageScriptLines> LinesAt(std::string_view code, const Markup& comment)
+{
+    if (CodeIn(code, comment.Whole) != beginLine)
+        return std::nullopt;
+    const Markup tag = NextMarkup(code, comment.Next);
+    const Markup closeTag = NextMarkup(code, tag.Next);
+    const Markup end = NextMarkup(code, closeTag.Next);
+    PageScriptLines lines{.Whole = {comment.Whole.Begin, end.Whole.End}};
+    const bool areWhole = IsTag(code, tag.Whole.Begin, "<script") &&
+                          IsTag(code, closeTag.Whole.Begin, "</script") &&
+                          CodeIn(code, end.Whole) == endLine;
+    const bool areAlone = IsBlank(code, comment.Whole.End, tag.Whole.Begin) &&
+                          IsBlank(code, tag.Whole.End, closeTag.Whole.Begin) &&
+                          IsBlank(code, closeTag.Whole.End, end.Whole.Begin);
+    if (!areWhole || !areAlone || !ReadTag(CodeIn(code, tag.Whole), lines))
+        return std::nullopt;
+    lines.Code = CodeIn(code, lines.Whole);
+    return lines;
+}
+
+} // namespace
+
+std::optional<PageScriptLines> FindPageScriptLines(std::string_view page)
+{
+    // Most pages have none, and a page may be long.
+    if (page.find(beginLine) == std::string_view::npos)
+        return std::nullopt;
+    for (Markup markup = NextMarkup(page, 0); markup.Whole.Begin < page.size();
+         markup = NextMarkup(page, markup.Next))
+        if (auto lines = LinesAt(page, markup))
+            return lines;
+    return std::nullopt;
+}
+
+std::optional<PageScriptLines> TakePageScriptLines(std::string& page)
+{
+    std::optional<PageScriptLines> first;
+    while (auto lines = FindPageScriptLines(page)) {
+        page.erase(lines->Whole.Begin, lines->Whole.End - lines->Whole.Begin);
+        if (!first) {
+            first = std::move(lines);
+            continue;
+        }
+        first->Carried.OnLoad += ";" + lines->Carried.OnLoad;
+        first->Carried.OnUnload += ";" + lines->Carried.OnUnload;
+    }
+    return first;
+}
+
+} // namespace orvane
