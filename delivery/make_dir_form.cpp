@@ -4,6 +4,7 @@
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
+#include "windows/remember_place.h"
 
 #include <QPushButton>
 
@@ -20,6 +21,7 @@ MakeDirForm::MakeDirForm(Workbench& bench, TextView folder, QWidget* parent)
 {
     setObjectName(QStringLiteral("MakeDir"));
     setWindowTitle(QStringLiteral("Create Folder"));
+    RememberPlace(*this, bench.Settings);
     PageBuilder page(this);
     m_boxes = new FolderBoxes(bench.Files, {"Drive1", "Dir1", {}}, u"*.*");
     m_boxes->GoTo(folder);

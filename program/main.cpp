@@ -11,6 +11,7 @@
 #include "program/qt_shell.h"
 #include "program/terminal.h"
 #include "windows/qt_text.h"
+#include "windows/remember_place.h"
 
 #include <QApplication>
 #include <QDate>
@@ -90,6 +91,7 @@ int main(int argc, char** argv)
     core.ProgramFolder = folders->Program;
     QtPreviewPane pane(dialogs, shell, files);
     HelpForm help(files, shell, folders->Program, FormDesk::ListEffectsOfTags());
+    RememberPlace(help, settings);
 
     Workbench bench{.Core = core,
                     .Dialogs = dialogs,

@@ -3,6 +3,7 @@
 #include "reedit/applet_tag.h"
 #include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
+#include "windows/remember_place.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -35,6 +36,7 @@ EditAppletForm::EditAppletForm(Workbench& bench, QWidget* parent)
 {
     setObjectName(QStringLiteral("EditAppletForm"));
     setWindowTitle(QStringLiteral("Edit Applet"));
+    RememberPlace(*this, bench.Settings);
     auto* all = new QVBoxLayout(this);
     all->addWidget(m_panels);
     AddPastePanel();

@@ -2,10 +2,10 @@
 
 #include "core/file_names.h"
 #include "core/numbers.h"
+#include "services/move_row.h"
 #include "services/recorded_files.h"
 
 #include <array>
-#include <utility>
 
 namespace orvane {
 
@@ -92,8 +92,7 @@ std::optional<Complaint> MoveUp(ImageList& list, TextView listInMessages)
 {
     if (!list.Selected || *list.Selected == 0)
         return CannotMove(listInMessages, u"You cannot move the first image upward.");
-    std::swap(list.Rows[*list.Selected], list.Rows[*list.Selected - 1]);
-    --*list.Selected;
+    MoveSelectedTo(list, *list.Selected - 1);
     return std::nullopt;
 }
 
@@ -101,8 +100,7 @@ std::optional<Complaint> MoveDown(ImageList& list, TextView listInMessages)
 {
     if (!list.Selected || *list.Selected + 1 >= list.Rows.size())
         return CannotMove(listInMessages, u"You cannot move the last image downward.");
-    std::swap(list.Rows[*list.Selected], list.Rows[*list.Selected + 1]);
-    ++*list.Selected;
+    MoveSelectedTo(list, *list.Selected + 1);
     return std::nullopt;
 }
 

@@ -14,6 +14,9 @@ inline constexpr TextView imageFilter =
 inline constexpr TextView linkedPageFilter =
     u"All Files (*.*)|*.*|HTML Files (*.htm, *.html)|*.htm;*.html";
 
+/// The files that are taken for such an image when they are dropped on a window.
+inline constexpr TextView pictureMasks = u"*.gif;*.jpg;*.jpeg";
+
 /// The dialog in which the author picks an image.
 inline FileRequest ImageRequest()
 {

@@ -36,6 +36,14 @@ void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name)
         ++core.RequiredFileCount;
 }
 
+Text SourceOf(const OrvaneCore& core, TextView name)
+{
+    for (std::size_t slot = core.Required.Names.size(); slot-- > 0;)
+        if (!name.empty() && core.Required.Names[slot] == name)
+            return core.Required.Sources[slot];
+    return {};
+}
+
 void SetRequiredFileCount(OrvaneCore& core)
 {
     std::size_t count = core.Required.Names.size();

@@ -25,6 +25,10 @@ void ClearRequiredFiles(OrvaneCore& core);
 /// nothing is recorded, and the count goes on.
 void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name);
 
+/// Where the file of that name was recorded from, the last time that it was; empty for one that was
+/// not.
+Text SourceOf(const OrvaneCore& core, TextView name);
+
 /// Counts the recorded files anew after the tables were filled: the next free slot is the one
 /// behind the last that is used.
 void SetRequiredFileCount(OrvaneCore& core);

@@ -1,6 +1,6 @@
 #include "services/row_list.h"
 
-#include <utility>
+#include "services/move_row.h"
 
 namespace orvane {
 
@@ -36,8 +36,7 @@ std::optional<Complaint> MoveRowUp(RowList& list, const RowListWords& words)
 {
     if (!list.Selected || *list.Selected == 0)
         return Complaint{Text(words.CannotMoveUp), {}};
-    std::swap(list.Rows[*list.Selected], list.Rows[*list.Selected - 1]);
-    --*list.Selected;
+    MoveSelectedTo(list, *list.Selected - 1);
     return std::nullopt;
 }
 
@@ -45,8 +44,7 @@ std::optional<Complaint> MoveRowDown(RowList& list, const RowListWords& words)
 {
     if (!list.Selected || *list.Selected + 1 >= list.Rows.size())
         return Complaint{Text(words.CannotMoveDown), {}};
-    std::swap(list.Rows[*list.Selected], list.Rows[*list.Selected + 1]);
-    ++*list.Selected;
+    MoveSelectedTo(list, *list.Selected + 1);
     return std::nullopt;
 }
 

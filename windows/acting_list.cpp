@@ -33,4 +33,14 @@ void ActingList::keyPressEvent(QKeyEvent* event)
         QListWidget::keyPressEvent(event);
 }
 
+QItemSelectionModel::SelectionFlags ActingList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const
+{
+    const bool isPress = event != nullptr && (event->type() == QEvent::MouseButtonPress ||
+                                              event->type() == QEvent::MouseButtonRelease);
+    if (isPress && !index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    return QListWidget::selectionCommand(index, event);
+}
+
 } // namespace orvane

@@ -5,7 +5,7 @@
 namespace orvane {
 
 /// A list that tells of double clicks wherever they fall, and of Enter and Delete while a row is
-/// selected; the first arrow key selects its first row.
+/// selected; the first arrow key selects its first row. A press beside the rows changes nothing.
 class ActingList : public QListWidget
 {
     Q_OBJECT
@@ -24,6 +24,8 @@ signals:
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 };
 
 } // namespace orvane

@@ -180,16 +180,16 @@ void FolderBoxes::PickFolder(int row)
 
 Text FolderBoxes::FileName() const
 {
-    const std::vector<Text> names = SelectedFiles();
-    return names.empty() ? Text() : names.front();
+    const QListWidgetItem* item = m_files == nullptr ? nullptr : m_files->currentItem();
+    return item != nullptr && item->isSelected() ? FromQt(item->text()) : Text();
 }
 
 std::vector<Text> FolderBoxes::SelectedFiles() const
 {
     std::vector<Text> names;
-    if (m_files != nullptr)
-        for (const QListWidgetItem* item : m_files->selectedItems())
-            names.push_back(FromQt(item->text()));
+    for (int row = 0; m_files != nullptr && row < m_files->count(); ++row)
+        if (m_files->item(row)->isSelected())
+            names.push_back(FromQt(m_files->item(row)->text()));
     return names;
 }
 

@@ -39,10 +39,11 @@ public:
 
     const Text& Folder() const { return m_folder; }
 
-    /// The selected name of the file box, or the empty text.
+    /// The selected name of the file box, of several the one that the author came to last; or the
+    /// empty text.
     Text FileName() const;
 
-    /// All selected names, for a file box in which several may be selected.
+    /// All selected names from top to bottom, for a file box in which several may be selected.
     std::vector<Text> SelectedFiles() const;
 
     QComboBox* DriveBox() const { return m_drives; }

@@ -1,7 +1,10 @@
 #include "windows/image_list_panel.h"
 
 #include "core/file_names.h"
+#include "services/move_row.h"
 #include "services/recorded_files.h"
+#include "services/said_once.h"
+#include "windows/file_drop.h"
 #include "windows/folder_boxes.h"
 #include "windows/parallel_lists.h"
 #include "windows/picture.h"
@@ -40,6 +43,7 @@ ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& varia
     m_boxes = new FolderBoxes(m_bench.Files, {"Drive1", "Dir1", "File1"}, imageMasks);
     m_boxes->GoTo(m_bench.Core.DefaultPath);
     m_boxes->FileBox()->setToolTip(ToQt(variation.FilesTip));
+    m_boxes->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     cmdAdd = MakeButton(variation.AddButton, variation.AddCaption, variation.AddTip);
     m_lists = new ParallelLists(ColumnsOf(variation), variation.RowTip);
     cmdMoveUp = MakeButton("cmdMoveUp", u"Move Up");
@@ -89,9 +93,14 @@ void ImageListPanel::Connect()
 {
     connect(m_boxes, &FolderBoxes::FolderPicked, this,
             [this] { SaveDefaultPath(m_bench.Core, m_bench.Settings, m_boxes->Folder()); });
-    connect(m_boxes, &FolderBoxes::FileSelected, this, &ImageListPanel::LoadSelectedPicture);
+    connect(m_boxes, &FolderBoxes::FileSelected, this, [this] {
+        if (const Text name = m_boxes->FileName(); !name.empty())
+            LoadPictureOf(PathIn(m_boxes->Folder(), name));
+    });
     connect(m_boxes, &FolderBoxes::FileActivated, this, &ImageListPanel::AddImageToList);
-    connect(cmdAdd, &QPushButton::clicked, this, &ImageListPanel::AddSelectedFile);
+    connect(new FileDrop(*m_lists, imageMasks), &FileDrop::Dropped, this,
+            &ImageListPanel::AddFiles);
+    connect(cmdAdd, &QPushButton::clicked, this, &ImageListPanel::AddSelectedFiles);
     connect(cmdMoveUp, &QPushButton::clicked, this,
             [this] { Tell(MoveUp(m_list, m_variation.ListInMessages)); });
     connect(cmdMoveDown, &QPushButton::clicked, this,
@@ -102,8 +111,13 @@ void ImageListPanel::Connect()
     };
     connect(cmdDelete, &QPushButton::clicked, this, remove);
     connect(m_lists, &ParallelLists::RowDeleted, this, remove);
+    connect(m_lists, &ParallelLists::RowDragged, this, [this](int place) {
+        MoveSelectedTo(m_list, static_cast<std::size_t>(place));
+        ShowList();
+    });
     connect(m_lists, &ParallelLists::RowSelected, this, [this](int row) {
         m_list.Selected = row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
+        ShowPictureOfRow();
         emit RowSelected();
     });
     connect(m_lists, &ParallelLists::RowActivated, this, &ImageListPanel::RowActivated);
@@ -134,12 +148,10 @@ void ImageListPanel::SetRow(std::size_t index, ImageRow row)
     ShowList();
 }
 
-void ImageListPanel::LoadSelectedPicture()
+/// A file that is no picture leaves the one before it and its size.
+void ImageListPanel::LoadPictureOf(const Text& path)
 {
-    const Text name = m_boxes->FileName();
-    if (name.empty())
-        return;
-    const auto picture = LoadPicture(ToQt(PathIn(m_boxes->Folder(), name)), previewRoom);
+    const auto picture = LoadPicture(ToQt(path), previewRoom);
     if (!picture)
         return;
     m_pictureSize = picture->Size;
@@ -147,25 +159,56 @@ void ImageListPanel::LoadSelectedPicture()
         m_preview->setPixmap(QPixmap::fromImage(picture->Thumbnail));
 }
 
-void ImageListPanel::AddSelectedFile()
+void ImageListPanel::ShowPictureOfRow()
 {
-    if (m_boxes->FileName().empty())
+    if (m_preview == nullptr || !m_list.Selected)
+        return;
+    const Text path = SourceOf(m_bench.Core, m_list.Rows[*m_list.Selected].FileName);
+    const auto picture = LoadPicture(ToQt(path), previewRoom);
+    m_preview->setPixmap(picture ? QPixmap::fromImage(picture->Thumbnail) : QPixmap());
+}
+
+void ImageListPanel::AddSelectedFiles()
+{
+    if (m_boxes->SelectedFiles().empty())
         return m_bench.Dialogs.Say(noImageSelected);
     AddImageToList();
 }
 
 void ImageListPanel::AddImageToList()
 {
+    std::vector<Text> paths;
+    for (const Text& name : m_boxes->SelectedFiles())
+        paths.push_back(PathIn(m_boxes->Folder(), name));
+    if (paths.empty())
+        paths.push_back(PathIn(m_boxes->Folder(), {}));
+    AddFiles(paths);
+}
+
+/// Adds what can be added, and says each thing that speaks against the others once.
+void ImageListPanel::AddFiles(const std::vector<Text>& paths)
+{
     // The buttons come alive even if the name is refused.
     if (m_variation.EnablesButtonsOnAdd)
         EnableListButtons(true);
-    const auto complaint =
-        orvane::AddImageToList(m_list, m_bench.Core, m_boxes->Folder(), m_boxes->FileName());
-    Tell(complaint);
+    std::vector<Complaint> complaints;
+    for (const Text& path : paths)
+        AddOnce(complaints, AddFile(path));
+    ShowList();
+    for (const Complaint& complaint : complaints)
+        m_bench.Dialogs.Say(complaint.Words, complaint.Look);
+}
+
+std::optional<Complaint> ImageListPanel::AddFile(const Text& path)
+{
+    LoadPictureOf(path);
+    auto complaint =
+        orvane::AddImageToList(m_list, m_bench.Core, FolderOf(path), GetFileName(path));
     if (complaint || m_width == nullptr)
-        return;
+        return complaint;
     m_width->setText(ToQt(GrownField(FromQt(m_width->text()), m_pictureSize.width())));
     m_height->setText(ToQt(GrownField(FromQt(m_height->text()), m_pictureSize.height())));
+    return std::nullopt;
 }
 
 void ImageListPanel::ShowList()
@@ -177,6 +220,7 @@ void ImageListPanel::ShowList()
             row.push_back(image.*column.Field);
     }
     m_lists->Show(rows);
+    emit RowsChanged();
 }
 
 void ImageListPanel::EnableListButtons(bool isOn)

@@ -17,7 +17,8 @@ class FolderBoxes;
 class ParallelLists;
 
 /// The part of a window in which the author picks images and puts them in order: drive, folder and
-/// file box, the image list with the lists in step with it, and their buttons.
+/// file box, the image list with the lists in step with it, and their buttons. Images can be
+/// dropped on the list as well.
 class ImageListPanel : public QWidget
 {
     Q_OBJECT
@@ -39,10 +40,12 @@ public:
     /// Changes what is set for one image, and selects it. Expects a row that is there.
     void SetRow(std::size_t index, ImageRow row);
 
-    /// Adds the file that is selected in the file box, without asking whether one is.
+    /// Adds the files that are selected in the file box, without asking whether one is.
     void AddImageToList();
 
 signals:
+    /// The rows are others than before, by the author or the program.
+    void RowsChanged();
     /// The author selected another row, or none.
     void RowSelected();
     /// A double click on a row, or Enter.
@@ -54,8 +57,11 @@ private:
     QWidget* MakePreview();
     void Arrange();
     void Connect();
-    void LoadSelectedPicture();
-    void AddSelectedFile();
+    void LoadPictureOf(const Text& path);
+    void ShowPictureOfRow();
+    void AddSelectedFiles();
+    void AddFiles(const std::vector<Text>& paths);
+    std::optional<Complaint> AddFile(const Text& path);
     void EnableListButtons(bool isOn);
     void ShowList();
     void Tell(const std::optional<Complaint>& complaint);

@@ -1,6 +1,7 @@
 #include "windows/ok_cancel_form.h"
 
 #include "windows/qt_text.h"
+#include "windows/remember_place.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -15,6 +16,7 @@ OkCancelForm::OkCancelForm(ControlName name, TextView title, int helpTopic, Work
     setObjectName(ToQt(name));
     setWindowTitle(ToQt(title));
     setModal(true);
+    RememberPlace(*this, bench.Settings);
     auto* all = new QVBoxLayout(this);
     all->addWidget(m_rows.Page(), 1);
     m_rows.Page()->layout()->setContentsMargins({});

@@ -1,13 +1,13 @@
 #include "windows/parallel_lists.h"
 
-#include "windows/acting_list.h"
+#include "windows/movable_list.h"
 #include "windows/qt_text.h"
 
 #include <QLabel>
-
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QUuid>
 #include <QVBoxLayout>
 
 namespace orvane {
@@ -22,12 +22,14 @@ QString FirstLine(TextView text)
 } // namespace
 
 ParallelLists::ParallelLists(std::vector<ListColumn> columns, TextView rowTip, QWidget* parent)
-    : QWidget(parent), m_columns(std::move(columns))
+    : QWidget(parent),
+      m_columns(std::move(columns)),
+      m_family(QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     for (const ListColumn& column : m_columns) {
-        ActingList* list = MakeList(column);
+        MovableList* list = MakeList(column);
         list->setToolTip(ToQt(rowTip));
         auto* header = new QLabel(ToQt(column.Header));
         header->setBuddy(list);
@@ -45,9 +47,9 @@ ParallelLists::ParallelLists(std::vector<ListColumn> columns, TextView rowTip, Q
     all->addWidget(splitter);
 }
 
-ActingList* ParallelLists::MakeList(const ListColumn& column)
+MovableList* ParallelLists::MakeList(const ListColumn& column)
 {
-    auto* list = new ActingList;
+    auto* list = new MovableList(m_family);
     list->setObjectName(ToQt(column.Name));
     list->setAccessibleName(ToQt(column.Header));
     list->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -63,21 +65,22 @@ ActingList* ParallelLists::MakeList(const ListColumn& column)
             list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
     connect(list, &QListWidget::itemSelectionChanged, this, [this, list] { Follow(*list); });
-    connect(list, &ActingList::DoubleClicked, this, &ParallelLists::RowActivated);
-    connect(list, &ActingList::Entered, this, &ParallelLists::RowActivated);
-    connect(list, &ActingList::Deleted, this, &ParallelLists::RowDeleted);
+    connect(list, &MovableList::DoubleClicked, this, &ParallelLists::RowActivated);
+    connect(list, &MovableList::Entered, this, &ParallelLists::RowActivated);
+    connect(list, &MovableList::Deleted, this, &ParallelLists::RowDeleted);
+    connect(list, &MovableList::RowDragged, this, &ParallelLists::RowDragged);
     connect(list, &QWidget::customContextMenuRequested, this, [this, list](QPoint place) {
         if (list->itemAt(place) != nullptr)
             emit MenuRequested(list->viewport()->mapToGlobal(place));
     });
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
-        for (ActingList* other : m_lists)
+        for (MovableList* other : m_lists)
             other->verticalScrollBar()->setValue(value);
     });
     return list;
 }
 
-void ParallelLists::Follow(const ActingList& list)
+void ParallelLists::Follow(const MovableList& list)
 {
     const int row = list.SelectedRow();
     SelectInAll(row);
@@ -86,7 +89,7 @@ void ParallelLists::Follow(const ActingList& list)
 
 void ParallelLists::SelectInAll(int row)
 {
-    for (ActingList* list : m_lists) {
+    for (MovableList* list : m_lists) {
         if (list->SelectedRow() == row)
             continue;
         const QSignalBlocker quiet(list);
@@ -98,13 +101,13 @@ void ParallelLists::Show(const RowList& rows)
 {
     const int count = static_cast<int>(rows.Rows.size());
     for (std::size_t column = 0; column < m_lists.size(); ++column) {
-        ActingList* list = m_lists[column];
+        MovableList* list = m_lists[column];
         const QSignalBlocker quiet(list);
         // Rows that stay keep their place on the screen.
         while (list->count() > count)
             delete list->takeItem(list->count() - 1);
         while (list->count() < count)
-            list->addItem(QString());
+            list->AddRow();
         for (int row = 0; row < count; ++row)
             list->item(row)->setText(
                 FirstLine(rows.Rows[static_cast<std::size_t>(row)].at(column)));

@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-class ActingList;
+class MovableList;
 
 /// One of the lists of a window that speak of the same rows.
 struct ListColumn
@@ -18,7 +18,7 @@ struct ListColumn
 };
 
 /// Such lists side by side under their headers: they scroll as one, a row is selected in all of
-/// them, and Tab stops at the first alone.
+/// them, dragged in all of them, and Tab stops at the first alone.
 class ParallelLists : public QWidget
 {
     Q_OBJECT
@@ -36,16 +36,19 @@ signals:
     void RowActivated();
     /// Delete on a selected row.
     void RowDeleted();
+    /// The selected row was dragged to another place.
+    void RowDragged(int place);
     /// A right press on a row, or the menu key, at that place of the screen.
     void MenuRequested(QPoint globalPlace);
 
 private:
-    ActingList* MakeList(const ListColumn& column);
-    void Follow(const ActingList& list);
+    MovableList* MakeList(const ListColumn& column);
+    void Follow(const MovableList& list);
     void SelectInAll(int row);
 
     const std::vector<ListColumn> m_columns;
-    std::vector<ActingList*> m_lists; ///< one for each column
+    const QString m_family;            ///< what tells these lists from all others
+    std::vector<MovableList*> m_lists; ///< one for each column
 };
 
 } // namespace orvane

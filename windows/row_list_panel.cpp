@@ -1,5 +1,6 @@
 #include "windows/row_list_panel.h"
 
+#include "services/move_row.h"
 #include "windows/qt_text.h"
 
 #include <QHBoxLayout>
@@ -38,6 +39,8 @@ RowListPanel::RowListPanel(std::vector<ListColumn> columns, const RowListWords& 
     });
     connect(m_lists, &ParallelLists::RowActivated, this, [this] { Run(RowCommand::Edit, -1); });
     connect(m_lists, &ParallelLists::RowDeleted, this, [this] { Run(RowCommand::Remove, -1); });
+    connect(m_lists, &ParallelLists::RowDragged, this,
+            [this](int row) { MoveTo(static_cast<std::size_t>(row)); });
     Refresh();
 }
 
@@ -109,10 +112,21 @@ void RowListPanel::Run(RowCommand command, int button)
 void RowListPanel::Move(RowCommand command)
 {
     const bool isUp = command == RowCommand::MoveUp;
+    const std::size_t from = m_list.Selected.value_or(0);
     if (Refused(isUp ? MoveRowUp(m_list, m_words) : MoveRowDown(m_list, m_words)))
         return;
     Refresh();
-    emit RowsExchanged(isUp ? *m_list.Selected : *m_list.Selected - 1);
+    emit RowMoved(from, *m_list.Selected);
+}
+
+void RowListPanel::MoveTo(std::size_t place)
+{
+    const std::size_t from = m_list.Selected.value();
+    if (place == from)
+        return;
+    MoveSelectedTo(m_list, place);
+    Refresh();
+    emit RowMoved(from, place);
 }
 
 void RowListPanel::Refresh()

@@ -64,13 +64,14 @@ signals:
     void EditWanted();
     /// A row was removed.
     void RowRemoved(std::size_t row);
-    /// Two neighbours were exchanged; `upper` is the place of the first.
-    void RowsExchanged(std::size_t upper);
+    /// A row was moved to another place; those between closed up.
+    void RowMoved(std::size_t from, std::size_t to);
 
 private:
     std::size_t IndexOf(ControlName name) const;
     void Run(RowCommand command, int button);
     void Move(RowCommand command);
+    void MoveTo(std::size_t place);
     void Refresh();
     bool Refused(const std::optional<Complaint>& complaint);
 

@@ -2,6 +2,7 @@
 
 #include "windows/page_area.h"
 #include "windows/qt_text.h"
+#include "windows/remember_place.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -38,6 +39,7 @@ WizardFrame::WizardFrame(ControlName name, Workbench& bench, QWidget* parent)
 {
     setObjectName(ToQt(name));
     setModal(true);
+    RememberPlace(*this, bench.Settings);
     auto* all = new QVBoxLayout(this);
     all->addWidget(lblHeading);
     all->addWidget(lblSubHeading);

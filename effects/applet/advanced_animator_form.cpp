@@ -1,13 +1,18 @@
 #include "effects/applet/advanced_animator_form.h"
 
+#include "core/file_names.h"
 #include "core/pick_lists.h"
-#include "effects/applet/animation_project.h"
 #include "effects/applet/img_props_form.h"
+#include "services/recent_files.h"
 #include "windows/color_swatch.h"
 #include "windows/image_list_panel.h"
 #include "windows/qt_text.h"
+#include "windows/recent_menu.h"
+#include "windows/status_note.h"
 
+#include <QComboBox>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 
@@ -16,13 +21,15 @@ namespace orvane {
 namespace {
 
 constexpr TextView caption = u"Advanced Animation Wizard";
+constexpr TextView recentProjects = u"Projects";
 
 } // namespace
 
 AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
-    : EffectForm("Anim", bench, parent), m_images(new ImageListPanel(bench, AnimatorImageList()))
+    : EffectForm("Anim", bench, parent),
+      m_images(new ImageListPanel(bench, AnimatorImageList())),
+      m_note(new StatusNote)
 {
-    setWindowTitle(ToQt(caption));
     AddMenus();
     const CatalogueRow* row = FindRow(EffectKind::AdvancedAnimator);
     PageBuilder page = AddPage({row->Title, row->Description});
@@ -35,11 +42,13 @@ AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
     connect(m_images, &ImageListPanel::MenuRequested, this,
             [this](QPoint place) { mnuProperties->popup(place); });
     AddButtons(Buttons::OnePage, "cmdHelp");
+    KeepProject(UnnamedProject(Parameters()));
+    connect(m_images, &ImageListPanel::RowsChanged, this, &AdvancedAnimatorForm::ShowTitle);
 }
 
 void AdvancedAnimatorForm::ShowProject(TextView path)
 {
-    TakeProject(LoadProject(path, m_bench.Dialogs, m_bench.Files).value_or(Parameters()));
+    TakeProject(LoadProject(Project(), path, m_bench.Dialogs, m_bench.Files));
 }
 
 void AdvancedAnimatorForm::AddMenus()
@@ -53,16 +62,14 @@ void AdvancedAnimatorForm::AddMenus()
         connect(command, &QAction::triggered, this, run);
     };
     add(*mnuFile, "mnuFileNew", u"&New", QKeySequence::New,
-        [this] { TakeProject(NewProject(Parameters(), m_bench.Dialogs, caption)); });
+        [this] { TakeProject(NewProject(Project(), m_bench.Dialogs, caption)); });
     add(*mnuFile, "mnuFileOpen", u"&Open...", QKeySequence::Open,
-        [this] { TakeProject(OpenProject(Parameters(), m_bench.Dialogs, m_bench.Files)); });
-    add(*mnuFile, "mnuFileSave", u"&Save...", QKeySequence::Save, [this] {
-        const AdvancedAnimator animator = Parameters();
-        if (const auto complaint = CheckProject(animator))
-            return Report(*complaint);
-        SaveProject(animator, m_bench.Dialogs, m_bench.Files);
-    });
+        [this] { TakeProject(OpenProject(Project(), m_bench.Dialogs, m_bench.Files)); });
+    add(*mnuFile, "mnuFileSave", u"&Save...", QKeySequence::Save, [this] { Save(); });
     add(*mnuFile, "mnuFileReturnToMainMenu", u"&Return to Main menu", {}, [this] { reject(); });
+    mnuFile->addSeparator();
+    OfferRecentFiles(*AddMenu(*mnuFile, "mnuFileRecent", u"Open re&cent"), recentProjects, m_bench,
+                     [this](const Text& path) { ShowProject(path); });
     mnuProperties = AddMenu(*bar, "mnuProperties", u"&Properties");
     add(*mnuProperties, "mnuSetProperties", u"Set &Properties...", {}, [this] { SetProperties(); });
     layout()->setMenuBar(bar);
@@ -73,20 +80,57 @@ void AdvancedAnimatorForm::AddFields(PageBuilder& page)
     SetPropsButton = page.Button("SetPropsButton", u"Set Image &Properties");
     SetPropsButton->setEnabled(false);
     connect(SetPropsButton, &QPushButton::clicked, this, &AdvancedAnimatorForm::SetProperties);
-    page.Row({}, {new QWidget, SetPropsButton}); // to the right, below the lists
+    page.Row({}, {m_note, SetPropsButton}); // to the right, below the lists
     QLineEdit* width = page.TextBox("Text20", u"Width (pixels):");
-    m_images->SetSizeFields(width, page.TextBox("Text21", u"Height (pixels):"));
-    page.ComboBox("Combo3", u"Loop the animation:", CycleCounts, true);
+    QLineEdit* height = page.TextBox("Text21", u"Height (pixels):");
+    m_images->SetSizeFields(width, height);
+    QComboBox* loop = page.ComboBox("Combo3", u"Loop the animation:", CycleCounts, true);
     Label16 = page.ColorSwatch("Label16", u"Background Color:", ColorNotation::Channels);
+    for (const QLineEdit* box : {width, height})
+        connect(box, &QLineEdit::textChanged, this, &AdvancedAnimatorForm::ShowTitle);
+    connect(loop, &QComboBox::currentTextChanged, this, &AdvancedAnimatorForm::ShowTitle);
+    connect(Label16, &ColorSwatch::Picked, this, &AdvancedAnimatorForm::ShowTitle);
 }
 
 /// Stays as it is: the swatch goes on showing what was picked last.
-void AdvancedAnimatorForm::TakeProject(const AdvancedAnimator& animator)
+void AdvancedAnimatorForm::TakeProject(const AnimationProject& project)
 {
     const auto shown = Label16->Color();
-    SetParameters(animator);
+    SetParameters(project.Animation);
     Label16->SetValue(shown ? ColorText(*shown, ColorNotation::Channels) : Text());
-    Label16->SetHiddenValue(animator.BackgroundColor);
+    Label16->SetHiddenValue(project.Animation.BackgroundColor);
+    KeepProject(project);
+}
+
+void AdvancedAnimatorForm::Save()
+{
+    AnimationProject project = Project();
+    if (const auto complaint = CheckProject(project.Animation))
+        return Report(*complaint);
+    if (!SaveProject(project, m_bench.Dialogs, m_bench.Files))
+        return;
+    KeepProject(project);
+    m_note->Tell(u"Saved");
+}
+
+/// Remembers which project is open and what its file holds.
+void AdvancedAnimatorForm::KeepProject(const AnimationProject& project)
+{
+    m_path = project.Path;
+    m_saved = project.Saved;
+    if (!m_path.empty())
+        PutRecentFile(m_bench.Settings, recentProjects, m_path);
+    ShowTitle();
+}
+
+/// The window's classic words, then the name of the project; the toolkit marks unsaved changes.
+void AdvancedAnimatorForm::ShowTitle()
+{
+    QString name = ToQt(GetFileName(m_path));
+    name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    setWindowTitle(ToQt(caption) + (name.isEmpty() ? name : QStringLiteral(" - ") + name) +
+                   QStringLiteral("[*]"));
+    setWindowModified(IsModified(Project()));
 }
 
 void AdvancedAnimatorForm::SetProperties()

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "effects/applet/advanced_animator.h"
+#include "effects/applet/animation_project.h"
 #include "windows/effect_form.h"
 
 namespace orvane {
 
 class ImageListPanel;
+class StatusNote;
 
 /// The window of the Advanced Animator.
 class AdvancedAnimatorForm : public EffectForm<AdvancedAnimator>
@@ -19,12 +20,20 @@ public:
 private:
     void AddMenus();
     void AddFields(PageBuilder& page);
-    void TakeProject(const AdvancedAnimator& animator);
+    AnimationProject Project() const { return {Parameters(), m_path, m_saved}; }
+    void TakeProject(const AnimationProject& project);
+    void Save();
+    void KeepProject(const AnimationProject& project);
+    void ShowTitle();
+    void UpdateForm() override { ShowTitle(); }
     void SetProperties();
 
+    Text m_path;         ///< of the open project
+    std::string m_saved; ///< its bytes
     ImageListPanel* m_images;
     QPushButton* SetPropsButton = nullptr;
     orvane::ColorSwatch* Label16 = nullptr;
+    StatusNote* m_note;
     QMenu* mnuProperties = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include "effects/applet/animation_project.h"
 
+#include "core/file_names.h"
 #include "insertion/page_encoding.h"
 
 #include <algorithm>
@@ -166,39 +167,62 @@ std::optional<Complaint> CheckProject(const AdvancedAnimator& animator)
     return std::nullopt;
 }
 
-void SaveProject(const AdvancedAnimator& animator, Dialogs& dialogs, FileStore& files)
+AnimationProject UnnamedProject(const AdvancedAnimator& animation)
 {
-    // A failure says nothing; the file is then as it was.
-    if (const auto path = dialogs.SaveFile(ProjectRequest(u"Save As")))
-        static_cast<void>(files.Replace(*path, ProjectBytes(animator)));
+    return {.Animation = animation, .Path = {}, .Saved = ProjectBytes(animation)};
 }
 
-std::optional<AdvancedAnimator> LoadProject(TextView path, Dialogs& dialogs, const FileStore& files)
+bool IsModified(const AnimationProject& project)
+{
+    return ProjectBytes(project.Animation) != project.Saved;
+}
+
+bool SaveProject(AnimationProject& project, Dialogs& dialogs, FileStore& files)
+{
+    FileRequest request = ProjectRequest(u"Save As");
+    request.InitDir = FolderOf(project.Path);
+    request.FileName = GetFileName(project.Path);
+    const auto path = dialogs.SaveFile(request);
+    std::string bytes = ProjectBytes(project.Animation);
+    // A failure says nothing; the file is then as it was.
+    if (!path || FaultIn(files.Replace(*path, bytes)) != nullptr)
+        return false;
+    project.Path = *path;
+    project.Saved = std::move(bytes);
+    return true;
+}
+
+AnimationProject OpenProject(const AnimationProject& project, Dialogs& dialogs,
+                             const FileStore& files)
+{
+    if (const auto path = dialogs.OpenFile(ProjectRequest(u"Open")))
+        return LoadProject(project, *path, dialogs, files);
+    AnimationProject emptied = project;
+    emptied.Animation.Rows.clear();
+    return emptied;
+}
+
+AnimationProject LoadProject(const AnimationProject& project, TextView path, Dialogs& dialogs,
+                             const FileStore& files)
 {
     const auto bytes = files.Read(path);
     const Fault* fault = FaultIn(bytes);
     if (fault ? *fault == Fault::OutOfMemory : ValueIn(bytes).size() > sizeLimit) {
         dialogs.Say(u"This file is larger than 4 MB, which is too large for a project.");
-        return std::nullopt;
+        return project;
     }
-    return ReadProject(fault ? std::string_view() : ValueIn(bytes));
+    AnimationProject opened =
+        UnnamedProject(ReadProject(fault ? std::string_view() : ValueIn(bytes)));
+    if (fault == nullptr)
+        opened.Path = path;
+    return opened;
 }
 
-AdvancedAnimator OpenProject(const AdvancedAnimator& animator, Dialogs& dialogs,
-                             const FileStore& files)
-{
-    if (const auto path = dialogs.OpenFile(ProjectRequest(u"Open")))
-        return LoadProject(*path, dialogs, files).value_or(animator);
-    AdvancedAnimator emptied = animator;
-    emptied.Rows.clear();
-    return emptied;
-}
-
-AdvancedAnimator NewProject(const AdvancedAnimator& animator, Dialogs& dialogs, TextView caption)
+AnimationProject NewProject(const AnimationProject& project, Dialogs& dialogs, TextView caption)
 {
     if (!dialogs.AskOrCancel(u"Do you want to start a new animation?", caption).value_or(false))
-        return animator;
-    return {.LoopCount = animator.LoopCount};
+        return project;
+    return UnnamedProject({.LoopCount = project.Animation.LoopCount});
 }
 
 } // namespace orvane

@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "effects/applet/applet_tag_builder.h"
 #include "reedit/applet_values.h"
+#include "services/move_row.h"
 
 #include <algorithm>
 
@@ -59,13 +60,13 @@ void ForgetImage(ImageFade& fade, std::size_t row)
     }
 }
 
-void ExchangeSources(ImageFade& fade, std::size_t upper)
+void MoveSource(ImageFade& fade, std::size_t from, std::size_t to)
 {
     auto& sources = fade.Required.Sources;
-    if (upper + 1 < sources.size())
-        std::swap(sources[upper], sources[upper + 1]);
-    else if (upper < sources.size())
-        sources[upper].clear();
+    std::vector<Text> moved(sources.begin(), sources.end());
+    moved.resize(std::max({moved.size(), from + 1, to + 1})); // images behind have none
+    MoveRow(moved, from, to);
+    std::copy_n(moved.begin(), sources.size(), sources.begin());
 }
 
 std::optional<Complaint> CheckFadeLink(TextView link)

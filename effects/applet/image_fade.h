@@ -62,8 +62,8 @@ std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image);
 /// Lets go of an image that left the lists: its source, and with the last one the size.
 void ForgetImage(ImageFade& fade, std::size_t row);
 
-/// Lets the sources follow two neighbours that changed places; `upper` is the place of the first.
-void ExchangeSources(ImageFade& fade, std::size_t upper);
+/// Lets the sources follow an image that was moved from one row to another.
+void MoveSource(ImageFade& fade, std::size_t from, std::size_t to);
 
 /// What speaks against a link that was entered for an image.
 std::optional<Complaint> CheckFadeLink(TextView link);

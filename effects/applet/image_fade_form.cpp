@@ -2,6 +2,8 @@
 
 #include "core/pick_lists.h"
 #include "effects/applet/image_fade_url_form.h"
+#include "services/said_once.h"
+#include "windows/file_drop.h"
 #include "windows/picture.h"
 #include "windows/row_list_panel.h"
 
@@ -44,11 +46,13 @@ ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
         ForgetImage(fade, row);
         Show(fade);
     });
-    connect(m_images, &RowListPanel::RowsExchanged, this, [this](std::size_t upper) {
+    connect(m_images, &RowListPanel::RowMoved, this, [this](std::size_t from, std::size_t to) {
         ImageFade fade = Parameters();
-        ExchangeSources(fade, upper);
+        MoveSource(fade, from, to);
         Show(fade);
     });
+    connect(new FileDrop(*m_images, pictureMasks), &FileDrop::Dropped, this,
+            &ImageFadeForm::AddImages);
     AddButtons(Buttons::OnePage, "cmdHelp");
 }
 
@@ -81,16 +85,22 @@ void ImageFadeForm::Show(const ImageFade& fade)
 
 void ImageFadeForm::AddImage()
 {
-    const auto path = m_bench.Dialogs.OpenFile(ImageRequest());
-    if (!path)
-        return;
+    if (const auto path = m_bench.Dialogs.OpenFile(ImageRequest()))
+        AddImages({*path});
+}
+
+void ImageFadeForm::AddImages(const std::vector<Text>& paths)
+{
     ImageFade fade = Parameters();
-    const std::size_t row = fade.FadeImages.size();
-    if (const auto complaint = orvane::AddImage(fade, Measured(*path)))
-        return Report(*complaint);
+    const std::size_t before = fade.FadeImages.size();
+    std::vector<Complaint> complaints;
+    for (const Text& path : paths)
+        AddOnce(complaints, orvane::AddImage(fade, Measured(path)));
     Show(fade);
-    if (row < fade.FadeImages.size())
-        m_images->Select(row);
+    if (before < fade.FadeImages.size())
+        m_images->Select(fade.FadeImages.size() - 1);
+    for (const Complaint& complaint : complaints)
+        Report(complaint);
 }
 
 void ImageFadeForm::EditLink()

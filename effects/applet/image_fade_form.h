@@ -16,6 +16,7 @@ public:
 private:
     void AddFields(PageBuilder& page);
     void AddImage();
+    void AddImages(const std::vector<Text>& paths);
     void EditLink();
 
     /// Shows the fade and keeps the selection.

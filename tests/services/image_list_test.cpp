@@ -1,5 +1,6 @@
 #include "services/image_list.h"
 
+#include "services/move_row.h"
 #include "services/recorded_files.h"
 
 #include "tests/support/doubles.h"
@@ -114,6 +115,18 @@ TEST(ImageListTest, MovingTakesEveryPropertyOfTheImageAlong)
     EXPECT_EQ(MoveDown(list, u"Animation"), std::nullopt);
     EXPECT_EQ(Names(list), "a c b ");
     EXPECT_EQ(list.Rows[2], moved);
+}
+
+TEST(ImageListTest, DraggedRowStandsWhereItWasDropped)
+{
+    const std::tuple<std::size_t, std::size_t, const char*> cases[] = {
+        {0, 2, "b c a d "}, {3, 1, "a d b c "}, {1, 1, "a b c d "}, {0, 3, "b c d a "}};
+    for (const auto& [from, to, order] : cases) {
+        ImageList list = ListOf({u"a", u"b", u"c", u"d"}, from);
+        MoveSelectedTo(list, to);
+        EXPECT_EQ(Names(list), order);
+        EXPECT_EQ(list.Selected, to);
+    }
 }
 
 TEST(ImageListTest, MovingBeyondAnEndOrNothingIsAComplaintOfThatWizard)

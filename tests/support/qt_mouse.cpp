@@ -5,7 +5,10 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QUrl>
 
 namespace orvane::testing {
 
@@ -36,6 +39,21 @@ QPoint PlaceOf(QListWidget& list, int row)
     EXPECT_LT(row, list.count());
     list.scrollToItem(list.item(row));
     return list.visualItemRect(list.item(row)).center();
+}
+
+/// What a drag over a widget does that ends there.
+bool Drop(QWidget& target, QPoint place, const QMimeData& dragged, Qt::DropAction action)
+{
+    QDragEnterEvent enter(place, action, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &enter);
+    QDragMoveEvent move(place, action, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &move);
+    if (!enter.isAccepted() || !move.isAccepted())
+        return false;
+    QDropEvent drop(place, action, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &drop);
+    LetRun();
+    return drop.isAccepted();
 }
 
 } // namespace
@@ -94,6 +112,26 @@ void RightPressRow(QWidget& window, const char* name, int row)
     QApplication::sendEvent(list->viewport(), &menu);
     Send(*list, QEvent::MouseButtonRelease, Qt::RightButton, place);
     LetRun();
+}
+
+bool DragRow(QWidget& window, const char* name, int from, int to)
+{
+    auto* list = Find<QListWidget>(window, name);
+    ClickRow(window, name, from);
+    const std::unique_ptr<QMimeData> row(
+        list->model()->mimeData(list->selectionModel()->selectedIndexes()));
+    const QPoint half(0, to > from ? 2 : -2);
+    return Drop(*list->viewport(), PlaceOf(*list, to) + half, *row, Qt::MoveAction);
+}
+
+bool DropFiles(QWidget& target, const std::vector<Text>& paths)
+{
+    QList<QUrl> urls;
+    for (const Text& path : paths)
+        urls.push_back(QUrl::fromLocalFile(ToQt(path)));
+    QMimeData files;
+    files.setUrls(urls);
+    return Drop(target, target.rect().center(), files, Qt::CopyAction);
 }
 
 } // namespace orvane::testing

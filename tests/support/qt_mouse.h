@@ -30,4 +30,11 @@ void DoubleClickBelowRows(QWidget& window, const char* name);
 /// Presses the right button on a row of a list box, with the menu that it asks for.
 void RightPressRow(QWidget& window, const char* name, int row);
 
+/// Drags a row to where another one stands, onto the lower half of that row when it lies below;
+/// false when the list refused it.
+bool DragRow(QWidget& window, const char* name, int from, int to);
+
+/// Drops files on a widget; false when the sign of the drag refused them.
+bool DropFiles(QWidget& target, const std::vector<Text>& paths);
+
 } // namespace orvane::testing

@@ -198,6 +198,41 @@ TEST_F(ImageListPanelTest, ListsSelectScrollAndMoveAsOne)
     EXPECT_EQ(SelectedRowOf(m_window, "List4"), 3);
 }
 
+TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
+{
+    for (const TextView name : {u"a b.gif", u"c d.gif"})
+        AddFile(name, GifBytes(900, 900));
+    ImageListPanel& panel = Open({});
+    List("File1").selectAll();
+    Click(m_window, "cmdAddToImageList");
+    EXPECT_EQ(RowsOf(m_window, "List1"), (std::vector<Text>{u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x300"));
+
+    ClickRow(m_window, "List1", 0);
+    QWidget& place = *List("List1").viewport();
+    EXPECT_FALSE(DropFiles(place, {Path(u"wide.gif"), Path(u"page.html")}));
+    EXPECT_FALSE(DropFiles(place, {Path(u"gone.gif")}));
+    EXPECT_FALSE(DropFiles(place, {}));
+    EXPECT_TRUE(DropFiles(place, {Path(u"blank name/x.jpg"), Path(u"wide.gif")}));
+    EXPECT_EQ(RowsOf(m_window, "List1"),
+              (std::vector<Text>{u"x.jpg", u"wide.gif", u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(panel.Selected(), 2u);
+    EXPECT_EQ(m_desk.Core.Required.Sources[2], Path(u"blank name/x.jpg"));
+    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
+}
+
+TEST_F(ImageListPanelTest, DraggedRowTakesAllColumnsAlong)
+{
+    ImageListPanel& panel = Open(AnimatorImageList());
+    panel.SetRows({{u"a", u"1", {}, {}, {}}, {u"b", u"2", {}, {}, {}}, {u"c", u"3", {}, {}, {}}});
+    EXPECT_TRUE(DragRow(m_window, "List4", 0, 2));
+    EXPECT_EQ(RowsOf(m_window, "List3"), (std::vector<Text>{u"2", u"3", u"1"}));
+    EXPECT_EQ(SelectedRowOf(m_window, "List1"), 2);
+    EXPECT_TRUE(DragRow(m_window, "List1", 2, 1));
+    EXPECT_EQ(RowsOf(m_window, "List1"), (std::vector<Text>{u"b", u"a", u"c"}));
+}
+
 TEST_F(ImageListPanelTest, RowsTellOfDoubleClicksAndMenus)
 {
     ImageListPanel& panel = Open(AnimatorImageList());
@@ -232,6 +267,18 @@ TEST_F(ImageListPanelTest, BrokenPictureLeavesTheOldOneAndItsSize)
     Click(m_window, "cmdAddImageToList");
     EXPECT_EQ(RowsOf(m_window, "List1"), std::vector<Text>{u"bad.jpg"});
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
+}
+
+TEST_F(ImageListPanelTest, PreviewShowsThePictureOfTheSelectedRow)
+{
+    Open(SlideshowImageList()).SetRows({{.FileName = u"unknown.gif"}});
+    for (const TextView name : {u"wide.gif", u"Tall.GIF"})
+        DoubleClickRow(m_window, "File1", RowWith(m_window, "File1", name));
+    const auto* preview = Find<QLabel>(m_window, "lblPreviewImage");
+    ClickRow(m_window, "List1", 1);
+    EXPECT_EQ(preview->pixmap().size(), QSize(120, 40));
+    ClickRow(m_window, "List1", 0);
+    EXPECT_TRUE(preview->pixmap().isNull());
 }
 
 } // namespace

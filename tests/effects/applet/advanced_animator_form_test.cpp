@@ -3,9 +3,11 @@
 #include "effects/applet/animation_project.h"
 #include "effects/applet/img_props_form.h"
 #include "program/form_desk.h"
+#include "services/recent_files.h"
 #include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"
+#include "windows/qt_text.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -133,6 +135,48 @@ TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith
     });
     road.OpenProject(u"/film.ovn");
     EXPECT_EQ(image, u"b.gif");
+}
+
+TEST_F(AdvancedAnimatorFormTest, TitleTellsTheProjectAndItsUnsavedChanges)
+{
+    const auto title = [this] {
+        return FromQt(Form().windowTitle()) + (Form().isWindowModified() ? u" changed" : u"");
+    };
+    EXPECT_EQ(title(), u"Advanced Animation Wizard[*]");
+    AddImage(0);
+    EXPECT_EQ(title(), u"Advanced Animation Wizard[*] changed");
+    Type(Form(), "Text20", u"1");
+    Type(Form(), "Text21", u"2");
+    m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
+    Choose("mnuFileSave");
+    EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*]");
+    EXPECT_EQ(WordsOf(Form(), "lblNote"), u"Saved");
+    Type(Form(), "Text21", u"0");
+    EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*] changed");
+    m_desk.Files.FailOn(u"/film.ovn", Fault::PermissionDenied);
+    m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
+    Choose("mnuFileSave");
+    EXPECT_TRUE(Form().isWindowModified());
+}
+
+TEST_F(AdvancedAnimatorFormTest, RecentProjectsThatAreThereOpenFromTheMenu)
+{
+    const auto entries = [this] {
+        auto* menu = Form().findChild<QMenu*>("mnuFileRecent");
+        emit menu->aboutToShow();
+        return menu->actions();
+    };
+    EXPECT_FALSE(entries().at(0)->isEnabled());
+    m_desk.Files.Contents[u"/R&B.ovn"] = "\"5\",\"6\",\"NULL\",\"\",\"a.gif\"";
+    for (const TextView path : {u"/R&B.ovn", u"/gone.ovn", u"/film.ovn"})
+        PutRecentFile(m_desk.Settings, u"Projects", path);
+    m_desk.Files.Contents[u"/film.ovn"] = "";
+    ASSERT_EQ(entries().size(), 2);
+    EXPECT_EQ(entries().at(1)->text(), QStringLiteral("&2 /R&&B.ovn"));
+    entries().at(1)->trigger();
+    EXPECT_EQ(Form().Parameters().AnimationWidth, u"5");
+    EXPECT_EQ(entries().at(0)->text(), QStringLiteral("&1 /R&&B.ovn"));
+    EXPECT_FALSE(Form().isWindowModified());
 }
 
 } // namespace

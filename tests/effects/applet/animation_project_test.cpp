@@ -146,17 +146,25 @@ protected:
 TEST_F(ProjectDeskTest, SavesUnderTheNameAsGivenAndSaysNothingOfAFailure)
 {
     m_dialogs.AnswerSaveFile(u"/p/film");
-    SaveProject(TwoImages(), m_dialogs, m_files);
+    AnimationProject project{.Animation = TwoImages()};
+    EXPECT_TRUE(SaveProject(project, m_dialogs, m_files));
     const std::string saved = ProjectBytes(TwoImages());
     EXPECT_EQ(m_files.Contents[u"/p/film"], saved);
+    EXPECT_EQ(project, (AnimationProject{TwoImages(), u"/p/film", saved}));
     EXPECT_EQ(m_dialogs.Requests[0].Filter, u"All Files (*.*)|*.*|Orvane Animation (*.ovn)|*.ovn");
     EXPECT_EQ(m_dialogs.Requests[0].FilterIndex, 2);
 
+    project.Animation.Rows[0].Pause = u"7";
+    const AnimationProject unsaved = project;
     m_files.FailOn(u"/p/film", Fault::PermissionDenied);
-    m_dialogs.AnswerSaveFile(u"/p/film");
-    SaveProject(AdvancedAnimator{}, m_dialogs, m_files);
-    m_dialogs.AnswerSaveFile(std::nullopt);
-    SaveProject(AdvancedAnimator{}, m_dialogs, m_files);
+    for (const std::optional<Text>& answer :
+         {std::optional<Text>(u"/p/film"), std::optional<Text>()}) {
+        m_dialogs.AnswerSaveFile(answer);
+        EXPECT_FALSE(SaveProject(project, m_dialogs, m_files));
+        EXPECT_EQ(project, unsaved);
+        EXPECT_TRUE(IsModified(project));
+    }
+    EXPECT_EQ(m_dialogs.Requests[1].FileName, u"film");
     EXPECT_EQ(m_files.Contents[u"/p/film"], saved);
     EXPECT_EQ(m_files.Writes.size(), 2u);
     EXPECT_TRUE(m_dialogs.Said.empty());
@@ -165,36 +173,38 @@ TEST_F(ProjectDeskTest, SavesUnderTheNameAsGivenAndSaysNothingOfAFailure)
 TEST_F(ProjectDeskTest, OpensAProjectOrLeavesTheRowsEmpty)
 {
     m_files.Contents[u"/p/film.ovn"] = ProjectBytes(TwoImages());
-    m_dialogs.AnswerOpenFile(u"/p/film.ovn");
-    EXPECT_EQ(OpenProject({}, m_dialogs, m_files), TwoImagesRead());
+    const auto open = [this](const AnimationProject& project, std::optional<Text> answer) {
+        m_dialogs.AnswerOpenFile(std::move(answer));
+        return OpenProject(project, m_dialogs, m_files);
+    };
+    const AnimationProject film = open({}, u"/p/film.ovn");
+    EXPECT_EQ(film.Animation, TwoImagesRead());
+    EXPECT_EQ(film.Path, u"/p/film.ovn");
+    EXPECT_FALSE(IsModified(film));
 
-    m_dialogs.AnswerOpenFile(std::nullopt);
-    AdvancedAnimator emptied = TwoImages();
-    emptied.Rows.clear();
-    EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), emptied);
-
-    m_dialogs.AnswerOpenFile(u"/p/missing.ovn");
-    EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), ReadProject(""));
+    AnimationProject emptied = film;
+    emptied.Animation.Rows.clear();
+    EXPECT_EQ(open(film, std::nullopt), emptied);
+    EXPECT_EQ(open(film, u"/p/missing.ovn"), UnnamedProject(ReadProject("")));
     EXPECT_TRUE(m_dialogs.Said.empty());
 
     m_files.Contents[u"/p/large.ovn"] = std::string((4 << 20) + 1, '|');
-    m_dialogs.AnswerOpenFile(u"/p/large.ovn");
-    EXPECT_EQ(OpenProject(TwoImages(), m_dialogs, m_files), TwoImages());
+    EXPECT_EQ(open(film, u"/p/large.ovn"), film);
     EXPECT_EQ(m_dialogs.Said, std::vector<Text>{u"This file is larger than 4 MB, which is too "
                                                 u"large for a project."});
 }
 
 TEST_F(ProjectDeskTest, StartsANewAnimationOnYesAlone)
 {
-    AdvancedAnimator animator = TwoImages();
-    animator.LoopCount = u"3 times";
+    AnimationProject project{TwoImages(), u"/p/film.ovn", "other"};
+    project.Animation.LoopCount = u"3 times";
     for (const std::optional<bool> answer : {std::optional<bool>(false), std::optional<bool>()}) {
         m_dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", answer);
-        EXPECT_EQ(NewProject(animator, m_dialogs, u"Caption"), animator);
+        EXPECT_EQ(NewProject(project, m_dialogs, u"Caption"), project);
     }
     m_dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", true);
-    EXPECT_EQ(NewProject(animator, m_dialogs, u"Caption"),
-              AdvancedAnimator{.LoopCount = u"3 times"});
+    EXPECT_EQ(NewProject(project, m_dialogs, u"Caption"),
+              UnnamedProject({.LoopCount = u"3 times"}));
     EXPECT_EQ(m_dialogs.Titles.back(), u"Caption");
 }
 

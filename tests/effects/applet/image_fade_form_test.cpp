@@ -4,6 +4,7 @@
 #include "tests/support/doubles.h"
 #include "tests/support/picture_files.h"
 #include "tests/support/qt_controls.h"
+#include "tests/support/qt_mouse.h"
 #include "tests/support/test_folder.h"
 
 #include <QListWidget>
@@ -36,6 +37,25 @@ protected:
     TestFolder m_folder;
     ImageFadeForm m_form{m_desk.Bench};
 };
+
+TEST_F(ImageFadeFormTest, DroppedImagesComeInTheirOrderAndDraggedOnesTakeLinkAndSourceAlong)
+{
+    const auto path = [this](const char* name) { return m_folder.TextAt(name); };
+    m_folder.Put("e.txt", "text");
+    QWidget& links = *Find<QListWidget>(m_form, "FadeLinks")->viewport();
+    EXPECT_FALSE(DropFiles(links, {path("a.gif"), path("e.txt")}));
+    EXPECT_TRUE(DropFiles(links, {path("b.gif"), path("c.gif"), path("c.gif"), path("a.gif")}));
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    Click(m_form, "cmdLinkToURL");
+    auto* link = m_form.findChild<ImageFadeURLForm*>();
+    Type(*link, "txtURL", u"x");
+    Click(*link, "cmdOK");
+    EXPECT_TRUE(DragRow(m_form, "FadeImages", 1, 0));
+    const ImageFade fade = m_form.Parameters();
+    EXPECT_EQ(fade.FadeImages, (std::vector<Text>{u"a.gif", u"b.gif"}));
+    EXPECT_EQ(fade.FadeLinks, (std::vector<Text>{u"x", u""}));
+    EXPECT_EQ(fade.Required, (RequiredFiles{.Sources = {path("a.gif"), path("b.gif")}}));
+}
 
 TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
 {

@@ -55,7 +55,7 @@ TEST(ImageFadeTest, TakesImagesOfTheFirstOnesSize)
     fade.FadeImages.resize(60);
     fade.FadeLinks.resize(60);
     EXPECT_EQ(AddImage(fade, {u"/p/late.gif", PixelSize{100, 80}}), std::nullopt);
-    ExchangeSources(fade, 50); // the last that is recorded, and one that is not
+    MoveSource(fade, 50, 51); // the last that is recorded, and one that is not
     ForgetImage(fade, 60);
     EXPECT_NE(Find(Generate(fade).BODYHTML, u"\"IMAGE.60\" VALUE=\"late.gif\""), 0u);
 }
