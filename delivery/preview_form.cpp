@@ -61,7 +61,7 @@ void PreviewForm::AddPanels()
     m_methodPanel = Add(2, new MethodPanel);
     m_insertPanel = Add(3, new InsertPanel(m_bench, Desk()));
     AddCodePanels();
-    m_publishPanel = Add(7, new PublishPanel(Desk(), m_windows.MakeFolder));
+    m_publishPanel = Add(7, new PublishPanel(Desk(), m_bench.Settings, m_windows.MakeFolder));
     // No page shows it.
     Add(8, new FtpPanel(m_bench.Settings));
     m_finishPanel = Add(9, new FinishPanel(m_bench, m_payload, m_report));
@@ -91,6 +91,11 @@ void PreviewForm::ConnectPanels()
     connect(m_insertPanel, &InsertPanel::FilesMissing, this, [this](const Text& folder) {
         m_publishPanel->GoTo(folder);
         GoOnTo(8);
+    });
+    connect(m_finishPanel, &FinishPanel::BringBackWanted, this, [this](const Text& page) {
+        if (m_windows.BringBack(page))
+            m_report.PageBroughtBack(page);
+        m_finishPanel->Begin();
     });
     connect(m_publishPanel, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
