@@ -96,9 +96,12 @@ void InsertPanel::TakePage(const Text& path)
 void InsertPanel::ListRecentPages(QMenu& menu)
 {
     menu.clear();
-    for (const Text& path : RecentFiles(m_bench.Settings, m_bench.Files, recentPages))
-        connect(menu.addAction(ToQt(path).replace(u'&', QStringLiteral("&&"))), &QAction::triggered,
-                this, [this, path] { TakePage(path); });
+    int number = 0;
+    for (const Text& path : RecentFiles(m_bench.Settings, m_bench.Files, recentPages)) {
+        const QString shown = ToQt(path).replace(u'&', QStringLiteral("&&"));
+        QAction* page = menu.addAction(QStringLiteral("&%1 ").arg(++number % 10) + shown);
+        connect(page, &QAction::triggered, this, [this, path] { TakePage(path); });
+    }
 }
 
 void InsertPanel::WriteDown(const Text& page)
