@@ -8,6 +8,7 @@
 #include <optional>
 
 class QLabel;
+class QMenu;
 class QPushButton;
 
 namespace orvane {
@@ -41,21 +42,27 @@ signals:
 
 private:
     void BrowseForPage();
+    void TakePage(const Text& path);
+    void ListRecentPages(QMenu& menu);
+    /// The effect stands in the page with this full path.
+    void WriteDown(const Text& page);
     void InsertIntoPage();
     void SaveWebPage();
-    /// The missing names; nothing when a fault ended the copying and the author was told.
-    std::optional<MissingFiles> CopyFiles(TextView folder);
+    /// Whether all is there; nothing when a fault ended the copying and the author was told.
+    std::optional<bool> CopyFiles(TextView folder);
 
     Workbench& m_bench;
     const CopyDesk m_desk;
     bool m_isInserted = false;
     bool m_isSaved = false;
+    bool m_isNewPage = false;
 
     QLabel* lblAutoStep1;
     QLabel* lblAutoStep2;
     QLabel* lblAutoStep3;
     FileNameBox* txtFileName;
     QPushButton* cmdBrowse;
+    QPushButton* cmdRecentPages;
     QPushButton* cmdAutoInsert;
     QLabel* lblBackupFile;
     QPushButton* cmdSaveWebPage;

@@ -75,6 +75,11 @@ void PreviewForm::ConnectPanels()
         m_panels->Publish->GoTo(folder);
         GoOnTo(8);
     });
+    connect(m_panels->Finish, &FinishPanel::BringBackWanted, this, [this](const Text& page) {
+        if (m_windows.BringBack(page))
+            m_report.PageBroughtBack(page);
+        m_panels->Finish->Begin();
+    });
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);
@@ -195,8 +200,12 @@ void PreviewForm::ChooseRunsToday(bool isWanted)
 void PreviewForm::BeginPreview()
 {
     const MissingFiles missing = CopyRequiredFilesForPreview(Desk());
-    if (missing.empty())
-        return Preview(PreviewMode::Inline);
+    if (missing.empty()) {
+        Preview(PreviewMode::Inline);
+        // While the engine loads the page there is time to build the others.
+        QTimer::singleShot(0, this, &PreviewForm::NeedPanels);
+        return;
+    }
     SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);
     NeedPanels();
     ShowPanel(7);

@@ -10,6 +10,14 @@ namespace orvane {
 
 namespace {
 
+Text Listed(const MissingFiles& names)
+{
+    Text list;
+    for (const Text& name : names)
+        list += (list.empty() ? Text() : Text(u", ")) + name;
+    return list;
+}
+
 Text Lines(TextView first, TextView second)
 {
     return Join({first, lineEnd, second});
@@ -25,11 +33,12 @@ bool MayOverwrite(Dialogs& dialogs, TextView name)
     return dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
 }
 
-/// Whether a copy failed for a reason of that one file, so that the others may still be copied.
+/// Whether a copy failed for a reason of that one file, so that the others may still be copied, or
+/// at least be listed as missing.
 bool IsMissing(Fault fault)
 {
-    return fault == Fault::FileNotFound || fault == Fault::PermissionDenied ||
-           fault == Fault::PathFileAccess;
+    return fault == Fault::Cancelled || fault == Fault::FileNotFound ||
+           fault == Fault::PermissionDenied || fault == Fault::PathFileAccess;
 }
 
 void WriteDownCopied(const CopyDesk& desk, TextView folder, TextView name)
@@ -51,7 +60,7 @@ Done Miss(const CopyDesk& desk, TextView folder, TextView name, MissingFiles& mi
 Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView source,
                 MissingFiles& missing)
 {
-    const Done done = desk.Files.Copy(source, Join({folder, name}));
+    const Done done = desk.Copies->Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
     if (!fault)
         WriteDownCopied(desk, folder, name);
@@ -68,7 +77,8 @@ Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextVi
     const Text destination = Join({folder, name});
     if (desk.Files.IsTaken(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
-        if (EqualIgnoringCase(destination, source) || !MayOverwrite(desk.Dialogs, name))
+        if (EqualIgnoringCase(destination, source) || desk.Copies->IsCancelled() ||
+            !MayOverwrite(desk.Dialogs, name))
             return {};
     }
     return CopyOrMiss(desk, folder, name, source, missing);
@@ -97,6 +107,8 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
     const Text source = PathIn(desk.ProgramFolder, pageScriptFile);
     const Text destination = Join({folder, pageScriptFile});
     if (desk.Files.IsTaken(destination)) {
+        if (desk.Copies->IsCancelled())
+            return {};
         const auto own = desk.Files.Read(source);
         if (FaultIn(own))
             return Miss(desk, folder, pageScriptFile, missing);
@@ -111,10 +123,66 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
     return CopyOrMiss(desk, folder, pageScriptFile, source, missing);
 }
 
+/// The sources of all files that the payload names.
+std::vector<Text> SourcesOf(const CopyDesk& desk)
+{
+    const RequiredFiles& required = desk.Payload.Effect.Required;
+    std::vector<Text> sources(required.Sources.begin(), required.Sources.end());
+    for (const Text& name : desk.Payload.Effect.SupportFiles)
+        sources.push_back(PathIn(desk.ProgramFolder, name));
+    return sources;
+}
+
+/// Copies whatever a page needs; gives Cancelled when the author ended it.
+Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
+{
+    FollowedCopies copies(desk.Files, desk.Dialogs, folder, SourcesOf(desk));
+    desk.Copies = &copies;
+    const RequiredFiles& required = desk.Payload.Effect.Required;
+    for (std::size_t i = 0; i < required.Names.size(); ++i) {
+        if (required.Names[i].empty())
+            continue;
+        const Done done =
+            CopyListedFile(desk, folder, required.Names[i], required.Sources[i], missing);
+        if (FaultIn(done))
+            return done;
+    }
+    for (const auto copy : {CopyClassFiles, CopyPageScript}) {
+        const Done done = copy(desk, folder, missing);
+        if (FaultIn(done))
+            return done;
+    }
+    if (copies.IsCancelled())
+        return Fault::Cancelled;
+    return {};
+}
+
 bool IsListed(const std::vector<Text>& names, TextView name)
 {
     return std::any_of(names.begin(), names.end(),
                        [&](const Text& listed) { return EqualIgnoringCase(listed, name); });
+}
+
+/// Brings the author's files to the preview page; gives those that are missing there.
+MissingFiles CopyForPreview(const CopyDesk& desk)
+{
+    FollowedCopies copies(desk.Files, desk.Dialogs, desk.ProgramFolder, SourcesOf(desk));
+    const RequiredFiles& required = desk.Payload.Effect.Required;
+    const std::vector<Text> present = desk.Files.Files(desk.ProgramFolder);
+    MissingFiles missing;
+    for (std::size_t i = 0; i < required.Names.size(); ++i) {
+        const Text& name = required.Names[i];
+        if (name.empty())
+            continue;
+        if (required.Sources[i].empty()) {
+            missing.push_back(name);
+        } else if (!IsListed(present, name)) {
+            const Done done = copies.Copy(required.Sources[i], PathIn(desk.ProgramFolder, name));
+            if (FaultIn(done) && !copies.IsCancelled())
+                missing.push_back(name);
+        }
+    }
+    return missing;
 }
 
 /// Brings one selected file to its folder; false when the author or a fault prevented it.
@@ -129,65 +197,65 @@ bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, 
         IsListed(desk.Files.Files(toFolder), name) || desk.Files.IsTaken(destination);
     if (isThere && !MayOverwrite(desk.Dialogs, name))
         return false;
-    const Done done = desk.Files.Copy(source, destination);
+    const Done done = desk.Copies->Copy(source, destination);
     if (const Fault* fault = FaultIn(done)) {
-        desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
+        if (*fault != Fault::Cancelled)
+            desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
         return false;
     }
     WriteDownCopied(desk, toFolder, name);
     return true;
 }
 
+/// The names of those that were copied, each followed by ", ".
+Text CopyAllSelected(CopyDesk desk, TextView fromFolder, TextView toFolder,
+                     const std::vector<Text>& selected, MissingFiles& missing)
+{
+    std::vector<Text> sources;
+    for (const Text& name : selected)
+        sources.push_back(PathIn(fromFolder, name));
+    FollowedCopies copies(desk.Files, desk.Dialogs, toFolder, sources);
+    desk.Copies = &copies;
+    Text copied;
+    for (const Text& name : selected) {
+        if (copies.IsCancelled() || !CopySelected(desk, fromFolder, toFolder, name))
+            continue;
+        std::erase(missing, name);
+        copied += name + u", ";
+    }
+    return copied;
+}
+
 } // namespace
 
 Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
 {
-    const RequiredFiles& required = desk.Payload.Effect.Required;
     MissingFiles missing;
-    for (std::size_t i = 0; i < required.Names.size(); ++i) {
-        if (required.Names[i].empty())
-            continue;
-        const Done done =
-            CopyListedFile(desk, folder, required.Names[i], required.Sources[i], missing);
-        if (const Fault* fault = FaultIn(done))
-            return *fault;
-    }
-    for (const auto copy : {CopyClassFiles, CopyPageScript}) {
-        const Done done = copy(desk, folder, missing);
-        if (const Fault* fault = FaultIn(done))
-            return *fault;
-    }
-    if (missing.empty())
+    const Done done = CopyAll(desk, folder, missing);
+    if (const Fault* fault = FaultIn(done); fault && *fault != Fault::Cancelled)
+        return *fault;
+    if (missing.empty()) {
         desk.Dialogs.Say(
             Join({u"All files have been copied to the ", folder,
                   u" folder.  Now you can easily upload these files to the Internet."}));
-    else
+    } else if (FaultIn(done)) {
+        desk.Dialogs.Say(Join({u"You ended the copying.  These files were not copied to the ",
+                               folder, u" folder: ", Listed(missing)}),
+                         Tone::Exclamation);
+        return Fault::Cancelled;
+    } else {
         desk.Dialogs.Say(
             Lines(u"Orvane couldn't copy all the necessary files to the specified folder.",
                   u"Use the file list on the left to find the missing files and click the 'Copy' "
                   u"button to copy them."),
             Tone::Exclamation);
+    }
     return missing;
 }
 
 MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
 {
-    const RequiredFiles& required = desk.Payload.Effect.Required;
-    const std::vector<Text> present = desk.Files.Files(desk.ProgramFolder);
-    MissingFiles missing;
-    for (std::size_t i = 0; i < required.Names.size(); ++i) {
-        const Text& name = required.Names[i];
-        if (name.empty())
-            continue;
-        if (required.Sources[i].empty()) {
-            missing.push_back(name);
-        } else if (!IsListed(present, name)) {
-            const Done done =
-                desk.Files.Copy(required.Sources[i], PathIn(desk.ProgramFolder, name));
-            if (FaultIn(done))
-                missing.push_back(name);
-        }
-    }
+    const MissingFiles missing = CopyForPreview(desk);
     if (!missing.empty())
         desk.Dialogs.Say(
             Lines(u"Orvane can't preview the special effect because it could not find the "
@@ -221,15 +289,9 @@ void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
 {
     if (selected.empty())
         return desk.Dialogs.Say(u"Select a file from the list and then click the 'Copy' button");
-    Text copied;
-    for (const Text& name : selected) {
-        if (!CopySelected(desk, fromFolder, toFolder, name))
-            continue;
-        std::erase(missing, name);
-        copied += name + u", ";
-    }
     // Stays as it is: the box comes with an empty list when nothing was copied.
-    desk.Dialogs.Say(Paragraphs(u"The following files were successfully copied:", copied));
+    desk.Dialogs.Say(Paragraphs(u"The following files were successfully copied:",
+                                CopyAllSelected(desk, fromFolder, toFolder, selected, missing)));
 }
 
 } // namespace orvane
