@@ -1,12 +1,27 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/progress.h"
 #include "core/text.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 namespace orvane {
+
+/// What an author looks for in a file dialog; each has its own folder where the last one was found.
+enum class FolderPurpose
+{
+    Other, ///< nothing that is remembered
+    Pages,
+    Images,
+    Links, ///< pages and files that are linked to
+    Sounds,
+    Texts,
+    Projects,
+    Publishing, ///< where required files go
+};
 
 /// What a file dialog is asked for.
 struct FileRequest
@@ -14,8 +29,9 @@ struct FileRequest
     Text Title;
     Text Filter;         ///< label, pattern, label, pattern, separated by "|"
     int FilterIndex = 1; ///< the pair selected first, counted from 1
-    Text InitDir;        ///< empty: where the last dialog of this run ended
+    Text InitDir;        ///< empty: where the last file of this purpose, or of this run, was found
     Text FileName;       ///< the proposed name
+    FolderPurpose Purpose = FolderPurpose::Other;
 };
 
 /// A font as the font dialog shows it.
@@ -80,6 +96,10 @@ public:
 
     /// The font dialog's values when it closed; those handed in when the author cancelled.
     virtual FontChoice PickFont(const FontChoice& start) = 0;
+
+    /// Shows the words, how far the work is and a way to end it, once it has taken a moment.
+    /// Nothing else can be used from then on until the result is gone.
+    virtual std::unique_ptr<Progress> FollowWork(TextView words) = 0;
 
     /// Shows a previewed page's box and gives the author's answer.
     virtual PageBoxReply Answer(const PageBox& box) = 0;

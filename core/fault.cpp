@@ -33,6 +33,8 @@ TextView Words(Fault fault)
         return u"Path/File access error";
     case Fault::PathNotFound:
         return u"Path not found";
+    case Fault::Cancelled:
+        return u"Cancelled";
     }
     return u"Device I/O error";
 }

@@ -23,6 +23,7 @@ enum class Fault
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
+    Cancelled = 32755, ///< the author wanted no more
 };
 
 /// The fault's words for a message box, such as "Permission denied".

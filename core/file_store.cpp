@@ -13,7 +13,9 @@ Done MakeFolders(FileStore& files, TextView path, Access access)
         if (FaultIn(parent))
             return parent;
     }
-    return files.MakeFolder(path, access);
+    const Done made = files.MakeFolder(path, access);
+    // Another program may have been quicker.
+    return made == Done(Fault::PathFileAccess) && files.FolderExists(path) ? Done() : made;
 }
 
 } // namespace orvane

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "core/fault.h"
+#include "core/progress.h"
 #include "core/text.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +18,15 @@ enum class Access
 {
     AsUsual,
     OwnerAlone,
+};
+
+/// What is known of a file without reading it; of what a link leads to.
+struct FileFacts
+{
+    std::uint64_t Size = 0;   ///< in bytes
+    std::int64_t Written = 0; ///< when the content came, in seconds since 1970
+    bool IsLink = false;      ///< the name itself is a link
+    bool operator==(const FileFacts&) const = default;
 };
 
 /// The one door to the disk. Paths are texts; contents are bytes as they lie in the file.
@@ -32,6 +44,9 @@ public:
 
     /// True when the path leads to a file that is not the file `other` and holds exactly `bytes`.
     virtual Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const = 0;
+
+    /// Nothing when the path leads to no file, or the disk does not tell.
+    virtual std::optional<FileFacts> Facts(TextView path) const = 0;
 
     /// The whole content of a file. A missing file is FileNotFound, a missing folder PathNotFound,
     /// one of more than 512 MB OutOfMemory.
@@ -53,8 +68,9 @@ public:
                                       TextView like = {}) = 0;
 
     /// Puts a new file with the content of `from` under the name `to`, as PutNew() would; nothing
-    /// is done when both are one file.
-    [[nodiscard]] virtual Done Copy(TextView from, TextView to) = 0;
+    /// is done when both are one file. Gives Cancelled, with `to` as it was, when `progress` does
+    /// not want to go on.
+    [[nodiscard]] virtual Done Copy(TextView from, TextView to, Progress* progress = nullptr) = 0;
 
     /// Removes a file; a missing one is FileNotFound.
     [[nodiscard]] virtual Done Remove(TextView path) = 0;

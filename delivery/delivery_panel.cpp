@@ -32,7 +32,7 @@ DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolde
       Method(new MethodPanel),
       Insert(new InsertPanel(bench, desk)),
       Codes(MakeCodePanels(bench, desk)),
-      Publish(new PublishPanel(desk, std::move(makeFolder))),
+      Publish(new PublishPanel(desk, bench.Settings, std::move(makeFolder))),
       Ftp(new FtpPanel(bench.Settings)),
       Finish(new FinishPanel(bench, desk.Payload, *desk.Report))
 {

@@ -41,8 +41,15 @@ void DeliveryReport::PageWritten(TextView path)
 {
     FolderState& folder = At(FolderOf(path));
     AddOnce(folder.Pages, GetFileName(path));
+    std::erase(m_broughtBack, path);
     m_page = path;
     m_folder = folder.Path;
+}
+
+void DeliveryReport::PageBroughtBack(TextView path)
+{
+    std::erase(At(FolderOf(path)).Pages, GetFileName(path));
+    AddOnce(m_broughtBack, path);
 }
 
 void DeliveryReport::CodeCopied(TextView part)
@@ -65,6 +72,13 @@ void DeliveryReport::FileMissing(TextView folder, TextView name)
     std::erase(state.Copied, name);
 }
 
+bool DeliveryReport::HasDelivered() const
+{
+    return !m_parts.empty() ||
+           std::any_of(m_folders.begin(), m_folders.end(),
+                       [](const FolderState& folder) { return !folder.Pages.empty(); });
+}
+
 std::vector<Text> DeliveryReport::Lines() const
 {
     std::vector<Text> lines;
@@ -72,6 +86,7 @@ std::vector<Text> DeliveryReport::Lines() const
         lines.emplace_back(u"Nothing was delivered: no Web page was written, no HTML code was "
                            u"copied and no file was published.");
     AddLine(lines, u"HTML code copied for you to paste", m_parts);
+    AddLine(lines, u"Earlier version brought back", m_broughtBack);
     for (const FolderState& folder : m_folders) {
         AddLine(lines, Join({u"Web page with the special effect in ", folder.Path}), folder.Pages);
         AddLine(lines, Join({u"Copied to ", folder.Path}), folder.Copied);

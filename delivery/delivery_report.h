@@ -12,6 +12,8 @@ class DeliveryReport
 public:
     /// The effect stands in the page with this full path.
     void PageWritten(TextView path);
+    /// The page with this full path holds an earlier version again, without the effect.
+    void PageBroughtBack(TextView path);
     /// A piece of code, such as "HEAD", was put on the clipboard.
     void CodeCopied(TextView part);
     /// A file was brought to the folder, or could not be.
@@ -25,7 +27,7 @@ public:
     const Text& Folder() const { return m_folder; }
 
     /// Whether the effect reached a page or the clipboard.
-    bool HasDelivered() const { return !m_page.empty() || !m_parts.empty(); }
+    bool HasDelivered() const;
 
     /// What the author is told, line by line.
     std::vector<Text> Lines() const;
@@ -44,6 +46,7 @@ private:
     Text m_page;
     Text m_folder;
     std::vector<Text> m_parts;
+    std::vector<Text> m_broughtBack;
     std::vector<FolderState> m_folders;
 };
 

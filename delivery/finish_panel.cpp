@@ -1,6 +1,7 @@
 #include "delivery/finish_panel.h"
 
 #include "delivery/files_to_upload.h"
+#include "insertion/page_backups.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 
@@ -11,7 +12,7 @@ namespace orvane {
 
 FinishPanel::FinishPanel(Workbench& bench, const FinishedPayload& payload,
                          const DeliveryReport& report)
-    : m_payload(payload), m_report(report)
+    : m_bench(bench), m_payload(payload), m_report(report)
 {
     PageBuilder page(this);
     lblReport = page.Note({}, "lblReport");
@@ -21,7 +22,10 @@ FinishPanel::FinishPanel(Workbench& bench, const FinishedPayload& payload,
     cmdOpenFolder = page.Button("cmdOpenFolder", u"Open &folder");
     connect(cmdOpenFolder, &QPushButton::clicked, this,
             [this, &bench] { bench.Shell.OpenWithShell(m_report.Folder()); });
-    page.Buttons({cmdOpenPage, cmdOpenFolder});
+    cmdBringBack = page.Button("cmdBringBack", u"&Bring back earlier version...");
+    connect(cmdBringBack, &QPushButton::clicked, this,
+            [this] { emit BringBackWanted(m_report.Page()); });
+    page.Buttons({cmdOpenPage, cmdOpenFolder, cmdBringBack});
     lstFilesToUpload =
         page.ListBox("lstFilesToUpload",
                      u"If you wish to upload your special effect to the Web, you must "
@@ -43,6 +47,9 @@ void FinishPanel::Begin()
     lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
     cmdOpenPage->setVisible(!m_report.Page().empty());
     cmdOpenFolder->setVisible(!m_report.Folder().empty());
+    const KeptPages kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    cmdBringBack->setVisible(!m_report.Page().empty() &&
+                             !BackupsOf(m_bench.Files, kept, m_report.Page()).empty());
     lstFilesToUpload->clear();
     ListFiles(FilesToUpload(m_payload));
     ListFiles(ListedFiles(m_payload));

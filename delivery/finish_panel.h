@@ -19,17 +19,23 @@ class FinishPanel : public QWidget
 public:
     FinishPanel(Workbench& bench, const FinishedPayload& payload, const DeliveryReport& report);
 
-    /// The page comes to the front.
+    /// The page comes to the front, or what it tells has changed.
     void Begin();
+
+signals:
+    /// An earlier version of the delivered page is wanted.
+    void BringBackWanted(const orvane::Text& page);
 
 private:
     void ListFiles(const std::vector<Text>& names);
 
+    Workbench& m_bench;
     const FinishedPayload& m_payload;
     const DeliveryReport& m_report;
     QLabel* lblReport;
     QPushButton* cmdOpenPage;
     QPushButton* cmdOpenFolder;
+    QPushButton* cmdBringBack;
     QListWidget* lstFilesToUpload;
 };
 

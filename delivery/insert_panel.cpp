@@ -3,14 +3,24 @@
 #include "core/file_names.h"
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
+#include "services/recent_files.h"
+#include "windows/file_drop.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
+#include "windows/recent_menu.h"
 #include "windows/wait_cursor.h"
 
 #include <QDir>
+#include <QMenu>
 #include <QPushButton>
 
 namespace orvane {
+
+namespace {
+
+constexpr TextView recentPages = u"Pages";
+
+} // namespace
 
 InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench), m_desk(desk)
 {
@@ -22,7 +32,11 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
     connect(txtFileName, &QLineEdit::textChanged, this, [this] { m_isInserted = false; });
     cmdBrowse = page.Button("cmdBrowse", u"&Browse...");
     connect(cmdBrowse, &QPushButton::clicked, this, &InsertPanel::BrowseForPage);
-    page.Row({}, {txtFileName, cmdBrowse});
+    cmdRecentPages = page.Button("cmdRecentPages", u"&Recent pages");
+    auto* recent = new QMenu(cmdRecentPages);
+    OfferRecentFiles(*recent, recentPages, bench, [this](const Text& path) { TakePage(path); });
+    cmdRecentPages->setMenu(recent);
+    page.Row({}, {txtFileName, cmdBrowse, cmdRecentPages});
     cmdSaveWebPage = page.Button("cmdSaveWebPage", u"Save as New Web page");
     connect(cmdSaveWebPage, &QPushButton::clicked, this, &InsertPanel::SaveWebPage);
     lblAutoStep2 = page.Note(u"2. Insert the special effect by pressing the 'Auto-insert' button "
@@ -35,10 +49,15 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
     lblAutoStep3 =
         page.Note(u"3. Open your Web page in a browser to see the special effect.", "lblAutoStep3");
     page.Fill();
+    // Else the box would take a page's address as a text.
+    txtFileName->setAcceptDrops(false);
+    connect(new FileDrop(*this, pageMasks, 1), &FileDrop::Dropped, this,
+            [this](const std::vector<Text>& pages) { TakePage(pages.front()); });
 }
 
 void InsertPanel::Begin(bool isNewPage)
 {
+    setAcceptDrops(!isNewPage);
     lblAutoStep1->setText(
         ToQt(isNewPage ? TextView(u"1. Save your new Web page by pressing the 'Save as New Web "
                                   u"page' button below.")
@@ -47,6 +66,8 @@ void InsertPanel::Begin(bool isNewPage)
              lblAutoStep2, lblAutoStep3, txtFileName, cmdBrowse, cmdAutoInsert, lblBackupFile})
         control->setVisible(!isNewPage);
     cmdSaveWebPage->setVisible(isNewPage);
+    cmdRecentPages->setVisible(!isNewPage &&
+                               !RecentFiles(m_bench.Settings, m_bench.Files, recentPages).empty());
     if (!isNewPage)
         txtFileName->setFocus();
 }
@@ -60,14 +81,23 @@ QPushButton* InsertPanel::Action(bool isNewPage) const
 
 void InsertPanel::BrowseForPage()
 {
-    const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest());
-    if (!path)
-        return;
-    txtFileName->setText(ToQt(*path));
+    if (const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest()))
+        TakePage(*path);
+}
+
+void InsertPanel::TakePage(const Text& path)
+{
+    txtFileName->setText(ToQt(path));
     lblBackupFile->setText(ToQt(Join({u"A backup copy of your Web page will be created and stored "
                                       u"as \"Backup of ",
-                                      GetFileName(*path), u"\""})));
+                                      GetFileName(path), u"\""})));
     cmdAutoInsert->setFocus();
+}
+
+void InsertPanel::WriteDown(const Text& page)
+{
+    m_desk.Report->PageWritten(page);
+    PutRecentFile(m_bench.Settings, recentPages, page);
 }
 
 void InsertPanel::InsertIntoPage()
@@ -76,7 +106,7 @@ void InsertPanel::InsertIntoPage()
     if (const auto complaint = CheckPageName(name))
         return emit Complained(*complaint);
     const Text page = PagePath(name, FromQt(QDir::currentPath()));
-    const KeptPages kept{PathIn(m_bench.StateFolder, u"first-backups"), m_bench.Today()};
+    const KeptPages kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
     switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_desk.Payload, kept)) {
     case AutoInsertion::NothingDone:
         return;
@@ -84,7 +114,7 @@ void InsertPanel::InsertIntoPage()
         return emit ManualWanted();
     case AutoInsertion::Inserted:
         m_isInserted = true;
-        m_desk.Report->PageWritten(page);
+        WriteDown(page);
         // What is missing was told; the last page comes all the same.
         if (CopyFiles(FolderOf(page)))
             emit Delivered();
@@ -103,25 +133,27 @@ void InsertPanel::SaveWebPage()
     if (const Fault* fault = FaultIn(saved))
         return m_bench.Dialogs.Say(Words(*fault));
     m_isSaved = true;
-    m_desk.Report->PageWritten(*path);
+    WriteDown(*path);
     const Text folder(FolderOf(*path));
-    const auto missing = CopyFiles(folder);
-    if (!missing)
+    const auto isAllThere = CopyFiles(folder);
+    if (!isAllThere)
         return;
-    if (missing->empty())
+    if (*isAllThere)
         emit Delivered();
     else
         emit FilesMissing(folder);
 }
 
-std::optional<MissingFiles> InsertPanel::CopyFiles(TextView folder)
+std::optional<bool> InsertPanel::CopyFiles(TextView folder)
 {
     const auto copied = CopyRequiredFiles(m_desk, folder);
-    if (const Fault* fault = FaultIn(copied)) {
-        m_bench.Dialogs.Say(Words(*fault));
-        return std::nullopt;
-    }
-    return ValueIn(copied);
+    const Fault* fault = FaultIn(copied);
+    if (fault == nullptr)
+        return ValueIn(copied).empty();
+    if (*fault == Fault::Cancelled)
+        return false;
+    m_bench.Dialogs.Say(Words(*fault));
+    return std::nullopt;
 }
 
 } // namespace orvane

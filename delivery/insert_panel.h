@@ -41,10 +41,13 @@ signals:
 
 private:
     void BrowseForPage();
+    void TakePage(const Text& path);
+    /// The effect stands in the page with this full path.
+    void WriteDown(const Text& page);
     void InsertIntoPage();
     void SaveWebPage();
-    /// The missing names; nothing when a fault ended the copying and the author was told.
-    std::optional<MissingFiles> CopyFiles(TextView folder);
+    /// Whether all is there; nothing when a fault ended the copying and the author was told.
+    std::optional<bool> CopyFiles(TextView folder);
 
     Workbench& m_bench;
     const CopyDesk m_desk;
@@ -56,6 +59,7 @@ private:
     QLabel* lblAutoStep3;
     FileNameBox* txtFileName;
     QPushButton* cmdBrowse;
+    QPushButton* cmdRecentPages;
     QPushButton* cmdAutoInsert;
     QLabel* lblBackupFile;
     QPushButton* cmdSaveWebPage;

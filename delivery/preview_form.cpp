@@ -75,6 +75,11 @@ void PreviewForm::ConnectPanels()
         m_panels->Publish->GoTo(folder);
         GoOnTo(8);
     });
+    connect(m_panels->Finish, &FinishPanel::BringBackWanted, this, [this](const Text& page) {
+        if (m_windows.BringBack(page))
+            m_report.PageBroughtBack(page);
+        m_panels->Finish->Begin();
+    });
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);

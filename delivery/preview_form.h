@@ -21,6 +21,8 @@ struct PreviewWindows
 {
     std::function<void()> ShowOptions;
     MakeFolderWindow MakeFolder;
+    /// Offers the backups of a page; true when it holds an earlier version then.
+    std::function<bool(const Text& page)> BringBack;
 };
 
 /// The delivery wizard: leads from a finished payload to an effect in the author's page. This is

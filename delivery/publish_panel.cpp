@@ -1,5 +1,8 @@
 #include "delivery/publish_panel.h"
 
+#include "delivery/manual_copy.h"
+
+#include "services/folder_memory.h"
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
@@ -37,8 +40,8 @@ void AddBoxes(QVBoxLayout* column, TextView words, FolderBoxes* boxes)
 
 } // namespace
 
-PublishPanel::PublishPanel(const CopyDesk& desk, MakeFolderWindow makeFolder)
-    : m_desk(desk), m_makeFolder(std::move(makeFolder))
+PublishPanel::PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderWindow makeFolder)
+    : m_desk(desk), m_settings(settings), m_makeFolder(std::move(makeFolder))
 {
     PageBuilder page(this);
     auto* all = new QWidget(this);
@@ -71,6 +74,7 @@ QWidget* PublishPanel::MakeFromSide(QWidget* all)
     auto* side = new QWidget(all);
     m_from = new FolderBoxes(m_desk.Files, {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"}, u"*.*",
                              side);
+    m_from->GoTo(RememberedFolder(m_settings, FolderPurpose::Images));
     m_from->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     AddBoxes(MakeColumn(side), u"Copy from:", m_from);
     return side;
@@ -86,8 +90,10 @@ QWidget* PublishPanel::MakeToSide(QWidget* all)
     PageBuilder below(new QWidget(side));
     below.Page()->layout()->setContentsMargins({});
     column->addWidget(below.Page());
-    below.Buttons(
-        {MakeButton(below, "cmdNewFolder", u"Ne&w Folder...", &PublishPanel::MakeFolder)});
+    cmdLastFolder =
+        MakeButton(below, "cmdLastFolder", u"&Last Folder", &PublishPanel::GoToLastFolder);
+    below.Buttons({MakeButton(below, "cmdNewFolder", u"Ne&w Folder...", &PublishPanel::MakeFolder),
+                   cmdLastFolder});
     return side;
 }
 
@@ -113,6 +119,9 @@ void PublishPanel::Begin()
 {
     m_missing.clear();
     m_to->Refresh();
+    const Text last = RememberedFolder(m_settings, FolderPurpose::Publishing);
+    cmdLastFolder->setVisible(m_desk.Files.FolderExists(last));
+    cmdLastFolder->setToolTip(ToQt(last));
     Show(PublishMode::Publish);
 }
 
@@ -172,9 +181,16 @@ void PublishPanel::PublishFiles()
     const Text folder = m_to->Folder();
     const auto copied = Publish(m_desk, folder);
     m_to->Refresh();
-    if (const Fault* fault = FaultIn(copied))
-        m_desk.Dialogs.Say(Words(*fault));
-    else if (!ValueIn(copied).empty())
+    const Fault* fault = FaultIn(copied);
+    if (fault == nullptr)
+        RememberFolder(m_settings, FolderPurpose::Publishing, folder);
+    if (fault != nullptr) {
+        // An author who ended the copying has been told, and can publish once more.
+        if (*fault != Fault::Cancelled)
+            m_desk.Dialogs.Say(Words(*fault));
+        return;
+    }
+    if (!ValueIn(copied).empty())
         FindMissing(PublishMode::MissingInFolder, ValueIn(copied), folder);
     else if (!std::exchange(m_isPublished, true))
         emit ActionChanged();
@@ -191,6 +207,11 @@ void PublishPanel::CopyByHand()
     ManualCopy(desk, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
     m_to->Refresh();
     ShowMissing();
+}
+
+void PublishPanel::GoToLastFolder()
+{
+    m_to->GoTo(RememberedFolder(m_settings, FolderPurpose::Publishing));
 }
 
 void PublishPanel::MakeFolder()

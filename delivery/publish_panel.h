@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/settings.h"
 #include "delivery/publish_mode.h"
 #include "delivery/required_files.h"
 
@@ -28,7 +29,7 @@ class PublishPanel : public QWidget
 
 public:
     /// What the desk refers to must outlive the panel.
-    PublishPanel(const CopyDesk& desk, MakeFolderWindow makeFolder);
+    PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderWindow makeFolder);
 
     /// Shows the publishing controls, with no file missing.
     void Begin();
@@ -61,8 +62,10 @@ private:
     void PublishFiles();
     void CopyByHand();
     void MakeFolder();
+    void GoToLastFolder();
 
     const CopyDesk m_desk;
+    Settings& m_settings;
     MakeFolderWindow m_makeFolder;
     PublishMode m_mode = PublishMode::Publish;
     bool m_isPublished = false;
@@ -71,6 +74,7 @@ private:
 
     FolderBoxes* m_from;
     FolderBoxes* m_to;
+    QPushButton* cmdLastFolder;
     QPushButton* cmdCopyFiles;
     QPushButton* cmdManualCopy;
     QPushButton* cmdDoneCopying;

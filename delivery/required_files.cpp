@@ -10,6 +10,21 @@ namespace orvane {
 
 namespace {
 
+void AddNonEmpty(std::vector<Text>& list, const auto& names)
+{
+    for (const auto& name : names)
+        if (!name.empty())
+            list.emplace_back(name);
+}
+
+Text Listed(const MissingFiles& names)
+{
+    Text list;
+    for (const Text& name : names)
+        list += (list.empty() ? Text() : Text(u", ")) + name;
+    return list;
+}
+
 Text Lines(TextView first, TextView second)
 {
     return Join({first, lineEnd, second});
@@ -20,22 +35,12 @@ Text Paragraphs(TextView first, TextView second)
     return Join({first, lineEnd, lineEnd, second});
 }
 
-bool MayOverwrite(Dialogs& dialogs, TextView name)
-{
-    return dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
-}
-
-/// Whether a copy failed for a reason of that one file, so that the others may still be copied.
+/// Whether a copy failed for a reason of that one file, so that the others may still be copied, or
+/// at least be listed as missing.
 bool IsMissing(Fault fault)
 {
-    return fault == Fault::FileNotFound || fault == Fault::PermissionDenied ||
-           fault == Fault::PathFileAccess;
-}
-
-void WriteDownCopied(const CopyDesk& desk, TextView folder, TextView name)
-{
-    if (desk.Report != nullptr)
-        desk.Report->FileCopied(folder, name);
+    return fault == Fault::Cancelled || fault == Fault::FileNotFound ||
+           fault == Fault::PermissionDenied || fault == Fault::PathFileAccess;
 }
 
 /// The name goes to the missing ones.
@@ -51,10 +56,10 @@ Done Miss(const CopyDesk& desk, TextView folder, TextView name, MissingFiles& mi
 Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView source,
                 MissingFiles& missing)
 {
-    const Done done = desk.Files.Copy(source, Join({folder, name}));
+    const Done done = desk.Copies->Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
     if (!fault)
-        WriteDownCopied(desk, folder, name);
+        desk.WriteDownCopied(folder, name);
     else if (IsMissing(*fault))
         return Miss(desk, folder, name, missing);
     return done;
@@ -68,7 +73,8 @@ Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextVi
     const Text destination = Join({folder, name});
     if (desk.Files.IsTaken(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
-        if (EqualIgnoringCase(destination, source) || !MayOverwrite(desk.Dialogs, name))
+        if (EqualIgnoringCase(destination, source) || desk.Copies->IsCancelled() ||
+            !desk.MayOverwrite(name))
             return {};
     }
     return CopyOrMiss(desk, folder, name, source, missing);
@@ -97,6 +103,8 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
     const Text source = PathIn(desk.ProgramFolder, pageScriptFile);
     const Text destination = Join({folder, pageScriptFile});
     if (desk.Files.IsTaken(destination)) {
+        if (desk.Copies->IsCancelled())
+            return {};
         const auto own = desk.Files.Read(source);
         if (FaultIn(own))
             return Miss(desk, folder, pageScriptFile, missing);
@@ -104,74 +112,51 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
         const auto version = [](const Outcome<std::string>& file) {
             return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
         };
-        if (version(present).empty() ? !MayOverwrite(desk.Dialogs, pageScriptFile)
+        if (version(present).empty() ? !desk.MayOverwrite(pageScriptFile)
                                      : IsLaterVersion(version(present), version(own)))
             return {};
     }
     return CopyOrMiss(desk, folder, pageScriptFile, source, missing);
 }
 
-bool IsListed(const std::vector<Text>& names, TextView name)
+/// The sources of all files that the payload names.
+std::vector<Text> SourcesOf(const CopyDesk& desk)
 {
-    return std::any_of(names.begin(), names.end(),
-                       [&](const Text& listed) { return EqualIgnoringCase(listed, name); });
+    std::vector<Text> sources;
+    AddNonEmpty(sources, desk.Payload.Effect.Required.Sources);
+    for (const Text& name : desk.Payload.Effect.SupportFiles)
+        sources.push_back(PathIn(desk.ProgramFolder, name));
+    return sources;
 }
 
-/// Brings one selected file to its folder; false when the author or a fault prevented it.
-bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, TextView name)
+/// Copies whatever a page needs; gives Cancelled when the author ended it.
+Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
 {
-    const Text source = PathIn(fromFolder, name);
-    const Text destination = PathIn(toFolder, name);
-    if (source == destination)
-        return true;
-    // A folder that cannot be listed may hold the name all the same.
-    const bool isThere =
-        IsListed(desk.Files.Files(toFolder), name) || desk.Files.IsTaken(destination);
-    if (isThere && !MayOverwrite(desk.Dialogs, name))
-        return false;
-    const Done done = desk.Files.Copy(source, destination);
-    if (const Fault* fault = FaultIn(done)) {
-        desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
-        return false;
-    }
-    WriteDownCopied(desk, toFolder, name);
-    return true;
-}
-
-} // namespace
-
-Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
-{
+    FollowedCopies copies(desk.Files, desk.Dialogs, folder, SourcesOf(desk));
+    desk.Copies = &copies;
     const RequiredFiles& required = desk.Payload.Effect.Required;
-    MissingFiles missing;
     for (std::size_t i = 0; i < required.Names.size(); ++i) {
         if (required.Names[i].empty())
             continue;
         const Done done =
             CopyListedFile(desk, folder, required.Names[i], required.Sources[i], missing);
-        if (const Fault* fault = FaultIn(done))
-            return *fault;
+        if (FaultIn(done))
+            return done;
     }
     for (const auto copy : {CopyClassFiles, CopyPageScript}) {
         const Done done = copy(desk, folder, missing);
-        if (const Fault* fault = FaultIn(done))
-            return *fault;
+        if (FaultIn(done))
+            return done;
     }
-    if (missing.empty())
-        desk.Dialogs.Say(
-            Join({u"All files have been copied to the ", folder,
-                  u" folder.  Now you can easily upload these files to the Internet."}));
-    else
-        desk.Dialogs.Say(
-            Lines(u"Orvane couldn't copy all the necessary files to the specified folder.",
-                  u"Use the file list on the left to find the missing files and click the 'Copy' "
-                  u"button to copy them."),
-            Tone::Exclamation);
-    return missing;
+    if (copies.IsCancelled())
+        return Fault::Cancelled;
+    return {};
 }
 
-MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
+/// Brings the author's files to the preview page; gives those that are missing there.
+MissingFiles CopyForPreview(const CopyDesk& desk)
 {
+    FollowedCopies copies(desk.Files, desk.Dialogs, desk.ProgramFolder, SourcesOf(desk));
     const RequiredFiles& required = desk.Payload.Effect.Required;
     const std::vector<Text> present = desk.Files.Files(desk.ProgramFolder);
     MissingFiles missing;
@@ -182,12 +167,55 @@ MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
         if (required.Sources[i].empty()) {
             missing.push_back(name);
         } else if (!IsListed(present, name)) {
-            const Done done =
-                desk.Files.Copy(required.Sources[i], PathIn(desk.ProgramFolder, name));
-            if (FaultIn(done))
+            const Done done = copies.Copy(required.Sources[i], PathIn(desk.ProgramFolder, name));
+            if (FaultIn(done) && !copies.IsCancelled())
                 missing.push_back(name);
         }
     }
+    return missing;
+}
+
+} // namespace
+
+bool CopyDesk::MayOverwrite(TextView name) const
+{
+    return Dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
+}
+
+void CopyDesk::WriteDownCopied(TextView folder, TextView name) const
+{
+    if (Report != nullptr)
+        Report->FileCopied(folder, name);
+}
+
+Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
+{
+    MissingFiles missing;
+    const Done done = CopyAll(desk, folder, missing);
+    if (const Fault* fault = FaultIn(done); fault && *fault != Fault::Cancelled)
+        return *fault;
+    if (missing.empty()) {
+        desk.Dialogs.Say(
+            Join({u"All files have been copied to the ", folder,
+                  u" folder.  Now you can easily upload these files to the Internet."}));
+    } else if (FaultIn(done)) {
+        desk.Dialogs.Say(Join({u"You ended the copying.  These files were not copied to the ",
+                               folder, u" folder: ", Listed(missing)}),
+                         Tone::Exclamation);
+        return Fault::Cancelled;
+    } else {
+        desk.Dialogs.Say(
+            Lines(u"Orvane couldn't copy all the necessary files to the specified folder.",
+                  u"Use the file list on the left to find the missing files and click the 'Copy' "
+                  u"button to copy them."),
+            Tone::Exclamation);
+    }
+    return missing;
+}
+
+MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
+{
+    const MissingFiles missing = CopyForPreview(desk);
     if (!missing.empty())
         desk.Dialogs.Say(
             Lines(u"Orvane can't preview the special effect because it could not find the "
@@ -211,25 +239,9 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         const Done done = desk.Files.PutNew(page, NewPageBytes(desk.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
-        WriteDownCopied(desk, target, u"ovtemp.html");
+        desk.WriteDownCopied(target, u"ovtemp.html");
     }
     return CopyRequiredFiles(desk, target);
-}
-
-void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
-                const std::vector<Text>& selected, MissingFiles& missing)
-{
-    if (selected.empty())
-        return desk.Dialogs.Say(u"Select a file from the list and then click the 'Copy' button");
-    Text copied;
-    for (const Text& name : selected) {
-        if (!CopySelected(desk, fromFolder, toFolder, name))
-            continue;
-        std::erase(missing, name);
-        copied += name + u", ";
-    }
-    // Stays as it is: the box comes with an empty list when nothing was copied.
-    desk.Dialogs.Say(Paragraphs(u"The following files were successfully copied:", copied));
 }
 
 } // namespace orvane

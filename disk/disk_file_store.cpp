@@ -77,6 +77,19 @@ Outcome<bool> DiskFileStore::IsCopyOf(TextView path, TextView other, std::string
     return !error;
 }
 
+std::optional<FileFacts> DiskFileStore::Facts(TextView path) const
+{
+    const std::string name = PathBytes(path);
+    FileStatus status{};
+    if (Retried([&] { return m_calls.StatusAt(name, status); }) || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    std::string target;
+    const bool isLink = !Retried([&] { return m_calls.ReadLink(name, target); });
+    return FileFacts{.Size = static_cast<std::uint64_t>(status.st_size),
+                     .Written = status.st_mtim.tv_sec,
+                     .IsLink = isLink};
+}
+
 Outcome<std::string> DiskFileStore::Read(TextView path) const
 {
     const std::string name = PathBytes(path);
@@ -104,19 +117,27 @@ Outcome<bool> DiskFileStore::Exchange(TextView path, std::string_view old, std::
 Done DiskFileStore::PutNew(TextView path, std::string_view bytes, TextView like)
 {
     const std::string name = PathBytes(path);
-    return DoneAt(name, m_files.PutNew(name, bytes, PathBytes(like)));
+    return DoneAt(name, m_files.PutNew(name, FillingWith(bytes), PathBytes(like)));
 }
 
-Done DiskFileStore::Copy(TextView from, TextView to)
+Done DiskFileStore::Copy(TextView from, TextView to, Progress* progress)
 {
     const std::string source = PathBytes(from);
     const std::string target = PathBytes(to);
     if (AreSame(source, target))
         return {};
-    std::string bytes;
-    if (const auto error = m_files.Read(source, bytes))
+    FileHandle file(m_calls);
+    if (const auto error = m_files.Open(source, file))
         return FaultAt(source, error);
-    return DoneAt(target, m_files.PutNew(target, bytes, {}));
+    const auto size = static_cast<std::uint64_t>(file.Status().st_size);
+    const auto goesOn = [&](std::uint64_t done) {
+        return progress == nullptr || progress->GoOn(done, size);
+    };
+    const auto error = m_files.PutNew(
+        target, [&](const FileHandle& copy) { return copy.CopyFrom(file, goesOn); }, {});
+    if (error == std::errc::operation_canceled)
+        return Fault::Cancelled;
+    return DoneAt(target, error);
 }
 
 Done DiskFileStore::Remove(TextView path)

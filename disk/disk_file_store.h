@@ -23,11 +23,12 @@ public:
     bool FileExists(TextView path) const override;
     bool IsTaken(TextView path) const override;
     Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const override;
+    std::optional<FileFacts> Facts(TextView path) const override;
     Outcome<std::string> Read(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
     Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
     Done PutNew(TextView path, std::string_view bytes, TextView like) override;
-    Done Copy(TextView from, TextView to) override;
+    Done Copy(TextView from, TextView to, Progress* progress) override;
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;
     std::shared_ptr<const void> Hold(TextView folder) override;

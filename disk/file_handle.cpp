@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include <fcntl.h>
 
@@ -98,13 +99,13 @@ std::error_code FileHandle::ReadSome(std::size_t from, std::span<char> buffer,
         [&] { return m_calls.Read(m_descriptor, static_cast<off_t>(from), buffer, count); });
 }
 
-std::error_code FileHandle::WriteAll(std::string_view bytes) const
+std::error_code FileHandle::WriteAll(std::string_view bytes, std::size_t at) const
 {
     for (std::size_t done = 0; done < bytes.size();) {
         std::size_t count = 0;
-        const auto error = Retried([&] {
-            return m_calls.Write(m_descriptor, static_cast<off_t>(done), bytes.substr(done), count);
-        });
+        const auto place = static_cast<off_t>(at + done);
+        const auto error =
+            Retried([&] { return m_calls.Write(m_descriptor, place, bytes.substr(done), count); });
         if (error)
             return error;
         if (count == 0)
@@ -112,6 +113,31 @@ std::error_code FileHandle::WriteAll(std::string_view bytes) const
         done += count;
     }
     return {};
+}
+
+std::error_code FileHandle::CopyFrom(const FileHandle& source,
+                                     const std::function<bool(std::uint64_t done)>& goesOn) const
+{
+    constexpr std::size_t pieceSize = 1 << 20;
+    constexpr std::size_t syncedSize = 16 * pieceSize;
+    const auto size = static_cast<std::size_t>(source.m_status.st_size);
+    std::vector<char> piece(std::clamp<std::size_t>(size, 4096, pieceSize));
+    for (std::size_t done = 0;;) {
+        if (!goesOn(done))
+            return std::make_error_code(std::errc::operation_canceled);
+        std::size_t count = 0;
+        if (const auto error = source.ReadSome(done, piece, count))
+            return error;
+        if (count == 0)
+            return {};
+        if (const auto error = WriteAll({piece.data(), count}, done))
+            return error;
+        done += count;
+        // Else all of a large file would be waited for at its end, when nobody is asked any more.
+        if (done % syncedSize == 0)
+            if (const auto error = Sync())
+                return error;
+    }
 }
 
 std::error_code FileHandle::Overwrite(std::string_view bytes) const

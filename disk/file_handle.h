@@ -2,6 +2,8 @@
 
 #include "disk/system_calls.h"
 
+#include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,8 +55,13 @@ public:
     /// The whole content.
     [[nodiscard]] std::error_code ReadAll(std::string& bytes) const;
 
-    /// Puts the bytes at the start of the file; what lies behind them stays.
-    [[nodiscard]] std::error_code WriteAll(std::string_view bytes) const;
+    /// Puts the bytes there in the file; what lies around them stays.
+    [[nodiscard]] std::error_code WriteAll(std::string_view bytes, std::size_t at = 0) const;
+
+    /// Fills this file, an empty one, with the content of another, piece by piece. `goesOn` is told
+    /// before each piece how many bytes are there; operation_canceled when it gives false.
+    [[nodiscard]] std::error_code
+    CopyFrom(const FileHandle& source, const std::function<bool(std::uint64_t done)>& goesOn) const;
 
     /// Makes the file hold these bytes alone, synced. A failure leaves any mixture.
     [[nodiscard]] std::error_code Overwrite(std::string_view bytes) const;

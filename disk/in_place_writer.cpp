@@ -120,7 +120,7 @@ std::error_code InPlaceWriter::Keep(const RecoveryCopy& copy, const FileStatus& 
 std::error_code InPlaceWriter::PutCopy(const std::string& place, const std::string& bytes) const
 {
     ReplacementFile copy(m_calls, place, 0600);
-    const std::error_code error = copy.Put(bytes);
+    const std::error_code error = copy.Put(FillingWith(bytes));
     if (error && copy.IsInPlace())
         RemoveCopy(place);
     return error;

@@ -26,6 +26,11 @@ std::string TemporaryName()
 
 } // namespace
 
+Filling FillingWith(std::string_view bytes)
+{
+    return [bytes](const FileHandle& file) { return file.WriteAll(bytes); };
+}
+
 bool IsTemporaryName(std::string_view name)
 {
     if (name.size() != ownNameStart.size() + digitCount + ownNameEnd.size() ||
@@ -69,7 +74,7 @@ ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, const Fil
 {
 }
 
-std::error_code ReplacementFile::Put(std::string_view bytes, const LastLook& look)
+std::error_code ReplacementFile::Put(const Filling& fill, const LastLook& look)
 {
     m_isInPlace = false;
     FileHandle folder(m_calls);
@@ -79,7 +84,7 @@ std::error_code ReplacementFile::Put(std::string_view bytes, const LastLook& loo
     RemoveLeftovers(path);
     const std::string temporary = path + TemporaryName();
     FileHandle file(m_calls);
-    if (const auto error = PutThrough(file, temporary, bytes, look)) {
+    if (const auto error = PutThrough(file, temporary, fill, look)) {
         if (error != std::errc::file_exists)
             std::ignore = Retried([&] { return m_calls.Remove(temporary); });
         return error;
@@ -90,13 +95,13 @@ std::error_code ReplacementFile::Put(std::string_view bytes, const LastLook& loo
 
 /// Writes the temporary file and renames it to the path.
 std::error_code ReplacementFile::PutThrough(FileHandle& file, const std::string& temporary,
-                                            std::string_view bytes, const LastLook& look)
+                                            const Filling& fill, const LastLook& look)
 {
     if (const auto error = file.Open(temporary, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, m_mode))
         return error;
     // Without a lock another program might take the file for a leftover; then the renaming fails.
     std::ignore = file.Lock();
-    if (const auto error = file.WriteAll(bytes))
+    if (const auto error = fill(file))
         return error;
     if (const auto error = TakeRights(file))
         return error;

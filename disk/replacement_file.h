@@ -10,6 +10,12 @@
 
 namespace orvane {
 
+/// Puts the content into a new file that is open for writing.
+using Filling = std::function<std::error_code(const FileHandle& file)>;
+
+/// The filling with these bytes, which are borrowed.
+Filling FillingWith(std::string_view bytes);
+
 /// Begins every name that the file store uses for itself.
 inline constexpr std::string_view ownNameStart = ".orvane-";
 
@@ -46,16 +52,16 @@ public:
     /// Asked directly before the file takes its place; an error stops it.
     using LastLook = std::function<std::error_code()>;
 
-    /// Puts a file with these bytes in its place. No temporary file is left on failure; a folder
+    /// Puts a file with this content in its place. No temporary file is left on failure; a folder
     /// that is missing gives not_a_directory.
-    [[nodiscard]] std::error_code Put(std::string_view bytes, const LastLook& look = {});
+    [[nodiscard]] std::error_code Put(const Filling& fill, const LastLook& look = {});
 
     /// Whether the new file stands in its place, which it may after a failure of the last sync.
     bool IsInPlace() const { return m_isInPlace; }
 
 private:
-    std::error_code PutThrough(FileHandle& file, const std::string& temporary,
-                               std::string_view bytes, const LastLook& look);
+    std::error_code PutThrough(FileHandle& file, const std::string& temporary, const Filling& fill,
+                               const LastLook& look);
     std::error_code TakeRights(const FileHandle& file) const;
     void RemoveLeftovers(const std::string& folder) const;
 

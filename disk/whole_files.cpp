@@ -1,7 +1,5 @@
 #include "disk/whole_files.h"
 
-#include "disk/replacement_file.h"
-
 #include <tuple>
 
 #include <fcntl.h>
@@ -18,7 +16,7 @@ void PutBack(const FileHandle& old, ReplacementFile& file)
 {
     std::string bytes;
     if (!old.ReadAll(bytes))
-        std::ignore = file.Put(bytes);
+        std::ignore = file.Put(FillingWith(bytes));
 }
 
 } // namespace
@@ -43,17 +41,22 @@ std::error_code WholeFiles::FollowLinks(std::string& path) const
     return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }
 
-std::error_code WholeFiles::Read(std::string path, std::string& bytes) const
+std::error_code WholeFiles::Open(std::string path, FileHandle& file) const
 {
     if (const auto error = FollowLinks(path))
         return error;
-    FileHandle file(m_calls);
     if (const auto error = file.OpenRegular(path, O_RDONLY))
+        return error;
+    return m_inPlace.Restore(path, file.Status());
+}
+
+std::error_code WholeFiles::Read(const std::string& path, std::string& bytes) const
+{
+    FileHandle file(m_calls);
+    if (const auto error = Open(path, file))
         return error;
     if (file.Status().st_size > sizeLimit)
         return std::make_error_code(std::errc::not_enough_memory);
-    if (const auto error = m_inPlace.Restore(path, file.Status()))
-        return error;
     return file.ReadAll(bytes);
 }
 
@@ -80,7 +83,7 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
         if (error != std::errc::no_such_file_or_directory)
             return error;
         return expected ? std::make_error_code(std::errc::operation_canceled)
-                        : PutWhereNoneIs(path, bytes);
+                        : PutWhereNoneIs(path, FillingWith(bytes));
     }
     if (const auto error = m_inPlace.Restore(path, old.Status()))
         return error;
@@ -89,7 +92,7 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
         return error;
     if (old.Status().st_nlink == 1 && !hasAccessList) {
         ReplacementFile file(m_calls, path, old.Status(), ReplacementFile::Rights::All);
-        const auto error = file.Put(bytes, [&] { return LookAgain(path, expected); });
+        const auto error = file.Put(FillingWith(bytes), [&] { return LookAgain(path, expected); });
         if (error && file.IsInPlace())
             PutBack(old, file);
         if (!IsRefusal(error) || file.IsInPlace())
@@ -111,7 +114,7 @@ std::error_code WholeFiles::LookAgain(const std::string& path,
     return error ? error : now.MustHold(*expected);
 }
 
-std::error_code WholeFiles::PutNew(const std::string& path, std::string_view bytes,
+std::error_code WholeFiles::PutNew(const std::string& path, const Filling& fill,
                                    const std::string& like)
 {
     FileHandle old(m_calls);
@@ -125,9 +128,9 @@ std::error_code WholeFiles::PutNew(const std::string& path, std::string_view byt
         if (const auto error = Retried([&] { return m_calls.StatusAt(like, rights); }))
             return error;
     if (missing && like.empty())
-        return PutWhereNoneIs(path, bytes);
+        return PutWhereNoneIs(path, fill);
     ReplacementFile file(m_calls, path, rights, ReplacementFile::Rights::Permissions);
-    const auto error = file.Put(bytes);
+    const auto error = file.Put(fill);
     // A link that is gone stays so: the new file holds what was wanted.
     if (error && file.IsInPlace() && !missing) {
         ReplacementFile before(m_calls, path, old.Status(), ReplacementFile::Rights::Permissions);
@@ -138,10 +141,10 @@ std::error_code WholeFiles::PutNew(const std::string& path, std::string_view byt
     return error;
 }
 
-std::error_code WholeFiles::PutWhereNoneIs(const std::string& path, std::string_view bytes)
+std::error_code WholeFiles::PutWhereNoneIs(const std::string& path, const Filling& fill)
 {
     ReplacementFile file(m_calls, path, 0666);
-    const auto error = file.Put(bytes);
+    const auto error = file.Put(fill);
     if (error && file.IsInPlace())
         std::ignore = Retried([&] { return m_calls.Remove(path); });
     return error;

@@ -1,6 +1,7 @@
 #include "insertion/auto_insert.h"
 
 #include "core/file_names.h"
+#include "core/numbers.h"
 #include "disk/program_folder.h"
 #include "insertion/page_script.h"
 
@@ -57,11 +58,26 @@ AutoInsertion Tell(Dialogs& dialogs, Fault fault)
     return AutoInsertion::NothingDone;
 }
 
-/// Makes the backup, and sure of it: a new file that is not the page and holds its bytes. Nobody
-/// may do more with it than with the page.
-Done BackUp(FileStore& files, TextView page, std::string_view bytes)
+Done MakeFoldersFor(FileStore& files, TextView path)
 {
-    const Text backup = Join({FolderOf(page), u"Backup of ", GetFileName(page)});
+    const TextView folder = FolderOf(path);
+    return MakeFolders(files, Left(folder, folder.size() - 1), Access::OwnerAlone);
+}
+
+/// Whatever already lies at that place, even unreadable, is an earlier backup and stays.
+void KeepFirstBackup(FileStore& files, const KeptPages& kept, TextView page, std::string_view bytes)
+{
+    const Text path = KeptPagePath(kept, page);
+    if (files.IsTaken(path))
+        return;
+    if (!FaultIn(MakeFoldersFor(files, path)))
+        std::ignore = files.PutNew(path, bytes, page);
+}
+
+} // namespace
+
+Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view bytes)
+{
     const Done done = files.PutNew(backup, bytes, page);
     if (FaultIn(done))
         return done;
@@ -73,19 +89,6 @@ Done BackUp(FileStore& files, TextView page, std::string_view bytes)
         return Fault::PathFileAccess;
     return {};
 }
-
-/// Whatever already lies at that place, even unreadable, is an earlier backup and stays.
-void KeepFirstBackup(FileStore& files, const KeptPages& kept, TextView page, std::string_view bytes)
-{
-    const Text path = KeptPagePath(kept, page);
-    if (files.IsTaken(path))
-        return;
-    const TextView folder = FolderOf(path);
-    if (!FaultIn(MakeFolders(files, Left(folder, folder.size() - 1), Access::OwnerAlone)))
-        std::ignore = files.PutNew(path, bytes, page);
-}
-
-} // namespace
 
 std::optional<Complaint> CheckPageName(TextView txtFileName)
 {
@@ -102,6 +105,30 @@ Text PagePath(TextView txtFileName, TextView currentFolder)
     return PathIn(currentFolder, txtFileName);
 }
 
+Text BackupPath(TextView page)
+{
+    return Join({FolderOf(page), u"Backup of ", GetFileName(page)});
+}
+
+Done KeepPage(FileStore& files, const KeptPages& kept, TextView page, std::string_view bytes)
+{
+    Done made = MakeFolders(files, kept.Folder, Access::OwnerAlone);
+    if (FaultIn(made))
+        return made;
+    // A folder that is new holds nothing that could be written over.
+    KeptPages place = kept;
+    int number = 2;
+    do {
+        place.Day = Join({kept.Day, u" ", NumberToText(number)});
+        made = files.MakeFolder(PathIn(kept.Folder, place.Day), Access::OwnerAlone);
+    } while (made == Done(Fault::PathFileAccess) && ++number < 10000);
+    if (FaultIn(made))
+        return made;
+    const Text path = KeptPagePath(place, page);
+    made = MakeFoldersFor(files, path);
+    return FaultIn(made) ? made : BackUp(files, path, page, bytes);
+}
+
 Text KeptPagePath(const KeptPages& kept, TextView page)
 {
     // Without this, ".." in a page's path would lead out of the folder.
@@ -116,7 +143,7 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
     if (const Fault* fault = FaultIn(read))
         return Tell(dialogs, *fault);
     const std::string& bytes = ValueIn(read);
-    const Done backedUp = BackUp(files, page, bytes);
+    const Done backedUp = BackUp(files, BackupPath(page), page, bytes);
     if (const Fault* fault = FaultIn(backedUp))
         return Tell(dialogs, *fault);
     KeepFirstBackup(files, kept, page, bytes);

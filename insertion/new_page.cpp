@@ -40,12 +40,18 @@ Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payl
 
 FileRequest NewPageRequest()
 {
-    return {.Title = u"Save As", .Filter = Text(webPageFilter), .FilterIndex = 2};
+    return {.Title = u"Save As",
+            .Filter = Text(webPageFilter),
+            .FilterIndex = 2,
+            .Purpose = FolderPurpose::Pages};
 }
 
 FileRequest ExistingPageRequest()
 {
-    return {.Title = u"Browse...", .Filter = Text(webPageFilter), .FilterIndex = 2};
+    return {.Title = u"Browse...",
+            .Filter = Text(webPageFilter),
+            .FilterIndex = 2,
+            .Purpose = FolderPurpose::Pages};
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "program/form_desk.h"
 
 #include "core/numbers.h"
+#include "delivery/bring_back_form.h"
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/applet/advanced_animator_form.h"
@@ -121,6 +122,8 @@ void FormDesk::ShowMainForm()
     connect(m_mainForm.get(), &OVMainForm::EditAppletWanted, this, &FormDesk::EditApplet);
     connect(m_mainForm.get(), &OVMainForm::PreferencesWanted, this,
             [this] { ShowOptions(m_mainForm.get()); });
+    connect(m_mainForm.get(), &OVMainForm::BringBackWanted, this,
+            [this] { ShowBringBack({}, m_mainForm.get()); });
     connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
         AboutForm about(m_bench, m_mainForm.get());
         ShowModally(about);
@@ -194,6 +197,7 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
                 ShowModally(makeDir);
                 return makeDir.NewFolder();
             },
+        .BringBack = [&](const Text& page) { return ShowBringBack(page, preview.get()) == page; },
     };
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
@@ -216,6 +220,13 @@ void FormDesk::ShowOptions(QWidget* parent)
 {
     OptionsForm options(m_bench, parent);
     ShowModally(options);
+}
+
+std::optional<Text> FormDesk::ShowBringBack(TextView page, QWidget* parent)
+{
+    BringBackForm form(m_bench, page, parent);
+    ShowModally(form);
+    return form.BroughtBack();
 }
 
 void FormDesk::ShowModally(QDialog& window)

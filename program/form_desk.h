@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class QDialog;
 
@@ -59,6 +60,7 @@ private:
     void ShowModally(QDialog& window);
     DeliveryEnd ShowPreview(const EffectPayload& payload, WizardForm& wizard);
     void ShowOptions(QWidget* parent);
+    std::optional<Text> ShowBringBack(TextView page, QWidget* parent);
     void ShowMainForm();
 
     Workbench& m_bench;

@@ -84,7 +84,7 @@ int main(int argc, char** argv)
     PosixCalls calls;
     DiskFileStore files(calls, folders->State);
     SettingsFile settings(files, folders->Settings);
-    QtDialogs dialogs;
+    QtDialogs dialogs(settings);
     QtShell shell;
     QtClipboard clipboard;
     OrvaneCore core;

@@ -53,6 +53,7 @@ void OVMainForm::AddMenus()
     QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
     add(help, "mnuHelpContents", u"&Contents...",
         [this] { m_bench.Help.ShowTopic(help_topics::contents); });
+    add(help, "mnuBringBack", u"&Bring back a page...", &OVMainForm::BringBackWanted);
     add(help, "mnuCheckForUpdate", u"Chec&k for update...", &OVMainForm::CheckForUpdate);
     help->addSeparator();
     add(help, "mnuHelpAbout", u"&About...", &OVMainForm::AboutWanted);

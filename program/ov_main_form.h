@@ -24,6 +24,7 @@ signals:
     void EffectWanted(const orvane::EffectCommand& command);
     void EditAppletWanted();
     void PreferencesWanted();
+    void BringBackWanted();
     void AboutWanted();
 
 protected:

@@ -1,6 +1,8 @@
 #include "program/qt_dialogs.h"
 
+#include "program/progress_box.h"
 #include "program/words_box.h"
+#include "services/folder_memory.h"
 #include "windows/controls.h"
 #include "windows/qt_text.h"
 
@@ -122,9 +124,10 @@ std::optional<Text> QtDialogs::SaveFile(const FileRequest& request)
     return PickFile(request, true);
 }
 
-QString QtDialogs::StartFolder(TextView wanted) const
+QString QtDialogs::StartFolder(const FileRequest& request) const
 {
-    for (const QString& folder : {ToQt(wanted), m_lastFolder})
+    for (const QString& folder :
+         {ToQt(request.InitDir), ToQt(RememberedFolder(m_settings, request.Purpose)), m_lastFolder})
         if (!folder.isEmpty() && QFileInfo(folder).isDir())
             return folder;
     return QDir::homePath();
@@ -132,7 +135,7 @@ QString QtDialogs::StartFolder(TextView wanted) const
 
 std::optional<Text> QtDialogs::PickFile(const FileRequest& request, bool isSave)
 {
-    QFileDialog dialog(WindowInFront(), ToQt(request.Title), StartFolder(request.InitDir));
+    QFileDialog dialog(WindowInFront(), ToQt(request.Title), StartFolder(request));
     dialog.setAcceptMode(isSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(isSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     const QStringList filters = QtNameFilters(request.Filter);
@@ -152,12 +155,13 @@ std::optional<Text> QtDialogs::PickFile(const FileRequest& request, bool isSave)
         return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();
     m_lastFolder = QFileInfo(path).absolutePath();
+    RememberFolder(m_settings, request.Purpose, FromQt(m_lastFolder));
     return FromQt(path);
 }
 
 std::optional<Text> QtDialogs::PickFolder(TextView title, TextView start)
 {
-    QFileDialog dialog(WindowInFront(), ToQt(title), StartFolder(start));
+    QFileDialog dialog(WindowInFront(), ToQt(title), StartFolder({.InitDir = Text(start)}));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     if (!Run(dialog) || dialog.selectedFiles().isEmpty())
@@ -189,6 +193,11 @@ FontChoice QtDialogs::PickFont(const FontChoice& start)
             .Size = FromQt(QString::number(chosen.pointSize())),
             .Bold = chosen.bold(),
             .Italic = chosen.italic()};
+}
+
+std::unique_ptr<Progress> QtDialogs::FollowWork(TextView words)
+{
+    return std::make_unique<ProgressBox>(words, WindowInFront());
 }
 
 PageBoxReply QtDialogs::Answer(const PageBox& box)

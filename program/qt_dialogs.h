@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dialogs.h"
+#include "core/settings.h"
 
 #include <QString>
 #include <QStringList>
@@ -19,6 +20,9 @@ QStringList QtNameFilters(TextView filter);
 class QtDialogs : public Dialogs
 {
 public:
+    /// `settings` remember the folders.
+    explicit QtDialogs(Settings& settings) : m_settings(settings) {}
+
     void Say(TextView words, Tone tone) override;
     bool Ask(TextView words, TextView title) override;
     std::optional<bool> AskOrCancel(TextView words, TextView title) override;
@@ -27,12 +31,14 @@ public:
     std::optional<Text> PickFolder(TextView title, TextView start) override;
     std::optional<std::int32_t> PickColor() override;
     FontChoice PickFont(const FontChoice& start) override;
+    std::unique_ptr<Progress> FollowWork(TextView words) override;
     PageBoxReply Answer(const PageBox& box) override;
 
 private:
     std::optional<Text> PickFile(const FileRequest& request, bool isSave);
-    QString StartFolder(TextView wanted) const;
+    QString StartFolder(const FileRequest& request) const;
 
+    Settings& m_settings;
     QString m_lastFolder; ///< where the last file dialog of this run ended
 };
 

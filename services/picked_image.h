@@ -20,13 +20,19 @@ inline constexpr TextView pictureMasks = u"*.gif;*.jpg;*.jpeg";
 /// The dialog in which the author picks an image.
 inline FileRequest ImageRequest()
 {
-    return {.Title = u"Browse...", .Filter = Text(imageFilter), .FilterIndex = 2};
+    return {.Title = u"Browse...",
+            .Filter = Text(imageFilter),
+            .FilterIndex = 2,
+            .Purpose = FolderPurpose::Images};
 }
 
 /// The dialog in which the author picks a Web page to link to.
 inline FileRequest WebPageRequest()
 {
-    return {.Title = u"Browse...", .Filter = Text(linkedPageFilter), .FilterIndex = 2};
+    return {.Title = u"Browse...",
+            .Filter = Text(linkedPageFilter),
+            .FilterIndex = 2,
+            .Purpose = FolderPurpose::Links};
 }
 
 /// The size of a picture in pixels.

@@ -110,7 +110,10 @@ void Split(TextView joined, std::vector<ImageRow>& rows, Text ImageRow::*field)
 
 FileRequest ProjectRequest(TextView title)
 {
-    return {.Title = Text(title), .Filter = Text(projectFilter), .FilterIndex = 2};
+    return {.Title = Text(title),
+            .Filter = Text(projectFilter),
+            .FilterIndex = 2,
+            .Purpose = FolderPurpose::Projects};
 }
 
 } // namespace

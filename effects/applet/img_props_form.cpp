@@ -43,7 +43,8 @@ void ImgPropsForm::AddSoundAndURL(PageBuilder& page)
                                   .Caption = u"Browse for sound...",
                                   .Request = {.Title = u"Open",
                                               .Filter = u"All Files (*.*)|*.*|AU Files (*.au)|*.au",
-                                              .FilterIndex = 2},
+                                              .FilterIndex = 2,
+                                              .Purpose = FolderPurpose::Sounds},
                                   .NoBlanks = FileRole::Sound,
                                   .Then = [this](const Text& path) {
                                       RecordRequiredFile(m_bench.Core, path, FromQt(Text3->text()));
@@ -51,7 +52,9 @@ void ImgPropsForm::AddSoundAndURL(PageBuilder& page)
     Text2 = page.BrowseRow("Text2", u"Type URL to link this image to:", {},
                            {.Button = "cmdBrowseURL",
                             .Caption = u"&Browse for URL...",
-                            .Request = {.Title = u"Open", .Filter = u"All Files (*.*)|*.*"}});
+                            .Request = {.Title = u"Open",
+                                        .Filter = u"All Files (*.*)|*.*",
+                                        .Purpose = FolderPurpose::Links}});
 }
 
 void ImgPropsForm::AddTransition(PageBuilder& page)

@@ -35,7 +35,8 @@ void TypewriterTextForm::AddTextPage()
                               .Caption = u"Browse for text file...",
                               .Request = {.Title = u"Browse...",
                                           .Filter = u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt",
-                                          .FilterIndex = 2},
+                                          .FilterIndex = 2,
+                                          .Purpose = FolderPurpose::Texts},
                               .Slot = typewriterTextFileSlot});
     page.Fill();
 }

@@ -21,11 +21,12 @@ constexpr int pageFiles = 0; ///< filters of the file dialog
 constexpr int imageFiles = 1;
 constexpr int soundFiles = 6;
 
-BrowseRule BrowseFor(ControlName button, TextView caption, int filter)
+BrowseRule BrowseFor(ControlName button, TextView caption, int filter, FolderPurpose purpose)
 {
-    return {.Button = button,
-            .Caption = caption,
-            .Request = {.Title = u"Browse", .Filter = Text(FileFilter(filter))}};
+    return {
+        .Button = button,
+        .Caption = caption,
+        .Request = {.Title = u"Browse", .Filter = Text(FileFilter(filter)), .Purpose = purpose}};
 }
 
 } // namespace
@@ -65,8 +66,9 @@ void AllInOneButtonForm::AddTextRow(PageBuilder& frame)
 {
     txtButtonText = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtButtonText->setObjectName(QStringLiteral("txtButtonText"));
-    cmdBrowseForImage = frame.BrowseButton(
-        txtButtonText, BrowseFor("cmdBrowseForImage", u"Browse for image...", imageFiles));
+    cmdBrowseForImage =
+        frame.BrowseButton(txtButtonText, BrowseFor("cmdBrowseForImage", u"Browse for image...",
+                                                    imageFiles, FolderPurpose::Images));
     lblButtonText = frame.Row(u"Button text:", {txtButtonText, cmdBrowseForImage});
     lblButtonText->setObjectName(QStringLiteral("lblButtonText"));
 }
@@ -75,8 +77,10 @@ void AllInOneButtonForm::AddTargetRow(PageBuilder& frame)
 {
     txtURL = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtURL->setObjectName(QStringLiteral("txtURL"));
-    cmdBrowsePage = frame.BrowseButton(txtURL, BrowseFor("cmdBrowse", u"Browse...", pageFiles));
-    cmdBrowseSound = frame.BrowseButton(txtURL, BrowseFor("cmdBrowse", u"Browse...", soundFiles));
+    cmdBrowsePage = frame.BrowseButton(
+        txtURL, BrowseFor("cmdBrowse", u"Browse...", pageFiles, FolderPurpose::Links));
+    cmdBrowseSound = frame.BrowseButton(
+        txtURL, BrowseFor("cmdBrowse", u"Browse...", soundFiles, FolderPurpose::Sounds));
     lblURL = frame.Row(u"Web page URL:", {txtURL, cmdBrowsePage, cmdBrowseSound});
     lblURL->setObjectName(QStringLiteral("lblURL"));
 }

@@ -21,7 +21,9 @@ AntiSpamLinkForm::AntiSpamLinkForm(Workbench& bench, QWidget* parent)
     page.LockedBrowseRow("txtImage", u"Image (optional):", {},
                          {.Button = "cmdBrowseForImage",
                           .Caption = u"Browse for image...",
-                          .Request = {.Title = u"Browse", .Filter = Text(FileFilter(1))}});
+                          .Request = {.Title = u"Browse",
+                                      .Filter = Text(FileFilter(1)),
+                                      .Purpose = FolderPurpose::Images}});
     page.TextBox("txtSubject", u"Email subject:");
     page.CheckBox("chkAntiSpam", u"Protect my email address from being taken from my Web page and "
                                  u"used in spam and unsolicited email messages")

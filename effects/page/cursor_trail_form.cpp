@@ -18,7 +18,9 @@ CursorTrailForm::CursorTrailForm(Workbench& bench, QWidget* parent)
     page.LockedBrowseRow("txtImage", u"Image name:", {},
                          {.Button = "cmdBrowseForImage",
                           .Caption = u"Browse for image...",
-                          .Request = {.Title = u"Browse", .Filter = Text(imageFilter)},
+                          .Request = {.Title = u"Browse",
+                                      .Filter = Text(imageFilter),
+                                      .Purpose = FolderPurpose::Images},
                           .KeepsPath = true});
     page.Slider("Slider", u"Length of Trail:", u"Short", u"Long",
                 {.Lowest = 1, .Highest = 20, .Tick = 1});

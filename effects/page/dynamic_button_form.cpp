@@ -66,7 +66,9 @@ void DynamicButtonForm::AddImage(PageBuilder& frame, ControlName name, TextView 
     frame.LockedBrowseRow(name, u"Button Image:", tip,
                           {.Button = "cmdBrowseForImage",
                            .Caption = u"Browse for image...",
-                           .Request = {.Title = u"Browse", .Filter = Text(FileFilter(1))},
+                           .Request = {.Title = u"Browse",
+                                       .Filter = Text(FileFilter(1)),
+                                       .Purpose = FolderPurpose::Images},
                            .Folder = &OrvaneCore::ImageFolderMemo,
                            .NoBlanks = FileRole::Image,
                            .Slot = slot,
@@ -81,7 +83,9 @@ void DynamicButtonForm::AddSound(PageBuilder& frame, ControlName name, TextView 
     frame.LockedBrowseRow(name, u"Play this sound:", tip,
                           {.Button = "cmdBrowseForSound",
                            .Caption = u"Browse for sound...",
-                           .Request = {.Title = u"Browse", .Filter = Text(FileFilter(6))},
+                           .Request = {.Title = u"Browse",
+                                       .Filter = Text(FileFilter(6)),
+                                       .Purpose = FolderPurpose::Sounds},
                            .Folder = &OrvaneCore::LastSoundFolder,
                            .NoBlanks = FileRole::Sound,
                            .Slot = slot});
@@ -89,13 +93,15 @@ void DynamicButtonForm::AddSound(PageBuilder& frame, ControlName name, TextView 
 
 void DynamicButtonForm::AddLink(PageBuilder& frame)
 {
-    frame.BrowseRow(
-        "LinkUrl", u"Link to this URL:", {},
-        {.Button = "cmdBrowseForURL",
-         .Caption = u"Browse for URL...",
-         .Request = {.Title = u"Browse...", .Filter = Text(FileFilter(0)), .FilterIndex = 2},
-         .Folder = &OrvaneCore::LinkFolderMemo},
-        u"(Optional)");
+    frame.BrowseRow("LinkUrl", u"Link to this URL:", {},
+                    {.Button = "cmdBrowseForURL",
+                     .Caption = u"Browse for URL...",
+                     .Request = {.Title = u"Browse...",
+                                 .Filter = Text(FileFilter(0)),
+                                 .FilterIndex = 2,
+                                 .Purpose = FolderPurpose::Links},
+                     .Folder = &OrvaneCore::LinkFolderMemo},
+                    u"(Optional)");
     frame.ComboBox("LinkTarget", u"Target frame:", LinkTargets, true);
 }
 

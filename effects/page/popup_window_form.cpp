@@ -47,10 +47,12 @@ void PopupWindowForm::AddAppearPage()
     lblLinkExplanation = link.Note({}, "lblLinkExplanation");
     txtLinkItem = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtLinkItem->setObjectName(QStringLiteral("txtLinkItem"));
-    cmdBrowseForImage = link.BrowseButton(
-        txtLinkItem, {.Button = "cmdBrowseForImage",
-                      .Caption = u"Browse for image...",
-                      .Request = {.Title = u"Browse", .Filter = Text(FileFilter(1))}});
+    cmdBrowseForImage =
+        link.BrowseButton(txtLinkItem, {.Button = "cmdBrowseForImage",
+                                        .Caption = u"Browse for image...",
+                                        .Request = {.Title = u"Browse",
+                                                    .Filter = Text(FileFilter(1)),
+                                                    .Purpose = FolderPurpose::Images}});
     lblLinkItem = link.Row(u"Hyperlink text:", {txtLinkItem, cmdBrowseForImage});
     lblLinkItem->setObjectName(QStringLiteral("lblLinkItem"));
     ShowLink(*LinkSettingsFor(WhenToAppear::OnHyperlink));
@@ -63,15 +65,17 @@ void PopupWindowForm::AddWindowPage()
     page.TextBox("txtWindowName", u"PopUp Window name:",
                  u"This is the name of the window so it can later be referenced (do not include "
                  u"spaces)");
-    page.BrowseRow(
-        "txtURL", u"Web page URL or image to display in PopUp window:",
-        u"This is  the Web page URL or image filename to be displayed in the PopUp "
-        u"Window",
-        {.Button = "cmdBrowseForWebPageOrImage",
-         .Caption = u"Browse for Web page or image...",
-         .Request = {.Title = u"Browse...", .Filter = Text(pageOrImageFilter), .FilterIndex = 2},
-         .Slot = 0,
-         .Then = [this](const Text& path) { TakeSize(path); }});
+    page.BrowseRow("txtURL", u"Web page URL or image to display in PopUp window:",
+                   u"This is  the Web page URL or image filename to be displayed in the PopUp "
+                   u"Window",
+                   {.Button = "cmdBrowseForWebPageOrImage",
+                    .Caption = u"Browse for Web page or image...",
+                    .Request = {.Title = u"Browse...",
+                                .Filter = Text(pageOrImageFilter),
+                                .FilterIndex = 2,
+                                .Purpose = FolderPurpose::Links},
+                    .Slot = 0,
+                    .Then = [this](const Text& path) { TakeSize(path); }});
     txtWidth =
         page.TextBox("txtWidth", u"PopUp Window width:",
                      u"This is the width of the PopUp Window, specified in pixels", u"pixels");

@@ -18,7 +18,9 @@ PulldownURLForm::PulldownURLForm(Workbench& bench, const MenuItem& item, QWidget
         "txtMenuItemURL", u"Link menu item to this Web page:", {},
         {.Button = "cmdBrowseForURL",
          .Caption = u"Browse for URL...",
-         .Request = {.Title = u"Browse", .Filter = Text(FileFilter(0))},
+         .Request = {.Title = u"Browse",
+                     .Filter = Text(FileFilter(0)),
+                     .Purpose = FolderPurpose::Links},
          .Then = [this](const Text&) { txtMenuItemURL->setFocus(Qt::OtherFocusReason); }});
     page.Fill();
     AddButtons();

@@ -62,7 +62,9 @@ void TooltipsForm::AddHoverPage()
                          u"This is the image on your Web page that the tooltip belongs to",
                          {.Button = "cmdBrowseForImage",
                           .Caption = u"Browse for image...",
-                          .Request = {.Title = u"Browse", .Filter = Text(imageFilter)},
+                          .Request = {.Title = u"Browse",
+                                      .Filter = Text(imageFilter),
+                                      .Purpose = FolderPurpose::Images},
                           .KeepsPath = true});
     page.Fill();
 }

@@ -30,7 +30,9 @@ VertScrollerAddForm::VertScrollerAddForm(Workbench& bench, const std::vector<Tex
                          u"item is clicked",
                          {.Button = "cmdBrowseURL",
                           .Caption = u"Browse for URL...",
-                          .Request = {.Title = u"Browse", .Filter = Text(FileFilter(webPages))},
+                          .Request = {.Title = u"Browse",
+                                      .Filter = Text(FileFilter(webPages)),
+                                      .Purpose = FolderPurpose::Links},
                           .Then = [this](const Text&) { txtItemURL->setFocus(); }});
     AddButtons();
     if (row.empty())

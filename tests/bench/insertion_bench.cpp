@@ -42,6 +42,7 @@ public:
     std::optional<Text> PickFolder(TextView, TextView) override { return std::nullopt; }
     std::optional<std::int32_t> PickColor() override { return std::nullopt; }
     FontChoice PickFont(const FontChoice& start) override { return start; }
+    std::unique_ptr<Progress> FollowWork(TextView) override { return nullptr; }
     PageBoxReply Answer(const PageBox&) override { return {}; }
 };
 

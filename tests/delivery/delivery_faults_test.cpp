@@ -1,7 +1,8 @@
 #include "core/file_names.h"
+#include "delivery/manual_copy.h"
 #include "delivery/required_files.h"
-#include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
+#include "insertion/page_backups.h"
 #include "insertion/page_edit.h"
 #include "insertion/page_script.h"
 #include "tests/support/doubles.h"
@@ -77,6 +78,14 @@ void InsertIntoPage(Delivery& delivery)
         delivery.End(CopyRequiredFiles(delivery.Desk(), FolderOf(page)));
 }
 
+void BringBackup(Delivery& delivery)
+{
+    const Text page = delivery.Folder.TextAt(pageName);
+    const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    delivery.Heard.IsComplete =
+        BringBack(delivery.Files, delivery.Author, page, BackupPath(page), kept);
+}
+
 void InsertForToday(Delivery& delivery)
 {
     delivery.Payload.RunsToday = true;
@@ -147,6 +156,13 @@ Contents InsertedForToday(const TestFolder& folder)
     return written;
 }
 
+/// What bringing back the backup beside the page leaves: the page as it was is kept.
+Contents BroughtBack(const TestFolder& folder)
+{
+    return {{pageName, oldPage},
+            {"state/first-backups/2024-05-31 3" + folder.At(pageName), earlierRun}};
+}
+
 auto NewPageAs(std::string name)
 {
     return [=](const TestFolder& folder) {
@@ -200,6 +216,19 @@ const WritingWay ways[] = {
             f.Put("program/orvane.js", pageScript);
         },
         InsertForToday, InsertedForToday),
+    [] {
+        WritingWay way = Way(
+            "BringBack",
+            [](const TestFolder& f) {
+                f.Put(pageName, earlierRun, 0640);
+                f.Put("page/Backup of index.html", oldPage, 0640);
+                f.MakeFolder("state/first-backups");
+                f.MakeFolder("state/first-backups/2024-05-31 2");
+            },
+            BringBackup, BroughtBack);
+        way.Backup = "state/first-backups/2024-05-31 3/";
+        return way;
+    }(),
     Way("NewPageOverOld", PutPage, SaveNewPage, NewPageAs(pageName)),
     Way(
         "PublishAgain", [](const TestFolder& f) { f.Put("page/ovtemp.html", "an earlier effect"); },

@@ -1,21 +1,29 @@
 #include "delivery/preview_form.h"
 
+#include "delivery/insert_panel.h"
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "insertion/new_page.h"
 #include "program/form_desk.h"
 #include "program/ov_main_form.h"
 #include "services/chosen_effects.h"
+#include "services/recent_files.h"
 #include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_controls.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
+#include <QDropEvent>
+#include <QFile>
 #include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
 namespace orvane {
 namespace {
@@ -33,7 +41,11 @@ protected:
 
     void Open()
     {
-        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, PreviewWindows());
+        const PreviewWindows windows{.BringBack = [this](const Text& page) {
+            m_broughtBack = page;
+            return true;
+        }};
+        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, windows);
         m_form->show();
         LetRun();
     }
@@ -86,6 +98,7 @@ protected:
     }
 
     FakeDesk m_desk;
+    Text m_broughtBack;
     EffectPayload m_payload = Generate(StatusBarTicker{u"Welcome\u00A0to my\u2028page!"});
     std::unique_ptr<PreviewForm> m_form;
 };
@@ -303,6 +316,64 @@ TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
     Type(*m_form, "txtFileName", u"x");
     EXPECT_EQ(WordsOf(*m_form, "txtFileName"), u"/site/index.html");
     EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
+}
+
+TEST_F(PreviewFormTest, ADroppedPageIsTakenAsIfBrowsedAndNothingElse)
+{
+    const QTemporaryDir folder;
+    const auto made = [&](const char* name) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return QUrl::fromLocalFile(file.fileName());
+    };
+    const QUrl page = made("a page.PHP");
+    const QUrl other = made("a.gif");
+    auto* panel = Find<InsertPanel>(*m_form, "");
+    const auto drop = [&](const QList<QUrl>& urls) {
+        QMimeData data;
+        data.setUrls(urls);
+        QDropEvent event({}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(panel, &event);
+        EXPECT_TRUE(!event.isAccepted() || event.dropAction() == Qt::CopyAction);
+        return event.isAccepted();
+    };
+    ToNewPage();
+    EXPECT_FALSE(drop({page}));
+    Click(*m_form, "cmdPrevious");
+    Choose(0);
+    Click(*m_form, "cmdNext");
+    EXPECT_FALSE(Find<QWidget>(*m_form, "txtFileName")->acceptDrops()) << "it would take a text";
+    for (const QList<QUrl>& refused : {QList<QUrl>{other},
+                                       {page, other},
+                                       {QUrl("http://x/a.html")},
+                                       {QUrl::fromLocalFile(folder.path())}})
+        EXPECT_FALSE(drop(refused));
+    EXPECT_TRUE(drop({page}));
+    LetRun();
+    EXPECT_EQ(ToQt(WordsOf(*m_form, "txtFileName")), page.toLocalFile());
+    EXPECT_TRUE(WordsOf(*m_form, "lblBackupFile").ends_with(u"\"Backup of a page.PHP\""));
+    EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("cmdAutoInsert"));
+}
+
+TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersionComesBack)
+{
+    for (const TextView gone : {u"/gone.html", u"/site/a&b.html"})
+        PutRecentFile(m_desk.Settings, u"Pages", gone);
+    m_desk.Files.Contents[u"/site/a&b.html"] = "<head>12</head><body></body>";
+    ToMethodPage();
+    Click(*m_form, "cmdNext");
+    ExpectAccessible(*m_form);
+    QMenu* menu = Find<QPushButton>(*m_form, "cmdRecentPages")->menu();
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 1);
+    EXPECT_EQ(menu->actions().at(0)->text(), QStringLiteral("/site/a&&b.html"));
+    menu->actions().at(0)->trigger();
+    Click(*m_form, "cmdAutoInsert");
+    EXPECT_EQ(Heading(), u"Finished!");
+    Click(*m_form, "cmdBringBack");
+    EXPECT_EQ(m_broughtBack, u"/site/a&b.html");
+    EXPECT_TRUE(WordsOf(*m_form, "lblReport").starts_with(u"Earlier version brought back"));
+    EXPECT_FALSE(m_form->WasDelivered()) << "the author's entries are still wanted";
 }
 
 TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndEmptiesTheSharedCode)

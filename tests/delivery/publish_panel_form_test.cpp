@@ -234,6 +234,10 @@ TEST_F(PublishPanelTest, GoesToTheFolderThatTheAuthorMade)
     EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program", u"new"}));
     Click(*m_form, "cmdCopyFiles");
     EXPECT_EQ(Bytes(u"/program/new/a.gif"), "a");
+
+    OpenPublishPage();
+    Click(*m_form, "cmdLastFolder");
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program", u"new"}));
 }
 
 TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolder)

@@ -148,6 +148,24 @@ TEST_F(RequiredFilesTest, AFaultOfOneFileMakesItMissingAndAnyOtherEndsTheCopying
     EXPECT_EQ(dialogs.Said, Names());
 }
 
+TEST_F(RequiredFilesTest, AnAuthorWhoEndsTheCopyingKeepsWhatIsThereAndIsToldTheRest)
+{
+    disk.Contents[u"/site/b.gif"] = "old";
+    disk.Contents[u"/site/X.class"] = "old";
+    Require(10, u"c.gif", u"/pics/b.gif");
+    dialogs.WorkGoesOn = 1;
+    EXPECT_EQ(CopyRequiredFiles(Desk(), u"/site/"), Outcome<MissingFiles>(Fault::Cancelled));
+    EXPECT_EQ(dialogs.TakeSaid(), Names{u"You ended the copying.  These files were not copied to "
+                                        u"the /site/ folder: c.gif, X.class, Y.class"});
+    EXPECT_EQ(report.Lines(),
+              (Names{u"Copied to /site/: a.gif", u"Missing in /site/: c.gif, X.class, Y.class"}));
+    EXPECT_EQ(disk.Contents[u"/site/b.gif"], "old") << "nobody asks about it any more";
+    EXPECT_EQ(disk.Contents[u"/site/X.class"], "old");
+
+    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles()) << "seen without its pictures";
+    EXPECT_EQ(dialogs.Said, Names());
+}
+
 TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItAlone)
 {
     const std::string own = "/*! Orvane page script 1.2.0 */new";

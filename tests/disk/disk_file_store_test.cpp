@@ -146,6 +146,36 @@ TEST_F(DiskFileStoreTest, CopyOntoItselfDoesNothing)
     EXPECT_EQ(Folder.Get("copy"), "old");
 }
 
+TEST_F(DiskFileStoreTest, CopyInPiecesCanBeEndedAndLeavesTheOldFileThen)
+{
+    struct Steps : Progress
+    {
+        std::size_t Limit = 2;
+        std::vector<std::uint64_t> Done;
+        bool GoOn(std::uint64_t done, std::uint64_t total) override
+        {
+            EXPECT_EQ(total, 3'000'000u);
+            Done.push_back(done);
+            return Done.size() < Limit;
+        }
+    } steps;
+    std::string large(3'000'000, 'x');
+    large.back() = 'y';
+    Folder.Put("page", "old");
+    Folder.Put("large", large);
+    const auto copy = [&] {
+        return Store.Copy(Folder.TextAt("large"), Folder.TextAt("page"), &steps);
+    };
+    EXPECT_EQ(copy(), Done(Fault::Cancelled));
+    EXPECT_EQ(steps.Done.size(), 2u);
+    EXPECT_EQ(Folder.Get("page"), "old");
+    EXPECT_EQ(Folder.Names(""), (std::vector<std::string>{"large", "page"}));
+    steps.Limit = 9;
+    EXPECT_EQ(copy(), Done());
+    EXPECT_EQ(steps.Done.back(), large.size());
+    EXPECT_TRUE(Folder.Get("page") == large);
+}
+
 TEST_F(DiskFileStoreTest, NewFileTakesTheNameAndNothingIsWrittenThroughIt)
 {
     Folder.MakeFolder("away");

@@ -1,5 +1,6 @@
 #include "program/qt_dialogs.h"
 
+#include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 
 #include <QApplication>
@@ -8,9 +9,12 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -22,7 +26,8 @@ const Text manyWords(manyLines.toStdU16String());
 
 TEST(QtDialogsTest, GivesTheAnswerOfEachButtonAndOfEscape)
 {
-    QtDialogs dialogs;
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
     const auto press = [](const char* button) {
         WhenInFront<QDialog>([button](QDialog& box) {
             EXPECT_EQ(WordsOf(box, "lblWords"), u"Sure & <safe>?\nYes?");
@@ -46,7 +51,8 @@ TEST(QtDialogsTest, GivesTheAnswerOfEachButtonAndOfEscape)
 
 TEST(QtDialogsTest, KeepsWhatTheAuthorAnswersWithOnTheScreenHoweverManyTheWords)
 {
-    QtDialogs dialogs;
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
     WhenInFront<QDialog>([](QDialog& box) {
         const QRect room = box.screen()->availableGeometry();
         EXPECT_LT(box.height(), room.height());
@@ -67,7 +73,8 @@ TEST(QtDialogsTest, KeepsWhatTheAuthorAnswersWithOnTheScreenHoweverManyTheWords)
 
 TEST(QtDialogsTest, NoBoxBelongsToAWindowThatClosesByItself)
 {
-    QtDialogs dialogs;
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
     QWidget wizard;
     wizard.show();
     auto* popup = new QWidget(&wizard, Qt::Window);
@@ -85,7 +92,8 @@ TEST(QtDialogsTest, NoBoxBelongsToAWindowThatClosesByItself)
 
 TEST(QtDialogsTest, TheWaitPointerDoesNotStandOverAQuestion)
 {
-    QtDialogs dialogs;
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QApplication::setOverrideCursor(Qt::BusyCursor);
     WhenInFront<QDialog>([](QDialog& box) {
@@ -105,10 +113,14 @@ TEST(QtDialogsTest, FileDialogsHaveTheAskedKindsAndRememberTheirFolder)
               (QStringList{"All Files (*)", "Pages (*.html *.htm)"}));
 
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QtDialogs dialogs;
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
     const QTemporaryDir folder;
     const Text path = folder.path().toStdU16String();
-    const FileRequest request{.Filter = u"All|*.*|Pages|*.html", .FilterIndex = 2, .InitDir = path};
+    const FileRequest request{.Filter = u"All|*.*|Pages|*.html",
+                              .FilterIndex = 2,
+                              .InitDir = path,
+                              .Purpose = FolderPurpose::Images};
     WhenInFront<QFileDialog>([](QFileDialog& dialog) {
         dialog.selectFile("page");
         static_cast<QDialog&>(dialog).accept();
@@ -119,11 +131,46 @@ TEST(QtDialogsTest, FileDialogsHaveTheAskedKindsAndRememberTheirFolder)
         dialog.reject();
     });
     EXPECT_EQ(dialogs.OpenFile({}), std::nullopt);
+    // In the next run the folder is that of images alone.
+    QtDialogs later(settings);
+    for (const auto& [purpose, isSame] :
+         {std::pair(FolderPurpose::Images, true), std::pair(FolderPurpose::Pages, false)}) {
+        WhenInFront<QFileDialog>([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.directory().path() == folder.path(), isSame);
+            dialog.reject();
+        });
+        EXPECT_EQ(later.OpenFile({.Purpose = purpose}), std::nullopt);
+    }
+}
+
+TEST(QtDialogsTest, LongWorkShowsItselfAndKeepsTheAuthorFromAllButEndingIt)
+{
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
+    QPushButton below("again");
+    int pressed = 0;
+    QObject::connect(&below, &QPushButton::clicked, [&] { ++pressed; });
+    below.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&below));
+    const auto work = dialogs.FollowWork(u"Copying files to /a & b");
+    EXPECT_TRUE(work->GoOn(0, 100));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "short work is not shown";
+    QTest::qSleep(550);
+    EXPECT_TRUE(work->GoOn(40, 100));
+    QWidget* box = QApplication::activeModalWidget();
+    ASSERT_NE(box, nullptr);
+    ExpectAccessible(*box);
+    EXPECT_EQ(Find<QProgressBar>(*box, "ProgressBar")->value(), 400);
+    QTest::mouseClick(below.windowHandle(), Qt::LeftButton, {}, below.rect().center());
+    Press(*box, Qt::Key_Escape);
+    EXPECT_FALSE(work->GoOn(41, 100));
+    EXPECT_EQ(pressed, 0);
 }
 
 TEST(QtDialogsTest, ColoursArePackedWithBlueFirstAndACancelledFontStays)
 {
-    QtDialogs dialogs;
+    FakeSettings settings;
+    QtDialogs dialogs(settings);
     WhenInFront<QColorDialog>([](QColorDialog& dialog) {
         dialog.setCurrentColor(QColor(1, 2, 3));
         dialog.accept();

@@ -73,6 +73,17 @@ FontChoice FakeDialogs::PickFont(const FontChoice& start)
     return Next(m_fonts, "pick font", start);
 }
 
+std::unique_ptr<Progress> FakeDialogs::FollowWork(TextView)
+{
+    struct FakeProgress : Progress
+    {
+        explicit FakeProgress(int& left) : Left(left) {}
+        bool GoOn(std::uint64_t, std::uint64_t) override { return Left-- > 0; }
+        int& Left;
+    };
+    return std::make_unique<FakeProgress>(WorkGoesOn);
+}
+
 PageBoxReply FakeDialogs::Answer(const PageBox& box)
 {
     Boxes.push_back(box);
@@ -136,11 +147,21 @@ Outcome<bool> FakeFileStore::Exchange(TextView path, std::string_view old, std::
     return true;
 }
 
-Done FakeFileStore::Copy(TextView from, TextView to)
+std::optional<FileFacts> FakeFileStore::Facts(TextView path) const
+{
+    const auto found = Contents.find(Text(path));
+    if (found == Contents.end())
+        return std::nullopt;
+    return FileFacts{.Size = found->second.size()};
+}
+
+Done FakeFileStore::Copy(TextView from, TextView to, Progress* progress)
 {
     const auto bytes = Read(from);
     if (const Fault* fault = FaultIn(bytes))
         return *fault;
+    if (progress != nullptr && !progress->GoOn(0, ValueIn(bytes).size()))
+        return Fault::Cancelled;
     return Replace(to, ValueIn(bytes));
 }
 

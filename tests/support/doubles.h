@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <limits>
 #include <map>
 #include <optional>
 #include <set>
@@ -43,6 +44,7 @@ public:
     std::vector<FontChoice> FontStarts; ///< of every font dialog
     std::vector<PageBox> Boxes;         ///< of every page box
     Tone LastTone = Tone::Plain;
+    int WorkGoesOn = std::numeric_limits<int>::max(); ///< how often before the author ends it
 
     void Say(TextView words, Tone tone) override;
     bool Ask(TextView words, TextView title) override;
@@ -52,6 +54,7 @@ public:
     std::optional<Text> PickFolder(TextView title, TextView start) override;
     std::optional<std::int32_t> PickColor() override;
     FontChoice PickFont(const FontChoice& start) override;
+    std::unique_ptr<Progress> FollowWork(TextView words) override;
     PageBoxReply Answer(const PageBox& box) override;
 
 private:
@@ -91,6 +94,7 @@ public:
     bool FileExists(TextView path) const override { return Contents.contains(Text(path)); }
     bool IsTaken(TextView path) const override { return FileExists(path); }
     Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const override;
+    std::optional<FileFacts> Facts(TextView path) const override;
     Outcome<std::string> Read(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
     Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
@@ -98,7 +102,7 @@ public:
     {
         return Replace(path, bytes);
     }
-    Done Copy(TextView from, TextView to) override;
+    Done Copy(TextView from, TextView to, Progress* progress) override;
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;
     std::shared_ptr<const void> Hold(TextView) override { return nullptr; }

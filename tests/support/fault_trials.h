@@ -33,6 +33,8 @@ struct WritingWay
     std::function<Contents(const TestFolder&)> Written;
     bool IsRepeatable = false; ///< a second run makes nothing else of the files
     bool IsPrivate = false;    ///< not everybody may read the page, nor what is left beside it
+    /// How the name of the backup begins without which no page is written.
+    const char* Backup = "page/Backup of index.html";
 };
 
 void PrintTo(const WritingWay& way, std::ostream* out);

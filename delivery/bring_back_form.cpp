@@ -1,0 +1,112 @@
+#include "delivery/bring_back_form.h"
+
+#include "insertion/new_page.h"
+#include "windows/qt_text.h"
+
+#include <QDateTime>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTreeWidget>
+
+namespace orvane {
+
+namespace {
+
+QString DateOf(const PageBackup& backup)
+{
+    return QDateTime::fromSecsSinceEpoch(backup.Facts.Written)
+        .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+QTreeWidget* MakeTable()
+{
+    auto* table = new QTreeWidget;
+    table->setObjectName(QStringLiteral("lstBackups"));
+    table->setAccessibleName(QStringLiteral("Backups, newest first"));
+    table->setHeaderLabels({QStringLiteral("Kept on"), QStringLiteral("Size"),
+                            QStringLiteral("Compared with the page as it is")});
+    table->setRootIsDecorated(false);
+    table->setUniformRowHeights(true);
+    table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    return table;
+}
+
+} // namespace
+
+BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
+    : OkCancelForm("BringBack", u"Bring back a page", help_topics::backups, bench, parent),
+      m_page(page),
+      lstBackups(MakeTable())
+{
+    PageBuilder rows = Rows();
+    cmdBrowseForPage = rows.Button("cmdBrowseForPage", u"B&rowse for page...");
+    connect(cmdBrowseForPage, &QPushButton::clicked, this, &BringBackForm::BrowseForPage);
+    txtPage = rows.TextBoxWithButton("txtPage", u"Web page:", cmdBrowseForPage);
+    txtPage->setReadOnly(true);
+    lblBackups = rows.Note({}, "lblBackups");
+    rows.Fill(lstBackups);
+    AddButtons(u"&Bring back");
+    setMinimumSize(560, 360);
+    ShowBackups();
+}
+
+void BringBackForm::BrowseForPage()
+{
+    if (const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest())) {
+        m_page = *path;
+        ShowBackups();
+    }
+}
+
+void BringBackForm::ShowBackups()
+{
+    txtPage->setText(ToQt(m_page));
+    m_backups =
+        m_page.empty() ? std::vector<PageBackup>() : BackupsOf(m_bench.Files, Kept(), m_page);
+    const auto page = m_bench.Files.Facts(m_page);
+    lstBackups->clear();
+    for (const PageBackup& backup : m_backups) {
+        const Text difference = page ? CompareSizes(backup.Facts.Size, page->Size) : Text();
+        const QString size = QStringLiteral("%1 bytes").arg(backup.Facts.Size);
+        auto* row = new QTreeWidgetItem(lstBackups, {DateOf(backup), size, ToQt(difference)});
+        row->setToolTip(0, ToQt(backup.Path));
+    }
+    TextView words = u"Choose the backup that the page shall hold again.  The page as it is now is "
+                     u"kept as a backup first.";
+    if (m_page.empty())
+        words = u"Find the Web page of which an earlier version shall come back.";
+    else if (m_backups.empty())
+        words = u"Orvane has no backup of this Web page.";
+    lblBackups->setText(ToQt(words));
+    lstBackups->setVisible(!m_backups.empty());
+    lstBackups->setCurrentItem(lstBackups->topLevelItem(0));
+    QWidget* first = cmdBrowseForPage;
+    if (!m_backups.empty())
+        first = lstBackups;
+    first->setFocus();
+}
+
+void BringBackForm::Take()
+{
+    const int row = lstBackups->indexOfTopLevelItem(lstBackups->currentItem());
+    if (row < 0)
+        return Report({u"Please choose a page that has a backup.", "cmdBrowseForPage"});
+    const PageBackup& backup = m_backups.at(static_cast<std::size_t>(row));
+    const Text date = FromQt(DateOf(backup));
+    if (!m_bench.Dialogs.Ask(
+            Join({u"Do you want to replace ", m_page, u" by its backup of ", date, u"?"})))
+        return;
+    if (!orvane::BringBack(m_bench.Files, m_bench.Dialogs, m_page, backup.Path, Kept()))
+        return ShowBackups();
+    m_bench.Dialogs.Say(Join({u"Your Web page holds the backup of ", date,
+                              u" again.  The page as it was before is among its backups now."}));
+    m_broughtBack = m_page;
+    accept();
+}
+
+KeptPages BringBackForm::Kept() const
+{
+    return KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+}
+
+} // namespace orvane

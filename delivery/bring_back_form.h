@@ -1,0 +1,40 @@
+#pragma once
+
+#include "insertion/page_backups.h"
+#include "windows/ok_cancel_form.h"
+
+class QTreeWidget;
+
+namespace orvane {
+
+/// The window "Bring back a page": the backups of one page, compared with the page as it is.
+class BringBackForm : public OkCancelForm
+{
+    Q_OBJECT
+
+public:
+    /// Shows the backups of the page with that full path; of none when it is empty.
+    BringBackForm(Workbench& bench, TextView page, QWidget* parent = nullptr);
+
+    /// The page that holds an earlier version now; nothing when the author left without that.
+    const std::optional<Text>& BroughtBack() const { return m_broughtBack; }
+
+protected:
+    void Take() override;
+
+private:
+    void BrowseForPage();
+    void ShowBackups();
+    KeptPages Kept() const;
+
+    Text m_page;
+    std::vector<PageBackup> m_backups;
+    std::optional<Text> m_broughtBack;
+
+    QLineEdit* txtPage;
+    QLabel* lblBackups;
+    QTreeWidget* lstBackups;
+    QPushButton* cmdBrowseForPage;
+};
+
+} // namespace orvane

@@ -1,0 +1,47 @@
+#include "services/folder_memory.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView section = u"Folders";
+
+TextView KeyOf(FolderPurpose purpose)
+{
+    switch (purpose) {
+    case FolderPurpose::Pages:
+        return u"Pages";
+    case FolderPurpose::Images:
+        return u"Images";
+    case FolderPurpose::Links:
+        return u"Links";
+    case FolderPurpose::Sounds:
+        return u"Sounds";
+    case FolderPurpose::Texts:
+        return u"Texts";
+    case FolderPurpose::Projects:
+        return u"Projects";
+    case FolderPurpose::Publishing:
+        return u"Publishing";
+    case FolderPurpose::Other:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+Text RememberedFolder(const Settings& settings, FolderPurpose purpose)
+{
+    const TextView key = KeyOf(purpose);
+    return key.empty() ? Text() : settings.Get(section, key, u"");
+}
+
+void RememberFolder(Settings& settings, FolderPurpose purpose, TextView folder)
+{
+    const TextView key = KeyOf(purpose);
+    if (!key.empty() && folder != settings.Get(section, key, u""))
+        settings.Put(section, key, folder);
+}
+
+} // namespace orvane

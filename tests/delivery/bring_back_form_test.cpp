@@ -1,0 +1,50 @@
+#include "delivery/bring_back_form.h"
+
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
+
+#include <QTest>
+#include <QTreeWidget>
+
+namespace orvane::testing {
+namespace {
+
+TEST(BringBackFormTest, ComparesTheBackupsOfAPageAndBringsBackTheChosenOne)
+{
+    FakeDesk desk;
+    desk.Files.Contents = {{u"/site/a.html", "as it is now"},
+                           {u"/site/Backup of a.html", "before"},
+                           {u"/state/first-backups/2024-05-01/site/a.html", "in the beginning"}};
+    desk.Files.Folders = {u"/state/first-backups", u"/state/first-backups/2024-05-01"};
+    BringBackForm form(desk.Bench, {});
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    ExpectAccessible(form);
+    EXPECT_EQ(form.focusWidget()->objectName(), QStringLiteral("cmdBrowseForPage"));
+    Press(form, Qt::Key_Return);
+    desk.Dialogs.AnswerOpenFile(u"/site/a.html");
+    Click(form, "cmdBrowseForPage");
+    auto* list = Find<QTreeWidget>(form, "lstBackups");
+    ASSERT_EQ(list->topLevelItemCount(), 2);
+    EXPECT_EQ(list->topLevelItem(0)->text(1), QStringLiteral("6 bytes"));
+    EXPECT_EQ(list->topLevelItem(0)->text(2), QStringLiteral("6 bytes less"));
+    EXPECT_EQ(list->topLevelItem(1)->text(2), QStringLiteral("4 bytes more"));
+    ExpectAccessible(form);
+
+    Press(*list, Qt::Key_Down);
+    const Text question = u"Do you want to replace /site/a.html by its backup of 1970-01-01 ";
+    const auto hour = list->topLevelItem(1)->text(0).mid(11).toStdU16String();
+    for (const bool answer : {false, true}) {
+        EXPECT_EQ(desk.Files.Contents[u"/site/a.html"], "as it is now");
+        desk.Dialogs.ExpectAsk(question + hour + u"?", answer);
+        Press(*list, Qt::Key_Return);
+    }
+    EXPECT_EQ(desk.Files.Contents[u"/site/a.html"], "in the beginning");
+    EXPECT_EQ(desk.Files.Contents[u"/state/first-backups/2024-05-31 2/site/a.html"],
+              "as it is now");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.BroughtBack(), u"/site/a.html");
+}
+
+} // namespace
+} // namespace orvane::testing

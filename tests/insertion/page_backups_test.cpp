@@ -1,0 +1,107 @@
+#include "insertion/page_backups.h"
+
+#include "disk/disk_file_store.h"
+#include "tests/support/doubles.h"
+#include "tests/support/test_folder.h"
+
+#include <chrono>
+
+namespace orvane::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class PageBackupsTest : public ::testing::Test
+{
+protected:
+    PageBackupsTest()
+    {
+        Put("site/index.html", "the page now", 0);
+        Put("site/Backup of index.html", "2", 2);
+    }
+
+    /// A file that was written so many days ago.
+    void Put(const std::string& name, std::string_view bytes, int days) const
+    {
+        fs::create_directories(fs::path(Folder.At(name)).parent_path());
+        Folder.Put(name, bytes);
+        fs::last_write_time(Folder.At(name),
+                            fs::file_time_type::clock::now() - std::chrono::hours(24 * days));
+    }
+
+    std::string KeptName(const std::string& day) const
+    {
+        return "state/first-backups/" + day + Folder.At("site/index.html");
+    }
+
+    std::vector<std::string> Backups() const
+    {
+        std::vector<std::string> contents;
+        for (const PageBackup& backup : BackupsOf(Store, Kept, Page))
+            contents.push_back(ValueIn(Store.Read(backup.Path)));
+        return contents;
+    }
+
+    TestFolder Folder;
+    PosixCalls Calls;
+    DiskFileStore Store{Calls, Folder.TextAt("state")};
+    const Text Page = Folder.TextAt("site/index.html");
+    const KeptPages Kept = KeptPagesIn(Folder.TextAt("state"), u"2024-05-31");
+    FakeDialogs Dialogs;
+};
+
+using Contents = std::vector<std::string>;
+
+TEST_F(PageBackupsTest, AreListedNewestFirstWithoutLinksAndOtherPages)
+{
+    EXPECT_EQ(Backups(), Contents{"2"});
+    Put(KeptName("2024-05-01"), "30", 30);
+    Put(KeptName("2024-05-30"), "1", 1);
+    Put(KeptName("2024-05-29") + "l", "another page", 1);
+    Put(KeptName("2024-05-28"), "", 3);
+    fs::remove(Folder.At(KeptName("2024-05-28")));
+    Folder.Link(Folder.At("site/index.html"), KeptName("2024-05-28"));
+    EXPECT_EQ(Backups(), (Contents{"1", "2", "30"}));
+    EXPECT_EQ(CompareSizes(12, 12), u"same size");
+    EXPECT_EQ(CompareSizes(13, 12), u"1 byte more");
+    EXPECT_EQ(CompareSizes(1, 5'000'000'000), u"4999999999 bytes less");
+}
+
+TEST_F(PageBackupsTest, ABroughtBackPageCanBeTakenBackAndNoBackupIsEverLost)
+{
+    const Text beside = BackupPath(Page);
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, beside, Kept));
+    EXPECT_EQ(Folder.Get("site/index.html"), "2");
+    EXPECT_EQ(Backups(), (Contents{"the page now", "2"}));
+    EXPECT_FALSE(BringBack(Store, Dialogs, Page, beside, Kept)) << "it is there already";
+    EXPECT_EQ(Dialogs.TakeSaid().size(), 1u);
+    const Text now = BackupsOf(Store, Kept, Page).at(0).Path;
+    Folder.Put("site/index.html", "edited since");
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, now, Kept));
+    EXPECT_EQ(Folder.Get("site/index.html"), "the page now");
+    const Contents left = Backups();
+    EXPECT_EQ(std::set<std::string>(left.begin(), left.end()),
+              (std::set<std::string>{"2", "the page now", "edited since"}));
+}
+
+TEST(BringBackTest, APageThatAnotherProgramSavesMeanwhileStaysAsItIs)
+{
+    /// The other program is at work whenever this one keeps the page.
+    struct BusyStore : FakeFileStore
+    {
+        Done PutNew(TextView path, std::string_view bytes, TextView like) override
+        {
+            Contents[u"/p.html"] = "theirs";
+            return FakeFileStore::PutNew(path, bytes, like);
+        }
+    } files;
+    FakeDialogs dialogs;
+    files.Contents = {{u"/p.html", "now"}, {u"/Backup of p.html", "earlier"}};
+    EXPECT_FALSE(BringBack(files, dialogs, u"/p.html", u"/Backup of p.html", {u"/kept", u"day"}));
+    EXPECT_EQ(files.Contents[u"/p.html"], "theirs");
+    ASSERT_EQ(dialogs.Said.size(), 1u);
+    EXPECT_TRUE(dialogs.Said[0].starts_with(u"Another application has changed your Web page"));
+}
+
+} // namespace
+} // namespace orvane::testing
