@@ -24,7 +24,8 @@ QTreeWidget* MakeTable()
     table->setObjectName(QStringLiteral("lstBackups"));
     table->setAccessibleName(QStringLiteral("Backups, newest first"));
     table->setHeaderLabels({QStringLiteral("Kept on"), QStringLiteral("Size"),
-                            QStringLiteral("Compared with the page as it is")});
+                            QStringLiteral("Compared with the page as it is"),
+                            QStringLiteral("Kept")});
     table->setRootIsDecorated(false);
     table->setUniformRowHeights(true);
     table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -68,8 +69,12 @@ void BringBackForm::ShowBackups()
     for (const PageBackup& backup : m_backups) {
         const Text difference = page ? CompareSizes(backup.Facts.Size, page->Size) : Text();
         const QString size = QStringLiteral("%1 bytes").arg(backup.Facts.Size);
-        auto* row = new QTreeWidgetItem(lstBackups, {DateOf(backup), size, ToQt(difference)});
-        row->setToolTip(0, ToQt(backup.Path));
+        const bool isBeside = FolderOf(backup.Path) == FolderOf(m_page);
+        auto* row =
+            new QTreeWidgetItem(lstBackups, {DateOf(backup), size, ToQt(difference),
+                                             isBeside ? QStringLiteral("beside the page")
+                                                      : QStringLiteral("in Orvane's own folder")});
+        row->setToolTip(3, ToQt(backup.Path));
     }
     TextView words = u"Choose the backup that the page shall hold again.  The page as it is now is "
                      u"kept as a backup first.";

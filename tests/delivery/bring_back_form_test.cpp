@@ -21,7 +21,8 @@ TEST(BringBackFormTest, ComparesTheBackupsOfAPageAndBringsBackTheChosenOne)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     ExpectAccessible(form);
     EXPECT_EQ(form.focusWidget()->objectName(), QStringLiteral("cmdBrowseForPage"));
-    Press(form, Qt::Key_Return);
+    Click(form, "cmdOK");
+    EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u) << "a page is wanted first";
     desk.Dialogs.AnswerOpenFile(u"/site/a.html");
     Click(form, "cmdBrowseForPage");
     auto* list = Find<QTreeWidget>(form, "lstBackups");
