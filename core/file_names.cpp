@@ -1,5 +1,7 @@
 #include "core/file_names.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
@@ -75,6 +77,12 @@ bool MatchesMasks(TextView name, TextView masks)
         masks.remove_prefix(end == TextView::npos ? masks.size() : end + 1);
     }
     return false;
+}
+
+bool IsListed(const std::vector<Text>& names, TextView name)
+{
+    return std::any_of(names.begin(), names.end(),
+                       [&](const Text& listed) { return EqualIgnoringCase(listed, name); });
 }
 
 } // namespace orvane

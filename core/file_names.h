@@ -2,6 +2,8 @@
 
 #include "core/text.h"
 
+#include <vector>
+
 namespace orvane {
 
 /// Between the folders of a path; texts from elsewhere may hold "\" as well.
@@ -25,5 +27,8 @@ Text PathIn(TextView folder, TextView name);
 /// Whether the name fits one of the masks, such as "*.gif;*.jpg", upper and lower case taken as
 /// equal; "*" stands for any characters, "?" for one.
 bool MatchesMasks(TextView name, TextView masks);
+
+/// Whether one of a folder's names is this one, upper and lower case taken as equal.
+bool IsListed(const std::vector<Text>& names, TextView name);
 
 } // namespace orvane

@@ -4,12 +4,12 @@
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
 #include "services/recent_files.h"
-#include "windows/dropped_file.h"
+#include "windows/file_drop.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
+#include "windows/recent_menu.h"
 #include "windows/wait_cursor.h"
 
-#include <QAction>
 #include <QDir>
 #include <QMenu>
 #include <QPushButton>
@@ -34,7 +34,7 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
     connect(cmdBrowse, &QPushButton::clicked, this, &InsertPanel::BrowseForPage);
     cmdRecentPages = page.Button("cmdRecentPages", u"&Recent pages");
     auto* recent = new QMenu(cmdRecentPages);
-    connect(recent, &QMenu::aboutToShow, this, [this, recent] { ListRecentPages(*recent); });
+    OfferRecentFiles(*recent, recentPages, bench, [this](const Text& path) { TakePage(path); });
     cmdRecentPages->setMenu(recent);
     page.Row({}, {txtFileName, cmdBrowse, cmdRecentPages});
     cmdSaveWebPage = page.Button("cmdSaveWebPage", u"Save as New Web page");
@@ -49,14 +49,15 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
     lblAutoStep3 =
         page.Note(u"3. Open your Web page in a browser to see the special effect.", "lblAutoStep3");
     page.Fill();
-    TakeDroppedFile(
-        this, [this](TextView path) { return !m_isNewPage && IsPageName(GetFileName(path)); },
-        [this](const Text& path) { TakePage(path); });
+    // Else the box would take a page's address as a text.
+    txtFileName->setAcceptDrops(false);
+    connect(new FileDrop(*this, pageMasks, 1), &FileDrop::Dropped, this,
+            [this](const std::vector<Text>& pages) { TakePage(pages.front()); });
 }
 
 void InsertPanel::Begin(bool isNewPage)
 {
-    m_isNewPage = isNewPage;
+    setAcceptDrops(!isNewPage);
     lblAutoStep1->setText(
         ToQt(isNewPage ? TextView(u"1. Save your new Web page by pressing the 'Save as New Web "
                                   u"page' button below.")
@@ -91,17 +92,6 @@ void InsertPanel::TakePage(const Text& path)
                                       u"as \"Backup of ",
                                       GetFileName(path), u"\""})));
     cmdAutoInsert->setFocus();
-}
-
-void InsertPanel::ListRecentPages(QMenu& menu)
-{
-    menu.clear();
-    int number = 0;
-    for (const Text& path : RecentFiles(m_bench.Settings, m_bench.Files, recentPages)) {
-        const QString shown = ToQt(path).replace(u'&', QStringLiteral("&&"));
-        QAction* page = menu.addAction(QStringLiteral("&%1 ").arg(++number % 10) + shown);
-        connect(page, &QAction::triggered, this, [this, path] { TakePage(path); });
-    }
 }
 
 void InsertPanel::WriteDown(const Text& page)

@@ -8,7 +8,6 @@
 #include <optional>
 
 class QLabel;
-class QMenu;
 class QPushButton;
 
 namespace orvane {
@@ -43,7 +42,6 @@ signals:
 private:
     void BrowseForPage();
     void TakePage(const Text& path);
-    void ListRecentPages(QMenu& menu);
     /// The effect stands in the page with this full path.
     void WriteDown(const Text& page);
     void InsertIntoPage();
@@ -55,7 +53,6 @@ private:
     const CopyDesk m_desk;
     bool m_isInserted = false;
     bool m_isSaved = false;
-    bool m_isNewPage = false;
 
     QLabel* lblAutoStep1;
     QLabel* lblAutoStep2;

@@ -1,5 +1,7 @@
 #include "delivery/publish_panel.h"
 
+#include "delivery/manual_copy.h"
+
 #include "services/folder_memory.h"
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"

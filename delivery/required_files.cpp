@@ -10,6 +10,13 @@ namespace orvane {
 
 namespace {
 
+void AddNonEmpty(std::vector<Text>& list, const auto& names)
+{
+    for (const auto& name : names)
+        if (!name.empty())
+            list.emplace_back(name);
+}
+
 Text Listed(const MissingFiles& names)
 {
     Text list;
@@ -28,23 +35,12 @@ Text Paragraphs(TextView first, TextView second)
     return Join({first, lineEnd, lineEnd, second});
 }
 
-bool MayOverwrite(Dialogs& dialogs, TextView name)
-{
-    return dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
-}
-
 /// Whether a copy failed for a reason of that one file, so that the others may still be copied, or
 /// at least be listed as missing.
 bool IsMissing(Fault fault)
 {
     return fault == Fault::Cancelled || fault == Fault::FileNotFound ||
            fault == Fault::PermissionDenied || fault == Fault::PathFileAccess;
-}
-
-void WriteDownCopied(const CopyDesk& desk, TextView folder, TextView name)
-{
-    if (desk.Report != nullptr)
-        desk.Report->FileCopied(folder, name);
 }
 
 /// The name goes to the missing ones.
@@ -63,7 +59,7 @@ Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView s
     const Done done = desk.Copies->Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
     if (!fault)
-        WriteDownCopied(desk, folder, name);
+        desk.WriteDownCopied(folder, name);
     else if (IsMissing(*fault))
         return Miss(desk, folder, name, missing);
     return done;
@@ -78,7 +74,7 @@ Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextVi
     if (desk.Files.IsTaken(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
         if (EqualIgnoringCase(destination, source) || desk.Copies->IsCancelled() ||
-            !MayOverwrite(desk.Dialogs, name))
+            !desk.MayOverwrite(name))
             return {};
     }
     return CopyOrMiss(desk, folder, name, source, missing);
@@ -116,7 +112,7 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
         const auto version = [](const Outcome<std::string>& file) {
             return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
         };
-        if (version(present).empty() ? !MayOverwrite(desk.Dialogs, pageScriptFile)
+        if (version(present).empty() ? !desk.MayOverwrite(pageScriptFile)
                                      : IsLaterVersion(version(present), version(own)))
             return {};
     }
@@ -126,8 +122,8 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
 /// The sources of all files that the payload names.
 std::vector<Text> SourcesOf(const CopyDesk& desk)
 {
-    const RequiredFiles& required = desk.Payload.Effect.Required;
-    std::vector<Text> sources(required.Sources.begin(), required.Sources.end());
+    std::vector<Text> sources;
+    AddNonEmpty(sources, desk.Payload.Effect.Required.Sources);
     for (const Text& name : desk.Payload.Effect.SupportFiles)
         sources.push_back(PathIn(desk.ProgramFolder, name));
     return sources;
@@ -157,12 +153,6 @@ Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
     return {};
 }
 
-bool IsListed(const std::vector<Text>& names, TextView name)
-{
-    return std::any_of(names.begin(), names.end(),
-                       [&](const Text& listed) { return EqualIgnoringCase(listed, name); });
-}
-
 /// Brings the author's files to the preview page; gives those that are missing there.
 MissingFiles CopyForPreview(const CopyDesk& desk)
 {
@@ -185,48 +175,18 @@ MissingFiles CopyForPreview(const CopyDesk& desk)
     return missing;
 }
 
-/// Brings one selected file to its folder; false when the author or a fault prevented it.
-bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, TextView name)
-{
-    const Text source = PathIn(fromFolder, name);
-    const Text destination = PathIn(toFolder, name);
-    if (source == destination)
-        return true;
-    // A folder that cannot be listed may hold the name all the same.
-    const bool isThere =
-        IsListed(desk.Files.Files(toFolder), name) || desk.Files.IsTaken(destination);
-    if (isThere && !MayOverwrite(desk.Dialogs, name))
-        return false;
-    const Done done = desk.Copies->Copy(source, destination);
-    if (const Fault* fault = FaultIn(done)) {
-        if (*fault != Fault::Cancelled)
-            desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
-        return false;
-    }
-    WriteDownCopied(desk, toFolder, name);
-    return true;
-}
-
-/// The names of those that were copied, each followed by ", ".
-Text CopyAllSelected(CopyDesk desk, TextView fromFolder, TextView toFolder,
-                     const std::vector<Text>& selected, MissingFiles& missing)
-{
-    std::vector<Text> sources;
-    for (const Text& name : selected)
-        sources.push_back(PathIn(fromFolder, name));
-    FollowedCopies copies(desk.Files, desk.Dialogs, toFolder, sources);
-    desk.Copies = &copies;
-    Text copied;
-    for (const Text& name : selected) {
-        if (copies.IsCancelled() || !CopySelected(desk, fromFolder, toFolder, name))
-            continue;
-        std::erase(missing, name);
-        copied += name + u", ";
-    }
-    return copied;
-}
-
 } // namespace
+
+bool CopyDesk::MayOverwrite(TextView name) const
+{
+    return Dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
+}
+
+void CopyDesk::WriteDownCopied(TextView folder, TextView name) const
+{
+    if (Report != nullptr)
+        Report->FileCopied(folder, name);
+}
 
 Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
 {
@@ -279,19 +239,9 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         const Done done = desk.Files.PutNew(page, NewPageBytes(desk.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
-        WriteDownCopied(desk, target, u"ovtemp.html");
+        desk.WriteDownCopied(target, u"ovtemp.html");
     }
     return CopyRequiredFiles(desk, target);
-}
-
-void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
-                const std::vector<Text>& selected, MissingFiles& missing)
-{
-    if (selected.empty())
-        return desk.Dialogs.Say(u"Select a file from the list and then click the 'Copy' button");
-    // Stays as it is: the box comes with an empty list when nothing was copied.
-    desk.Dialogs.Say(Paragraphs(u"The following files were successfully copied:",
-                                CopyAllSelected(desk, fromFolder, toFolder, selected, missing)));
 }
 
 } // namespace orvane

@@ -24,6 +24,12 @@ struct CopyDesk
     orvane::Dialogs& Dialogs;
     DeliveryReport* Report = nullptr; ///< where it is written down what was copied; may be null
     FollowedCopies* Copies = nullptr; ///< set while files are copied
+
+    /// Asks the author before a file of that name is written over.
+    bool MayOverwrite(TextView name) const;
+
+    /// Tells the report that a file is in the folder now.
+    void WriteDownCopied(TextView folder, TextView name) const;
 };
 
 /// Copies the author's files, the class files and a wanted page script to the page's folder, asks
@@ -43,10 +49,5 @@ struct CopyDesk
 /// author allows it, and copies the required files there. Ends at a fault of the page as
 /// CopyRequiredFiles() does.
 [[nodiscard]] Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder);
-
-/// Copies the files that the author selected in one folder to another and tells which were copied;
-/// takes the names that now lie there off `missing`.
-void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
-                const std::vector<Text>& selected, MissingFiles& missing);
 
 } // namespace orvane

@@ -1,11 +1,8 @@
 #include "insertion/new_page.h"
 
-#include "core/file_names.h"
 #include "core/template.h"
 #include "insertion/page_encoding.h"
 #include "insertion/page_script.h"
-
-#include <algorithm>
 
 namespace orvane {
 
@@ -39,20 +36,6 @@ std::string NewPageBytes(const FinishedPayload& payload)
 Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payload)
 {
     return files.Replace(path, NewPageBytes(payload));
-}
-
-bool IsPageName(TextView name)
-{
-    // Every second piece holds masks; the first of them fits any file.
-    bool isMasks = false;
-    for (TextView rest = webPageFilter; !rest.empty(); isMasks = !isMasks) {
-        const std::size_t end = std::min(rest.find(u'|'), rest.size());
-        const TextView masks = rest.substr(0, end);
-        if (isMasks && masks != u"*.*" && MatchesMasks(name, masks))
-            return true;
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    return MatchesMasks(name, u"*.xhtml;*.php;*.php3;*.phtml;*.jsp");
 }
 
 FileRequest NewPageRequest()

@@ -26,9 +26,10 @@ inline constexpr TextView webPageFilter =
     u"XML Files (*.dtd, *.xml, *.xsl)|*.dtd;*.xml;*.xsl|Page Loom Template (*.wwt)|*.wwt|"
     u"Text Files (*.txt)|*.txt";
 
-/// Whether a file of that name is of one of those kinds, or of another that Web servers take for a
-/// page.
-bool IsPageName(TextView name);
+/// The names of all those kinds, and of others that Web servers take for pages.
+inline constexpr TextView pageMasks =
+    u"*.html;*.htm;*.shtml;*.asp;*.cgi;*.pl;*.css;*.cfm;*.js;*.dtd;*.xml;*.xsl;*.wwt;*.txt;*.xhtml;"
+    u"*.php;*.php3;*.phtml;*.jsp";
 
 /// What the dialogs for a new page and for an existing page are asked for.
 FileRequest NewPageRequest();

@@ -27,7 +27,8 @@ std::vector<Text> FilesIn(const QMimeData& dropped, TextView masks)
 
 } // namespace
 
-FileDrop::FileDrop(QWidget& target, TextView masks) : QObject(&target), m_masks(masks)
+FileDrop::FileDrop(QWidget& target, TextView masks, std::size_t most)
+    : QObject(&target), m_masks(masks), m_most(most)
 {
     target.setAcceptDrops(true);
     target.installEventFilter(this);
@@ -40,7 +41,7 @@ bool FileDrop::eventFilter(QObject* target, QEvent* event)
         return QObject::eventFilter(target, event);
     auto* drop = static_cast<QDropEvent*>(event);
     const std::vector<Text> paths = FilesIn(*drop->mimeData(), m_masks);
-    if (paths.empty() || !(drop->possibleActions() & Qt::CopyAction)) {
+    if (paths.empty() || paths.size() > m_most || !(drop->possibleActions() & Qt::CopyAction)) {
         drop->ignore();
         return true;
     }

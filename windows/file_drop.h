@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include <limits>
 #include <vector>
 
 namespace orvane {
@@ -15,8 +16,10 @@ class FileDrop : public QObject
     Q_OBJECT
 
 public:
-    /// `masks` are such as "*.jpg;*.gif". The widget owns what is made here.
-    FileDrop(QWidget& target, TextView masks);
+    /// `masks` are such as "*.jpg;*.gif"; more files than `most` are refused. The widget owns what
+    /// is made here.
+    FileDrop(QWidget& target, TextView masks,
+             std::size_t most = std::numeric_limits<std::size_t>::max());
 
 signals:
     /// The full paths of the files, in the order in which they came.
@@ -27,6 +30,7 @@ protected:
 
 private:
     const Text m_masks;
+    const std::size_t m_most;
 };
 
 } // namespace orvane

@@ -1,4 +1,5 @@
 #include "core/file_names.h"
+#include "delivery/manual_copy.h"
 #include "delivery/required_files.h"
 #include "insertion/new_page.h"
 #include "insertion/page_backups.h"

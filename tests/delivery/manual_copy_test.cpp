@@ -1,3 +1,4 @@
+#include "delivery/manual_copy.h"
 #include "delivery/required_files.h"
 
 #include "tests/support/doubles.h"

@@ -352,6 +352,7 @@ TEST_F(PreviewFormTest, ADroppedPageIsTakenAsIfBrowsedAndNothingElse)
                                        {QUrl::fromLocalFile(folder.path())}})
         EXPECT_FALSE(drop(refused));
     EXPECT_TRUE(drop({page}));
+    LetRun();
     EXPECT_EQ(ToQt(WordsOf(*m_form, "txtFileName")), page.toLocalFile());
     EXPECT_TRUE(WordsOf(*m_form, "lblBackupFile").ends_with(u"\"Backup of a page.PHP\""));
     EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("cmdAutoInsert"));
