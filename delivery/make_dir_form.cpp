@@ -36,6 +36,7 @@ MakeDirForm::MakeDirForm(Workbench& bench, TextView folder, QWidget* parent)
     OpenHelpOnF1(this, bench.Help, publishTopic);
     txtFolder->setFocus();
     setMinimumWidth(400);
+    resize(440, 380);
 }
 
 void MakeDirForm::MakeDirEnter()

@@ -11,6 +11,12 @@ int ActingList::SelectedRow() const
     return selected.isEmpty() ? -1 : selected.first().row();
 }
 
+QSize ActingList::sizeHint() const
+{
+    constexpr int rows = 7;
+    return {QListWidget::sizeHint().width(), rows * fontMetrics().lineSpacing()};
+}
+
 void ActingList::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QListWidget::mouseDoubleClickEvent(event);

@@ -16,6 +16,9 @@ public:
     /// The row that is selected, or -1; a row that only has the focus does not count.
     int SelectedRow() const;
 
+    /// A few rows; whoever has more room gives it.
+    QSize sizeHint() const override;
+
 signals:
     void DoubleClicked();
     void Entered();

@@ -2,7 +2,9 @@
 
 #include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
+#include "windows/text_line.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QIcon>
@@ -39,9 +41,16 @@ private:
 
 QLineEdit* MakeTextBox(QWidget* parent)
 {
-    auto* box = new QLineEdit(parent);
-    box->setMaxLength(std::numeric_limits<int>::max());
-    return box;
+    return new TextLine(parent);
+}
+
+QCheckBox* MakeCheckBox(TextView caption, QWidget* parent)
+{
+    constexpr qsizetype longest = 90;
+    QString words = ToQt(caption);
+    if (words.size() > longest)
+        words[words.lastIndexOf(u' ', words.size() / 2)] = u'\n';
+    return new QCheckBox(words, parent);
 }
 
 QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent)

@@ -6,6 +6,7 @@
 
 #include <span>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -30,6 +31,9 @@ struct SliderRange
 
 /// A box for one line that takes what the author gives, however long.
 QLineEdit* MakeTextBox(QWidget* parent);
+
+/// A box to tick; a long caption takes two lines.
+QCheckBox* MakeCheckBox(TextView caption, QWidget* parent);
 
 /// A box with a list of items; what is typed into an editable one stays as it is.
 QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent);

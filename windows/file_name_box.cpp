@@ -4,14 +4,11 @@
 
 #include <QKeyEvent>
 
-#include <limits>
-
 namespace orvane {
 
 FileNameBox::FileNameBox(const Settings& settings, Dialogs& dialogs, QWidget* parent)
-    : QLineEdit(parent), m_settings(settings), m_dialogs(dialogs)
+    : TextLine(parent), m_settings(settings), m_dialogs(dialogs)
 {
-    setMaxLength(std::numeric_limits<int>::max());
 }
 
 void FileNameBox::SetHoldsFile(bool holdsFile)
@@ -26,13 +23,13 @@ void FileNameBox::keyPressEvent(QKeyEvent* event)
     if (isReadOnly() && types)
         WarnInputBoxLocked(m_settings, m_dialogs);
     else
-        QLineEdit::keyPressEvent(event);
+        TextLine::keyPressEvent(event);
 }
 
 void FileNameBox::showEvent(QShowEvent* event)
 {
     SetHoldsFile(m_holdsFile);
-    QLineEdit::showEvent(event);
+    TextLine::showEvent(event);
 }
 
 } // namespace orvane

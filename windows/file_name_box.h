@@ -2,14 +2,13 @@
 
 #include "core/dialogs.h"
 #include "core/settings.h"
-
-#include <QLineEdit>
+#include "windows/text_line.h"
 
 namespace orvane {
 
 /// A file field: locked against typing unless the preferences unlock it; a key typed into a locked
 /// one tells the author to use Browse.
-class FileNameBox : public QLineEdit
+class FileNameBox : public TextLine
 {
     Q_OBJECT
 

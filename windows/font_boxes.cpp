@@ -13,7 +13,8 @@ namespace orvane {
 void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button)
 {
     QComboBox* font = page.ComboBox("cboFont", u"Font:", pageFonts, true);
-    QComboBox* size = page.ComboBox("cboFontSize", u"Font size:", FontSizes, true, {}, u"points");
+    QComboBox* size =
+        page.Narrow(page.ComboBox("cboFontSize", u"Font size:", FontSizes, true, {}, u"points"));
     QComboBox* style = page.ComboBox("cboFontStyle", u"Font style:", fontStyles, true);
     QPushButton* more = page.Button(button, u"more...");
     page.Buttons({more});

@@ -16,7 +16,13 @@ public:
         setFocusPolicy(Qt::NoFocus);
     }
 
-    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize sizeHint() const override
+    {
+        QSize wanted = widget()->sizeHint();
+        if (widget()->hasHeightForWidth())
+            wanted.setHeight(widget()->heightForWidth(wanted.width()));
+        return wanted;
+    }
     QSize minimumSizeHint() const override { return {80, 60}; }
 };
 

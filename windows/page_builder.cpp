@@ -19,6 +19,13 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int numberLetters = 14;  ///< width of a field for a number
+constexpr int addressLetters = 32; ///< least width of a field for an address
+
+} // namespace
+
 PageBuilder::PageBuilder(QWidget* page, Workbench* bench)
     : m_page(page), m_rows(new QFormLayout(page)), m_bench(bench)
 {
@@ -105,6 +112,7 @@ QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip
                                   TextView unit)
 {
     auto* box = MakeTextBox(m_page);
+    box->setMinimumWidth(addressLetters * box->fontMetrics().averageCharWidth());
     QPushButton* button = BrowseButton(box, std::move(rule));
     if (unit.empty()) {
         FieldRow(box, name, label, tip, button);
@@ -137,9 +145,21 @@ QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName s
     picker->setToolTip(QStringLiteral("Click here to select a color"));
     QObject::connect(picker, &orvane::ColorSwatch::Picked, box,
                      [box, picker] { SetComboText(*box, picker->Value()); });
-    QLayout* line = m_rows->itemAt(m_rows->rowCount() - 1, QFormLayout::FieldRole)->layout();
-    line->addWidget(picker);
+    LastLine()->addWidget(picker);
     return box;
+}
+
+QHBoxLayout* PageBuilder::LastLine() const
+{
+    QLayoutItem* field = m_rows->itemAt(m_rows->rowCount() - 1, QFormLayout::FieldRole);
+    return static_cast<QHBoxLayout*>(field->layout());
+}
+
+void PageBuilder::KeepNarrow(QWidget& field)
+{
+    field.setFixedWidth(numberLetters * field.fontMetrics().averageCharWidth());
+    LastLine()->setStretchFactor(&field, 0);
+    LastLine()->addStretch(1);
 }
 
 orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int lowest, int highest,
@@ -151,7 +171,7 @@ orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int 
         Row(label, {box, box->UpDown()});
     else
         Row(label, {box, box->UpDown(), Words(unit)});
-    return box;
+    return Narrow(box);
 }
 
 QSlider* PageBuilder::Slider(ControlName name, TextView label, TextView low, TextView high,
@@ -196,7 +216,7 @@ ActingList* PageBuilder::ListBox(ControlName name, TextView label, std::span<con
 
 QCheckBox* PageBuilder::CheckBox(ControlName name, TextView caption, TextView tip)
 {
-    auto* box = new QCheckBox(ToQt(caption), m_page);
+    QCheckBox* box = MakeCheckBox(caption, m_page);
     box->setObjectName(ToQt(name));
     box->setToolTip(ToQt(tip));
     m_rows->addRow(box);

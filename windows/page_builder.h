@@ -18,6 +18,7 @@
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QHBoxLayout;
 class QPushButton;
 class QRadioButton;
 class QSlider;
@@ -67,6 +68,14 @@ public:
     /// A text box with up-down buttons that step a number between the two bounds.
     orvane::NumberBox* NumberBox(ControlName name, TextView label, int lowest, int highest,
                                  TextView tip = {}, TextView unit = {});
+
+    /// Makes the field of the last row as narrow as a number; gives the field.
+    template <class Field>
+    Field* Narrow(Field* field)
+    {
+        KeepNarrow(*field);
+        return field;
+    }
 
     /// A slider between two words.
     QSlider* Slider(ControlName name, TextView label, TextView low, TextView high,
@@ -131,6 +140,8 @@ private:
     void FieldRow(QWidget* field, ControlName name, TextView label, TextView tip, QWidget* beside);
     QLabel* Caption(TextView label, QWidget* field);
     QLabel* Words(TextView words);
+    QHBoxLayout* LastLine() const;
+    void KeepNarrow(QWidget& field);
 
     QWidget* m_page;
     QFormLayout* m_rows;

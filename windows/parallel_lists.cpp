@@ -41,10 +41,18 @@ ParallelLists::ParallelLists(std::vector<ListColumn> columns, TextView rowTip, Q
         splitter->addWidget(pane);
         m_lists.push_back(list);
     }
-    splitter->setStretchFactor(0, 2);
+    for (int column = 0; column < splitter->count(); ++column)
+        splitter->setStretchFactor(column, IsWide(column) ? 2 : 1);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(splitter);
+}
+
+/// Names and addresses of pages are long, all else is short.
+bool ParallelLists::IsWide(int column) const
+{
+    return column == 0 ||
+           m_columns[static_cast<std::size_t>(column)].Header.find(u"URL") != TextView::npos;
 }
 
 MovableList* ParallelLists::MakeList(const ListColumn& column)
@@ -53,11 +61,12 @@ MovableList* ParallelLists::MakeList(const ListColumn& column)
     list->setObjectName(ToQt(column.Name));
     list->setAccessibleName(ToQt(column.Header));
     list->setContextMenuPolicy(Qt::CustomContextMenu);
-    const bool isFirst = column.Name == m_columns.front().Name;
+    const bool isFirst = m_lists.empty();
     if (!isFirst)
         list->setFocusPolicy(Qt::ClickFocus);
     list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    list->setMinimumWidth(list->fontMetrics().averageCharWidth() * (isFirst ? 24 : 12));
+    list->setMinimumWidth(list->fontMetrics().averageCharWidth() *
+                          (IsWide(static_cast<int>(m_lists.size())) ? 30 : 12));
     if (m_columns.size() > 1) {
         // A bar below one list alone would put the rows out of step.
         list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

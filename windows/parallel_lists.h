@@ -43,6 +43,7 @@ signals:
 
 private:
     MovableList* MakeList(const ListColumn& column);
+    bool IsWide(int column) const;
     void Follow(const MovableList& list);
     void SelectInAll(int row);
 

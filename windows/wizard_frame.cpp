@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -93,6 +94,17 @@ void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     static_cast<QVBoxLayout*>(layout())->addLayout(line);
     SetReadingOrder(*this);
+    FitToRows();
+}
+
+/// As large as all rows of all pages want it, as far as the screen has room.
+void WizardFrame::FitToRows()
+{
+    ensurePolished();
+    QSize wanted = sizeHint();
+    if (hasHeightForWidth())
+        wanted.setHeight(heightForWidth(wanted.width()));
+    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
 }
 
 void WizardFrame::ShowPanel(int index)

@@ -58,6 +58,7 @@ protected:
     QPushButton* cmdCancel = nullptr;
 
 private:
+    void FitToRows();
     QPushButton* AddButton(ControlName name, TextView caption, QHBoxLayout* line);
 
     QLabel* lblHeading;

@@ -81,8 +81,8 @@ void AdvancedAnimatorForm::AddFields(PageBuilder& page)
     SetPropsButton->setEnabled(false);
     connect(SetPropsButton, &QPushButton::clicked, this, &AdvancedAnimatorForm::SetProperties);
     page.Row({}, {m_note, SetPropsButton}); // to the right, below the lists
-    QLineEdit* width = page.TextBox("Text20", u"Width (pixels):");
-    QLineEdit* height = page.TextBox("Text21", u"Height (pixels):");
+    QLineEdit* width = page.Narrow(page.TextBox("Text20", u"Width (pixels):"));
+    QLineEdit* height = page.Narrow(page.TextBox("Text21", u"Height (pixels):"));
     m_images->SetSizeFields(width, height);
     QComboBox* loop = page.ComboBox("Combo3", u"Loop the animation:", CycleCounts, true);
     Label16 = page.ColorSwatch("Label16", u"Background Color:", ColorNotation::Channels);

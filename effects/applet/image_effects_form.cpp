@@ -36,7 +36,6 @@ ImageEffectsForm::ImageEffectsForm(Workbench& bench, QWidget* parent)
         Show(effects);
         ImageFile->setFocus(Qt::OtherFocusReason);
     });
-    resize(sizeHint()); // with all rows, so that the window stays as it is in every mode
     AddButtons(Buttons::OnePage);
     if (ModeOf(Parameters()) != nullptr)
         ImageFile->setFocus(Qt::OtherFocusReason);
@@ -51,12 +50,12 @@ void ImageEffectsForm::AddFields(PageBuilder& page)
                               .Caption = u"Browse for image...",
                               .Request = ImageRequest(),
                               .Instead = [this](const Text& path) { TakeImage(path); }});
-    ImageWidth =
+    ImageWidth = page.Narrow(
         page.TextBox("ImageWidth", u"Applet Width:",
-                     u"This is the width of the special effect, specified in pixels", u"pixels");
-    ImageHeight =
+                     u"This is the width of the special effect, specified in pixels", u"pixels"));
+    ImageHeight = page.Narrow(
         page.TextBox("ImageHeight", u"Applet Height:",
-                     u"This is the height of the special effect, specified in pixels", u"pixels");
+                     u"This is the height of the special effect, specified in pixels", u"pixels"));
 }
 
 /// The rows that come and go with the effect stand below those that stay.
@@ -68,8 +67,8 @@ void ImageEffectsForm::AddModeFields(PageBuilder& page)
                                   .Request = WebPageRequest()});
     ColorSwatch = page.ColorSwatch("ColorSwatch", u"Background Color:", ColorNotation::Channels);
     TargetFrame = page.ComboBox("TargetFrame", u"Target Frame:", LinkTargets, true);
-    FrameCount = page.TextBox("FrameCount", u"Number of frames:", {},
-                              u"Large number (25) makes slow animation");
+    FrameCount = page.Narrow(page.TextBox("FrameCount", u"Number of frames:", {},
+                                          u"Large number (25) makes slow animation"));
     chkGradual = page.CheckBox("chkGradual", u"Gradual brighten",
                                u"This causes the brightening to occur gradually");
     SizeSlider = page.Slider("SizeSlider", u"Speed:", u"Slow", u"Fast", widestSize);

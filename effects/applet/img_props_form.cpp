@@ -30,8 +30,8 @@ ImgPropsForm::ImgPropsForm(Workbench& bench, const ImageRow& row, QWidget* paren
 
 void ImgPropsForm::AddPause(PageBuilder& page)
 {
-    Text1 =
-        page.TextBox("Text1", u"Pause after image is loaded (ms):", u"Specified in milliseconds");
+    Text1 = page.Narrow(
+        page.TextBox("Text1", u"Pause after image is loaded (ms):", u"Specified in milliseconds"));
     page.Note(u"Default is 100 ms.");
     Check1 = page.CheckBox("Check1", u"Pause until user clicks mouse on image");
 }

@@ -25,7 +25,6 @@ MoreImageEffectsForm::MoreImageEffectsForm(Workbench& bench, QWidget* parent)
         ShowRow(PauseSeconds, ShowsPauseForLoops(effects));
         WordsBeside(LoopCount, 1)->setText(ToQt(LoopUnit(effects.LoopCount)));
     });
-    resize(sizeHint());
     AddButtons(Buttons::OnePage);
 }
 
@@ -39,8 +38,8 @@ void MoreImageEffectsForm::AddProperties(PageBuilder page)
                               .Caption = u"Browse for image...",
                               .Request = ImageRequest(),
                               .Instead = [this](const Text& path) { TakeImage(path); }});
-    page.TextBox("ImageWidth", u"Image Width (pixels):", u"specified in pixels");
-    page.TextBox("ImageHeight", u"Image Height (pixels):", u"specified in pixels");
+    page.Narrow(page.TextBox("ImageWidth", u"Image Width (pixels):", u"specified in pixels"));
+    page.Narrow(page.TextBox("ImageHeight", u"Image Height (pixels):", u"specified in pixels"));
     page.ColorSwatch("lblBGColor", u"Background Color:", ColorNotation::Channels);
     page.BrowseRow("LinkUrl", u"Link to URL:", {},
                    {.Button = "cmdBrowseForURL",
@@ -52,10 +51,10 @@ void MoreImageEffectsForm::AddBehavior(PageBuilder page)
 {
     m_behavior = page.Page();
     page.Slider("SpeedSlider", u"Speed:", u"Slow", u"Fast", {.Lowest = 1, .Highest = 100});
-    LoopCount =
-        page.ComboBox("LoopCount", u"Loop/repeat the effect:", loopCounts, true, {}, u"times");
-    PauseSeconds = page.ComboBox("PauseSeconds", u"Pause after each loop:", pauseLengths, true, {},
-                                 u"seconds");
+    LoopCount = page.Narrow(
+        page.ComboBox("LoopCount", u"Loop/repeat the effect:", loopCounts, true, {}, u"times"));
+    PauseSeconds = page.Narrow(page.ComboBox("PauseSeconds", u"Pause after each loop:",
+                                             pauseLengths, true, {}, u"seconds"));
     StartEdge = page.ComboBox("StartEdge", u"Image starts from the:", startEdges, true, {},
                               u"of the special effect");
 }

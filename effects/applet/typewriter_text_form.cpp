@@ -46,7 +46,7 @@ void TypewriterTextForm::AddFontPage()
     PageBuilder page =
         AddPage({u"Step 2: Text Properties", u"Specify the font and text properties below."});
     page.ComboBox("FontName", u"Font:", AppletFonts, true);
-    FontSize = page.ComboBox("FontSize", u"Font Size (points):", FontSizes, true);
+    FontSize = page.Narrow(page.ComboBox("FontSize", u"Font Size (points):", FontSizes, true));
     WatchSize(FontSize->lineEdit());
     PageBuilder style = page.Frame(u"Font Style");
     style.CheckBox("Bold", u"Bold");
@@ -59,8 +59,8 @@ void TypewriterTextForm::AddPropertiesPage()
 {
     PageBuilder page = AddPage(
         {u"Step 3: Typewriter properties", u"Specify additional Typewriter properties below."});
-    WatchSize(page.TextBox("AppletWidth", u"Width (pixels):"));
-    WatchSize(page.TextBox("AppletHeight", u"Height (pixels):"));
+    WatchSize(page.Narrow(page.TextBox("AppletWidth", u"Width (pixels):")));
+    WatchSize(page.Narrow(page.TextBox("AppletHeight", u"Height (pixels):")));
     page.Slider("Speed", u"Typing speed:", u"Slow", u"Fast",
                 {.Lowest = slowestTypewriter,
                  .Highest = fastestTypewriter,

@@ -76,19 +76,21 @@ void PopupWindowForm::AddWindowPage()
                                 .Purpose = FolderPurpose::Links},
                     .Slot = 0,
                     .Then = [this](const Text& path) { TakeSize(path); }});
-    txtWidth =
+    txtWidth = page.Narrow(
         page.TextBox("txtWidth", u"PopUp Window width:",
-                     u"This is the width of the PopUp Window, specified in pixels", u"pixels");
-    txtHeight =
+                     u"This is the width of the PopUp Window, specified in pixels", u"pixels"));
+    txtHeight = page.Narrow(
         page.TextBox("txtHeight", u"PopUp Window height:",
-                     u"This is the height of the PopUp Window, specified in pixels", u"pixels");
-    page.TextBox("txtHorizLocation", u"Horizontal screen location:",
-                 u"This is the distance the PopUp Window will be placed from the left side of the "
-                 u"screen",
-                 u"pixels from left side of screen");
-    page.TextBox("txtVertLocation", u"Vertical screen location:",
-                 u"This is the distance the PopUp Window will be placed from the top of the screen",
-                 u"pixels from top of screen");
+                     u"This is the height of the PopUp Window, specified in pixels", u"pixels"));
+    page.Narrow(page.TextBox(
+        "txtHorizLocation", u"Horizontal screen location:",
+        u"This is the distance the PopUp Window will be placed from the left side of the "
+        u"screen",
+        u"pixels from left side of screen"));
+    page.Narrow(page.TextBox(
+        "txtVertLocation", u"Vertical screen location:",
+        u"This is the distance the PopUp Window will be placed from the top of the screen",
+        u"pixels from top of screen"));
     AddOtherProperties(page);
     page.Fill();
 }

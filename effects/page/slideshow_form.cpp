@@ -38,7 +38,8 @@ void SlideshowForm::AddPropertiesPage()
                                 u"Set the following properties for your Slideshow.  These settings "
                                 u"are optional.",
                                 "txtSlideDuration"});
-    txtSlideDuration = page.TextBox("txtSlideDuration", u"Display each image for:", {}, u"seconds");
+    txtSlideDuration =
+        page.Narrow(page.TextBox("txtSlideDuration", u"Display each image for:", {}, u"seconds"));
     auto* controls =
         page.CheckBox("chkDisplayControls", u"Display slideshow controls (Play, Forward, Reverse)");
     auto* autoStart = page.CheckBox("chkAutoStart", u"Autostart the slideshow");

@@ -17,7 +17,7 @@ DigitalClockForm::DigitalClockForm(Workbench& bench, QWidget* parent)
     AddTimePage();
     AddPropertiesPage();
     AddButtons(Buttons::Paged, "cmdHelp");
-    resize(FromTwips(6420, 5625));
+    resize(size().expandedTo(FromTwips(6420, 5625)));
     ChangePage(m_position.CurrentPage);
 }
 

@@ -13,7 +13,7 @@ StatusBarTickerForm::StatusBarTickerForm(Workbench& bench, QWidget* parent)
     page.Example(QStringLiteral("status_bar_sample"), {320, 90});
     page.Fill();
     AddButtons(Buttons::OnePage);
-    resize(FromTwips(6840, 5220));
+    resize(size().expandedTo(FromTwips(6840, 5220)));
 }
 
 } // namespace orvane

@@ -38,9 +38,10 @@ void TooltipsForm::AddTextPage()
 void TooltipsForm::AddBoxPage()
 {
     PageBuilder page = AddPage({heading, subHeading, "txtWidth"});
-    page.TextBox("txtWidth", u"Width:", u"This is the width of the tooltip, specified in pixels");
-    page.TextBox("txtHeight", u"Height:",
-                 u"This is the height of the tooltip, specified in pixels");
+    page.Narrow(page.TextBox("txtWidth", u"Width:",
+                             u"This is the width of the tooltip, specified in pixels"));
+    page.Narrow(page.TextBox("txtHeight", u"Height:",
+                             u"This is the height of the tooltip, specified in pixels"));
     page.CheckBox("chk3D", u"Raised border (3D)",
                   u"This draws a thick border at the right and at the bottom of the tooltip");
     page.ComboBox("cboDisplayLocation", u"Display the Tooltip:", tooltipLocations, false,

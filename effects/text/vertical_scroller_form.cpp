@@ -36,7 +36,7 @@ VerticalScrollerForm::VerticalScrollerForm(Workbench& bench, QWidget* parent)
     AddTextPage();
     AddScrollerPage();
     AddButtons(Buttons::Paged);
-    resize(FromTwips(8010, 6210));
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 void VerticalScrollerForm::AddItemsPage()
@@ -61,12 +61,12 @@ void VerticalScrollerForm::AddScrollerPage()
 {
     PageBuilder page = AddPage({heading, subHeading, "txtWidth"});
     PageBuilder frame = page.Frame(u"Vertical Scroller properties");
-    frame.TextBox("txtWidth", u"Width:");
-    frame.TextBox("txtHeight", u"Height:");
+    frame.Narrow(frame.TextBox("txtWidth", u"Width:"));
+    frame.Narrow(frame.TextBox("txtHeight", u"Height:"));
     frame.ColorSwatch("cmdBGColor", u"Background color:", ColorNotation::RgbFunction,
                       u"Select Color");
     frame.Slider("sldrSpeed", u"Scrolling speed:", u"Slow", u"Fast", {});
-    frame.TextBox("txtPause", u"Pause after each frame:", {}, u"seconds");
+    frame.Narrow(frame.TextBox("txtPause", u"Pause after each frame:", {}, u"seconds"));
     page.Fill();
 }
 
