@@ -95,7 +95,8 @@ protected:
     }
 
     BrowserPage m_page;
-    QtDialogs m_dialogs;
+    FakeSettings m_settings;
+    QtDialogs m_dialogs{m_settings};
     QtPreviewPane m_pane{m_dialogs, m_page.Shell, m_page.Files};
     bool m_answered = false;
 };

@@ -132,7 +132,7 @@ void Guide::Click(QWidget& front, const Step& step)
 {
     std::string name = step.Name;
     if (name == "@open") {
-        const EffectCommand* effect = FindCommand(FromQt(step.Value));
+        const EffectCommand* effect = FindCommand(step.Value.toStdString());
         ASSERT_NE(effect, nullptr) << step.Value.toStdString();
         Find<QTabBar>(front, "TabStrip1")->setCurrentIndex(static_cast<int>(effect->Page));
         name = "cmdSpecialFX(" + std::to_string(static_cast<int>(effect->Kind)) + ")";
