@@ -3,6 +3,7 @@
 #include "core/file_names.h"
 #include "preview/qt_status_line.h"
 #include "preview/qt_web_view_module.h"
+#include "windows/controls.h"
 #include "windows/qt_text.h"
 
 #include <QHBoxLayout>
@@ -162,6 +163,7 @@ std::optional<Text> QtPreviewPane::LoadView()
     auto* rows = static_cast<QVBoxLayout*>(m_viewPage->layout());
     delete rows->takeAt(1); // the stretch that kept the view's place
     rows->insertWidget(1, m_view, 1);
+    SetReadingOrder(*window());
     return std::nullopt;
 }
 

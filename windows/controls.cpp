@@ -79,6 +79,14 @@ FormRow RowOf(const QWidget* control)
     return {};
 }
 
+void ShowAll(QLayoutItem& item, bool isShown)
+{
+    if (item.widget() != nullptr)
+        item.widget()->setVisible(isShown);
+    for (int i = 0; item.layout() != nullptr && i < item.layout()->count(); ++i)
+        ShowAll(*item.layout()->itemAt(i), isShown);
+}
+
 } // namespace
 
 QString ToQt(ControlName name)
@@ -187,8 +195,14 @@ QLabel* WordsBeside(QWidget* control, int place)
 
 void ShowRow(QWidget* control, bool isShown)
 {
-    if (const FormRow place = RowOf(control); place.Rows != nullptr)
-        place.Rows->setRowVisible(place.Row, isShown);
+    // Not by QFormLayout::setRowVisible(): it leaves a row without room that was hidden before the
+    // window was first shown.
+    const FormRow place = RowOf(control);
+    for (const auto role :
+         {QFormLayout::LabelRole, QFormLayout::FieldRole, QFormLayout::SpanningRole})
+        if (QLayoutItem* item =
+                place.Rows == nullptr ? nullptr : place.Rows->itemAt(place.Row, role))
+            ShowAll(*item, isShown);
 }
 
 QSize FromTwips(int width, int height)

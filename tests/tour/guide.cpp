@@ -218,6 +218,9 @@ void Guide::TakePicture(QWidget& window, QString name)
     if (!m_taken.insert(name).second)
         return;
     LetRun();
+    SCOPED_TRACE("the window in " + name.toStdString());
+    if (window.isWindow())
+        ExpectAccessible(window);
     EXPECT_TRUE(window.grab().save(m_folders.Pictures + u'/' + name + QStringLiteral(".png")));
 }
 

@@ -32,6 +32,9 @@ TEST_F(MoreImageEffectsFormTest, PauseAndEdgeComeAndGo)
 {
     Pick("Shutter in");
     EXPECT_FALSE(Shows("StartEdge") || Shows("PauseSeconds"));
+    Find<QComboBox>(m_form, "LoopCount")->setEditText(QStringLiteral("3"));
+    LetRun();
+    ExpectAccessible(m_form); // the row has its room
     Pick("Expand & Shrink");
     EXPECT_TRUE(Shows("StartEdge") && Shows("PauseSeconds"));
     auto* loops = Find<QComboBox>(m_form, "LoopCount");
