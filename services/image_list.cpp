@@ -64,16 +64,20 @@ ImageListVariation SlideshowImageList()
     };
 }
 
-std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, TextView folder,
-                                        TextView fileName)
+std::size_t PlaceToAdd(const ImageList& list)
+{
+    const bool goesInFront = list.Selected && *list.Selected + 1 < list.Rows.size();
+    return goesInFront ? *list.Selected : list.Rows.size();
+}
+
+std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, std::size_t place,
+                                        TextView folder, TextView fileName)
 {
     if (auto complaint = CheckNoBlank(Trim(fileName), FileRole::Image))
         return complaint;
-    const bool goesInFront = list.Selected && *list.Selected + 1 < list.Rows.size();
-    const std::size_t place = goesInFront ? *list.Selected : list.Rows.size();
     list.Rows.insert(list.Rows.begin() + static_cast<std::ptrdiff_t>(place),
                      ImageRow{.FileName = Text(fileName)});
-    if (goesInFront)
+    if (list.Selected && *list.Selected >= place)
         ++*list.Selected;
     RecordRequiredFile(core, PathIn(folder, fileName), fileName);
     return std::nullopt;

@@ -69,11 +69,14 @@ struct ImageList
     bool operator==(const ImageList&) const = default;
 };
 
-/// Puts a file of `folder` in front of the selected row, or at the end when no row or the last one
-/// is selected, and records it for copying. A name with a blank inside is a complaint and changes
-/// nothing. The selection stays on its image.
-std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, TextView folder,
-                                        TextView fileName);
+/// Where added images go: in front of the selected row, or to the end when no row or the last one
+/// is selected.
+std::size_t PlaceToAdd(const ImageList& list);
+
+/// Puts a file of `folder` at that place and records it for copying. A name with a blank inside is
+/// a complaint and changes nothing. The selection stays on its image.
+std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, std::size_t place,
+                                        TextView folder, TextView fileName);
 
 /// Removes the selected row; the next one is selected, or none behind the last. Its file stays
 /// recorded.

@@ -192,18 +192,23 @@ void ImageListPanel::AddFiles(const std::vector<Text>& paths)
     if (m_variation.EnablesButtonsOnAdd)
         EnableListButtons(true);
     std::vector<Complaint> complaints;
-    for (const Text& path : paths)
-        AddOnce(complaints, AddFile(path));
+    std::size_t place = PlaceToAdd(m_list);
+    for (const Text& path : paths) {
+        const std::optional<Complaint> complaint = AddFile(path, place);
+        AddOnce(complaints, complaint);
+        if (!complaint)
+            ++place;
+    }
     ShowList();
     for (const Complaint& complaint : complaints)
         m_bench.Dialogs.Say(complaint.Words, complaint.Look);
 }
 
-std::optional<Complaint> ImageListPanel::AddFile(const Text& path)
+std::optional<Complaint> ImageListPanel::AddFile(const Text& path, std::size_t place)
 {
     LoadPictureOf(path);
     auto complaint =
-        orvane::AddImageToList(m_list, m_bench.Core, FolderOf(path), GetFileName(path));
+        orvane::AddImageToList(m_list, m_bench.Core, place, FolderOf(path), GetFileName(path));
     if (complaint || m_width == nullptr)
         return complaint;
     m_width->setText(ToQt(GrownField(FromQt(m_width->text()), m_pictureSize.width())));

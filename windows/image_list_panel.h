@@ -61,7 +61,7 @@ private:
     void ShowPictureOfRow();
     void AddSelectedFiles();
     void AddFiles(const std::vector<Text>& paths);
-    std::optional<Complaint> AddFile(const Text& path);
+    std::optional<Complaint> AddFile(const Text& path, std::size_t place);
     void EnableListButtons(bool isOn);
     void ShowList();
     void Tell(const std::optional<Complaint>& complaint);

@@ -36,7 +36,8 @@ WizardFrame::WizardFrame(ControlName name, Workbench& bench, QWidget* parent)
       lblHeading(MakeHeading("lblHeading", 1.2)),
       lblSubHeading(MakeHeading("lblSubHeading", 1)),
       m_offers(new QWidget),
-      m_pages(new QStackedWidget)
+      m_pages(new QStackedWidget),
+      m_note(new StatusNote(this))
 {
     setObjectName(ToQt(name));
     setModal(true);
@@ -80,7 +81,7 @@ void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
     auto* line = new QHBoxLayout;
     QPushButton* help = AddButton(helpName, u"Click here for help", line);
     connect(help, &QPushButton::clicked, this, [this] { m_bench.Help.ShowTopic(m_helpTopic); });
-    line->addStretch(1);
+    line->addWidget(m_note, 1);
     if (buttons == Buttons::Paged) {
         cmdPrevious = AddButton("cmdPrevious", u"<< &Previous", line);
         connect(cmdPrevious, &QPushButton::clicked, this, [this] { Previous(); });

@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/workbench.h"
 #include "windows/page_builder.h"
+#include "windows/status_note.h"
 
 #include <QDialog>
 
@@ -48,6 +49,9 @@ protected:
     /// Shows the complaint's words and gives its control the focus.
     void Report(const Complaint& complaint) { orvane::Report(*this, m_bench.Dialogs, complaint); }
 
+    /// Shows short words on what was done beside the buttons, for some seconds.
+    void Tell(TextView words) { m_note->Tell(words); }
+
     /// "Next" of a paged window, "Done" of one with a single page.
     virtual void Next() = 0;
     virtual void Previous() {}
@@ -65,6 +69,7 @@ private:
     QLabel* lblSubHeading;
     QWidget* m_offers; ///< shown above the first page alone
     QStackedWidget* m_pages;
+    StatusNote* m_note;
     int m_helpTopic = 0;
 };
 

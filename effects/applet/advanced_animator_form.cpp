@@ -8,7 +8,6 @@
 #include "windows/image_list_panel.h"
 #include "windows/qt_text.h"
 #include "windows/recent_menu.h"
-#include "windows/status_note.h"
 
 #include <QComboBox>
 #include <QLayout>
@@ -26,9 +25,7 @@ constexpr TextView recentProjects = u"Projects";
 } // namespace
 
 AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
-    : EffectForm("Anim", bench, parent),
-      m_images(new ImageListPanel(bench, AnimatorImageList())),
-      m_note(new StatusNote)
+    : EffectForm("Anim", bench, parent), m_images(new ImageListPanel(bench, AnimatorImageList()))
 {
     AddMenus();
     const CatalogueRow* row = FindRow(EffectKind::AdvancedAnimator);
@@ -80,7 +77,7 @@ void AdvancedAnimatorForm::AddFields(PageBuilder& page)
     SetPropsButton = page.Button("SetPropsButton", u"Set Image &Properties");
     SetPropsButton->setEnabled(false);
     connect(SetPropsButton, &QPushButton::clicked, this, &AdvancedAnimatorForm::SetProperties);
-    page.Row({}, {m_note, SetPropsButton}); // to the right, below the lists
+    page.Row({}, {new QWidget, SetPropsButton}); // to the right, below the lists
     QLineEdit* width = page.Narrow(page.TextBox("Text20", u"Width (pixels):"));
     QLineEdit* height = page.Narrow(page.TextBox("Text21", u"Height (pixels):"));
     m_images->SetSizeFields(width, height);
@@ -110,7 +107,7 @@ void AdvancedAnimatorForm::Save()
     if (!SaveProject(project, m_bench.Dialogs, m_bench.Files))
         return;
     KeepProject(project);
-    m_note->Tell(u"Saved");
+    Tell(u"Saved");
 }
 
 /// Remembers which project is open and what its file holds.

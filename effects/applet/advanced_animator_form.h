@@ -6,7 +6,6 @@
 namespace orvane {
 
 class ImageListPanel;
-class StatusNote;
 
 /// The window of the Advanced Animator.
 class AdvancedAnimatorForm : public EffectForm<AdvancedAnimator>
@@ -33,7 +32,6 @@ private:
     ImageListPanel* m_images;
     QPushButton* SetPropsButton = nullptr;
     orvane::ColorSwatch* Label16 = nullptr;
-    StatusNote* m_note;
     QMenu* mnuProperties = nullptr;
 };
 

@@ -20,6 +20,11 @@ ImageList ListOf(std::initializer_list<TextView> names, std::optional<std::size_
     return list;
 }
 
+std::optional<Complaint> Add(ImageList& list, OrvaneCore& core, TextView folder, TextView name)
+{
+    return AddImageToList(list, core, PlaceToAdd(list), folder, name);
+}
+
 std::string Names(const ImageList& list)
 {
     Text names;
@@ -38,7 +43,7 @@ TEST(ImageListTest, NewImageGoesInFrontOfTheSelectedOneOrToTheEnd)
     for (const auto& [selected, order, selectedAfter] : cases) {
         OrvaneCore core;
         ImageList list = ListOf({u"a", u"b", u"c"}, selected);
-        EXPECT_EQ(AddImageToList(list, core, u"/x", u"new"), std::nullopt);
+        EXPECT_EQ(Add(list, core, u"/x", u"new"), std::nullopt);
         EXPECT_EQ(Names(list), order);
         EXPECT_EQ(list.Selected, selectedAfter);
     }
@@ -48,7 +53,7 @@ TEST(ImageListTest, RefusesABlankInTheNameButNotAroundItNorInTheFolder)
 {
     OrvaneCore core;
     ImageList list = ListOf({u"a"}, 0);
-    const auto complaint = AddImageToList(list, core, u"/x", u"my pic.gif");
+    const auto complaint = Add(list, core, u"/x", u"my pic.gif");
     ASSERT_TRUE(complaint);
     EXPECT_EQ(ToUtf8(complaint->Words),
               "This special effect does not allow image filenames containing space "
@@ -56,7 +61,7 @@ TEST(ImageListTest, RefusesABlankInTheNameButNotAroundItNorInTheFolder)
     EXPECT_EQ(list, ListOf({u"a"}, 0));
     EXPECT_EQ(core.RequiredFileCount, 0);
 
-    EXPECT_EQ(AddImageToList(list, core, u"/my pictures", u" pic.gif"), std::nullopt);
+    EXPECT_EQ(Add(list, core, u"/my pictures", u" pic.gif"), std::nullopt);
     EXPECT_EQ(list.Rows[1].FileName, u" pic.gif");
     EXPECT_EQ(core.Required.Sources[0], u"/my pictures/ pic.gif");
 }
@@ -65,8 +70,8 @@ TEST(ImageListTest, RecordsEachFileWithItsSourceThoughItLeavesTheList)
 {
     OrvaneCore core;
     ImageList list;
-    AddImageToList(list, core, u"/", u"a.gif");
-    AddImageToList(list, core, u"/x y", u"b.gif");
+    Add(list, core, u"/", u"a.gif");
+    Add(list, core, u"/x y", u"b.gif");
     list.Selected = 0;
     DeleteRow(list);
     EXPECT_EQ(Names(list), "b.gif ");
@@ -82,13 +87,13 @@ TEST(ImageListTest, FiftySecondImageJoinsTheListButIsNotRecorded)
     OrvaneCore core;
     ImageList list;
     for (int i = 0; i < 52; ++i)
-        AddImageToList(list, core, u"/x", FromUtf8(std::to_string(i)));
+        Add(list, core, u"/x", FromUtf8(std::to_string(i)));
     EXPECT_EQ(list.Rows.size(), 52u);
     EXPECT_EQ(core.Required.Names[50], u"50");
     EXPECT_EQ(core.RequiredFileCount, 52);
 
     core.RequiredFileCount = 32767;
-    EXPECT_EQ(AddImageToList(list, core, u"/x", u"more"), std::nullopt);
+    EXPECT_EQ(Add(list, core, u"/x", u"more"), std::nullopt);
     EXPECT_EQ(core.RequiredFileCount, 32767);
 }
 

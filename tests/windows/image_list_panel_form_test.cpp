@@ -218,6 +218,9 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
     EXPECT_EQ(RowsOf(m_window, "List1"),
               (std::vector<Text>{u"x.jpg", u"wide.gif", u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(panel.Selected(), 2u);
+    ClickRow(m_window, "List1", 3);
+    DropFiles(place, {Path(u"blank name/x.jpg"), Path(u"Tall.GIF")});
+    EXPECT_EQ(RowsOf(m_window, "List1")[5], u"Tall.GIF") << "both behind the last row";
     EXPECT_EQ(m_desk.Core.Required.Sources[2], Path(u"blank name/x.jpg"));
     EXPECT_TRUE(m_desk.Dialogs.Said.empty());
 }
