@@ -1,0 +1,61 @@
+#pragma once
+
+#include "tests/support/doubles.h"
+#include "tests/tour/script.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <set>
+
+namespace orvane::testing {
+
+/// Does what an author does, in the window that is in front, and keeps pictures of what it passes.
+/// A step waits until its control can be used; one that never can fails the test.
+class Guide
+{
+public:
+    /// File dialogs are answered with files of `target`, where they are there or saved there, else
+    /// with those of `samples`.
+    struct Folders
+    {
+        QString Samples;
+        QString Target;
+        QString Pictures;
+    };
+
+    Guide(QWidget& mainForm, FakeDialogs& dialogs) : m_mainForm(mainForm), m_dialogs(dialogs) {}
+
+    /// Goes through the steps of a tour; comes back when the main window alone is left.
+    void Lead(const std::string& tour, std::vector<Step> steps, Folders folders);
+
+    /// Called with the window in front before each step.
+    std::function<void(QWidget& front)> Passing;
+
+private:
+    void Go();
+    void Do(QWidget& front, const Step& step);
+    static void Click(QWidget& front, const Step& step);
+    void Command(QWidget& front, const Step& step);
+    void Fill(QWidget& front, const Step& step);
+    void Pick(QWidget& control, const Step& step);
+    void TakePicture(QWidget& window, QString name);
+    void GiveUp();
+    Text PathOf(const Step& step) const;
+
+    QWidget& m_mainForm;
+    FakeDialogs& m_dialogs;
+    Folders m_folders;
+    QString m_tour;
+    std::vector<Step> m_steps;
+    std::size_t m_next = 0;
+    bool m_isUnderWay = false; ///< a step was chosen and is not begun
+    int m_pictureCount = 0;
+    std::set<QString> m_taken;
+    QElapsedTimer m_patience;
+    int m_pause = 0; ///< milliseconds before the next step
+    QEventLoop m_road;
+};
+
+} // namespace orvane::testing
