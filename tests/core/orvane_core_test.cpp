@@ -39,17 +39,5 @@ TEST(OrvaneCoreTest, ReminderToBrowseComesUnlessFileFieldsAreUnlocked)
     EXPECT_TRUE(desk.Dialogs.Said.empty());
 }
 
-TEST(OrvaneCoreTest, CancelledBrowseStoresNothing)
-{
-    FakeDesk desk;
-    desk.Core.BrowserPathChoice = u"kept";
-    desk.Dialogs.AnswerOpenFile(std::nullopt);
-    BrowseDialog(desk.Core, desk.Dialogs, {});
-    EXPECT_EQ(desk.Core.BrowserPathChoice, u"kept");
-    desk.Dialogs.AnswerOpenFile(u"/bin/browser");
-    BrowseDialog(desk.Core, desk.Dialogs, {});
-    EXPECT_EQ(desk.Core.BrowserPathChoice, u"/bin/browser");
-}
-
 } // namespace
 } // namespace orvane

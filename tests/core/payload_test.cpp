@@ -2,17 +2,17 @@
 
 #include "core/catalogue.h"
 #include "insertion/new_page.h"
-#include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace orvane {
 namespace {
 
 using testing::ExpectedBytes;
 using testing::ExpectSameBytes;
-using testing::FakeFileStore;
 
 EffectPayload PopupWindowPayload()
 {
@@ -64,16 +64,6 @@ TEST(NewPageTest, ShowsBothAttributesAndAnEmptyBodyLine)
 {
     ExpectSameBytes(ExpectedBytes("new_page_both_attributes.html"),
                     NewPageBytes(Finish(PopupWindowPayload())));
-}
-
-TEST(NewPageTest, KeepsTheOldFileWhenTheDiskIsFull)
-{
-    FakeFileStore files;
-    files.Contents[u"/p.html"] = "old";
-    files.FailOn(u"/p.html", Fault::DiskFull);
-    EXPECT_EQ(*FaultIn(SaveHTMLtoFile(files, u"/p.html", Finish(PopupWindowPayload()))),
-              Fault::DiskFull);
-    EXPECT_EQ(files.Contents.at(u"/p.html"), "old");
 }
 
 TEST(CatalogueTest, EveryRowOpensByACommandAndOnlyTwinsShareOne)

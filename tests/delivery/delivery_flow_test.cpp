@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <tuple>
 #include <vector>
 
 namespace orvane {
@@ -27,15 +27,6 @@ std::vector<int> PagesBackward(InsertMode mode, const DeliveryFacts& facts)
     return pages;
 }
 
-struct Path
-{
-    const char* Name;
-    InsertMode Mode;
-    DeliveryFacts Facts;
-    std::vector<int> Forward;
-    std::vector<int> Backward;
-};
-
 DeliveryFacts Without(bool DeliveryFacts::*fact)
 {
     DeliveryFacts facts = everything;
@@ -43,49 +34,25 @@ DeliveryFacts Without(bool DeliveryFacts::*fact)
     return facts;
 }
 
-DeliveryFacts OnlyEvents()
+TEST(DeliveryFlowTest, VisitsTheseAndOnlyThesePagesThereAndBack)
 {
-    return {.HasEvents = true, .HasAttribute = true, .IsEditorKnown = true};
-}
-
-DeliveryFacts OnlyHead()
-{
-    return {.HasHead = true, .IsEditorKnown = true};
-}
-
-class DeliveryPathTest : public ::testing::TestWithParam<Path>
-{
-};
-
-TEST_P(DeliveryPathTest, VisitsTheseAndOnlyThesePages)
-{
-    EXPECT_EQ(PagesForward(GetParam().Mode, GetParam().Facts), GetParam().Forward);
-    EXPECT_EQ(PagesBackward(GetParam().Mode, GetParam().Facts), GetParam().Backward);
-}
-
-const auto manual = InsertMode::ManualCopy;
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Paths, DeliveryPathTest, ::testing::Values(
-    Path{"newPage", InsertMode::NewPage, everything, {1, 3, 4, 9}, {9, 4, 3, 1, 0}},
-    Path{"editorUnknown", InsertMode::AutoInsert, Without(&DeliveryFacts::IsEditorKnown), {1, 2, 3, 4, 9}, {9, 4, 3, 2, 1, 0}},
-    Path{"manualAll", manual, everything, {1, 3, 5, 6, 7, 8, 9}, {9, 8, 7, 6, 5, 3, 1, 0}},
-    Path{"noHead", manual, Without(&DeliveryFacts::HasHead), {1, 3, 6, 7, 8, 9}, {9, 8, 7, 6, 3, 1, 0}},
-    Path{"noBody", manual, Without(&DeliveryFacts::HasBody), {1, 3, 5, 7, 8, 9}, {9, 8, 7, 5, 3, 1, 0}},
-    Path{"noFiles", manual, Without(&DeliveryFacts::NeedsFiles), {1, 3, 5, 6, 7, 9}, {9, 7, 6, 5, 3, 1, 0}},
-    Path{"onlyEvents", manual, OnlyEvents(), {1, 3, 7, 9}, {9, 7, 3, 1, 0}},
-    Path{"onlyHead", manual, OnlyHead(), {1, 3, 5, 9}, {9, 5, 3, 1, 0}}),
-    [](const auto& path) { return path.param.Name; });
-// clang-format on
-
-TEST(DeliveryFlowTest, NumbersThePagesSeenWithoutAGap)
-{
-    DeliveryStep step;
-    for (const TextView heading :
-         {u"Step 2: Select Method for Inserting your Special Effect",
-          u"Step 3: Insert BODY Attribute HTML code into your Web page", u"Finished!"}) {
-        step = NextStep(step, manual, OnlyEvents());
-        EXPECT_EQ(DescribePage(step, manual).Heading, heading);
+    constexpr auto manual = InsertMode::ManualCopy;
+    constexpr DeliveryFacts onlyEvents{
+        .HasEvents = true, .HasAttribute = true, .IsEditorKnown = true};
+    const std::tuple<InsertMode, DeliveryFacts, std::vector<int>> paths[] = {
+        {InsertMode::NewPage, everything, {1, 3, 4, 9}},
+        {InsertMode::AutoInsert, Without(&DeliveryFacts::IsEditorKnown), {1, 2, 3, 4, 9}},
+        {manual, everything, {1, 3, 5, 6, 7, 8, 9}},
+        {manual, Without(&DeliveryFacts::HasHead), {1, 3, 6, 7, 8, 9}},
+        {manual, Without(&DeliveryFacts::HasBody), {1, 3, 5, 7, 8, 9}},
+        {manual, Without(&DeliveryFacts::NeedsFiles), {1, 3, 5, 6, 7, 9}},
+        {manual, onlyEvents, {1, 3, 7, 9}},
+        {manual, {.HasHead = true, .IsEditorKnown = true}, {1, 3, 5, 9}}};
+    for (const auto& [mode, facts, pages] : paths) {
+        EXPECT_EQ(PagesForward(mode, facts), pages);
+        std::vector<int> back(pages.rbegin(), pages.rend());
+        back.push_back(0);
+        EXPECT_EQ(PagesBackward(mode, facts), back);
     }
 }
 

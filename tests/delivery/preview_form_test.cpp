@@ -1,5 +1,3 @@
-#include "delivery/preview_form.h"
-
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "insertion/new_page.h"
@@ -7,99 +5,44 @@
 #include "program/ov_main_form.h"
 #include "services/chosen_effects.h"
 #include "services/recent_files.h"
-#include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
-#include "tests/support/qt_controls.h"
-#include "windows/qt_text.h"
+#include "tests/support/qt_delivery.h"
+#include "tests/support/qt_mouse.h"
+#include "tests/support/test_folder.h"
 
 #include <QApplication>
-#include <QDragEnterEvent>
-#include <QFile>
 #include <QListWidget>
 #include <QMenu>
-#include <QMimeData>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QUrl>
 
 namespace orvane {
 namespace {
 
 using namespace orvane::testing;
 
-class PreviewFormTest : public ::testing::Test
+class PreviewFormTest : public DeliveryTest
 {
 protected:
     PreviewFormTest()
     {
+        m_payload = Generate(StatusBarTicker{u"Welcome\u00A0to my\u2028page!"});
+        m_windows.BringBack = [this](const Text& page) {
+            m_broughtBack = page;
+            return true;
+        };
         m_desk.Core.Payload = m_payload;
         Open();
     }
 
-    void Open()
-    {
-        const PreviewWindows windows{.BringBack = [this](const Text& page) {
-            m_broughtBack = page;
-            return true;
-        }};
-        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, windows);
-        m_form->show();
-        LetRun();
-    }
-
-    Text Heading() { return WordsOf(*m_form, "lblHeading"); }
-
-    void Choose(int insertMode)
-    {
-        Find<QRadioButton>(*m_form, ("optInsertMode(" + std::to_string(insertMode) + ")").c_str())
-            ->click();
-    }
-
-    void KnowEditor(TextView name) { m_desk.Settings.Put(u"Misc", u"HTMLEditor", name, u"Orvane"); }
     Text KnownEditor() { return m_desk.Settings.Get(u"Misc", u"HTMLEditor", u"", u"Orvane"); }
-
-    void ToMethodPage()
-    {
-        KnowEditor(u"Other");
-        Click(*m_form, "cmdNext");
-    }
 
     void ToNewPage()
     {
-        ToMethodPage();
-        Choose(2);
         Click(*m_form, "cmdNext");
+        GoBy(2);
         ASSERT_EQ(Heading(), u"Step 3: Create a new Web page");
     }
 
-    /// Presses a key wherever the wizard left the focus.
-    void PressWhereItStands(Qt::Key key)
-    {
-        m_form->activateWindow();
-        QTest::keyClick(m_form->focusWidget(), key);
-        LetRun();
-    }
-
-    /// The page's controls in the order in which Tab reaches them from the first one.
-    std::vector<Text> TabStops(const char* first)
-    {
-        auto* start = Find<QWidget>(*m_form, first);
-        std::vector<Text> names;
-        QWidget* control = start;
-        do {
-            if (control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0)
-                names.push_back(FromQt(control->objectName()));
-            control = control->nextInFocusChain();
-        } while (control != start);
-        return names;
-    }
-
-    FakeDesk m_desk;
     Text m_broughtBack;
-    EffectPayload m_payload = Generate(StatusBarTicker{u"Welcome\u00A0to my\u2028page!"});
-    std::unique_ptr<PreviewForm> m_form;
 };
 
 TEST_F(PreviewFormTest, OpensWithThePreviewOnItsFirstPage)
@@ -115,6 +58,8 @@ TEST_F(PreviewFormTest, OpensWithThePreviewOnItsFirstPage)
 
 TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
 {
+    KnowEditor(u"");
+    Open();
     Click(*m_form, "cmdNext");
     EXPECT_EQ(Heading(), u"Step 2: Select your Web page Editor");
     PressWhereItStands(Qt::Key_Return);
@@ -127,59 +72,31 @@ TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
     EXPECT_EQ(KnownEditor(), u"AOLPress");
     Click(*m_form, "cmdPrevious");
     EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
-}
-
-TEST_F(PreviewFormTest, StoredEditorIsNotReplacedByTheSelection)
-{
-    Find<QListWidget>(*m_form, "lstHTMLEditors")->setCurrentRow(3);
-    ToMethodPage();
-    EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
-    EXPECT_EQ(KnownEditor(), u"Other");
+    KnowEditor(u"Other");
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(KnownEditor(), u"Other") << "the selected row does not replace it";
 }
 
 TEST_F(PreviewFormTest, EveryPageIsAccessibleAndFits)
 {
-    KnowEditor(u"Other");
     for (const int mode : {0, 2, 1}) {
-        Choose(mode);
+        GoBy(mode);
         for (int page = 0; page < 4; ++page) {
-            if (Find<QPushButton>(*m_form, "cmdNext")->isEnabled())
-                Click(*m_form, "cmdNext");
             m_form->resize(640, 440);
             LetRun();
             ExpectAccessible(*m_form);
             EXPECT_EQ(m_form->size(), QSize(640, 440));
+            if (Find<QPushButton>(*m_form, "cmdNext")->isEnabled())
+                Click(*m_form, "cmdNext");
         }
         while (Heading() != u"Step 1: Preview your special effect")
             Click(*m_form, "cmdPrevious");
     }
 }
 
-TEST_F(PreviewFormTest, PagesForAnExistingAndForANewPageShowTheirOwnControls)
-{
-    ToMethodPage();
-    Click(*m_form, "cmdNext");
-    EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
-              u"1. Find your Web page using the browse button below.");
-    EXPECT_EQ(TabStops("txtFileName"),
-              (std::vector<Text>{u"txtFileName", u"cmdBrowse", u"cmdAutoInsert", u"cmdHelp",
-                                 u"cmdPrevious", u"cmdNext", u"cmdCancel"}));
-    Click(*m_form, "cmdPrevious");
-    Choose(2);
-    Click(*m_form, "cmdNext");
-    EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
-              u"1. Save your new Web page by pressing the 'Save as New Web page' button below.");
-    EXPECT_EQ(TabStops("cmdSaveWebPage"),
-              (std::vector<Text>{u"cmdSaveWebPage", u"cmdHelp", u"cmdPrevious", u"cmdNext",
-                                 u"cmdCancel"}));
-    for (const char* name : {"lblBackupFile", "lblAutoStep2", "lblAutoStep3"})
-        EXPECT_FALSE(Find<QWidget>(*m_form, name)->isVisible()) << name;
-}
-
 TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
 {
     m_payload = Generate(StatusBarTicker{u"Welcome to my page!"});
-    m_form.reset();
     Open();
     ToNewPage();
     m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
@@ -207,20 +124,61 @@ TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
 TEST_F(PreviewFormTest, EnterAllTheWayDoesTheWorkInsteadOfPassingIt)
 {
     ToNewPage();
+    EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
+              u"1. Save your new Web page by pressing the 'Save as New Web page' button below.");
+    for (const char* name : {"lblBackupFile", "lblAutoStep2", "lblAutoStep3"})
+        EXPECT_FALSE(Find<QWidget>(*m_form, name)->isVisible()) << name;
     m_desk.Dialogs.AnswerSaveFile(std::nullopt);
     PressWhereItStands(Qt::Key_Return);
     EXPECT_EQ(m_desk.Dialogs.Requests.size(), 1u);
     EXPECT_EQ(Heading(), u"Step 3: Create a new Web page");
     Click(*m_form, "cmdPrevious");
-    Choose(0);
-    Click(*m_form, "cmdNext");
-    EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("txtFileName"));
+    GoBy(0);
+    EXPECT_EQ(WordsOf(*m_form, "lblAutoStep1"),
+              u"1. Find your Web page using the browse button below.");
+    EXPECT_EQ(Focused(), u"txtFileName");
     PressWhereItStands(Qt::Key_Return);
     EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u) << "the page's name is asked for";
     Click(*m_form, "cmdNext");
     EXPECT_EQ(Heading(), u"Finished!");
-    EXPECT_TRUE(WordsOf(*m_form, "lblReport").starts_with(u"Nothing was delivered"));
+    EXPECT_EQ(WordsOf(*m_form, "lblReport"), u"Nothing was delivered: no Web page was written, no "
+                                             u"HTML code was copied and no file was published.");
     EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdOpenFolder")->isVisible());
+}
+
+TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
+{
+    const auto holdsLines = [](const std::string& page) {
+        return page.find("<HEAD><!-- Begin Orvane page script -->") != std::string::npos;
+    };
+    EXPECT_TRUE(
+        WordsOf(*m_form, "lblRunsToday").ends_with(u"in a strip at the foot of the window."));
+    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+    Click(*m_form, "chkRunsToday");
+    EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+    EXPECT_EQ(m_desk.Pane.Navigated.size(), 2u);
+
+    m_desk.Files.Folders = {u"/", u"/program"};
+    m_payload.HEADHTML.clear();
+    m_payload.BODYHTML = u"<P>";
+    Open();
+    EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes)) << "the choice is kept";
+    Click(*m_form, "cmdNext");
+    GoBy(1);
+    EXPECT_EQ(Heading(), u"Step 3: Insert HEAD HTML code into your Web page");
+    EXPECT_FALSE(Find<QWidget>(*m_form, "txtHEADHTML")->isVisible());
+    ExpectAccessible(*m_form);
+    Click(*m_form, "cmdCopyPageScript");
+    EXPECT_EQ(m_desk.Clipboard.Content, u"<!-- Begin Orvane page script -->\r\n"
+                                        u"<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n"
+                                        u"<!-- End Orvane page script -->");
+    for (int page = 0; page < 3; ++page)
+        Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Step 6: Publish required files to local hard drive");
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_TRUE(holdsLines(Bytes(u"/program/ovtemp.html")));
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"), std::vector<Text>{u"orvane.js"});
 }
 
 TEST_F(PreviewFormTest, FailedSaveSaysWhyAndStaysOnThePage)
@@ -236,9 +194,8 @@ TEST_F(PreviewFormTest, FailedSaveSaysWhyAndStaysOnThePage)
 TEST_F(PreviewFormTest, CopyPutsTheExactCodeOnTheClipboard)
 {
     const FinishedPayload finished = Finish(m_payload);
-    ToMethodPage();
-    Choose(1);
     Click(*m_form, "cmdNext");
+    GoBy(1);
     EXPECT_EQ(WordsOf(*m_form, "lblSubHeading"),
               u"Add the following HTML code to the HEAD section of your Web page.");
     Click(*m_form, "cmdCopyHEADHTML");
@@ -254,54 +211,9 @@ TEST_F(PreviewFormTest, CopyPutsTheExactCodeOnTheClipboard)
               u"HTML code copied for you to paste: HEAD, BODY attribute");
 }
 
-TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
-{
-    const auto holdsLines = [](const std::string& page) {
-        return page.find("<HEAD><!-- Begin Orvane page script -->") != std::string::npos;
-    };
-    const auto hasLines = [&](const Text& path) { return holdsLines(m_desk.Files.Contents[path]); };
-    m_desk.Files.Contents[u"/program/orvane.js"] = "/*! Orvane page script 1.0.0 */";
-    EXPECT_TRUE(
-        WordsOf(*m_form, "lblRunsToday").ends_with(u"in a strip at the foot of the window."));
-    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
-    Click(*m_form, "chkRunsToday");
-    EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes));
-    EXPECT_EQ(m_desk.Pane.Navigated.size(), 2u);
-
-    m_form.reset();
-    m_desk.Files.Folders = {u"/", u"/program"};
-    m_payload.HEADHTML.clear();
-    m_payload.BODYHTML = u"<P>";
-    Open();
-    EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes)) << "the choice is kept";
-    ToNewPage();
-    m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
-    Click(*m_form, "cmdSaveWebPage");
-    EXPECT_TRUE(hasLines(u"/site/index.html"));
-    EXPECT_TRUE(m_desk.Files.Contents.contains(u"/site/orvane.js"));
-    EXPECT_EQ(Find<QListWidget>(*m_form, "lstFilesToUpload")->item(0)->text(),
-              QStringLiteral("orvane.js"));
-    while (Heading() != u"Step 2: Select Method for Inserting your Special Effect")
-        Click(*m_form, "cmdPrevious");
-    Choose(1);
-    Click(*m_form, "cmdNext");
-    EXPECT_EQ(Heading(), u"Step 3: Insert HEAD HTML code into your Web page");
-    EXPECT_FALSE(Find<QWidget>(*m_form, "txtHEADHTML")->isVisible());
-    ExpectAccessible(*m_form);
-    Click(*m_form, "cmdCopyPageScript");
-    EXPECT_EQ(m_desk.Clipboard.Content, u"<!-- Begin Orvane page script -->\r\n"
-                                        u"<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n"
-                                        u"<!-- End Orvane page script -->");
-    for (int page = 0; page < 3; ++page)
-        Click(*m_form, "cmdNext");
-    EXPECT_EQ(Heading(), u"Step 6: Publish required files to local hard drive");
-    Click(*m_form, "cmdCopyFiles");
-    EXPECT_TRUE(hasLines(u"/program/ovtemp.html"));
-}
-
 TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
 {
-    ToMethodPage();
+    Click(*m_form, "cmdNext");
     Click(*m_form, "cmdNext");
     m_desk.Dialogs.AnswerOpenFile(u"/site/index.html");
     Click(*m_form, "cmdBrowse");
@@ -311,7 +223,7 @@ TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
     EXPECT_EQ(WordsOf(*m_form, "lblBackupFile"),
               u"A backup copy of your Web page will be created and stored as \"Backup of "
               u"index.html\"");
-    EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("cmdAutoInsert"));
+    EXPECT_EQ(Focused(), u"cmdAutoInsert");
     Type(*m_form, "txtFileName", u"x");
     EXPECT_EQ(WordsOf(*m_form, "txtFileName"), u"/site/index.html");
     EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
@@ -319,43 +231,25 @@ TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
 
 TEST_F(PreviewFormTest, ADroppedPageIsTakenAsIfBrowsedAndNothingElse)
 {
-    const QTemporaryDir folder;
-    const auto made = [&](const char* name) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return QUrl::fromLocalFile(file.fileName());
-    };
-    const QUrl page = made("a page.PHP");
-    const QUrl other = made("a.gif");
-    const auto drop = [&](const QList<QUrl>& urls) {
-        QMimeData data;
-        data.setUrls(urls);
-        auto* box = Find<QWidget>(*m_form, "txtFileName");
-        constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-        QDragEnterEvent enter({}, actions, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(box, &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent event({}, actions, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(box, &event);
-        EXPECT_EQ(event.dropAction(), Qt::CopyAction) << "the page stays where it lies";
-        return event.isAccepted();
+    const TestFolder folder;
+    const Text page = folder.TextAt("a page.PHP");
+    const Text other = folder.TextAt("a.gif");
+    for (const char* name : {"a page.PHP", "a.gif"})
+        folder.Put(name, "");
+    const auto drop = [&](const std::vector<Text>& paths) {
+        return DropFiles(*Find<QWidget>(*m_form, "txtFileName"), paths);
     };
     ToNewPage();
     EXPECT_FALSE(drop({page}));
     Click(*m_form, "cmdPrevious");
-    Choose(0);
-    Click(*m_form, "cmdNext");
-    for (const QList<QUrl>& refused : {QList<QUrl>{other},
-                                       {page, other},
-                                       {QUrl("http://x/a.html")},
-                                       {QUrl::fromLocalFile(folder.path())}})
+    GoBy(0);
+    for (const std::vector<Text>& refused :
+         {{other}, {page, other}, {u"http://x/a.html"}, std::vector{folder.TextAt("")}})
         EXPECT_FALSE(drop(refused));
     EXPECT_TRUE(drop({page}));
-    LetRun();
-    EXPECT_EQ(ToQt(WordsOf(*m_form, "txtFileName")), page.toLocalFile());
+    EXPECT_EQ(WordsOf(*m_form, "txtFileName"), page);
     EXPECT_TRUE(WordsOf(*m_form, "lblBackupFile").ends_with(u"\"Backup of a page.PHP\""));
-    EXPECT_EQ(m_form->focusWidget()->objectName(), QStringLiteral("cmdAutoInsert"));
+    EXPECT_EQ(Focused(), u"cmdAutoInsert");
 }
 
 TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersionComesBack)
@@ -363,7 +257,7 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     for (const TextView gone : {u"/gone.html", u"/site/a&b.html"})
         PutRecentFile(m_desk.Settings, u"Pages", gone);
     m_desk.Files.Contents[u"/site/a&b.html"] = "<head>12</head><body></body>";
-    ToMethodPage();
+    Click(*m_form, "cmdNext");
     Click(*m_form, "cmdNext");
     ExpectAccessible(*m_form);
     QMenu* menu = Find<QPushButton>(*m_form, "cmdRecentPages")->menu();

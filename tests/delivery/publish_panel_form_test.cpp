@@ -1,14 +1,9 @@
 #include "delivery/publish_panel.h"
 
-#include "delivery/preview_form.h"
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/qt_delivery.h"
 #include "tests/support/qt_mouse.h"
-#include "windows/qt_text.h"
 
 #include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
 
 namespace orvane {
 namespace {
@@ -18,7 +13,7 @@ using namespace orvane::testing;
 using Names = std::vector<Text>;
 
 /// The delivery wizard of an animation with two pictures, on a disk where both were found once.
-class PublishPanelTest : public ::testing::Test
+class PublishPanelTest : public DeliveryTest
 {
 protected:
     PublishPanelTest()
@@ -28,36 +23,22 @@ protected:
                                  {u"/pics/b.gif", "b"},
                                  {u"/pics/c.gif", "c"},
                                  {u"/program/Animate1.class", "class"}};
-        m_desk.Settings.Put(u"Misc", u"HTMLEditor", u"Other", u"Orvane");
+        m_payload.Kind = EffectKind::AdvancedAnimator;
         m_payload.BODYHTML = u"<B>moves</B>";
         m_payload.Required.Names = {u"a.gif", u"b.gif"};
         m_payload.Required.Sources = {u"/pics/a.gif", u"/pics/b.gif"};
         m_payload.SupportFiles = {u"Animate1.class"};
-    }
-
-    void Open()
-    {
-        const PreviewWindows windows{.ShowOptions = {}, .MakeFolder = [this](TextView folder) {
-                                         m_askedFor.emplace_back(folder);
-                                         return m_newFolder;
-                                     }};
-        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, windows);
-        m_form->show();
-        LetRun();
-    }
-
-    void Choose(int insertMode)
-    {
-        Find<QRadioButton>(*m_form, ("optInsertMode(" + std::to_string(insertMode) + ")").c_str())
-            ->click();
+        m_windows.MakeFolder = [this](TextView folder) {
+            m_askedFor.emplace_back(folder);
+            return m_newFolder;
+        };
     }
 
     void OpenPublishPage()
     {
         Open();
         Click(*m_form, "cmdNext");
-        Choose(1);
-        Click(*m_form, "cmdNext");
+        GoBy(1);
         Click(*m_form, "cmdNext");
         ASSERT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
         ASSERT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program"}));
@@ -82,15 +63,7 @@ protected:
         DoubleClickName("dirCopyTo", folder);
     }
 
-    /// Presses Enter wherever the wizard left the focus.
-    void PressEnter()
-    {
-        m_form->activateWindow();
-        Press(*m_form->focusWidget(), Qt::Key_Return);
-        LetRun();
-    }
-
-    Text Focused() { return FromQt(m_form->focusWidget()->objectName()); }
+    void PressEnter() { PressWhereItStands(Qt::Key_Return); }
 
     void DoubleClickName(const char* box, TextView name)
     {
@@ -101,11 +74,6 @@ protected:
     {
         ClickRow(*m_form, box, RowWith(*m_form, box, name));
     }
-
-    Text Heading() { return WordsOf(*m_form, "lblHeading"); }
-    std::string Bytes(const Text& path) { return m_desk.Files.Contents[path]; }
-
-    bool IsShown(const char* name) { return Find<QWidget>(*m_form, name)->isVisible(); }
 
     /// Of all controls that come and go, exactly these are shown.
     void ExpectShown(const std::set<std::string>& shown)
@@ -118,11 +86,8 @@ protected:
             EXPECT_EQ(IsShown(name), shown.contains(name)) << name;
     }
 
-    FakeDesk m_desk;
-    EffectPayload m_payload{.Kind = EffectKind::AdvancedAnimator};
     Names m_askedFor;
     std::optional<Text> m_newFolder;
-    std::unique_ptr<PreviewForm> m_form;
 };
 
 TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
@@ -153,7 +118,7 @@ TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
     EXPECT_EQ(m_desk.Shell.Opened, Names{u"/web/"});
 }
 
-TEST_F(PublishPanelTest, MissingFilesAreFoundAndCopiedByHand)
+TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
 {
     OpenWithoutB();
     ExpectShown({"driveCopyFrom", "dirCopyFrom", "fileCopyFrom", "driveCopyTo", "dirCopyTo",
@@ -172,11 +137,7 @@ TEST_F(PublishPanelTest, MissingFilesAreFoundAndCopiedByHand)
     EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
               (Names{u"a.gif", u"Animate1.class", u"b.gif", u"c.gif", u"ovtemp.html"}));
     EXPECT_EQ(Focused(), u"cmdDoneCopying");
-}
 
-TEST_F(PublishPanelTest, DoneCopyingShowsTheHeadCodeUnderTheLastHeading)
-{
-    OpenWithoutB();
     Click(*m_form, "cmdDoneCopying");
     EXPECT_EQ(Heading(), u"Finished!");
     EXPECT_TRUE(IsShown("txtHEADHTML"));
@@ -246,8 +207,7 @@ TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolde
 {
     Open();
     Click(*m_form, "cmdNext");
-    Choose(2);
-    Click(*m_form, "cmdNext");
+    GoBy(2);
     m_desk.Files.Contents.erase(u"/pics/b.gif");
     m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
     Click(*m_form, "cmdSaveWebPage");

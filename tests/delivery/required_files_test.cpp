@@ -66,16 +66,6 @@ protected:
     DeliveryReport report;
 };
 
-TEST_F(RequiredFilesTest, CopiesPicturesThenClassFilesAndSaysSo)
-{
-    EXPECT_EQ(Copy(), MissingFiles());
-    EXPECT_EQ(disk.Writes,
-              (Names{u"/site/a.gif", u"/site/b.gif", u"/site/X.class", u"/site/Y.class"}));
-    EXPECT_EQ(disk.Contents[u"/site/b.gif"], "b");
-    EXPECT_EQ(dialogs.Said, Names{Text(allCopied)});
-    EXPECT_EQ(dialogs.LastTone, Tone::Plain);
-}
-
 TEST_F(RequiredFilesTest, ANameWithoutKnownSourceIsMissingAndNeverAskedFor)
 {
     Require(0, u"a.gif", u"");
@@ -101,19 +91,18 @@ TEST_F(RequiredFilesTest, AsksBeforeEachPictureThatItWouldOverwriteButNotForClas
     EXPECT_EQ(disk.Contents[u"/site/X.class"], "X");
     EXPECT_EQ(report.Lines(), Names{u"Copied to /site/: b.gif, X.class, Y.class"});
     EXPECT_EQ(dialogs.Said, Names{Text(allCopied)});
+    EXPECT_EQ(dialogs.LastTone, Tone::Plain);
 }
 
-TEST_F(RequiredFilesTest, AsksNothingForASourceThatIsTheDestinationWhateverItsCase)
+TEST_F(RequiredFilesTest, AsksNothingForASourceThatShouldLieInPlaceWhateverItsCase)
 {
     Require(0, u"a.gif", u"/Site/A.gif");
     disk.Contents[u"/site/a.gif"] = "here";
     EXPECT_EQ(Copy(), MissingFiles());
     EXPECT_EQ(disk.Contents[u"/site/a.gif"], "here");
-}
-
-TEST_F(RequiredFilesTest, AFileThatShouldLieInPlaceButDoesNotIsMissing)
-{
     disk.Folders = {u"/site", u"/pics", u"/program"};
+    for (const TextView name : {u"/site/a.gif", u"/site/b.gif"})
+        disk.Contents.erase(Text(name));
     Require(0, u"a.gif", u"/site/a.gif");
     EXPECT_EQ(Copy(), MissingFiles{u"a.gif"});
 }
@@ -122,6 +111,10 @@ TEST_F(RequiredFilesTest, LeavesTheClassFilesOfTheProgramsFolderAlone)
 {
     EXPECT_EQ(Copy(u"/program/"), MissingFiles());
     EXPECT_EQ(disk.Writes, (Names{u"/program/a.gif", u"/program/b.gif"}));
+    disk.Writes.clear();
+    EXPECT_EQ(Copy(), MissingFiles());
+    EXPECT_EQ(disk.Writes,
+              (Names{u"/site/a.gif", u"/site/b.gif", u"/site/X.class", u"/site/Y.class"}));
     for (const TextView folder : {u"/Program/", u""}) {
         disk.Writes.clear();
         Copy(folder);
@@ -216,21 +209,16 @@ TEST_F(RequiredFilesTest, ReplacesABackupPageOnYesAloneAndStillCopies)
     EXPECT_EQ(disk.Contents[u"/site/ovtemp.html"], NewPageBytes(payload));
 }
 
-TEST_F(RequiredFilesTest, BringsPicturesToThePreviewWithoutAWord)
-{
-    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
-    EXPECT_EQ(disk.Writes, (Names{u"/program/a.gif", u"/program/b.gif"}));
-    EXPECT_EQ(dialogs.Said, Names());
-    EXPECT_EQ(report.Folder(), u"") << "nothing is delivered by that";
-}
-
-TEST_F(RequiredFilesTest, DoesNotCopyAgainForThePreviewWhatLiesThereInAnyCase)
+TEST_F(RequiredFilesTest, BringsToThePreviewWithoutAWordWhatDoesNotLieThereInAnyCase)
 {
     disk.Contents[u"/program/A.GIF"] = "there";
-    disk.Contents[u"/program/b.gif"] = "itself";
+    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
+    EXPECT_EQ(disk.Writes, Names{u"/program/b.gif"});
     Require(50, u"b.gif", u"/program/b.gif");
     EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
-    EXPECT_EQ(disk.Calls(), 0);
+    EXPECT_EQ(disk.Writes.size(), 1u);
+    EXPECT_EQ(dialogs.Said, Names());
+    EXPECT_EQ(report.Folder(), u"") << "nothing is delivered by that";
 }
 
 TEST_F(RequiredFilesTest, TellsWhichFilesThePreviewLacks)

@@ -17,39 +17,23 @@ using testing::FakeFileStore;
 
 constexpr TextView orvane = u"Orvane";
 
-TEST(SettingsFileTest, GivesTheDefaultUntilSomethingIsStored)
-{
-    FakeFileStore files;
-    SettingsFile settings(files, u"/home/a/.config/orvane");
-    EXPECT_EQ(settings.Get(u"Misc", u"DefaultPath", u"c:\\", orvane), u"c:\\");
-    settings.Put(u"Misc", u"DefaultPath", u"", orvane);
-    EXPECT_EQ(settings.Get(u"Misc", u"DefaultPath", u"c:\\", orvane), u"");
-    EXPECT_TRUE(files.Folders.contains(u"/home/a/.config/orvane"));
-}
-
-TEST(SettingsFileTest, KeepsOneFileForEachApplicationAndSectionsApart)
+TEST(SettingsFileTest, GivesTheDefaultUntilStoredAndKeepsOneFileForEachApplicationAndSectionsApart)
 {
     FakeFileStore files;
     SettingsFile settings(files, u"/c");
+    EXPECT_EQ(settings.Get(u"Misc", u"DefaultPath", u"c:\\", orvane), u"c:\\");
+    settings.Put(u"Misc", u"DefaultPath", u"", orvane);
+    EXPECT_EQ(settings.Get(u"Misc", u"DefaultPath", u"c:\\", orvane), u"");
+    EXPECT_TRUE(files.Folders.contains(u"/c"));
     settings.Put(u"Apps", u"Override", u"1", orvane);
     settings.Put(u"Misc", u"Override", u"0", orvane);
     settings.Put(u"Miscellaneous", u"EmailAddress", u"a@b.example", u"Page Loom");
     EXPECT_EQ(settings.Get(u"Apps", u"Override", u"", orvane), u"1");
     EXPECT_EQ(settings.Get(u"Misc", u"Override", u"", orvane), u"0");
     EXPECT_EQ(settings.Get(u"Miscellaneous", u"EmailAddress", u"none", orvane), u"none");
-    EXPECT_EQ(files.Contents.at(u"/c/Orvane.conf"), "[Apps]\nOverride=1\n[Misc]\nOverride=0\n");
+    EXPECT_EQ(files.Contents.at(u"/c/Orvane.conf"),
+              "[Apps]\nOverride=1\n[Misc]\nDefaultPath=\nOverride=0\n");
     EXPECT_TRUE(files.Contents.contains(u"/c/Page Loom.conf"));
-}
-
-TEST(SettingsFileTest, AnyTextComesBackAsItWentIn)
-{
-    for (const TextView odd : {u"a=b]c[d", u"line\r\nbreak", u"c:\\new\\r", u" blanks ", u"\\",
-                               u"ü \u20ac \U0001F600", u"[Misc]", u"=x"}) {
-        FakeFileStore files;
-        SettingsFile settings(files, u"/c");
-        settings.Put(odd, odd, odd, orvane);
-        EXPECT_EQ(settings.Get(odd, odd, u"lost", orvane), odd) << ToUtf8(odd);
-    }
 }
 
 TEST(SettingsFileTest, PassesOverWhatIsNoSetting)

@@ -57,17 +57,6 @@ protected:
     HelpForm m_form{m_files, m_shell, u"/program"};
 };
 
-TEST_F(HelpFormTest, ShowsTheTopicAndMarksItInTheContents)
-{
-    EXPECT_TRUE(m_files.Reads.empty());
-    m_form.ShowTopic(7);
-    EXPECT_TRUE(m_form.isVisible());
-    EXPECT_EQ(Shown(), "A <B>\nSeven");
-    EXPECT_EQ(Listed(), (std::vector<Text>{u"Contents", u"A <B>", u"Ticker"}));
-    EXPECT_EQ(Marked(), "A <B>");
-    ExpectAccessible(m_form);
-}
-
 TEST_F(HelpFormTest, SaysWhyThereIsNoTopicToShow)
 {
     m_form.ShowTopic(8);
@@ -82,18 +71,25 @@ TEST_F(HelpFormTest, SaysWhyThereIsNoTopicToShow)
         Find<TopicBrowser>(bookless, "txtTopic")->toPlainText().startsWith("The help cannot"));
 }
 
-TEST_F(HelpFormTest, WalksBackAndForwardThroughTheTopicsRead)
+TEST_F(HelpFormTest, WalksThroughTopicsAndHandsLinksToTheWebOver)
 {
+    EXPECT_TRUE(m_files.Reads.empty());
     m_form.ShowTopic(0);
+    EXPECT_TRUE(m_form.isVisible());
     EXPECT_FALSE(IsEnabled("cmdBack"));
     FollowLink("topic:7");
+    ExpectAccessible(m_form);
+    EXPECT_EQ(Shown(), "A <B>\nSeven");
+    EXPECT_EQ(Listed(), (std::vector<Text>{u"Contents", u"A <B>", u"Ticker"}));
+    FollowLink("http://www.varlo.example/orvane/");
+    FollowLink("file:///etc/passwd");
+    EXPECT_EQ(m_shell.Opened, std::vector<Text>{u"http://www.varlo.example/orvane/"});
     Find<QListWidget>(m_form, "lstContents")->setCurrentRow(2);
     Click(m_form, "cmdBack");
     EXPECT_EQ(Marked(), "A <B>");
     Click(m_form, "cmdBack");
     EXPECT_FALSE(IsEnabled("cmdBack"));
     Click(m_form, "cmdForward");
-    EXPECT_EQ(Shown(), "A <B>\nSeven");
     EXPECT_EQ(Marked(), "A <B>");
 }
 
@@ -113,16 +109,6 @@ TEST_F(HelpFormTest, SearchListsTheHitsAndEnterOpensTheFirst)
     Click(m_form, "cmdContents");
     EXPECT_EQ(Listed().size(), 3u);
     EXPECT_EQ(Marked(), "Contents");
-}
-
-TEST_F(HelpFormTest, LinksToTheWebAreHandedToTheDesktop)
-{
-    m_form.ShowTopic(7);
-    FollowLink("http://www.varlo.example/orvane/");
-    EXPECT_EQ(m_shell.Opened, std::vector<Text>{u"http://www.varlo.example/orvane/"});
-    FollowLink("file:///etc/passwd");
-    EXPECT_EQ(m_shell.Opened.size(), 1u);
-    EXPECT_EQ(Shown(), "A <B>\nSeven");
 }
 
 TEST_F(HelpFormTest, EscapeClosesAndTheNextTimeBeginsAfresh)

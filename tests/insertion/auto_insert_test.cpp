@@ -100,6 +100,10 @@ TEST_F(AutoInsertTest, TellsWhichLinesToAddWhenThePageHasNoPlaceForThePageScript
 
 TEST_F(AutoInsertTest, TellsTheFaultOfThePageItself)
 {
+    m_files.Contents.clear();
+    EXPECT_EQ(Run(), AutoInsertion::NothingDone);
+    ExpectSaid(u"File not found");
+    EXPECT_TRUE(m_files.Writes.empty());
     m_files.Contents[pagePath] = "<head>";
     EXPECT_EQ(Run(), AutoInsertion::NothingDone);
     ExpectSaid(u"Invalid procedure call or argument");
@@ -107,14 +111,6 @@ TEST_F(AutoInsertTest, TellsTheFaultOfThePageItself)
     EXPECT_EQ(Run(), AutoInsertion::NothingDone);
     ExpectSaid(u"Overflow");
     EXPECT_EQ(Bytes(pagePath).size(), 40006u);
-}
-
-TEST_F(AutoInsertTest, WritesNothingForAMissingPage)
-{
-    m_files.Contents.clear();
-    EXPECT_EQ(Run(), AutoInsertion::NothingDone);
-    ExpectSaid(u"File not found");
-    EXPECT_TRUE(m_files.Writes.empty());
 }
 
 /// A disk on which an editor saves the page while it is worked on.
@@ -176,14 +172,10 @@ TEST_F(AutoInsertTest, KeepsTheFirstBackupOfEachDay)
     AutoInsert(m_files, m_dialogs, pagePath, m_payload, {kept.Folder, u"2001-11-29"});
     EXPECT_EQ(Bytes(keptPath), oldBytes);
     EXPECT_EQ(Bytes(u"/state/pages/2001-11-29/home/jo/site/index.html"), second);
-}
-
-TEST_F(AutoInsertTest, LeavesAKeptPageThatCannotBeRead)
-{
-    m_files.Contents[keptPath] = "first";
     m_files.FailOn(keptPath, Fault::PermissionDenied);
-    EXPECT_EQ(Run(), AutoInsertion::Inserted);
-    EXPECT_EQ(Bytes(keptPath), "first");
+    m_dialogs.ExpectAsk(Text(question), true);
+    EXPECT_EQ(Run(), AutoInsertion::Inserted) << "a kept page that cannot be read stays";
+    EXPECT_EQ(Bytes(keptPath), oldBytes);
 }
 
 /// The same on the real disk, where a downloaded folder may hold anything.
@@ -256,19 +248,15 @@ TEST(KeptPagePathTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)
     EXPECT_EQ(KeptPagePath(kept, u"/../../etc/\u0142"), u"/state/pages/2001-11-28/etc/\u0142");
 }
 
-TEST(PagePathTest, StartsInTheCurrentFolderUnlessItIsFull)
-{
-    EXPECT_EQ(PagePath(u"index.html", u"/home/jo"), u"/home/jo/index.html");
-    EXPECT_EQ(PagePath(u"site/index.html", u"/home/jo"), u"/home/jo/site/index.html");
-    EXPECT_EQ(PagePath(u"/index.html", u"/home/jo"), u"/index.html");
-}
-
-TEST(CheckPageNameTest, WantsAName)
+TEST(PagePathTest, NeedsANameAndStartsInTheCurrentFolderUnlessItIsFull)
 {
     EXPECT_EQ(CheckPageName(u""),
               (Complaint{u"Please specify the filename of a Web page in the input box below.",
                          "txtFileName"}));
     EXPECT_EQ(CheckPageName(u"index.html"), std::nullopt);
+    EXPECT_EQ(PagePath(u"index.html", u"/home/jo"), u"/home/jo/index.html");
+    EXPECT_EQ(PagePath(u"site/index.html", u"/home/jo"), u"/home/jo/site/index.html");
+    EXPECT_EQ(PagePath(u"/index.html", u"/home/jo"), u"/index.html");
 }
 
 } // namespace

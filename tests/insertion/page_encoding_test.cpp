@@ -110,25 +110,6 @@ TEST(EncodeForPageTest, EscapesWhatWindows1252LacksAsItsPlaceNeedsIt)
         EXPECT_EQ(EncodeForPage(code, latin), expected);
 }
 
-TEST(EncodeForPageTest, WritesEachByteThatWindows1252Has)
-{
-    // The five bytes that have no character stand for themselves; so does everything outside of
-    // 0x80 to 0x9F.
-    const std::u16string upper = u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021"
-                                 u"\u02C6\u2030\u0160\u2039\u0152\u008D\u017D\u008F"
-                                 u"\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
-                                 u"\u02DC\u2122\u0161\u203A\u0153\u009D\u017E\u0178";
-    Text text;
-    std::string bytes;
-    for (int byte = 0; byte < 256; ++byte) {
-        const bool isUpper = byte >= 0x80 && byte < 0xA0;
-        text.push_back(isUpper ? upper[static_cast<std::size_t>(byte - 0x80)]
-                               : static_cast<char16_t>(byte));
-        bytes.push_back(static_cast<char>(byte));
-    }
-    EXPECT_EQ(EncodeForPage(text, latin), bytes);
-}
-
 TEST(EncodeForPageTest, KeepsToAsciiInAPageOfAnotherCharset)
 {
     EXPECT_EQ(EncodeForPage(u"<p>\u00E9<script>\u20AC", ascii), "<p>&#233;<script>\\u20AC");

@@ -167,13 +167,5 @@ TEST(PageScriptTest, CarriesTheCallsThatTheBodyTagCouldNotTake)
     }
 }
 
-TEST(PageScriptTest, KnowsItsOwnFileAndWhichVersionIsLater)
-{
-    EXPECT_EQ(PageScriptVersion("/*! Orvane page script 1.10.0 */\n(()=>{})()"), "1.10.0");
-    EXPECT_EQ(PageScriptVersion("var orvane = 1;"), "");
-    EXPECT_TRUE(IsLaterVersion("1.10.0", "1.9.9"));
-    EXPECT_FALSE(IsLaterVersion("1.0.0", "1.0.0"));
-}
-
 } // namespace
 } // namespace orvane::testing

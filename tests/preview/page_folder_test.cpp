@@ -1,46 +1,37 @@
 #include "preview/page_folder.h"
 
+#include "tests/support/test_folder.h"
+
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-
-#include <stdlib.h>
 
 namespace orvane::testing {
 namespace {
-
-namespace fs = std::filesystem;
 
 /// /<temporary>/pages with files and links, /<temporary>/pages2 and /<temporary>/other beside it.
 class PageFolderTest : public ::testing::Test
 {
 protected:
-    void SetUp() override
+    PageFolderTest()
     {
-        std::string name = (fs::temp_directory_path() / "orvane-XXXXXX").string();
-        ASSERT_NE(mkdtemp(name.data()), nullptr);
-        m_root = name;
-        for (const char* folder : {"pages/sub", "pages2", "other"})
-            fs::create_directories(m_root / folder);
+        for (const char* folder : {"pages", "pages/sub", "pages2", "other"})
+            m_root.MakeFolder(folder);
         for (const char* file : {"pages/page.html", "pages/sub/a.gif", "pages2/a.gif",
                                  "other/a.gif", "pages/100% caf\u00e9.gif"})
-            std::ofstream(m_root / file) << "x";
-        fs::create_symlink(m_root / "other", m_root / "pages/out");
-        fs::create_symlink(m_root / "other/a.gif", m_root / "pages/out.gif");
-        fs::create_symlink("sub/a.gif", m_root / "pages/in.gif");
-        fs::create_symlink("loop.gif", m_root / "pages/loop.gif");
-        fs::create_symlink("pages", m_root / "linked");
+            m_root.Put(file, "x");
+        m_root.Link(m_root.At("other"), "pages/out");
+        m_root.Link(m_root.At("other/a.gif"), "pages/out.gif");
+        m_root.Link("sub/a.gif", "pages/in.gif");
+        m_root.Link("loop.gif", "pages/loop.gif");
+        m_root.Link("pages", "linked");
     }
-    void TearDown() override { fs::remove_all(m_root); }
 
     bool Holds(const char* page, const char* path) const
     {
         return PageFolder(Path(page)).Holds(Path(path));
     }
-    Text Path(const char* path) const { return FromUtf8((m_root / path).string()); }
+    Text Path(const char* path) const { return m_root.TextAt(path); }
 
-    fs::path m_root;
+    TestFolder m_root;
 };
 
 TEST_F(PageFolderTest, HoldsWhatLiesBelowItOnceLinksAreResolved)

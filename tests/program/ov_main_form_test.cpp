@@ -96,9 +96,11 @@ TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
     EXPECT_EQ(Find<QWidget>(m_form, "Picture1(0)")->parentWidget()->height(), height);
 }
 
-TEST_F(OVMainFormTest, EffectWithoutAWizardSaysSoAndIsNotOpened)
+TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffectAndOneWithoutAWizardSaysSo)
 {
-    QObject::connect(&m_form, &OVMainForm::EffectWanted, [] { ADD_FAILURE(); });
+    std::vector<ControlName> wanted;
+    QObject::connect(&m_form, &OVMainForm::EffectWanted,
+                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
     Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(2);
     QToolButton* button = ButtonOf(*FindRow(EffectKind::Sound));
     button->setFocus();
@@ -107,21 +109,11 @@ TEST_F(OVMainFormTest, EffectWithoutAWizardSaysSoAndIsNotOpened)
     Press(*button, Qt::Key_Return);
     EXPECT_EQ(FromQt(QToolTip::text()), WordsOf(m_form, "lblNotYet"));
     EXPECT_FALSE(Command("mnuSoundFX")->isEnabled());
-    EXPECT_TRUE(Command("mnuStatusBar")->isEnabled());
     ButtonOf(*FindRow(EffectKind::DigitalClock))->setFocus();
     EXPECT_EQ(WordsOf(m_form, "lblNotYet"), u"");
-}
-
-TEST_F(OVMainFormTest, ButtonItsReturnKeyAndCommandWantTheSameEffect)
-{
-    std::vector<ControlName> wanted;
-    QObject::connect(&m_form, &OVMainForm::EffectWanted,
-                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
-    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(1);
-    Click(m_form, "cmdSpecialFX(9)");
-    Press(*ButtonOf(*FindRow(EffectKind::StatusBarTicker)), Qt::Key_Return);
-    Command("mnuStatusBar")->trigger();
-    EXPECT_EQ(wanted, std::vector<ControlName>(3, "mnuStatusBar"));
+    Press(*m_form.focusWidget(), Qt::Key_Return);
+    Command("mnuClock")->trigger();
+    EXPECT_EQ(wanted, std::vector<ControlName>(2, "mnuClock"));
 }
 
 TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)

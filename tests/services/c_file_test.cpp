@@ -80,29 +80,13 @@ TEST_F(CFileTest, ACancelThatIsNoErrorSavesUnderTheEmptyName)
     ExpectChosen(u"/a", u"", u"");
 }
 
-TEST_F(CFileTest, BrowsesForImagesFromTheFirstFilterWithoutProposingAName)
-{
-    file.FilterIndex = 3;
-    file.Filename = u"old.gif";
-    file.DialogTitle = u"Pick";
-    dialogs.AnswerOpenFile(u"/a/b.gif");
-    EXPECT_EQ(ValueIn(file.BrowseForFile(1)), u"/a/b.gif");
-    ExpectChosen(u"/a", u"b.gif", u"/a/b.gif");
-    EXPECT_EQ(Request().Title, u"Pick");
-    EXPECT_EQ(Request().Filter, u"All Files (*.*)|*.*|Graphics Files (*.jpeg, *.jpg, *.gif, *.png)|"
-                                u"*.jpeg;*.jpg;*.gif;*.png|GIF Files (*.gif)|*.gif|"
-                                u"JPEG Files (*.jpeg, *.jpg)|*.jpeg;*.jpg");
-    EXPECT_EQ(Request().FilterIndex, 1);
-    EXPECT_EQ(Request().InitDir, u"");
-    EXPECT_EQ(Request().FileName, u"");
-}
-
 TEST_F(CFileTest, TheNextFileDialogOfTheRunOpensWhereTheLastOneEnded)
 {
     dialogs.AnswerOpenFile(u"/a/b.gif");
     dialogs.AnswerOpenFile(std::nullopt);
     dialogs.AnswerOpenFile(std::nullopt);
-    EXPECT_EQ(FaultIn(file.BrowseForFile(1)), nullptr);
+    EXPECT_EQ(ValueIn(file.BrowseForFile(1)), u"/a/b.gif");
+    ExpectChosen(u"/a", u"b.gif", u"/a/b.gif");
     CFile next(dialogs, shared);
     EXPECT_EQ(FaultIn(next.BrowseForFile(0)), nullptr);
     EXPECT_EQ(Request().InitDir, u"/a/");
@@ -119,7 +103,15 @@ TEST_F(CFileTest, TakesFilterAndFolderFromThePropertiesForKindEightAlone)
     };
     file.Filter = u"Own|*.own";
     file.InitDir = u"/own";
-    const KindCase cases[] = {{4, u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt", u""},
+    file.FilterIndex = 3;
+    file.Filename = u"old.gif";
+    file.DialogTitle = u"Pick";
+    const KindCase cases[] = {{1,
+                               u"All Files (*.*)|*.*|Graphics Files (*.jpeg, *.jpg, *.gif, *.png)|"
+                               u"*.jpeg;*.jpg;*.gif;*.png|GIF Files (*.gif)|*.gif|"
+                               u"JPEG Files (*.jpeg, *.jpg)|*.jpeg;*.jpg",
+                               u""},
+                              {4, u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt", u""},
                               {7,
                                u"All Files (*.*)|*.*|Video Files (*.avi, *.mov, *.mpeg, *.mpg)|"
                                u"*.avi;*.mov;*.mpeg;*.mpg",
@@ -132,6 +124,9 @@ TEST_F(CFileTest, TakesFilterAndFolderFromThePropertiesForKindEightAlone)
         EXPECT_EQ(ValueIn(file.BrowseForFile(kind)), u"");
         EXPECT_EQ(Request().Filter, filter);
         EXPECT_EQ(Request().InitDir, folder);
+        EXPECT_EQ(Request().Title, u"Pick");
+        EXPECT_EQ(Request().FilterIndex, 1);
+        EXPECT_EQ(Request().FileName, u"");
     }
 }
 

@@ -7,32 +7,18 @@ namespace {
 
 using testing::FakeDialogs;
 
-struct StyleCase
+TEST(FontFieldsTest, StyleGoesIntoTheFontDialogAndComesOut)
 {
-    TextView Style;
-    bool Bold;
-    bool Italic;
-};
-
-class FontStyleTest : public ::testing::TestWithParam<StyleCase>
-{
-};
-
-TEST_P(FontStyleTest, GoesIntoTheFontDialogAndComesOut)
-{
-    const auto& [style, isBold, isItalic] = GetParam();
-    FakeDialogs dialogs;
-    dialogs.AnswerFont({u"Serif", u"9", isBold, isItalic});
-    const FontFields picked = PickFontFields(dialogs, {u"Arial", u"12", Text(style)});
-    EXPECT_EQ(dialogs.FontStarts, (std::vector<FontChoice>{{u"Arial", u"12", isBold, isItalic}}));
-    EXPECT_EQ(picked, (FontFields{u"Serif", u"9", Text(style)}));
+    for (const auto& [style, isBold, isItalic] :
+         {std::tuple(u"Normal", false, false), {u"Bold", true, false}, {u"Italic", false, true}}) {
+        FakeDialogs dialogs;
+        dialogs.AnswerFont({u"Serif", u"9", isBold, isItalic});
+        const FontFields picked = PickFontFields(dialogs, {u"Arial", u"12", Text(style)});
+        EXPECT_EQ(dialogs.FontStarts,
+                  (std::vector<FontChoice>{{u"Arial", u"12", isBold, isItalic}}));
+        EXPECT_EQ(picked, (FontFields{u"Serif", u"9", Text(style)}));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Styles, FontStyleTest,
-                         ::testing::Values(StyleCase{u"Normal", false, false},
-                                           StyleCase{u"Bold", true, false},
-                                           StyleCase{u"Italic", false, true},
-                                           StyleCase{u"Bold Italic", true, true}));
 
 TEST(FontFieldsTest, CancelLeavesEvenAStyleThatTheDialogDoesNotKnow)
 {

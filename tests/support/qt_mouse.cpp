@@ -42,7 +42,7 @@ QPoint PlaceOf(QListWidget& list, int row)
 }
 
 /// What a drag over a widget does that ends there.
-bool Drop(QWidget& target, QPoint place, const QMimeData& dragged, Qt::DropAction action)
+bool Drop(QWidget& target, QPoint place, const QMimeData& dragged, Qt::DropActions action)
 {
     QDragEnterEvent enter(place, action, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&target, &enter);
@@ -53,6 +53,7 @@ bool Drop(QWidget& target, QPoint place, const QMimeData& dragged, Qt::DropActio
     QDropEvent drop(place, action, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&target, &drop);
     LetRun();
+    EXPECT_TRUE(!dragged.hasUrls() || drop.dropAction() == Qt::CopyAction) << "the files stay";
     return drop.isAccepted();
 }
 
@@ -95,12 +96,6 @@ void DoubleClickRow(QWidget& window, const char* name, int row)
         ClickAt(*list, PlaceOf(*list, row), true);
 }
 
-void DoubleClickBelowRows(QWidget& window, const char* name)
-{
-    if (auto* list = Find<QListWidget>(window, name))
-        ClickAt(*list, list->viewport()->rect().bottomLeft() + QPoint(4, -4), true);
-}
-
 void RightPressRow(QWidget& window, const char* name, int row)
 {
     auto* list = Find<QListWidget>(window, name);
@@ -128,10 +123,11 @@ bool DropFiles(QWidget& target, const std::vector<Text>& paths)
 {
     QList<QUrl> urls;
     for (const Text& path : paths)
-        urls.push_back(QUrl::fromLocalFile(ToQt(path)));
+        urls.push_back(path.find(u"://") == Text::npos ? QUrl::fromLocalFile(ToQt(path))
+                                                       : QUrl(ToQt(path)));
     QMimeData files;
     files.setUrls(urls);
-    return Drop(target, target.rect().center(), files, Qt::CopyAction);
+    return Drop(target, target.rect().center(), files, Qt::CopyAction | Qt::MoveAction);
 }
 
 } // namespace orvane::testing

@@ -24,9 +24,6 @@ void ClickRow(QWidget& window, const char* name, int row);
 /// Clicks a row twice in a row.
 void DoubleClickRow(QWidget& window, const char* name, int row);
 
-/// Clicks twice where a list box has no row.
-void DoubleClickBelowRows(QWidget& window, const char* name);
-
 /// Presses the right button on a row of a list box, with the menu that it asks for.
 void RightPressRow(QWidget& window, const char* name, int row);
 
@@ -34,7 +31,7 @@ void RightPressRow(QWidget& window, const char* name, int row);
 /// false when the list refused it.
 bool DragRow(QWidget& window, const char* name, int from, int to);
 
-/// Drops files on a widget; false when the sign of the drag refused them.
+/// Drops files, or addresses, on a widget as files to move or copy; false when it refused them.
 bool DropFiles(QWidget& target, const std::vector<Text>& paths);
 
 } // namespace orvane::testing

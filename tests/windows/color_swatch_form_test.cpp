@@ -21,9 +21,6 @@ protected:
         m_window.show();
     }
 
-    /// The colour of its middle as it is painted.
-    QColor Painted() { return m_swatch->grab().toImage().pixelColor(m_swatch->rect().center()); }
-
     FakeDesk m_desk;
     FakeDialogs& m_dialogs = m_desk.Dialogs;
     QDialog m_window;
@@ -32,44 +29,34 @@ protected:
     std::vector<std::int32_t> m_picked;
 };
 
-TEST_F(ColorSwatchTest, ShowsItsCaptionAndIsNamedByItsLabel)
+TEST_F(ColorSwatchTest, PaintsThePickedColorInPlaceOfItsCaptionAndCancelKeepsIt)
 {
     EXPECT_EQ(m_swatch->text(), QStringLiteral("Click to Select Color"));
     EXPECT_EQ(m_swatch->accessibleName(), QStringLiteral("Text color"));
     EXPECT_EQ(m_swatch->toolTip(), QStringLiteral("Click here to select a color"));
     ExpectAccessible(m_window);
-}
-
-TEST_F(ColorSwatchTest, PaintsThePickedColorAsItIsWithoutItsCaption)
-{
     const QSize before = m_swatch->sizeHint();
     m_dialogs.AnswerColor(188 | 10 << 8);
-    Click(m_window, "lblColor");
-    EXPECT_EQ(m_picked, std::vector<std::int32_t>{188 | 10 << 8});
-    EXPECT_EQ(Painted(), QColor(188, 10, 0));
+    m_dialogs.AnswerColor(std::nullopt);
+    for (int time = 0; time < 2; ++time) {
+        Click(m_window, "lblColor");
+        EXPECT_EQ(m_picked, std::vector<std::int32_t>{188 | 10 << 8});
+        EXPECT_EQ(m_swatch->grab().toImage().pixelColor(m_swatch->rect().center()),
+                  QColor(188, 10, 0));
+    }
     EXPECT_EQ(m_swatch->text(), QString());
     EXPECT_EQ(m_swatch->sizeHint(), before);
 }
 
 TEST_F(ColorSwatchTest, OpensTheDialogOnEnterAndOnABlank)
 {
-    m_dialogs.AnswerColor(1);
-    m_dialogs.AnswerColor(2);
-    m_dialogs.AnswerColor(3);
-    Press(*m_swatch, Qt::Key_Return);
-    Press(*m_swatch, Qt::Key_Enter);
-    Press(*m_swatch, Qt::Key_Space);
+    for (const auto& [key, color] :
+         {std::pair(Qt::Key_Return, 1), {Qt::Key_Enter, 2}, {Qt::Key_Space, 3}}) {
+        m_dialogs.AnswerColor(color);
+        Press(*m_swatch, key);
+    }
     EXPECT_EQ(m_picked, (std::vector<std::int32_t>{1, 2, 3}));
     EXPECT_TRUE(m_window.isVisible());
-}
-
-TEST_F(ColorSwatchTest, CancelKeepsTheColorBefore)
-{
-    m_swatch->SetValue(u"#00FF00");
-    m_dialogs.AnswerColor(std::nullopt);
-    Click(m_window, "lblColor");
-    EXPECT_TRUE(m_picked.empty());
-    EXPECT_EQ(Painted(), QColor(0, 255, 0));
 }
 
 } // namespace
