@@ -179,8 +179,12 @@ TEST(AttributeEditTest, ReplacesEveryExactCopyWhereverItsNameStands)
 
 TEST(AttributeEditTest, IsEncodedAsOneEvenWithAScriptInIt)
 {
-    ExpectEdits(OnLoad(u"go", u"('<script>\u0142')"),
-                {{"<body>", "<body onload=\"go('<script>&#322;')\" >"}});
+    const FinishedPayload onLoad = OnLoad(u"g\u0142", u"('<script>\u0142')");
+    FinishedPayload onUnload = base;
+    onUnload.Effect.OnUnloadFunc = onLoad.Effect.OnLoadFunc;
+    onUnload.Effect.OnUnloadArgs = onLoad.Effect.OnLoadArgs;
+    ExpectEdits(onLoad, {{"<body>", "<body onload=\"g&#322;('<script>&#322;')\" >"}});
+    ExpectEdits(onUnload, {{"<body>", "<body onunload=\"g&#322;('<script>&#322;')\" >"}});
 }
 
 TEST(WholeEditTest, PutsInAllFourPiecesAskingOnceForHeadAndBodyOrNone)
