@@ -1,5 +1,6 @@
 #include "delivery/make_dir_form.h"
 
+#include "delivery/make_dir.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
@@ -32,6 +33,21 @@ TEST(MakeDirFormTest, CreatesTheFolderBelowTheOneThatItsOwnBoxShowsOrWantsAName)
     EXPECT_TRUE(desk.Files.FolderExists(u"/site/pictures/new pics"));
     EXPECT_EQ(form.NewFolder(), u"/site/pictures/new pics");
     EXPECT_TRUE(desk.Dialogs.Said.empty());
+}
+
+TEST(MakeDirTest, NamesTheFolderThatIsThereOrStaysWhereItIs)
+{
+    FakeDialogs dialogs;
+    FakeFileStore disk;
+    disk.FailOn(u"/site/new", Fault::PermissionDenied);
+    const auto enter = [&](TextView folder, TextView field) {
+        return MakeDirEnter(folder, field, disk, dialogs);
+    };
+    for (int time = 0; time < 2; ++time)
+        EXPECT_EQ(enter(u"/", u"my pics"), (MakeDirEnd{true, u"/my pics"}));
+    EXPECT_EQ(enter(u"/", u"   "), (MakeDirEnd{true, std::nullopt}));
+    EXPECT_EQ(enter(u"/site", u"new"), (MakeDirEnd{true, std::nullopt}));
+    EXPECT_EQ(dialogs.Said, std::vector<Text>());
 }
 
 } // namespace

@@ -195,31 +195,17 @@ TEST_F(HelpFormTest, TopicsShowTheirPictures)
     EXPECT_FALSE(shown.value<QImage>().isNull());
 }
 
-/// The help that is delivered beside the windows of this program.
-class DeliveredHelpFormTest : public ::testing::Test
+TEST(DeliveredHelpFormTest, HasATopicForEveryWizardAndPromisesToReEditWhatOneTakesBack)
 {
-protected:
-    DeliveredHelpFormTest()
-    {
-        QFile file(QLatin1String(":/help/orvane.hlp"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        m_book = ReadHelpBook(file.readAll().toStdString(), FormDesk::ListEffectsOfTags());
-    }
-    HelpBook m_book;
-};
-
-TEST_F(DeliveredHelpFormTest, HasATopicForEveryWizard)
-{
+    QFile file(QLatin1String(":/help/orvane.hlp"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const HelpBook book = ReadHelpBook(file.readAll().toStdString(), FormDesk::ListEffectsOfTags());
     for (const CatalogueRow& row : Catalogue()) {
         const int topic = help_topics::firstEffect + static_cast<int>(row.Kind);
-        EXPECT_TRUE(FindTopic(m_book, topic) || !row.HasButton || !FormDesk::IsBuilt(row.Kind))
+        EXPECT_TRUE(FindTopic(book, topic) || !row.HasButton || !FormDesk::IsBuilt(row.Kind))
             << ToUtf8(row.Title);
     }
-}
-
-TEST_F(DeliveredHelpFormTest, PromisesToReEditWhatAWizardTakesBack)
-{
-    const HelpTopic* topic = FindTopic(m_book, help_topics::editApplet);
+    const HelpTopic* topic = FindTopic(book, help_topics::editApplet);
     ASSERT_NE(topic, nullptr);
     EXPECT_GT(Find(topic->Body, u"<a href=\"topic:101\">Advanced Animator</a>"), 0u);
     EXPECT_EQ(Find(topic->Body, u"topic:104\">Digital Clock"), 0u);

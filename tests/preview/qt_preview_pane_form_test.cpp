@@ -12,43 +12,27 @@
 namespace orvane::testing {
 namespace {
 
-/// A pane without the web view, as in a build without the browser engine.
-class QtPreviewPaneFormTest : public ::testing::Test
+TEST(QtPreviewPaneFormTest, PointsToTheAuthorsBrowserWhereTheWebViewIsMissing)
 {
-protected:
-    void SetUp() override
-    {
-        if (QFile::exists(QCoreApplication::applicationDirPath() + "/liborvane_web_view.so"))
-            GTEST_SKIP() << "the web view is there";
-        Pane.resize(480, 320);
-        Pane.show();
-    }
-    Done Navigate() { return Pane.Navigate({.Path = path, .Bytes = "<body>"}); }
-
+    if (QFile::exists(QCoreApplication::applicationDirPath() + "/liborvane_web_view.so"))
+        GTEST_SKIP() << "the web view is there";
     const Text path = u"/program/page.html";
-    FakeDesk Desk;
-    QtPreviewPane Pane{Desk.Dialogs, Desk.Shell, Desk.Files};
-};
-
-TEST_F(QtPreviewPaneFormTest, PointsToTheAuthorsBrowserWhereTheWebViewIsMissing)
-{
-    Pane.Warm();
-    EXPECT_FALSE(FaultIn(Navigate()));
-    EXPECT_EQ(WordsOf(Pane, "lblPreviewNote"),
+    FakeDesk desk;
+    QtPreviewPane pane(desk.Dialogs, desk.Shell, desk.Files);
+    pane.resize(480, 320);
+    pane.show();
+    pane.Warm();
+    EXPECT_FALSE(FaultIn(pane.Navigate({.Path = path, .Bytes = "<body>"})));
+    EXPECT_EQ(WordsOf(pane, "lblPreviewNote"),
               u"The built-in preview could not be loaded: its file (orvane_web_view) or a library "
               u"that it needs is missing.\n\n"
               u"You can preview the special effect in your own Web browser instead.");
-    EXPECT_FALSE(Find<QWidget>(Pane, "cmdTryAgain")->isVisible());
-    EXPECT_EQ(Desk.Files.Writes, std::vector<Text>{path});
-    EXPECT_FALSE(Desk.Files.Contents.contains(path));
-    ExpectAccessible(Pane);
-}
-
-TEST_F(QtPreviewPaneFormTest, TellsAPageThatCannotBeWritten)
-{
-    Desk.Files.FailOn(path, Fault::DiskFull);
-    EXPECT_EQ(Navigate(), Done(Fault::DiskFull));
-    EXPECT_FALSE(Find<QWidget>(Pane, "lblPreviewNote")->isVisible());
+    EXPECT_FALSE(Find<QWidget>(pane, "cmdTryAgain")->isVisible());
+    EXPECT_EQ(desk.Files.Writes, std::vector<Text>{path});
+    EXPECT_FALSE(desk.Files.Contents.contains(path));
+    ExpectAccessible(pane);
+    desk.Files.FailOn(path, Fault::DiskFull);
+    EXPECT_EQ(pane.Navigate({.Path = path, .Bytes = "<body>"}), Done(Fault::DiskFull));
 }
 
 } // namespace

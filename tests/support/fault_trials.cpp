@@ -14,15 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr TextView bareWords[] = {u"Permission denied", u"Disk full", u"Device I/O error"};
-constexpr TextView otherWords[] = {
-    u"Your Web page file is open in another application.  Please close the open Web page file or "
-    u"exit the application you are using to edit it.\r\n\r\nThen try to AutoInsert the special "
-    u"effect again.",
-    u"Orvane couldn't copy all the necessary files to the specified folder.\r\nUse the file list "
-    u"on the left to find the missing files and click the 'Copy' button to copy them.",
-    u"Orvane can't preview the special effect because it could not find the necessary "
-    u"files.\r\nUse the file list below to find the missing files and click the 'Copy' button to "
-    u"copy them to the Orvane folder."};
+constexpr TextView otherWords[] = {u"Then try to AutoInsert the special effect again.",
+                                   u"click the 'Copy' button to copy them.",
+                                   u"click the 'Copy' button to copy them to the Orvane folder."};
 
 bool EndsWithOneOf(const auto& endings, TextView words)
 {

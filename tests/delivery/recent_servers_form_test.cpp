@@ -1,6 +1,8 @@
 #include "delivery/recent_servers.h"
 
+#include "delivery/ftp_panel.h"
 #include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
 
 namespace orvane::testing {
 namespace {
@@ -48,6 +50,10 @@ TEST(RecentServersTest, ShowsTheFirstSlotAndListsTheFilledOnes)
     settings.Put(u"FTP", u"Server2", u"b", u"Orvane");
     settings.Put(u"FTP", u"Server5", u"e", u"Orvane");
     EXPECT_EQ(GetRecentFTP(settings), (RecentServers{{u"b", u"e"}, u"", u"nobody"}));
+    PutRecentFTP(settings, u"a", u"ann");
+    FtpPanel panel(settings);
+    EXPECT_EQ(WordsOf(panel, "cmbServerName"), u"a");
+    EXPECT_EQ(WordsOf(panel, "Text3(0)"), u"ann");
 }
 
 } // namespace
