@@ -69,8 +69,10 @@ struct Delivery
 
 const char* const pageName = "page/index.html";
 
-void InsertIntoPage(Delivery& delivery)
+/// With the page script, which goes wherever the effect goes.
+void InsertForToday(Delivery& delivery)
 {
+    delivery.Payload.RunsToday = true;
     const Text page = delivery.Folder.TextAt(pageName);
     const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
     if (AutoInsert(delivery.Files, delivery.Author, page, delivery.Payload, kept) ==
@@ -84,12 +86,6 @@ void BringBackup(Delivery& delivery)
     const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
     delivery.Heard.IsComplete =
         BringBack(delivery.Files, delivery.Author, page, BackupPath(page), kept);
-}
-
-void InsertForToday(Delivery& delivery)
-{
-    delivery.Payload.RunsToday = true;
-    InsertIntoPage(delivery);
 }
 
 void SaveNewPage(Delivery& delivery)
@@ -135,25 +131,18 @@ const std::string earlierRun = [] {
     return page.insert(page.find("</head>"), code);
 }();
 
-/// What an insertion leaves: the page, its backup and its first backup, and the copies.
+/// What an insertion leaves: the page, its backup and its first backup, and the copies; an earlier
+/// version of the page script lay beside the page.
 Contents Inserted(const TestFolder& folder)
 {
     const auto edited =
         std::get<EditedPage>(EditPage(earlierRun, MakePayload(folder), [] { return true; }));
     EXPECT_NE(edited.Bytes, earlierRun);
     return WithCopies(
-        {{pageName, edited.Bytes},
+        {{pageName, WithPageScript(edited.Bytes)},
+         {"page/orvane.js", pageScript},
          {"page/Backup of index.html", earlierRun},
          {"state/first-backups/2024-05-31" + folder.At("page/index.html"), earlierRun}});
-}
-
-/// The same with the page script, an earlier version of which lay beside the page.
-Contents InsertedForToday(const TestFolder& folder)
-{
-    Contents written = Inserted(folder);
-    written[pageName] = WithPageScript(written[pageName]);
-    written["page/orvane.js"] = pageScript;
-    return written;
 }
 
 /// What bringing back the backup beside the page leaves: the page as it was is kept.
@@ -177,7 +166,8 @@ void PutPage(const TestFolder& folder)
 
 /// Runs one of the deliveries above over prepared files.
 WritingWay Way(const char* name, void (*prepare)(const TestFolder&), void (*run)(Delivery&),
-               std::function<Contents(const TestFolder&)> written)
+               std::function<Contents(const TestFolder&)> written,
+               const char* backup = "page/Backup of index.html")
 {
     return {.Name = name,
             .Prepare =
@@ -197,38 +187,29 @@ WritingWay Way(const char* name, void (*prepare)(const TestFolder&), void (*run)
                     delivery.Heard.Said = delivery.Author.Said;
                     return delivery.Heard;
                 },
-            .Written = std::move(written)};
+            .Written = std::move(written),
+            .Backup = backup};
 }
 
 const WritingWay ways[] = {
     Way(
-        "InsertIntoPage",
-        [](const TestFolder& f) {
-            f.Put(pageName, earlierRun, 0640);
-            f.Put("page/Backup of index.html", "an earlier backup");
-        },
-        InsertIntoPage, Inserted),
-    Way(
         "InsertForToday",
         [](const TestFolder& f) {
             f.Put(pageName, earlierRun, 0640);
+            f.Put("page/Backup of index.html", "an earlier backup");
             f.Put("page/orvane.js", "/*! Orvane page script 0.9 */");
             f.Put("program/orvane.js", pageScript);
         },
-        InsertForToday, InsertedForToday),
-    [] {
-        WritingWay way = Way(
-            "BringBack",
-            [](const TestFolder& f) {
-                f.Put(pageName, earlierRun, 0640);
-                f.Put("page/Backup of index.html", oldPage, 0640);
-                f.MakeFolder("state/first-backups");
-                f.MakeFolder("state/first-backups/2024-05-31 2");
-            },
-            BringBackup, BroughtBack);
-        way.Backup = "state/first-backups/2024-05-31 3/";
-        return way;
-    }(),
+        InsertForToday, Inserted),
+    Way(
+        "BringBack",
+        [](const TestFolder& f) {
+            f.Put(pageName, earlierRun, 0640);
+            f.Put("page/Backup of index.html", oldPage, 0640);
+            f.MakeFolder("state/first-backups");
+            f.MakeFolder("state/first-backups/2024-05-31 2");
+        },
+        BringBackup, BroughtBack, "state/first-backups/2024-05-31 3/"),
     Way("NewPageOverOld", PutPage, SaveNewPage, NewPageAs(pageName)),
     Way(
         "PublishAgain", [](const TestFolder& f) { f.Put("page/ovtemp.html", "an earlier effect"); },

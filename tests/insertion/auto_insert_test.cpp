@@ -135,10 +135,6 @@ TEST_F(AutoInsertTest, KeepsWhatAnEditorSavedMeanwhileThoughNothingWasAsked)
     EXPECT_EQ(files.Contents[pagePath], "saved meanwhile");
 }
 
-// Read page, write backup and read it, make the kept page's five folders, write it, write page.
-constexpr int writingTheBackup = 2;
-constexpr int faultyCalls[] = {1, writingTheBackup, 3, 10};
-
 TEST_F(AutoInsertTest, LeavesThePageOnAFaultAndTellsItsWords)
 {
     const std::pair<Fault, TextView> faults[] = {
@@ -148,15 +144,13 @@ TEST_F(AutoInsertTest, LeavesThePageOnAFaultAndTellsItsWords)
         {Fault::OutOfMemory, tooLarge},
         {Fault::PathFileAccess, u"Path/File access error"}};
     for (const auto& [fault, words] : faults)
-        for (const int call : faultyCalls) {
+        for (const Text& path : {pagePath, backupPath}) {
             FakeFileStore files = m_files;
-            files.FailAt(call, fault);
+            files.FailOn(path, fault);
             EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept),
                       AutoInsertion::NothingDone);
             ExpectSaid(words);
-            EXPECT_EQ(files.Calls(), call);
-            EXPECT_EQ(files.Contents[pagePath], oldBytes);
-            EXPECT_EQ(files.Contents.contains(backupPath), call > writingTheBackup);
+            EXPECT_EQ(files.Contents, m_files.Contents);
         }
 }
 
