@@ -1,8 +1,6 @@
 #include "effects/applet/image_effects.h"
 #include "effects/page/slideshow.h"
-#include "effects/text/digital_clock.h"
 #include "effects/text/status_bar_ticker.h"
-#include "effects/text/vertical_scroller.h"
 #include "insertion/page_script.h"
 #include "tests/support/picture_files.h"
 #include "tests/support/qt_browser_page.h"
@@ -19,8 +17,6 @@ std::string WithEffects(std::string page)
 {
     const EffectPayload effects[] = {
         Generate(StatusBarTicker{u"Welcome to my page!"}),
-        Generate(DigitalClock{.lstDateTimeFormat = Text(dateFormats[0].Item)}),
-        Generate(VerticalScroller{.lstItems = {u"First", u"Second"}, .lstLinks = {u"", u""}}),
         Generate(Slideshow{.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
                            .txtSlideDuration = u"1",
                            .chkRepeat = true}),
@@ -55,7 +51,7 @@ TEST_P(PageScriptBrowserTest, AllEffectsOfADeliveredPageRunBesideTheAuthorsOwnOn
     page.AddFile("a.gif", GifBytes(10, 10));
     page.AddFile("b.gif", GifBytes(20, 10));
     page.Load(delivered);
-    page.WaitUntil("!window.orvane && spnClock.textContent.length > 5"); // no script, no harm
+    page.WaitUntil("!window.orvane && oImg.src.endsWith('a.gif')"); // no script, no harm
 
     page.AddFile("orvane.js", bytes);
     page.Load(delivered);
@@ -64,12 +60,6 @@ TEST_P(PageScriptBrowserTest, AllEffectsOfADeliveredPageRunBesideTheAuthorsOwnOn
     page.WaitUntil("window.own === 1");
     page.WaitUntil(
         "!!place('.shown') && place('.shown').textContent.includes('Welcome to my page!')");
-    page.Value("window.first = place('.shown').textContent.length");
-    page.WaitUntil("place('.shown').textContent.length < first");
-    page.WaitUntil("Math.abs(place('.strip').getBoundingClientRect().bottom - innerHeight) < 2");
-    page.WaitUntil("spnClock.textContent.length > 5");
-    page.Value("window.before = spnOne.style.top");
-    page.WaitUntil("divContainer.offsetWidth === 150 && spnOne.style.top !== before");
     page.WaitUntil("oImg.src.endsWith('b.gif')");
     page.WaitUntil("place('canvas').getBoundingClientRect().width === 200");
 }

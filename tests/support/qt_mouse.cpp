@@ -95,12 +95,6 @@ void DoubleClickRow(QWidget& window, const char* name, int row)
         ClickAt(*list, PlaceOf(*list, row), true);
 }
 
-void DoubleClickBelowRows(QWidget& window, const char* name)
-{
-    if (auto* list = Find<QListWidget>(window, name))
-        ClickAt(*list, list->viewport()->rect().bottomLeft() + QPoint(4, -4), true);
-}
-
 void RightPressRow(QWidget& window, const char* name, int row)
 {
     auto* list = Find<QListWidget>(window, name);

@@ -24,9 +24,6 @@ void ClickRow(QWidget& window, const char* name, int row);
 /// Clicks a row twice in a row.
 void DoubleClickRow(QWidget& window, const char* name, int row);
 
-/// Clicks twice where a list box has no row.
-void DoubleClickBelowRows(QWidget& window, const char* name);
-
 /// Presses the right button on a row of a list box, with the menu that it asks for.
 void RightPressRow(QWidget& window, const char* name, int row);
 
