@@ -144,6 +144,7 @@ TEST_P(TourTest, LeavesPagesThatAreWhole)
     const FinishedPayload created = Deliver("new");
     ExpectWholePage(QStringLiteral("new"), created);
     EXPECT_TRUE(HasPageScript(BytesOf(Folder(QStringLiteral("new/page.html")))));
+    EXPECT_NE(PageScriptVersion(BytesOf(Folder(QStringLiteral("new/orvane.js")))), "");
     const FinishedPayload inserted = Deliver("existing");
     ExpectWholePage(QStringLiteral("existing"), inserted);
     const std::string before = BytesOf(QStringLiteral(ORVANE_TOUR_SOURCES "/page.html"));
