@@ -114,16 +114,6 @@ std::optional<Complaint> Check(const ImageProperties& properties)
     return std::nullopt;
 }
 
-std::optional<Complaint> CheckSoundName(TextView name)
-{
-    if (Find(name, u" ") == 0)
-        return std::nullopt;
-    return Complaint{
-        u"This special effect does not allow sound filenames containing space characters.\r\n"
-        u"Please rename the sound or select another sound.",
-        ""};
-}
-
 Text TransitionValue(TextView transition, TextView direction)
 {
     for (const TextView item : TransitionDirections)

@@ -62,9 +62,6 @@ std::optional<DirectionChoice> OpeningChoice(const ImageRow& row);
 /// The complaint about the pause, or nothing when the properties may be taken.
 std::optional<Complaint> Check(const ImageProperties& properties);
 
-/// The complaint about a sound whose name cannot stand in a tag, or nothing.
-std::optional<Complaint> CheckSoundName(TextView name);
-
 /// The row's new transition, such as "slidein(3)"; empty when none is chosen.
 Text TransitionValue(TextView transition, TextView direction);
 

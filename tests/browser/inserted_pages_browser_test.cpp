@@ -1,10 +1,6 @@
-#include "delivery/preview_form.h"
-#include "disk/disk_file_store.h"
 #include "effects/text/status_bar_ticker.h"
-#include "tests/support/expect_text.h"
+#include "insertion/page_edit.h"
 #include "tests/support/qt_browser_page.h"
-#include "tests/support/qt_controls.h"
-#include "tests/support/test_folder.h"
 
 #include <algorithm>
 #include <fstream>
@@ -12,14 +8,6 @@
 
 namespace orvane::testing {
 namespace {
-
-constexpr TextView replaceQuestion =
-    u"Orvane has found existing code for this special effect in your Web page.  Do you want to "
-    u"replace it?";
-
-const std::string beginMarker =
-    "<!-- ***** Begin:Varlo Status Bar Scroller special effect ***** -->";
-const std::string endMarker = "<!-- ***** End:Varlo Status Bar Scroller special effect ***** -->";
 
 /// A page as an author has it, and what its visitor reads.
 struct AuthorsPage
@@ -37,46 +25,12 @@ std::string BytesOf(const AuthorsPage& page)
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-std::size_t CountOf(const std::string& words, const std::string& text)
+/// The page with a ticker of these words; it replaces one that stands there.
+std::string WithTicker(std::string_view page, TextView words)
 {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(words); at != std::string::npos; at = text.find(words, at + 1))
-        ++count;
-    return count;
-}
-
-/// The effect's code in a page, from its first marker through its last one.
-std::string CodeIn(const std::string& page)
-{
-    const std::size_t begin = page.find(beginMarker);
-    const std::size_t end = page.rfind(endMarker);
-    EXPECT_NE(begin, std::string::npos);
-    EXPECT_NE(end, std::string::npos);
-    return begin < end && end != std::string::npos
-               ? page.substr(begin, end + endMarker.size() - begin)
-               : "";
-}
-
-/// The place of a tag, however its letters are written.
-std::size_t PlaceOf(const std::string& tag, std::string page, std::size_t from)
-{
-    std::transform(page.begin(), page.end(), page.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return page.find(tag, from);
-}
-
-/// What two runs make of a page. Stays as it is: each run puts the character behind the head tag
-/// there once more.
-std::string TwiceInserted(const std::string& page, const std::string& code)
-{
-    const std::size_t inside = page.find('>', PlaceOf("<head", page, 0)) + 1;
-    const std::size_t headEnd = PlaceOf("</head", page, inside);
-    const std::size_t bodyTagEnd = page.find('>', PlaceOf("<body", page, headEnd));
-    const std::string doubled = page.substr(inside, 1);
-    return page.substr(0, inside) + doubled + "\r\n" + doubled + "\r\n" + code + "\r\n" +
-           page.substr(inside, headEnd - inside) + "\r\n" +
-           page.substr(headEnd, bodyTagEnd - headEnd) + " onload=\"scrollit_r2l(99)\" " +
-           page.substr(bodyTagEnd);
+    const auto edit =
+        EditPage(page, Finish(Generate(StatusBarTicker{Text(words)})), [] { return true; });
+    return std::get<EditedPage>(edit).Bytes;
 }
 
 /// A visitor sees the words move to the left in the status line.
@@ -94,77 +48,25 @@ void ExpectTicker(BrowserPage& page, TextView words)
 
 class InsertedPagesBrowserTest : public ::testing::TestWithParam<AuthorsPage>
 {
-protected:
-    InsertedPagesBrowserTest()
-    {
-        m_desk.Settings.Put(u"Misc", u"HTMLEditor", u"Other", u"Orvane");
-        m_folder.MakeFolder("program");
-        m_folder.MakeFolder("site");
-        m_desk.Core.ProgramFolder = m_folder.TextAt("program");
-    }
-
-    /// Leads the delivery wizard through an insertion into the page, answering each question so.
-    void InsertTicker(TextView words, int yesAnswers)
-    {
-        PreviewForm form(m_bench, Generate(StatusBarTicker{Text(words)}), nullptr,
-                         PreviewWindows());
-        form.show();
-        LetRun();
-        Click(form, "cmdNext");
-        Click(form, "cmdNext");
-        m_desk.Dialogs.AnswerOpenFile(m_folder.TextAt("site/index.html"));
-        Click(form, "cmdBrowse");
-        for (int answer = 0; answer < yesAnswers; ++answer)
-            m_desk.Dialogs.ExpectAsk(Text(replaceQuestion), true);
-        Click(form, "cmdAutoInsert");
-        EXPECT_EQ(WordsOf(form, "lblHeading"), u"Finished!");
-    }
-
-    std::string Page() { return m_folder.Get("site/index.html").value(); }
-
-    FakeDesk m_desk;
-    TestFolder m_folder;
-    PosixCalls m_calls;
-    DiskFileStore m_files{m_calls, m_folder.TextAt("state")};
-    Workbench m_bench{.Core = m_desk.Core,
-                      .Dialogs = m_desk.Dialogs,
-                      .Files = m_files,
-                      .Settings = m_desk.Settings,
-                      .Shell = m_desk.Shell,
-                      .Clipboard = m_desk.Clipboard,
-                      .Pane = m_desk.Pane,
-                      .Help = m_desk.Help,
-                      .Version = u"1.2.3",
-                      .StateFolder = m_folder.TextAt("state"),
-                      .Today = [] { return Text(u"2024-05-31"); }};
 };
 
 TEST_P(InsertedPagesBrowserTest, KeepsThePageAndRunsTheTickerOfTheSecondRunAlone)
 {
     const std::string original = BytesOf(GetParam());
-    m_folder.Put("site/index.html", original);
-    InsertTicker(u"Old news", 0);
-    const std::string afterFirst = Page();
-    InsertTicker(u"New: Grüße ♥", 1);
-
-    const std::string page = Page();
-    const std::string code = CodeIn(page);
-    ExpectSameBytes(TwiceInserted(original, code), page);
-    EXPECT_EQ(CountOf("function scrollit_r2l", page), 1u);
-    EXPECT_EQ(CountOf("Old news", page), 0u);
-    EXPECT_EQ(m_folder.Get("site/Backup of index.html"), afterFirst);
-    EXPECT_EQ(m_folder.Get("state/first-backups/2024-05-31" + m_folder.At("site/index.html")),
-              original);
+    const std::string page = WithTicker(WithTicker(original, u"Old news"), u"New: Grüße ♥");
+    std::size_t kept = 0; // bytes of the author's that stand in the page in their order
+    for (const char byte : page)
+        kept += kept < original.size() && byte == original[kept] ? 1 : 0;
+    EXPECT_EQ(kept, original.size());
+    EXPECT_EQ(page.find("Old news"), std::string::npos);
+    EXPECT_EQ(page.find("function scrollit_r2l"), page.rfind("function scrollit_r2l"));
 
     BrowserPage visited;
     visited.Load(page);
     EXPECT_EQ(visited.Value("document.querySelector('h1').textContent").toString().toStdString(),
               GetParam().Heading);
-    EXPECT_NE(visited.Value("document.body.innerText")
-                  .toString()
-                  .toStdString()
-                  .find(GetParam().LastWords),
-              std::string::npos);
+    const std::string words = visited.Value("document.body.innerText").toString().toStdString();
+    EXPECT_NE(words.find(GetParam().LastWords), std::string::npos);
     ExpectTicker(visited, u"New: Grüße ♥");
 }
 

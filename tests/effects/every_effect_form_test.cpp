@@ -1,3 +1,4 @@
+#include "core/catalogue.h"
 #include "core/draft.h"
 #include "tests/effects/effect_forms.h"
 #include "tests/support/doubles.h"
@@ -89,6 +90,26 @@ protected:
 };
 
 TYPED_TEST_SUITE(EveryEffectTest, EffectForms);
+
+TYPED_TEST(EveryEffectTest, HasItsNameTitleAndHelpTopicAndForgetsTheFilesOfTheEffectBefore)
+{
+    EXPECT_FALSE(this->m_form.windowTitle().isEmpty());
+    this->m_form.show();
+    LetRun();
+    ExpectAccessible(this->m_form);
+    auto* help = this->m_form.template findChild<QWidget*>(QStringLiteral("cmdHelp"));
+    Click(this->m_form, help != nullptr ? "cmdHelp" : "cmdClickHereForHelp");
+    ASSERT_EQ(this->m_desk.Help.Shown.size(), 1u);
+    const CatalogueRow* row = FindRow(static_cast<EffectKind>(this->m_desk.Help.Shown[0] - 100));
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(this->m_form.objectName().toStdString(), row->Form);
+
+    this->m_desk.Core.Required.Names[0] = u"old.gif";
+    this->m_desk.Core.RequiredFileCount = 1;
+    const TypeParam next(this->m_desk.Bench);
+    EXPECT_EQ(this->m_desk.Core.Required, RequiredFiles());
+    EXPECT_EQ(this->m_desk.Core.RequiredFileCount, 0);
+}
 
 TYPED_TEST(EveryEffectTest, AFreshWindowShowsTheDefaultsInControlsOfTheFieldsNames)
 {

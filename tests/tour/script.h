@@ -31,7 +31,7 @@ struct Tour
     std::string Name;
     std::vector<Step> Steps;
     std::vector<Expectation> Texts;
-    std::vector<Expectation> Files; ///< the key is the file's name beside the page
+    std::vector<Expectation> Files; ///< the key is the name beside the page; the file may be empty
     std::vector<QString> Says;      ///< the beginnings of what the author is told
     std::set<std::string> Missing;  ///< files that the pages show and that nobody copies
 

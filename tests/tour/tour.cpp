@@ -96,16 +96,29 @@ protected:
     {
         const QString path = Folder(kind) + QStringLiteral("/page.html");
         const std::string page = BytesOf(path);
-        // The name comes from the clock.
-        const std::string text = std::regex_replace(page, std::regex("bgs[0-9]{4}"), "bgs8518");
-        for (const Expectation& expected : GetParam().Texts)
-            EXPECT_NE(text.find(TextOf(expected)), std::string::npos)
-                << expected.File << " is not in " << path.toStdString();
-        for (const Text& part : {payload.Effect.HEADHTML, payload.Effect.BODYHTML})
-            EXPECT_NE(page.find(ToUtf8(part)), std::string::npos) << ToUtf8(part);
-        for (const Expectation& expected : GetParam().Files)
-            ExpectSameBytes(ExpectedBytes(expected.File),
-                            BytesOf(Folder(kind) + u'/' + QString::fromStdString(expected.Key)));
+        std::set<std::string> unseen;
+        for (const Expectation& text : GetParam().Texts)
+            unseen.insert(TextOf(text));
+        const std::size_t begin = payload.BeginMarker.size() + lineEnd.size();
+        for (const std::string& part :
+             {ToUtf8(payload.Effect.HEADHTML), ToUtf8(payload.Effect.BODYHTML)}) {
+            EXPECT_NE(page.find(part), std::string::npos) << part;
+            if (part.empty() || GetParam().Texts.empty())
+                continue;
+            // The name comes from the clock, and a row of a table has no line end of its own.
+            std::string code = std::regex_replace(part, std::regex("bgs[0-9]{4}"), "bgs8518");
+            code = code.substr(begin, code.size() - begin - payload.EndMarker.size());
+            EXPECT_TRUE(unseen.erase(code) != 0 ||
+                        unseen.erase(code.substr(0, code.size() - lineEnd.size())) != 0)
+                << code;
+        }
+        EXPECT_TRUE(unseen.empty()) << *unseen.begin();
+        for (const Expectation& expected : GetParam().Files) {
+            const std::string file =
+                BytesOf(Folder(kind) + u'/' + QString::fromStdString(expected.Key));
+            if (!expected.File.empty())
+                ExpectSameBytes(ExpectedBytes(expected.File), file);
+        }
         const Visit visit = VisitPage(path);
         std::set<std::string> missing = visit.MissingFiles;
         for (const std::string& name : FilesNamedIn(page))
@@ -131,6 +144,7 @@ TEST_P(TourTest, LeavesPagesThatAreWhole)
     const FinishedPayload created = Deliver("new");
     ExpectWholePage(QStringLiteral("new"), created);
     EXPECT_TRUE(HasPageScript(BytesOf(Folder(QStringLiteral("new/page.html")))));
+    EXPECT_NE(PageScriptVersion(BytesOf(Folder(QStringLiteral("new/orvane.js")))), "");
     const FinishedPayload inserted = Deliver("existing");
     ExpectWholePage(QStringLiteral("existing"), inserted);
     const std::string before = BytesOf(QStringLiteral(ORVANE_TOUR_SOURCES "/page.html"));

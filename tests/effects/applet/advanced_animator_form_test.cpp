@@ -93,27 +93,46 @@ TEST_F(AdvancedAnimatorFormTest, PropertiesGoIntoTheSelectedRow)
     EXPECT_EQ(Form().Parameters().Rows.at(1), expected);
 }
 
-TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnew)
+TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnewAndTheTitleTellsWhich)
 {
+    const auto title = [this] {
+        return FromQt(Form().windowTitle()) + (Form().isWindowModified() ? u" changed" : u"");
+    };
+    const auto save = [this] {
+        m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
+        Choose("mnuFileSave");
+    };
+    EXPECT_EQ(title(), u"Advanced Animation Wizard[*]");
     Choose("mnuFileSave");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
               std::vector<Text>{u"You must enter an image into the Animation Image List."});
     AddImage(0);
+    EXPECT_EQ(title(), u"Advanced Animation Wizard[*] changed");
     Type(Form(), "Text20", u"1");
     Type(Form(), "Text21", u"2");
-    m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
-    Choose("mnuFileSave");
-    EXPECT_EQ(m_desk.Files.Contents[u"/film.ovn"], ProjectBytes(Form().Parameters()));
+    save();
+    EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*]");
+    EXPECT_EQ(WordsOf(Form(), "lblNote"), u"Saved");
+    const AdvancedAnimator saved = Form().Parameters();
+    EXPECT_EQ(m_desk.Files.Contents[u"/film.ovn"], ProjectBytes(saved));
+    m_desk.Files.FailOn(u"/film.ovn", Fault::PermissionDenied);
+    Find<QComboBox>(Form(), "Combo3")->setEditText(QStringLiteral("3 times"));
+    save();
+    EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*] changed");
 
-    m_desk.Dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", true);
-    Choose("mnuFileNew");
+    for (const std::optional<bool> answer : {std::optional<bool>(), {false}, {true}}) {
+        m_desk.Dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", answer);
+        Choose("mnuFileNew");
+        EXPECT_EQ(Form().Parameters().AnimationWidth, answer == true ? u"" : u"1");
+    }
     EXPECT_EQ(m_desk.Dialogs.Titles.back(), u"Advanced Animation Wizard");
-    EXPECT_EQ(Form().Parameters(), AdvancedAnimator());
+    EXPECT_EQ(Form().Parameters(), AdvancedAnimator{.LoopCount = u"3 times"});
 
-    m_desk.Dialogs.AnswerOpenFile(u"/film.ovn");
+    m_desk.Files.Contents[u"/other.ovn"] = ProjectBytes(saved);
+    m_desk.Dialogs.AnswerOpenFile(u"/other.ovn");
     const RequiredFiles required = m_desk.Core.Required;
     Choose("mnuFileOpen");
-    EXPECT_EQ(Form().Parameters(), ReadProject(m_desk.Files.Contents[u"/film.ovn"]));
+    EXPECT_EQ(Form().Parameters(), ReadProject(ProjectBytes(saved)));
     EXPECT_EQ(m_desk.Core.Required, required);
 
     Choose("mnuFileReturnToMainMenu");
@@ -135,28 +154,6 @@ TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith
     });
     road.OpenProject(u"/film.ovn");
     EXPECT_EQ(image, u"b.gif");
-}
-
-TEST_F(AdvancedAnimatorFormTest, TitleTellsTheProjectAndItsUnsavedChanges)
-{
-    const auto title = [this] {
-        return FromQt(Form().windowTitle()) + (Form().isWindowModified() ? u" changed" : u"");
-    };
-    EXPECT_EQ(title(), u"Advanced Animation Wizard[*]");
-    AddImage(0);
-    EXPECT_EQ(title(), u"Advanced Animation Wizard[*] changed");
-    Type(Form(), "Text20", u"1");
-    Type(Form(), "Text21", u"2");
-    m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
-    Choose("mnuFileSave");
-    EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*]");
-    EXPECT_EQ(WordsOf(Form(), "lblNote"), u"Saved");
-    Type(Form(), "Text21", u"0");
-    EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*] changed");
-    m_desk.Files.FailOn(u"/film.ovn", Fault::PermissionDenied);
-    m_desk.Dialogs.AnswerSaveFile(u"/film.ovn");
-    Choose("mnuFileSave");
-    EXPECT_TRUE(Form().isWindowModified());
 }
 
 TEST_F(AdvancedAnimatorFormTest, RecentProjectsThatAreThereOpenFromTheMenu)

@@ -1,6 +1,5 @@
 #include "effects/applet/advanced_animator.h"
 
-#include "effects/applet/applet_tag_builder.h"
 #include "tests/support/expect_text.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +7,6 @@
 namespace orvane {
 namespace {
 
-using testing::ExpectedText;
 using testing::ExpectSameText;
 
 constexpr TextView sizeMissing =
@@ -20,56 +18,6 @@ AdvancedAnimator TwoImages()
     return {.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}},
             .AnimationWidth = u"200",
             .AnimationHeight = u"100"};
-}
-
-AdvancedAnimator FullAnimator()
-{
-    return {.Rows = {{.FileName = u"a.gif",
-                      .Pause = u"-1",
-                      .Transition = u"slidein(3)",
-                      .URL = u"http://www.example.com/x.html",
-                      .Sound = u"ding.au"},
-                     {.FileName = u"b.gif"},
-                     {.FileName = u"c.gif",
-                      .Pause = u" 250 ",
-                      .Transition = u"null",
-                      .URL = u"null",
-                      .Sound = u"null"}},
-            .AnimationWidth = u" 320 ",
-            .AnimationHeight = u"200",
-            .LoopCount = u"10 times",
-            .BackgroundColor = u"255,128,0"};
-}
-
-TEST(AppletTagBuilderTest, QuotesWhatTheStyleAsksForAndLeavesEmptyLinesOut)
-{
-    AppletTagBuilder tag(u"X.class", {{u"HEIGHT", u"1"}, {u"WIDTH", u"2"}});
-    tag.Param(u"A", u"").Param(u"B", u"b", ParamQuotes::Name).Line(u"");
-    tag.ParamUnlessEmpty(u"C", u"").ParamUnlessEmpty(u"D", u" ", ParamQuotes::Both);
-    tag.NumberedParam(u"E", 10, u"\"").Line(u"<X> ");
-    ExpectSameText(u"<APPLET CODE=\"X.class\" HEIGHT=\"1\" WIDTH=\"2\">\r\n"
-                   u"<PARAM NAME=A VALUE=\"\">\r\n"
-                   u"<PARAM NAME=\"B\" VALUE=b>\r\n"
-                   u"<PARAM NAME=\"D\" VALUE=\" \">\r\n"
-                   u"<PARAM NAME=E.10 VALUE=\"\"\">\r\n"
-                   u"<X> \r\n"
-                   u"</APPLET>\r\n",
-                   tag.Tag());
-}
-
-TEST(AdvancedAnimatorTest, WritesItsTagIntoTheBody)
-{
-    const RequiredFiles required{.Names = {u"a.gif"}, .Sources = {u"/pictures/a.gif"}};
-    AdvancedAnimator animator = TwoImages();
-    animator.Required = required;
-    const EffectPayload payload = Generate(animator);
-    ExpectSameText(ExpectedText("advanced_animator_two_images.html"), payload.BODYHTML);
-    const EffectPayload rest{.Kind = EffectKind::AdvancedAnimator,
-                             .BODYHTML = payload.BODYHTML,
-                             .Required = required,
-                             .SupportFiles = {u"Animate1.class", u"CoolTool3.class"}};
-    EXPECT_EQ(payload, rest);
-    ExpectSameText(ExpectedText("advanced_animator_full.html"), Generate(FullAnimator()).BODYHTML);
 }
 
 AdvancedAnimator Read(TextView pasted, TextView appletText)
@@ -135,31 +83,6 @@ TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
     EXPECT_EQ(Check(animator), (Complaint{Text(sizeTooSmall), "Text20"}));
     animator.AnimationHeight = u"-1";
     EXPECT_EQ(Check(animator), (Complaint{Text(sizeTooSmall), "Text20"}));
-}
-
-TEST(AdvancedAnimatorTest, ReadsItsOwnTagWithOpeningQuotes)
-{
-    const AdvancedAnimator read = Read(Generate(FullAnimator()).BODYHTML, u"\"Animate");
-    const AdvancedAnimator expected{.Rows = {{.FileName = u"\"a.gif",
-                                              .Pause = u"\"-1",
-                                              .Transition = u"\"slidein(3)",
-                                              .URL = u"\"http://www.example.com/x.html",
-                                              .Sound = u"\"ding.au"},
-                                             {.FileName = u"\"b.gif",
-                                              .Pause = u"\"100",
-                                              .Transition = u"",
-                                              .URL = u"\"null",
-                                              .Sound = u""},
-                                             {.FileName = u"\"c.gif",
-                                              .Pause = u"\"250",
-                                              .Transition = u"",
-                                              .URL = u"\"null",
-                                              .Sound = u""}},
-                                    .AnimationWidth = u"\"320",
-                                    .AnimationHeight = u"\"200",
-                                    .LoopCount = u"\"10",
-                                    .BackgroundColor = u"\"255,128,0"};
-    EXPECT_EQ(read, expected);
 }
 
 TEST(AdvancedAnimatorTest, UnquotedValuesRunOnToTheNextQuote)

@@ -194,19 +194,5 @@ TEST_F(ProjectDeskTest, OpensAProjectOrLeavesTheRowsEmpty)
                                                 u"large for a project."});
 }
 
-TEST_F(ProjectDeskTest, StartsANewAnimationOnYesAlone)
-{
-    AnimationProject project{TwoImages(), u"/p/film.ovn", "other"};
-    project.Animation.LoopCount = u"3 times";
-    for (const std::optional<bool> answer : {std::optional<bool>(false), std::optional<bool>()}) {
-        m_dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", answer);
-        EXPECT_EQ(NewProject(project, m_dialogs, u"Caption"), project);
-    }
-    m_dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", true);
-    EXPECT_EQ(NewProject(project, m_dialogs, u"Caption"),
-              UnnamedProject({.LoopCount = u"3 times"}));
-    EXPECT_EQ(m_dialogs.Titles.back(), u"Caption");
-}
-
 } // namespace
 } // namespace orvane

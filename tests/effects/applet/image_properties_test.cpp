@@ -96,16 +96,6 @@ TEST(ImagePropertiesTest, PausesBelowMinusTwoAreRefused)
         EXPECT_EQ(Check(ImageProperties{.Pause = Text(pause)}), std::nullopt) << ToUtf8(pause);
 }
 
-TEST(ImagePropertiesTest, SoundsWithABlankAreRefused)
-{
-    EXPECT_EQ(CheckSoundName(u"ding.au"), std::nullopt);
-    const auto complaint = CheckSoundName(u" ding.au");
-    ASSERT_TRUE(complaint);
-    EXPECT_EQ(complaint->Words,
-              u"This special effect does not allow sound filenames containing space characters.\r\n"
-              u"Please rename the sound or select another sound.");
-}
-
 TEST(ImagePropertiesTest, TakesTheFieldsAndKeepsTheImage)
 {
     const ImageRow old{.FileName = u"a.gif",

@@ -10,27 +10,6 @@ namespace {
 using testing::ExpectedText;
 using testing::ExpectSameText;
 
-TEST(MoreImageEffectsTest, WritesItsTagIntoTheBody)
-{
-    MoreImageEffects effects{.EffectPicker = u"Expand & Shrink",
-                             .BackColorText = u"255,128,0",
-                             .LinkUrl = u"www.example.com",
-                             .SpeedSlider = 80,
-                             .LoopCount = u"3",
-                             .PauseSeconds = u"0.5",
-                             .StartEdge = u"upper right corner"};
-    EXPECT_EQ(ChooseImage(effects, {u"/p/photo.gif", PixelSize{200, 150}}), std::nullopt);
-    Tidy(effects);
-    const EffectPayload payload = Generate(effects);
-    ExpectSameText(ExpectedText("more_image_effects_expand_shrink_full.html"), payload.BODYHTML);
-    const EffectPayload rest{
-        .Kind = EffectKind::MoreImageEffects,
-        .BODYHTML = payload.BODYHTML,
-        .Required = {.Names = {u"photo.gif"}, .Sources = {u"/p/photo.gif"}},
-        .SupportFiles = {u"Animate1.class", u"CoolTool3.class", u"invisi.gif"}};
-    EXPECT_EQ(payload, rest);
-}
-
 TEST(MoreImageEffectsTest, EachTransitionHasItsFrames)
 {
     const Text table = ExpectedText("more_image_effects_lines.tsv");

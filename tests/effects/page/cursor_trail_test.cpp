@@ -1,25 +1,9 @@
 #include "effects/page/cursor_trail.h"
 
-#include "tests/support/expect_text.h"
-
 #include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
-
-TEST(CursorTrailTest, WritesItsScriptIntoTheHead)
-{
-    const EffectPayload payload = Generate({.txtImage = u"/pictures/star.gif", .Slider = 7});
-    EffectPayload expected{.Kind = EffectKind::CursorTrail,
-                           .HEADHTML = ExpectedText("cursor_trail.html")};
-    expected.Required.Names[0] = u"star.gif";
-    expected.Required.Sources[0] = u"/pictures/star.gif";
-    ExpectSameText(expected.HEADHTML, payload.HEADHTML);
-    EXPECT_EQ(payload, expected);
-}
 
 TEST(CursorTrailTest, CutsTheNameBehindEitherSeparator)
 {

@@ -1,6 +1,5 @@
 #include "effects/page/popup_window.h"
 
-#include "core/fields.h"
 #include "tests/support/expect_text.h"
 
 #include <gtest/gtest.h>
@@ -10,21 +9,6 @@ namespace {
 
 using testing::ExpectedText;
 using testing::ExpectSameText;
-
-/// A window with these texts and "1" for each ticked box, in the window's order.
-PopupWindow Window(WhenToAppear when, std::initializer_list<TextView> texts, std::string_view ticks)
-{
-    PopupWindow window{.optWhenToAppear = when};
-    const auto* text = texts.begin();
-    std::size_t tick = 0;
-    ForEachField(window, [&](FieldName, auto& field) {
-        if constexpr (std::is_same_v<decltype(field), Text&>)
-            field = *text++;
-        else if constexpr (std::is_same_v<decltype(field), bool&>)
-            field = ticks[tick++] == '1';
-    });
-    return window;
-}
 
 /// The body of a case of the table, and the arguments of its call.
 std::pair<Text, Text> Expected(TextView name)
@@ -44,34 +28,15 @@ TEST(PopupWindowTest, CallsTheWindowWhenThePageLoadsOrIsLeft)
                            .OnLoadFunc = u"window.open",
                            .OnLoadArgs = args};
     expected.Required.Names[0] = u"http://www.example.com/news.html";
-    EXPECT_EQ(expected, Generate(Window(WhenToAppear::OnLoad,
-                                        {u"", u"news", expected.Required.Names[0], u" 400 ",
-                                         u" 300 ", u" 50 ", u" 60 "},
-                                        "1111111")));
+    EXPECT_EQ(expected,
+              Generate({WhenToAppear::OnLoad, u"", u"news", expected.Required.Names[0], u" 400 ",
+                        u" 300 ", u" 50 ", u" 60 ", true, true, true, true, true, true, true}));
 
     const EffectPayload exit =
         Generate({WhenToAppear::OnExit, u"", u"bye", u"bye.html", u"200", u"100"});
     ExpectSameText(Expected(u"exit").first, exit.BODYHTML);
     EXPECT_EQ(exit.OnLoadFunc + exit.OnLoadArgs, u"");
     EXPECT_EQ(exit.OnUnloadFunc + exit.OnUnloadArgs, u"window.open" + Expected(u"exit").second);
-}
-
-TEST(PopupWindowTest, PutsTheCallOnALinkOrAnImage)
-{
-    const PopupWindow link = Window(
-        WhenToAppear::OnHyperlink,
-        {u"Open <b>help</b>", u"help", u"help.html", u"320", u"240", u"10", u" "}, "0101001");
-    ExpectSameText(Expected(u"link").first, Generate(link).BODYHTML);
-    PopupWindow image =
-        Window(WhenToAppear::OnImage,
-               {u"small.gif", u"photo", u"photo.jpg", u"640", u"480", u"", u"20"}, "1010110");
-    image.Required.Sources[0] = u"/pictures/photo.jpg";
-    const EffectPayload payload = Generate(image);
-    ExpectSameText(Expected(u"image").first, payload.BODYHTML);
-    EXPECT_EQ(payload.OnLoadFunc + payload.OnUnloadFunc, u"");
-    EXPECT_EQ(payload.Required.Sources[0], u"/pictures/photo.jpg");
-    image.txtURL = u"typed.jpg";
-    EXPECT_EQ(Generate(image).Required.Sources[0], u"");
 }
 
 TEST(PopupWindowTest, ChecksTheLinkThenTheWindow)

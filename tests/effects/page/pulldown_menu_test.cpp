@@ -1,31 +1,9 @@
 #include "effects/page/pulldown_menu.h"
 
-#include "tests/support/expect_text.h"
-
 #include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
-
-const PulldownMenu threeRows{
-    .List1 = {u"Home", Text(menuSeparator), u"News"},
-    .List2 = {u"http://www.example.com/", u"", u"news.html"},
-    .cboTarget = u" self ",
-};
-
-TEST(PulldownMenuTest, WritesBothDisplaysIntoTheBody)
-{
-    PulldownMenu menu = threeRows;
-    ExpectSameText(ExpectedText("pulldown_dropdown.html"), Generate(menu).BODYHTML);
-    menu.optDisplay = MenuDisplay::AllItems;
-    menu.cboTarget = u"blank - Open in new window";
-    ExpectSameText(ExpectedText("pulldown_all_items.html"), Generate(menu).BODYHTML);
-    EXPECT_EQ(Generate(menu), (EffectPayload{.Kind = EffectKind::PulldownMenu,
-                                             .BODYHTML = ExpectedText("pulldown_all_items.html")}));
-}
 
 TEST(PulldownMenuTest, PutsValuesInUnescapedAndKnowsBlankAndSeparatorExactly)
 {

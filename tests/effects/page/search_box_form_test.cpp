@@ -13,6 +13,9 @@ TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
     FakeDesk desk;
     SearchBoxForm form(desk.Bench, nullptr, translateMode);
     form.show();
+    ExpectAccessible(form);
+    Click(form, "cmdClickHereForHelp");
+    EXPECT_EQ(desk.Help.Shown, std::vector<int>{140});
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Web Page Translator"));
     EXPECT_EQ(WordsOf(form, "lblHeading"), u"Web Page Translator");
     EXPECT_FALSE(Find<QWidget>(form, "txtURL")->isVisible());

@@ -24,39 +24,6 @@ Text LineOf(const DigitalClock& clock, int line)
     return Text(Mid(page, start, Find(page, lineEnd, start) - start));
 }
 
-TEST(DigitalClockTest, WritesScriptAndElementsIntoTheBodyAlone)
-{
-    const std::pair<std::string, DigitalClock> cases[] = {
-        {"date_default_november_28_2001", {.lstDateTimeFormat = u"November 28, 2001"}},
-        {"both_day_of_week",
-         {.optDateTime = both,
-          .lstDateTimeFormat = u"11/28/2001",
-          .chkDayOfWeek = true,
-          .cboFont = u"Courier New",
-          .cboFontSize = u"20",
-          .cboFontStyle = u"Bold Italic",
-          .txtPadding = u"5",
-          .BGColor = u"#FFFF00",
-          .FontColor = u"#0000FF"}},
-        {"time_first",
-         {.optDateTime = both,
-          .lstDateTimeFormat = u"28 November 2001",
-          .chkShowTimeBeforeDate = true,
-          .chkMilitaryTime = true,
-          .chkShowSeconds = true,
-          .chkShowAMPM = true}},
-        {"dangling", {.lstDateTimeFormat = u"28-11-2001"}},
-        {"time_only_plain", {.optDateTime = time}}};
-    for (const auto& [name, clock] : cases) {
-        EffectPayload payload = Generate(clock);
-        payload.SavedHEAD.clear();
-        payload.SavedBODY.clear();
-        ExpectSameText(ExpectedText("digital_clock_" + name + ".html"), payload.BODYHTML);
-        const EffectPayload rest{.Kind = EffectKind::DigitalClock, .BODYHTML = payload.BODYHTML};
-        EXPECT_EQ(payload, rest);
-    }
-}
-
 TEST(DigitalClockTest, SavesTheScriptAndTheElementsWithSampleWords)
 {
     const EffectPayload code = Generate({.lstDateTimeFormat = u"November 28, 2001"});
@@ -101,18 +68,6 @@ TEST(DigitalClockTest, WritesTheLinesOfTimeAndStyle)
           .chkMilitaryTime = true,
           .chkShowAMPM = true}},
         {60,
-         u" strClock = intHours + ':' + intMinutes + ':' + intSeconds",
-         {.optDateTime = time, .chkShowSeconds = true}},
-        {60,
-         u" strClock = '' + strMonthName + ' ' + intWeekday",
-         {.optDateTime = date,
-          .lstDateTimeFormat = u"November 28",
-          .chkShowTimeBeforeDate = true,
-          .chkShowSeconds = true}},
-        {60,
-         u" strClock = '' +  + ' &nbsp; ' + intHours + ':' + intMinutes",
-         {.optDateTime = both, .lstDateTimeFormat = u"28-11-2001"}},
-        {60,
          u" strClock = intHours + ':' + intMinutes + ' &nbsp; ' + strDayName + ', ' + ",
          {.optDateTime = both,
           .lstDateTimeFormat = u"28-11-2001",
@@ -146,27 +101,6 @@ TEST(DigitalClockTest, NeedsADateFormatUnlessItTellsTheTimeAlone)
     EXPECT_EQ(Check({.optDateTime = both}), missing);
     EXPECT_EQ(Check({.optDateTime = time}), std::nullopt);
     EXPECT_EQ(Check({.lstDateTimeFormat = u"28-11-2001"}), std::nullopt);
-}
-
-TEST(DigitalClockTest, CountsThePagesSeenForthAndBack)
-{
-    const std::pair<ClockContent, std::vector<int>> roads[] = {
-        {date, {1, 2, 4}}, {time, {1, 3, 4}}, {both, {1, 2, 3, 4}}};
-    for (const auto& [content, pages] : roads) {
-        const DigitalClock clock{.optDateTime = content};
-        ClockPosition at;
-        std::int16_t step = 1;
-        for (const int page : pages) {
-            EXPECT_EQ(at.CurrentPage, page);
-            EXPECT_EQ(at.CurrentStep, step++);
-            at = NextPage(clock, at);
-        }
-        for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
-            at = PreviousPage(clock, at);
-            EXPECT_EQ(at.CurrentPage, *page);
-            EXPECT_EQ(at.CurrentStep, --step);
-        }
-    }
 }
 
 } // namespace

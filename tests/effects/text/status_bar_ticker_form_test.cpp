@@ -29,14 +29,5 @@ TEST_F(StatusBarTickerFormTest, EmptyTextKeepsTheWindowOpenWithTheFocusInIt)
     EXPECT_EQ(m_form.TakePayload(), std::nullopt);
 }
 
-TEST_F(StatusBarTickerFormTest, EditAppletTakesThePastedTextAndEndsTheEdit)
-{
-    m_desk.Core.EditMode = true;
-    m_desk.Core.PastedApplet = Generate({u"Hello"}).HEADHTML;
-    m_form.EditApplet();
-    EXPECT_EQ(m_form.Parameters().txtStatusBarText, u"\"Hello");
-    EXPECT_FALSE(m_desk.Core.EditMode);
-}
-
 } // namespace
 } // namespace orvane

@@ -13,17 +13,6 @@ using testing::ExpectedText;
 using testing::ExpectSameBytes;
 using testing::ExpectSameText;
 
-TEST(StatusBarTickerTest, WritesItsScriptIntoTheHead)
-{
-    const EffectPayload payload = Generate({u"Welcome to my page!"});
-    ExpectSameText(ExpectedText("status_bar_ticker_head.html"), payload.HEADHTML);
-    const EffectPayload rest{.Kind = EffectKind::StatusBarTicker,
-                             .HEADHTML = payload.HEADHTML,
-                             .OnLoadFunc = u"scrollit_r2l",
-                             .OnLoadArgs = u"(99)"};
-    EXPECT_EQ(payload, rest);
-}
-
 TEST(StatusBarTickerTest, PutsTheTextInUnescaped)
 {
     ExpectSameText(ExpectedText("status_bar_ticker_odd_utf8.html"),

@@ -37,13 +37,6 @@ TEST(VerticalScrollerTest, WritesScriptAndBox)
     EXPECT_EQ(payload, expected);
 }
 
-TEST(VerticalScrollerTest, TakesTheUsualColorsWhereNoneWasPicked)
-{
-    const EffectPayload payload = Generate({.lstItems = {u"Today's news"}});
-    ExpectSameText(ExpectedText("vertical_scroller_bare_head.html"), payload.HEADHTML);
-    ExpectSameText(ExpectedText("vertical_scroller_bare_body.html"), payload.BODYHTML);
-}
-
 TEST(VerticalScrollerTest, TakesSizesAsTypedAndAPauseOnlyWhenItIsANumber)
 {
     const VerticalScroller odd{.lstItems = {u"«Speed» \"ü☃\" \\", u"b"},
