@@ -163,7 +163,6 @@ std::optional<Text> QtPreviewPane::LoadView()
     auto* rows = static_cast<QVBoxLayout*>(m_viewPage->layout());
     delete rows->takeAt(1); // the stretch that kept the view's place
     rows->insertWidget(1, m_view, 1);
-    SetReadingOrder(*window());
     return std::nullopt;
 }
 
@@ -206,6 +205,8 @@ void QtPreviewPane::PageNeeded()
 
 void QtPreviewPane::PageRead()
 {
+    // The engine puts in the part that takes the keys with its first page.
+    SetReadingOrder(*window());
     if (!std::exchange(m_fileGone, true))
         static_cast<void>(m_files.Remove(m_page.Path));
 }

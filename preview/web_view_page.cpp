@@ -235,7 +235,6 @@ bool PageView::event(QEvent* event)
             child->setObjectName("PageSurface");
             child->setAccessibleName("Preview of the page");
             child->installEventFilter(this);
-            setTabOrder(this, child);
         }
     }
     return QWebEngineView::event(event);
