@@ -72,8 +72,9 @@ QString TopicBrowser::Page(const HelpTopic* topic) const
 QVariant TopicBrowser::Picture(TextView name) const
 {
     const auto bytes = m_files.Read(PathIn(m_pictures, GetFileName(name)));
+    // The pictures of windows are not copied into the program's folder.
     if (FaultIn(bytes) != nullptr)
-        return {};
+        return QImage(QStringLiteral(":/help/") + ToQt(GetFileName(name)));
     return QImage::fromData(QByteArray::fromStdString(ValueIn(bytes)));
 }
 

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTextDocument>
 #include <QWindow>
@@ -209,6 +210,16 @@ TEST(DeliveredHelpFormTest, HasATopicForEveryWizardAndPromisesToReEditWhatOneTak
     ASSERT_NE(topic, nullptr);
     EXPECT_GT(Find(topic->Body, u"<a href=\"topic:101\">Advanced Animator</a>"), 0u);
     EXPECT_EQ(Find(topic->Body, u"topic:104\">Digital Clock"), 0u);
+
+    const QRegularExpression name(QStringLiteral("src=\"([^\"]*)\"|topic:([0-9]+)"));
+    for (const HelpTopic& each : book) {
+        for (auto hits = name.globalMatch(ToQt(each.Body)); hits.hasNext();) {
+            const QRegularExpressionMatch hit = hits.next();
+            EXPECT_TRUE(FindTopic(book, hit.captured(2).toInt()) &&
+                        QFile::exists(QStringLiteral(":/help/") + hit.captured(1)))
+                << hit.captured().toStdString() << " in " << ToUtf8(each.Title);
+        }
+    }
 }
 
 } // namespace
