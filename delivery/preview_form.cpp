@@ -34,7 +34,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
     AddButtons(Buttons::Paged, "cmdHelp");
     setMinimumSize(640, 440);
     // The pages that are built later have room in so many lines.
-    resize(minimumWidth(), fontMetrics().lineSpacing() * 35);
+    resize(minimumWidth(), fontMetrics().lineSpacing() * 39);
     ChangePage(m_step);
 }
 
