@@ -49,7 +49,7 @@ void CodePanel::AddPageScript()
     box->SetWords(pageScriptLines);
     box->setFixedHeight(box->fontMetrics().lineSpacing() * 5);
     page.Buttons({CopyButton(page, "cmdCopyPageScript", u"Cop&y", box, Text(pageScriptLines),
-                             u"page script")});
+                             pageScriptPart)});
 }
 
 void CodePanel::ShowPageScript(bool isWanted)

@@ -74,7 +74,9 @@ void DeliveryReport::FileMissing(TextView folder, TextView name)
 
 bool DeliveryReport::HasDelivered() const
 {
-    return !m_parts.empty() ||
+    // The page script alone brings no effect.
+    return std::any_of(m_parts.begin(), m_parts.end(),
+                       [](const Text& part) { return part != pageScriptPart; }) ||
            std::any_of(m_folders.begin(), m_folders.end(),
                        [](const FolderState& folder) { return !folder.Pages.empty(); });
 }

@@ -6,6 +6,9 @@
 
 namespace orvane {
 
+/// What the report calls the lines that lead to the page script.
+inline constexpr TextView pageScriptPart = u"page script";
+
 /// What one run of the delivery wizard has done so far, for its last page.
 class DeliveryReport
 {

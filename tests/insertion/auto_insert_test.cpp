@@ -73,6 +73,25 @@ TEST_F(AutoInsertTest, BacksThePageUpBeforeItWritesIt)
     EXPECT_TRUE(m_dialogs.Said.empty());
 }
 
+/// A disk that keeps less of a new file than it says.
+class CuttingFileStore : public FakeFileStore
+{
+public:
+    Done PutNew(TextView path, std::string_view bytes, TextView) override
+    {
+        return Replace(path, bytes.substr(1));
+    }
+};
+
+TEST_F(AutoInsertTest, LeavesThePageWhenItsBackupDoesNotHoldIt)
+{
+    CuttingFileStore files;
+    files.Contents[pagePath] = oldBytes;
+    EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::NothingDone);
+    EXPECT_EQ(files.Contents[pagePath], oldBytes);
+    EXPECT_EQ(m_dialogs.TakeSaid().size(), 1u);
+}
+
 TEST_F(AutoInsertTest, ReplacesOnYesAndLeavesThePageToTheAuthorOnNo)
 {
     m_files.Contents[pagePath] = runBefore;
