@@ -61,12 +61,17 @@ console.log(
 );
 
 const trail = { name: "Mouse Cursor Trail", head: text("cursor_trail.html") };
+const mouse = ["Mouse Cursor Trail", "Image Brighten", "Tooltips", "Dynamic Button"];
 const scroll = 'onLoad="scrollit_r2l(99)"';
 for (const [name, shown, attributes = ""] of [
     ["Status Bar Text Ticker", effect("Status Bar Scroller", "status_bar_ticker"), scroll],
     ["Vertical Scrolling Text", effect("Vertical Scroller", "vertical_scroller_bare")],
     ["Digital Clock", effect("DigitalClock", "digital_clock_both_day_of_week")],
     ["Mouse Cursor Trail", trail],
+    ["Image Brighten", effect("x", "image_effects_brighten_gradual")],
+    ["Tooltips", effect("x", "tooltip_text")],
+    ["Dynamic Button", effect("x", "dynamic_button_full")],
+    ["Slideshow", effect("x", "slideshow_bare")],
     ["More Image Effects", effect("x", "more_image_effects_expand_shrink_full")],
     ["Typewriter Text", effect("x", "typewriter_full")],
     ["Image Cube", effect("x", "image_effects_cube")],
@@ -76,8 +81,9 @@ for (const [name, shown, attributes = ""] of [
 ]) {
     const options = { effects: [shown], attributes, change: big };
     await show({ ...options, before: tabs });
+    // The mouse goes to and fro at the top, where these effects stand.
     const moving = await aFrame(
-        shown === trail ? (i) => tab.mouse.move(100 + (i % 300), 100) : undefined,
+        mouse.includes(name) ? (i) => tab.mouse.move(10 + ((7 * i) % 300), 20) : undefined,
     );
     await tab.evaluate("leave(true)");
     const hidden = await aFrame();

@@ -219,8 +219,10 @@ void Guide::TakePicture(QWidget& window, QString name)
         return;
     LetRun();
     SCOPED_TRACE("the window in " + name.toStdString());
-    if (window.isWindow())
+    if (window.isWindow()) {
         ExpectAccessible(window);
+        EXPECT_EQ(window.minimumSizeHint().boundedTo({640, 440}), window.minimumSizeHint());
+    }
     EXPECT_TRUE(window.grab().save(m_folders.Pictures + u'/' + name + QStringLiteral(".png")));
 }
 
