@@ -15,7 +15,12 @@ TEST(DynamicButtonBrowserTest, SwapsItsPicturesOnOverDownUpAndOut)
                                .OverImage = u"over.gif",
                                .OverSound = u"hover.wav",
                                .ClickImage = u"down.gif",
-                               .ClickSound = u"click.wav"};
+                               .ClickSound = u"click.wav",
+                               .LinkUrl = u"http://a.example/",
+                               .LinkTarget = u"_blank"};
+    page.Dialogs.ExpectAsk(u"The page leads out of the preview, to:\r\n\r\nhttp://a.example/"
+                           u"\r\n\r\nDo you want to open it in your Web browser?",
+                           true);
     page.Load(NewPageBytes(Finish(Generate(button, u"bgs1"))) +
               "<p id='away' style='margin-top: 9em'>away</p>"
               "<script>left = []; new MutationObserver(changes => changes.forEach(change =>"
@@ -35,6 +40,7 @@ TEST(DynamicButtonBrowserTest, SwapsItsPicturesOnOverDownUpAndOut)
     page.WaitUntil("left.join() === 'up.gif,over.gif,down.gif'");
     shows("over.gif");
     EXPECT_EQ(page.Value("bgs1.src").toString(), QStringLiteral("click.wav"));
+    EXPECT_TRUE(WaitFor([&] { return page.Shell.Opened.size() == 1; }));
     page.MoveTo("away");
     shows("up.gif");
 }
