@@ -48,6 +48,7 @@ BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
     rows.Fill(lstBackups);
     AddButtons(u"&Bring back");
     setMinimumSize(560, 360);
+    resize(680, 400);
     ShowBackups();
 }
 

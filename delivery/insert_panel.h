@@ -30,6 +30,9 @@ public:
     /// A new page and one that is there have each their own.
     QPushButton* Action(bool isNewPage) const;
 
+    /// An existing page lost the effect again, so that Auto-insert is the action anew.
+    void EffectTakenBack() { m_isInserted = false; }
+
 signals:
     void Complained(const orvane::Complaint& complaint);
     /// The effect cannot be inserted without the author, who goes on by hand.

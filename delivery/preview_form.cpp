@@ -76,8 +76,10 @@ void PreviewForm::ConnectPanels()
         GoOnTo(8);
     });
     connect(m_panels->Finish, &FinishPanel::BringBackWanted, this, [this](const Text& page) {
-        if (m_windows.BringBack(page))
+        if (m_windows.BringBack(page)) {
             m_report.PageBroughtBack(page);
+            m_panels->Insert->EffectTakenBack();
+        }
         m_panels->Finish->Begin();
     });
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,

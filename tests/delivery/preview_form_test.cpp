@@ -271,6 +271,8 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     EXPECT_EQ(m_broughtBack, u"/site/a&b.html");
     EXPECT_TRUE(WordsOf(*m_form, "lblReport").starts_with(u"Earlier version brought back"));
     EXPECT_FALSE(m_form->WasDelivered()) << "the author's entries are still wanted";
+    Click(*m_form, "cmdPrevious");
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdAutoInsert")->isDefault());
 }
 
 TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndEmptiesTheSharedCode)
