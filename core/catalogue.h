@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-/// The catalogue's page on which an effect lies: its tab, and its sub-menu of "Special Effects".
+/// The tab of the catalogue on which an effect stands, and its sub-menu of "Special Effects".
 enum class CataloguePage
 {
     ImageEffects,
@@ -29,14 +29,14 @@ struct CatalogueRow
 {
     EffectKind Kind;
     ControlName MenuCommand; ///< the object name of the command that opens it
-    TextView Picture;        ///< of the program's resources, such as "status_bar"
+    TextView Picture; ///< name of its picture in the program's resources, such as "status_bar"
     TextView Title;
     TextView Description;
-    ControlName Form; ///< the wizard window
-    TextView MarkerName;
+    ControlName Form;    ///< the wizard window
+    TextView MarkerName; ///< stands in the comments around the inserted code
     FilesNeeded Files;
-    bool ScriptedHelp;
-    bool ReplaceInBody;
+    bool ScriptedHelp;     ///< the help on the author's editor is that for scripts
+    bool ReplaceInBody;    ///< an earlier copy in the BODY is looked for and replaced
     bool HasButton = true; ///< false for the second of two rows that open the same wizard
 };
 

@@ -6,11 +6,11 @@
 
 namespace orvane {
 
-/// The effects with a picture of their own that answer to what the author typed: each typed word,
-/// case ignored, begins a word of the effect's title, of the other words that authors have for it,
-/// or of its description. Effects found by their title alone come first, those for which the
-/// description is needed last; otherwise they stand as in the catalogue. Without a word none is
-/// found.
+/// The effects that match what the author typed, among those with a button of their own: each typed
+/// word, upper and lower case taken as equal, must begin a word of the effect's title, of the other
+/// words that authors use for it, or of its description. Effects found by their title alone come
+/// first, those for which the description is needed last; otherwise they keep the order of the
+/// catalogue. Empty when no word is typed.
 std::vector<const CatalogueRow*> SearchCatalogue(TextView typed);
 
 } // namespace orvane

@@ -6,10 +6,11 @@
 
 namespace orvane {
 
-/// A control's object name; always a literal, or one that lives as long as its window.
+/// A control's object name. The view owns no characters: expects a literal, or a name that lives as
+/// long as its window.
 using ControlName = std::string_view;
 
-/// How a message box looks: with no sign, or with the exclamation sign.
+/// How a message box looks: without an icon, or with the exclamation icon.
 enum class Tone
 {
     Plain,

@@ -10,7 +10,8 @@
 
 namespace orvane {
 
-/// What an author looks for in a file dialog; each has its own folder where the last one was found.
+/// What an author looks for in a file dialog. For each purpose the folder of the last file is
+/// remembered.
 enum class FolderPurpose
 {
     Other, ///< nothing that is remembered
@@ -23,7 +24,7 @@ enum class FolderPurpose
     Publishing, ///< where required files go
 };
 
-/// What a file dialog is asked for.
+/// What a file dialog is opened with.
 struct FileRequest
 {
     Text Title;
@@ -44,9 +45,10 @@ struct FontChoice
     bool operator==(const FontChoice&) const = default;
 };
 
-/// A box that a previewed page wants to show.
+/// A message box that the script of a previewed page opens.
 struct PageBox
 {
+    /// The script functions that open a box.
     enum class Kind
     {
         Alert,
@@ -55,8 +57,8 @@ struct PageBox
     };
     Kind Shape = Kind::Alert;
     Text Words;
-    Text Proposed;           ///< what a prompt holds at first
-    bool OffersStop = false; ///< the page has shown so many that the author may stop it
+    Text Proposed;           ///< the text that a prompt is opened with
+    bool OffersStop = false; ///< the box has a check box by which the author stops all further ones
 };
 
 /// What the author answered to a page's box.
@@ -67,7 +69,8 @@ struct PageBoxReply
     bool Stop = false; ///< no further boxes of this page
 };
 
-/// The one way to ask the author anything; an empty optional is Cancel.
+/// All boxes and dialogs in which the program tells or asks the author something. An empty optional
+/// means Cancel.
 class Dialogs
 {
 public:
@@ -85,20 +88,21 @@ public:
     /// The full path of an existing file that the author picked.
     virtual std::optional<Text> OpenFile(const FileRequest& request) = 0;
 
-    /// The full path to save under; an existing file was confirmed.
+    /// The full path to save under; when the file exists, the author has agreed to overwrite it.
     virtual std::optional<Text> SaveFile(const FileRequest& request) = 0;
 
-    /// The picked folder, without a separator at its end unless it is a root.
+    /// The full path of the picked folder, without a separator at its end unless it is a root; the
+    /// dialog opens in `start`.
     virtual std::optional<Text> PickFolder(TextView title, TextView start) = 0;
 
     /// The picked colour, packed: blue in bits 16-23, green in 8-15, red in 0-7.
     virtual std::optional<std::int32_t> PickColor() = 0;
 
-    /// The font dialog's values when it closed; those handed in when the author cancelled.
+    /// The font that the author picked; `start` when the author cancelled.
     virtual FontChoice PickFont(const FontChoice& start) = 0;
 
-    /// Shows the words, how far the work is and a way to end it, once it has taken a moment.
-    /// Nothing else can be used from then on until the result is gone.
+    /// A modal progress box with these words, a bar and a Cancel button. It comes up once the work
+    /// has lasted for a moment, and closes when the result is destroyed.
     virtual std::unique_ptr<Progress> FollowWork(TextView words) = 0;
 
     /// Shows a previewed page's box and gives the author's answer.

@@ -10,11 +10,12 @@ namespace orvane {
 /// The values of a draft by the names of their fields.
 using DraftFields = std::map<std::string, FieldTexts, std::less<>>;
 
-/// One line of a draft, "name: value", with its line end; a line end or backslash in the value is
-/// written as backslash and letter.
+/// One line of a draft, "name: value" and a line feed. A backslash, CR or LF in the value is
+/// written as "\\", "\r" or "\n".
 Text DraftLine(std::string_view name, TextView value);
 
-/// The fields of a draft's text; a line that is none is passed over.
+/// The fields in a draft's text. Lines with the same name are the texts of one field; a line
+/// without ": " is ignored.
 DraftFields ReadDraftFields(TextView draft);
 
 /// What the author entered, as lines that a person can read; secret fields are left out.
@@ -31,7 +32,8 @@ Text WriteDraft(const Effect& effect)
     return draft;
 }
 
-/// Puts a draft's values into the effect; fields that the draft does not have stay as they are.
+/// Puts a draft's values into the effect. Secret fields, and fields that the draft lacks, stay as
+/// they are.
 template <class Effect>
 void ReadDraft(Effect& effect, TextView draft)
 {

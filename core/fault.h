@@ -23,14 +23,15 @@ enum class Fault
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
-    Cancelled = 32755, ///< the author wanted no more
+    Cancelled = 32755, ///< the author cancelled the work
 };
 
 /// The fault's words for a message box, such as "Permission denied".
 TextView Words(Fault fault);
 
-/// The fault that a failed call of the operating system means; DeviceError for one without a name.
-/// A missing file is FileNotFound; whether its folder is missing too, the caller looks up.
+/// The fault for a failed call of the operating system; DeviceError when no other fault fits. A
+/// missing file is FileNotFound even when its folder is missing too: the caller tells the two
+/// apart.
 Fault FaultOf(const std::error_code& error);
 
 /// A value, or the fault that prevented it.

@@ -14,24 +14,27 @@ namespace orvane {
 struct FieldName
 {
     ControlName Name;
-    bool IsSecret = false; ///< its value is written nowhere but into the page
+    bool IsSecret = false; ///< its value is never kept in a draft
 
     constexpr FieldName(const char* name, bool isSecret = false) : Name(name), IsSecret(isSecret) {}
 };
 
-/// A field whose value is written nowhere but into the page.
+/// The name of a field whose value is never kept in a draft, such as a password.
 constexpr FieldName Secret(const char* name)
 {
     return {name, true};
 }
 
-/// What `ForEachField` of an effect takes: the effect, or the effect as a constant.
+/// Accepts `Effect` and `const Effect`, so that one `ForEachField` serves both.
 template <class Given, class Effect>
 concept ConstOr = std::same_as<std::remove_const_t<Given>, Effect>;
 
 /// A field's value as texts: one for a single value, one for each entry of a list. Each type that a
-/// field can have has such a pair of functions; SetField() leaves the value as it is when the texts
-/// do not make one.
+/// field can have has a pair of functions: TextsOf() gives its texts, and SetField() sets the value
+/// from them.
+/// Where the texts do not make a value, SetField() leaves a Text, bool or int as it is; an int
+/// takes -32768 to 32767. Lists are replaced by what the texts hold, and files without a valid slot
+/// are left out.
 using FieldTexts = std::vector<Text>;
 
 FieldTexts TextsOf(const Text& value);
@@ -46,13 +49,14 @@ void SetField(int& value, const FieldTexts& texts);
 void SetField(std::vector<Text>& value, const FieldTexts& texts);
 void SetField(RequiredFiles& value, const FieldTexts& texts);
 
-/// A choice out of a group of options: its number is the option's index, -1 stands for none.
+/// The number of a choice in a group of options: the index of the option, -1 for none.
 template <class Choice>
 requires std::is_enum_v<Choice> FieldTexts TextsOf(Choice value)
 {
     return TextsOf(static_cast<int>(value));
 }
 
+/// Sets a choice by its number. Which numbers the enumeration has is not checked.
 template <class Choice>
 requires std::is_enum_v<Choice>
 void SetField(Choice& value, const FieldTexts& texts)

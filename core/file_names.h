@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-/// Between the folders of a path; texts from elsewhere may hold "\" as well.
+/// Stands between the folders of a path. Texts that come from a page or a tag may hold "\" instead.
 inline constexpr char16_t pathSeparator = u'/';
 
 /// The position of the last separator of either kind, counted from 1; 0 when there is none.
@@ -18,17 +18,17 @@ TextView GetFileName(TextView path);
 /// The part through the last separator, which it keeps; empty when there is none.
 TextView FolderOf(TextView path);
 
-/// The folder with one separator at its end.
+/// The folder with a separator at its end; one is added when it has none.
 Text WithSeparator(TextView folder);
 
 /// The full path of a name in a folder.
 Text PathIn(TextView folder, TextView name);
 
 /// Whether the name fits one of the masks, such as "*.gif;*.jpg", upper and lower case taken as
-/// equal; "*" stands for any characters, "?" for one.
+/// equal. "*" stands for any characters, "?" for one; "*.*" fits every name.
 bool MatchesMasks(TextView name, TextView masks);
 
-/// Whether one of a folder's names is this one, upper and lower case taken as equal.
+/// Whether `name` is among `names`, upper and lower case taken as equal.
 bool IsListed(const std::vector<Text>& names, TextView name);
 
 } // namespace orvane

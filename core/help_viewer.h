@@ -2,7 +2,7 @@
 
 namespace orvane {
 
-/// The help window, seen from the windows that ask for a topic.
+/// The help window, as the other windows use it.
 class HelpViewer
 {
 public:
@@ -12,7 +12,7 @@ public:
     virtual void ShowTopic(int number) = 0;
 };
 
-/// The topics of the windows that have no number of their own in the delivery wizard.
+/// The numbers of help topics, without those that the delivery wizard keeps in its own tables.
 namespace help_topics {
 inline constexpr int contents = 0;
 inline constexpr int mainWindow = 10;

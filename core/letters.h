@@ -2,7 +2,8 @@
 
 namespace orvane {
 
-/// The lower- or upper-case partner of a character, one to one and without locale.
+/// The character in lower or upper case, independent of any locale. Latin, Greek and Cyrillic
+/// letters change, every other character stays as it is.
 char16_t ToLower(char16_t character);
 char16_t ToUpper(char16_t character);
 

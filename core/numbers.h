@@ -8,8 +8,9 @@
 
 namespace orvane {
 
-/// The leading number of any text: blanks, tabs and line ends are passed over, reading stops at the
-/// first character that cannot go on; 0 when nothing numeric leads.
+/// The number at the start of a text, such as 12.5 of "12.5 px". Blanks, tabs and line ends are
+/// left out wherever they stand; reading stops at the first character that cannot belong to the
+/// number. 0 when the text starts with no number.
 double Val(TextView text);
 
 /// Whether the whole text, apart from blanks around it, is one number.
@@ -19,8 +20,8 @@ bool IsNumeric(TextView text);
 /// Overflow when it lies outside -32768 to 32767.
 Outcome<std::int16_t> ToInteger16(TextView text);
 
-/// The leading number of a text box, with 0 for none, after a press of its up-down buttons: its
-/// whole part and `step`, kept within `lowest` to `highest`.
+/// What a number field holds after a press of its up or down button: the whole part of Val(`text`)
+/// plus `step`, kept within `lowest` to `highest`.
 int StepNumber(TextView text, int step, int lowest, int highest);
 
 /// The number with at most 15 significant digits and no trailing zeros, such as "0.5".

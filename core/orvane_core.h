@@ -11,12 +11,13 @@
 
 namespace orvane {
 
-/// A value as the platform's registry tells it: nothing, a text or a number.
+/// A value out of the platform's registry: nothing, a text or a number.
 using RegistryVariant = std::variant<std::monostate, Text, std::int32_t>;
 
-/// What a registry read of one value gave.
+/// The result of reading one value out of the registry.
 struct RegistryAnswer
 {
+    /// The type under which the registry stores the value.
     enum class Type
     {
         Missing,
@@ -25,30 +26,30 @@ struct RegistryAnswer
         Other,
     };
     Type Kind = Type::Missing;
-    Text Buffer; ///< a text's characters, its stored terminator included
+    Text Buffer; ///< the characters of a text, with the terminator that is stored behind them
     std::int32_t Number = 0;
-    bool ReadFailed = false; ///< type and size were told, the value was not
+    bool ReadFailed = false; ///< type and size could be read, the value could not
 };
 
 /// The state that the windows share; one instance lives for the whole run.
 struct OrvaneCore
 {
-    Text DefaultPath;          ///< last folder used for images
-    RegistryVariant IEVersion; ///< the last platform value read: version text, then browser command
+    Text DefaultPath;          ///< the folder in which lists of images begin
+    RegistryVariant IEVersion; ///< browser version, later the default browser's command
     EffectPayload Payload;
-    Text WizardParam;
-    Text SavedHEAD; ///< a wizard's own copy of its code between its pages
-    Text SavedBODY;
-    RequiredFiles Required; ///< files collected by the wizard that is open
-    std::int16_t RequiredFileCount = 0;
-    bool EditMode = false; ///< the next wizard fills itself from pasted code
-    Text AppletText;       ///< eight letters behind CODE= of the pasted tag
-    Text AppletTextAfterCODE;
-    Text PastedApplet; ///< the whole pasted tag
-    Text ImageFolderMemo;
-    Text LinkFolderMemo;
-    Text LastSoundFolder;
-    Text BrowserPathChoice;
+    Text WizardParam;                   ///< the line `wizardParamLine`
+    Text SavedHEAD;                     ///< the delivered effect's EffectPayload::SavedHEAD
+    Text SavedBODY;                     ///< the same of SavedBODY
+    RequiredFiles Required;             ///< files collected by the wizard that is open
+    std::int16_t RequiredFileCount = 0; ///< the next free slot of `Required`; may go past its end
+    bool EditMode = false;              ///< the next wizard fills itself from pasted code
+    Text AppletText;                    ///< eight characters behind CODE= of the pasted tag
+    Text AppletTextAfterCODE;           ///< the first five of them
+    Text PastedApplet;                  ///< the whole pasted tag
+    Text ImageFolderMemo;               ///< folders that Browse opened last, for images,
+    Text LinkFolderMemo;                ///< for files to link to
+    Text LastSoundFolder;               ///< and for sounds
+    Text BrowserPathChoice;             ///< the program that BrowseDialog() picked last
     Text RandomMode;
     bool TransitionsImageMode = false;
     Text ProgramFolder; ///< without a separator at its end
@@ -62,14 +63,15 @@ inline constexpr TextView wizardParamLine =
 /// `text` with every apostrophe escaped by a backslash.
 Text EscapeApostrophes(TextView text);
 
-/// The variant after a registry read: a text keeps its terminator, a text that cannot be read
-/// empties it; a missing value, another type or an unread number leaves `current`.
+/// What `current` becomes by a registry read. A text replaces it, stored terminator included; a
+/// text that cannot be read empties it. Anything else that is missing, unreadable or of another
+/// type leaves it as it is.
 RegistryVariant AfterRegistryRead(const RegistryVariant& current, const RegistryAnswer& answer);
 
 /// Shows the Open dialog and stores the picked path in BrowserPathChoice; Cancel stores nothing.
 void BrowseDialog(OrvaneCore& core, Dialogs& dialogs, const FileRequest& request);
 
-/// Stores the folder as the last one used, for this run and the next.
+/// Makes the folder the one in which lists of images begin, for this run and the next ones.
 void SaveDefaultPath(OrvaneCore& core, Settings& settings, TextView folder);
 
 /// Tells the author to use Browse, unless file fields were unlocked in the preferences.

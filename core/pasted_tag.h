@@ -4,10 +4,10 @@
 
 namespace orvane {
 
-/// How a value in quotes is read out of a pasted tag.
+/// How the values of a pasted tag are read.
 enum class Quotes
 {
-    Kept,     ///< the leading quote stays, and what has no quotes runs on to the next quote
+    Kept,     ///< with its opening quote; one without quotes goes on to the next quote
     TakenOff, ///< the value alone
 };
 
@@ -15,8 +15,8 @@ enum class Quotes
 struct PastedTag
 {
     Text Whole;
-    Text AppletTextAfterCODE; ///< five letters behind CODE=
-    Text AppletText;          ///< eight letters behind CODE=
+    Text AppletTextAfterCODE; ///< five characters behind CODE=
+    Text AppletText;          ///< eight characters behind CODE=
     Quotes Reading = Quotes::Kept;
 };
 

@@ -7,7 +7,8 @@
 
 namespace orvane {
 
-/// Which effect a payload holds; the numbers stand in pages' history and never change.
+/// Which effect a payload holds. The numbers never change: the catalogue has their order, and an
+/// effect's help topic is 100 plus its number.
 enum class EffectKind : std::int32_t
 {
     None = 0,
@@ -66,35 +67,36 @@ enum class EffectKind : std::int32_t
 inline constexpr TextView MakerSiteURL = u"http://www.varlo.example";
 inline constexpr TextView ProductPageURL = u"http://www.varlo.example/orvane/";
 
-/// The two comment lines at the top of generated script; the template that holds them ends the
-/// second.
+/// The two comment lines at the top of generated script. The second has no line end: the template
+/// in which they stand goes on with one.
 inline constexpr TextView CreditBanner =
     u"<!-- Script written by Varlo Software - http://www.varlo.example -->\r\n"
     u"<!-- Created by Orvane software - http://www.varlo.example/orvane/ -->";
 
-/// The author's own files that must lie beside the page: name and full source path at each index.
+/// The files that must be copied beside the author's page. The same index in both arrays belongs to
+/// one file, with at most 51 files; an empty name is an unused index.
 struct RequiredFiles
 {
-    std::array<Text, 51> Names;
-    std::array<Text, 51> Sources; ///< empty where the source is not known
+    std::array<Text, 51> Names;   ///< as the page refers to them
+    std::array<Text, 51> Sources; ///< full paths; empty where the source is not known
     bool operator==(const RequiredFiles&) const = default;
 };
 
-/// The generated code of one effect, with the files that it needs. A generator sets every slot, so
-/// that nothing of an earlier effect survives.
+/// The generated code of one effect, with the files that it needs. Each Generate() gives a new one,
+/// so that nothing of an earlier effect survives.
 struct EffectPayload
 {
     EffectKind Kind = EffectKind::None;
     Text HEADHTML;
     Text BODYHTML;
-    Text OnLoadFunc;
+    Text OnLoadFunc; ///< name of the function that the BODY tag calls; empty for none
     Text OnLoadArgs; ///< parentheses included
     Text OnUnloadFunc;
     Text OnUnloadArgs; ///< parentheses included
     RequiredFiles Required;
-    std::array<Text, 3> SupportFiles; ///< class files that lie in the program's folder
-    Text SavedHEAD;                   ///< the wizard's own copies of its code
-    Text SavedBODY;
+    std::array<Text, 3> SupportFiles; ///< names of the effect's files in the program's folder
+    Text SavedHEAD; ///< a copy of the effect's script or BODY code, kept in OrvaneCore
+    Text SavedBODY; ///< a copy of its BODY code, or that code with sample words
     bool operator==(const EffectPayload&) const = default;
 };
 
@@ -105,16 +107,17 @@ struct FinishedPayload
     EffectPayload Effect; ///< HEADHTML and BODYHTML carry the markers
     Text BeginMarker;
     Text EndMarker;
-    Text BODYAttribute;
-    Text PreviewCode;
-    bool NeedsFiles = false;
+    Text BODYAttribute;      ///< onLoad and onUnload as they stand in the BODY tag
+    Text PreviewCode;        ///< HEAD and BODY code with a line end between them
+    bool NeedsFiles = false; ///< files must be published with the page
     bool ScriptedHelp = false;
     bool ReplaceInBody = false;
     bool RunsToday = false; ///< the author wants the page script for today's browsers beside it
     bool operator==(const FinishedPayload&) const = default;
 };
 
-/// The payload with markers, BODY attributes and flags of its kind.
+/// The payload with the markers, BODY attributes and flags that the catalogue has for its kind;
+/// without markers and flags for a kind that is not in the catalogue.
 FinishedPayload Finish(const EffectPayload& effect);
 
 } // namespace orvane

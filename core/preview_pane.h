@@ -7,12 +7,12 @@
 
 namespace orvane {
 
-/// A page for the pane, and what the pane tells the author beside it.
+/// A page for the pane to show, and what the pane tells the author beside it.
 struct PanePage
 {
     Text Path;                 ///< where the page file lies while the page is read
     std::string Bytes;         ///< what the file holds
-    Text Note;                 ///< what cannot be seen of the effect, and why; empty: all can
+    Text Note;                 ///< what cannot be seen of the effect, and why; empty when all can
     bool RunsInStatus = false; ///< the effect shows in the status line, outside the page
 };
 
@@ -22,15 +22,16 @@ class PreviewPane
 public:
     virtual ~PreviewPane() = default;
 
-    /// Writes the page file, shows it and deletes it once the page has been read; a fault when it
-    /// cannot be written, and the pane stays as it was. A file that was left to a browser is not
-    /// touched: the page then lies under a name of its own beside it.
+    /// Writes the page file, shows it, and deletes it once the browser has read it. Gives the fault
+    /// when it cannot be written; then the pane still shows what it showed. While a file is left to
+    /// the author's browser, the page is written to a file of another name in the same folder.
     [[nodiscard]] virtual Done Navigate(const PanePage& page) = 0;
 
-    /// Leaves the page file to the author's browser, which may read it again at any time.
+    /// From now on keeps the page file for the author's browser, which may read it at any time: the
+    /// pane neither deletes nor overwrites it until Clear().
     virtual void LeaveFile() = 0;
 
-    /// Leaves the page: it falls silent, its windows close, and no file counts as left any more.
+    /// Unloads the page, with its sounds and windows, and ends what LeaveFile() began.
     virtual void Clear() = 0;
 };
 

@@ -4,13 +4,14 @@
 
 namespace orvane {
 
-/// Follows long work, and lets the author end it.
+/// Is told how far long work is, and can end it.
 class Progress
 {
 public:
     virtual ~Progress() = default;
 
-    /// `done` of `total` bytes are there; false when the author wants no more.
+    /// Tells that `done` of `total` bytes are processed; false when the author wants the work to
+    /// end.
     [[nodiscard]] virtual bool GoOn(std::uint64_t done, std::uint64_t total) = 0;
 };
 

@@ -6,20 +6,20 @@
 
 namespace orvane {
 
-/// The author's desktop, seen from outside the program.
+/// What the program needs of the author's desktop.
 class Shell
 {
 public:
     virtual ~Shell() = default;
 
-    /// Opens a file or address with what the desktop has for it; a failure is ignored.
+    /// Opens a file or address with the program that the desktop has for it; a failure is ignored.
     virtual void OpenWithShell(TextView target) = 0;
 
-    /// Starts a program with one argument, without a command interpreter in between, and brings its
-    /// window up; false when it could not be started.
+    /// Starts a program with one argument, without a command interpreter; false when it could not
+    /// be started. The program itself brings its window to the front.
     [[nodiscard]] virtual bool Start(TextView program, TextView argument) = 0;
 
-    /// The path of the desktop's default browser, if it tells one.
+    /// The full path of the desktop's default browser; nothing when the desktop names none.
     virtual std::optional<Text> DefaultBrowser() = 0;
 };
 

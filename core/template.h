@@ -12,8 +12,8 @@ namespace orvane {
 /// A template cut into pieces, ready for Fill(); what every Template converts to.
 struct TemplateView
 {
-    TextView Pieces;         ///< literals, each led by its length and followed by a mark's index
-    TextView Names;          ///< the marks' names, each led by its length and its number of uses
+    TextView Pieces; ///< literals, each behind its length and in front of the index of a mark
+    TextView Names;  ///< the marks' names, each behind its length and its number of uses
     std::size_t LiteralSize; ///< of all literals together
 };
 
@@ -101,8 +101,9 @@ private:
 /// A mark's name and the text that takes its place.
 using TemplateValue = std::pair<TextView, TextView>;
 
-/// The text of `page` with each mark replaced by its value; values are copied as they are and never
-/// looked at again. Throws std::logic_error for a mark without a value or a value without a mark.
+/// The text of `page` with each mark replaced by its value; marks inside a value are not replaced.
+/// Throws std::logic_error for a mark without a value, a value without a mark, or more than 64
+/// different marks.
 Text Fill(TemplateView page, std::initializer_list<TemplateValue> values = {});
 
 } // namespace orvane

@@ -10,20 +10,22 @@
 
 namespace orvane {
 
-/// A sequence of 16-bit characters; every text of the program is one.
+/// A sequence of UTF-16 code units, which count as characters; all words of the program are such
+/// texts.
 using Text = std::u16string;
 using TextView = std::u16string_view;
 
 inline constexpr TextView lineEnd = u"\r\n";
 
-/// The position, counted from 1, of the first place of `sought` in `text` at or behind `from`
-/// (counted from 1 as well); 0 when there is none or `from` is 0.
+/// The position, counted from 1, of the first occurrence of `sought` in `text` that begins at
+/// `from` (counted from 1 as well) or behind it; 0 when there is none or `from` is 0.
 std::size_t Find(TextView text, TextView sought, std::size_t from = 1);
 
 /// The same as Find(), with upper and lower case taken as equal.
 std::size_t FindIgnoringCase(TextView text, TextView sought, std::size_t from = 1);
 
-/// The position, counted from 1, of the last place of `sought` in `text`; 0 when there is none.
+/// The position, counted from 1, of the last occurrence of `sought` in `text`; 0 when there is
+/// none.
 std::size_t FindLast(TextView text, TextView sought);
 
 /// The first `count` characters of `text`, or all of it when it is shorter.
@@ -38,10 +40,12 @@ TextView Mid(TextView text, std::size_t from, std::size_t count = TextView::npos
 /// `text` without the blanks (0x20 alone) at both ends.
 TextView Trim(TextView text);
 
-/// `text` with every character in lower or upper case; its length stays.
+/// `text` with every character in lower or upper case; its length stays the same.
 Text ToLower(TextView text);
 Text ToUpper(TextView text);
 
+/// Whether one text equals, starts with or ends with the other, upper and lower case taken as
+/// equal.
 bool EqualIgnoringCase(TextView left, TextView right);
 bool StartsWithIgnoringCase(TextView text, TextView start);
 bool EndsWithIgnoringCase(TextView text, TextView end);
@@ -60,8 +64,8 @@ Text FromBytes(std::string_view bytes);
 /// above 255.
 std::string ToBytes(TextView text);
 
-/// The same for bytes, each of which counts as the character of its number: an author's page is
-/// searched and edited as it lies on the disk, whatever its encoding.
+/// The same functions for bytes. Each byte counts as the character of its number, so that an
+/// author's page is searched and edited as it lies on the disk, whatever its encoding.
 std::size_t Find(std::string_view bytes, std::string_view sought, std::size_t from = 1);
 std::size_t FindIgnoringCase(std::string_view bytes, std::string_view sought, std::size_t from = 1);
 bool EqualIgnoringCase(std::string_view left, std::string_view right);

@@ -4,8 +4,8 @@
 
 namespace orvane {
 
-/// One sentence on what today's browsers make of an effect, and of what no script can mend; empty
-/// for an effect without a wizard.
+/// One sentence for the author on how an effect runs in today's browsers, and on what the page
+/// script cannot change; empty for an effect without a wizard.
 TextView InTodaysBrowsers(EffectKind kind);
 
 } // namespace orvane

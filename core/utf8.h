@@ -16,13 +16,13 @@ constexpr bool IsLowSurrogate(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// The text of UTF-8 bytes; an ill-formed sequence becomes U+FFFD.
+/// The text of UTF-8 bytes; each byte that belongs to no well-formed sequence becomes U+FFFD.
 std::u16string FromUtf8(std::string_view bytes);
 
-/// The UTF-8 bytes of a text; half of a surrogate pair becomes U+FFFD.
+/// The UTF-8 bytes of a text; a lone half of a surrogate pair becomes U+FFFD.
 std::string ToUtf8(std::u16string_view text);
 
-/// The length of the well-formed character at the start of `bytes`; 0 when there is none.
+/// The length in bytes of the well-formed character at the start of `bytes`; 0 when there is none.
 std::size_t Utf8Length(std::string_view bytes);
 
 /// The place, counted from 0, of the first byte above 127 at or behind `from`; the size of `bytes`

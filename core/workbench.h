@@ -14,7 +14,8 @@
 
 namespace orvane {
 
-/// Everything that a window works with, by reference, so that a test can put its own in place.
+/// Everything that a window works with. The services are references, so that tests can put others
+/// in their place.
 struct Workbench
 {
     OrvaneCore& Core;
@@ -25,10 +26,10 @@ struct Workbench
     orvane::Clipboard& Clipboard;
     PreviewPane& Pane;
     HelpViewer& Help;
-    Text Version;                ///< of this program, such as "1.0.0"
-    Text StateFolder;            ///< of this user, for what outlives a run and is no setting
-    std::function<Text()> Today; ///< such as "2024-05-31"
-    std::optional<Text> PlatformBrowserVersion; ///< nothing: the platform has no registry to ask
+    Text Version;                               ///< of this program, such as "1.0.0"
+    Text StateFolder;                           ///< the user's folder for drafts and kept pages
+    std::function<Text()> Today;                ///< gives the date, such as "2024-05-31"
+    std::optional<Text> PlatformBrowserVersion; ///< nothing where no registry can be asked
 };
 
 } // namespace orvane

@@ -7,17 +7,19 @@
 
 namespace orvane {
 
-/// The files of a real calls. Paths are its bytes in UTF-8; a path that is empty, holds a zero or
-/// half of a surrogate pair is BadFileName, and names that are no UTF-8 are not listed.
+/// The files of the real disk. Paths become bytes in UTF-8. A path that is empty, has a NUL
+/// character or half of a surrogate pair in it is BadFileName; names that are not UTF-8 are not
+/// listed, and neither are the files that this creates for its own use.
 ///
 /// How files are written, whole_files.h says; replacement_file.h and in_place_writer.h have the
-/// names of the files that this leaves while it runs. What a killed program left is cleared up by
-/// the next Read(), Replace() or Exchange() of the file.
+/// names of those own files. What a killed program left of them is cleared up later: a recovery
+/// copy when its file is read, copied or replaced, a temporary file when another file is put into
+/// its folder.
 class DiskFileStore : public FileStore
 {
 public:
-    /// `stateFolder` takes the recovery copies of files whose folder may not be written. It is the
-    /// user's own, and created in its parent when it is needed.
+    /// `stateFolder` takes the recovery copies of files in whose folder nothing may be created. It
+    /// belongs to the user alone, and is created when it is needed if its parent exists.
     DiskFileStore(SystemCalls& calls, TextView stateFolder);
 
     bool FileExists(TextView path) const override;

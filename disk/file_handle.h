@@ -11,7 +11,8 @@
 
 namespace orvane {
 
-/// Makes a call again for as long as a signal interrupts it; gives its last error.
+/// Makes a system call, again and again as long as a signal interrupts it; gives the error of the
+/// last one.
 template <class Call>
 std::error_code Retried(Call call)
 {
@@ -21,14 +22,15 @@ std::error_code Retried(Call call)
     return error;
 }
 
-/// The part of a path through its last "/"; "./" when there is none.
+/// The part of a path up to and including its last "/"; "./" when there is none.
 std::string FolderOf(std::string_view path);
 
-/// Whether both are of one file.
+/// Whether both describe the same file, by device and inode.
 bool IsOneFile(const FileStatus& one, const FileStatus& other);
 
-/// An open file or folder of a disk, closed with the object. Interrupted calls are repeated, short
-/// ones continued. A failing close has no say: what must be on the disk was synced before.
+/// An open file or folder, closed with the object. Interrupted calls are repeated, and reads and
+/// writes that stop early are continued. Failures of closing are ignored: what must be on the disk
+/// was synced before.
 class FileHandle
 {
 public:
@@ -37,7 +39,8 @@ public:
     FileHandle(const FileHandle&) = delete;
     FileHandle& operator=(const FileHandle&) = delete;
 
-    /// Opens a path of any kind without waiting for anybody; expects an object that holds none yet.
+    /// Opens a file, folder, pipe or device without ever blocking. Expects an object that has
+    /// nothing open.
     [[nodiscard]] std::error_code Open(const std::string& path, int flags, mode_t mode = 0);
 
     /// Opens a regular file; a folder, pipe or device gives is_a_directory.
@@ -46,48 +49,51 @@ public:
     /// Opens a folder, so that it can be synced; a missing one gives not_a_directory.
     [[nodiscard]] std::error_code OpenFolder(const std::string& path);
 
-    /// What was known of the file when it was opened.
+    /// The status of the file at the moment when it was opened.
     const FileStatus& Status() const { return m_status; }
 
-    /// Whether the file has lost its last name since.
+    /// Whether the file has lost its last name since it was opened.
     [[nodiscard]] std::error_code IsRemoved(bool& removed) const;
 
     /// The whole content.
     [[nodiscard]] std::error_code ReadAll(std::string& bytes) const;
 
-    /// Puts the bytes there in the file; what lies around them stays.
+    /// Writes the bytes from position `at` on, counted from 0; the rest of the file stays.
     [[nodiscard]] std::error_code WriteAll(std::string_view bytes, std::size_t at = 0) const;
 
-    /// Fills this file, an empty one, with the content of another, piece by piece. `goesOn` is told
-    /// before each piece how many bytes are there; operation_canceled when it gives false.
+    /// Fills this file, which must be empty, with the content of another, piece by piece. Before
+    /// each piece `goesOn` is told how many bytes are copied; operation_canceled when it gives
+    /// false.
     [[nodiscard]] std::error_code
     CopyFrom(const FileHandle& source, const std::function<bool(std::uint64_t done)>& goesOn) const;
 
-    /// Makes the file hold these bytes alone, synced. A failure leaves any mixture.
+    /// Makes the file hold these bytes alone, synced. After a failure it may hold any mixture of
+    /// old and new bytes.
     [[nodiscard]] std::error_code Overwrite(std::string_view bytes) const;
 
-    /// Whether it holds exactly these bytes; operation_canceled when it does not.
+    /// No error when the file holds exactly these bytes; operation_canceled when it does not.
     [[nodiscard]] std::error_code MustHold(std::string_view bytes) const;
 
-    /// Sets owner, group and mode, as far as they differ.
+    /// Sets owner, group and mode to those of `other`, where they differ.
     [[nodiscard]] std::error_code TakeRightsOf(const FileStatus& other) const;
 
-    /// Sets owner, group and permissions. Where the owner may not be set, the permissions become
-    /// so few that nobody gets more than `other` gives.
+    /// Sets owner, group and permissions to those of `other`. Where this user may not set the
+    /// owner, the group gets no more than both group and others have in `other`, so that nobody
+    /// gets more rights.
     [[nodiscard]] std::error_code TakePermissionsOf(const FileStatus& other) const;
 
-    /// Waits until the content, or the folder's names, lie on the calls. A folder of a file system
-    /// that cannot sync folders counts as synced.
+    /// Waits until the file's content, or the folder's names, are on the disk. A folder on a file
+    /// system that cannot sync folders counts as synced.
     [[nodiscard]] std::error_code Sync() const;
 
-    /// Takes the file's lock until it is closed; permission_denied when another program has it.
-    /// A file system without locks gives what its call gives.
+    /// Takes the file's lock and keeps it until the file is closed; permission_denied when another
+    /// program has it. On a file system without locks, the error of the call.
     [[nodiscard]] std::error_code Lock() const;
 
-    /// Takes the lock as soon as no other program has it.
+    /// Waits until no other program has the lock, then takes it.
     [[nodiscard]] std::error_code WaitForLock() const;
 
-    /// Whether the file has an access list beside its mode.
+    /// Whether the file has an access control list (POSIX ACL) beside its mode.
     [[nodiscard]] std::error_code HasAccessList(bool& has) const;
 
 private:

@@ -10,27 +10,30 @@
 
 namespace orvane {
 
-/// Writing in place, for files that no new file may replace, with a copy of the old bytes kept
-/// until it is done. The copy lies
+/// Writes files in place that cannot be replaced by a new file. A copy of the old bytes, the
+/// recovery copy, is kept until the writing is done. It lies
 /// - beside the file, as ".orvane-«inode».recovery", or, where no file may be created there,
 /// - in the user's state folder, as ".orvane-«device»-«inode».recovery",
-/// the numbers hexadecimal. One found later means that its writer was killed: the old bytes are put
-/// back, unless the new ones are all there. If somebody else has written the file since, it stays
-/// as it is and the copy is set aside as "….kept". A copy counts only if it belongs to this user,
-/// to the file's owner or to the superuser.
+/// with hexadecimal numbers. A copy that is found later means that its writer was killed: the old
+/// bytes are put back, unless all new ones are there. When the file holds anything else than a
+/// mixture of old and new bytes, or the copy is incomplete, the file stays as it is and ".kept" is
+/// added to the copy's name. A copy counts only if it belongs to this user, to the file's owner or
+/// to the superuser.
 class InPlaceWriter
 {
 public:
-    /// `stateFolder` ends in "/" and is created when it is needed; empty for none.
+    /// `stateFolder` ends in "/" and is created when it is needed; an empty one means that there is
+    /// none.
     InPlaceWriter(SystemCalls& calls, std::string stateFolder);
 
-    /// Clears up what a killed writer left of the file at `path`, links followed; `status` is that
-    /// of the file. permission_denied while its writer lives.
+    /// Clears up what a killed writer left of the file at `path`, links followed; `status` is the
+    /// status of that file. permission_denied while the writer still runs.
     [[nodiscard]] std::error_code Restore(const std::string& path, const FileStatus& status) const;
 
-    /// Makes the file, open for writing, hold these bytes; on failure it holds the old ones, now or
-    /// after the next Restore(). permission_denied when no copy may be kept anywhere, or while
-    /// another program writes the file; operation_canceled when it does not hold `expected`.
+    /// Makes the file, which is open for writing, hold these bytes. After a failure it holds the
+    /// old ones, at once or after the next Restore(). permission_denied when no recovery copy may
+    /// be kept anywhere, or while another program writes the file; operation_canceled when the file
+    /// does not hold `expected`.
     [[nodiscard]] std::error_code Write(const FileHandle& file, const std::string& path,
                                         std::string_view bytes,
                                         std::optional<std::string_view> expected) const;

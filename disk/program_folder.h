@@ -10,20 +10,20 @@ namespace orvane {
 /// Looks up an environment variable; nothing when it is not set.
 using Environment = std::function<std::optional<Text>(TextView name)>;
 
-/// The per-user folders of this program, without separators at their ends.
+/// The folders of this program for one user, without separators at their ends.
 struct UserFolders
 {
     Text Program;  ///< applet classes, effect images, help, the preview page
     Text Settings; ///< one file per application
-    Text State;    ///< untouched first backups
+    Text State;    ///< kept pages, drafts, recovery copies
 };
 
-/// The folders as the desktop's conventions place them; ORVANE_HOME, from the current folder on
-/// when it is relative, names another program folder and takes settings and state along. Nothing
-/// when the variables tell no place for one of them.
+/// The folders where the conventions of the desktop (the XDG variables and HOME) put them.
+/// ORVANE_HOME, if set, is the program folder instead and has the other two inside; a relative one
+/// starts at the current folder. Nothing when the variables give no place for one of the folders.
 std::optional<UserFolders> FindUserFolders(const Environment& environment);
 
-/// Makes the file hold these bytes unless it does already.
+/// Makes the file hold these bytes; a file that holds them already is not written.
 [[nodiscard]] Done InstallFile(FileStore& files, TextView path, std::string_view bytes);
 
 } // namespace orvane

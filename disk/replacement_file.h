@@ -10,53 +10,56 @@
 
 namespace orvane {
 
-/// Puts the content into a new file that is open for writing.
+/// Writes the content of a new file, which is open for writing and empty.
 using Filling = std::function<std::error_code(const FileHandle& file)>;
 
-/// The filling with these bytes, which are borrowed.
+/// A Filling that writes these bytes, which it borrows.
 Filling FillingWith(std::string_view bytes);
 
-/// Begins every name that the file store uses for itself.
+/// The start of every name that the file store uses for its own files.
 inline constexpr std::string_view ownNameStart = ".orvane-";
 
 /// Whether this is the name of a ReplacementFile's temporary: ".orvane-", 16 hexadecimal digits,
 /// ".tmp".
 bool IsTemporaryName(std::string_view name);
 
-/// Creates a folder with `mode` less the umask, synced with its parent; nothing is left on failure.
+/// Creates a folder with `mode` less the umask and syncs it with its parent; a folder that cannot
+/// be synced is removed again. A missing parent gives not_a_directory.
 [[nodiscard]] std::error_code MakeFolder(SystemCalls& calls, const std::string& path, mode_t mode);
 
-/// Whether a call was refused for the place or the rights, so that another way may be tried.
+/// Whether a call failed because this place does not allow it (permissions, a read-only file
+/// system, a mount), so that writing in another way may succeed.
 bool IsRefusal(const std::error_code& error);
 
-/// A whole new file that takes the place of a path in one step: written under a hidden name in the
-/// same folder, synced, renamed to the path, the folder synced. The hidden name cannot be guessed
-/// and is locked while its writer lives; one that a killed program left behind is removed by the
-/// next ReplacementFile in that folder.
+/// A whole new file that takes the place of a path in one step: it is written under a hidden name
+/// in the same folder, synced and renamed to the path, then the folder is synced. The hidden name
+/// cannot be guessed, and the file is locked while its writer runs; one that a killed program left
+/// behind is removed by the next ReplacementFile in that folder.
 class ReplacementFile
 {
 public:
     /// A file with the mode of a newly created one: `mode` less the umask.
     ReplacementFile(SystemCalls& calls, std::string path, mode_t mode);
 
-    /// What a file has from the one that it is like.
+    /// What the new file takes over from the file that it is like.
     enum class Rights
     {
-        All,         ///< owner, group and mode, or nothing is put
-        Permissions, ///< what FileHandle::TakePermissionsOf() takes
+        All,         ///< owner, group and mode; when they cannot be set, Put() fails
+        Permissions, ///< as many as FileHandle::TakePermissionsOf() can set
     };
 
     /// A file with the rights of another.
     ReplacementFile(SystemCalls& calls, std::string path, const FileStatus& like, Rights rights);
 
-    /// Asked directly before the file takes its place; an error stops it.
+    /// Called directly before the file takes its place; an error from it stops Put().
     using LastLook = std::function<std::error_code()>;
 
-    /// Puts a file with this content in its place. No temporary file is left on failure; a folder
-    /// that is missing gives not_a_directory.
+    /// Puts a file with this content at the path. No temporary file is left after a failure; a
+    /// missing folder gives not_a_directory.
     [[nodiscard]] std::error_code Put(const Filling& fill, const LastLook& look = {});
 
-    /// Whether the new file stands in its place, which it may after a failure of the last sync.
+    /// Whether the new file is at the path. It may be so although Put() failed: the last sync comes
+    /// after.
     bool IsInPlace() const { return m_isInPlace; }
 
 private:

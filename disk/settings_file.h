@@ -11,16 +11,16 @@ namespace orvane {
 /// The settings of one application: texts under section and key.
 using SettingsTable = std::map<std::pair<Text, Text>, Text>;
 
-/// The settings in a file's bytes; what is no setting is passed over.
+/// The settings in the bytes of a file; lines that are no setting are ignored.
 SettingsTable ReadSettings(std::string_view bytes);
 
-/// The bytes of a settings file: UTF-8, "[section]" lines and "key=value" lines in which "\\", "\r"
-/// and "\n" stand for a backslash and the line ends.
+/// The bytes of a settings file in UTF-8: "[section]" lines and "key=value" lines. "\r" and "\n"
+/// stand for the line ends; a backslash, "=", "[" and "]" have a backslash in front.
 std::string WriteSettings(const SettingsTable& settings);
 
-/// Settings kept in one file per application below a folder. Each read looks at the file afresh, so
-/// that two running programs see what the other stored, and none loses it by storing at the same
-/// time.
+/// Settings kept in one file per application, "«application».conf" in a folder. Each Get() reads
+/// the file anew, so that two running programs see what the other stored; where the folder can be
+/// locked, neither loses a setting when both store at the same time.
 class SettingsFile : public Settings
 {
 public:

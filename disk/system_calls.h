@@ -13,16 +13,16 @@ namespace orvane {
 
 using FileStatus = struct stat;
 
-/// A name in a folder, and what the folder knows about it: a DT_ constant of <dirent.h>.
+/// A name in a folder, and the type of what has that name: a DT_ constant of <dirent.h>.
 struct FolderEntry
 {
     std::string Name;
     unsigned char Type;
 };
 
-/// The system calls that the file store is made of, one method each. A method does what its call
-/// does, once: it gives an empty error code or the call's own, EINTR included, and may write or
-/// read less than it was asked to. Paths are bytes.
+/// The system calls on which the file store is built, one method each. A method makes its call once
+/// and gives an empty error code or the call's error, EINTR included; it may read or write less
+/// than it was asked to. Paths are bytes.
 class SystemCalls
 {
 public:
@@ -74,7 +74,7 @@ public:
                                      std::vector<FolderEntry>& entries) = 0;
 };
 
-/// The disk itself.
+/// The calls of the operating system itself.
 class PosixCalls : public SystemCalls
 {
 public:

@@ -10,35 +10,37 @@
 
 namespace orvane {
 
-/// Files read and written whole. Every writing makes a new file beside the old one and renames it
-/// to the old one's name; where a new file would lose something or is not allowed, Replace() writes
-/// in place, guarded by a recovery copy: a file with several hard links or an access list, one
-/// whose owner this user may not set, one in a folder that this user may not write.
+/// Reads and writes whole files. A file is written as a new file in the same folder, which is then
+/// renamed to its name. Where a new file would lose something or is not allowed, Replace() writes
+/// in place instead, with a recovery copy: a file with several hard links or an access control
+/// list, one whose owner this user may not set, one in a folder where this user may create nothing.
 class WholeFiles
 {
 public:
-    /// `stateFolder` is that of InPlaceWriter.
+    /// As for InPlaceWriter.
     WholeFiles(SystemCalls& calls, std::string stateFolder);
 
-    /// Opens a file for reading, links followed; `file` holds none yet.
+    /// Opens a file for reading, links followed, after InPlaceWriter::Restore(). Expects a `file`
+    /// that has nothing open.
     [[nodiscard]] std::error_code Open(std::string path, FileHandle& file) const;
 
     /// The whole content, links followed; not_enough_memory when it is more than 512 MB.
     [[nodiscard]] std::error_code Read(const std::string& path, std::string& bytes) const;
 
-    /// operation_canceled unless the path leads to a file that is not the file `other` and holds
-    /// exactly these bytes.
+    /// No error when the path leads to a file that is not the file `other` and holds exactly these
+    /// bytes; operation_canceled when it is that file or holds other bytes.
     [[nodiscard]] std::error_code MustBeCopy(const std::string& path, const std::string& other,
                                              std::string_view bytes) const;
 
-    /// Makes the file, links followed, hold these bytes. operation_canceled, with the file as it
-    /// was, when it does not hold what is expected until directly before.
+    /// Makes the file, links followed, hold these bytes; a missing file is created unless something
+    /// is `expected`. operation_canceled, with the file as it was, when it does not hold what is
+    /// expected directly before it is written.
     [[nodiscard]] std::error_code Replace(std::string path, std::string_view bytes,
                                           std::optional<std::string_view> expected);
 
-    /// Puts a new file with this content under the name itself, in the place of a link or of a file
-    /// that may be written. It has the permissions of the file `like`, else of the file whose place
-    /// it takes.
+    /// Puts a new file with this content under the name itself, in place of a link or of a file
+    /// that this user may write. It has the permissions of the file `like`; when that is empty, of
+    /// the file that it replaces.
     [[nodiscard]] std::error_code PutNew(const std::string& path, const Filling& fill,
                                          const std::string& like);
 
