@@ -11,13 +11,15 @@ namespace orvane {
 /// The whole text of a new page around the effect.
 Text NewPageText(const FinishedPayload& payload);
 
-/// The bytes of that page, with the page script's lines where the payload wants them.
+/// The bytes of NewPageText() in Windows-1252, with the page script's lines where the payload wants
+/// them.
 std::string NewPageBytes(const FinishedPayload& payload);
 
-/// Writes a new page around the effect; on failure the file keeps what it had.
+/// Writes a new page around the effect, over a file that exists; after a failure that file is as it
+/// was.
 [[nodiscard]] Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payload);
 
-/// The file kinds that the delivery wizard offers for a page.
+/// The filter of the file dialogs in which the author picks a page.
 inline constexpr TextView webPageFilter =
     u"All Files (*.*)|*.*|Web page files (*.html, *.htm, *.shtml, *.asp)|*.html;*.htm;*.shtml;*.asp|"
     u"HTML Files (*.htm, *.html, *.shtml)|*.htm;*.html;*.shtml|ASP Files (*.asp)|*.asp|"
@@ -26,12 +28,12 @@ inline constexpr TextView webPageFilter =
     u"XML Files (*.dtd, *.xml, *.xsl)|*.dtd;*.xml;*.xsl|Page Loom Template (*.wwt)|*.wwt|"
     u"Text Files (*.txt)|*.txt";
 
-/// The names of all those kinds, and of others that Web servers take for pages.
+/// The masks of all those kinds, and of others that Web servers treat as pages.
 inline constexpr TextView pageMasks =
     u"*.html;*.htm;*.shtml;*.asp;*.cgi;*.pl;*.css;*.cfm;*.js;*.dtd;*.xml;*.xsl;*.wwt;*.txt;*.xhtml;"
     u"*.php;*.php3;*.phtml;*.jsp";
 
-/// What the dialogs for a new page and for an existing page are asked for.
+/// What the file dialogs for a new and for an existing page are opened with.
 FileRequest NewPageRequest();
 FileRequest ExistingPageRequest();
 

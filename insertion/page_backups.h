@@ -14,16 +14,18 @@ struct PageBackup
     bool operator==(const PageBackup&) const = default;
 };
 
-/// The backups of a page, newest first: the one beside it and the kept ones. What is a link to
-/// another file is no backup. Expects a full path.
+/// The backups of a page, newest first: the one in its folder and those among the kept pages. A
+/// link is not taken for a backup. Expects a full path.
 std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPages& kept, TextView page);
 
-/// How a backup's size compares with the page's, in words such as "12 bytes less".
+/// How the size of a backup compares with that of the page, both in bytes: "12 bytes less", "1 byte
+/// more" or "same size".
 Text CompareSizes(std::uint64_t backup, std::uint64_t page);
 
-/// Makes the page hold a backup's bytes again and gives true; otherwise the author was told why
-/// not. The page as it stands is kept first, and every backup stays. The page holds its old bytes
-/// or the backup's; one that another program saves meanwhile stays as that program left it.
+/// Gives the page the bytes of a backup and gives true; otherwise tells the author why not and
+/// gives false. The page as it is before is put among the kept pages first, and every backup stays.
+/// Whatever fails, the page holds its old bytes or the backup's; a page that another program
+/// changes meanwhile stays as that program left it.
 bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backup,
                const KeptPages& kept);
 

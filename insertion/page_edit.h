@@ -10,7 +10,8 @@
 
 namespace orvane {
 
-/// Asked when the page holds an earlier copy of the effect; gives true for Yes.
+/// Asks the author whether an earlier copy of the effect in the page is to be replaced; gives true
+/// for Yes.
 using ReplaceQuestion = std::function<bool()>;
 
 /// The page with the effect in it.
@@ -20,28 +21,35 @@ struct EditedPage
     bool operator==(const EditedPage&) const = default;
 };
 
-/// The page is not to be written; the author inserts the code by hand.
+/// The page is not to be written: it has no HEAD or BODY tag for the code, or the author does not
+/// want an earlier copy replaced.
 struct ManualFallback
 {
     bool operator==(const ManualFallback&) const = default;
 };
 
+/// The edited page, or why there is none.
 using PageEdit = std::variant<EditedPage, ManualFallback, Fault>;
 
-/// The page with the payload's HEAD code behind its head tag, BODY code behind its body tag and
-/// event attributes in its body tag. The payload's texts are encoded for the page first; every
-/// other byte of it stays. Overflow when a tag lies past position 32767, InvalidProcedureCall when
-/// a piece of the page that the work needs has no end.
+/// The page with the payload's HEAD code directly behind its head tag, its BODY code directly
+/// behind its body tag and its event attributes in its body tag. An earlier copy in the HEAD or in
+/// an attribute, and in the BODY if `payload.ReplaceInBody`, is replaced if the author agrees; an
+/// attribute for which the author says No stays as it is.
+/// The payload's texts are encoded for the page. Every byte of the page stays, but the character
+/// behind the head or body tag is written once more in front of the inserted code. Overflow when
+/// one of the tags lies past position 32767, InvalidProcedureCall when a close tag or, for an
+/// attribute, the end of the body tag is missing.
 PageEdit EditPage(std::string_view page, const FinishedPayload& payload,
                   const ReplaceQuestion& askToReplace);
 
-/// Whether `code` holds `begin` and, unless it is empty, `end`: anywhere, in any order, upper and
-/// lower case taken as equal.
+/// Whether `code` contains `begin` and, unless it is empty, `end`: anywhere and in any order, upper
+/// and lower case taken as equal.
 bool FindEffectInExistingCode(std::string_view code, std::string_view begin, std::string_view end);
 
 /// `code` with the stretch from the first `begin` through the next `end`, and every exact copy of
-/// that stretch, replaced by `newText`. InvalidProcedureCall when there is no such stretch,
-/// Overflow when it begins or ends past position 32767.
+/// that stretch, replaced by `newText`; the two are found in upper or lower case.
+/// InvalidProcedureCall when there is no such stretch, Overflow when it ends past position 32766,
+/// counted from 1.
 Outcome<std::string> ReplaceEffectInExistingCode(std::string_view code, std::string_view newText,
                                                  std::string_view begin, std::string_view end);
 

@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-/// A stretch of page code, which is bytes: from Begin up to but not including End, counted from 0.
+/// A stretch of page code, in bytes: from Begin up to but not including End, counted from 0.
 struct CodeSpan
 {
     std::size_t Begin = 0;
@@ -14,28 +14,31 @@ struct CodeSpan
     bool operator==(const CodeSpan&) const = default;
 };
 
-/// The code of a stretch, which lies in `code`.
+/// The part of `code` in a stretch. Expects one that lies inside `code`.
 inline std::string_view CodeIn(std::string_view code, CodeSpan span)
 {
     return code.substr(span.Begin, span.End - span.Begin);
 }
 
-/// A comment, or an open or close tag.
+/// A comment, an open tag or a close tag.
 struct Markup
 {
     CodeSpan Whole;
-    std::size_t Next = 0; ///< behind it and, for a SCRIPT, TITLE and the like, behind its text
+    std::size_t Next = 0; ///< where to go on: behind it and, for a SCRIPT or TITLE, its text
 };
 
-/// The first comment or tag that begins at or behind `from`; one of no length at the end of `code`
-/// when there is none. Tags are told from comments, quoted values, the text of scripts and styles
-/// as a browser does, and from what a server replaces. Expects `from` outside of a tag.
+/// The first comment or tag that begins at or behind `from`; an empty one at the end of `code` when
+/// there is none. As in a browser, nothing inside a comment, a quoted value, a script or a style is
+/// a tag; neither is what stands in server code ("<% %>", "<?php ?>"). Expects `from` outside of a
+/// tag.
 Markup NextMarkup(std::string_view code, std::size_t from);
 
-/// Whether a tag stands at `at` that begins so, such as "<head" or "</head", its name whole.
+/// Whether a tag begins at `at` whose start, up to the end of its name, is `start`, such as "<head"
+/// or "</head", in upper or lower case.
 bool IsTag(std::string_view code, std::size_t at, std::string_view start);
 
-/// `text` from its first character on that is no blank of page code.
+/// `text` without the white space at its start: spaces, tabs, line feeds, form feeds and carriage
+/// returns.
 std::string_view WithoutBlanksInFront(std::string_view text);
 
 /// A name and a value as they stand in a tag.
@@ -45,8 +48,8 @@ struct TagAttribute
     std::string_view Value; ///< without its quotes
 };
 
-/// Takes the next attribute off `rest`, which goes on behind a tag's name; nothing at the tag's
-/// end. One that is cut off by the end of the code has no value.
+/// Removes the next attribute from the front of `rest`, which begins behind a tag's name, and gives
+/// it; nothing at the end of the tag. A quoted value without its closing quote is empty.
 std::optional<TagAttribute> NextAttribute(std::string_view& rest);
 
 } // namespace orvane

@@ -4,29 +4,30 @@
 
 namespace orvane {
 
-/// The file beside a page that makes its effects run in today's browsers.
+/// The name of the page script, the file beside a page that makes its effects run in today's
+/// browsers.
 inline constexpr TextView pageScriptFile = u"orvane.js";
 
-/// The lines that lead a page to the file, as an author puts them in by hand.
+/// The lines by which a page loads the page script, as an author inserts them by hand.
 inline constexpr TextView pageScriptLines = u"<!-- Begin Orvane page script -->\r\n"
                                             u"<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n"
                                             u"<!-- End Orvane page script -->";
 
-/// Whether the page holds the lines.
+/// Whether the page has such lines, where a browser sees them.
 bool HasPageScript(std::string_view page);
 
-/// The page with the lines directly behind its HEAD tag; a page without one comes back as it is,
-/// and so does a page that holds the lines already.
+/// The page with the lines directly behind its HEAD tag. A page without a HEAD tag, or with lines
+/// already, is given back unchanged.
 std::string WithPageScript(std::string_view page);
 
-/// The page without the lines: byte for byte what WithPageScript() was given.
+/// The page without all such lines. Undoes WithPageScript() byte for byte.
 std::string WithoutPageScript(std::string_view page);
 
-/// What EditPage() makes of the page without the lines, and the lines in front of everything in its
-/// HEAD again if they were there or the payload wants them. They carry the effects' calls that the
-/// BODY tag could not take, since it calls something of the author's already. A page without a HEAD
-/// tag gets no lines; those that the author has changed move as they are. A page without them and
-/// a payload that does not want them: what EditPage() gives, byte for byte.
+/// EditPage() for a page with the page script: the lines are taken out before and, if they were
+/// there or the payload wants them, put directly behind the HEAD tag afterwards. The lines carry
+/// those calls of effects that a browser drops, because the BODY tag has the same event attribute
+/// more than once. Lines that the author changed are moved as they are. A page without a HEAD tag
+/// is given to EditPage() as it is, and so is one without lines when the payload wants none.
 PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload,
                            const ReplaceQuestion& askToReplace);
 
@@ -34,7 +35,7 @@ PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload
 /// file.
 std::string_view PageScriptVersion(std::string_view file);
 
-/// Whether a version is later than another; numbers that dots divide count one by one.
+/// Whether a version is later than another; their numbers between the dots are compared one by one.
 bool IsLaterVersion(std::string_view version, std::string_view other);
 
 } // namespace orvane

@@ -8,26 +8,27 @@
 
 namespace orvane {
 
-/// The calls of effects in the two events of a BODY tag, divided by semicolons.
+/// Calls of effects in the two events of a BODY tag, with semicolons between them.
 struct EventCalls
 {
     std::string OnLoad;
     std::string OnUnload;
 };
 
-/// The lines in a page that lead it to the page script.
+/// The lines by which a page loads the page script.
 struct PageScriptLines
 {
     CodeSpan Whole;
-    std::string Code;
-    EventCalls Carried;
-    bool IsChanged = false; ///< the author has made something else of the SCRIPT line
+    std::string Code;       ///< the lines themselves
+    EventCalls Carried;     ///< the calls in the attributes of the SCRIPT tag
+    bool IsChanged = false; ///< the SCRIPT tag has something that this program does not write
 };
 
-/// The first lines in the page, where a browser sees them; nothing when it has none.
+/// The first such lines in the page, outside of comments and scripts; nothing when there are none.
 std::optional<PageScriptLines> FindPageScriptLines(std::string_view page);
 
-/// Takes all lines out of the page; gives the first ones with the calls of all.
+/// Takes all such lines out of the page and gives the first ones, with the calls of all; nothing
+/// when there are none.
 std::optional<PageScriptLines> TakePageScriptLines(std::string& page);
 
 } // namespace orvane

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-/// What stands between the tags of the first SCRIPT element whose open tag begins at or behind
+/// The script between the tags of the first SCRIPT element whose open tag begins at or behind
 /// `from`; an empty span at the end of `code` when there is none. Expects `from` outside of a tag.
 CodeSpan NextScript(std::string_view code, std::size_t from);
 

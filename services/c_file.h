@@ -8,41 +8,43 @@
 
 namespace orvane {
 
-/// The one file dialog that every CFile of a run opens, as far as it remembers anything.
+/// What all CFile objects of a run have in common.
 struct frmCmnDlg
 {
-    Text LastFolder; ///< of the last picked file; empty before the first
+    Text LastFolder; ///< of the last picked file, with its separator; empty before the first
 };
 
-/// The catalogue's filter: 0 pages, 1 images, 2 multimedia, 3 Java, 4 texts, 5 programs, 6 sounds,
-/// 7 videos; empty for any other kind.
+/// The filter of a file kind: 0 pages, 1 images, 2 multimedia, 3 Java, 4 texts, 5 programs, 6
+/// sounds, 7 videos; empty for any other number.
 TextView FileFilter(std::int32_t kind);
 
-/// One use of the file dialogs: set the properties, browse, read the properties. Each operation
-/// gives the fault of a picked name without a folder, which leaves Path as it was.
+/// One use of the file dialogs: set the properties, browse, read the properties. When the picked
+/// name has no folder, an operation gives the fault InvalidProcedureCall and leaves Path as it was.
 class CFile
 {
 public:
-    /// Both are used until the last browse is over.
+    /// Both must outlive this object.
     CFile(Dialogs& dialogs, frmCmnDlg& shared) : m_dialogs(dialogs), m_shared(shared) {}
 
     Text Path;               ///< folder of the last chosen file, without a separator at its end
     Text Filename;           ///< its name; for Browse() also the proposed one
     Text PathAndFilename;    ///< its full path
-    bool CancelError = true; ///< false: a cancelled save counts as the empty name picked
+    bool CancelError = true; ///< false: a cancelled save dialog picks the empty name
     Text DialogTitle = u"Browse";
     std::int16_t FilterIndex = 1; ///< the pair selected first, counted from 1
     Text Filter = u"All Files (*.*)|*.*";
-    Text InitDir = u"C:\\"; ///< empty: the folder of the run's last picked file
+    Text InitDir = u"C:\\"; ///< empty: the folder of the last file that any CFile picked
 
-    /// The full path to save under, an existing file having been confirmed; empty on Cancel.
+    /// The full path to save under, whose overwriting the author has confirmed if the file exists;
+    /// empty on Cancel.
     [[nodiscard]] Outcome<Text> GetFileNameForSave();
 
-    /// Lets the author pick an existing file by the properties; Cancel leaves them all.
+    /// Lets the author pick an existing file, as the properties say, and fills them; after Cancel
+    /// they stay as they are.
     [[nodiscard]] Done Browse();
 
-    /// The full path of an existing file, with the catalogue's filter, or for kind 8 with Filter
-    /// and InitDir; empty on Cancel.
+    /// The full path of an existing file that the author picks, with FileFilter(`kind`), or for
+    /// kind 8 with Filter and InitDir; empty on Cancel.
     [[nodiscard]] Outcome<Text> BrowseForFile(std::int32_t kind);
 
     /// The name behind the last separator; the whole text when there is none.
@@ -51,7 +53,7 @@ public:
     /// What stands before the last separator; InvalidProcedureCall when there is none.
     static Outcome<Text> GetPath(TextView path);
 
-    /// These two do nothing: opening and saving is the caller's work.
+    /// Both do nothing: the caller opens and saves.
     void OpenFile() {}
     void Save() {}
 

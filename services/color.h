@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-/// A colour in the forms that page text needs; made for one click and dropped again.
+/// A colour in the forms that page text needs.
 class CColor
 {
 public:
@@ -20,21 +20,21 @@ public:
     std::int16_t Red = 0;      ///< 0 to 255, as are the other two
     std::int16_t Blue = 0;
     std::int16_t Green = 0;
-    std::int16_t ColorDialogCancelled = 0; ///< whether SelectColor() was: 0 for no, -1 for yes
+    std::int16_t ColorDialogCancelled = 0; ///< -1 after SelectColor() was cancelled, else 0
 
-    /// A copy of the table of web colours: sixteen names, then the digits of each.
+    /// The table of web colours: sixteen names, then the six digits of each in the same order.
     std::array<TextView, 32> WebColors() const { return m_webColors; }
 
-    /// Fills the three channels from six hexadecimal digits, in any case and with any "#" passed
-    /// over: an empty text gives 192 each, a missing or unknown digit counts 0.
+    /// Fills the three channels from six hexadecimal digits, in upper or lower case; every "#" is
+    /// ignored. An empty text gives 192 for each; a missing or unknown digit counts as 0.
     void ConvertHexToRGB(TextView text);
 
-    /// The six digits of a packed value. Pages are made with its padding: a value of three or five
-    /// hexadecimal digits comes out shifted, so 0xABC gives "AB0000".
+    /// The six digits of a packed value. Existing pages rely on its padding: a value of three or
+    /// five hexadecimal digits comes out shifted, so 0xABC gives "AB0000".
     Text ConvertToRGBHex(std::int32_t value) const;
 
-    /// Asks for a colour and fills `HexColor` and `RGBColor`; after Cancel they are empty and 0,
-    /// and `ColorDialogCancelled` tells.
+    /// Lets the author pick a colour and fills `HexColor` and `RGBColor`; after Cancel they are
+    /// empty and 0, and `ColorDialogCancelled` is -1.
     void SelectColor(Dialogs& dialogs);
 
 private:
@@ -51,10 +51,12 @@ enum class ColorNotation
     RgbFunction, ///< "rgb(255,128,0)"
 };
 
-/// A packed colour, as CColor::RGBColor is, in the wanted notation.
+/// The text of a packed colour (see CColor::RGBColor), with the digits that
+/// CColor::ConvertToRGBHex() gives.
 Text ColorText(std::int32_t packed, ColorNotation notation);
 
-/// The packed colour of a text in any of the notations; nothing for an empty text.
+/// The packed colour of a text in any of the notations; nothing for an empty text. Missing or
+/// unreadable parts count as 0.
 std::optional<std::int32_t> PackedColor(TextView text);
 
 } // namespace orvane

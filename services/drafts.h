@@ -7,17 +7,17 @@
 
 namespace orvane {
 
-/// Where the draft of an effect lies; `effect` is the name of its menu command.
+/// The full path of the draft of an effect; `effect` is the name of its menu command.
 Text DraftPathOf(TextView stateFolder, ControlName effect);
 
-/// The text of a draft; nothing when there is none that can be read.
+/// The text of the draft in this file; nothing when there is none that can be read.
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path);
 
-/// Keeps a draft, making its folder when it is missing. A draft that cannot be written is lost
-/// silently: it is no work that the author asked to save.
+/// Stores a draft, with its folder when that is missing. A failure is ignored: the author did not
+/// ask for a draft to be saved. Expects a path with a folder.
 void WriteDraftFile(FileStore& files, TextView path, TextView draft);
 
-/// Throws a draft away, if there is one.
+/// Deletes a draft, if there is one.
 void DropDraftFile(FileStore& files, TextView path);
 
 } // namespace orvane

@@ -18,7 +18,8 @@ struct FolderRow
     bool operator==(const FolderRow&) const = default;
 };
 
-/// What a folder box shows: the way down from the root to a folder, then its sub-folders.
+/// What a folder box shows: the folders from the root down to the current one, then its
+/// sub-folders.
 struct FolderRows
 {
     std::vector<FolderRow> Rows;
@@ -26,16 +27,16 @@ struct FolderRows
     bool operator==(const FolderRows&) const = default;
 };
 
-/// The rows for a folder; nothing when the text is no full path of a folder that can be read.
-/// Hidden folders are left out unless the way leads through them.
+/// The rows for a folder; nothing when the text is not the full path of a folder that can be read.
+/// Hidden sub-folders are left out.
 std::optional<FolderRows> ListFolders(const FileStore& files, TextView folder);
 
 /// The names of a file box: the files of a folder that fit the masks and are not hidden, sorted
 /// ignoring case; empty when the folder cannot be read.
 std::vector<Text> ListFiles(const FileStore& files, TextView folder, TextView masks);
 
-/// The entry of a drive box in which `folder` lies: the longest that holds it; nothing when none
-/// does.
+/// The index of the drive in which `folder` lies; of several, the one with the longest path.
+/// Nothing when it lies in none.
 std::optional<std::size_t> DriveOf(const std::vector<Text>& drives, TextView folder);
 
 } // namespace orvane

@@ -11,30 +11,31 @@
 
 namespace orvane {
 
-/// One image of the list with what may be set for it; an empty text means that nothing is set.
+/// One image of the list and its properties; an empty text means that nothing is set.
 struct ImageRow
 {
     Text FileName; ///< as listed in its folder, without the folder
-    Text Pause;    ///< milliseconds, or -1 and -2 as signals
+    Text Pause;    ///< milliseconds; -1 waits for a click, -2 for the mouse
     Text Transition;
     Text URL;
     Text Sound;
     bool operator==(const ImageRow&) const = default;
 };
 
-/// Five texts for each row.
+/// The five texts of each row, and the rows of such texts; an incomplete row at their end is left
+/// out.
 FieldTexts TextsOf(const std::vector<ImageRow>& rows);
 void SetField(std::vector<ImageRow>& rows, const FieldTexts& texts);
 
-/// One list of the window: a text of every row, so that the lists are always in step.
+/// One of the list boxes beside each other in the window. It shows the same property of every row.
 struct ImageListColumn
 {
     ControlName Name;
     TextView Header;
-    Text ImageRow::*Field;
+    Text ImageRow::*Field; ///< the property that it shows
 };
 
-/// How the list of one wizard differs from that of another.
+/// How the image list of one wizard differs from that of another.
 struct ImageListVariation
 {
     std::vector<ImageListColumn> Columns = {
@@ -46,22 +47,22 @@ struct ImageListVariation
     TextView RowTip = {};
     TextView ListInMessages = u"Animation"; ///< which image list the messages speak of
     TextView PreviewFrame = {};             ///< caption of the picture's frame; empty for none
-    bool EnablesButtonsOnAdd = false;       ///< the list buttons start disabled
+    bool EnablesButtonsOnAdd = false; ///< the list buttons are disabled until an image is added
 };
 
-/// The Advanced Animator's variation: four lists beside that of the file names.
+/// The Advanced Animator's image list: four list boxes beside that of the file names.
 ImageListVariation AnimatorImageList();
 
-/// The slideshow's variation: a visible preview, and no size fields.
+/// The slideshow's image list: the file names alone, and a preview of the picture.
 ImageListVariation SlideshowImageList();
 
-/// What the file box of every image list shows.
+/// The masks of the files that are shown for an image list.
 inline constexpr TextView imageMasks = u"*.jpg;*.gif";
 
 /// What the author is told when the add button finds no file selected.
 inline constexpr TextView noImageSelected = u"Please select an image.";
 
-/// The images in their order, and the row that is selected in every list.
+/// The images in their order, and the selected row.
 struct ImageList
 {
     std::vector<ImageRow> Rows;
@@ -69,27 +70,27 @@ struct ImageList
     bool operator==(const ImageList&) const = default;
 };
 
-/// Where added images go: in front of the selected row, or to the end when no row or the last one
-/// is selected.
+/// The index at which an added image goes: in front of the selected row, or to the end when no row
+/// or the last one is selected.
 std::size_t PlaceToAdd(const ImageList& list);
 
-/// Puts a file of `folder` at that place and records it for copying. A name with a blank inside is
-/// a complaint and changes nothing. The selection stays on its image.
+/// Inserts a file of `folder` at index `place` and records it for copying; the image that was
+/// selected stays selected. A name with a blank inside is a complaint and changes nothing.
 std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, std::size_t place,
                                         TextView folder, TextView fileName);
 
-/// Removes the selected row; the next one is selected, or none behind the last. Its file stays
-/// recorded.
+/// Removes the selected row, if there is one, and selects the row behind it; none when the last row
+/// was removed. The file of the image stays recorded for copying.
 void DeleteRow(ImageList& list);
 
-/// Moves the selected image one row up; a complaint when there is none to move.
+/// Moves the selected image one row up; a complaint when no row or the first one is selected.
 std::optional<Complaint> MoveUp(ImageList& list, TextView listInMessages);
 
-/// Moves the selected image one row down; a complaint when there is none to move.
+/// Moves the selected image one row down; a complaint when no row or the last one is selected.
 std::optional<Complaint> MoveDown(ImageList& list, TextView listInMessages);
 
-/// The text of a width or height field after a picture of that many pixels came: the larger of
-/// both. A text without a leading number counts 0.
+/// The text of a width or height field after a picture of that many pixels was added: the larger of
+/// both. A text that starts with no number counts as 0.
 Text GrownField(TextView field, int pixels);
 
 } // namespace orvane

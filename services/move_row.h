@@ -5,7 +5,8 @@
 
 namespace orvane {
 
-/// Moves one row to another place; those between close up. Expects places that are there.
+/// Moves the row at index `from` to index `to`; the rows between shift by one. Expects indexes that
+/// exist.
 template <class Rows>
 void MoveRow(Rows& rows, std::size_t from, std::size_t to)
 {
@@ -18,7 +19,8 @@ void MoveRow(Rows& rows, std::size_t from, std::size_t to)
         std::rotate(at(from), at(from + 1), at(to + 1));
 }
 
-/// Moves the selected row of a list with `Rows` and `Selected`; the selection stays on it.
+/// Moves the selected row of a list that has `Rows` and `Selected` to index `place`; it stays
+/// selected. Expects a selected row and an index that exists.
 template <class List>
 void MoveSelectedTo(List& list, std::size_t place)
 {

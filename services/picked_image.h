@@ -8,16 +8,16 @@
 
 namespace orvane {
 
-/// What a dialog offers that asks for an image or for a Web page.
+/// The filters of the dialogs that ask for an image and for a Web page.
 inline constexpr TextView imageFilter =
     u"All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg";
 inline constexpr TextView linkedPageFilter =
     u"All Files (*.*)|*.*|HTML Files (*.htm, *.html)|*.htm;*.html";
 
-/// The files that are taken for such an image when they are dropped on a window.
+/// The masks of the files that can be dropped on a window where an image is asked for.
 inline constexpr TextView pictureMasks = u"*.gif;*.jpg;*.jpeg";
 
-/// The dialog in which the author picks an image.
+/// What the dialog is opened with in which the author picks an image.
 inline FileRequest ImageRequest()
 {
     return {.Title = u"Browse...",
@@ -26,7 +26,7 @@ inline FileRequest ImageRequest()
             .Purpose = FolderPurpose::Images};
 }
 
-/// The dialog in which the author picks a Web page to link to.
+/// What the dialog is opened with in which the author picks a Web page to link to.
 inline FileRequest WebPageRequest()
 {
     return {.Title = u"Browse...",
@@ -47,11 +47,11 @@ struct PixelSize
 struct PickedImage
 {
     Text Path;
-    std::optional<PixelSize> Size; ///< nothing for a file that is no picture
+    std::optional<PixelSize> Size; ///< nothing for a file that is not a picture
 };
 
-/// Puts a picked image into an effect that shows one: name and size into their fields, the source
-/// into the first slot. Expects an image with a size.
+/// Puts a picked image into the fields of an effect: its name, its size, and its path as the source
+/// of file slot 0. Expects an image with a size.
 template <class Effect>
 void TakeImage(Effect& effect, const PickedImage& image)
 {

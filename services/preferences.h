@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-/// What the browser field says while previews open in the desktop's default browser.
+/// The text of the browser field while previews open in the desktop's default browser.
 inline constexpr TextView defaultBrowser = u"default browser";
 
 /// What the author sets in the preferences window.
@@ -22,16 +22,18 @@ struct Preferences
     Text cboWebPageEditor;    ///< empty until the author names one
 };
 
-/// The editors that the window offers.
+/// The Web page editors that the window offers.
 std::span<const TextView> WebPageEditors();
 
-/// The stored preferences as the window opens with them.
+/// The preferences with which the window opens. chkOverride and the stored browser do not come
+/// back: SavePreferences() writes the setting Apps/Override, this reads Misc/Override.
 Preferences LoadPreferences(const Settings& settings);
 
-/// The failing check, or nothing when the preferences can be stored.
+/// The complaint about an empty browser field, or nothing when the preferences can be stored.
 std::optional<Complaint> Check(const Preferences& preferences);
 
-/// Stores preferences that pass Check(); an empty default folder leaves the stored one.
+/// Stores the preferences. An empty default folder leaves the stored one. Expects preferences that
+/// pass Check().
 void SavePreferences(const Preferences& preferences, OrvaneCore& core, Settings& settings);
 
 } // namespace orvane

@@ -7,11 +7,12 @@
 
 namespace orvane {
 
-/// The files of a kind, such as "Pages", that the author used last, newest first; those that are
-/// gone are left out.
+/// The full paths of the files of a kind, such as "Pages", that the author used last, newest first;
+/// files that no longer exist are left out.
 std::vector<Text> RecentFiles(const Settings& settings, const FileStore& files, TextView kind);
 
-/// Stores the file with this full path as the newest of ten.
+/// Stores the file with this full path as the newest of at most ten; does nothing for a path with a
+/// line feed in it.
 void PutRecentFile(Settings& settings, TextView kind, TextView path);
 
 } // namespace orvane

@@ -8,37 +8,39 @@
 
 namespace orvane {
 
-/// What a file is, in the words of a refusal.
+/// How a complaint calls a file.
 enum class FileRole
 {
     Image,
     Sound,
 };
 
-/// The refusal of a file name with a blank in it, for effects whose tags do not allow one.
+/// The complaint about a file name with a blank in it, or nothing; for effects whose tags allow no
+/// blank.
 std::optional<Complaint> CheckNoBlank(TextView fileName, FileRole role);
 
-/// Empties the tables of files to copy.
+/// Forgets all recorded files, and the support files of the payload.
 void ClearRequiredFiles(OrvaneCore& core);
 
-/// Records a file at the next free slot of the tables of files to copy. Behind the last slot
-/// nothing is recorded, and the count goes on.
+/// Records a file in the next free slot of the required files. When all slots are used it is not
+/// recorded, but still counted.
 void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name);
 
-/// Where the file of that name was recorded from, the last time that it was; empty for one that was
-/// not.
+/// The source of the file of that name, as it was recorded last; empty when it was not.
 Text SourceOf(const OrvaneCore& core, TextView name);
 
-/// Counts the recorded files anew after the tables were filled: the next free slot is the one
-/// behind the last that is used.
+/// Counts the required files anew after they were filled in another way: the next free slot is the
+/// one behind the last that has a name.
 void SetRequiredFileCount(OrvaneCore& core);
 
-/// Puts the name of a field into a slot. The source that Browse left there stays only while it is
-/// that file's: a name that was typed, or emptied, has none. Expects a slot below 51.
+/// Puts the file name of a field into a slot. The source that Browse left in the slot stays only if
+/// it is the path of that file; a typed name, or an empty one, has no source. Throws
+/// std::out_of_range for a slot above 50.
 void RequireFile(RequiredFiles& files, std::size_t slot, TextView name);
 
-/// Puts a file that is named with or without its folder into a slot: the name is what follows the
-/// last separator, and without a folder there is no source. Gives the name.
+/// Puts a file into a slot and gives its name, which is what follows the last separator of `path`.
+/// The source is `path` if it has a folder, else empty. Throws std::out_of_range for a slot above
+/// 50.
 Text RequirePath(RequiredFiles& files, std::size_t slot, TextView path);
 
 } // namespace orvane

@@ -9,7 +9,8 @@
 
 namespace orvane {
 
-/// Rows that stand in the lists of a window, one text for each list, and the selected row.
+/// The rows of list boxes that stand beside each other in a window, one text for each box, and the
+/// selected row.
 struct RowList
 {
     std::vector<std::vector<Text>> Rows;
@@ -28,13 +29,16 @@ struct RowListWords
     TextView CannotMoveDown;
 };
 
-/// Why no row can be edited, or nothing when one can.
+/// The complaint when the list is empty or no row is selected, or nothing when the selected row can
+/// be edited.
 std::optional<Complaint> CheckEdit(const RowList& list, const RowListWords& words);
 
-/// Removes the selected row, and the row that takes its place is selected, or none behind the last.
+/// Removes the selected row and selects the row behind it; none when the last row was removed. A
+/// complaint, with the list unchanged, when no row is selected.
 std::optional<Complaint> RemoveRow(RowList& list, const RowListWords& words);
 
-/// Exchanges the selected row with its neighbour; the selection follows it.
+/// Exchanges the selected row with the one above or below; it stays selected. A complaint, with the
+/// list unchanged, when that is not possible.
 std::optional<Complaint> MoveRowUp(RowList& list, const RowListWords& words);
 std::optional<Complaint> MoveRowDown(RowList& list, const RowListWords& words);
 

@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-/// Puts a complaint behind the others unless the author will be told the same already.
+/// Adds a complaint, if there is one, unless the same is among them already.
 inline void AddOnce(std::vector<Complaint>& complaints, const std::optional<Complaint>& complaint)
 {
     if (complaint && std::ranges::find(complaints, *complaint) == complaints.end())

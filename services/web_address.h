@@ -4,7 +4,8 @@
 
 namespace orvane {
 
-/// The address with "http://" in front when its first four characters are "www." in any case.
+/// The address with "http://" in front if it begins with "www." in upper or lower case, else
+/// unchanged.
 Text WithScheme(TextView address);
 
 } // namespace orvane
