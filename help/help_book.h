@@ -19,15 +19,15 @@ struct HelpTopic
 using HelpBook = std::vector<HelpTopic>;
 
 /// The topics of a book file in UTF-8. A line such as "=== 22 Preview your special effect" begins a
-/// topic, the lines up to the next one are its body; lines before the first topic are passed over.
-/// `effectsOfTags`, a fragment of HTML, comes where a body has "«EffectsOfTags»".
+/// topic, and the lines up to the next one are its body; lines before the first topic are ignored.
+/// `effectsOfTags`, a fragment of HTML, replaces "«EffectsOfTags»" in the bodies.
 HelpBook ReadHelpBook(std::string_view bytes, TextView effectsOfTags = {});
 
 /// The first topic with that number, or null.
 const HelpTopic* FindTopic(const HelpBook& book, int number);
 
-/// What a reader sees of an HTML fragment: a blank for each tag, and the characters that
-/// "&lt;", "&gt;", "&quot;", "&nbsp;" and "&amp;" stand for.
+/// The words of an HTML fragment as a reader sees them: each tag becomes a blank, and "&lt;",
+/// "&gt;", "&quot;", "&nbsp;" and "&amp;" become their characters.
 Text ShownText(TextView html);
 
 /// The topics in which every word of `words` is found, upper and lower case taken as equal: first

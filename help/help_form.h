@@ -16,16 +16,16 @@ class FileStore;
 class Shell;
 class TopicBrowser;
 
-/// The window of the help: contents and search at the left, the topic at the right. It can be used
-/// while any dialog is open, and so can the dialog.
+/// The help window: contents and search on the left, the topic on the right. It can be used while a
+/// modal dialog is open, and does not block that dialog.
 class HelpForm : public QDialog, public HelpViewer
 {
     Q_OBJECT
 
 public:
-    /// The book is "orvane.hlp" in the program's folder, its pictures lie in "help" beside it. It
-    /// is read when the first topic is asked for; one that cannot be read leaves a note that says
-    /// so. `effectsOfTags` is the book's list of the effects that can be re-edited.
+    /// The book is "orvane.hlp" in the program's folder, with its pictures in "help" there. The
+    /// book is read when the first topic is shown; when it cannot be read, a note says so.
+    /// `effectsOfTags` is the HTML list of the effects that can be edited again.
     HelpForm(const FileStore& files, Shell& shell, Text programFolder, Text effectsOfTags = {});
 
     /// Brings the window up with that topic, or with a note when the book has none of that number.

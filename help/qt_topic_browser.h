@@ -14,16 +14,18 @@ QUrl TopicUrl(int number);
 /// The number in a topic's address; -1 for any other address.
 int TopicOf(const QUrl& url);
 
-/// Shows the topics of a book by their addresses, and remembers the way through them. A number that
-/// the book lacks gives a page that says so. Links are told, not followed.
+/// Shows the topics of a book by their addresses, with a history to go back and forward. A number
+/// that the book lacks gives a page that says so. A click on a link only emits anchorClicked().
 class TopicBrowser : public QTextBrowser
 {
     Q_OBJECT
 
 public:
-    /// The book may be filled later; `pictures` is the folder of its pictures.
+    /// `book` may be filled later and must outlive this object; `pictures` is the folder of its
+    /// pictures.
     TopicBrowser(const HelpBook& book, const FileStore& files, Text pictures);
 
+    /// The page for a topic's address, or a picture of the book.
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:

@@ -7,8 +7,8 @@
 
 namespace orvane {
 
-/// What decides whether the browser engine can start: for root it has no sandbox for its pages, and
-/// it ends the whole program unless it was told to do without one.
+/// What decides whether the browser engine can start. For the user root the engine has no sandbox,
+/// and would end the whole program unless it is told to run without one.
 struct SandboxFacts
 {
     bool RunsAsRoot = false;
@@ -19,7 +19,7 @@ struct SandboxFacts
 /// The facts of this process.
 SandboxFacts FindSandboxFacts();
 
-/// Why the engine must be left alone, in words for the author; nothing when it can start.
+/// Why the engine must not be started, in words for the author; nothing when it can start.
 std::optional<Text> WhyEngineCannotStart(const SandboxFacts& facts);
 
 } // namespace orvane

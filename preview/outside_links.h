@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-/// Where a previewed page leads outside, the author decides.
+/// Asks the author whether to open an address outside of the preview to which a page leads.
 class OutsideLinks
 {
 public:
@@ -15,11 +15,13 @@ public:
     {
     }
 
-    /// Forgets what the page before has led to.
+    /// Begins a new page, which may ask once without the author's doing.
     void StartPage() { m_hasLed = false; }
 
-    /// Asks whether the address is to be opened, and opens it; of a file it is only said where it
-    /// lies. A script may lead away again and again: the author is asked once, and after each act.
+    /// Asks whether to open the address in the author's own program, and opens it on Yes; of a
+    /// file, the author is only told its path. `byAuthor` says that the author clicked or typed
+    /// before: otherwise only the first address of a page is offered, so that a script cannot ask
+    /// again and again. Ignored while a question is open.
     void Offer(TextView target, bool byAuthor);
 
 private:

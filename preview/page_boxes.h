@@ -4,17 +4,18 @@
 
 namespace orvane {
 
-/// The boxes that a previewed page shows, one after the other, until the author stops them.
+/// Shows the boxes of a previewed page one at a time, until the author stops them.
 class PageBoxes
 {
 public:
     explicit PageBoxes(Dialogs& dialogs) : m_dialogs(dialogs) {}
 
-    /// Forgets the boxes of the page before.
+    /// Begins a new page, whose boxes are not stopped.
     void StartPage();
 
     /// Shows the box and gives the author's answer. From the second box of a page on the author may
-    /// stop them; after that, and while another box is open, the box counts as dismissed at once.
+    /// stop all further ones. A box is dismissed without being shown once they are stopped, and
+    /// while another box is open.
     PageBoxReply Answer(PageBox box);
 
 private:

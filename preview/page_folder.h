@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-/// The one folder whose files a previewed page may read.
+/// The folder from which, with its sub-folders, a previewed page may read files.
 class PageFolder
 {
 public:

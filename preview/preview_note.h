@@ -6,11 +6,11 @@
 namespace orvane {
 
 /// What the pane cannot show of an effect, and why, in words for the author; empty when it shows
-/// all, as it does with the page script beside it. Names the files that are missing in the folder,
-/// which is where the preview page lies.
+/// all. Without the page script these are the limits of today's browsers; in any case it names the
+/// files of the effect that are missing in `folder`, where the preview page lies.
 Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextView folder);
 
-/// Whether the effect shows in the browser's status line alone.
+/// Whether, without the page script, the effect is seen in the browser's status line alone.
 bool RunsInStatus(EffectKind kind);
 
 } // namespace orvane

@@ -12,15 +12,17 @@ enum class PreviewMode
     Browser1, ///< in the author's own browser
 };
 
-/// The text of the page that shows the effect in a centred table.
+/// The text of the preview page, with the effect in a centred table; for the password script of a
+/// Web server, a page that says why it cannot be tested.
 Text PreviewPageText(const FinishedPayload& payload, PreviewMode mode);
 
 /// The full path of the preview page.
 Text PreviewPagePath(const OrvaneCore& core);
 
-/// Shows the preview page. Says so when there is no code or the page cannot be written. A browser's
-/// page stays as it is until it is removed, and the pane keeps its hands off it. True when the
-/// author's browser did not start and the author wants to see the preferences.
+/// Writes the preview page and shows it; tells the author when there is no code or the page cannot
+/// be written. A page for the author's browser is left on the disk, and the pane is told so by
+/// LeaveFile(). True when the author's browser did not start and the author wants to see the
+/// preferences.
 [[nodiscard]] bool LinkToBrowser(Workbench& bench, const FinishedPayload& payload,
                                  PreviewMode mode);
 

@@ -19,24 +19,24 @@ namespace orvane {
 
 class QtStatusLine;
 
-/// The preview as the author sees it: the web view with the page's status line below it and above
-/// it what it cannot show; or, where there is nothing to see, a note that says why and what can be
-/// done.
+/// The preview pane: the web view, above it a note on what it cannot show, and below it the status
+/// line of the page. Where nothing can be shown, a note in its place says why and what the author
+/// can do.
 class QtPreviewPane : public QWidget, public PreviewPane, private WebViewOwner
 {
 public:
     QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent = nullptr);
     ~QtPreviewPane() override;
 
-    /// A note stands in place of the page when the web view cannot be used.
+    /// As PreviewPane says; a note stands in place of the page when the web view cannot be used.
     [[nodiscard]] Done Navigate(const PanePage& page) override;
     void LeaveFile() override;
     void Clear() override;
 
-    /// Loads the web view ahead of the first page; a failure shows at the first page.
+    /// Loads the web view before the first page needs it; a failure is told with the first page.
     void Warm();
 
-    /// The web view; null as long as it is not loaded.
+    /// The web view; null until it is loaded.
     WebView* View() const { return m_view; }
 
 private:

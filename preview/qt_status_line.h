@@ -6,7 +6,8 @@
 
 namespace orvane {
 
-/// One line of plain text that is cut at the label's edge and never widens it; every blank counts.
+/// One line of plain text, shortened with "..." to the width of the label, which it never widens.
+/// Several blanks in a row are all shown.
 class QtStatusLine : public QLabel
 {
 public:

@@ -4,8 +4,9 @@
 
 namespace orvane {
 
-/// Loads the module that holds the web view, which lies beside the program where it was built and
-/// in lib/orvane where it was installed. Null when it, or a library that it needs, is missing.
+/// Loads the shared library of the web view and gives its function that makes views. It is looked
+/// for in the program's own folder, then in "../lib/orvane" from there. Null when it, or a library
+/// that it needs, is missing.
 MakeWebView LoadWebViewModule();
 
 } // namespace orvane

@@ -11,14 +11,14 @@
 
 namespace orvane {
 
-/// Why a page came to an end by itself.
+/// Why a page ended without being left.
 enum class PageEnd
 {
     Crashed,
     Hung, ///< it did not answer and was stopped
 };
 
-/// What the web view asks and tells its owner.
+/// What the web view asks of its owner, and tells it.
 class WebViewOwner
 {
 public:
@@ -27,7 +27,7 @@ public:
     /// Shows a box of the page and gives the author's answer; the page waits meanwhile.
     virtual PageBoxReply AnswerBox(const PageBox& box) = 0;
 
-    /// The page file is about to be read, perhaps once more, and must exist.
+    /// The page file is about to be read, for the first time or again, and must exist.
     virtual void PageNeeded() = 0;
 
     /// The page file has been read, or reading it has failed.
@@ -36,38 +36,40 @@ public:
     /// The page wrote this into its status line; empty when a page begins.
     virtual void StatusWritten(TextView status) = 0;
 
-    /// The page leads to an address, or the path of a file, outside; `byAuthor` when the author has
-    /// clicked or typed in it since the last time.
+    /// The page wants to go to an address or a file (then `target` is its path) outside of the
+    /// preview. `byAuthor`: the author has clicked or typed in the page since the last such call.
     virtual void OutsideWanted(TextView target, bool byAuthor) = 0;
 
     /// The page no longer runs, and the view is empty.
     virtual void PageEnded(PageEnd end) = 0;
 };
 
-/// The embedded browser. It reads files below the page's folder and nothing else.
+/// The embedded browser. It loads files in the folder of the page and its sub-folders, and nothing
+/// from any network.
 class WebView : public QWidget
 {
 public:
     using QWidget::QWidget;
 
-    /// Shows the page file in place of what was shown, whose windows close.
+    /// Shows the page file. The page shown before is unloaded, and the windows that it opened
+    /// close.
     virtual void ShowPage(TextView path) = 0;
 
-    /// Leaves the page: it falls silent, and its windows close.
+    /// Unloads the page, with its sounds and windows.
     virtual void Clear() = 0;
 
-    /// The process that runs the page; 0 when there is none.
+    /// The id of the render process; 0 when there is none.
     virtual std::int64_t RendererPid() const = 0;
 
     /// Runs a script in the page and hands its value to `result`. For tests alone.
     virtual void Evaluate(const QString& script, std::function<void(const QVariant&)> result) = 0;
 };
 
-/// Makes a view, or gives null and, in `refusal`, why the engine was left alone. The owner must
-/// outlive the view.
+/// Makes a view; or gives null, and puts into `refusal` for the author why the engine was not
+/// started. The owner must outlive the view.
 using MakeWebView = WebView* (*)(WebViewOwner& owner, QWidget* parent, Text& refusal);
 
-/// The module that holds the view, and the function in it.
+/// The name of the shared library with the view, and of the function in it that is a MakeWebView.
 inline constexpr const char* webViewModule = "orvane_web_view";
 inline constexpr const char* makeWebViewName = "OrvaneMakeWebView";
 

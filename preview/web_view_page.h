@@ -16,13 +16,16 @@
 
 namespace orvane {
 
-/// Lets the engine read files below one folder, and addresses that carry their content themselves.
+/// Lets the engine load files in one folder and its sub-folders, and addresses that carry their
+/// content themselves ("data:", "blob:"); blocks all other requests.
 class FolderGuard : public QWebEngineUrlRequestInterceptor
 {
 public:
     using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
 
+    /// Sets the folder of the page that is shown from now on.
     void SetFolder(const PageFolder& folder) { m_folder = folder; }
+    /// Whether a page may load this address.
     bool LetsThrough(const QUrl& url) const;
     void interceptRequest(QWebEngineUrlRequestInfo& request) override;
 
@@ -30,28 +33,29 @@ private:
     PageFolder m_folder;
 };
 
-/// What a shown page and the windows that it opened have in common.
+/// What the shown page and the windows that it opened share.
 struct PageRoom
 {
     WebViewOwner& Owner;
     FolderGuard& Guard;
-    QString Token;                   ///< begins the console messages of the preview's own script
+    QString Token; ///< at the start of the console messages of the preview's own script
     std::function<void()> Hung = {}; ///< called when a page no longer answers and was stopped
     QUrl Page = {};                  ///< the shown page file; empty when there is none
     bool BoxOpen = false;
-    std::function<void()> AfterBox = {}; ///< run once the open box has closed
+    std::function<void()> AfterBox = {}; ///< called once the open box is closed
     bool AuthorActed = false;            ///< clicked or typed since the page last led outside
     std::vector<QPointer<QWidget>> Windows = {};
 
     /// Closes the windows that the page opened.
     void CloseWindows();
 
-    /// Lets the owner show a box. No page and no window of one goes away meanwhile.
+    /// Lets the owner show a box and gives the answer. No page and no window is deleted meanwhile;
+    /// what is to go waits until the box is closed.
     PageBoxReply Answer(const PageBox& box);
 };
 
-/// A window that a page opened. It closes itself whenever the page wants, but not under a box of
-/// the page that shows in it: it is hidden then and goes once the box has its answer.
+/// A window that a page opened. While a box is open, closing only hides it; it is deleted once the
+/// box is closed.
 class PageWindow : public QWidget
 {
 public:
@@ -64,16 +68,17 @@ private:
     PageRoom& m_room;
 };
 
-/// A page under the preview's rules: nothing from outside, boxes through the owner, all that would
-/// reach beyond the page refused without a word.
+/// A page under the rules of the preview: it loads nothing from outside, the owner shows its boxes,
+/// and an address outside is offered to the owner. Permissions, full screen, storage and file
+/// dialogs are refused without a message.
 class PreviewWebPage : public QWebEnginePage
 {
 public:
-    /// A page inside `view`, which is the page's parent.
+    /// Makes a page whose parent is `view`.
     PreviewWebPage(QWebEngineProfile& profile, PageRoom& room, QWidget& view);
 
-    /// Called with what the page wrote into its status line, empty when the page begins; unless
-    /// set, it is dropped.
+    /// Called, if set, with what the page wrote into its status line; with an empty text when a
+    /// page begins.
     std::function<void(const QString&)> StatusWritten;
 
 protected:
@@ -100,7 +105,8 @@ private:
     AnswerWatch m_watch;
 };
 
-/// A browser view without a menu of its own, which notices when the author acts in it.
+/// A browser view without a context menu, which notes in PageRoom::AuthorActed that the author
+/// clicked or typed.
 class PageView : public QWebEngineView
 {
 public:

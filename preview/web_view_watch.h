@@ -8,15 +8,16 @@
 
 namespace orvane {
 
-/// Whether a page still answers, asked once a second while no box holds it up.
+/// Notices when a page no longer answers: it is asked every second, except while one of its boxes
+/// is open.
 class AnswerWatch : public QObject
 {
 public:
-    /// `holdsUp` tells whether a box is open; `hung` is called once when the page does not answer
-    /// for long. The page must outlive the watch.
+    /// `holdsUp` tells whether a box is open; `hung` is called once when the page has not answered
+    /// for eight seconds. The page must outlive the watch.
     AnswerWatch(QWebEnginePage& page, std::function<bool()> holdsUp, std::function<void()> hung);
 
-    /// Watches from a sign of life on.
+    /// Starts to watch, or starts anew; expects a page whose script has just run.
     void Start();
 
 private:

@@ -8,7 +8,8 @@
 
 namespace orvane {
 
-/// The letters behind "CODE=" of a pasted tag, by which its applet is known.
+/// The characters behind "CODE=" of a pasted tag, by which its applet is known; a quote is one of
+/// them.
 struct AppletLetters
 {
     Text AppletTextAfterCODE; ///< five
@@ -16,16 +17,18 @@ struct AppletLetters
     bool operator==(const AppletLetters&) const = default;
 };
 
-/// The letters behind the first "CODE="; those from the fifth character on when there is none.
+/// The characters behind the first "CODE="; those from the fifth character of the text on when
+/// there is none.
 AppletLetters LettersBehindCode(TextView pasted);
 
 /// What becomes of a pasted tag.
 struct AppletDispatch
 {
+    /// What happens next.
     enum class Way
     {
         NotRecognized, ///< the author is told so
-        Nowhere,       ///< known, but without a wizard
+        Nowhere,       ///< the applet is known but has no wizard; the window closes
         Choice,        ///< the author picks one of three wizards
         Wizard,        ///< the wizard of Kind
     };
@@ -34,7 +37,8 @@ struct AppletDispatch
     bool operator==(const AppletDispatch&) const = default;
 };
 
-/// Where the tag with these five letters behind CODE= goes.
+/// What becomes of the tag with these five characters behind CODE=. Behind an opening quote the
+/// first four letters of an applet's name are enough.
 AppletDispatch RecognizeApplet(TextView appletTextAfterCODE);
 
 /// The wizards that make tags for the animation applet; the author picks one of them.

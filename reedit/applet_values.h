@@ -7,22 +7,25 @@
 
 namespace orvane {
 
-/// The value that follows `key` in a pasted tag, up to the next quote behind its first character; a
-/// quoted value keeps its opening quote. Empty when the key is missing or no quote follows.
+/// The value that follows `key` in a pasted tag, up to the next quote behind its first character,
+/// so that a quoted value keeps its opening quote. Quotes in `key` are ignored. Empty when the key
+/// is missing or no quote follows.
 Text GetAppletValue(TextView pasted, TextView key);
 
-/// The value that follows `key` in the tag, read as the tag says: as GetAppletValue() gives it, or
-/// alone, without its quotes and ended by a blank or ">" where it has none.
+/// The value that follows `key`, read as `tag.Reading` says: with Kept as GetAppletValue() gives
+/// it; with TakenOff without its quotes, and up to a blank, ">" or line end where it has none.
+/// Empty when the key is missing.
 Text TagValue(const PastedTag& tag, TextView key);
 
-/// The leading number of that value, 0 for none, brought within the two bounds.
+/// The number at the start of that value, rounded and kept within `lowest` to `highest`; a value
+/// without one, or with a kept opening quote, counts as 0.
 int TagNumber(const PastedTag& tag, TextView key, int lowest, int highest);
 
-/// The cells of a value of the earlier applet, whose lists are joined by bars.
+/// The pieces of a value of the earlier applet, which joins the entries of a list by "|".
 using PipeValues = std::array<Text, 3>;
 
-/// The first three pieces of a joined value, the last one without its final character. All cells
-/// are empty when the text has no bar.
+/// The piece before the first "|", the one before the second, and all that follows. The last of
+/// them loses its final character. All are empty when the text has no "|".
 PipeValues PipeParse(TextView text);
 
 } // namespace orvane

@@ -44,8 +44,8 @@ std::optional<Complaint> Check(const AdvancedAnimator& animator);
 /// animator that passes Check().
 EffectPayload Generate(const AdvancedAnimator& animator);
 
-/// Fills the animator from a pasted tag. The tag of the earlier applet gives its size and loop
-/// count alone. At most 31 images are read, or all where the quotes are taken off.
+/// Fills the animator from a pasted tag. From the tag of the earlier applet, only size and loop
+/// count are read. At most 31 images are read with Quotes::Kept, all of them with Quotes::TakenOff.
 void ReadTag(AdvancedAnimator& animator, const PastedTag& tag);
 
 } // namespace orvane

@@ -13,7 +13,7 @@ class AdvancedAnimatorForm : public EffectForm<AdvancedAnimator>
 public:
     explicit AdvancedAnimatorForm(Workbench& bench, QWidget* parent = nullptr);
 
-    /// Shows the animation of a project file, as File, Open does once the author has picked it.
+    /// Shows the animation of the project file at this full path, as LoadProject() opens it.
     void ShowProject(TextView path);
 
 private:

@@ -9,15 +9,16 @@
 
 namespace orvane {
 
-/// The bytes of an animation's project file: one record of nine quoted texts. They are
-/// Windows-1252, or UTF-8 behind a byte-order mark when a text needs it. A quote is not escaped.
+/// The bytes of an animation's project file: one line of nine quoted texts with commas between
+/// them. They are in Windows-1252, or in UTF-8 behind a byte-order mark when a text needs it. A
+/// quote inside a text is not escaped.
 std::string ProjectBytes(const AdvancedAnimator& animator);
 
-/// The animation of a project file. Any bytes give one: missing texts are empty, and of more than
-/// 31 images the further rows, up to 32767 in all, are empty.
+/// The animation in the bytes of a project file. Any bytes give one: missing texts are empty, and
+/// of more than 31 images the further rows, up to 32767 in all, are empty.
 AdvancedAnimator ReadProject(std::string_view bytes);
 
-/// The first failing check before a project is saved, or nothing.
+/// The complaint of the first check that fails before a project is saved, or nothing.
 std::optional<Complaint> CheckProject(const AdvancedAnimator& animator);
 
 /// An animation in its window, and the project file that it came from or went to last.
@@ -25,33 +26,34 @@ struct AnimationProject
 {
     AdvancedAnimator Animation;
     Text Path;         ///< empty when there is no such file
-    std::string Saved; ///< the bytes of the animation as it was opened, saved or begun
+    std::string Saved; ///< the bytes of the animation when it was last opened, saved or begun
     bool operator==(const AnimationProject&) const = default;
 };
 
-/// A project without a file that counts as saved.
+/// A project without a file, whose animation counts as saved.
 AnimationProject UnnamedProject(const AdvancedAnimator& animation);
 
-/// Whether the animation is another one than was saved.
+/// Whether the animation differs from the saved one.
 bool IsModified(const AnimationProject& project);
 
-/// Asks where to save the animation, and saves it there; true when it was. A cancel or a failure
-/// changes no file and leaves the project as it was. Expects an animation that passes
+/// Asks where to save the animation and saves it there; true when it was saved. After a cancel or a
+/// failure, which is not told, file and project are as they were. Expects an animation that passes
 /// CheckProject().
 bool SaveProject(AnimationProject& project, Dialogs& dialogs, FileStore& files);
 
-/// Asks for a project and opens it by the rules of LoadProject(); after a cancel the rows are
-/// gone and all else is as it was.
+/// Asks for a project file and gives what LoadProject() makes of it; after a cancel, `project`
+/// without its rows.
 AnimationProject OpenProject(const AnimationProject& project, Dialogs& dialogs,
                              const FileStore& files);
 
-/// The project of a file. One that cannot be read counts as empty and has no path; one of more than
-/// 4 MB is refused with a word, and `project` stays as it is.
+/// The project in the file at `path`. A file that cannot be read counts as one without bytes, and
+/// the project has no path. A file of more than 4 MB is refused with a message, and `project` is
+/// given back.
 AnimationProject LoadProject(const AnimationProject& project, TextView path, Dialogs& dialogs,
                              const FileStore& files);
 
-/// Asks whether to start anew, under the window's caption as title, and gives an animation without
-/// rows, size, background and file on Yes; `project` as it is otherwise.
+/// Asks, under the title `caption`, whether to start anew. On Yes gives an animation without rows,
+/// size, background and file, whose loop count is kept; else `project`.
 AnimationProject NewProject(const AnimationProject& project, Dialogs& dialogs, TextView caption);
 
 } // namespace orvane

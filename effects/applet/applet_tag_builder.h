@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-/// Whom the applets are told to thank, in the lines that name maker and source.
+/// The value of the parameters that tell an applet who made it.
 inline constexpr TextView AppletCredit = u"www.varlo.example";
 
 /// An attribute of an APPLET tag; its value stands in quotes.
@@ -17,7 +17,7 @@ struct AppletAttribute
     TextView Value;
 };
 
-/// Which parts of a PARAM line stand in quotes.
+/// Which parts of a PARAM line are in quotes.
 enum class ParamQuotes
 {
     Value, ///< <PARAM NAME=PAUSE VALUE="100">
@@ -25,7 +25,7 @@ enum class ParamQuotes
     Both,  ///< <PARAM NAME="PAUSE" VALUE="100">
 };
 
-/// Puts an APPLET tag together, line by line in output order; values go in as they are.
+/// Builds an APPLET tag line by line in output order; names and values are not escaped.
 class AppletTagBuilder
 {
 public:
@@ -35,8 +35,8 @@ public:
     /// Adds a PARAM line.
     AppletTagBuilder& Param(TextView name, TextView value, ParamQuotes quotes = ParamQuotes::Value);
 
-    /// Adds what every applet is told of its origin: two lines that name `AppletCredit`, and the
-    /// one that marks the tag as made by this program.
+    /// Adds the lines that every applet gets: two PARAM lines of these names with `AppletCredit`,
+    /// and the line that marks the tag as made by this program.
     AppletTagBuilder& Origin(TextView first, TextView second,
                              ParamQuotes quotes = ParamQuotes::Value);
 

@@ -11,7 +11,7 @@
 
 namespace orvane {
 
-/// What the author enters on the Image Effects window, which makes four effects out of one set of
+/// What the author enters on the Image Effects window, which makes four effects with one set of
 /// controls; the defaults are those of a fresh window.
 struct ImageEffects
 {
@@ -19,14 +19,14 @@ struct ImageEffects
     Text ImageFile;    ///< without its folder
     Text ImageWidth;   ///< pixels, as typed
     Text ImageHeight;  ///< pixels, as typed
-    Text LinkOrColor;  ///< address; of the cube: the channels of its color, as "255,128,0"
+    Text LinkOrColor;  ///< link address; for the cube its background color, as "255,128,0"
     Text ColorSwatch;  ///< the color picked last, as "255,128,0"
     Text TargetFrame;
     Text FrameCount; ///< as typed
     bool chkGradual = false;
     int SizeSlider = 125;
     int RotationSlider = 10;
-    int BackRed = 0; ///< 0 to 255, as are the other two
+    int BackRed = 0; ///< 0 to 255, as are BackGreen and BackBlue
     int BackGreen = 0;
     int BackBlue = 0;
     RequiredFiles Required; ///< the source of `ImageFile`
@@ -58,7 +58,8 @@ void ForEachField(Effects& effects, Field&& field)
     field("Required", effects.Required);
 }
 
-/// The slider of a mode, with the captions at its side and ends.
+/// The size slider of a mode: its range, steps and start value, and the captions beside it and at
+/// its ends.
 struct EffectSlider
 {
     int Lowest;
@@ -89,7 +90,7 @@ enum class ThirdRow
     FrameCount,
 };
 
-/// How the window looks for one of the effects.
+/// What the window shows for one of the effects.
 struct ImageEffectsMode
 {
     TextView Name;
@@ -104,39 +105,41 @@ struct ImageEffectsMode
     std::optional<EffectSlider> Size;
 };
 
-/// The mode of the effect that is chosen, or null while none is.
+/// The mode of the chosen effect, or null while none is chosen.
 const ImageEffectsMode* ModeOf(const ImageEffects& effects);
 
-/// The size slider as it stands now, or nothing where it is hidden. Brighten shows it from the
-/// moment that `chkGradual` is ticked; a new choice of the effect hides it again at a value that
-/// lies outside.
+/// The size slider for the present values, or nothing where it is hidden. Brighten shows it while
+/// `chkGradual` is ticked, unless its value lies above the range, as after a new choice of the
+/// effect.
 std::optional<EffectSlider> SizeSliderOf(const ImageEffects& effects);
 
-/// What a choice in the pick-list does: it empties what was typed and forgets the image's source.
-/// Target frame, rotation, tick and picked color stay.
+/// Applies a choice in the pick-list: empties what was typed, forgets the source of the image and
+/// puts the size slider at its start. Target frame, rotation, `chkGradual` and picked color stay.
 void ChooseEffect(ImageEffects& effects);
 
-/// What a change of `chkGradual` does.
+/// Applies a change of `chkGradual`: ticked, it puts the size slider at its start for Brighten.
 void ChooseGradual(ImageEffects& effects);
 
-/// Takes a color that was picked, as "255,128,0".
+/// Puts a picked color, given as "255,128,0", into the fields.
 void ChooseColor(ImageEffects& effects, const Text& channels);
 
-/// Takes a picked image, or gives what speaks against it; a file that is no picture changes
-/// nothing.
+/// Puts a picked image into the fields, or gives the complaint about its size or name. A file that
+/// is not a picture changes nothing and gives no complaint.
 std::optional<Complaint> ChooseImage(ImageEffects& effects, const PickedImage& image);
 
 /// The first failing check in order, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const ImageEffects& effects);
 
-/// Leads a link that begins with "www." by its scheme.
+/// Puts "http://" in front of a link that begins with "www.".
 void Tidy(ImageEffects& effects);
 
-/// The page text of the effect that is chosen. Expects effects that pass Check().
+/// The page text of the chosen effect; without code while none is chosen. Expects effects that pass
+/// Check().
 EffectPayload Generate(const ImageEffects& effects);
 
-/// Chooses the effect of a pasted tag and fills its fields; an unknown applet chooses none. The
-/// lake's height is halved, and the cube's color is lost unless the quotes are taken off.
+/// Chooses the effect of a pasted tag and fills its fields; for an unknown applet none is chosen.
+/// With Quotes::Kept a number in quotes counts as 0, the lake's height is halved without the
+/// overlap of its reflection, and the cube's color is shown but not used.
 void ReadTag(ImageEffects& effects, const PastedTag& tag);
 
 } // namespace orvane

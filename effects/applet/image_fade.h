@@ -44,7 +44,7 @@ void ForEachField(Fade& fade, Field&& field)
     field("Required", fade.Required);
 }
 
-/// What the author is told when a command finds no row to work on.
+/// What the author is told when a command on the list finds no row to work on.
 inline constexpr RowListWords fadeWords = {
     .EditEmpty = u"Select an image from the list and then click the 'Link to URL' button.",
     .EditNone = u"Select an image from the list and then click the 'Link to URL' button.",
@@ -55,17 +55,19 @@ inline constexpr RowListWords fadeWords = {
         u"Select an item in the Images list.  You cannot move the last image downward.",
 };
 
-/// Adds a picked image behind the others, or gives what speaks against it; a file that is no
-/// picture adds nothing. All images have the size of the first.
+/// Adds a picked image behind the others, or gives the complaint about its name or size: all images
+/// must have the size of the first. A file that is not a picture adds nothing and gives no
+/// complaint.
 std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image);
 
-/// Lets go of an image that left the lists: its source, and with the last one the size.
+/// Removes the source of an image that was removed from both lists at `row`, and the size when no
+/// image is left.
 void ForgetImage(ImageFade& fade, std::size_t row);
 
-/// Lets the sources follow an image that was moved from one row to another.
+/// Moves the source of an image that was moved from row `from` to row `to`.
 void MoveSource(ImageFade& fade, std::size_t from, std::size_t to);
 
-/// What speaks against a link that was entered for an image.
+/// The complaint about an empty link, or nothing.
 std::optional<Complaint> CheckFadeLink(TextView link);
 
 /// The complaint about too few images, or nothing when the wizard may finish.
@@ -74,8 +76,9 @@ std::optional<Complaint> Check(const ImageFade& fade);
 /// The fade's page text. Expects a fade that passes Check().
 EffectPayload Generate(const ImageFade& fade);
 
-/// Fills pause, speed and target from a tag, whose images it leaves out, and forgets the files
-/// recorded so far.
+/// Fills pause, speed and target from a tag whose parameter names have no quotes, and forgets the
+/// recorded files; images are not read. The tags that Generate() gives have quotes there, so that
+/// they give a pause of 0, the slowest speed and no target.
 void ReadTag(ImageFade& fade, const PastedTag& tag);
 
 } // namespace orvane

@@ -19,7 +19,7 @@ private:
     void AddImages(const std::vector<Text>& paths);
     void EditLink();
 
-    /// Shows the fade and keeps the selection.
+    /// Shows the fade in the controls; the selected row stays selected.
     void Show(const ImageFade& fade);
 
     RowListPanel* m_images;

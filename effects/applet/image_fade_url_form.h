@@ -10,7 +10,7 @@ class ImageFadeURLForm : public OkCancelForm
 public:
     ImageFadeURLForm(Workbench& bench, TextView url, QWidget* parent = nullptr);
 
-    /// The link as it was taken.
+    /// The link in the field; after OK with "http://" in front if it began with "www.".
     Text URL() const;
 
 protected:

@@ -9,13 +9,13 @@
 
 namespace orvane {
 
-/// The edges and corners of a transition; the first character stands in the tag.
+/// The directions of a transition; the first character stands in the tag.
 inline constexpr std::array<TextView, 9> TransitionDirections = {
     u"1-Northwest corner", u"2-North edge",       u"3-Northeast corner",
     u"4-East edge",        u"5-Southeast corner", u"6-South edge",
     u"7-Southwest corner", u"8-West edge",        u"r-Random location"};
 
-/// A transition as the author can choose it.
+/// A transition that the author can choose.
 struct Transition
 {
     TextView Name;
@@ -30,7 +30,7 @@ std::span<const Transition> Transitions();
 /// The transition of that name, or null.
 const Transition* FindTransition(TextView name);
 
-/// What the direction box and the two labels turn to; nothing keeps them as they are.
+/// What the direction box and the two labels show for a transition.
 struct DirectionChoice
 {
     std::span<const TextView> Items;
@@ -53,19 +53,22 @@ struct ImageProperties
 /// The fields for a row of the list.
 ImageProperties PropertiesOf(const ImageRow& row);
 
-/// What choosing a transition turns the direction box to; nothing for a text that is none.
+/// What the window shows once this transition is chosen; nothing for a text that is not the name of
+/// one.
 std::optional<DirectionChoice> ChoiceOf(TextView transition);
 
-/// The same for the transition of a row that the window opens with.
+/// What the window shows when it opens with this row; nothing, so that all stays as it is, for a
+/// shutter and for a transition without brackets. Scrolling has no random location there.
 std::optional<DirectionChoice> OpeningChoice(const ImageRow& row);
 
-/// The complaint about the pause, or nothing when the properties may be taken.
+/// The complaint about a pause below -2, or nothing when the properties can be taken.
 std::optional<Complaint> Check(const ImageProperties& properties);
 
-/// The row's new transition, such as "slidein(3)"; empty when none is chosen.
+/// The transition as it stands in a row, such as "slidein(3)"; empty when none is chosen.
 Text TransitionValue(TextView transition, TextView direction);
 
-/// The row with these properties, its image kept. Expects properties that pass Check().
+/// The row with these properties and its own image. An empty pause becomes 100, and an address that
+/// begins with "www." gets "http://". Expects properties that pass Check().
 ImageRow WithProperties(const ImageRow& row, const ImageProperties& properties);
 
 } // namespace orvane

@@ -8,7 +8,7 @@ class QComboBox;
 
 namespace orvane {
 
-/// The properties of one image of the Advanced Animator.
+/// The window for the properties of one image of the Advanced Animator.
 class ImgPropsForm : public OkCancelForm
 {
     Q_OBJECT
@@ -16,9 +16,10 @@ class ImgPropsForm : public OkCancelForm
 public:
     ImgPropsForm(Workbench& bench, const ImageRow& row, QWidget* parent = nullptr);
 
-    /// The row as OK left it; the one handed in after Cancel.
+    /// The row with the properties that OK took over; after Cancel, the row that was handed in.
     const ImageRow& Row() const { return m_row; }
 
+    /// What stands in the fields.
     ImageProperties Properties() const;
 
 protected:

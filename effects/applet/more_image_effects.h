@@ -65,30 +65,30 @@ void ForEachField(Effects& effects, Field&& field)
     field("Required", effects.Required);
 }
 
-/// Whether the effect comes in from an edge that the author chooses.
+/// Whether the chosen effect moves from or to an edge that the author chooses.
 bool ShowsStartEdge(const MoreImageEffects& effects);
 
-/// Whether a choice of the effect leaves the pause to the author.
+/// Whether the chosen effect shows the row of the pause when it is chosen, whatever the loop count.
 bool ShowsPauseOnChoice(const MoreImageEffects& effects);
 
-/// The same after a change of the loop count; an effect that goes on longer than one loop pauses.
+/// Whether the row of the pause is shown for the present loop count.
 bool ShowsPauseForLoops(const MoreImageEffects& effects);
 
-/// The word behind the loop count.
+/// The word behind the loop count: "time" for "1", else "times".
 TextView LoopUnit(TextView loopCount);
 
-/// Takes a picked image, or gives what speaks against it; a file that is no picture changes
-/// nothing.
+/// Puts a picked image into the fields, or gives the complaint about a name with a blank. A file
+/// that is not a picture changes nothing.
 std::optional<Complaint> ChooseImage(MoreImageEffects& effects, const PickedImage& image);
 
 /// The first failing check in order, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const MoreImageEffects& effects);
 
-/// Leads a link that begins with "www." by its scheme.
+/// Puts "http://" in front of a link that begins with "www.".
 void Tidy(MoreImageEffects& effects);
 
-/// The page text of the effect that is chosen. A pause or an edge counts even while its row is
-/// hidden. Expects effects that pass Check().
+/// The page text of the chosen effect. Pause and edge are used even while their rows are hidden.
+/// Expects effects that pass Check().
 EffectPayload Generate(const MoreImageEffects& effects);
 
 } // namespace orvane

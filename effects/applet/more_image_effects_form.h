@@ -27,7 +27,7 @@ private:
     QComboBox* LoopCount = nullptr;
     QComboBox* PauseSeconds = nullptr;
     QComboBox* StartEdge = nullptr;
-    Text m_shownEffect; ///< whose rows were shown last
+    Text m_shownEffect; ///< the effect whose rows were shown last
 };
 
 } // namespace orvane

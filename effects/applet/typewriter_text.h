@@ -32,7 +32,7 @@ struct TypewriterText
     bool operator==(const TypewriterText&) const = default;
 };
 
-/// Where the sources of the two files are recorded.
+/// The slots in which the sources of the two files are recorded.
 inline constexpr std::size_t typewriterBackImageSlot = 0;
 inline constexpr std::size_t typewriterTextFileSlot = 1;
 
@@ -62,23 +62,22 @@ void ForEachField(Typewriter& typewriter, Field&& field)
     field("Required", typewriter.Required);
 }
 
-/// What Next refuses on the first page, and Done on the last one; nothing stands in the way of
-/// leaving the second.
+/// The complaint that keeps the author on a page, counted from 0, or nothing; the second page has
+/// none.
 std::optional<Complaint> CheckPage(const TypewriterText& typewriter, int page);
 
-/// What the author is told who leaves a size field with a value below 1 in it; an empty one is let
-/// be.
+/// The complaint about a size field with a value below 1, or nothing; an empty field gives none.
 std::optional<Complaint> CheckPositive(TextView value);
 
-/// Leads a link that begins with "www." by its scheme.
+/// Puts "http://" in front of a link that begins with "www.".
 void Tidy(TypewriterText& typewriter);
 
-/// The typewriter's page text. Expects a typewriter that passes CheckPage().
+/// The typewriter's page text. Expects a typewriter that passes CheckPage() on every page.
 EffectPayload Generate(const TypewriterText& typewriter);
 
-/// Fills the typewriter from a pasted tag. With the quotes kept it looks for what an earlier
-/// applet's tag holds, so that text and colour of its own tags stay empty, and takes the tag's
-/// delay for the speed; with the quotes taken off it turns its own tag back into its fields.
+/// Fills the typewriter from a pasted tag. With Quotes::Kept the tag is read as one of an earlier
+/// applet: of a tag that Generate() gives, text and colour stay empty, and SPEED is taken as the
+/// speed although it is a delay. With Quotes::TakenOff such a tag gives its fields back.
 void ReadTag(TypewriterText& typewriter, const PastedTag& tag);
 
 } // namespace orvane

@@ -58,30 +58,33 @@ inline constexpr std::array<TextView, 5> buttonActions = {
     u"Link to another Web page", u"Print the current Web page", u"Close the current browser window",
     u"Play a sound", u"Add current Web page to Favorites/Bookmarks"};
 
-/// The action of that item.
+/// The action of that item; None for any other text.
 ButtonAction ActionOf(TextView item);
 
-/// How the window asks for what stands on the button.
+/// How the window asks for the text or image of the button.
 struct ButtonTextBox
 {
     TextView Label;
     TextView Tip;
     bool IsFile = false; ///< filled by Browse
 };
+/// The box for a button of this type.
 ButtonTextBox TextBoxOf(ButtonType type);
 
-/// How the window asks for what the action needs; an empty label when it needs nothing there.
+/// How the window asks for the target of the action; the label is empty when there is nothing to
+/// ask for.
 struct ButtonTargetBox
 {
     TextView Label;
     bool IsFile = false; ///< filled by Browse
 };
+/// The box for this action.
 ButtonTargetBox TargetBoxOf(ButtonAction action);
 
-/// What Next, or Done on the last page, refuses on a page, counted from 0, or nothing.
+/// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const AllInOneButton& button, int page);
 
-/// The button's page text. Expects a button that passes CheckPage().
+/// The button's page text. Expects a button that passes CheckPage() on every page.
 EffectPayload Generate(const AllInOneButton& button);
 
 } // namespace orvane

@@ -13,7 +13,8 @@ class AllInOneButtonForm : public EffectForm<AllInOneButton>
 public:
     explicit AllInOneButtonForm(Workbench& bench, QWidget* parent = nullptr);
 
-    /// Empties the two texts, and shows the boxes that type and action need.
+    /// Empties the boxes for the button's text and for the target, and shows the boxes that type
+    /// and action need.
     void ShowCorrectInputBoxes();
 
 protected:
@@ -28,7 +29,7 @@ private:
     void AddTargetRow(PageBuilder& frame);
     void ChooseType();
 
-    ButtonType m_type = ButtonType::Button; ///< that the boxes are set for
+    ButtonType m_type = ButtonType::Button; ///< the type that the boxes are set for
     bool m_keepsTexts = false;              ///< the next page keeps the texts of a draft
     QLabel* lblButtonText;
     FileNameBox* txtButtonText;

@@ -17,7 +17,7 @@ struct AntiSpamLink
     Text MailToText;
     Text txtImage; ///< file name; empty for a link of text alone
     Text txtSubject;
-    bool chkAntiSpam = true; ///< the address never stands whole in the page
+    bool chkAntiSpam = true; ///< the page has the address in pieces, put together by script
     bool operator==(const AntiSpamLink&) const = default;
 };
 
@@ -32,11 +32,13 @@ void ForEachField(Link& link, Field&& field)
     field("chkAntiSpam", link.chkAntiSpam);
 }
 
-/// The author's address, which is shared with the maker's page editor; empty before the first use.
+/// The author's stored address, which the maker's page editor shares; empty when none is stored.
 Text StoredEmail(const Settings& settings);
+/// Stores the author's address.
 void StoreEmail(Settings& settings, TextView email);
 
-/// The first failing check in field order, or nothing when the wizard may finish.
+/// The complaint of the first check that fails, in the order of the fields, or nothing when the
+/// wizard may finish.
 std::optional<Complaint> Check(const AntiSpamLink& link);
 
 /// The link's page text. Expects a link that passes Check().

@@ -11,14 +11,14 @@ namespace orvane {
 /// What the author enters on the Dynamic Button window; the defaults are those of a fresh window.
 struct DynamicButton
 {
-    Text DefaultImage; ///< file names, as the others
+    Text DefaultImage; ///< a file name, as are the other images and the sounds
     Text OverImage;
     Text OverSound;
     Text ClickImage;
     Text ClickSound;
     Text LinkUrl;
     Text LinkTarget;
-    RequiredFiles Required; ///< what Browse gave, at the slots of the five file fields
+    RequiredFiles Required; ///< what Browse gave, in slots 0 to 4 for the five files in this order
     bool operator==(const DynamicButton&) const = default;
 };
 
@@ -36,18 +36,18 @@ void ForEachField(Button& button, Field&& field)
     field("Required", button.Required);
 }
 
-/// What Next refuses on a page, counted from 0, or nothing.
+/// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const DynamicButton& button, int page);
 
-/// Completes the link's address.
+/// Puts "http://" in front of a link that begins with "www.".
 void Tidy(DynamicButton& button);
 
-/// The name of the sound's element in the page, from the clock in days, so that two buttons of one
-/// page have different names.
+/// The id of the element that plays the sounds: "bgs" and digits of the time, which is given in
+/// days, so that two buttons of one page are unlikely to have the same.
 Text SoundElement(double clock);
 
-/// The button's page text, with its sounds in the element of that name, as SoundElement() gives it.
-/// Expects a button that passes CheckPage() and went through Tidy().
+/// The button's page text, with its sounds in the element of that id (see SoundElement()). Expects
+/// a button that passes CheckPage() and went through Tidy().
 EffectPayload Generate(const DynamicButton& button, TextView soundElement = u"bgs");
 
 } // namespace orvane

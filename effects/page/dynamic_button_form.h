@@ -17,7 +17,7 @@ class DynamicButtonForm : public EffectForm<DynamicButton>
 public:
     explicit DynamicButtonForm(Workbench& bench, QWidget* parent = nullptr);
 
-    /// Ends the edit; nothing of a pasted button comes back into the fields.
+    /// Ends the edit without reading the pasted tag: nothing of it comes back into the fields.
     void EditApplet() { m_bench.Core.EditMode = false; }
 
 protected:

@@ -13,15 +13,15 @@ namespace orvane {
 enum class PasswordScheme
 {
     None = -1,
-    Script = 0, ///< the page itself asks
-    Server = 1, ///< a script of the Web server asks
+    Script = 0, ///< a script in the page asks for the password
+    Server = 1, ///< a script on the Web server checks user name and password
 };
 
-/// What opens the gate of a page; the numbers are the indexes of the options.
+/// Which password a page with the script accepts; the numbers are the indexes of the options.
 enum class PasswordType
 {
     One = 0,  ///< one password for one page
-    Many = 1, ///< each page's name is its password
+    Many = 1, ///< the name of a page, which is then shown
 };
 
 /// What the author enters on the Password Protection window; the defaults are those of a fresh
@@ -31,11 +31,11 @@ struct PasswordProtection
     PasswordScheme optScheme = PasswordScheme::None;
     PasswordType optPasswordType = PasswordType::One;
     Text GatePassword;
-    Text GateUrl; ///< the page behind the gate, or the folder of many pages
+    Text GateUrl; ///< the page that is shown then, or the folder of the many pages
     Text LoginUsername;
     Text LoginPassword;
     Text LandingUrl;
-    bool ChangeSettings = false; ///< shows the two below; they count without it as well
+    bool ChangeSettings = false; ///< shows the two fields below, which are used in any case
     Text CgiDirectory;
     Text PerlPath = u"/usr/bin/perl";
     bool operator==(const PasswordProtection&) const = default;
@@ -57,7 +57,7 @@ void ForEachField(Protection& protection, Field&& field)
     field("PerlPath", protection.PerlPath);
 }
 
-/// The wizard's pages.
+/// The wizard's pages, counted from 0.
 namespace password_pages {
 
 inline constexpr int scheme = 0;
@@ -69,32 +69,36 @@ inline constexpr int server = 2;
 /// What the window says about a scheme.
 TextView DescriptionOf(PasswordScheme scheme);
 
-/// How the window asks for the page behind the gate.
+/// How the window asks for `GateUrl`.
 struct GateWords
 {
     TextView Label;
     TextView Example;
 };
+/// The words for this type of password.
 GateWords GateWordsOf(PasswordType type);
 
-/// What Next, or Done on a last page, refuses on a page, or nothing.
+/// The complaint that keeps the author on a page, or nothing; the script page has none.
 std::optional<Complaint> CheckPage(const PasswordProtection& protection, int page);
 
-/// Mends the addresses of the scheme: no slash behind the gate's, the landing page's prefix, one
-/// slash behind the script's folder, and the usual path where none is given.
+/// Completes the fields of the chosen scheme. Script: a slash at the end of GateUrl is removed.
+/// Server: LandingUrl gets "http://" if it begins with "www.", CgiDirectory a slash at its end, and
+/// an empty PerlPath becomes "/usr/bin/perl".
 void Tidy(PasswordProtection& protection);
 
-/// The name of the server's script.
+/// The file name of the script for the Web server.
 inline constexpr TextView passwordScriptName = u"password.cgi";
 
-/// The text of the server's script. Expects a protection that went through Tidy().
+/// The text of the script for the Web server. Expects a protection that went through Tidy().
 Text PasswordScript(const PasswordProtection& protection);
 
-/// The gate's page text, or that of the login form, which needs the server's script in the
-/// program's folder. Expects a protection that passes CheckPage() and went through Tidy().
+/// The page text of the chosen scheme: the script, or the login form, whose server script must be
+/// in the program's folder. Expects a protection that passes CheckPage() on the pages of its scheme
+/// and went through Tidy().
 EffectPayload Generate(const PasswordProtection& protection);
 
-/// Fills the gate's fields from a pasted gate.
+/// Fills the fields of the script scheme from a pasted script. In a script that Generate() gives,
+/// no password is found.
 void ReadTag(PasswordProtection& protection, const PastedTag& tag);
 
 } // namespace orvane

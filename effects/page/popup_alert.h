@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-/// A type of box as the list shows it, and what it allows.
+/// A type of box: its item in the list, and what it allows.
 struct AlertType
 {
     TextView Item;
@@ -39,13 +39,14 @@ void ForEachField(Alert& alert, Field&& field)
     field("txtAlertText", alert.txtAlertText);
 }
 
-/// What a type of box allows; empty when none is chosen.
+/// The description of a type of box; empty for any other text.
 TextView AlertTypeDescription(TextView type);
 
-/// The first failing check in field order, or nothing when the wizard may finish.
+/// The complaint of the first check that fails, in the order of the fields, or nothing when the
+/// wizard may finish.
 std::optional<Complaint> Check(const PopupAlert& alert);
 
-/// Writes the line ends of the text as a script's string has them.
+/// Replaces the line ends of the text by "\n", as a script's string needs them.
 void Tidy(PopupAlert& alert);
 
 /// The box's page text. Expects an alert that passes Check() and went through Tidy().

@@ -24,10 +24,10 @@ struct PopupWindow
     Text txtLinkItem; ///< text of the link, or file name of the image
     Text txtWindowName;
     Text txtURL;
-    Text txtWidth;  ///< pixels, as typed
-    Text txtHeight; ///< pixels, as typed
-    Text txtHorizLocation;
-    Text txtVertLocation;
+    Text txtWidth;         ///< pixels, as typed
+    Text txtHeight;        ///< pixels, as typed
+    Text txtHorizLocation; ///< pixels, as typed; may be empty
+    Text txtVertLocation;  ///< the same
     bool chkShowToolbar = false;
     bool chkShowStatusBar = false;
     bool chkShowLocation = false;
@@ -61,7 +61,7 @@ void ForEachField(Window& window, Field&& field)
     field("Required", window.Required);
 }
 
-/// How the frame of the link asks for what is clicked.
+/// What the link frame shows: how it asks for what is clicked.
 struct LinkSettings
 {
     TextView Explanation;
@@ -70,17 +70,17 @@ struct LinkSettings
     bool IsFile = false; ///< the item is filled by Browse
 };
 
-/// The frame of the link for a choice; nothing when the choice needs no link.
+/// The link frame for a choice; nothing when the choice needs no link.
 std::optional<LinkSettings> LinkSettingsFor(WhenToAppear choice);
 
-/// Whether a file shown in the popup window is a picture, whose size the window takes.
+/// Whether the name ends like that of a picture (jpg, gif), whose size the popup window then takes.
 bool IsPopupPicture(TextView fileName);
 
-/// What Next, or Done on the last page, refuses on a page, counted from 0, or nothing.
+/// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const PopupWindow& window, int page);
 
-/// The call of the popup window in the page, with the file that it shows. Expects a window that
-/// passes CheckPage().
+/// The page text that opens the popup window, with the file that it shows. Expects a window that
+/// passes CheckPage() on every page.
 EffectPayload Generate(const PopupWindow& window);
 
 } // namespace orvane

@@ -26,7 +26,7 @@ private:
     void ChooseWhenToAppear();
     void TakeSize(const Text& path);
 
-    WhenToAppear m_choice = WhenToAppear::OnLoad; ///< that the link frame is set for
+    WhenToAppear m_choice = WhenToAppear::OnLoad; ///< the choice that the link frame is set for
     QGroupBox* frameLinkSettings;
     QLabel* lblLinkExplanation;
     QLabel* lblLinkItem;

@@ -40,7 +40,7 @@ void ForEachField(Menu& menu, Field&& field)
 inline constexpr std::array<TextView, 4> menuTargets = {u"blank - Open in new window", u"parent",
                                                         u"self", u"top"};
 
-/// The item that parts a menu; it is known by this text and has no address.
+/// The text of a separator in the menu. An item with this text is a separator and has no address.
 inline constexpr TextView menuSeparator = u"--------------------";
 
 /// What the author enters for one item.
@@ -51,13 +51,13 @@ struct MenuItem
     bool operator==(const MenuItem&) const = default;
 };
 
-/// What an item may not be left without, or nothing when it may go into the menu.
+/// The complaint about an item without text or address, or nothing when it may go into the menu.
 std::optional<Complaint> Check(const MenuItem& item);
 
-/// Completes the item's address.
+/// Puts "http://" in front of an address that begins with "www.".
 void Tidy(MenuItem& item);
 
-/// Why the item of that text cannot be edited, or nothing when it can.
+/// The complaint that a separator cannot be edited, or nothing for any other item.
 std::optional<Complaint> CheckEdit(TextView item);
 
 /// The complaint about a menu without items, or nothing when the wizard may finish.

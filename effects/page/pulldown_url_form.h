@@ -11,10 +11,10 @@ class PulldownURLForm : public OkCancelForm
     Q_OBJECT
 
 public:
-    /// Shows the item, whose fields are empty when it is a new one.
+    /// Shows the item; a new one has empty fields.
     PulldownURLForm(Workbench& bench, const MenuItem& item, QWidget* parent = nullptr);
 
-    /// What the fields hold; after OK an item that may go into the menu.
+    /// What stands in the fields; after OK an item that passes Check().
     MenuItem Item() const;
 
 protected:

@@ -15,7 +15,8 @@ enum class SearchPlace
     Site = 1,
 };
 
-/// The mode of the search box; any other text is that of the translator.
+/// The values of SearchBox::Mode: the search box, and the translator, which any other text means as
+/// well.
 inline constexpr TextView searchMode = u"Search";
 inline constexpr TextView translateMode = u"Translate";
 
@@ -43,23 +44,24 @@ void ForEachField(Box& box, Field&& field)
     field("txtTranslateURL", box.txtTranslateURL);
 }
 
-/// What the window is called and shows in a mode.
+/// The effect of a mode, and the headings of its window.
 struct SearchModeWords
 {
     EffectKind Kind;
     TextView Heading;
     TextView SubHeading;
 };
+/// The words of this mode.
 SearchModeWords WordsOfMode(TextView mode);
 
-/// The picture of both forms, which lies in the program's folder and must lie beside the page.
+/// The picture in both forms. It is in the program's folder and must be copied beside the page.
 inline constexpr TextView searchLogo = u"GoogleLogo.gif";
 
-/// The failing check of the mode, or nothing when the wizard may finish.
+/// The complaint about the address that the mode needs, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const SearchBox& box);
 
-/// The form's page text, with its picture in slot 0 of the files and the picture's source unknown.
-/// Expects a box that passes Check().
+/// The form's page text, with its picture in file slot 0, without a source. Expects a box that
+/// passes Check().
 EffectPayload Generate(const SearchBox& box);
 
 } // namespace orvane

@@ -11,7 +11,7 @@ class SearchBoxForm : public EffectForm<SearchBox>
     Q_OBJECT
 
 public:
-    /// The window in that mode.
+    /// Shows the window in that mode.
     explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = searchMode);
 
 protected:

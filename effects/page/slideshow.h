@@ -37,16 +37,16 @@ void ForEachField(Show& show, Field&& field)
     field("Required", show.Required);
 }
 
-/// What the author is told when a slideshow has lost both its timer and its buttons, and the box
-/// that gets the tick in its place; `unticked` is the box that the author has just emptied. Nothing
-/// as long as the show can move.
+/// The complaint when the slideshow would neither start by itself nor have buttons, with the check
+/// box that is ticked instead as its control; nothing otherwise. `unticked` is the object name of
+/// the check box that the author has just cleared.
 std::optional<Complaint> CheckMoves(const Slideshow& show, std::string_view unticked);
 
-/// What Next refuses on a page, counted from 0, or nothing.
+/// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const Slideshow& show, int page);
 
-/// The slideshow's page text, with the images that must lie beside the page. Expects a show that
-/// passes CheckPage().
+/// The slideshow's page text, with the images that must be copied beside the page. Expects a show
+/// that passes CheckPage() on every page.
 EffectPayload Generate(const Slideshow& show);
 
 } // namespace orvane

@@ -22,9 +22,9 @@ enum class ClockContent
 struct DigitalClock
 {
     ClockContent optDateTime = ClockContent::Date;
-    Text lstDateTimeFormat; ///< the selected item; empty when none is
+    Text lstDateTimeFormat; ///< the selected item; empty when none is selected
     bool chkDayOfWeek = false;
-    bool chkShowTimeBeforeDate = false; ///< counts for date and time alone
+    bool chkShowTimeBeforeDate = false; ///< counts only for DateAndTime
     bool chkMilitaryTime = false;
     bool chkShowSeconds = false;
     bool chkShowAMPM = false;
@@ -80,8 +80,8 @@ inline constexpr std::array<DateFormat, 12> dateFormats = {{
     {u"28-11-2001", u""},
 }};
 
-/// Where the author is: the page, and the number of pages seen that the heading shows. Page 5 means
-/// that the wizard ends.
+/// Where the author is: the page, counted from 1, and the number of pages seen, which the heading
+/// shows. Page 5 means that the wizard ends.
 struct ClockPosition
 {
     std::int16_t CurrentPage = 1;
@@ -89,17 +89,18 @@ struct ClockPosition
     bool operator==(const ClockPosition&) const = default;
 };
 
-/// The position behind `at`; pages without a choice to make are passed over.
+/// The position after Next; the date page is skipped for the time alone, the time page for the date
+/// alone.
 ClockPosition NextPage(const DigitalClock& clock, ClockPosition at);
 
-/// The position in front of `at`; the step falls by one however many pages are passed over.
+/// The position after Previous, with the same pages skipped; the step falls by one even then.
 ClockPosition PreviousPage(const DigitalClock& clock, ClockPosition at);
 
-/// The complaint about a missing date format, which keeps pages 3 and 4 from being shown.
+/// The complaint about a missing date format, or nothing; pages 3 and 4 are not shown with it.
 std::optional<Complaint> Check(const DigitalClock& clock);
 
-/// The clock's page text; beside it the script alone, and the elements with words in place of the
-/// time. Expects a clock that passes Check().
+/// The clock's page text; SavedHEAD is its script alone, SavedBODY its elements with sample words
+/// in place of the time. Expects a clock that passes Check().
 EffectPayload Generate(const DigitalClock& clock);
 
 } // namespace orvane

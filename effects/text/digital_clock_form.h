@@ -11,8 +11,8 @@ class DigitalClockForm : public EffectForm<DigitalClock>
 public:
     explicit DigitalClockForm(Workbench& bench, QWidget* parent = nullptr);
 
-    /// Shows the page with that number; 5 delivers the clock, any number beyond 1 to 5 does
-    /// nothing. Without a date format pages 3 and 4 are refused with a message.
+    /// Shows the page with that number, counted from 1. 5 delivers the clock; a number outside 1 to
+    /// 5 does nothing. Without a date format, pages 3 and 4 are refused with a message.
     void ChangePage(int page);
 
 protected:

@@ -30,7 +30,7 @@ std::optional<Complaint> Check(const StatusBarTicker& ticker);
 /// The ticker's page text. Expects a ticker that passes Check().
 EffectPayload Generate(const StatusBarTicker& ticker);
 
-/// Takes the text out of a pasted script; empty when it holds none.
+/// Fills the text from a pasted script; with nothing when the script has no text of a ticker.
 void ReadTag(StatusBarTicker& ticker, const PastedTag& tag);
 
 } // namespace orvane

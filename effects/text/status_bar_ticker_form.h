@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-/// The window of the Status Bar Ticker. No way of the program leads to its reader: pasted scripts
-/// are not recognised.
+/// The window of the Status Bar Ticker. The program never fills it from a pasted script, since such
+/// scripts are not recognised.
 class StatusBarTickerForm : public EffectForm<StatusBarTicker>
 {
 public:

@@ -10,7 +10,8 @@
 
 namespace orvane {
 
-/// Over what the mouse brings the tooltip up; the numbers are the indexes of the options.
+/// What the mouse must be over for the tooltip to appear; the numbers are the indexes of the
+/// options.
 enum class HoverObject
 {
     None = -1,
@@ -18,7 +19,7 @@ enum class HoverObject
     Image = 1,
 };
 
-/// Where the tooltip comes up.
+/// Where the tooltip appears.
 inline constexpr std::array<TextView, 2> tooltipLocations = {u"Below the mousepointer",
                                                              u"Above the mousepointer"};
 
@@ -29,7 +30,7 @@ struct Tooltips
     Text cboFont = u"Arial";
     Text cboFontSize = Text(FontSizes[6]);
     Text cboFontStyle = u"Normal";
-    Text TextColor = u"#000000"; ///< a picked one is as "rgb(255,128,0)"
+    Text TextColor = u"#000000"; ///< a picked color is as "rgb(255,128,0)"; so is BGColor
     Text BGColor = u"#FFFFFF";
     Text txtWidth = u"150";
     Text txtHeight = u"50";
@@ -64,7 +65,7 @@ void ForEachField(Tooltip& tooltip, Field&& field)
     field("txtImage", tooltip.txtImage);
 }
 
-/// What Next refuses on a page, which is counted from 0; nothing when the author may go on.
+/// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const Tooltips& tooltip, int page);
 
 /// The tooltip's page text, with the image that must lie beside the page. Expects a tooltip that

@@ -20,13 +20,13 @@ struct VerticalScroller
     Text cboFont = u"Arial";
     Text cboFontSize = Text(FontSizes[6]);
     Text cboFontStyle = u"Normal";
-    Text TextColor; ///< as "rgb(255,128,0)"; empty when none was picked, as are the other two
+    Text TextColor; ///< as "rgb(255,128,0)", like the other two; empty when none was picked
     Text LinkColor;
-    Text cboTextAlign = u"Left"; ///< stays as it is: no page has ever shown it
+    Text cboTextAlign = u"Left"; ///< has no effect on the page text
     Text txtWidth = u"150";
     Text txtHeight = u"75";
     Text BGColor;
-    int sldrSpeed = 90;
+    int sldrSpeed = 90;   ///< a pixel takes 105 milliseconds less this value
     Text txtPause = u"3"; ///< seconds, as typed
     bool operator==(const VerticalScroller&) const = default;
 };
@@ -60,13 +60,13 @@ inline constexpr RowListWords scrollerWords{
     .CannotMoveDown = u"Select an item in the list.  You cannot move the last item downward.",
 };
 
-/// The complaint about an empty text of a message.
+/// The complaint about an empty text of a message, or nothing.
 std::optional<Complaint> CheckScrollerItem(TextView txtItem);
 
-/// What keeps the author on a page, which is counted from 0; nothing when there is no such thing.
+/// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page);
 
-/// Puts the usual colours where none was picked.
+/// Puts the default colours where none was picked.
 void Tidy(VerticalScroller& scroller);
 
 /// The scroller's page text. Expects a scroller that passes CheckPage() on every page.
