@@ -46,9 +46,9 @@ struct OrvaneCore
     Text AppletText;                    ///< eight characters behind CODE= of the pasted tag
     Text AppletTextAfterCODE;           ///< the first five of them
     Text PastedApplet;                  ///< the whole pasted tag
-    Text ImageFolderMemo;               ///< folders that Browse opened last, for images,
-    Text LinkFolderMemo;                ///< for files to link to
-    Text LastSoundFolder;               ///< and for sounds
+    Text ImageFolderMemo;               ///< where Browse found an image last
+    Text LinkFolderMemo;                ///< where Browse found a page to link to last
+    Text LastSoundFolder;               ///< where Browse found a sound last
     Text BrowserPathChoice;             ///< the program that BrowseDialog() picked last
     Text RandomMode;
     bool TransitionsImageMode = false;
