@@ -37,8 +37,8 @@ struct CopyDesk
 /// Tells the author at the end whether everything was copied, and gives the names that are missing.
 /// Expects the folder with its final separator, or the empty text for the current folder. A fault
 /// that concerns more than one file, such as a full disk, ends the copying; it is given back
-/// without a word to the author, for the caller to show. When the author cancels with files
-/// missing, they are told, and Cancelled is given. Every file is copied as a whole or not at all.
+/// without a word to the author, for the caller to show. When the author cancels and files are
+/// missing, a message lists them and Cancelled is given. No file is ever copied in part.
 [[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder);
 
 /// Copies the author's files to the program's folder, in which the preview page is; a name that is
