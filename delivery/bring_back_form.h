@@ -13,10 +13,12 @@ class BringBackForm : public OkCancelForm
     Q_OBJECT
 
 public:
-    /// Shows the backups of the page with that full path; of none when it is empty.
+    /// Shows the backups of the page with that full path; with an empty path the author looks for a
+    /// page first.
     BringBackForm(Workbench& bench, TextView page, QWidget* parent = nullptr);
 
-    /// The page that holds an earlier version now; nothing when the author left without that.
+    /// The full path of the page that was brought back to an earlier version; nothing when none
+    /// was.
     const std::optional<Text>& BroughtBack() const { return m_broughtBack; }
 
 protected:

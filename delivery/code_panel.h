@@ -21,22 +21,24 @@ class CodePanel : public QWidget
     Q_OBJECT
 
 public:
-    /// What tells the three pages from one another.
+    /// The object names and words in which the three pages differ.
     struct Words
     {
         ControlName HelpLabel;
         ControlName Box;
         ControlName CopyButton;
-        TextView Part; ///< of the page that gets the code
-        Text Example;  ///< empty for none
+        TextView Part; ///< where in the page the code goes, such as "HEAD"
+        Text Example;  ///< shown below the code; empty for none
     };
-    /// The copy button gives the code itself, not what the box shows of it.
+    /// The copy button copies `code` itself, not the text of the box, and notes it in the report.
+    /// Bench and report must outlive the panel.
     CodePanel(Workbench& bench, const Words& words, const Text& code, DeliveryReport& report);
 
-    /// Shows, in front of the code, the lines of the page script with a copy button of their own.
+    /// Shows or hides, above the code, the lines that load the page script, with a copy button of
+    /// their own. While they are shown, a code box without code is hidden.
     void ShowPageScript(bool isWanted);
 
-    /// Offers help for the author's page editor.
+    /// Sets the words of the help link and the topic that it opens.
     void OfferHelp(const EditorHelp& help);
 
 private:
@@ -50,7 +52,7 @@ private:
     int m_helpTopic = 0;
     MultiLineBox* m_box;
     QPushButton* m_copy;
-    QWidget* m_pageScript; ///< empty until it is shown for the first time
+    QWidget* m_pageScript; ///< has no controls until it is shown for the first time
     LinkLabel* lblNeedHelp;
 };
 

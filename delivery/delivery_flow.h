@@ -15,52 +15,56 @@ enum class InsertMode
     NewPage = 2,
 };
 
-/// What the way through the delivery wizard depends on, besides the insertion mode.
+/// What decides, besides the insertion mode, which pages of the delivery wizard are shown.
 struct DeliveryFacts
 {
     bool HasHead = false;
     bool HasBody = false;
-    bool HasEvents = false;    ///< a call from onLoad or onUnload
-    bool HasAttribute = false; ///< a text for the BODY tag
+    bool HasEvents = false;    ///< onLoad or onUnload of the BODY tag calls a function
+    bool HasAttribute = false; ///< there is a text to put into the BODY tag
     bool NeedsFiles = false;
     bool IsEditorKnown = false; ///< the page editor was chosen in this run or an earlier one
 };
 
-/// The page script comes as a part of the HEAD code, and as a file.
+/// These facts for a payload. A wanted page script counts as HEAD code and as a file that is
+/// needed.
 DeliveryFacts FactsOf(const FinishedPayload& payload, bool isEditorKnown);
 
 /// A place in the delivery wizard.
 struct DeliveryStep
 {
-    std::int16_t PageStep = 1;   ///< 1 to 9; 0 is the way back to the effect's wizard
-    std::int16_t StepNumber = 1; ///< counts the pages that the author has seen
+    std::int16_t PageStep = 1;   ///< the page, 1 to 9; 0 leads back to the effect's wizard
+    std::int16_t StepNumber = 1; ///< in the heading; "Next" adds 1, "Previous" takes 1 off
     bool operator==(const DeliveryStep&) const = default;
 };
 
-/// The place behind "Next" and before "Previous".
+/// The place that "Next" leads to, past the pages that this effect does not need.
 DeliveryStep NextStep(DeliveryStep step, InsertMode mode, const DeliveryFacts& facts);
+
+/// The place that "Previous" leads to; PageStep is 0 before the first page.
 DeliveryStep PreviousStep(DeliveryStep step, InsertMode mode, const DeliveryFacts& facts);
 
-/// What stays the same about a page: its panel, words and help topic.
+/// The panel, words and help topic of a page.
 struct DeliveryPage
 {
-    int Panel = 0;
+    int Panel = 0; ///< index of the panel that the page shows
     Text Heading;
     Text SubHeading;
-    int HelpContext = 0;
+    int HelpContext = 0; ///< number of the help topic
     bool operator==(const DeliveryPage&) const = default;
 };
 
-/// The page with that number; expects 1 to 9.
+/// The page at that place. Expects a PageStep of 1 to 9; throws std::logic_error for any other.
 DeliveryPage DescribePage(DeliveryStep step, InsertMode mode);
 
-/// What the option of an insertion mode says.
+/// The words beside the option button of an insertion mode.
 struct InsertModeWords
 {
     TextView Caption;
     TextView Explanation;
 };
 
+/// These words by the value of InsertMode.
 inline constexpr std::array<InsertModeWords, 3> insertModes = {{
     {u"Auto-insert",
      u"Orvane will automatically insert the special effect code into your Web page and copy the "
@@ -71,7 +75,7 @@ inline constexpr std::array<InsertModeWords, 3> insertModes = {{
     {u"Create new Web page", u"Orvane will create a new Web page with your special effect."},
 }};
 
-/// The page editors of `lstHTMLEditors`, in its order.
+/// The page editors that `lstHTMLEditors` lists, in its order.
 inline constexpr std::array<TextView, 10> htmlEditors = {u"AOLPress",
                                                          u"FrontPage",
                                                          u"FrontPage Express",

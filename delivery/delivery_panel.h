@@ -12,15 +12,18 @@ class FinishPanel;
 class InsertPanel;
 class MethodPanel;
 
-/// The delivery wizard's pages behind its preview, each without a parent yet.
+/// The panels of all pages of the delivery wizard that come after the preview.
 struct DeliveryPanels
 {
+    /// Makes the panels, each without a parent yet. Expects a desk with a report; bench and what
+    /// the desk refers to must outlive the panels.
     DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder);
 
-    /// All of them in the order of their indexes, which begin with 1.
+    /// All panels in the order of their indexes, which begin with 1: 0 is the preview.
     std::array<QWidget*, 9> InOrder() const;
 
-    /// Offers on the pages with code the help that fits the author's editor.
+    /// Sets the help link of the three pages with code to the help for the author's page editor.
+    /// `isScripted` chooses the help for effects whose script needs more explanation.
     void OfferEditorHelp(const Settings& settings, bool isScripted) const;
 
     EditorPanel* Editor;

@@ -6,37 +6,44 @@
 
 namespace orvane {
 
-/// What the report calls the lines that lead to the page script.
+/// The report's name for the lines of code that load the page script.
 inline constexpr TextView pageScriptPart = u"page script";
 
 /// What one run of the delivery wizard has done so far, for its last page.
 class DeliveryReport
 {
 public:
-    /// The effect stands in the page with this full path.
+    /// Notes that the effect was written into the page with this full path.
     void PageWritten(TextView path);
-    /// The page with this full path holds an earlier version again, without the effect.
+    /// Notes that the page with this full path was brought back to an earlier version, without the
+    /// effect.
     void PageBroughtBack(TextView path);
-    /// A piece of code, such as "HEAD", was put on the clipboard.
+    /// Notes that the code for this part of the page, such as "HEAD", was put on the clipboard.
     void CodeCopied(TextView part);
-    /// A file was brought to the folder, or could not be.
+    /// Notes that a file was copied to the folder.
     void FileCopied(TextView folder, TextView name);
+
+    /// Notes that a file that the folder needs could not be copied there.
     void FileMissing(TextView folder, TextView name);
 
-    /// The page written last; empty when there is none.
+    /// The full path of the page written last, even if it was brought back; empty when there is
+    /// none.
     const Text& Page() const { return m_page; }
 
-    /// The folder that got a page or a file last; empty when there is none.
+    /// The folder, with its final separator, that a page or a file was written to last; empty when
+    /// there is none.
     const Text& Folder() const { return m_folder; }
 
-    /// Whether the effect reached a page or the clipboard.
+    /// Whether the effect stands in a page or its code was put on the clipboard; the page script
+    /// alone does not count.
     bool HasDelivered() const;
 
-    /// What the author is told, line by line.
+    /// The words for the author, line by line, without line ends.
     std::vector<Text> Lines() const;
 
 private:
-    /// What lies in one folder now, and what its pages still lack there.
+    /// The names of the pages written to one folder, of the files copied and of those missing
+    /// there.
     struct FolderState
     {
         Text Path; ///< with its final separator

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-/// What `lblNeedHelp` offers on the pages of the manual way.
+/// What `lblNeedHelp` offers on the three pages that show code to be copied by hand.
 struct EditorHelp
 {
     int Topic = 0; ///< the help topic that a click opens
@@ -12,7 +12,8 @@ struct EditorHelp
     bool operator==(const EditorHelp&) const = default;
 };
 
-/// The help for the author's page editor; an editor without a topic of its own gets the page's.
+/// The help for the author's page editor; the topic is `pageTopic` for an editor without one of its
+/// own. `scriptedHelp` chooses the topic for effects whose script needs more explanation.
 EditorHelp setWebPageEditor(TextView editor, bool scriptedHelp, int pageTopic);
 
 } // namespace orvane

@@ -16,10 +16,11 @@ class EditorPanel : public QWidget
 public:
     EditorPanel();
 
-    /// The page comes to the front.
+    /// Called when the page is shown: gives the list of editors the focus.
     void Begin();
 
-    /// Keeps the chosen editor for this and later runs, unless one is known.
+    /// Stores the chosen editor for this and later runs; does nothing when none is chosen or one is
+    /// stored already.
     void Keep(Settings& settings) const;
 
 signals:

@@ -6,11 +6,12 @@
 
 namespace orvane {
 
-/// What `lstFilesToUpload` holds from the start: the files that the effect always needs, and
-/// the page script where the author wants it.
+/// The first names of `lstFilesToUpload`: the class files and others that each effect of this kind
+/// needs, and the page script where the author wants it; "No Required Files." in place of none.
 std::vector<Text> FilesToUpload(const FinishedPayload& payload);
 
-/// What the last page adds behind them: the author's own files, none for an effect without files.
+/// The names that follow on the last page: the author's own files; none for an effect that needs no
+/// files.
 std::vector<Text> ListedFiles(const FinishedPayload& payload);
 
 } // namespace orvane

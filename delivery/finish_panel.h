@@ -17,13 +17,15 @@ class FinishPanel : public QWidget
     Q_OBJECT
 
 public:
+    /// All that is passed here must outlive the panel.
     FinishPanel(Workbench& bench, const FinishedPayload& payload, const DeliveryReport& report);
 
-    /// The page comes to the front, or what it tells has changed.
+    /// Called when the page is shown or the report has changed: shows the report, the buttons that
+    /// apply and the files to upload anew.
     void Begin();
 
 signals:
-    /// An earlier version of the delivered page is wanted.
+    /// The author wants an earlier version of the page with this full path.
     void BringBackWanted(const orvane::Text& page);
 
 private:

@@ -16,6 +16,7 @@ class FtpPanel : public QWidget
     Q_OBJECT
 
 public:
+    /// The settings must outlive the panel.
     explicit FtpPanel(Settings& settings);
 
     /// Fills the server list and the user name from the settings.

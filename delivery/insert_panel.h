@@ -20,36 +20,40 @@ class InsertPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// What the desk refers to must outlive the panel.
+    /// Expects a desk with a report. Bench and what the desk refers to must outlive the panel.
     InsertPanel(Workbench& bench, const CopyDesk& desk);
 
-    /// The page comes to the front with the controls for a new page or for one that is there.
+    /// Called when the page is shown: shows the controls for a new page or for an existing one.
     void Begin(bool isNewPage);
 
-    /// The command that waits to be done; null when it was done.
-    /// A new page and one that is there have each their own.
+    /// The button that Enter is to press: "Save as New Web page" for a new page, "Auto-insert" for
+    /// an existing one; null once that succeeded.
     QPushButton* Action(bool isNewPage) const;
 
-    /// An existing page lost the effect again, so that Auto-insert is the action anew.
+    /// Called when an existing page was brought back to an earlier version: Action() gives
+    /// "Auto-insert" again.
     void EffectTakenBack() { m_isInserted = false; }
 
 signals:
+    /// The name of the page cannot be used.
     void Complained(const orvane::Complaint& complaint);
-    /// The effect cannot be inserted without the author, who goes on by hand.
+    /// The effect cannot be inserted automatically; the author has to copy its code by hand.
     void ManualWanted();
-    /// The page is written, and what its files need is done or was told.
+    /// The page is written and its files are copied; for an existing page also when the author was
+    /// told that some are missing or ended the copying.
     void Delivered();
-    /// A new page is written to the folder, but some of its files are not.
+    /// A new page is written to this folder, but some of its files could not be copied there.
     void FilesMissing(const orvane::Text& folder);
 
 private:
     void BrowseForPage();
     void TakePage(const Text& path);
-    /// The effect stands in the page with this full path.
+    /// Notes the written page in the report and among the recent pages.
     void WriteDown(const Text& page);
     void InsertIntoPage();
     void SaveWebPage();
-    /// Whether all is there; nothing when a fault ended the copying and the author was told.
+    /// Copies the files that the page needs; true when all are there. Nothing when a fault ended
+    /// the copying, which the author was told.
     std::optional<bool> CopyFiles(TextView folder);
 
     Workbench& m_bench;

@@ -8,16 +8,18 @@
 
 namespace orvane {
 
-/// How OK ended in the "Create Folder" window.
+/// What a press of OK in the "Create Folder" window leads to.
 struct MakeDirEnd
 {
     bool Closes = false;           ///< the window closes
-    std::optional<Text> NewFolder; ///< where `dirCopyTo` goes; nothing: it stays where it is
+    std::optional<Text> NewFolder; ///< what `dirCopyTo` shows then; nothing: the same as before
     bool operator==(const MakeDirEnd&) const = default;
 };
 
-/// Creates the folder named by the text field below the folder that the window's folder box shows.
-/// A failure is silent; a folder that exists already is taken as it is.
+/// Creates a folder in `folder`, with the text of the field, trimmed, as its name. The author is
+/// told to enter a name when the field is empty, and the window stays open; a field of blanks
+/// closes it. A folder that exists already counts as created. When it cannot be created the author
+/// is not told.
 MakeDirEnd MakeDirEnter(TextView folder, TextView field, FileStore& files, Dialogs& dialogs);
 
 } // namespace orvane

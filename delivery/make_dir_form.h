@@ -18,10 +18,10 @@ class MakeDirForm : public QDialog
     Q_OBJECT
 
 public:
-    /// `folder` is the one that the delivery wizard shows.
+    /// Shows `folder` first, in which the new one is to be.
     MakeDirForm(Workbench& bench, TextView folder, QWidget* parent = nullptr);
 
-    /// Where the delivery wizard's folder box goes; nothing when it stays.
+    /// The full path of the new folder, for the caller to show; nothing when none was made.
     const std::optional<Text>& NewFolder() const { return m_newFolder; }
 
 private:

@@ -4,8 +4,10 @@
 
 namespace orvane {
 
-/// Copies the files that the author selected in one folder to another and tells which were copied;
-/// takes the names that now lie there off `missing`.
+/// Copies the selected files from one folder to another, asks before it overwrites one, and tells
+/// the author which were copied; their names are taken off `missing`. With none selected the author
+/// is told to select one. Stops when the author cancels; any other fault of a file is told and
+/// skips it.
 void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
                 const std::vector<Text>& selected, MissingFiles& missing);
 

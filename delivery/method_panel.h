@@ -14,13 +14,16 @@ class MethodPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// Starts with auto-insertion.
+    /// Auto-insertion is chosen at first.
     MethodPanel();
 
-    /// The page comes to the front.
+    /// Called when the page is shown: gives the chosen option button the focus.
     void Begin();
 
+    /// The chosen insertion mode.
     InsertMode Mode() const;
+
+    /// Chooses an insertion mode.
     void Choose(InsertMode mode);
 
 private:

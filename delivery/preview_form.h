@@ -12,37 +12,39 @@ namespace orvane {
 /// How the delivery wizard ended.
 enum class DeliveryEnd
 {
-    Finished,     ///< Done, Cancel or the window's frame: the effect's wizard is unloaded too
+    Finished,     ///< by Done, Cancel or closing the window: the effect's wizard closes too
     BackToWizard, ///< the author wants to change the effect
 };
 
-/// The windows that the delivery wizard opens.
+/// The windows that the delivery wizard opens, each by a function that returns when it is closed.
 struct PreviewWindows
 {
-    std::function<void()> ShowOptions;
+    std::function<void()> ShowOptions; ///< the preferences
     MakeFolderWindow MakeFolder;
-    /// Offers the backups of a page; true when it holds an earlier version then.
+    /// Offers the backups of the page with this full path; true when the author brought one back.
     std::function<bool(const Text& page)> BringBack;
 };
 
-/// The delivery wizard: leads from a finished payload to an effect in the author's page. This is
-/// the way from page to page; what a page shows and does stands in its panel.
+/// The delivery wizard: leads from a finished payload to an effect in the author's page. This class
+/// decides which page comes next; what a page shows and does is in its panel.
 class PreviewForm : public WizardFrame
 {
     Q_OBJECT
 
 public:
-    /// `pane` is the widget of the bench's preview pane; it is borrowed while this window lives and
-    /// may be null.
+    /// `pane` is the widget of the bench's preview pane, or null. This window shows it while it
+    /// exists, without owning it. Bench and `windows` must work for as long.
     PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
                 PreviewWindows windows, QWidget* parent = nullptr);
 
-    /// Gives the pane back, removes the preview page and empties the shared payload's code.
+    /// Clears the pane and gives it back, removes the preview page's file and empties the HEAD and
+    /// BODY code of the shared payload.
     ~PreviewForm() override;
 
+    /// How the wizard ended; meaningful once the window has closed.
     DeliveryEnd End() const { return m_end; }
 
-    /// Whether the effect reached a page or the clipboard.
+    /// Whether the effect stands in a page or its code was put on the clipboard.
     bool WasDelivered() const { return m_report.HasDelivered(); }
 
 protected:
@@ -51,15 +53,15 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    /// Adds the pages behind the preview, once: they are built when the author goes on to them, so
-    /// that the preview comes the sooner.
+    /// Adds the pages after the preview, unless they are there. They are built only after the
+    /// preview was shown, so that it appears sooner.
     void NeedPanels();
     void ConnectPanels();
     void AddPanelOf(int index, QWidget* content);
 
     void ChangePage(DeliveryStep step);
     void ShowPage(const DeliveryPage& page, int panel);
-    /// Enter does what waits to be done on the page; "Next" when that is null.
+    /// Makes this button the one that Enter presses, and gives it the focus; null means "Next".
     void LeadEnterTo(QPushButton* action);
     void ShowFinish();
     void ChooseRunsToday(bool isWanted);
@@ -79,7 +81,7 @@ private:
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;
     bool m_isPreviewed = false;
-    std::optional<DeliveryPanels> m_panels; ///< empty as long as the preview alone was shown
+    std::optional<DeliveryPanels> m_panels; ///< nothing until NeedPanels()
 };
 
 } // namespace orvane

@@ -13,21 +13,23 @@ class PreviewPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// What the page says and offers about today's browsers.
+    /// What the page tells about today's browsers, and its check box for the page script.
     struct TodaysBrowsers
     {
-        TextView Sentence;
-        bool RunsToday; ///< whether the page script is wanted already
+        TextView Sentence; ///< empty for none
+        bool RunsToday;    ///< whether the box is checked at first
     };
-    /// `pane` is borrowed while this panel lives, and may be null.
+    /// `pane` is the preview pane's widget, or null. The panel shows it while it exists, without
+    /// owning it.
     PreviewPanel(QWidget* pane, TodaysBrowsers today);
 
-    /// Gives the pane back.
+    /// Hides the pane and takes it out of this panel, if it still exists.
     ~PreviewPanel() override;
 
 signals:
+    /// The author wants to see the effect, in the pane or in a browser.
     void PreviewWanted(orvane::PreviewMode mode);
-    /// The author wants the page script from now on, or no longer.
+    /// The author checked the box for the page script, or unchecked it.
     void RunsTodayChosen(bool isWanted);
 
 private:

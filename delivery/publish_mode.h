@@ -15,11 +15,11 @@ enum class PublishMode
 /// Which controls of the publishing panel, and which of the wizard's own buttons, are shown.
 struct PublishControls
 {
-    bool ToBoxes;         ///< `driveCopyTo`, `dirCopyTo`, `cmdNewFolder`
+    bool ToBoxes;         ///< `driveCopyTo`, `dirCopyTo`, `fileCopyTo` and the buttons below them
     bool FromBoxes;       ///< `driveCopyFrom`, `dirCopyFrom`, `fileCopyFrom`
     bool lstMissingFiles; ///< with its label, `missingFilesLabel`
     bool cmdCopyFiles;    ///< "&Publish >>"
-    bool Label4;          ///< the hint about the backup page, `publishHint`
+    bool Label4;          ///< `publishHint`, about the page ovtemp.html
     bool cmdManualCopy;
     bool cmdDoneCopying;
     bool picCopyThenPreview; ///< with `cmdManualCopyForPreview` and `cmdPreviewAfterCopying`
@@ -28,10 +28,13 @@ struct PublishControls
     bool operator==(const PublishControls&) const = default;
 };
 
-/// The controls of a mode; those of Publish are also what page 8 begins with.
+/// The controls that are shown in a mode; page 8 of the wizard begins with those of Publish.
 PublishControls ControlsOf(PublishMode mode);
 
+/// The words beside the list of missing files.
 inline constexpr TextView missingFilesLabel = u"Missing Files -->";
+
+/// The words of `Label4`.
 inline constexpr TextView publishHint =
     u"(A file named ovtemp.html will be copied to this folder as a backup.  It contains the HTML "
     u"code for this special effect.)";
@@ -42,23 +45,23 @@ inline constexpr TextView missingForPreviewSubHeading =
     u"The following required files could not be found.  Using the file list below, find the "
     u"necessary files and click the 'Copy>>' button to copy them to the correct location.";
 
-/// How the delivery wizard stands when the author has left one of the missing-files modes; the
-/// controls are those of Publish again.
+/// What the delivery wizard shows when the author has left one of the modes for missing files; the
+/// panel's controls are those of Publish again.
 struct AfterCopying
 {
-    int Panel;       ///< the index of the panel that comes forward
+    int Panel;       ///< the index of the panel that is shown
     int HeadingPage; ///< the number of the page whose heading and sub-heading are shown
     bool IsNextEnabled;
     bool IsPreviousEnabled;
     TextView CancelCaption;
-    bool IsPreviewed; ///< the preview page is shown now
+    bool IsPreviewed; ///< whether the preview is shown anew
     bool operator==(const AfterCopying&) const = default;
 };
 
-/// The command `cmdDoneCopying`: the author's work is complete.
+/// What a click on `cmdDoneCopying` leads to: the heading of the last page.
 AfterCopying DoneCopying();
 
-/// The command `cmdPreviewAfterCopying`: back to the first page and its preview.
+/// What a click on `cmdPreviewAfterCopying` leads to: the first page and its preview.
 AfterCopying PreviewAfterCopying();
 
 } // namespace orvane

@@ -18,37 +18,41 @@ namespace orvane {
 class FolderBoxes;
 class PageBuilder;
 
-/// Lets the author make a folder below the given one; the new folder, or nothing.
+/// Lets the author make a folder in the given one; gives its full path, or nothing when none was
+/// made.
 using MakeFolderWindow = std::function<std::optional<Text>(TextView folder)>;
 
-/// The delivery wizard's page that brings the required files to a folder, and finds those that are
-/// missing by hand.
+/// The delivery wizard's page that copies the required files to a folder, and on which the author
+/// looks for missing ones by hand.
 class PublishPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// What the desk refers to must outlive the panel.
+    /// What the desk refers to, and the settings, must outlive the panel.
     PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderWindow makeFolder);
 
-    /// Shows the publishing controls, with no file missing.
+    /// Called when the page is shown: shows the publishing controls, with no file missing.
     void Begin();
 
-    /// Points the boxes of the target at the folder to which files go.
+    /// Shows a folder in the "Copy to" boxes; does nothing when it cannot be read.
     void GoTo(TextView folder);
 
-    /// Shows the controls with which missing files are found and brought to a folder.
+    /// Shows the controls with which the author finds the missing files and copies them to
+    /// `toFolder`. Expects one of the modes for missing files.
     void FindMissing(PublishMode mode, const MissingFiles& missing, TextView toFolder);
 
-    /// The command that waits to be done; null when all was published.
+    /// The button that Enter is to press in this mode; null when everything was published.
     QPushButton* Action() const;
 
 signals:
     /// The wizard's own buttons are to be shown or hidden with those of this panel.
     void ControlsChanged(const orvane::PublishControls& controls);
-    /// Another command waits now.
+    /// Action() may give another button now.
     void ActionChanged();
+    /// The author has finished copying missing files by hand.
     void CopyingDone();
+    /// The author has copied what the preview lacked and wants to see it.
     void PreviewWanted();
 
 private:
@@ -70,7 +74,7 @@ private:
     PublishMode m_mode = PublishMode::Publish;
     bool m_isPublished = false;
     MissingFiles m_missing;
-    Text m_toFolder; ///< where copies made by hand go
+    Text m_toFolder; ///< where the files go that the preview lacks
 
     FolderBoxes* m_from;
     FolderBoxes* m_to;

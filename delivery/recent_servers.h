@@ -16,15 +16,15 @@ struct RecentServers
     bool operator==(const RecentServers&) const = default;
 };
 
-/// The servers stored so far, with the newest and its user name in the fields.
+/// The stored servers, with the newest and its user name for the fields; empty when none is stored.
 RecentServers GetRecentFTP(const Settings& settings);
 
-/// Stores a server as the newest of five, the oldest dropping out; one that is listed already stays
-/// where it is, user name included.
+/// Stores a server as the newest of five and drops the oldest; does nothing for one that is stored
+/// already, even with another user name.
 void PutRecentFTP(Settings& settings, TextView server, TextView username);
 
-/// The user name stored for a server, upper and lower case told apart; nothing for one that is not
-/// listed.
+/// The user name stored for a server, whose name must match in upper and lower case; nothing for
+/// one that is not stored.
 std::optional<Text> UsernameFor(const Settings& settings, TextView server);
 
 } // namespace orvane

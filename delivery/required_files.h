@@ -15,39 +15,41 @@ namespace orvane {
 /// copying; empty when everything is there.
 using MissingFiles = std::vector<Text>;
 
-/// One effect, and what the copying of its files works with.
+/// One effect, and the services that copying its files needs.
 struct CopyDesk
 {
     const FinishedPayload& Payload;
     TextView ProgramFolder;
     FileStore& Files;
     orvane::Dialogs& Dialogs;
-    DeliveryReport* Report = nullptr; ///< where it is written down what was copied; may be null
-    FollowedCopies* Copies = nullptr; ///< set while files are copied
+    DeliveryReport* Report = nullptr; ///< where copied and missing files are noted; null: nowhere
+    FollowedCopies* Copies = nullptr; ///< null but while files are copied
 
-    /// Asks the author before a file of that name is written over.
+    /// Asks the author whether the file of that name may be overwritten; true for Yes.
     bool MayOverwrite(TextView name) const;
 
-    /// Tells the report that a file is in the folder now.
+    /// Notes in the report, if there is one, that a file was copied to the folder.
     void WriteDownCopied(TextView folder, TextView name) const;
 };
 
-/// Copies the author's files, the class files and a wanted page script to the page's folder, asks
-/// before it overwrites one of the author's, and says at the end whether all is there; the window
-/// then goes into missing-files mode if a name is missing. Expects the folder with its final
-/// separator, or the empty text for the current folder. Stops without that word on a fault that is
-/// no matter of one file, which the caller shows. Gives Cancelled, and has told the author which
-/// files are not there, when the author ended the copying; no file is copied by half.
+/// Copies the author's files, the class files and a wanted page script to the page's folder. Asks
+/// before it overwrites one of the author's files or a foreign file with the page script's name.
+/// Tells the author at the end whether everything was copied, and gives the names that are missing.
+/// Expects the folder with its final separator, or the empty text for the current folder. A fault
+/// that concerns more than one file, such as a full disk, ends the copying; it is given back
+/// without a word to the author, for the caller to show. When the author cancels and files are
+/// missing, a message lists them and Cancelled is given. No file is ever copied in part.
 [[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder);
 
-/// Copies the author's files to the program's folder, where the preview page lies, and says so when
-/// it could not; a name that already lies there is not copied again. An author who ends the copying
-/// gets the preview without the rest.
+/// Copies the author's files to the program's folder, in which the preview page is; a name that is
+/// there already is not copied again. Gives the names that could not be copied, and tells the
+/// author if there are any. When the author cancels, the files not copied yet do not count as
+/// missing.
 [[nodiscard]] MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk);
 
-/// The command `cmdCopyFiles`: writes the effect's backup page ovtemp.html to the folder, where the
-/// author allows it, and copies the required files there. Ends at a fault of the page as
-/// CopyRequiredFiles() does.
+/// What `cmdCopyFiles` does: writes the page ovtemp.html with the effect to the folder, asking
+/// before it overwrites one, and copies the required files there by CopyRequiredFiles(), whose
+/// result it gives. A fault in writing the page is given back before any file is copied.
 [[nodiscard]] Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder);
 
 } // namespace orvane

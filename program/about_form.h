@@ -15,7 +15,8 @@ public:
     explicit AboutForm(Workbench& bench, QWidget* parent = nullptr);
 };
 
-/// The window that opens instead of the main one when the author wants another browser first.
+/// The window that opens in place of the main window when the author wants to download another
+/// browser, or the version for another one, first. Closing it ends the program.
 class DownloadForm : public QDialog
 {
     Q_OBJECT

@@ -13,8 +13,8 @@ namespace orvane {
 
 class CatalogueSearchBox;
 
-/// The line above the catalogue's pages: the tabs, and the box that searches all of them. While it
-/// does, the number of effects found stands in place of the tabs.
+/// The line above the catalogue's pages: the tabs, and the box that searches all pages. During a
+/// search the number of effects found stands in place of the tabs.
 class CatalogueHead : public QWidget
 {
     Q_OBJECT
@@ -22,30 +22,34 @@ class CatalogueHead : public QWidget
 public:
     CatalogueHead();
 
-    /// The tab in front.
+    /// The current tab, counted from 0.
     int Tab() const;
 
-    /// What the author looks for; blank for nothing.
+    /// The text in the search box.
     Text Typed() const;
+    /// Whether the search box holds more than blanks.
     bool IsSearching() const;
 
-    /// Puts the number of effects found in place of the tabs, or gives the tabs back.
+    /// During a search, shows the number of effects found in place of the tabs; otherwise shows the
+    /// tabs.
     void ShowFound(std::size_t count);
 
-    /// Goes to the search box; from there, Escape leads back to where the focus was.
+    /// Gives the search box the focus; Escape in it calls EndSearch().
     void BeginSearch();
 
-    /// The same, with a letter that was typed elsewhere; false when the key is none.
+    /// The same, and puts a letter or digit into the box that was typed elsewhere; does nothing and
+    /// gives false for any other key.
     bool BeginSearchWith(const QKeyEvent& key);
 
-    /// Empties the search box, which gives the tabs and the focus back.
+    /// Empties the search box and gives the focus back to the control that had it before the
+    /// search, or to the tabs.
     void EndSearch();
 
 signals:
-    /// Another tab, or another text to look for.
+    /// The tab or the text in the search box changed.
     void Changed();
-    void FirstWanted(); ///< Return in the search box
-    void ListWanted();  ///< Down in the search box
+    void FirstWanted(); ///< Enter in the search box: open the first effect found
+    void ListWanted();  ///< Down in the search box: go into the page below
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

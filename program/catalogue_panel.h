@@ -18,17 +18,18 @@ class EffectDescription;
 class FavoritesPage;
 
 /// All effects as pictures on three tabs, the author's favorites on a fourth, a box that searches
-/// them all, and the title and description of the one that is pointed at.
+/// them all, and the title and description of the effect under the pointer or with the focus.
 class CataloguePanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `isBuilt` tells which effects have a wizard; `settings` hold the favorites and what was used
-    /// last.
+    /// `isBuilt` tells which effects have a wizard; `settings` store the favorites and the effects
+    /// used last, and must outlive the panel.
     CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings& settings);
 
 signals:
+    /// The author wants to open the wizard of this effect, which has one.
     void EffectWanted(const orvane::EffectCommand& command);
 
 protected:

@@ -4,7 +4,8 @@
 
 namespace orvane {
 
-/// The box in which the author types what to look for; its keys also lead out of it.
+/// The box in which the author types what to look for; Enter, Down and Escape are signalled to its
+/// owner.
 class CatalogueSearchBox : public QLineEdit
 {
     Q_OBJECT
@@ -17,9 +18,9 @@ public:
     bool BeginWith(const QKeyEvent& key);
 
 signals:
-    void FirstWanted(); ///< Return: open what was found first
-    void ListWanted();  ///< Down: into the list
-    void Left();        ///< Escape: back to where the focus was
+    void FirstWanted(); ///< Enter: open the first effect found
+    void ListWanted();  ///< Down: go into the list of effects
+    void Left();        ///< Escape: go back to where the focus was
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -9,10 +9,10 @@
 
 namespace orvane {
 
-/// What the terminal is told instead of a start, and the program's exit code.
+/// What the program writes to the terminal when it ends instead of starting, and its exit code.
 struct TerminalAnswer
 {
-    std::string Words;
+    std::string Words; ///< UTF-8, with line ends
     int ExitCode = 0;
 };
 
@@ -20,8 +20,9 @@ struct TerminalAnswer
 /// neither is there.
 std::optional<TerminalAnswer> AnswerOf(const QStringList& arguments, TextView version);
 
-/// The full path of the project file that the arguments name, empty for none; an answer when they
-/// hold anything else. The arguments are without the program's name and the toolkit's own options.
+/// The full path of the project file that the arguments name, empty for none; an answer with the
+/// usage and exit code 2 when they are anything else. Expects the arguments without the program's
+/// name and the toolkit's own options.
 std::variant<Text, TerminalAnswer> ProjectOf(const QStringList& arguments);
 
 } // namespace orvane

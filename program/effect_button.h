@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-/// What the catalogue says of an effect without a wizard.
+/// What the catalogue says about an effect without a wizard.
 inline constexpr TextView notYetAvailable = u"Not available yet: this effect has no wizard so far.";
 
 /// An effect as a picture with its title. One without a wizard is drawn in grey, and says so when
@@ -16,20 +16,22 @@ class EffectButton : public QToolButton
     Q_OBJECT
 
 public:
-    /// `row` outlives the button.
+    /// `name` is the object name; `row` must outlive the button.
     EffectButton(const CatalogueRow& row, bool isBuilt, const QString& name);
 
     const CatalogueRow& Row() const { return m_row; }
     bool IsBuilt() const { return m_isBuilt; }
     bool IsFavorite() const { return m_isFavorite; }
+    /// Shows or removes the star.
     void SetFavorite(bool isFavorite);
 
-    /// Loads the picture; its room is kept from the start.
+    /// Loads the picture, unless it is there. The button has its full size without it too.
     void DrawPicture();
 
     QSize sizeHint() const override;
 
 signals:
+    /// The author clicked the button of an effect that has a wizard.
     void EffectWanted(const orvane::EffectCommand& command);
 
 protected:

@@ -10,7 +10,7 @@ namespace orvane {
 
 class EffectButton;
 
-/// The title and description of the effect that is pointed at; with none, a welcome in their place.
+/// The title and description of one effect of the catalogue, or words of welcome in their place.
 class EffectDescription : public QWidget
 {
 public:

@@ -13,14 +13,14 @@ namespace orvane {
 class EffectButton;
 class EvenGrid;
 
-/// Makes the button of an effect; whoever asked for it owns it.
+/// Makes the button of an effect; the caller owns it.
 using ButtonMaker = std::function<EffectButton*(const CatalogueRow&)>;
 
-/// What a section says beside its effects.
+/// The words of a section.
 struct SectionWords
 {
-    TextView Heading; ///< empty for none
-    TextView Nothing; ///< said where there is no effect
+    TextView Heading; ///< above the effects; empty for none
+    TextView Nothing; ///< shown in place of the effects when there are none
 };
 
 /// Effects as buttons in an even grid, below their heading.
@@ -29,7 +29,8 @@ class EffectSection : public QWidget
 public:
     EffectSection(const SectionWords& words, ButtonMaker make);
 
-    /// Shows these effects in this order; the buttons of those that it showed before stay.
+    /// Shows these effects in this order. An effect that was shown before keeps its button; the
+    /// buttons of all others are deleted.
     void SetEffects(const EffectRows& effects);
 
 private:
@@ -38,8 +39,8 @@ private:
     QLabel* m_nothing;
 };
 
-/// The button on the page to which an arrow key, Home or End leads from another, as they are shown;
-/// null when there is none.
+/// The visible button of the page that an arrow key, Home or End leads to from the button `from`;
+/// null when there is none. Expects `from` to be visible on the page.
 EffectButton* ButtonTowards(int key, const EffectButton& from, const QWidget& page);
 
 } // namespace orvane

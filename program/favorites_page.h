@@ -4,13 +4,15 @@
 
 namespace orvane {
 
-/// The author's favorite effects and the last ones used, each with a sentence where there is none.
+/// The author's favorite effects, and below them the effects used last; a sentence stands in place
+/// of either when there are none.
 class FavoritesPage : public QWidget
 {
 public:
+    /// The two functions make the buttons of the two sections.
     FavoritesPage(ButtonMaker makeFavorite, ButtonMaker makeRecent);
 
-    /// Shows what is stored now.
+    /// Shows the effects that the settings store.
     void Refresh(const Settings& settings);
 
 private:

@@ -16,13 +16,14 @@ class OVMainForm;
 class WizardForm;
 enum class DeliveryEnd;
 
-/// Knows all windows, and is the road of one effect: wizard, delivery wizard, and back or out.
+/// Opens all windows of the program, and leads the author through an effect: its wizard, then the
+/// delivery wizard, and from there back to the first or out.
 class FormDesk : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `pane` is the widget of the bench's preview pane; null when it has none.
+    /// `pane` is the widget of the bench's preview pane, or null. Both must outlive this object.
     FormDesk(Workbench& bench, QWidget* pane);
     ~FormDesk() override;
 
@@ -36,23 +37,26 @@ public:
     static std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,
                                                   QWidget* parent = nullptr);
 
-    /// The effects that can be re-edited, as a list of links for the help book.
+    /// The effects whose pasted tags can be edited, as an HTML list of links to their help topics.
     static Text ListEffectsOfTags();
 
-    /// Leads the author through the effect's wizard and its delivery until both are closed.
+    /// Leads the author through the effect's wizard and its delivery and returns when both are
+    /// closed; does nothing for an effect without a wizard.
     void OpenEffect(const EffectCommand& command);
 
-    /// Leads the author through the animator's wizard, which opens with a project; a file that does
-    /// not exist is told, and no wizard opens.
+    /// The same with the animator's wizard, which opens with the project file of this full path.
+    /// When the file does not exist, the author is told and no wizard opens.
     void OpenProject(TextView path);
 
-    /// Asks for a pasted applet tag and leads the author through its effect's wizard.
+    /// Asks for a pasted applet tag and leads the author through its effect's wizard; none opens
+    /// when the author cancels or the effect has no wizard.
     void EditApplet();
 
+    /// The main window; null before Start(), and when the program opens with another one.
     OVMainForm* MainForm() const { return m_mainForm.get(); }
 
 signals:
-    /// A wizard came up, so that a preview may soon be wanted.
+    /// A wizard is about to be shown, so that a preview may soon be wanted.
     void WizardOpened();
 
 private:

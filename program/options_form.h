@@ -9,7 +9,7 @@ namespace orvane {
 
 struct Preferences;
 
-/// The preferences.
+/// The window with the author's preferences, which OK stores.
 class OptionsForm : public OkCancelForm
 {
     Q_OBJECT

@@ -11,7 +11,8 @@ class QMenu;
 
 namespace orvane {
 
-/// The catalogue of effects, and the menus that reach the same effects by name.
+/// The main window: the catalogue of effects, and menus with the same effects and all other
+/// commands.
 class OVMainForm : public QMainWindow
 {
     Q_OBJECT
@@ -21,6 +22,7 @@ public:
     OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& isBuilt);
 
 signals:
+    /// The author chose an effect in the catalogue or in a menu.
     void EffectWanted(const orvane::EffectCommand& command);
     void EditAppletWanted();
     void PreferencesWanted();

@@ -10,11 +10,13 @@ class QProgressBar;
 
 namespace orvane {
 
-/// Shows how far a work is once it has taken half a second. While it stands there no other window
-/// can be used; Cancel, Escape and the window's frame end the work.
+/// A box with a progress bar that appears when work has taken half a second. While it is visible no
+/// other window can be used. Cancel, Escape and closing the box make GoOn() give false, which ends
+/// the work; the box disappears when it is destroyed.
 class ProgressBox : public QDialog, public Progress
 {
 public:
+    /// The time counts from here; `words` say what is being done.
     ProgressBox(TextView words, QWidget* parent);
 
     bool GoOn(std::uint64_t done, std::uint64_t total) override;

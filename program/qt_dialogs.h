@@ -10,17 +10,19 @@ class QDialog;
 
 namespace orvane {
 
-/// One entry of a file dialog's list of kinds, as the toolkit writes it.
+/// One entry of a file dialog's list of file types as the toolkit writes it, such as
+/// "Images (*.gif *.jpg)".
 QString QtNameFilter(TextView label, TextView masks);
 
-/// All entries of a filter text of labels and patterns separated by "|".
+/// All entries of a filter text of labels and masks in turn, separated by "|"; a label without
+/// masks is left out.
 QStringList QtNameFilters(TextView filter);
 
-/// The program's own way to ask: the toolkit's boxes and dialogs over the window in front.
+/// Asks the author by the toolkit's boxes and dialogs, over the active window.
 class QtDialogs : public Dialogs
 {
 public:
-    /// `settings` remember the folders.
+    /// `settings` store the folders used last, and must outlive this object.
     explicit QtDialogs(Settings& settings) : m_settings(settings) {}
 
     void Say(TextView words, Tone tone) override;

@@ -5,8 +5,9 @@
 
 namespace orvane {
 
-/// Fills the program's folder from the resources: help book and applet classes. A file that is the
-/// same already is left alone; the author is told once when the folder cannot be written.
+/// Writes the help book with its pictures, the applet classes and the page script from the
+/// program's resources to its folder, and makes the folder if it is missing. A file with the same
+/// content is left alone. Stops at the first file that cannot be written, and tells the author.
 void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder);
 
 } // namespace orvane

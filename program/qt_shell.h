@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-/// The desktop as the toolkit reaches it.
+/// Opens files and starts programs on the desktop, by the toolkit.
 class QtShell : public Shell
 {
 public:

@@ -2,8 +2,8 @@
 
 namespace orvane {
 
-/// Keeps what the toolkit and the browser engine say about themselves off the terminal; what ends
-/// the program is still written, and so is everything when QT_LOGGING_RULES is set.
+/// Keeps log messages of the toolkit and the browser engine off the terminal, except a fatal one
+/// that ends the program. Does nothing when the environment variable QT_LOGGING_RULES is set.
 void QuietEngines();
 
 } // namespace orvane

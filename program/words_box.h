@@ -11,21 +11,23 @@ class QVBoxLayout;
 
 namespace orvane {
 
-/// A box with words in plain text, so that no word of a page or a file name is read as markup.
-/// Words that are too many for the screen scroll; what the author answers with stays in sight
-/// below.
+/// A message box that shows its words as plain text, so that nothing in them, such as a file name
+/// or a text of a page, is taken for markup. Words too long for the screen scroll; the controls and
+/// buttons below them stay visible.
 class WordsBox : public QDialog
 {
 public:
+    /// Of `buttons`, Yes or OK is the default one.
     WordsBox(TextView words, TextView title, QDialogButtonBox::StandardButtons buttons,
              QWidget* parent);
 
+    /// Shows an icon of the desktop's style to the left of the words.
     void ShowIcon(QStyle::StandardPixmap icon);
 
-    /// Where controls stand between the words and the buttons.
+    /// The layout, between the words and the buttons, to which further controls can be added.
     QVBoxLayout& Below() { return *m_below; }
 
-    /// The button that closed the box; none when it was closed in another way.
+    /// The button that closed the box; NoButton when it was closed in another way.
     QDialogButtonBox::StandardButton Pressed() const { return m_pressed; }
 
 private:

@@ -1,7 +1,7 @@
 /**
  * Calls that stand as texts in generated pages, such as `scrollit_r2l(98)` in a timer or
- * `window.open('a.html', 'news', 'width=300')` in a BODY tag. They are read here and made as
- * calls, so that nothing has to be compiled from a text.
+ * `window.open('a.html', 'news', 'width=300')` in a BODY tag. They are parsed here and made as
+ * ordinary calls, so that no text has to be run as code.
  */
 
 /**
@@ -9,12 +9,12 @@
  * @typedef {{name: string, args: () => any[]}} Call
  */
 
-/** One argument: a quoted text, a number or a page-wide name, with the comma behind it. */
+/** One argument: a quoted text, a number or a global name, with the comma after it. */
 const argument =
     /\s*(?:'((?:[^'\\]|\\.)*)'|"((?:[^"\\]|\\.)*)"|(-?[\d.]+)|([A-Za-z_$][\w$]*))\s*(,|$)/y;
 
 /**
- * The call that a text holds, or nothing when it is more than one plain call.
+ * The call that a text holds, or null when it is anything else than one plain call.
  * @param {string} text
  * @returns {Call | null}
  */
@@ -39,7 +39,7 @@ export function readCall(text) {
 }
 
 /**
- * The calls of a list that semicolons divide; what is no plain call is left out.
+ * The calls of a list separated by semicolons; what is no plain call is left out.
  * @param {string | undefined} text
  * @returns {Call[]}
  */

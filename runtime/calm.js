@@ -1,6 +1,6 @@
-/** What keeps a page calm: motion only where the visitor wants it, and a button that stops it. */
+/** Motion only where the visitor wants it, and a button that stops it. */
 
-/** No picture changes more often than this, in milliseconds: two changes are one flash. */
+/** The least time between two changes of a picture, in milliseconds; two changes are one flash. */
 export const shortestFlash = 170;
 
 /** Whether the visitor asked for as little motion as possible. */
@@ -17,9 +17,9 @@ const look = `
 
 /**
  * A small button that stops and starts what moves.
- * @param {string} what named to those who cannot see it, such as "the moving text"
+ * @param {string} what what moves, in words for screen readers, such as "the moving text"
  * @param {boolean} moving whether it moves now
- * @param {(moving: boolean) => void} changed called at each press with what holds from now on
+ * @param {(moving: boolean) => void} changed called at each press: whether it moves from now on
  */
 export function pauseButton(what, moving, changed) {
     const button = document.createElement("button");
@@ -41,7 +41,8 @@ export function pauseButton(what, moving, changed) {
 }
 
 /**
- * A host of our own, which the page's styles do not reach, with `css` and the button's look inside.
+ * An element with a shadow root, which the page's styles do not reach, for `css` and the button's
+ * look inside. The caller puts it into the page.
  * @param {string} hostStyle
  * @param {string} css
  */
@@ -50,7 +51,7 @@ export function ownPlace(hostStyle, css = "") {
     host.style.cssText = hostStyle;
     const inside = host.attachShadow({ mode: "open" });
     try {
-        // A strict policy of the page does not reach sheets that are made like this.
+        // A Content Security Policy of the page does not forbid sheets that are made like this.
         const sheet = new CSSStyleSheet();
         sheet.replaceSync(look + css);
         inside.adoptedStyleSheets = [sheet];
@@ -63,8 +64,8 @@ export function ownPlace(hostStyle, css = "") {
 }
 
 /**
- * A host of our own that lies over an element and goes where it goes; what stands on the page
- * keeps its place.
+ * The same, placed over an element; it follows the element's place and size, and moves nothing else
+ * on the page. Its `remove` takes it away.
  * @param {Element} element
  */
 export function placeOver(element) {

@@ -1,8 +1,8 @@
 /** Files beside the page. */
 
 /**
- * The bytes of a file, or null when it cannot be read. Asked for in the older of the two ways,
- * which browsers allow for pages on the disk too where they allow it at all.
+ * The bytes of a file, or null when it cannot be read. By XMLHttpRequest and not by fetch():
+ * browsers that let a page on the disk read files at all do so only by the former.
  * @param {string} url
  * @returns {Promise<ArrayBuffer | null>}
  */

@@ -1,15 +1,15 @@
 /**
- * The filters that old scripts know on every element: opacity, and the change from slide to slide.
+ * The `filters` that old scripts expect on every element: opacity, and the transition of slides.
  */
 import { Reveal } from "./reveal.js";
 
-/** Opacities in per cent, from the tag or as last set. @type {WeakMap<Element, number>} */
+/** Opacities in per cent, from the tag or as set last. @type {WeakMap<Element, number>} */
 const opacities = new WeakMap();
 /** @type {WeakMap<Element, Reveal>} */
 const reveals = new WeakMap();
 
 /**
- * Shows the opacity that an image's tag asks for in words that browsers drop.
+ * Shows the opacity of an image's style attribute, `filter:alpha(opacity=50)`, which browsers drop.
  * @param {HTMLElement} element
  */
 export function prepareFilter(element) {
@@ -24,7 +24,7 @@ function setOpacity(element, percent) {
 }
 
 /**
- * What an old script sets as `style.filter`.
+ * Does what an old script wants by setting `style.filter`.
  * @param {HTMLElement} element @param {string} text
  */
 export function setFilter(element, text) {
@@ -36,7 +36,7 @@ export function setFilter(element, text) {
 }
 
 /**
- * What an old script reads as `filters`.
+ * The object that an old script reads as `filters`.
  * @param {HTMLElement} element
  */
 export function filtersOf(element) {
@@ -51,7 +51,7 @@ export function filtersOf(element) {
     return { alpha, 0: reveals.get(element) ?? alpha, length: 1 };
 }
 
-/** Gives every element `filters`; the page's handlers hand real elements to old scripts. */
+/** Gives every element `filters`: the page's handlers pass real elements, no stand-ins. */
 export function addFilters() {
     if ("filters" in HTMLElement.prototype) return;
     Object.defineProperty(HTMLElement.prototype, "filters", {

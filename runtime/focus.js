@@ -1,9 +1,10 @@
-/** What reacts to the mouse reacts to the keyboard's focus as well. */
+/** Lets what reacts to the mouse react to the keyboard's focus as well. */
 
 const focusable = "a[href],button,input,select,textarea,[tabindex]";
 
 /**
- * Lets an element that has mouse handlers hear of focus as if the pointer came and went.
+ * Sends an element that has mouse handlers the events of a pointer that enters and leaves when it
+ * gets and loses the focus.
  * @param {HTMLElement} element
  */
 export function prepareFocus(element) {
@@ -16,7 +17,7 @@ export function prepareFocus(element) {
         );
     };
     const on = holder ?? element;
-    // Whoever is told of a pointer that comes is told once that it goes, by the mouse or by focus.
+    // An element that was told that the pointer came is told once that it went: by mouse or focus.
     let told = false;
     const leave = () => {
         if (told) tell("mouseout");
@@ -30,7 +31,7 @@ export function prepareFocus(element) {
     element.addEventListener("mouseout", () => (told = false));
     on.addEventListener("focusout", leave);
     on.addEventListener("keydown", (event) => event.key === "Escape" && leave());
-    // What holds a link is reached through it; the rest is reached itself.
+    // An element with a link inside gets the focus by the link; any other gets it itself.
     if (!holder)
         window.addEventListener("load", () => {
             if (!element.querySelector(focusable)) element.tabIndex = 0;

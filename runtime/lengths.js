@@ -3,7 +3,7 @@
 const sizes = "top|left|width|height|padding";
 
 /**
- * Gives an element the lengths of its style attribute that the browser has dropped.
+ * Sets, in pixels, the lengths of an element's style attribute that the browser has dropped.
  * @param {HTMLElement} element
  */
 export function prepareLengths(element) {
@@ -16,7 +16,7 @@ export function prepareLengths(element) {
 }
 
 /**
- * Lets a tooltip's box follow the pointer in scrolled pages too.
+ * Lets a tooltip's box follow the pointer on scrolled pages too.
  * @param {HTMLElement} element
  */
 export function prepareTooltip(element) {

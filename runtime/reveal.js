@@ -1,9 +1,9 @@
-/** The change from one picture to the next: the old one is uncovered piece by piece. */
+/** The transition from one picture to the next: the new one is uncovered piece by piece. */
 import { calm, placeOver } from "./calm.js";
 
 /** A rectangle of the unit square. @typedef {[x: number, y: number, w: number, h: number]} Piece */
 
-/** How many stripes, rows and columns the pieces make. */
+/** How many stripes of blinds or squares a side, rows of strips, and random lines there are. */
 const blinds = 8;
 const rows = 12;
 const bars = 48;
@@ -11,7 +11,7 @@ const bars = 48;
 /** @param {number} count @param {(i: number) => Piece} piece @returns {Piece[]} */
 const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i));
 
-/** A chance order that stays the same for one change. @param {number} count */
+/** The numbers below `count` in random order. @param {number} count */
 function shuffled(count) {
     const order = pieces(count, (i) => [i, 0, 0, 0]).map(([i]) => i);
     for (let i = count - 1; i > 0; i--) {
@@ -21,7 +21,7 @@ function shuffled(count) {
     return order;
 }
 
-/** The frame between the square and its middle, `p` wide. @param {number} p @returns {Piece[]} */
+/** The frame along the edges, `p / 2` wide on each side. @param {number} p @returns {Piece[]} */
 const frame = (p) => [
     [0, 0, 1, p / 2],
     [0, 1 - p / 2, 1, p / 2],
@@ -29,11 +29,15 @@ const frame = (p) => [
     [1 - p / 2, p / 2, p / 2, 1 - p],
 ];
 
-/** How far one of several rows is. @param {number} p @param {number} x the column's share of the way @returns {number} */
+/**
+ * How far a row is uncovered.
+ * @param {number} p @param {number} x its place, 0 for the first to 1 for the last
+ * @returns {number}
+ */
 const stair = (p, x) => Math.min(Math.max(2 * p - x, 0), 1);
 
 /**
- * Squares that open from their left edge, every second row half a square later.
+ * Squares that open from their left edge, every second row shifted to the right by half a square.
  * @param {number} p
  * @returns {Piece[]}
  */
@@ -45,14 +49,14 @@ function checkers(p) {
     }).concat(pieces(blinds / 2, (i) => [0, (2 * i + 1) * w, Math.max(p - 0.5, 0) * w, w]));
 }
 
-/** Rows for columns. @param {Piece[]} from @returns {Piece[]} */
+/** The same with rows and columns exchanged. @param {Piece[]} from @returns {Piece[]} */
 const turned = (from) => from.map(([x, y, w, h]) => [y, x, h, w]);
 
 /**
- * Rows that grow from the left (or the right), the first row first (or the last).
+ * Rows that grow one after the other from the right edge to the left, or from the left edge.
  * @param {number} p
- * @param {boolean} left
- * @param {boolean} up
+ * @param {boolean} left whether they grow to the left
+ * @param {boolean} up whether the lowest row is the first
  * @returns {Piece[]}
  */
 const strips = (p, left, up) =>
@@ -61,13 +65,13 @@ const strips = (p, left, up) =>
         return [left ? 1 - long : 0, i / rows, long, 1 / rows];
     });
 
-/** Lines by chance. @param {number[]} order @param {number} p @returns {Piece[]} */
+/** Lines in random order. @param {number[]} order @param {number} p @returns {Piece[]} */
 const some = (order, p) =>
     order
         .slice(0, Math.round(p * order.length))
         .map((i) => [0, i / order.length, 1, 1 / order.length]);
 
-/** Dots by chance. @param {number[]} order @param {number} p @returns {Piece[]} */
+/** Dots in random order. @param {number[]} order @param {number} p @returns {Piece[]} */
 const dots = (order, p) => {
     const side = Math.sqrt(order.length);
     return order
@@ -76,8 +80,8 @@ const dots = (order, p) => {
 };
 
 /**
- * What of the new picture is seen at the share `p` of the time, by the number of the transition.
- * Circles stand apart. The numbers are those of the list that the author chose from.
+ * The parts of the new picture that are seen at the share `p` of the time, by the number of the
+ * transition in the author's list. The circles, 2 and 3, are not here but in coverPath().
  * @type {Record<number, (p: number, order: number[]) => Piece[]>}
  */
 const uncovered = {
@@ -111,7 +115,7 @@ const uncovered = {
 };
 
 /**
- * The clip path of the picture that still covers the new one.
+ * The clip path of the old picture, which covers the new one where that is not seen yet.
  * @param {number} kind @param {number} p @param {number[]} order
  * @param {number} w @param {number} h
  */
@@ -131,7 +135,7 @@ function coverPath(kind, p, order, w, h) {
 }
 
 /**
- * One change of a picture, as old scripts ask for it: `apply`, then the new picture, then `play`.
+ * One transition, as old scripts ask for it: they call `apply`, set the new picture, call `play`.
  */
 export class Reveal {
     /** @param {HTMLElement} element @param {number} kind @param {number} seconds */
@@ -145,14 +149,14 @@ export class Reveal {
         this.before = "";
     }
 
-    /** Keeps the picture that is shown now. */
+    /** Remembers the picture that is shown now. */
     apply() {
         this.before = this.element.src;
         this.width = this.element.width;
         this.height = this.element.height;
     }
 
-    /** Uncovers the picture that has come in its place. */
+    /** Uncovers the picture that was set in its place. */
     play() {
         if (calm() || (!uncovered[this.kind] && this.kind !== 2 && this.kind !== 3)) return;
         this.place = placeOver(this.element);

@@ -1,4 +1,4 @@
-/** The vertical scroller: a button for pausing, and its first message in place without motion. */
+/** The vertical scroller: a pause button, and a first message that stands still without motion. */
 import { calm, pauseButton, placeOver } from "./calm.js";
 import { afterStart } from "./starts.js";
 import { go, stop } from "./timers.js";
@@ -6,7 +6,7 @@ import { go, stop } from "./timers.js";
 const step = "moveSpan";
 
 /**
- * Prepares the frame in which the text moves.
+ * Prepares the element in which the text moves.
  * @param {HTMLElement} element
  */
 export function prepareScroller(element) {

@@ -1,4 +1,4 @@
-/** The slideshow: its buttons, its button for pausing, and no faster than eyes can bear. */
+/** The slideshow: its buttons, a pause button, and a least time between slides against flashing. */
 import { calm, pauseButton, placeOver, shortestFlash } from "./calm.js";
 import { go, onInterval, shortest, stop } from "./timers.js";
 
@@ -35,6 +35,6 @@ export function prepareSlideshow(element) {
         return;
     element.type = "button";
     if (element.id === "btnPlay") element.addEventListener("click", () => go(turn));
-    // Its timers are to be those that the button over the picture can hold.
+    // Run with the stand-ins, so that its timers are those that the pause button can stop.
     element.setAttribute("onclick", `with(orvane){${element.getAttribute("onclick")}}`);
 }

@@ -1,14 +1,14 @@
 /**
- * Sounds that pages play: from the visitor's first touch on, since no browser plays them before.
+ * Sounds that pages play. Browsers play none before the visitor's first click or key on the page.
  */
 
 import { read } from "./files.js";
 
-/** Addresses that browsers can play, by the page's. @type {Map<string, Promise<string>>} */
+/** Addresses that browsers can play, by the page's own. @type {Map<string, Promise<string>>} */
 const known = new Map();
 
 /**
- * The value of one byte of a telephone sound, from -32124 to 32124.
+ * The value of one byte of mu-law sound, from -32124 to 32124.
  * @param {number} byte
  */
 function loudness(byte) {
@@ -18,8 +18,8 @@ function loudness(byte) {
 }
 
 /**
- * A telephone sound (.au, eight bits a sample) as a file that every browser plays; other sounds
- * stay what they are.
+ * A mu-law .au sound (eight bits a sample) as a WAV file, which every browser plays; the bytes of
+ * any other sound stay as they are.
  * @param {ArrayBuffer} bytes
  */
 function playable(bytes) {
@@ -50,14 +50,17 @@ function playable(bytes) {
     return new Blob([to.buffer], { type: "audio/wav" });
 }
 
-/** An address that plays, made from a telephone sound. @param {string} url @returns {Promise<string>} */
+/**
+ * An address that plays, for that of an .au sound.
+ * @param {string} url @returns {Promise<string>}
+ */
 async function translated(url) {
     const bytes = await read(url);
     return bytes ? URL.createObjectURL(playable(bytes)) : url;
 }
 
 /**
- * Plays a sound once; one that cannot be played is passed over in silence.
+ * Plays a sound once; does nothing when it cannot be played.
  * @param {string} url
  */
 export async function play(url) {

@@ -1,6 +1,7 @@
 /**
- * The names that generated scripts see in place of the browser's: documents and windows as they
- * were when the texts were written. The author's own scripts never see them.
+ * The objects that generated scripts see in place of the browser's document, window and so on: with
+ * the properties that those had when the scripts were written. The author's own scripts never see
+ * them.
  */
 import { addFavorite, closeWindow, openWindow } from "./windows.js";
 import { filtersOf, setFilter } from "./filters.js";
@@ -10,12 +11,12 @@ import { showStatus, status } from "./ticker.js";
 import { changed, currentEvent, onMouseMove } from "./trail.js";
 
 /**
- * What a stand-in gives instead of the real thing, and takes.
+ * The properties of a stand-in that differ from those of the real object.
  * @typedef {Record<string, {get?: () => any, set?: (value: any) => void}>} Changes
  */
 
 /**
- * An object that passes everything on to `real` but what `changes` names.
+ * An object that passes every property on to `real` but those in `changes`.
  * @param {any} real
  * @param {Changes} changes
  */
@@ -28,7 +29,8 @@ function standIn(real, changes) {
                 const change = changes[/** @type {string} */ (key)];
                 if (change?.get) return change.get();
                 const value = real[key];
-                // A browser's method works on its own object only; what has a prototype is none.
+                // A browser's method works on its own object only. A function with a prototype is
+                // none: a class, or one of the page's own.
                 return typeof value === "function" && !("prototype" in value)
                     ? value.bind(real)
                     : value;
@@ -130,7 +132,7 @@ const windowStandIn = standIn(window, {
     clearInterval: only(timers.clearInterval),
 });
 
-/** An image whose `readyState` tells whether it has come. */
+/** An image whose `readyState` tells whether it is loaded. */
 function ImageStandIn() {
     note("loadImages");
     const image = new Image();
@@ -140,7 +142,7 @@ function ImageStandIn() {
     return image;
 }
 
-/** What stands in the scope of every generated script. */
+/** The scope in which every generated script runs, by `with`. */
 export const orvane = Object.assign(Object.create(null), {
     document: documentStandIn,
     window: windowStandIn,
@@ -148,7 +150,7 @@ export const orvane = Object.assign(Object.create(null), {
     Image: ImageStandIn,
     ...timers,
 });
-// The slideshow names its image without saying where it is.
+// The slideshow names its image as a global variable.
 Object.defineProperty(orvane, "oImg", {
     get: () => elementStandIn(document.getElementById("oImg")),
 });

@@ -1,6 +1,7 @@
 /**
- * What starts when the page has loaded, and what runs when it goes. A BODY tag keeps one `onload`
- * only and a page one `window.onload`; the effects that lose their place there start all the same.
+ * What starts when the page has loaded, and what runs when the visitor leaves it. A BODY tag has
+ * only one `onload` and a page only one `window.onload`; effects that were overwritten there start
+ * all the same.
  */
 import { make, readCall, readCalls } from "./calls.js";
 import { hasRun } from "./timers.js";
@@ -8,17 +9,17 @@ import { openOnLeaving, openWindow } from "./windows.js";
 
 /** @typedef {import("./calls.js").Call} Call */
 
-/** The call that starts each effect which is started by the BODY tag. */
+/** The calls that start the effects which the BODY tag starts. */
 const starts = ["scrollit_r2l(99)", "moveSpan()", "loadImages()"];
 
 /** @type {(() => void)[]} */
 const afterwards = [];
 
-/** Runs something once the effects have started. @param {() => void} run */
+/** Calls `run` once the effects have started. @param {() => void} run */
 export const afterStart = (run) => afterwards.push(run);
 
 /**
- * Adds what a script puts into `window.onload` or `window.onunload` to what is there.
+ * Runs what a script puts into `window.onload` or `window.onunload` besides what is there.
  * @param {string} event @param {any} run
  */
 export function listenLate(event, run) {
@@ -33,8 +34,8 @@ const opensWindow = (text) =>
     /^\s*window\.open\([^]*,toolbar=(yes|no),status=[^]*\);?\s*$/.test(text ?? "");
 
 /**
- * Takes over the calls of the BODY tag that no browser carries out: windows on load and on exit.
- * Expects a page that has been read, since a second BODY tag adds to the first.
+ * Takes over the calls of the BODY tag that browsers block: windows on load and on exit. Expects a
+ * page that was parsed to its end, since a second BODY tag adds attributes to the first.
  */
 export function takeBodyCalls() {
     const { body } = document;

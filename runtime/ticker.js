@@ -1,4 +1,4 @@
-/** The status line that browsers no longer have: a strip at the foot of the window. */
+/** A strip at the foot of the window, in place of the status line that browsers no longer have. */
 import { calm, ownPlace, pauseButton } from "./calm.js";
 import { go, note, stop } from "./timers.js";
 
@@ -17,7 +17,7 @@ let strip;
 /** The words that were last put into the status line. */
 export const status = () => text;
 
-/** The strip; the room that it takes is kept free at the page's end, and clicks go through it. */
+/** Makes the strip. As much height is added to the end of the page, and clicks go through it. */
 function makeStrip() {
     const { host, inside } = ownPlace(
         "all:initial;display:block;clear:both;height:23px;pointer-events:none",
@@ -40,8 +40,8 @@ function makeStrip() {
 }
 
 /**
- * Shows words as the status line did. Those who hear the page meet the whole message once: it is
- * whole while blanks stand in front of it.
+ * Shows words as the status line did. Screen readers get each message once and whole, which it is
+ * while blanks stand before it.
  * @param {any} value
  */
 export function showStatus(value) {

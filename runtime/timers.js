@@ -1,29 +1,29 @@
 /**
- * The timers of generated scripts. They rest while the page is hidden, while the visitor has
- * stopped their effect, and while there is nothing to do; their numbers stay those of the browser.
+ * The timers of generated scripts. They make no calls while the page is hidden, while the visitor
+ * has stopped their effect, and while it has nothing to do. Their ids are the browser's own.
  */
 import { make, readCall } from "./calls.js";
 
 /** @typedef {import("./calls.js").Call} Call */
 
-/** Calls that came due while their effect rested, by timer number. @type {Map<number, Call>} */
+/** Calls that came due while their effect rested, by timer id. @type {Map<number, Call>} */
 const waiting = new Map();
 /** Functions that the visitor has stopped. @type {Set<string>} */
 const stopped = new Set();
-/** What running intervals call, by their number. @type {Map<number, string>} */
+/** The functions that running intervals call, by the interval's id. @type {Map<number, string>} */
 const intervals = new Map();
-/** Functions of effects that have started. @type {Set<string>} */
+/** Functions that timers or effects have named. @type {Set<string>} */
 const seen = new Set();
 
 /** Shortest pauses between two calls of a function, in milliseconds. @type {Map<string, number>} */
 export const shortest = new Map();
 /**
- * Tells of a function whether its next call may wait until `go`.
+ * By function: tells whether its next calls may wait until `go`, as they have nothing to do.
  * @type {Map<string, () => boolean>}
  */
 export const idle = new Map();
 /**
- * Called when the intervals of a function begin or end.
+ * By function: called when an interval that calls it begins or ends, with whether one still runs.
  * @type {Map<string, (runs: boolean) => void>}
  */
 export const onInterval = new Map();
@@ -31,7 +31,7 @@ export const onInterval = new Map();
 /** Whether the calls of a function rest now. @param {string} name */
 const rests = (name) => document.hidden || stopped.has(name);
 
-/** Whether a timer has named this function, or `note` has. @param {string} name */
+/** Whether a timer was set for this function, or `note` was called with it. @param {string} name */
 export const hasRun = (name) => seen.has(name);
 
 /** Notes that an effect has started. @param {string} name */
@@ -46,7 +46,7 @@ export function go(name) {
     wake();
 }
 
-/** Makes the calls that have waited and need not wait any longer. */
+/** Makes the calls that have waited and whose effect does not rest now. */
 function wake() {
     for (const [id, call] of [...waiting]) {
         if (rests(call.name)) continue;
@@ -56,12 +56,12 @@ function wake() {
 }
 document.addEventListener("visibilitychange", wake);
 
-/** Tells those who asked whether an interval of a function runs. @param {string} name */
+/** Calls the function's entry in `onInterval`. @param {string} name */
 function tellInterval(name) {
     onInterval.get(name)?.([...intervals.values()].includes(name));
 }
 
-/** The timer functions that stand in for those of the page. */
+/** The timer functions that generated scripts see in place of the browser's. */
 export const timers = {
     /** @param {any} code @param {number} pause @param {any[]} rest */
     setTimeout(code, pause, ...rest) {

@@ -10,12 +10,12 @@ let changesBefore = -1;
 /** Notes that an old script has moved something. */
 export const changed = () => void changes++;
 
-/** What `window.event` holds for an old script. */
+/** What an old script reads as `window.event`. */
 export const currentEvent = () => told ?? window.event;
 
 const draw = "DrawMouseTrail";
 
-// A trail in which no image moved any more waits for the pointer.
+// A trail in which no image has moved since the last call waits for the pointer.
 idle.set(draw, () => {
     const still = changes === changesBefore;
     changesBefore = changes;
@@ -23,7 +23,7 @@ idle.set(draw, () => {
 });
 
 /**
- * Calls what an old script wants called when the mouse moves, for a finger too.
+ * Calls `run` of an old script when the mouse or a finger moves.
  * @param {any} run
  */
 export function onMouseMove(run) {
@@ -51,7 +51,7 @@ export function onMouseMove(run) {
 }
 
 /**
- * Lets clicks through the images of a trail; without motion only the first one follows.
+ * Lets clicks through the images of a trail; without motion only the first is shown.
  * @param {HTMLElement} element
  */
 export function prepareTrail(element) {

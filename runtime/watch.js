@@ -1,6 +1,6 @@
 /**
- * Watches the page while it is read: an inline script of Orvane's is put into the stand-ins' scope
- * before it runs, an element of Orvane's is prepared, and nothing else is touched.
+ * Watches the page while the browser parses it: an inline script of Orvane's is put into the
+ * stand-ins' scope before it runs, an element of Orvane's is prepared, and all else stays as it is.
  */
 
 const credit = /Script written by Varlo Software|Created by Orvane software/;
@@ -8,7 +8,7 @@ const marker = /^ \*{5} (Begin|End):Varlo [^]* special effect \*{5} $/;
 const opening = "with(orvane){";
 const closing = "\n}";
 
-/** What a script held when it was last put into the scope. @type {WeakMap<Element, string>} */
+/** The own text of each script that was put into the scope. @type {WeakMap<Element, string>} */
 const wrapped = new WeakMap();
 /** @type {WeakSet<Node>} */
 const between = new WeakSet();
@@ -16,8 +16,8 @@ const between = new WeakSet();
 let inside = false;
 
 /**
- * Puts a script's text into the scope. A script that arrives in pieces is seen several times, and
- * the parser writes behind what stands there.
+ * Puts a script's text into the scope. A script that arrives in pieces is seen several times; the
+ * parser then appends to the text that was put into the scope before.
  * @param {HTMLScriptElement} script
  */
 function wrap(script) {
@@ -34,7 +34,7 @@ function wrap(script) {
 }
 
 /**
- * Whether an element is Orvane's though no markers stand around it, as its tag tells.
+ * Whether an element's own tag shows that it is Orvane's, even without markers around it.
  * @param {Element} element
  */
 const tells = (element) =>
@@ -42,7 +42,7 @@ const tells = (element) =>
     /startHighlight\(/.test(element.getAttribute("onmouseover") ?? "");
 
 /**
- * Watches until the page has been read.
+ * Watches until the page is parsed.
  * @param {(element: HTMLElement) => void} prepare called once with each element of Orvane's
  */
 export function watch(prepare) {

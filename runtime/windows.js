@@ -1,6 +1,6 @@
 /**
- * What a page asked of the browser's windows and today's browsers refuse: windows on load and on
- * exit, closing, favourites. A small box in the page says what the visitor can do instead.
+ * What pages do with windows and today's browsers block: opening them on load and on exit, closing
+ * them, adding favourites. A small box in the page says what the visitor can do instead.
  */
 import { ownPlace } from "./calm.js";
 
@@ -36,7 +36,7 @@ function showBox(words, action) {
     box.addEventListener("keydown", (event) => event.key === "Escape" && host.remove());
     inside.append(box);
     document.documentElement.append(host);
-    // Words that come into a box which is there already are read aloud.
+    // Screen readers speak words that are put into a box which is there already.
     setTimeout(() => (text.textContent = words));
 }
 
@@ -62,8 +62,9 @@ export function openWindow(url, name, features) {
 }
 
 /**
- * Offers a window once the visitor is about to leave: the pointer goes out at the top, a key for
- * leaving is pressed, or the page comes back. While a page goes no browser lets it open one.
+ * Offers a window once the visitor seems about to leave: the pointer leaves the page at the top, a
+ * key such as Ctrl or Alt is pressed, or the page is shown again after it was hidden. No browser
+ * lets a page open a window while it is being left.
  * @param {string} url @param {string} name @param {string} features
  */
 export function openOnLeaving(url, name, features) {
@@ -80,7 +81,7 @@ export function openOnLeaving(url, name, features) {
 
 const mac = /Mac|iPhone|iPad/.test(navigator.platform);
 
-/** Closes the window, or says how the visitor does when the browser keeps it open. */
+/** Closes the window; when the browser keeps it open, says how the visitor can close it. */
 export function closeWindow() {
     window.close();
     setTimeout(() => {
@@ -90,7 +91,7 @@ export function closeWindow() {
 }
 
 /**
- * Says how the visitor keeps a page among the bookmarks.
+ * Says how the visitor adds a page to the bookmarks.
  * @param {string} url @param {string} title
  */
 export function addFavorite(url, title) {

@@ -4,8 +4,9 @@
 
 namespace orvane {
 
-/// A list that tells of double clicks wherever they fall, and of Enter and Delete while a row is
-/// selected; the first arrow key selects its first row. A press beside the rows changes nothing.
+/// A list box that signals double clicks, on a row or beside the rows, and Enter and Delete while a
+/// row is selected. With no row selected, Up or Down selects the first one. A mouse press beside
+/// the rows leaves the selection as it is.
 class ActingList : public QListWidget
 {
     Q_OBJECT
@@ -13,15 +14,18 @@ class ActingList : public QListWidget
 public:
     using QListWidget::QListWidget;
 
-    /// The row that is selected, or -1; a row that only has the focus does not count.
+    /// The selected row, counted from 0, or -1; a row that only has the focus does not count.
     int SelectedRow() const;
 
-    /// A few rows; whoever has more room gives it.
+    /// About seven rows high; a layout with more room may make it higher.
     QSize sizeHint() const override;
 
 signals:
+    /// A double click with the left button anywhere in the list.
     void DoubleClicked();
+    /// Enter while a row is selected.
     void Entered();
+    /// The Delete key while a row is selected; the list itself removes nothing.
     void Deleted();
 
 protected:

@@ -19,39 +19,39 @@ namespace orvane {
 
 class MultiLineBox;
 
-/// How far a slider goes, and how it moves.
+/// The range of a slider, the distance of its ticks, and its steps by keyboard.
 struct SliderRange
 {
     int Lowest = 0;
     int Highest = 100;
     int Tick = 10;
-    int LargeStep = 5;
-    int SmallStep = 1;
+    int LargeStep = 5; ///< by Page Up and Page Down
+    int SmallStep = 1; ///< by the arrow keys
 };
 
-/// A box for one line that takes what the author gives, however long.
+/// A text box for one line of any length.
 QLineEdit* MakeTextBox(QWidget* parent);
 
-/// A box to tick; a long caption takes two lines.
+/// A check box; a caption of more than 90 characters takes two lines.
 QCheckBox* MakeCheckBox(TextView caption, QWidget* parent);
 
-/// A box with a list of items; what is typed into an editable one stays as it is.
+/// A combo box; what is typed into an editable one stays as it is, without completion.
 QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent);
 
-/// Shows a text in a combo box: its item is current when there is one, and an editable box takes
-/// any other text as well.
+/// Makes the item with this text current. Without such an item an editable box shows the text all
+/// the same, and any other box has no current item.
 void SetComboText(QComboBox& box, TextView text);
 
-/// A slider that lies, with ticks below it.
+/// A horizontal slider with ticks below it.
 QSlider* MakeSlider(const SliderRange& range, QWidget* parent);
 
-/// A box of page code, to be read and selected by mouse and keyboard; Tab leaves it.
+/// A read-only box for page code, which can be selected by mouse and keyboard; Tab leaves it.
 MultiLineBox* MakeCodeBox(QWidget* parent);
 
-/// What an option means, in words below it; a click on them selects the option.
+/// A label that explains an option button; a click on the label selects the option.
 QLabel* MakeOptionWords(TextView words, QRadioButton* option, QWidget* parent);
 
-/// A picture of the program's resources, such as "status_bar_sample".
+/// A label with a picture of the program's resources, such as "status_bar_sample".
 QLabel* MakePicture(const QString& name, QSize size, QWidget* parent);
 
 } // namespace orvane

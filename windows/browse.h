@@ -13,27 +13,28 @@ class QPushButton;
 
 namespace orvane {
 
-/// The button beside a field, and what a file must be to go into the field.
+/// A Browse button beside a field: the dialog that it opens, and what becomes of the picked file.
 struct BrowseRule
 {
     ControlName Button;
     TextView Caption;
     FileRequest Request;
-    /// Where the dialog starts; the folder of the picked file is stored there. Null: as the request
-    /// says.
+    /// The folder in which the dialog starts; the folder of the picked file is stored there. Null:
+    /// the dialog starts where the request says, and nothing is stored.
     Text OrvaneCore::*Folder = nullptr;
-    std::optional<FileRole> NoBlanks = {}; ///< a name with a blank is refused, for such a file
-    std::optional<std::size_t> Slot = {};  ///< of the files to copy, where the source is recorded
-    /// Called with a picked path before anything is set; false refuses it. Null admits all.
+    std::optional<FileRole> NoBlanks = {}; ///< refuses a blank in the name of such a file
+    std::optional<std::size_t> Slot = {};  ///< index in `Required` at which the path is recorded
+    /// Called first with the picked path; false refuses it. Null admits every path.
     std::function<bool(const Text& path)> Admits = {};
-    /// Called with the path once the field holds the file's name.
+    /// Called with the path once the field holds the file's name. May be null.
     std::function<void(const Text& path)> Then = {};
-    /// Called with a picked path in place of all that.
+    /// Called with an admitted path in place of all the steps below Admits. May be null.
     std::function<void(const Text& path)> Instead = {};
     bool KeepsPath = false; ///< the field takes the full path instead of the bare name
 };
 
-/// The button that lets the author pick a file for the field, by the rule; left without a parent.
+/// The button that lets the author pick a file for the field, by the rule; it has no parent yet. A
+/// cancelled dialog changes nothing. The bench must outlive the button.
 QPushButton* MakeBrowseButton(Workbench& bench, QLineEdit* field, BrowseRule rule);
 
 } // namespace orvane

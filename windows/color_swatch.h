@@ -11,7 +11,7 @@
 namespace orvane {
 
 /// The field in which an author picks a colour: it shows a caption at first, then the colour
-/// itself. A click, Enter or a blank opens the colour dialog.
+/// itself. A click, Enter or the space bar opens the colour dialog.
 class ColorSwatch : public QPushButton
 {
     Q_OBJECT
@@ -23,20 +23,21 @@ public:
     /// The colour as the page writes it; empty when none was picked.
     const Text& Value() const { return m_value; }
 
-    /// Takes a colour and shows it. The caption stays for an empty text, and for a default that the
-    /// author did not pick, which is "#000000" in a field that writes "rgb(0,0,0)".
+    /// Takes a colour and shows it. The caption is shown instead when the text is empty or is no
+    /// colour, and for a default that the author did not pick: in a field that writes "rgb(0,0,0)"
+    /// that is any text beginning with "#".
     void SetValue(TextView value);
 
-    /// Takes a colour and goes on showing what was there.
+    /// Takes a colour without showing it: the field looks as before.
     void SetHiddenValue(TextView value) { m_value = value; }
 
-    /// The packed colour that is shown, as CColor::RGBColor is; nothing while the caption is.
+    /// The colour that is shown, packed as CColor::RGBColor is; nothing while the caption is shown.
     std::optional<std::int32_t> Color() const { return m_color; }
 
     QSize sizeHint() const override;
 
 signals:
-    /// The author picked this packed colour; Cancel is silent.
+    /// The author picked this colour, packed as Color() is; not sent on Cancel.
     void Picked(std::int32_t color);
 
 protected:

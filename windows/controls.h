@@ -17,7 +17,7 @@ namespace orvane {
 class Dialogs;
 class HelpViewer;
 
-/// The name as the toolkit takes it.
+/// The name as the toolkit's text type.
 QString ToQt(ControlName name);
 
 /// The object name of one member of a group of controls, such as "optInsertMode(0)".
@@ -26,14 +26,14 @@ QString MemberName(ControlName group, int index);
 /// What a screen reader says for a label: its words without access key and colon.
 QString SpokenName(TextView label);
 
-/// A button that Enter presses while it has the focus; left without a parent.
+/// A button that Enter presses while it has the focus; it has no parent yet.
 QPushButton* MakeButton(ControlName name, TextView caption, TextView tip = {});
 
-/// A menu of the menu bar, or a sub-menu; "&" in the caption marks the access key.
+/// Adds a menu to the menu bar, or a sub-menu; "&" in the caption marks the access key.
 QMenu* AddMenu(QMenuBar& bar, ControlName name, TextView caption);
 QMenu* AddMenu(QMenu& menu, ControlName name, TextView caption);
 
-/// A command of a menu.
+/// Adds a command to a menu; "&" in the caption marks the access key.
 QAction* AddCommand(QMenu& menu, ControlName name, TextView caption);
 
 /// Opens the window's help topic on F1.
@@ -48,17 +48,18 @@ void SetReadingOrder(QWidget& window);
 /// The first control of a page in reading order that Tab stops at; null when there is none.
 QWidget* FirstControl(QWidget& page);
 
-/// The label of the form row in which the control stands; null for a row without one.
+/// The label of the form row in which the control stands; null when there is no row or no label.
 QLabel* LabelOf(QWidget* control);
 
-/// The words that stand in the control's row right before it (place -1) or behind it (place 1);
-/// null when there are none.
+/// The label in the control's row directly to the left of it (place -1) or to the right (place 1);
+/// null when there is none.
 QLabel* WordsBeside(QWidget* control, int place);
 
-/// Shows or hides the row of a form layout in which the control stands, with its label.
+/// Shows or hides the form row in which the control stands, with its label; does nothing for a
+/// control outside of a form layout.
 void ShowRow(QWidget* control, bool isShown);
 
-/// A size on screen, from the twips in which the windows were measured (15 to a pixel).
+/// A size in pixels from one in twips, of which 15 make a pixel.
 QSize FromTwips(int width, int height);
 
 } // namespace orvane

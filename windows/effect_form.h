@@ -7,14 +7,16 @@
 
 namespace orvane {
 
-/// What the window of every effect does, over the fields that `ForEachField` names: it shows and
-/// gives the parameters, asks `Check` (or `CheckPage` on each page), writes back what `Tidy` mends,
-/// hands over what `Generate` gives, keeps drafts, and fills itself from a pasted tag where the
+/// The base class of all effect windows. It binds each field that `ForEachField` names to its
+/// control, asks `Check` (or `CheckPage` on each page), shows the values that `Tidy` corrected,
+/// delivers what `Generate` returns, keeps drafts, and fills the window from a pasted tag where the
 /// effect has a `ReadTag`.
 template <class Effect>
 class EffectForm : public PagedForm
 {
 public:
+    /// The values of all fields as their controls show them. Expects a control for each field;
+    /// throws std::logic_error for a field without one.
     Effect Parameters() const
     {
         Effect effect;
@@ -24,6 +26,7 @@ public:
         return effect;
     }
 
+    /// Shows these values in the controls.
     void SetParameters(const Effect& effect)
     {
         ForEachField(effect, [this](FieldName name, const auto& value) {
@@ -32,7 +35,8 @@ public:
         UpdateForm();
     }
 
-    /// Fills the window from the pasted tag and ends the edit.
+    /// Fills the window from the pasted tag, offers to take quotation marks off its values, and
+    /// clears the shared EditMode.
     void EditApplet() requires requires(Effect& effect, const PastedTag& tag)
     {
         ReadTag(effect, tag);
@@ -60,7 +64,8 @@ protected:
     {
     }
 
-    /// Adds the row of buttons, and shows a fresh effect or the pasted one. Called last.
+    /// Adds the row of buttons, and shows a fresh effect or, in EditMode, the pasted one. Called
+    /// last in the constructor, after all pages.
     void AddButtons(Buttons buttons, ControlName helpName = "cmdClickHereForHelp")
     {
         PagedForm::AddButtons(buttons, helpName);
@@ -73,10 +78,11 @@ protected:
         BeginDrafts(isFresh);
     }
 
-    /// What a fresh window shows; where the struct's defaults are not all that is known.
+    /// What a fresh window shows; overridden where it is more than the struct's defaults.
     virtual Effect Fresh() const { return {}; }
 
-    /// Shows what depends on the values of the fields; called whenever they were set.
+    /// Shows what depends on the values of the fields. SetParameters() calls it; a window that
+    /// needs it when the author changes a field connects that itself.
     virtual void UpdateForm() {}
 
     void Next() override
@@ -90,10 +96,11 @@ protected:
             Finish(effect);
     }
 
-    /// What the effect gives to a page; for an effect whose `Generate` wants more than the fields.
+    /// The page code and files of the effect; overridden where `Generate` takes more than the
+    /// fields.
     virtual EffectPayload Produce(const Effect& effect) const { return Generate(effect); }
 
-    /// Ends the wizard with an effect that passed its checks.
+    /// Corrects an effect that passed its checks by `Tidy`, and delivers it.
     void Finish(Effect effect)
     {
         if constexpr (requires { Tidy(effect); }) {

@@ -12,7 +12,7 @@ namespace orvane {
 class EvenGrid : public QLayout
 {
 public:
-    /// Would like to have `columns`; left without a parent when there is none.
+    /// `columns` is the number for which sizeHint() asks room; the real one follows the width.
     explicit EvenGrid(int columns, QWidget* parent = nullptr);
 
     void addItem(QLayoutItem* item) override;

@@ -7,10 +7,10 @@ class QWidget;
 
 namespace orvane {
 
-/// The controls of a window by the names of the fields that they show. A field's value is the text
-/// of a box, the selected text of a list, a tick, the place of a slider, the chosen one of a group
-/// of options, the colour of a swatch or the rows of a list; the field "Required" is the shared
-/// table of files to copy.
+/// Reads and writes the controls of a window by the names of the fields that they show. A field's
+/// value is the text of a box, the selected text of a list, the state of a check box, the number of
+/// a slider, the index of the chosen option button, the colour of a swatch or the rows of a list;
+/// the field "Required" is the shared table of files to copy.
 class FieldControls
 {
 public:
@@ -20,7 +20,8 @@ public:
     /// any other.
     FieldTexts Read(ControlName name) const;
 
-    /// Puts a value into the field's control; numbers outside a slider's range are its nearer end.
+    /// Shows a value in the field's control, a number outside of a slider's range as the nearer end
+    /// of the range; does nothing for a field without a control.
     void Write(ControlName name, const FieldTexts& texts);
 
     /// Whether the window has a control for the field.

@@ -9,20 +9,20 @@
 
 namespace orvane {
 
-/// Lets the author drop files on a widget or anything in it. Only files of this machine that all
-/// fit the masks are taken; everything else is refused by the sign of the drag.
+/// Lets the author drop files on a widget or anything in it. A drop is accepted only if all of it
+/// are local files whose names fit the masks; otherwise the mouse pointer shows the refusal.
 class FileDrop : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `masks` are such as "*.jpg;*.gif"; more files than `most` are refused. The widget owns what
-    /// is made here.
+    /// `masks` are such as "*.jpg;*.gif"; more than `most` files at once are refused. The widget
+    /// owns the new object.
     FileDrop(QWidget& target, TextView masks,
              std::size_t most = std::numeric_limits<std::size_t>::max());
 
 signals:
-    /// The full paths of the files, in the order in which they came.
+    /// Files were dropped: their full paths, in the order in which the drag listed them.
     void Dropped(const std::vector<orvane::Text>& paths);
 
 protected:

@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-/// A file field: locked against typing unless the preferences unlock it; a key typed into a locked
-/// one tells the author to use Browse.
+/// A text box for a file name: read-only unless the preferences unlock it. A character typed into a
+/// locked box makes it tell the author to use Browse.
 class FileNameBox : public TextLine
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class FileNameBox : public TextLine
 public:
     FileNameBox(const Settings& settings, Dialogs& dialogs, QWidget* parent = nullptr);
 
-    /// Whether the field holds a file name at present; one that does not may be typed into.
+    /// Tells the box whether it is used for a file name at present; if not, it is never locked.
     void SetHoldsFile(bool holdsFile);
 
 protected:

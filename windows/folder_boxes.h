@@ -10,7 +10,7 @@ class QVBoxLayout;
 
 namespace orvane {
 
-/// The root and the mounted volumes that an author may keep files on.
+/// The full paths of the root folder and of all mounted volumes but those of the system itself.
 std::vector<Text> MountedDrives();
 
 /// The object names of one set of boxes.
@@ -21,26 +21,29 @@ struct FolderBoxNames
     ControlName File; ///< empty for a window without a file box
 };
 
-/// Drive, folder and file box, one above the other and each following the one before.
+/// Drive, folder and file box, one above the other: each shows the content of what is chosen in the
+/// box above it.
 class FolderBoxes : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Starts in the author's home folder. The file box shows names that fit the masks.
+    /// Starts in the author's home folder, or the root when that cannot be read. The file box shows
+    /// the names that fit the masks.
     FolderBoxes(const FileStore& files, const FolderBoxNames& names, TextView masks,
                 QWidget* parent = nullptr);
 
-    /// Shows another folder; false, and everything stays, when it cannot be read.
+    /// Shows another folder; false, with everything as it was, when it cannot be read.
     bool GoTo(TextView folder);
 
-    /// Looks again at what lies in the folder.
+    /// Reads the folder anew and shows what it contains.
     void Refresh();
 
+    /// The full path of the folder that is shown.
     const Text& Folder() const { return m_folder; }
 
-    /// The selected name of the file box, of several the one that the author came to last; or the
-    /// empty text.
+    /// The name of the file box's current row if it is selected, else the empty text. Of several
+    /// selected rows the current one is the one that the author came to last.
     Text FileName() const;
 
     /// All selected names from top to bottom, for a file box in which several may be selected.
@@ -53,6 +56,7 @@ public:
 signals:
     /// The author, not the program, went to another folder.
     void FolderPicked();
+    /// The selection in the file box changed; it may be empty.
     void FileSelected();
     /// A double click anywhere in the file box, or Enter on a selected file.
     void FileActivated();

@@ -10,7 +10,7 @@ class Dialogs;
 class PageBuilder;
 
 /// Adds the three rows in which an author chooses a font, `cboFont`, `cboFontSize` and
-/// `cboFontStyle`, and the button that opens the font dialog.
+/// `cboFontStyle`, and a button of the name `button` that opens the font dialog.
 void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button);
 
 } // namespace orvane

@@ -17,40 +17,44 @@ class FolderBoxes;
 class ParallelLists;
 
 /// The part of a window in which the author picks images and puts them in order: drive, folder and
-/// file box, the image list with the lists in step with it, and their buttons. Images can be
-/// dropped on the list as well.
+/// file box, the image list, the lists beside it that show further texts of the same images, and
+/// their buttons. Images can be dropped on the lists as well.
 class ImageListPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Starts in the folder used last, with an empty list and no files to copy.
+    /// Starts in the folder used last, with an empty list; empties the shared table of files to
+    /// copy. The bench must outlive the panel.
     ImageListPanel(Workbench& bench, const ImageListVariation& variation,
                    QWidget* parent = nullptr);
 
-    /// From now on the fields grow to the size of each added picture.
+    /// From now on the numbers in these fields grow to the width and height, in pixels, of each
+    /// added picture.
     void SetSizeFields(QLineEdit* width, QLineEdit* height);
 
     const std::vector<ImageRow>& Rows() const { return m_list.Rows; }
     std::optional<std::size_t> Selected() const { return m_list.Selected; }
 
-    /// Shows other rows, as from a file, with none selected; nothing is recorded for copying.
+    /// Shows other rows, none of them selected, without recording their files for copying.
     void SetRows(std::vector<ImageRow> rows);
 
-    /// Changes what is set for one image, and selects it. Expects a row that is there.
+    /// Replaces one row and selects it. Expects an existing row; throws std::out_of_range for any
+    /// other.
     void SetRow(std::size_t index, ImageRow row);
 
-    /// Adds the files that are selected in the file box, without asking whether one is.
+    /// Adds the files that are selected in the file box. With none selected it adds a row with an
+    /// empty name, without a word to the author.
     void AddImageToList();
 
 signals:
-    /// The rows are others than before, by the author or the program.
+    /// The rows were shown anew: the author or the program may have changed them.
     void RowsChanged();
     /// The author selected another row, or none.
     void RowSelected();
     /// A double click on a row, or Enter.
     void RowActivated();
-    /// A right press on the lists, or the menu key, while a row is selected.
+    /// A right press on a row, or the menu key, while a row is selected; a place on the screen.
     void MenuRequested(QPoint globalPlace);
 
 private:

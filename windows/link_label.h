@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-/// A label that a click or the keyboard follows like a link.
+/// A label that looks like a link and is followed by a click, Enter or the space bar.
 class LinkLabel : public QLabel
 {
     Q_OBJECT
@@ -14,10 +14,12 @@ class LinkLabel : public QLabel
 public:
     LinkLabel(ControlName name, TextView words, QWidget* parent = nullptr);
 
+    /// Shows other words, which are plain text.
     void SetWords(TextView words);
     Text Words() const { return m_words; }
 
 signals:
+    /// The author followed the link.
     void Followed();
 
 protected:

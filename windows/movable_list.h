@@ -4,22 +4,23 @@
 
 namespace orvane {
 
-/// A list whose selected row can be dragged to another place. Lists that show columns of the same
-/// rows take each other's.
+/// A list whose selected row can be dragged to another place, in this list or in another one that
+/// shows a column of the same rows. The list itself moves nothing: the owner of the rows does, when
+/// it gets RowDragged().
 class MovableList : public ActingList
 {
     Q_OBJECT
 
 public:
-    /// Lists of one `family` speak of the same rows; no other list, in this program or another one
-    /// that runs, has that text.
+    /// `family` is a text that all lists with columns of the same rows share. It must be unique, in
+    /// other running programs too: only a row of a list with the same text can be dropped here.
     explicit MovableList(const QString& family);
 
-    /// Adds a row at the end.
+    /// Adds a row without text at the end.
     void AddRow();
 
 signals:
-    /// The selected row was dropped where it is to stand at this place.
+    /// The selected row was dropped and is to have this index, counted from 0, once it has moved.
     void RowDragged(int place);
 
 protected:

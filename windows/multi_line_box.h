@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-/// A box of several lines that keeps every character: where the toolkit would make a blank of a
-/// no-break space and a line of a separator, this one gives back what went in. Lines end in CR LF.
+/// A text box of several lines that keeps every character: the toolkit's own box would turn a
+/// no-break space into a blank, and a paragraph separator into a line end.
 class MultiLineBox : public QPlainTextEdit
 {
     Q_OBJECT
@@ -15,10 +15,13 @@ class MultiLineBox : public QPlainTextEdit
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
+    /// The text; its lines end in CR LF, whatever ended them in SetWords().
     Text Words() const;
+
+    /// Shows another text, of any length.
     void SetWords(TextView words);
 
-    /// A paste that would bring the box above so many characters is refused.
+    /// A paste that would bring the box above this number of characters is refused.
     static constexpr qsizetype mostCharacters = 4 * 1024 * 1024;
 
 signals:

@@ -17,8 +17,8 @@ class NumberBox : public QLineEdit
 public:
     NumberBox(ControlName name, int lowest, int highest, QWidget* parent);
 
-    /// The pair of buttons, to be put beside the box; their names are the box's with "Up" and
-    /// "Down" behind it.
+    /// The pair of buttons, to be put beside the box; their object names are the box's name with
+    /// "Up" or "Down" appended.
     QWidget* UpDown() const { return m_upDown; }
 
 protected:

@@ -10,8 +10,8 @@
 
 namespace orvane {
 
-/// The frame of the small windows: rows, and OK and Cancel below them. Escape cancels, F1 opens the
-/// help.
+/// The base class of the small windows: rows, with OK and Cancel below them. Escape cancels, F1
+/// opens the help topic.
 class OkCancelForm : public QDialog
 {
     Q_OBJECT
@@ -20,20 +20,21 @@ public:
     OkCancelForm(ControlName name, TextView title, int helpTopic, Workbench& bench,
                  QWidget* parent);
 
-    /// Shows the window over its parent and calls `then` once OK was taken; the window deletes
-    /// itself when it closes.
+    /// Shows the window over its parent, without waiting, and calls `then` if OK closes it. Expects
+    /// a window made by `new`, which deletes itself when it closes.
     void Begin(std::function<void()> then);
 
 protected:
     /// Where the rows go.
     PageBuilder Rows() { return m_rows; }
 
-    /// Adds OK and Cancel below the rows; called last.
+    /// Adds OK and Cancel below the rows; called last in the constructor.
     void AddButtons(TextView okCaption = u"&OK");
 
+    /// Shows the complaint's words and gives its control the focus.
     void Report(const Complaint& complaint) { orvane::Report(*this, m_bench.Dialogs, complaint); }
 
-    /// OK was pressed: closes the window by accept(), or reports what is wrong.
+    /// Called when OK is pressed: closes the window by accept(), or reports what is wrong.
     virtual void Take() = 0;
 
     Workbench& m_bench;

@@ -29,47 +29,53 @@ class ColorSwatch;
 class MultiLineBox;
 class NumberBox;
 
-/// The row vocabulary of all windows: each call adds one row, in reading order.
+/// Builds the pages of all windows. Each call adds one row below the last one and returns its
+/// control, unless its comment says otherwise. `name` is the control's object name, `tip` its tool
+/// tip.
 class PageBuilder
 {
 public:
-    /// Builds into the layout of `page`, which it makes. Without a bench the page has no row that
-    /// asks the author something.
+    /// Gives `page` a form layout and builds into it. Without a bench these rows must not be
+    /// called: locked boxes, Browse buttons, colours and fonts, which ask the author by its
+    /// dialogs.
     explicit PageBuilder(QWidget* page, Workbench* bench = nullptr);
 
-    /// A box that takes any text; `unit` stands behind it.
+    /// A box that takes any text, with the words `unit` to the right of it.
     QLineEdit* TextBox(ControlName name, TextView label, TextView tip = {}, TextView unit = {});
 
-    /// A box that takes any text, with a button of this page beside it.
+    /// A box that takes any text, with a button beside it that Button() made.
     QLineEdit* TextBoxWithButton(ControlName name, TextView label, QPushButton* button,
                                  TextView tip = {});
 
-    /// A box for several lines; Tab leaves it.
+    /// A box for a text of several lines; Tab leaves it.
     orvane::MultiLineBox* MultiLineBox(ControlName name, TextView label, TextView tip = {});
 
     /// A file field that is filled by Browse alone unless the preferences unlock it.
     FileNameBox* LockedTextBox(ControlName name, TextView label, TextView tip = {});
 
-    /// The button that fills the field through a file dialog, to be put into the field's row.
+    /// Makes the button that fills the field through a file dialog; adds no row, the caller puts it
+    /// into the field's row.
     QPushButton* BrowseButton(QLineEdit* field, BrowseRule rule);
 
-    /// A locked file field with its Browse button, and one that any text may be typed into.
+    /// A locked file field with its Browse button.
     FileNameBox* LockedBrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule);
+    /// A box that takes any text, with a Browse button beside it.
     QLineEdit* BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule,
                          TextView unit = {});
 
+    /// A combo box, with the words `unit` to the right of it.
     QComboBox* ComboBox(ControlName name, TextView label, std::span<const TextView> items,
                         bool isEditable, TextView tip = {}, TextView unit = {});
 
-    /// A box with the basic colours, and a swatch beside it that puts a picked colour's channels
-    /// into the box.
+    /// A combo box with the basic colours, and a swatch beside it that writes a picked colour into
+    /// the box, as "255,128,0".
     QComboBox* ColorBox(ControlName name, TextView label, ControlName swatch);
 
     /// A text box with up-down buttons that step a number between the two bounds.
     orvane::NumberBox* NumberBox(ControlName name, TextView label, int lowest, int highest,
                                  TextView tip = {}, TextView unit = {});
 
-    /// Makes the field of the last row as narrow as a number; gives the field.
+    /// Makes the field as narrow as a number and returns it. Expects the field of the last row.
     template <class Field>
     Field* Narrow(Field* field)
     {
@@ -77,11 +83,11 @@ public:
         return field;
     }
 
-    /// A slider between two words.
+    /// A slider, with the words `low` at its left end and `high` at its right end.
     QSlider* Slider(ControlName name, TextView label, TextView low, TextView high,
                     const SliderRange& range, TextView tip = {});
 
-    /// A field that shows `caption` until a colour is picked, and gives it in the notation.
+    /// A colour field that shows `caption` until a colour is picked, and writes it in the notation.
     orvane::ColorSwatch* ColorSwatch(ControlName name, TextView label,
                                      ColorNotation notation = ColorNotation::Hash,
                                      TextView caption = u"Click to Select Color",
@@ -91,24 +97,27 @@ public:
     /// opens the font dialog.
     void FontRow(ControlName button = "cmdMoreFonts");
 
+    /// A list box with these items below its label; it takes the height that is left.
     ActingList* ListBox(ControlName name, TextView label, std::span<const TextView> items);
+    /// A check box.
     QCheckBox* CheckBox(ControlName name, TextView caption, TextView tip = {});
 
-    /// One option of a group, with a description beside it that selects it as well, and with a
-    /// picture of the program's resources, such as "sample_date".
+    /// One option button of a group, counted from 0. Below it stands a description, which selects
+    /// it by a click as well, and to the right of that a picture of the program's resources, such
+    /// as "sample_date"; without a description no picture is shown.
     QRadioButton* Option(ControlName group, int index, TextView caption, TextView description = {},
                          const QString& picture = {});
 
-    /// The options of a group, one below the other.
+    /// The option buttons of a whole group, one below the other.
     void OptionGroup(ControlName group, std::initializer_list<TextView> captions);
 
-    /// A text of the window that the author does not see.
+    /// A hidden text box, for a field that the author does not see; takes no row.
     QLineEdit* HiddenText(ControlName name);
 
-    /// A read-only box of page code.
+    /// A read-only box of page code; it takes the height that is left.
     orvane::MultiLineBox* CodeBox(ControlName name, TextView accessibleName);
 
-    /// A paragraph of words.
+    /// A paragraph of plain text.
     QLabel* Note(TextView words, ControlName name = {});
 
     /// A picture of the program's resources, such as "status_bar_sample".
@@ -117,23 +126,24 @@ public:
     /// A frame "Example" with a picture of what the effect looks like.
     void Example(const QString& picture, QSize size);
 
-    /// A button, to be put into a row.
+    /// Makes a button; adds no row, the caller puts it into one.
     QPushButton* Button(ControlName name, TextView caption, TextView tip = {});
 
-    /// A row of buttons, as wide as their captions.
+    /// A row of buttons, each as wide as its caption.
     void Buttons(std::initializer_list<QPushButton*> buttons);
 
-    /// Any widgets in one row under a label, which it gives (null when it has no words); the first
-    /// one takes the room.
+    /// Any widgets side by side in one row with a label, which belongs to the first one. The first
+    /// one takes the width that is left. Returns the label; null when `label` is empty.
     QLabel* Row(TextView label, std::initializer_list<QWidget*> widgets);
 
     /// A framed group with a caption; the returned builder adds to it.
     PageBuilder Frame(TextView caption, ControlName name = {});
 
-    /// A row that takes the room that is left, or a stretch of nothing when null; gives
-    /// what stands there.
+    /// A row of one widget that takes the height that is left; of an empty one when it is null.
+    /// Returns the widget.
     QWidget* Fill(QWidget* widget = nullptr);
 
+    /// The widget that the rows are built into.
     QWidget* Page() const { return m_page; }
 
 private:

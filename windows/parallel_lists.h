@@ -10,15 +10,15 @@ namespace orvane {
 
 class MovableList;
 
-/// One of the lists of a window that speak of the same rows.
+/// One of several lists that show the same rows, each list one text of every row.
 struct ListColumn
 {
     ControlName Name;
     TextView Header;
 };
 
-/// Such lists side by side under their headers: they scroll as one, a row is selected in all of
-/// them, dragged in all of them, and Tab stops at the first alone.
+/// Lists of the same rows, side by side under their headers. They scroll together, a row that is
+/// selected or dragged in one of them is so in all, and Tab stops at the first one only.
 class ParallelLists : public QWidget
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ class ParallelLists : public QWidget
 public:
     ParallelLists(std::vector<ListColumn> columns, TextView rowTip, QWidget* parent = nullptr);
 
-    /// Shows these rows and the selected one.
+    /// Shows these rows, the first line of each text, and the selected row; sends no signal.
     void Show(const RowList& list);
 
 signals:
@@ -36,9 +36,9 @@ signals:
     void RowActivated();
     /// Delete on a selected row.
     void RowDeleted();
-    /// The selected row was dragged to another place.
+    /// The selected row was dragged and is to have this index, counted from 0, once it has moved.
     void RowDragged(int place);
-    /// A right press on a row, or the menu key, at that place of the screen.
+    /// A right press on a row, or the menu key, at that place on the screen.
     void MenuRequested(QPoint globalPlace);
 
 private:

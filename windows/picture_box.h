@@ -10,10 +10,10 @@ namespace orvane {
 class PictureBox : public QLabel
 {
 public:
-    /// The box, named `picPreview`, is at least as large as `room`.
+    /// The box has the object name `picPreview` and is at least as large as `room`, in pixels.
     explicit PictureBox(QSize room, QWidget* parent = nullptr);
 
-    /// Shows the picture of a file; a file that holds none leaves the box empty.
+    /// Shows the picture of a file; the box is empty when the file cannot be read as a picture.
     void Load(TextView path);
 
 private:

@@ -13,11 +13,11 @@ namespace orvane {
 /// What a button beside a list of rows does.
 enum class RowCommand
 {
-    Add,    ///< the window adds a row
-    Edit,   ///< the window changes the selected row
-    Remove, ///< the three others are done by the panel
-    MoveUp,
-    MoveDown,
+    Add,      ///< asks the window for a row by AddWanted()
+    Edit,     ///< asks the window to change the selected row by EditWanted()
+    Remove,   ///< the panel removes the selected row
+    MoveUp,   ///< the panel moves the selected row
+    MoveDown, ///< the panel moves the selected row
 };
 
 /// A button of the panel.
@@ -27,11 +27,12 @@ struct RowButton
     ControlName Name;
     TextView Caption;
     TextView Tip = {};
-    bool StaysEnabled = false; ///< without a row it tells the author so
+    bool StaysEnabled = false; ///< enabled in an empty list too; a click then tells the author so
 };
 
-/// Lists that speak of the same rows, with buttons that add, edit, remove and move them. Those
-/// that need a row are disabled while there is none.
+/// Lists that show the same rows, with buttons that add, edit, remove and move them. Without rows
+/// all buttons are disabled but Add and those that stay enabled; with rows but none selected they
+/// tell the author so.
 class RowListPanel : public QWidget
 {
     Q_OBJECT
@@ -42,29 +43,35 @@ public:
 
     const RowList& Rows() const { return m_list; }
 
-    /// One list's texts, and other texts for it; rows come and go with the longest list. The
-    /// selection goes when the texts are others.
+    /// The texts of one list, row by row. Expects the name of a list of this panel.
     std::vector<Text> Column(ControlName name) const;
+
+    /// Puts other texts into one list. Rows are added when it becomes the longest list, and rows at
+    /// the end that are empty in all lists are removed. Nothing is selected then, unless the texts
+    /// are the same as before. Expects the name of a list of this panel.
     void SetColumn(ControlName name, const std::vector<Text>& texts);
+
+    /// Whether the panel has a list of that name.
     bool HasColumn(ControlName name) const { return IndexOf(name) < m_columns.size(); }
 
-    /// Adds a row at the end; the selection stays.
+    /// Adds a row at the end, one text for each list; the selection stays.
     void AddRow(std::vector<Text> row);
 
-    /// Selects a row. Expects one that is there.
+    /// Selects a row. Expects an existing one.
     void Select(std::size_t row);
 
-    /// Changes the selected row, which stays selected. Expects that there is one.
+    /// Replaces the texts of the selected row, which stays selected. Expects that a row is
+    /// selected; throws std::bad_optional_access if none is.
     void ChangeSelectedRow(std::vector<Text> row);
 
 signals:
-    /// A button of the command Add was clicked; `button` is its place among the panel's buttons.
+    /// A button of the command Add was clicked; `button` is its index among the panel's buttons.
     void AddWanted(int button);
     /// The selected row is to be edited: by its button, a double click or Enter.
     void EditWanted();
-    /// A row was removed.
+    /// A row was removed that had this index.
     void RowRemoved(std::size_t row);
-    /// A row was moved to another place; those between closed up.
+    /// A row was moved from one index to another; the rows between moved on by one.
     void RowMoved(std::size_t from, std::size_t to);
 
 private:

@@ -8,8 +8,8 @@ class QTimer;
 
 namespace orvane {
 
-/// A line for short words on what was done. They go away after some seconds; a screen reader says
-/// them.
+/// A line for short words on what was done. They disappear after five seconds; a screen reader
+/// speaks them.
 class StatusNote : public QLabel
 {
     Q_OBJECT
@@ -17,6 +17,7 @@ class StatusNote : public QLabel
 public:
     explicit StatusNote(QWidget* parent = nullptr);
 
+    /// Shows these words, in place of earlier ones, for five seconds.
     void Tell(TextView words);
 
 private:

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-/// Shows the wait pointer for as long as it lives.
+/// Shows the wait cursor in all windows while the object exists.
 class WaitCursor
 {
 public:

@@ -9,37 +9,41 @@ class QTimer;
 
 namespace orvane {
 
-/// The window of one effect. Done hides it with its fields as they are, Cancel closes it; what it
-/// produced is read with TakePayload(). What the author entered is kept as a draft until the effect
-/// was delivered, and offered when the window opens next.
+/// The window of one effect. Done hides it and keeps the fields as they are, Cancel closes it; what
+/// it produced is read with TakePayload(). What the author entered is kept as a draft file until
+/// the effect was delivered, and is offered when the window opens the next time.
 class WizardForm : public WizardFrame
 {
     Q_OBJECT
 
 public:
-    /// Forgets the files of an earlier effect. The effect is the one whose catalogue row names this
-    /// window; its row gives title and help topic.
+    /// Empties the shared table of files to copy. The effect is the one whose catalogue row has
+    /// `name` as its window; the row gives title and help topic.
     WizardForm(ControlName name, Workbench& bench, QWidget* parent);
 
-    /// The payload of a Done since the last call, or nothing after Cancel.
+    /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
 
-    /// Throws the draft away; called when the effect was delivered.
+    /// Removes the draft; called when the effect was delivered.
     void DropDraft();
 
 protected:
-    /// Hands the payload over to the delivery wizard. A window that has more to do then does it
-    /// first, and stays open when that fails.
+    /// Keeps the payload for TakePayload() and closes the window by accept(). A window with more to
+    /// do at the end overrides this: it does that first, and calls this only if it succeeded.
     virtual void Deliver(EffectPayload payload);
 
-    /// Makes the window that of another effect with a row of its own: title, help topic, draft.
+    /// Makes this the window of another effect: title, help topic and draft are then those of its
+    /// catalogue row.
     void SetEffect(EffectKind kind);
 
-    /// From now on the fields are kept as a draft; an earlier draft is offered when `isFresh`.
+    /// From now on the fields are stored as a draft every two seconds and when the window hides.
+    /// Offers an earlier draft when `isFresh`.
     void BeginDrafts(bool isFresh);
 
-    /// The fields as a draft, and the fields out of a draft.
+    /// The text that stores the fields as a draft.
     virtual Text Draft() const = 0;
+
+    /// Fills the fields from such a text.
     virtual void TakeDraft(TextView draft) = 0;
 
     void showEvent(QShowEvent* event) override;
@@ -51,7 +55,7 @@ private:
 
     std::optional<EffectPayload> m_payload;
     EffectKind m_kind = EffectKind::None;
-    Text m_kept; ///< the draft as it was last stored, or the fresh fields
+    Text m_kept; ///< the draft as last stored, or the fields as the window opened with them
     QTimer* m_keepTimer;
     LinkLabel* lblTakeUp;
 };

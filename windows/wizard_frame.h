@@ -13,8 +13,9 @@ class QStackedWidget;
 
 namespace orvane {
 
-/// What all step-by-step windows have: heading, sub-heading, pages one above the other, and a row
-/// of buttons with the help at its left. A page that does not fit scrolls.
+/// The base class of all step-by-step windows: heading, sub-heading, a stack of pages of which one
+/// is shown, and a row of buttons with the help button at its left. A page that does not fit
+/// scrolls.
 class WizardFrame : public QDialog
 {
     Q_OBJECT
@@ -23,19 +24,24 @@ public:
     WizardFrame(ControlName name, Workbench& bench, QWidget* parent);
 
 protected:
+    /// Which buttons the window has besides the help button.
     enum class Buttons
     {
         Paged,   ///< Previous, Next, Cancel
         OnePage, ///< Done, Cancel
     };
 
-    /// Adds the row of buttons below the pages; called once, behind the last page.
+    /// Adds the row of buttons below the pages and makes the window large enough for the pages
+    /// added so far; called once. Whoever adds pages later calls SetReadingOrder() after that.
     void AddButtons(Buttons buttons, ControlName helpName = "cmdClickHereForHelp");
 
-    /// Adds a page behind those that are there; the first one is shown.
+    /// Adds a page after the last one; the first page of all is shown at once.
     QWidget* AddPanel(const QString& name = {});
+
+    /// The same, and a builder for the rows of the page.
     PageBuilder AddPage() { return PageBuilder(AddPanel(), &m_bench); }
 
+    /// Shows the page with that index, counted from 0. Offers are shown above the first page only.
     void ShowPanel(int index);
     int CurrentPanel() const;
     int PanelCount() const;
@@ -43,17 +49,20 @@ protected:
     void SetHeading(TextView heading, TextView subHeading);
     void SetHelpTopic(int topic) { m_helpTopic = topic; }
 
-    /// Adds a line above the pages that offers something, hidden until it is shown.
+    /// Adds a link above the pages that offers something. It is hidden; the caller shows it when
+    /// there is something to offer.
     LinkLabel* AddOffer(ControlName name, TextView words);
 
     /// Shows the complaint's words and gives its control the focus.
     void Report(const Complaint& complaint) { orvane::Report(*this, m_bench.Dialogs, complaint); }
 
-    /// Shows short words on what was done beside the buttons, for some seconds.
+    /// Shows short words beside the buttons, on what was done, for five seconds.
     void Tell(TextView words) { m_note->Tell(words); }
 
-    /// "Next" of a paged window, "Done" of one with a single page.
+    /// Called for "Next" in a paged window and for "Done" in one with a single page.
     virtual void Next() = 0;
+
+    /// Called for "Previous".
     virtual void Previous() {}
 
     Workbench& m_bench;

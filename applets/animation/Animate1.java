@@ -11,7 +11,7 @@ public class Animate1 extends CoolTool3 {
         "shutter|slidein(1-8)|slideout(1-8)"
         + "|scroll(2:4:6:8)|expand(1-9)|overwrite|shrink(1-9)";
     private static final String OVERWRITE = "overwrite";
-    /** Where the directions 1 to 9 lie: from the upper left corner clockwise, then the middle. */
+    /** x and y of the directions 1 to 9: from the upper left corner clockwise, then the middle. */
     private static final int[] ACROSS = {0, -1, 0, 1, 1, 1, 0, -1, -1, 0};
     private static final int[] DOWN = {0, -1, -1, -1, 0, 1, 1, 1, 0, 0};
 
@@ -19,7 +19,7 @@ public class Animate1 extends CoolTool3 {
     private int[] pauses;
     private String[] links;
     private AudioClip[] sounds;
-    /** The transition of the step from each frame to the next, or null. */
+    /** The transition from each frame to the next one as its parameter writes it, or null. */
     private String[] types;
     private String[] list;
     private int steps;
@@ -27,7 +27,7 @@ public class Animate1 extends CoolTool3 {
     private int cycles;
     private Color curtain;
 
-    // Where the animation is: a frame stands, or a transition leads away from it.
+    // The state of the animation: a frame stands, or a transition leads away from it.
     private int shown;
     private boolean moving;
     private long since;
@@ -124,7 +124,7 @@ public class Animate1 extends CoolTool3 {
         return frames.length == 1 || cycles > 0 && cycle == cycles - 1 && next() == 0;
     }
 
-    /** When the frame that stands gives way; NEVER while it waits for the visitor. */
+    /** The time at which the standing frame ends; NEVER while it waits for the visitor. */
     private long standsUntil() {
         if (pauses[shown] > 0)
             return since + pauses[shown];
@@ -159,7 +159,7 @@ public class Animate1 extends CoolTool3 {
         return type.replaceFirst("\\(.*", "").trim().toLowerCase(Locale.ROOT);
     }
 
-    /** The directions of a transition; null when there is no such transition. */
+    /** The digits of the directions that a transition has; null when there is no such one. */
     private static String directionsOf(String name) {
         switch (name) {
         case "slidein":
@@ -179,7 +179,7 @@ public class Animate1 extends CoolTool3 {
         }
     }
 
-    /** Settles transition and direction, by chance where the type leaves them open. */
+    /** Chooses transition and direction, at random where the type leaves them open. */
     private void choose(String type, boolean mayBeRandom) {
         String name = nameOf(type);
         if (mayBeRandom && name.equals("random")) {
@@ -241,7 +241,7 @@ public class Animate1 extends CoolTool3 {
         }
     }
 
-    /** Draws the frame stretched to a rectangle that touches one side of the area. */
+    /** Draws the frame stretched to this size, at the side or corner (dx, dy) of the area. */
     private void drawStretched(Graphics2D g, BufferedImage frame, int dx, int dy, int width,
                                int height) {
         g.drawImage(stretched(frame, width, height), (1 + dx) * (areaWidth - width) / 2,

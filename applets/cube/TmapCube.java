@@ -2,7 +2,7 @@ import java.awt.Color;
 import java.awt.Graphics2D;
 import java.awt.image.BufferedImage;
 
-/** A cube with an image on each face that turns about its middle. */
+/** A cube that turns about its middle and shows the same image on each face. */
 public class TmapCube extends TmapCubeb {
     private static final int FRAME_MS = 40;
     private static final double HALF_EDGE = 25;
@@ -51,7 +51,7 @@ public class TmapCube extends TmapCubeb {
         return FRAME_MS - time % FRAME_MS;
     }
 
-    /** The beginning of the block that holds this column or row. */
+    /** The first column or row of the block of pixels that this one belongs to. */
     private int first(double at) {
         int pixel = Math.max(0, (int) at);
         return pixel - pixel % block;
@@ -63,7 +63,7 @@ public class TmapCube extends TmapCubeb {
                 pixels[y * areaWidth + x] = color;
     }
 
-    /** The cube's own axes at this time, as the viewer sees them. */
+    /** The directions of the cube's own axes at this time, in the viewer's x, y and z. */
     private double[][] turn(long time) {
         double[][] axes = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
         for (double[] axis : axes) {
@@ -82,7 +82,7 @@ public class TmapCube extends TmapCubeb {
         point[to] = a * Math.sin(angle) + b * Math.cos(angle);
     }
 
-    /** The colour of the cube in the direction (x, y, z) from the eye; 0 beside the cube. */
+    /** The colour seen in the direction (x, y, z) from the eye; 0 when the cube is not there. */
     private int seen(double[][] turn, double x, double y, double z) {
         double near = 0;
         double far = Double.MAX_VALUE;
@@ -113,7 +113,7 @@ public class TmapCube extends TmapCubeb {
         return faceColor(eye, face);
     }
 
-    /** The image's colour at a point of the face that lies across an axis. */
+    /** The image's colour at a point of the face that is at right angles to an axis. */
     private int faceColor(double[] point, int axis) {
         boolean positive = point[axis] > 0;
         if (axis == 0)

@@ -2,7 +2,7 @@ import java.awt.Graphics2D;
 import java.awt.image.BufferedImage;
 import java.util.List;
 
-/** Images of one size, each melting into the next. */
+/** Images that are stretched to the area and fade into one another. */
 public class ImageFade2ech extends Pixelator3 {
     private BufferedImage[] images;
     private String[] links;

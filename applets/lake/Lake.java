@@ -23,7 +23,7 @@ public class Lake extends Stage {
         return 50 - time % 50;
     }
 
-    /** The image's row that the water shows at a distance from the shore. */
+    /** The row of the image that the water shows this many rows below the image. */
     private static int mirrored(int distance, int height, long time) {
         double swell = 1 + 4.0 * distance / height;
         double wave = swell * Math.sin(2 * Math.PI * (distance / 16.0 - time / 1000.0));

@@ -26,7 +26,7 @@ public class ripple extends Stage {
         return FRAME_MS - time % FRAME_MS;
     }
 
-    /** The image when the wave has run through this part of its period. */
+    /** The image when the wave has run through `phase`, 0 to 1, of its period. */
     private BufferedImage rippled(double phase) {
         BufferedImage picture = blank(areaWidth, areaHeight);
         int[] from = pixels(image);
@@ -44,7 +44,7 @@ public class ripple extends Stage {
         return picture;
     }
 
-    /** How far a pixel at a distance from the middle looks beyond itself, as a part of it. */
+    /** How much farther out than this distance a pixel takes its colour, as a share of it. */
     private double shift(double distance, double phase) {
         if (distance < 1)
             return 0;

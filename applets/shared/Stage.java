@@ -19,20 +19,21 @@ import java.util.List;
 import java.util.function.LongSupplier;
 
 /**
- * What every applet needs around its picture: parameters, images, a buffer, one thread that sleeps
- * until the picture changes, the link, and words for what is missing. A page gets the class files
- * that its wizard lists and no others, so the build makes each applet's companion of this class, or
- * puts it into the applet itself where that has none.
+ * The base of every applet: parameters, images, a buffer, one thread that sleeps until the picture
+ * changes, the link, and words for what is missing. A page gets only the class files that its
+ * wizard lists, and this class is none of them. So the build compiles it under the name of each
+ * class that an applet extends (such as CoolTool3), and copies its members into an applet that
+ * extends Stage itself.
  */
 abstract class Stage extends Applet implements Runnable, MouseListener, MouseMotionListener {
     /** What {@link #draw} gives when the picture stays as it is. */
     static final long NEVER = Long.MAX_VALUE / 4;
     private static final long NOT_YET = -1;
 
-    /** The time in milliseconds; tests put a clock here that they turn themselves. */
+    /** The time in milliseconds; tests put a clock here that they set themselves. */
     static LongSupplier clock = System::currentTimeMillis;
 
-    /** What is wrong with the whole applet, in plain words; shown instead of the picture. */
+    /** What is wrong with the whole applet, shown instead of the picture; null when nothing is. */
     String problem;
     /** Where a click leads at this moment, or null. */
     String link;
@@ -41,7 +42,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
     Color background = Color.white;
     int areaWidth;
     int areaHeight;
-    /** The picture's time at the last click, and at the last move of the pointer; -1 before. */
+    /** The time given to draw() of the last click and pointer move; -1 before the first. */
     long clickedAt;
     long movedAt;
 
@@ -53,7 +54,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
     /** Reads the parameters and waits for the images; runs in the applet's own thread. */
     abstract void prepare() throws InterruptedException;
 
-    /** Draws the picture of this time; gives the milliseconds until it changes, or NEVER. */
+    /** Draws the picture at a time in milliseconds; gives those until it changes, or NEVER. */
     abstract long draw(Graphics2D g, long time);
 
     @Override
@@ -107,7 +108,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         return true;
     }
 
-    /** False when the page has gone. Painting sets the time of the next change and wakes it. */
+    /** False when the page has gone. Painting sets the next change's time and ends the wait. */
     private synchronized boolean sleepUntilChange() throws InterruptedException {
         while (ownThread()) {
             long left = changeAt - clock.getAsLong();
@@ -171,7 +172,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         return leadingNumber(value(name), missing);
     }
 
-    /** The whole number that a text begins with, kept within a million; else `missing`. */
+    /** The whole number that a text begins with, at most a million up or down; else `missing`. */
     static int leadingNumber(String text, int missing) {
         String digits = text == null ? "" : text.trim().replaceFirst("^([+-]?\\d{0,9}).*$", "$1");
         try {
@@ -214,7 +215,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         return "null".equals(value) ? null : value;
     }
 
-    /** A file beside the page; null when there is no address of this name. */
+    /** The address of a file beside the page; null when the name makes no valid address. */
     URL address(String name) {
         try {
             return new URL(getDocumentBase(), name);
@@ -223,7 +224,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         }
     }
 
-    /** An image on the background colour, as soon as it has come; null when it cannot be loaded. */
+    /** Waits for an image and draws it on the background colour; null when it cannot be loaded. */
     BufferedImage image(String name) throws InterruptedException {
         if (address(name) == null)
             return null;
@@ -239,7 +240,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         return image;
     }
 
-    /** The image of a parameter, or null with the problem stated. */
+    /** The image that a parameter names; null, with `problem` set, when it cannot be loaded. */
     BufferedImage wantedImage(String parameter) throws InterruptedException {
         String name = value(parameter);
         BufferedImage image = name == null ? null : image(name);
@@ -250,7 +251,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         return image;
     }
 
-    /** The image, or words as large as the area when it cannot be loaded. */
+    /** The image, or a picture of the area's size with words when it cannot be loaded. */
     BufferedImage imageOrWords(String name) throws InterruptedException {
         BufferedImage image = image(name);
         if (image != null)
@@ -282,7 +283,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         return ((DataBufferInt) picture.getRaster().getDataBuffer()).getData();
     }
 
-    /** The picture in another size, each pixel one of the old; null without picture or size. */
+    /** The picture in another size, without smoothing; null without a picture or size. */
     static BufferedImage stretched(BufferedImage from, int width, int height) {
         if (from == null || width < 1 || height < 1)
             return null;
@@ -310,7 +311,7 @@ abstract class Stage extends Applet implements Runnable, MouseListener, MouseMot
         }
     }
 
-    /** The line broken at blanks to a width; a word that is too wide alone is broken itself. */
+    /** The line broken at blanks to a width in pixels; a word wider than that is broken itself. */
     static List<String> broken(String line, FontMetrics metrics, int width) {
         List<String> lines = new ArrayList<>();
         String left = line;

@@ -9,7 +9,7 @@ import java.nio.charset.CharacterCodingException;
 import java.nio.charset.Charset;
 import java.nio.charset.StandardCharsets;
 
-/** Loads what a typewriter needs beside its text: the text file, and the sound of its keys. */
+/** Loads the files of the typewriter: its text, and the sound of its keys. */
 final class AudioLoader3 {
     private AudioLoader3() {}
 

@@ -57,7 +57,7 @@ public class Typewriter9 extends CoolTool3 {
                         size < 1 ? 12 : size);
     }
 
-    /** The names that the wizard offers are those of early applets. */
+    /** The Java font for a font name as the wizard offers it. */
     private static String logical(String name) {
         switch (name) {
         case "Helvetica":
@@ -71,7 +71,7 @@ public class Typewriter9 extends CoolTool3 {
         }
     }
 
-    /** The text's own lines; none, and the problem stated, without a text. */
+    /** The lines as the text itself divides them; none, with `problem` set, without a text. */
     private String[] textLines() {
         if (value("TEXT.0") != null)
             return getParameter("TEXT.0").split("\\\\", -1);

@@ -6,11 +6,11 @@ import { drawTransition, isWay, readTransition } from "./transitions.js";
 
 /** @typedef {import("./tag.js").Tag} Tag */
 
-/** The image of one pixel that stands for nothing. */
+/** The image of one pixel that stands for an empty frame. */
 const blank = "invisi.gif";
 
 /**
- * The brightness of 64 parts of a picture, each 0 to 255; empty when its pixels are kept secret.
+ * The brightness of 64 parts of a picture, each 0 to 255; empty when its pixels cannot be read.
  * @param {HTMLCanvasElement} picture
  */
 function brightness(picture) {
@@ -25,7 +25,7 @@ function brightness(picture) {
 }
 
 /**
- * Whether a change between two pictures, back and forth, is a flash: a quarter of the parts differ.
+ * Whether the change between two pictures counts as half a flash: a quarter of the parts differ.
  * @param {number[]} from @param {number[]} to
  */
 const differ = (from, to) =>
@@ -33,7 +33,8 @@ const differ = (from, to) =>
     from.length > 0;
 
 /**
- * The images as frames that fill the area, each in the middle.
+ * The frames: pictures of the area's size, each with an image in the middle or words if it is
+ * missing.
  * @param {Tag} tag
  * @param {string[]} names
  * @param {string} ground
@@ -59,7 +60,7 @@ function linkOf(links, frame) {
 }
 
 /**
- * What leads from each frame to the next, as the tag writes it.
+ * The transition from each frame to the next, as the tag writes it; empty for none.
  * @param {Tag} tag
  * @param {number} n
  */
@@ -96,7 +97,7 @@ export async function animator(tag, pen) {
 
     let frame = 0;
     let cycle = 1;
-    // Nothing has begun to stand yet; the first drawing is in front of it.
+    // No frame stands yet, so the first draw() begins with frame 0.
     let since = Infinity;
     /** @type {import("./transitions.js").Transition | null} */
     let under = null;
@@ -107,7 +108,7 @@ export async function animator(tag, pen) {
         const asked = tag.number(`PAUSE.${frame}`, 100, -2);
         if (asked < 0) return asked;
         const way = isWay(steps[frame]) && !calm() ? S * each : 0;
-        // A quick shutter is a flash by itself.
+        // A quick shutter, which closes and opens, is a flash by itself.
         const closes =
             /^\s*(shutter|random)/i.test(steps[frame]) && S * each < 2 * shortestFlash && !calm();
         const changes = closes ? 2 : Number(differ(lights[frame], lights[next()]));
@@ -130,7 +131,7 @@ export async function animator(tag, pen) {
         if (!under) arrive(t);
     };
     /**
-     * Goes on to time t; frames without pause and way take turns once in a drawing.
+     * Goes on to time t; ends when frames without pause and transition have all had their turn.
      * @param {number} t
      */
     const advance = (t) => {

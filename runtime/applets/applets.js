@@ -1,4 +1,4 @@
-/** The applets: a canvas in each tag's place, drawn by the rules of the page about the applets. */
+/** The applets: a canvas in place of each tag, drawn by the rules in applets/README.md. */
 import { calm, ownPlace, pauseButton } from "../calm.js";
 import { animator } from "./animator.js";
 import { cube } from "./cube.js";
@@ -9,20 +9,20 @@ import { Tag, sheet } from "./tag.js";
 import { typewriter } from "./typewriter.js";
 
 /**
- * What an applet draws. `draw` draws the state at a time and tells after how many milliseconds it
- * changes; `drawStill` draws the one picture that stands for it all when nothing may move.
+ * What an applet draws. `draw` draws the picture at a time in milliseconds and gives the time until
+ * it changes; `drawStill` draws the one picture that is shown when nothing may move.
  * @typedef {object} Show
- * @property {string} name what it is called by those who cannot see it
+ * @property {string} name its name for screen readers
  * @property {(t: number) => number} draw
  * @property {() => void} drawStill
  * @property {() => string | null} [link] where a click leads now
  * @property {() => boolean} [waits] whether it waits for a click or the pointer now
- * @property {(t: number) => void} [press] told of a click
- * @property {(t: number) => void} [over] told that the pointer moves over it
+ * @property {(t: number) => void} [press] called at a click
+ * @property {(t: number) => void} [over] called when the pointer moves over it
  */
 
 /**
- * What draws each applet, by the name of its class.
+ * The function that makes the show of each applet, by the name of its class.
  * @type {Map<string, (tag: Tag, pen: CanvasRenderingContext2D) => Promise<Show>>}
  */
 const kinds = new Map([
@@ -47,7 +47,7 @@ const aligned = new Map([
     ["absbottom", "vertical-align:bottom"],
 ]);
 
-/** Plays one show: its clock, its links, its button. */
+/** Plays one show: keeps its clock, its link and its pause button. */
 class Stage {
     /** Puts the canvas into the tag's place. @param {Tag} tag */
     constructor(tag) {
@@ -74,10 +74,10 @@ class Stage {
         this.pen = pen;
         this.inside = inside;
         this.t = 0;
-        /** When the clock was last read; null while it stands. @type {number | null} */
+        /** When the clock was last read; null while it is stopped. @type {number | null} */
         this.last = null;
         this.moves = !calm();
-        /** Counts starts, so that what an earlier one has ordered comes to nothing. */
+        /** Counts starts and stops, so that drawings ordered before the last one are not made. */
         this.round = 0;
         /** @type {Show | null} */
         this.show = null;
@@ -110,7 +110,7 @@ class Stage {
     }
 
     /**
-     * Tells the show of what the visitor did, unless it is stopped.
+     * Calls a function of the show for what the visitor did, unless the show is stopped.
      * @param {((t: number) => void) | undefined} told
      */
     tell(told) {
@@ -119,7 +119,7 @@ class Stage {
         this.go();
     }
 
-    /** The show's time, which stands while nothing may move. */
+    /** The show's time in milliseconds, without the time in which it was stopped. */
     time() {
         const now = performance.now();
         this.t += now - (this.last ?? now);
@@ -127,13 +127,13 @@ class Stage {
         return this.t;
     }
 
-    /** Goes on from where the clock stands. */
+    /** Goes on from the time at which the clock was stopped. */
     go() {
         if (!this.moves || document.hidden) return;
         this.step(++this.round);
     }
 
-    /** Stops the clock, and what was to be drawn next. */
+    /** Stops the clock and the next drawing. */
     pause() {
         if (this.last !== null) this.time();
         this.last = null;
@@ -169,7 +169,7 @@ class Stage {
         this.inside.append(this.button);
     }
 
-    /** Gives the canvas the link that the show has now, or makes it a button that is waited for. */
+    /** Gives the canvas the show's link, or makes it a button while the show waits for a click. */
     setLink() {
         const url = this.show?.link?.() ?? null;
         const waits = !!this.show?.waits?.();

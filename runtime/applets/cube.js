@@ -4,12 +4,13 @@ import { load, missing, notLoaded, pixelsOf, sheet, words } from "./tag.js";
 /** @typedef {[number, number, number]} Vector */
 
 /**
- * A face: its axis (0 x, 1 y, 2 z) and side, and what runs along its picture.
+ * A face: the axis (0 x, 1 y, 2 z) that it lies across, on which side, and the axes along the width
+ * and height of its picture.
  * @typedef {{axis: number, side: number, u: [number, number], v: [number, number]}} Face
  */
 
 /**
- * The faces, near, far, right, left, top and bottom; `u` and `v` are an axis and a sign.
+ * The faces: near, far, right, left, top and bottom; `u` and `v` are an axis and a sign each.
  * @type {Face[]}
  */
 const faces = [
@@ -46,7 +47,7 @@ function axesAfter([alpha, beta, gamma]) {
 }
 
 /**
- * Where a face stands on the picture: its edges at the left, top, right and bottom.
+ * Where a face is on the canvas, from its middle: its left, top, right and bottom in pixels.
  * @param {Face} face @param {Vector[]} axes @param {number} D @param {number} f
  */
 function edgesOf({ axis, side, u, v }, axes, D, f) {
@@ -105,7 +106,7 @@ function castRays(to, W, H, r, from, iw, ih, axes, D) {
 }
 
 /**
- * The same by small triangles, for pictures whose pixels the browser keeps to itself.
+ * Draws the cube by small triangles, for pictures whose pixels the browser lets no script read.
  * @param {CanvasRenderingContext2D} pen @param {HTMLCanvasElement} picture
  * @param {Vector[]} axes @param {number} D
  */

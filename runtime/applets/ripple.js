@@ -5,12 +5,14 @@ import { pixelsOf, sheet, stretched } from "./tag.js";
 const each = 50;
 
 /**
- * By what share of its distance `rho` from the middle a pixel takes its colour from farther out.
+ * How much farther from the middle than its own distance `rho` a pixel takes its colour, as a share
+ * of `rho`.
  * @typedef {(rho: number) => number} Bend
  */
 
 /**
- * The bent picture. A pixel and its mirror images are equally far from the middle.
+ * The picture with the wave. A pixel and its mirror images are equally far from the middle, so they
+ * are made together.
  * @param {Uint32Array} from @param {number} W @param {number} H @param {Bend} bend
  */
 function bentPixels(from, W, H, bend) {
@@ -37,7 +39,7 @@ function bentPixels(from, W, H, bend) {
 }
 
 /**
- * The same by discs, for pictures whose pixels the browser keeps to itself.
+ * The same by discs, for pictures whose pixels the browser lets no script read.
  * @param {HTMLCanvasElement} from
  * @param {number} W
  * @param {number} H

@@ -1,8 +1,8 @@
-/** An APPLET tag as its rules read it, and the pictures and words that it asks for. */
+/** Reads an APPLET tag, and makes the pictures and words that it asks for. */
 
 /** Something that a canvas can draw. @typedef {HTMLImageElement | HTMLCanvasElement} Picture */
 
-/** An APPLET tag: its area in pixels and its parameters, whose names have no case. */
+/** An APPLET tag: its size in pixels, and its parameters, whose names ignore case. */
 export class Tag {
     /** @param {Element} applet */
     constructor(applet) {
@@ -44,7 +44,7 @@ export class Tag {
             : `rgb(${parts.slice(0, 3)})`;
     }
 
-    /** How often the whole is shown; without end when no number above 0 is given. */
+    /** How often the whole is shown; Infinity when no number above 0 is given. */
     cycles() {
         return this.number("CYCLES", Infinity, 1);
     }
@@ -62,7 +62,7 @@ export class Tag {
 }
 
 /**
- * A canvas with its pen, filled with a colour; its pixels are drawn as they are.
+ * A canvas with its drawing context, filled with a colour; it draws images without smoothing.
  * @param {number} w
  * @param {number} h
  * @param {string} color
@@ -79,7 +79,7 @@ export function sheet(w, h, color) {
 }
 
 /**
- * A text broken at blanks to lines of a width; a word that is too wide is broken where it must be.
+ * A text broken at blanks into lines of a width in pixels; a word too wide for that is broken.
  * @param {CanvasRenderingContext2D} pen @param {string} text @param {number} width
  */
 export function brokenLines(pen, text, width) {
@@ -115,7 +115,7 @@ export function words(text, w, h) {
 export const missing = (name) => `The parameter ${name} is missing.`;
 
 /**
- * A picture beside the page, or null when it cannot be loaded.
+ * An image file beside the page, or null when it cannot be loaded.
  * @param {string} name
  * @returns {Promise<HTMLImageElement | null>}
  */
@@ -140,11 +140,11 @@ export async function stretched(name, parameter, w, h) {
     return canvas;
 }
 
-/** The words for an image that does not come. @param {string} name */
+/** The words for an image that cannot be loaded. @param {string} name */
 export const notLoaded = (name) => `The image "${name}" could not be loaded.`;
 
 /**
- * The pixels of a canvas, or null where the browser keeps those of files to itself.
+ * The pixels of a canvas, or null where the browser lets no script read those of files.
  * @param {HTMLCanvasElement} canvas
  */
 export function pixelsOf(canvas) {

@@ -1,8 +1,8 @@
-/** The ways from one frame of an animation to the next. */
+/** The transitions from one frame of an animation to the next. */
 
 /** @typedef {import("./tag.js").Picture} Picture */
 
-/** Where each direction lies: x and y of -1, 0 or 1. */
+/** x and y of the directions 0 to 9, each -1, 0 or 1; 0 and 9 are the middle. */
 const sides = [
     [0, 0],
     [-1, -1],
@@ -30,7 +30,7 @@ const directions = new Map([
 const usual =
     "shutter|slidein(1-8)|slideout(1-8)|scroll(2:4:6:8)|expand(1-9)|overwrite|shrink(1-9)";
 
-/** Whether a text names a transition that takes time for certain. @param {string} text */
+/** Whether a text names a transition that takes time; `random` may not. @param {string} text */
 export const isWay = (text) =>
     directions.has((/^\s*\w+/.exec(text.toLowerCase()) ?? [""])[0].trim());
 
@@ -55,8 +55,8 @@ function listed(text) {
 }
 
 /**
- * The transition that a text such as `slidein(3)` names, with what it leaves to chance; null for an
- * overwrite, which takes no time.
+ * The transition that a text such as `slidein(3)` names, chosen at random where the text leaves it
+ * open; null for an overwrite, which takes no time.
  * @param {string | null} text @param {string | null} list what `random` chooses from
  * @returns {Transition | null}
  */

@@ -11,7 +11,7 @@ const families = new Map([
     ["timesroman", "serif"],
     ["courier", "monospace"],
 ]);
-/** How long the whole text stands. */
+/** How long the whole text stands, in milliseconds. */
 const rest = 2000;
 
 /**
@@ -43,7 +43,7 @@ async function textOf(tag) {
     return (await linesOf(file)) ?? `The text file "${file}" could not be loaded.`;
 }
 
-/** The font in the words of a canvas. @param {Tag} tag */
+/** The font as CSS writes it. @param {Tag} tag */
 function fontOf(tag) {
     const name = tag.text("FONTNAME") ?? "Dialog";
     const style = (tag.text("FONTSTYLE") ?? "").toLowerCase();

@@ -24,7 +24,7 @@
 
 namespace orvane::testing {
 
-/// The windows of all effects.
+/// The windows of all effects, for typed tests.
 using EffectForms =
     ::testing::Types<AdvancedAnimatorForm, AllInOneButtonForm, AntiSpamLinkForm, CursorTrailForm,
                      DigitalClockForm, DynamicButtonForm, ImageEffectsForm, ImageFadeForm,

@@ -9,18 +9,20 @@
 
 namespace orvane::testing {
 
-/// Throws the name of what does not hold: the fuzzer keeps the input, a test that replays it fails.
+/// Throws std::logic_error with the words `what` unless the condition holds. The fuzzer then keeps
+/// the input, and a test that replays it fails.
 inline void Require(bool holds, const char* what)
 {
     if (!holds)
         throw std::logic_error(what);
 }
 
-/// A fuzzer's bytes, taken piece by piece: a first byte of choices, then texts parted by "|||", so
-/// that an input can be written by hand.
+/// A fuzzer's input, read piece by piece: a first byte, of which each bit is a choice, then texts
+/// separated by "|||", so that an input can be written by hand.
 class FuzzInput
 {
 public:
+    /// The bytes must outlive the object.
     FuzzInput(const std::uint8_t* bytes, std::size_t size)
     {
         if (size == 0)
@@ -29,9 +31,10 @@ public:
         m_rest = std::string_view(reinterpret_cast<const char*>(bytes) + 1, size - 1);
     }
 
+    /// The bit with this number, 0 to 7, of the first byte.
     bool Choice(unsigned bit) const { return ((m_choices >> bit) & 1) != 0; }
 
-    /// Up to the next mark; empty when there are no more.
+    /// The text up to the next "|||" or the end; empty when nothing is left.
     std::string_view TakeText()
     {
         constexpr std::string_view mark = "|||";
@@ -40,7 +43,7 @@ public:
         return text;
     }
 
-    /// Everything that was not taken yet.
+    /// Everything that was not taken yet, with its "|||".
     std::string_view TakeRest() { return std::exchange(m_rest, {}); }
 
 private:

@@ -5,9 +5,10 @@
 
 namespace orvane::testing {
 
-/// One insertion into a page, all texts as the page's bytes.
+/// What is to be inserted into a page, with all texts as the page's bytes.
 struct InsertionWork
 {
+    /// The part of the page that is changed.
     enum class Place
     {
         Head,
@@ -16,37 +17,38 @@ struct InsertionWork
         OnUnload,
     };
     Place Where = Place::Head;
-    std::string Code; ///< for the head or body, its markers included
-    std::string Begin;
-    std::string End;
-    bool Searches = true; ///< a body is searched for an earlier copy
-    std::string Func;     ///< for an attribute
-    std::string Args;
-    bool Yes = true; ///< the answer when the author is asked
+    std::string Code;     ///< for the head or body, its markers included
+    std::string Begin;    ///< the marker before the code
+    std::string End;      ///< the marker after the code
+    bool Searches = true; ///< whether an earlier copy is looked for, to be replaced
+    std::string Func;     ///< for onLoad or onUnload: the name of the called function
+    std::string Args;     ///< its arguments in parentheses
+    bool Yes = true;      ///< the answer when the author is asked
 };
 
-/// What that insertion must come to. A written page is the original up to From, Put, and the
-/// original from To on, so that nothing outside of the cut can differ.
+/// The expected result of an insertion. A written page consists of the original before From, then
+/// Put, then the original from To on, so that nothing outside of From to To can differ.
 struct ExpectedInsertion
 {
+    /// How the insertion ends.
     enum class Ending
     {
-        Written,
-        Manual,
-        Overflow,
-        InvalidCall,
+        Written,     ///< the page is written
+        Manual,      ///< nothing is written; the author has to insert the code by hand
+        Overflow,    ///< a fault: a place in the page does not fit into 16 bits
+        InvalidCall, ///< a fault: a part of the page would have a length below 0
     };
     Ending How = Ending::Written;
-    std::size_t From = 0; ///< both counted from 0
-    std::size_t To = 0;
+    std::size_t From = 0; ///< counted from 0
+    std::size_t To = 0;   ///< counted from 0
     std::string Put;
-    bool Asked = false;
+    bool Asked = false; ///< whether the author is asked
 };
 
-/// Works the insertion out anew, on bytes and with signed numbers.
+/// The expected result, worked out without the program's code: on bytes and with signed numbers.
 ExpectedInsertion ExpectInsertion(const std::string& page, const InsertionWork& work);
 
-/// The written page of an expectation.
+/// The page that must be written. Expects an Ending of Written.
 std::string Spliced(const std::string& page, const ExpectedInsertion& expected);
 
 } // namespace orvane::testing

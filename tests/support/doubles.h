@@ -15,22 +15,26 @@
 
 namespace orvane::testing {
 
-/// Dialogs that answer from a script and record what was asked. A question that nobody expected
-/// fails the test at once, an answer that nobody asked for fails it at the end.
+/// Dialogs that give prepared answers and record what was asked. A question or dialog without a
+/// prepared answer fails the test at once, an answer that was not used fails it at the end.
 class FakeDialogs : public Dialogs
 {
 public:
     ~FakeDialogs() override;
 
-    /// The next question must have these words and is answered so.
+    /// Prepares the answer to the next question, which must have these words; for AskOrCancel()
+    /// nothing is Cancel.
     void ExpectAsk(Text words, bool answer) { ExpectAskOrCancel(std::move(words), answer); }
     void ExpectAskOrCancel(Text words, std::optional<bool> answer)
     {
         m_questions.push_back({std::move(words), answer});
     }
-    std::vector<Text> Said; ///< every box, in order; take it empty with TakeSaid()
+    std::vector<Text> Said; ///< the words of every Say(), in order
+
+    /// What was said since the last call; empties `Said`.
     std::vector<Text> TakeSaid() { return std::exchange(Said, {}); }
 
+    /// These prepare the answer to the next dialog of their kind; nothing is Cancel.
     void AnswerOpenFile(std::optional<Text> path) { m_openFiles.push_back(std::move(path)); }
     void AnswerSaveFile(std::optional<Text> path) { m_saveFiles.push_back(std::move(path)); }
     void AnswerFolder(std::optional<Text> path) { m_folders.push_back(std::move(path)); }
@@ -44,7 +48,7 @@ public:
     std::vector<FontChoice> FontStarts; ///< of every font dialog
     std::vector<PageBox> Boxes;         ///< of every page box
     Tone LastTone = Tone::Plain;
-    int WorkGoesOn = std::numeric_limits<int>::max(); ///< how often before the author ends it
+    int WorkGoesOn = std::numeric_limits<int>::max(); ///< calls of GoOn() until the author cancels
 
     void Say(TextView words, Tone tone) override;
     bool Ask(TextView words, TextView title) override;
@@ -75,20 +79,24 @@ private:
     std::deque<PageBoxReply> m_boxes;
 };
 
-/// A disk in memory that records every call and can be told to fail at a given one.
+/// A disk in memory that records what is read, written and removed, and that can be told to fail at
+/// a given call or path.
 class FakeFileStore : public FileStore
 {
 public:
     std::map<Text, std::string> Contents;
     std::set<Text> Folders;
-    std::vector<Text> Writes;   ///< paths of Replace() and of Copy()'s targets, in order
-    std::vector<Text> Removals; ///< paths of Remove(), in order
-    mutable std::vector<Text> Reads;
+    std::vector<Text> Writes;        ///< every path that was to be written, in order, failed or not
+    std::vector<Text> Removals;      ///< every path that was to be removed, in order
+    mutable std::vector<Text> Reads; ///< every path that was to be read, in order
 
-    /// The call with this number, counted from 1 over all calls that can fail, fails so.
+    /// Makes the call with this number fail with this fault. Counted from 1 are reads, writes,
+    /// removals, MakeFolder() and SubFolders(); a Copy() is a read and a write.
     void FailAt(int call, Fault fault) { m_faultAt[call] = fault; }
-    /// Every call that touches this path fails so.
+    /// Makes each of these calls with this path fail with this fault.
     void FailOn(TextView path, Fault fault) { m_faultOn[Text(path)] = fault; }
+
+    /// The number of such calls so far.
     int Calls() const { return m_calls; }
 
     bool FileExists(TextView path) const override { return Contents.contains(Text(path)); }
@@ -131,14 +139,14 @@ public:
     void Put(TextView section, TextView key, TextView value, TextView application) override;
 };
 
-/// A desktop that records what was opened and started.
+/// A desktop that records what was opened, and which programs were started with which argument.
 class FakeShell : public Shell
 {
 public:
     std::vector<Text> Opened;
     std::vector<std::pair<Text, Text>> Started;
-    bool Starts = true;
-    std::optional<Text> Browser;
+    bool Starts = true;          ///< what Start() gives
+    std::optional<Text> Browser; ///< what DefaultBrowser() gives
 
     void OpenWithShell(TextView target) override { Opened.emplace_back(target); }
     bool Start(TextView program, TextView argument) override
@@ -149,6 +157,7 @@ public:
     std::optional<Text> DefaultBrowser() override { return Browser; }
 };
 
+/// A clipboard that keeps the last text.
 class FakeClipboard : public Clipboard
 {
 public:
@@ -156,13 +165,13 @@ public:
     void Put(TextView text) override { Content = text; }
 };
 
-/// A preview pane that records the pages it was sent to.
+/// A preview pane that records the pages that it was to show.
 class FakePreviewPane : public PreviewPane
 {
 public:
     std::vector<Text> Navigated;
     std::vector<PanePage> Pages;
-    bool IsFileLeft = false;
+    bool IsFileLeft = false; ///< whether LeaveFile() was called
     Done Navigate(const PanePage& page) override
     {
         Navigated.push_back(page.Path);
@@ -173,6 +182,7 @@ public:
     void Clear() override {}
 };
 
+/// A help viewer that records the topics that it was to show.
 class FakeHelpViewer : public HelpViewer
 {
 public:

@@ -7,11 +7,12 @@
 
 namespace orvane::testing {
 
-/// Fails with the first line that differs, its CR, LF and control characters shown as signs.
+/// Fails the test with the first line that differs, in which CR, LF and control characters are made
+/// visible.
 void ExpectSameText(TextView expected, TextView actual);
 void ExpectSameBytes(std::string_view expected, std::string_view actual);
 
-/// The bytes of a file of tests/expected; fails the test when it is missing.
+/// The bytes of a file of tests/expected; fails the test and gives none when it is missing.
 std::string ExpectedBytes(const std::string& name);
 
 /// The same, read as UTF-8.

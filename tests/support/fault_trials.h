@@ -12,46 +12,51 @@
 
 namespace orvane::testing {
 
-/// What the author hears of one writing.
+/// What the author was told while files were written, and the result.
 struct Report
 {
-    std::vector<Text> Said;
+    std::vector<Text> Said;    ///< the words of every message
     std::vector<Text> Missing; ///< names of files that could not be brought to their folder
     bool IsComplete = false;   ///< the command went to its end and nothing is missing
     bool operator==(const Report&) const = default;
 };
 
+/// The bytes of files by their names below the test's folder.
 using Contents = std::map<std::string, std::string>;
 
-/// One way on which files come to the disk: in a folder with the empty folders "page" and "other".
+/// One command that writes files, in a folder with the empty folders "page" and "other".
 struct WritingWay
 {
     const char* Name;
+    /// Makes the files that are there before.
     std::function<void(const TestFolder&)> Prepare;
+    /// Runs the command on this store.
     std::function<Report(FileStore&, const TestFolder&)> Run;
     /// The files that a run without trouble makes or changes.
     std::function<Contents(const TestFolder&)> Written;
-    bool IsRepeatable = false; ///< a second run makes nothing else of the files
+    bool IsRepeatable = false; ///< a second run leaves the files as the first one did
     bool IsPrivate = false;    ///< not everybody may read the page, nor what is left beside it
-    /// How the name of the backup begins without which no page is written.
+    /// The beginning of the backup's name; no page may be written before the backup.
     const char* Backup = "page/Backup of index.html";
 };
 
+/// Prints the way's name in the names of tests.
 void PrintTo(const WritingWay& way, std::ostream* out);
 
-/// Runs a way again and again, each time on fresh files with another trouble at another call, and
-/// expects: every name stands for what it did before or for what it does after a run without
-/// trouble, a page is not written without its backup, and the author is told the truth.
+/// Runs a way again and again, each time on fresh files with another trouble at another call of the
+/// system. Expects that every file is as before the run or as after a run without trouble, that no
+/// page is written without its backup, and that the author is told exactly what went wrong.
 class FaultTrials
 {
 public:
+    /// Makes a run without trouble, to compare with. The way must outlive the object.
     explicit FaultTrials(const WritingWay& way);
 
-    /// Every trouble at every call; gives the number of trials.
+    /// Tries every trouble at every call, until the test fails; gives the number of trials.
     int PlayAll() const;
 
 private:
-    /// The mode of each name, and a file's bytes or where a link leads.
+    /// The mode of a file, folder or link, and a file's bytes or a link's target.
     struct Entry
     {
         mode_t Mode = 0;
@@ -61,7 +66,7 @@ private:
     struct Tree
     {
         std::map<std::string, Entry> Names;
-        std::set<std::string> Litter; ///< names of the file store's own
+        std::set<std::string> Litter; ///< names of the file store's temporary files
     };
     class Scene;
 

@@ -15,26 +15,28 @@ enum class Trouble
     NoPermission,      ///< EACCES
     Interrupted,       ///< EINTR, once
     ShortWrite,        ///< the next write does half of its work
-    FullHalfway,       ///< the next write does half of its work, all behind it meet ENOSPC
-    BrokenFromThere,   ///< EIO, and again at every call behind it
+    FullHalfway,       ///< the next write does half of its work, all later ones fail with ENOSPC
+    BrokenFromThere,   ///< EIO, and again at every later call
     Kill,              ///< the process ends before the call
     KillHalfway,       ///< the process ends when the next write has done half of its work
-    PowerCut,          ///< the machine ends before the call: what was not synced is lost
+    PowerCut,          ///< the power goes off before the call: what was not synced is lost
     PowerCutLateBytes, ///< the same, on a disk that writes names at once and contents late
 };
 
+/// Every trouble once.
 inline constexpr Trouble allTroubles[] = {
     Trouble::DiskFull,    Trouble::IoError,          Trouble::NoPermission,
     Trouble::Interrupted, Trouble::ShortWrite,       Trouble::FullHalfway,
     Trouble::Kill,        Trouble::KillHalfway,      Trouble::BrokenFromThere,
     Trouble::PowerCut,    Trouble::PowerCutLateBytes};
 
+/// The trouble in words, for messages of tests.
 const char* NameOf(Trouble trouble);
 
-/// Whether the process does not outlive it.
+/// Whether the trouble ends the process.
 bool IsDeath(Trouble trouble);
 
-/// Thrown by the call at which the process ends, and by every one behind it.
+/// Thrown by the call at which the process ends, and by every later one but Close().
 struct Killed
 {
 };
@@ -51,15 +53,16 @@ struct Killed
 ///         ...
 ///     }
 ///
-/// From a death on nothing that the program still does reaches the disk, so that no clean-up of a
-/// destructor does either. A death at a close lets that call return and shows at the next one. A
-/// sync costs no time: what it protects from is played by the power cuts.
+/// Once the process has "ended", nothing that the program still does reaches the disk, so a
+/// destructor cannot clean up either. When it ends at a Close(), that call returns and the next one
+/// throws. Sync() is not passed on to the disk, which saves time: the power cuts show what it does.
 class FaultyCalls : public SystemCalls
 {
 public:
-    /// From now on calls are counted from 1, and the one with this number meets the trouble.
+    /// From now on calls are counted from 1, and the one with this number meets the trouble; of the
+    /// troubles with a write, the first write from there on.
     void Arm(Trouble trouble, int call);
-    /// The disk works again, for the program that lives or for one started after its end.
+    /// Ends the trouble: the disk works again, for the same program or for one started anew.
     void Heal();
     /// Takes what was not synced so far, as a power cut at this moment would.
     void CutPower();
@@ -68,6 +71,7 @@ public:
     bool Struck() const { return m_struckAt > 0; }
     /// The call to choose for the next trial; 0 when no call was left for this one.
     int NextCall() const { return Struck() ? m_struckAt + 1 : 0; }
+    /// The number of files opened and not closed.
     int OpenDescriptors() const { return m_openDescriptors; }
 
     Error Open(const std::string& path, int flags, mode_t mode, int& descriptor) override;
@@ -119,7 +123,7 @@ public:
 private:
     /// The trouble of this call, if it meets any.
     std::optional<Trouble> Next(bool isWrite);
-    /// The error that a call meets; a death does not return.
+    /// The error that a call meets, if any; throws Killed when the process ends.
     Error Meet();
     void Die(Trouble death);
 

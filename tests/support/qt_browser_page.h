@@ -15,7 +15,8 @@ namespace orvane::testing {
 /// Runs the event loop until the condition holds; false when it still does not after `timeoutMs`.
 [[nodiscard]] bool WaitFor(const std::function<bool()>& condition, int timeoutMs = 10000);
 
-/// The recording double on the real disk, for pages that the engine itself reads.
+/// A file store that records as the double does, but works on the real disk, for pages that the
+/// browser engine itself reads.
 class RecordingFiles : public FakeFileStore
 {
 public:
@@ -32,33 +33,36 @@ public:
     BrowserPage();
     ~BrowserPage();
 
-    /// Every page loaded from now on sees this local time, such as "2001-11-28T13:05:09", and it
-    /// stands still; the page moves it with `pageClock.now += milliseconds`.
+    /// Every page loaded from now on sees this local time, such as "2001-11-28T13:05:09". The clock
+    /// stands still until a script moves it by `pageClock.now += milliseconds`.
     void FixClock(const std::string& localTime);
 
     /// Puts a file beside the page.
     void AddFile(const std::string& name, std::string_view bytes);
 
-    /// Writes the page file and shows it, without waiting.
+    /// Writes the page file and starts to load it, without waiting.
     void Open(std::string_view page);
 
-    /// The same, and waits until the page is loaded; fails the test when it is not.
+    /// The same, and waits until the page is loaded; fails the test after ten seconds.
     void Load(std::string_view page);
 
-    /// The value of a JavaScript expression in the page; invalid when the page does not answer.
+    /// The value of a JavaScript expression in the page; invalid when the page does not answer
+    /// within five seconds.
     QVariant Value(const std::string& expression);
 
-    /// Waits until the expression is true in the page; fails the test when it does not become so.
+    /// Waits until the expression is true in the page; fails the test after `timeoutMs`.
     void WaitUntil(const std::string& expression, int timeoutMs = 10000);
 
-    /// Moves the mouse to the middle of an element, given as an expression, or clicks there.
+    /// Moves the mouse to the middle of an element, which is given as a JavaScript expression, or
+    /// clicks there; fails the test when there is no such element.
     void MoveTo(const std::string& element);
     void ClickOn(const std::string& element);
 
-    /// The widget in which the engine takes mouse, keys and fingers.
+    /// The widget to which mouse, keyboard and touch events for the page are sent.
     QWidget& Surface();
 
-    /// The colours on the screen at points of the page, which are lists of two: [red, green, blue].
+    /// The colours on the screen, each a list [red, green, blue], at points of the page, each a
+    /// list [x, y] in pixels.
     QVariantList ColorsAt(const QVariantList& points);
 
     /// What the page wrote into its status line; empty while a note is shown.
@@ -67,10 +71,13 @@ public:
     /// The pane's note in place of the page; empty while there is none.
     Text Note();
 
-    /// The open windows of the page.
+    /// The windows that the page has opened.
     std::vector<QWidget*> Windows() const;
 
-    std::string Path(const std::string& name) const; ///< of a file beside the page
+    /// The full path of a file beside the page.
+    std::string Path(const std::string& name) const;
+
+    /// Whether the page's file exists; the pane removes it once the page is loaded.
     bool PageFileExists() const;
 
     FakeDialogs Dialogs;

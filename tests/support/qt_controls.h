@@ -24,32 +24,32 @@ Control* Find(QWidget& window, const char* name)
     return found;
 }
 
-/// Types into a text box as the author would; what stood there stays.
+/// Types into a text box as the author would, at the cursor; the text that is there stays.
 void Type(QWidget& window, const char* name, TextView text);
 
 /// Clicks a button that the author could click; fails the test when it is hidden or disabled.
 void Click(QWidget& window, const char* name);
 
-/// Presses a key in a window or one of its controls.
+/// Presses and releases a key in a window or one of its controls.
 void Press(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-/// The words of a label or button, or the text of a box.
+/// The words of a label or button, or the text of a box; empty for any other control.
 Text WordsOf(QWidget& window, const char* name);
 
-/// Runs what waits in the event loop.
+/// Processes the events that are waiting in the event loop.
 void LetRun();
 
-/// What every window owes the author; fails the test with the control's name: object names and
-/// access keys unique among the visible ones, an accessible name for each control that takes focus,
-/// Tab in reading order, no text cut off.
+/// Fails the test, with the control's name, unless among the visible controls of the window object
+/// names and access keys are unique, each one that takes the focus has an accessible name, Tab goes
+/// in reading order, and no label is cut off.
 void ExpectAccessible(QWidget& window);
 
-/// Calls `action` from the event loop, with the modal window in front and whether it is still worth
-/// waiting, until `action` gives true.
+/// Calls `action` from the event loop again and again until it gives true. `front` is the active
+/// modal window or null; `mayWait` becomes false when the action has waited too long.
 void Poll(const std::function<bool(QWidget* front, bool mayWait)>& action);
 
-/// Acts on a modal window once it is in front, from within its own event loop; fails the test and
-/// closes whatever is there when it does not come.
+/// Calls `action` with a modal window of the type `Form` once it is in front, from that window's
+/// own event loop. When it does not appear, fails the test and closes the window that is in front.
 template <class Form, class Action>
 void WhenInFront(Action action)
 {

@@ -19,7 +19,7 @@ class DeliveryTest : public ::testing::Test
 protected:
     DeliveryTest() { KnowEditor(u"Other"); }
 
-    /// Shows the wizard for the payload, afresh.
+    /// Shows a new delivery wizard for the payload, in place of an earlier one.
     void Open()
     {
         m_form.reset();
@@ -28,13 +28,14 @@ protected:
         LetRun();
     }
 
+    /// Stores the name of the author's page editor; empty for none.
     void KnowEditor(TextView name) { m_desk.Settings.Put(u"Misc", u"HTMLEditor", name, u"Orvane"); }
     Text Heading() { return WordsOf(*m_form, "lblHeading"); }
     Text Focused() { return FromQt(m_form->focusWidget()->objectName()); }
     bool IsShown(const char* name) { return Find<QWidget>(*m_form, name)->isVisible(); }
     std::string Bytes(const Text& path) { return m_desk.Files.Contents[path]; }
 
-    /// Goes from the page with the methods on by this one.
+    /// Chooses an insertion mode on the page with the methods and clicks "Next".
     void GoBy(int insertMode)
     {
         Find<QRadioButton>(*m_form, ("optInsertMode(" + std::to_string(insertMode) + ")").c_str())
@@ -42,7 +43,7 @@ protected:
         Click(*m_form, "cmdNext");
     }
 
-    /// Presses a key wherever the wizard left the focus.
+    /// Presses a key in the control that has the focus.
     void PressWhereItStands(Qt::Key key)
     {
         m_form->activateWindow();

@@ -21,17 +21,18 @@ int SelectedRowOf(QWidget& window, const char* name);
 /// Presses and releases the left button on a row of a list box.
 void ClickRow(QWidget& window, const char* name, int row);
 
-/// Clicks a row twice in a row.
+/// Double-clicks a row of a list box.
 void DoubleClickRow(QWidget& window, const char* name, int row);
 
-/// Presses the right button on a row of a list box, with the menu that it asks for.
+/// Presses the right button on a row of a list box, which asks for its context menu.
 void RightPressRow(QWidget& window, const char* name, int row);
 
-/// Drags a row to where another one stands, onto the lower half of that row when it lies below;
-/// false when the list refused it.
+/// Drags a row onto another one: onto its lower half when that row is further down, else onto its
+/// upper half. False when the list refused it.
 bool DragRow(QWidget& window, const char* name, int from, int to);
 
-/// Drops files, or addresses, on a widget as files to move or copy; false when it refused them.
+/// Drops files, or addresses with "://", on a widget, to be moved or copied; false when it refused
+/// them.
 bool DropFiles(QWidget& target, const std::vector<Text>& paths);
 
 } // namespace orvane::testing

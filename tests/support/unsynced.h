@@ -20,23 +20,25 @@ public:
     Unsynced(const Unsynced&) = delete;
     Unsynced& operator=(const Unsynced&) = delete;
 
-    /// To be told of each call: before a writing one, after a successful other one.
+    /// These tell it of each call: before a call that writes, after any other that succeeded.
     void Opened(int descriptor, const std::string& path);
     void BeforeWriting(int descriptor);
     void Synced(int descriptor);
     void Created(const std::string& path);
     void MadeFolder(const std::string& path);
 
-    /// Before a name disappears or comes to mean another file; keep what it gives until the call
-    /// has succeeded, then hand it on.
+    /// Takes back what a call did to a name.
     using Undo = std::function<void()>;
+
+    /// Called before a name is removed or renamed over; pass the result to Removed() or Renamed()
+    /// when the call has succeeded.
     Undo BeforeRemoving(const std::string& path) const;
     void Removed(const std::string& path, Undo undo);
     void Renamed(const std::string& from, const std::string& to, Undo undo);
 
-    /// Leaves of each unsynced content the first half of the new and the rest of the old one.
+    /// Makes each unsynced content the first half of the new bytes and the rest of the old ones.
     void LoseContent();
-    /// Counts all names as synced.
+    /// Counts all changes of names as synced.
     void KeepNames();
     /// Takes all unsynced changes of names back.
     void LoseNames();
@@ -45,8 +47,8 @@ private:
     using Identity = std::pair<dev_t, ino_t>;
     struct Content
     {
-        int Descriptor; ///< our own
-        std::string Synced;
+        int Descriptor;     ///< our own
+        std::string Synced; ///< the bytes at the last sync
     };
     struct NameChange
     {

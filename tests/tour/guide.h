@@ -11,13 +11,13 @@
 
 namespace orvane::testing {
 
-/// Does what an author does, in the window that is in front, and keeps pictures of what it passes.
-/// A step waits until its control can be used; one that never can fails the test.
+/// Does what an author does, in the window that is in front, and keeps pictures of the windows. A
+/// step waits until its control can be used; the test fails when that takes ten seconds.
 class Guide
 {
 public:
-    /// File dialogs are answered with files of `target`, where they are there or saved there, else
-    /// with those of `samples`.
+    /// Where the tour's files are. A dialog to save a file, or to open one that is in Target, gets
+    /// a path in Target; any other gets one in Samples.
     struct Folders
     {
         QString Samples;
@@ -27,7 +27,8 @@ public:
 
     Guide(QWidget& mainForm, FakeDialogs& dialogs) : m_mainForm(mainForm), m_dialogs(dialogs) {}
 
-    /// Goes through the steps of a tour; comes back when the main window alone is left.
+    /// Goes through the steps of a tour; returns when only the main window is left. `tour` is its
+    /// name, for the names of pictures.
     void Lead(const std::string& tour, std::vector<Step> steps, Folders folders);
 
     /// Called with the window in front before each step.
@@ -50,12 +51,12 @@ private:
     QString m_tour;
     std::vector<Step> m_steps;
     std::size_t m_next = 0;
-    bool m_isUnderWay = false; ///< a step was chosen and is not begun
+    bool m_isUnderWay = false; ///< a step was chosen and is not done yet
     int m_pictureCount = 0;
     std::set<QString> m_taken;
-    QElapsedTimer m_patience;
-    int m_pause = 0; ///< milliseconds before the next step
-    QEventLoop m_road;
+    QElapsedTimer m_patience; ///< since the last step
+    int m_pause = 0;          ///< milliseconds before the next step
+    QEventLoop m_road;        ///< runs during Lead()
 };
 
 } // namespace orvane::testing

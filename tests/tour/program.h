@@ -13,12 +13,13 @@
 
 namespace orvane::testing {
 
+/// Where tours leave their pages, and where their sample files are.
 inline const QString tourFolder = QStringLiteral(ORVANE_TOUR_FOLDER);
 inline const QString samplesFolder = QStringLiteral(ORVANE_TOUR_SOURCES "/samples");
 inline QString picturesFolder; ///< where this run keeps its pictures
 
-/// The author's answers to boxes that no tour is about: boxes of the previewed pages, and whether
-/// an address of theirs is to be opened.
+/// Prepared answers, and the same answers every time to what previewed pages ask: their boxes are
+/// accepted, and no address outside of the preview is opened.
 class TourDialogs : public FakeDialogs
 {
 public:
@@ -30,7 +31,8 @@ public:
     PageBoxReply Answer(const PageBox&) override { return {.Accepted = true, .Entered = u"Jane"}; }
 };
 
-/// The program as its user has it, with a home of its own.
+/// The whole program with its real windows, disk and browser engine, in a folder of its own;
+/// dialogs, shell and clipboard are doubles.
 struct Program
 {
     Program()
@@ -68,11 +70,11 @@ struct Program
                     .StateFolder = FromQt(tourFolder + QStringLiteral("/home/state")),
                     .Today = [] { return Text(u"2024-05-31"); }};
     FormDesk Desk{Bench, &Pane};
-    EffectPayload Previewed; ///< last
+    EffectPayload Previewed; ///< the payload that was previewed last
     std::optional<testing::Guide> Guide;
 };
 
-/// One for all tours, as an author works.
+/// The one program in which all tours run, one after the other; null before the first.
 inline Program* program = nullptr;
 
 } // namespace orvane::testing
