@@ -13,7 +13,22 @@ abstract class Cases {
     /** Where the pages lie that the generators are held to, and where images are written. */
     static Path expected;
     static Path folder;
+    static final IntBinaryOperator PAPER = (x, y) -> 0xffeeeeee - x % 7 * 0x101 - y % 5 * 0x100000;
     private static Host shown;
+
+    /** Draws pages of a folder: each argument is a page's name and times, such as "cube 0 300". */
+    public static void main(String[] arguments) throws Exception {
+        expected = folder = Paths.get(arguments[0]);
+        writeImages();
+        for (int i = 1; i < arguments.length; i++) {
+            String[] part = arguments[i].split(" ");
+            Host host = host(page(part[0] + ".html"));
+            for (int j = 1; j < part.length; j++)
+                ImageIO.write(host.at(Long.parseLong(part[j])), "png",
+                              folder.resolve(part[0] + "-" + part[j] + ".png").toFile());
+        }
+        System.exit(0);
+    }
 
     static void same(String what, Object wanted, Object found) {
         if (!wanted.equals(found))
@@ -65,16 +80,12 @@ abstract class Cases {
         image("pond.jpg", 320, 100, (x, y) -> 0xff000000 | x << 8 | y);
         image("red.gif", 100, 80, (x, y) -> 0xffc86400);
         image("sky.gif", 100, 80, (x, y) -> 0xff32faff);
-        image("paper.gif", 7, 5, Cases::paper);
+        image("paper.gif", 7, 5, PAPER);
     }
 
     /** The pixel of a quarter, which grid() shows as one of ABCD or, with `first` 4, of abcd. */
     private static int quarter(int column, int row, int first) {
         return 0xff000000 | INKS[first + column + 2 * row];
-    }
-
-    static int paper(int x, int y) {
-        return 0xffeeeeee - x % 7 * 0x010101 - y % 5 * 0x100000;
     }
 
     private static void image(String name, int width, int height, IntBinaryOperator color)

@@ -1,7 +1,7 @@
 import java.awt.Cursor;
 import java.awt.image.BufferedImage;
 
-/** Cube, lake, ripple and fade: what is drawn at known times, at places reckoned by hand. */
+/** Cube, lake, ripple and fade: what is drawn at known times, at places worked out by hand. */
 final class PictureCases extends Cases {
     static void showsTheNearFace() throws Exception {
         // 75 before the eye, 120 pixels of depth: the face reaches 40 pixels to each side of 150,100.
@@ -65,11 +65,14 @@ final class PictureCases extends Cases {
         colors(host(without(page, "PAUSE")), "373 50,40 32faff");
     }
 
-    static void saysWhichPictureIsMissing() throws Exception {
-        for (String effect : new String[] {"cube", "lake", "ripple"}) {
-            String page = page("image_effects_" + effect + ".html");
-            says(with(page, "IMAGE", "no.gif"), "The image \"no.gif\" could not be loaded.");
-            says(without(page, "IMAGE"), "The parameter IMAGE is missing.");
+    static void everyAppletSaysWhichPictureIsMissing() throws Exception {
+        for (String row : new String[] {"advanced_animator_two_images IMAGE.0",
+                                        "image_fade_two_images IMAGE.0", "image_effects_cube IMAGE",
+                                        "image_effects_lake IMAGE", "image_effects_ripple IMAGE"}) {
+            String page = page(row.replaceFirst(" .*", ".html"));
+            String name = row.replaceFirst(".* ", "");
+            says(with(page, name, "no.gif"), "The image \"no.gif\" could not be loaded.");
+            says(without(page, name), "The parameter " + name + " is missing.");
         }
     }
 }

@@ -40,7 +40,7 @@ const cases = [
 for (const { name, tag } of cases) writeFileSync(`${folder}/${name}.html`, tag, "latin1");
 const classes = ["build/checked/applets/classes", "build/checked/tests/applets/classes"].join(":");
 const drawn = cases.map(({ name, times }) => [name, ...times].join(" "));
-execFileSync("xvfb-run", ["-a", "java", "-cp", classes, "Pictures", folder, ...drawn], {
+execFileSync("xvfb-run", ["-a", "java", "-cp", classes, "Cases", folder, ...drawn], {
     stdio: "inherit",
 });
 
