@@ -67,11 +67,20 @@ void CataloguePanel::AddPages()
          {CataloguePage::ImageEffects, CataloguePage::TextEffects, CataloguePage::OtherEffects}) {
         auto* section = new EffectSection({}, MakerFor("cmdSpecialFX"));
         section->setObjectName(MemberName("Picture1", static_cast<int>(page)));
-        section->SetEffects(EffectsOn(page));
+        m_kinds.push_back(section);
+        // The others get their buttons when they are shown: they would be as large.
+        if (page == CataloguePage::ImageEffects)
+            FillPage(0);
         AddPage(section);
     }
     AddPage(m_favorites);
     AddPage(m_results);
+}
+
+/// Puts its buttons on the page of a kind of effects, which has none until it is shown.
+void CataloguePanel::FillPage(int tab)
+{
+    m_kinds[static_cast<std::size_t>(tab)]->SetEffects(EffectsOn(static_cast<CataloguePage>(tab)));
 }
 
 void CataloguePanel::AddPage(QWidget* page)
@@ -117,8 +126,11 @@ ButtonMaker CataloguePanel::MakerFor(ControlName group)
 
 void CataloguePanel::ShowPage()
 {
-    m_pages->setCurrentIndex(m_head->IsSearching() ? resultsPage : m_head->Tab());
-    if (m_pages->currentIndex() == favoritesTab)
+    const int page = m_head->IsSearching() ? resultsPage : m_head->Tab();
+    m_pages->setCurrentIndex(page);
+    if (page < favoritesTab)
+        FillPage(page);
+    else if (page == favoritesTab)
         m_favorites->Refresh(m_settings);
     RefreshButtons();
     Describe(nullptr);

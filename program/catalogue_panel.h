@@ -40,6 +40,7 @@ protected:
 private:
     void AddPages();
     void AddPage(QWidget* page);
+    void FillPage(int tab);
     void AddKeys();
     ButtonMaker MakerFor(ControlName group);
     EffectButton* FirstButton() const;
@@ -56,6 +57,7 @@ private:
     Settings& m_settings;
     CatalogueHead* m_head;
     QStackedWidget* m_pages;
+    std::vector<EffectSection*> m_kinds;
     FavoritesPage* m_favorites;
     EffectSection* m_results;
     EffectDescription* m_description;

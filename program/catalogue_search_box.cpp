@@ -9,7 +9,8 @@ CatalogueSearchBox::CatalogueSearchBox()
     setObjectName(QStringLiteral("txtSearch"));
     setPlaceholderText(QStringLiteral("Search (Ctrl+F)"));
     setAccessibleName(QStringLiteral("Search effects"));
-    setClearButtonEnabled(true);
+    // Not before there are words to clear: its icon alone reads the desktop's icon themes.
+    connect(this, &QLineEdit::textChanged, this, [this] { setClearButtonEnabled(true); });
     SetHintColor();
 }
 

@@ -4,20 +4,22 @@
 
 #include <QIcon>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
+#include <QStylePainter>
 #include <QToolTip>
 
+#include <array>
 #include <cmath>
 #include <numbers>
+#include <span>
 
 namespace orvane {
 
 namespace {
 
 constexpr QSize pictureSize{48, 48};
-constexpr int lettersPerLine = 16;
+constexpr int lettersPerLine = 21;
 
 /// A title on two lines where it is long, so that the buttons stay narrow.
 QString WrappedTitle(TextView title)
@@ -49,17 +51,19 @@ QColor Mixed(const QColor& ground, const QColor& ink, double share)
 /// and dark windows alike.
 QPixmap Dimmed(const QPixmap& picture, const QPalette& palette)
 {
-    QImage drawn = picture.toImage().convertToFormat(QImage::Format_ARGB32);
     const QColor ground = palette.color(QPalette::Window);
     const QColor ink = palette.color(QPalette::WindowText);
-    for (int y = 0; y < drawn.height(); ++y) {
-        auto* pixels = reinterpret_cast<QRgb*>(drawn.scanLine(y));
-        for (int x = 0; x < drawn.width(); ++x) {
-            const double darkness = 1 - qGray(pixels[x]) / 255.0;
-            const QRgb color = Mixed(ground, ink, std::min(0.1 + 0.75 * darkness, 0.6)).rgb();
-            pixels[x] = qRgba(qRed(color), qGreen(color), qBlue(color), qAlpha(pixels[x]));
-        }
-    }
+    std::array<QRgb, 256> ofGray;
+    for (std::size_t gray = 0; gray < ofGray.size(); ++gray)
+        ofGray[gray] =
+            Mixed(ground, ink, std::min(0.1 + 0.75 * (1 - static_cast<double>(gray) / 255), 0.6))
+                .rgb();
+    QImage drawn = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < drawn.height(); ++y)
+        for (QRgb& pixel : std::span(reinterpret_cast<QRgb*>(drawn.scanLine(y)),
+                                     static_cast<std::size_t>(drawn.width())))
+            pixel =
+                (ofGray[static_cast<std::size_t>(qGray(pixel))] & RGB_MASK) | (pixel & ~RGB_MASK);
     return QPixmap::fromImage(drawn);
 }
 
@@ -89,9 +93,6 @@ EffectButton::EffectButton(const CatalogueRow& row, bool isBuilt, const QString&
     setAutoRaise(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    QFont titleFont = font();
-    titleFont.setItalic(!isBuilt);
-    setFont(titleFont);
     Describe();
     connect(this, &QToolButton::clicked, this, &EffectButton::Open);
 }
@@ -117,17 +118,6 @@ QSize EffectButton::sizeHint() const
                                                pictureSize.height() + 3 * letters.lineSpacing()});
 }
 
-void EffectButton::initStyleOption(QStyleOptionToolButton* option) const
-{
-    QToolButton::initStyleOption(option);
-    if (m_isBuilt)
-        return;
-    option->icon = Dimmed(icon().pixmap(iconSize(), devicePixelRatioF()), palette());
-    const QColor words =
-        Mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.65);
-    option->palette.setColor(QPalette::ButtonText, words);
-}
-
 void EffectButton::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -136,13 +126,21 @@ void EffectButton::keyPressEvent(QKeyEvent* event)
         QToolButton::keyPressEvent(event);
 }
 
-void EffectButton::paintEvent(QPaintEvent* event)
+void EffectButton::paintEvent(QPaintEvent*)
 {
-    QToolButton::paintEvent(event);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    if (!m_isBuilt) {
+        option.icon = Dimmed(icon().pixmap(iconSize(), devicePixelRatioF()), palette());
+        const QColor words =
+            Mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.65);
+        option.palette.setColor(QPalette::ButtonText, words);
+    }
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
     if (!m_isFavorite)
         return;
     const double radius = fontMetrics().height() / 2.0;
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.setBrush(palette().color(QPalette::Highlight));

@@ -35,7 +35,6 @@ signals:
     void EffectWanted(const orvane::EffectCommand& command);
 
 protected:
-    void initStyleOption(QStyleOptionToolButton* option) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -11,26 +11,30 @@ namespace orvane {
 namespace {
 
 constexpr TextView welcome =
-    u"<b>Welcome to Orvane</b><br>Point at a picture to read what its effect does; click it to "
+    u"Point at a picture to read what its effect does; click it to "
     u"make one for your Web page. To find an effect, just type what you are looking for "
     u"(Ctrl+F). Ctrl+D on an effect keeps it among your favorites.";
 
 } // namespace
 
 EffectDescription::EffectDescription()
-    : Label3(new QLabel), m_notYet(new QLabel), Label2(new QLabel), m_welcome(new QLabel)
+    : Label3(new QLabel),
+      m_notYet(new QLabel),
+      Label2(new QLabel),
+      m_greeting(new QLabel(QStringLiteral("Welcome to Orvane"))),
+      m_welcome(new QLabel)
 {
     Label3->setObjectName(QStringLiteral("Label3"));
     QFont bold = Label3->font();
     bold.setBold(true);
     Label3->setFont(bold);
+    m_greeting->setFont(bold);
     m_notYet->setObjectName(QStringLiteral("lblNotYet"));
     m_notYet->setIndent(2 * m_notYet->fontMetrics().averageCharWidth());
     Label2->setObjectName(QStringLiteral("Label2"));
     Label2->setWordWrap(true);
     Label2->setAlignment(Qt::AlignTop);
     m_welcome->setObjectName(QStringLiteral("lblWelcome"));
-    m_welcome->setTextFormat(Qt::RichText);
     m_welcome->setWordWrap(true);
     m_welcome->setAlignment(Qt::AlignTop);
     // Room for the longest description whatever is shown, so that the window stays still under the
@@ -43,7 +47,8 @@ EffectDescription::EffectDescription()
     rows->addWidget(m_notYet, 0, 1);
     rows->setColumnStretch(1, 1);
     rows->addWidget(Label2, 1, 0, 1, 2);
-    rows->addWidget(m_welcome, 0, 0, 2, 2);
+    rows->addWidget(m_greeting, 0, 0, 1, 2);
+    rows->addWidget(m_welcome, 1, 0, 1, 2);
     Show(nullptr);
 }
 
@@ -53,6 +58,7 @@ void EffectDescription::Show(const EffectButton* button)
     Label3->setText(button == nullptr ? QString() : ToQt(button->Row().Title));
     m_notYet->setText(isMissing ? ToQt(notYetAvailable) : QString());
     Label2->setText(button == nullptr ? QString() : ToQt(button->Row().Description));
+    m_greeting->setVisible(button == nullptr);
     m_welcome->setText(button == nullptr ? ToQt(welcome) : QString());
 }
 

@@ -23,6 +23,7 @@ private:
     QLabel* Label3;
     QLabel* m_notYet;
     QLabel* Label2;
+    QLabel* m_greeting;
     QLabel* m_welcome;
 };
 

@@ -111,8 +111,7 @@ int main(int argc, char** argv)
     desk.Start();
     // Behind the first paint of the window: the icon alone loads a library.
     QTimer::singleShot(0, &desk, [&] {
-        QApplication::setWindowIcon(
-            QIcon::fromTheme(ToQt(desktopId), QIcon(QStringLiteral(":/pictures/orvane.svg"))));
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
         InstallResources(files, dialogs, folders->Program);
         if (const Text& path = std::get<Text>(project); !path.empty())
             desk.OpenProject(path);

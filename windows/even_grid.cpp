@@ -12,6 +12,7 @@ EvenGrid::EvenGrid(int columns, QWidget* parent) : QLayout(parent), m_columns(co
 void EvenGrid::addItem(QLayoutItem* item)
 {
     m_items.emplace_back(item);
+    invalidate();
 }
 
 QLayoutItem* EvenGrid::itemAt(int index) const
@@ -26,6 +27,7 @@ QLayoutItem* EvenGrid::takeAt(int index)
     const auto place = m_items.begin() + index;
     QLayoutItem* item = place->release();
     m_items.erase(place);
+    invalidate();
     return item;
 }
 
@@ -60,13 +62,21 @@ void EvenGrid::setGeometry(const QRect& room)
     }
 }
 
+void EvenGrid::invalidate()
+{
+    m_cellSize.reset();
+    QLayout::invalidate();
+}
+
 /// The room that the largest widget needs.
 QSize EvenGrid::CellSize() const
 {
-    QSize size(0, 0);
-    for (const auto& item : m_items)
-        size = size.expandedTo(item->sizeHint());
-    return size;
+    if (!m_cellSize) {
+        m_cellSize.emplace(0, 0);
+        for (const auto& item : m_items)
+            *m_cellSize = m_cellSize->expandedTo(item->sizeHint());
+    }
+    return *m_cellSize;
 }
 
 QSize EvenGrid::Around(QSize cells) const

@@ -3,6 +3,7 @@
 #include <QLayout>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace orvane {
@@ -24,6 +25,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSize() const override { return Around(CellSize()); }
     void setGeometry(const QRect& room) override;
+    void invalidate() override;
 
 private:
     QSize CellSize() const;
@@ -33,6 +35,7 @@ private:
 
     int m_columns;
     std::vector<std::unique_ptr<QLayoutItem>> m_items;
+    mutable std::optional<QSize> m_cellSize;
 };
 
 } // namespace orvane
