@@ -21,50 +21,15 @@ namespace orvane {
 
 namespace {
 
-constexpr int numberLetters = 14;  ///< width of a field for a number
 constexpr int addressLetters = 32; ///< least width of a field for an address
 
 } // namespace
 
-PageBuilder::PageBuilder(QWidget* page, Workbench* bench)
-    : m_page(page), m_rows(new QFormLayout(page)), m_bench(bench)
-{
-    m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
-}
-
-QLabel* PageBuilder::Words(TextView words)
-{
-    if (words.empty())
-        return nullptr;
-    auto* label = new QLabel(ToQt(words), m_page);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-/// A field's label, which names it to a screen reader as well.
-QLabel* PageBuilder::Caption(TextView label, QWidget* field)
-{
-    auto* caption = new QLabel(ToQt(label), m_page);
-    caption->setBuddy(field);
-    field->setAccessibleName(SpokenName(label));
-    return caption;
-}
-
-void PageBuilder::FieldRow(QWidget* field, ControlName name, TextView label, TextView tip,
-                           QWidget* beside)
-{
-    field->setObjectName(ToQt(name));
-    field->setToolTip(ToQt(tip));
-    if (beside == nullptr)
-        Row(label, {field});
-    else
-        Row(label, {field, beside});
-}
+PageBuilder::PageBuilder(QWidget* page, Workbench* bench) : PageRows(page), m_bench(bench) {}
 
 QLineEdit* PageBuilder::TextBox(ControlName name, TextView label, TextView tip, TextView unit)
 {
-    auto* box = MakeTextBox(m_page);
+    auto* box = MakeTextBox(Page());
     FieldRow(box, name, label, tip, Words(unit));
     return box;
 }
@@ -72,14 +37,14 @@ QLineEdit* PageBuilder::TextBox(ControlName name, TextView label, TextView tip, 
 QLineEdit* PageBuilder::TextBoxWithButton(ControlName name, TextView label, QPushButton* button,
                                           TextView tip)
 {
-    auto* box = MakeTextBox(m_page);
+    auto* box = MakeTextBox(Page());
     FieldRow(box, name, label, tip, button);
     return box;
 }
 
 orvane::MultiLineBox* PageBuilder::MultiLineBox(ControlName name, TextView label, TextView tip)
 {
-    auto* box = new orvane::MultiLineBox(m_page);
+    auto* box = new orvane::MultiLineBox(Page());
     box->setTabChangesFocus(true);
     box->setMinimumHeight(4 * box->fontMetrics().lineSpacing());
     FieldRow(box, name, label, tip, nullptr);
@@ -88,7 +53,7 @@ orvane::MultiLineBox* PageBuilder::MultiLineBox(ControlName name, TextView label
 
 FileNameBox* PageBuilder::LockedTextBox(ControlName name, TextView label, TextView tip)
 {
-    auto* box = new FileNameBox(m_bench->Settings, m_bench->Dialogs, m_page);
+    auto* box = new FileNameBox(m_bench->Settings, m_bench->Dialogs, Page());
     FieldRow(box, name, label, tip, nullptr);
     return box;
 }
@@ -96,14 +61,14 @@ FileNameBox* PageBuilder::LockedTextBox(ControlName name, TextView label, TextVi
 QPushButton* PageBuilder::BrowseButton(QLineEdit* field, BrowseRule rule)
 {
     QPushButton* button = MakeBrowseButton(*m_bench, field, std::move(rule));
-    button->setParent(m_page);
+    button->setParent(Page());
     return button;
 }
 
 FileNameBox* PageBuilder::LockedBrowseRow(ControlName name, TextView label, TextView tip,
                                           BrowseRule rule)
 {
-    auto* box = new FileNameBox(m_bench->Settings, m_bench->Dialogs, m_page);
+    auto* box = new FileNameBox(m_bench->Settings, m_bench->Dialogs, Page());
     FieldRow(box, name, label, tip, BrowseButton(box, std::move(rule)));
     return box;
 }
@@ -111,14 +76,14 @@ FileNameBox* PageBuilder::LockedBrowseRow(ControlName name, TextView label, Text
 QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip, BrowseRule rule,
                                   TextView unit)
 {
-    auto* box = MakeTextBox(m_page);
+    auto* box = MakeTextBox(Page());
     box->setMinimumWidth(addressLetters * box->fontMetrics().averageCharWidth());
     QPushButton* button = BrowseButton(box, std::move(rule));
     if (unit.empty()) {
         FieldRow(box, name, label, tip, button);
         return box;
     }
-    auto* behind = new QWidget(m_page);
+    auto* behind = new QWidget(Page());
     auto* line = new QHBoxLayout(behind);
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(Words(unit));
@@ -130,7 +95,7 @@ QLineEdit* PageBuilder::BrowseRow(ControlName name, TextView label, TextView tip
 QComboBox* PageBuilder::ComboBox(ControlName name, TextView label, std::span<const TextView> items,
                                  bool isEditable, TextView tip, TextView unit)
 {
-    QComboBox* box = MakeComboBox(items, isEditable, m_page);
+    QComboBox* box = MakeComboBox(items, isEditable, Page());
     FieldRow(box, name, label, tip, Words(unit));
     return box;
 }
@@ -139,7 +104,7 @@ QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName s
 {
     QComboBox* box = ComboBox(name, label, BasicColors, true);
     auto* picker = new orvane::ColorSwatch(u"Click to Select Color", ColorNotation::Channels,
-                                           m_bench->Dialogs, m_page);
+                                           m_bench->Dialogs, Page());
     picker->setObjectName(ToQt(swatch));
     picker->setAccessibleName(SpokenName(label));
     picker->setToolTip(QStringLiteral("Click here to select a color"));
@@ -149,23 +114,10 @@ QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName s
     return box;
 }
 
-QHBoxLayout* PageBuilder::LastLine() const
-{
-    QLayoutItem* field = m_rows->itemAt(m_rows->rowCount() - 1, QFormLayout::FieldRole);
-    return static_cast<QHBoxLayout*>(field->layout());
-}
-
-void PageBuilder::KeepNarrow(QWidget& field)
-{
-    field.setFixedWidth(numberLetters * field.fontMetrics().averageCharWidth());
-    LastLine()->setStretchFactor(&field, 0);
-    LastLine()->addStretch(1);
-}
-
 orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int lowest, int highest,
                                           TextView tip, TextView unit)
 {
-    auto* box = new orvane::NumberBox(name, lowest, highest, m_page);
+    auto* box = new orvane::NumberBox(name, lowest, highest, Page());
     box->setToolTip(ToQt(tip));
     if (unit.empty())
         Row(label, {box, box->UpDown()});
@@ -177,14 +129,14 @@ orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int 
 QSlider* PageBuilder::Slider(ControlName name, TextView label, TextView low, TextView high,
                              const SliderRange& range, TextView tip)
 {
-    QSlider* slider = MakeSlider(range, m_page);
+    QSlider* slider = MakeSlider(range, Page());
     slider->setObjectName(ToQt(name));
     slider->setToolTip(ToQt(tip));
     auto* line = new QHBoxLayout;
     line->addWidget(Words(low));
     line->addWidget(slider, 1);
     line->addWidget(Words(high));
-    m_rows->addRow(Caption(label, slider), line);
+    Rows().addRow(Caption(label, slider), line);
     return slider;
 }
 
@@ -192,7 +144,7 @@ orvane::ColorSwatch* PageBuilder::ColorSwatch(ControlName name, TextView label,
                                               ColorNotation notation, TextView caption,
                                               TextView tip)
 {
-    auto* swatch = new orvane::ColorSwatch(caption, notation, m_bench->Dialogs, m_page);
+    auto* swatch = new orvane::ColorSwatch(caption, notation, m_bench->Dialogs, Page());
     FieldRow(swatch, name, label, tip, nullptr);
     return swatch;
 }
@@ -204,38 +156,38 @@ void PageBuilder::FontRow(ControlName button)
 
 ActingList* PageBuilder::ListBox(ControlName name, TextView label, std::span<const TextView> items)
 {
-    auto* box = new ActingList(m_page);
+    auto* box = new ActingList(Page());
     box->setObjectName(ToQt(name));
     for (const TextView item : items)
         box->addItem(ToQt(item));
     if (!label.empty())
-        m_rows->addRow(Caption(label, box));
+        Rows().addRow(Caption(label, box));
     Fill(box);
     return box;
 }
 
 QCheckBox* PageBuilder::CheckBox(ControlName name, TextView caption, TextView tip)
 {
-    QCheckBox* box = MakeCheckBox(caption, m_page);
+    QCheckBox* box = MakeCheckBox(caption, Page());
     box->setObjectName(ToQt(name));
     box->setToolTip(ToQt(tip));
-    m_rows->addRow(box);
+    Rows().addRow(box);
     return box;
 }
 
 QRadioButton* PageBuilder::Option(ControlName group, int index, TextView caption,
                                   TextView description, const QString& picture)
 {
-    auto* option = new QRadioButton(ToQt(caption), m_page);
+    auto* option = new QRadioButton(ToQt(caption), Page());
     option->setObjectName(MemberName(group, index));
-    m_rows->addRow(option);
+    Rows().addRow(option);
     if (description.empty())
         return option;
-    QLabel* words = MakeOptionWords(description, option, m_page);
+    QLabel* words = MakeOptionWords(description, option, Page());
     if (picture.isEmpty())
-        m_rows->addRow(words);
+        Rows().addRow(words);
     else
-        Row({}, {words, MakePicture(picture, {96, 64}, m_page)});
+        Row({}, {words, MakePicture(picture, {96, 64}, Page())});
     return option;
 }
 
@@ -248,7 +200,7 @@ void PageBuilder::OptionGroup(ControlName group, std::initializer_list<TextView>
 
 QLineEdit* PageBuilder::HiddenText(ControlName name)
 {
-    QLineEdit* box = MakeTextBox(m_page);
+    QLineEdit* box = MakeTextBox(Page());
     box->setObjectName(ToQt(name));
     box->hide();
     return box;
@@ -256,28 +208,11 @@ QLineEdit* PageBuilder::HiddenText(ControlName name)
 
 orvane::MultiLineBox* PageBuilder::CodeBox(ControlName name, TextView accessibleName)
 {
-    orvane::MultiLineBox* box = MakeCodeBox(m_page);
+    orvane::MultiLineBox* box = MakeCodeBox(Page());
     box->setObjectName(ToQt(name));
     box->setAccessibleName(ToQt(accessibleName));
     Fill(box);
     return box;
-}
-
-QLabel* PageBuilder::Note(TextView words, ControlName name)
-{
-    auto* note = new QLabel(ToQtLines(words), m_page);
-    note->setObjectName(ToQt(name));
-    note->setTextFormat(Qt::PlainText);
-    note->setWordWrap(true);
-    m_rows->addRow(note);
-    return note;
-}
-
-QLabel* PageBuilder::Picture(const QString& name, QSize size)
-{
-    QLabel* picture = MakePicture(name, size, m_page);
-    m_rows->addRow(picture);
-    return picture;
 }
 
 void PageBuilder::Example(const QString& picture, QSize size)
@@ -285,54 +220,12 @@ void PageBuilder::Example(const QString& picture, QSize size)
     Frame(u"Example").Picture(picture, size);
 }
 
-QPushButton* PageBuilder::Button(ControlName name, TextView caption, TextView tip)
-{
-    QPushButton* button = MakeButton(name, caption, tip);
-    button->setParent(m_page);
-    return button;
-}
-
-void PageBuilder::Buttons(std::initializer_list<QPushButton*> buttons)
-{
-    auto* line = new QHBoxLayout;
-    for (QPushButton* button : buttons)
-        line->addWidget(button);
-    line->addStretch(1);
-    m_rows->addRow(line);
-}
-
-QLabel* PageBuilder::Row(TextView label, std::initializer_list<QWidget*> widgets)
-{
-    auto* line = new QHBoxLayout;
-    for (QWidget* widget : widgets)
-        line->addWidget(widget, widget == *widgets.begin() ? 1 : 0);
-    if (label.empty()) {
-        m_rows->addRow(line);
-        return nullptr;
-    }
-    QLabel* caption = Caption(label, *widgets.begin());
-    m_rows->addRow(caption, line);
-    return caption;
-}
-
 PageBuilder PageBuilder::Frame(TextView caption, ControlName name)
 {
-    auto* frame = new QGroupBox(ToQt(caption), m_page);
+    auto* frame = new QGroupBox(ToQt(caption), Page());
     frame->setObjectName(ToQt(name));
-    m_rows->addRow(frame);
+    Rows().addRow(frame);
     return PageBuilder(frame, m_bench);
-}
-
-QWidget* PageBuilder::Fill(QWidget* widget)
-{
-    if (widget == nullptr)
-        widget = new QWidget(m_page);
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setVerticalPolicy(QSizePolicy::Expanding);
-    policy.setVerticalStretch(1);
-    widget->setSizePolicy(policy);
-    m_rows->addRow(widget);
-    return widget;
 }
 
 } // namespace orvane

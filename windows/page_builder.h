@@ -8,8 +8,8 @@
 #include "windows/controls.h"
 #include "windows/file_name_box.h"
 #include "windows/link_label.h"
+#include "windows/page_rows.h"
 
-#include <QLabel>
 #include <QLineEdit>
 
 #include <initializer_list>
@@ -17,8 +17,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QFormLayout;
-class QHBoxLayout;
 class QPushButton;
 class QRadioButton;
 class QSlider;
@@ -32,7 +30,7 @@ class NumberBox;
 /// Builds the pages of all windows. Each call adds one row below the last one and returns its
 /// control, unless its comment says otherwise. `name` is the control's object name, `tip` its tool
 /// tip.
-class PageBuilder
+class PageBuilder : public PageRows
 {
 public:
     /// Gives `page` a form layout and builds into it. Without a bench these rows must not be
@@ -75,14 +73,6 @@ public:
     orvane::NumberBox* NumberBox(ControlName name, TextView label, int lowest, int highest,
                                  TextView tip = {}, TextView unit = {});
 
-    /// Makes the field as narrow as a number and returns it. Expects the field of the last row.
-    template <class Field>
-    Field* Narrow(Field* field)
-    {
-        KeepNarrow(*field);
-        return field;
-    }
-
     /// A slider, with the words `low` at its left end and `high` at its right end.
     QSlider* Slider(ControlName name, TextView label, TextView low, TextView high,
                     const SliderRange& range, TextView tip = {});
@@ -117,44 +107,13 @@ public:
     /// A read-only box of page code; it takes the height that is left.
     orvane::MultiLineBox* CodeBox(ControlName name, TextView accessibleName);
 
-    /// A paragraph of plain text.
-    QLabel* Note(TextView words, ControlName name = {});
-
-    /// A picture of the program's resources, such as "status_bar_sample".
-    QLabel* Picture(const QString& name, QSize size);
-
     /// A frame "Example" with a picture of what the effect looks like.
     void Example(const QString& picture, QSize size);
-
-    /// Makes a button; adds no row, the caller puts it into one.
-    QPushButton* Button(ControlName name, TextView caption, TextView tip = {});
-
-    /// A row of buttons, each as wide as its caption.
-    void Buttons(std::initializer_list<QPushButton*> buttons);
-
-    /// Any widgets side by side in one row with a label, which belongs to the first one. The first
-    /// one takes the width that is left. Returns the label; null when `label` is empty.
-    QLabel* Row(TextView label, std::initializer_list<QWidget*> widgets);
 
     /// A framed group with a caption; the returned builder adds to it.
     PageBuilder Frame(TextView caption, ControlName name = {});
 
-    /// A row of one widget that takes the height that is left; of an empty one when it is null.
-    /// Returns the widget.
-    QWidget* Fill(QWidget* widget = nullptr);
-
-    /// The widget that the rows are built into.
-    QWidget* Page() const { return m_page; }
-
 private:
-    void FieldRow(QWidget* field, ControlName name, TextView label, TextView tip, QWidget* beside);
-    QLabel* Caption(TextView label, QWidget* field);
-    QLabel* Words(TextView words);
-    QHBoxLayout* LastLine() const;
-    void KeepNarrow(QWidget& field);
-
-    QWidget* m_page;
-    QFormLayout* m_rows;
     Workbench* m_bench;
 };
 
