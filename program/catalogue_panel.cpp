@@ -2,58 +2,33 @@
 
 #include "core/catalogue_search.h"
 #include "program/catalogue_head.h"
+#include "program/catalogue_pages.h"
 #include "program/effect_button.h"
 #include "program/effect_description.h"
-#include "program/favorites_page.h"
 #include "windows/controls.h"
-#include "windows/page_area.h"
 #include "windows/qt_text.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QShortcut>
-#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace orvane {
-
-namespace {
-
-constexpr int favoritesTab = 3;
-constexpr int resultsPage = 4;
-
-EffectRows EffectsOn(CataloguePage page)
-{
-    EffectRows effects;
-    for (const CatalogueRow& row : Catalogue())
-        if (row.HasButton && FindCommand(row.MenuCommand)->Page == page)
-            effects.push_back(&row);
-    return effects;
-}
-
-} // namespace
 
 CataloguePanel::CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings& settings)
     : m_isBuilt(std::move(isBuilt)),
       m_settings(settings),
       m_head(new CatalogueHead),
-      m_pages(new QStackedWidget),
-      m_favorites(new FavoritesPage(MakerFor("cmdSpecialFX"), MakerFor("cmdRecentFX"))),
-      m_results(new EffectSection(
-          {u"",
-           u"No effect answers to these words. Try fewer or other ones, or press Escape to see "
-           u"all effects again."},
-          MakerFor("cmdSpecialFX"))),
+      m_pages(new CataloguePages([this](ControlName group) { return MakerFor(group); }, settings)),
       m_description(new EffectDescription),
       m_favorite(new QAction(this))
 {
     installEventFilter(this);
+    for (QWidget* page : m_pages->Pages())
+        page->installEventFilter(this);
     auto* lines = new QVBoxLayout(this);
-    AddPages();
     lines->addWidget(m_head);
     lines->addWidget(m_pages, 1);
     lines->addWidget(m_description);
@@ -61,44 +36,16 @@ CataloguePanel::CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings
     SetReadingOrder(*this);
 }
 
-void CataloguePanel::AddPages()
-{
-    for (const auto page :
-         {CataloguePage::ImageEffects, CataloguePage::TextEffects, CataloguePage::OtherEffects}) {
-        auto* section = new EffectSection({}, MakerFor("cmdSpecialFX"));
-        section->setObjectName(MemberName("Picture1", static_cast<int>(page)));
-        m_kinds.push_back(section);
-        // The others get their buttons when they are shown: they would be as large.
-        if (page == CataloguePage::ImageEffects)
-            FillPage(0);
-        AddPage(section);
-    }
-    AddPage(m_favorites);
-    AddPage(m_results);
-}
-
-/// Puts its buttons on the page of a kind of effects, which has none until it is shown.
-void CataloguePanel::FillPage(int tab)
-{
-    m_kinds[static_cast<std::size_t>(tab)]->SetEffects(EffectsOn(static_cast<CataloguePage>(tab)));
-}
-
-void CataloguePanel::AddPage(QWidget* page)
-{
-    page->installEventFilter(this);
-    m_pages->addWidget(new PageArea(page));
-}
-
 void CataloguePanel::AddKeys()
 {
-    connect(m_head, &CatalogueHead::Changed, this, &CataloguePanel::Search);
+    connect(m_head, &CatalogueHead::Changed, this, &CataloguePanel::ShowPage);
     connect(m_head, &CatalogueHead::FirstWanted, this, [this] {
-        EffectButton* first = m_head->IsSearching() ? FirstButton() : nullptr;
+        EffectButton* first = m_head->IsSearching() ? m_pages->FirstButton() : nullptr;
         if (first != nullptr)
             first->click();
     });
     connect(m_head, &CatalogueHead::ListWanted, this, [this] {
-        if (EffectButton* first = FirstButton())
+        if (EffectButton* first = m_pages->FirstButton())
             first->setFocus(Qt::TabFocusReason);
     });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_head,
@@ -126,38 +73,21 @@ ButtonMaker CataloguePanel::MakerFor(ControlName group)
 
 void CataloguePanel::ShowPage()
 {
-    const int page = m_head->IsSearching() ? resultsPage : m_head->Tab();
-    m_pages->setCurrentIndex(page);
-    if (page < favoritesTab)
-        FillPage(page);
-    else if (page == favoritesTab)
-        m_favorites->Refresh(m_settings);
-    RefreshButtons();
+    const EffectRows found = SearchCatalogue(m_head->Typed());
+    m_head->ShowFound(found.size());
+    if (m_head->IsSearching())
+        m_pages->ShowFound(found);
+    else
+        m_pages->ShowTab(m_head->Tab());
+    Refresh();
     Describe(nullptr);
 }
 
-/// Gives the buttons of the page in front their pictures and stars, and all their order.
-void CataloguePanel::RefreshButtons()
+/// Shows the buttons of the page in front as they are to be, and puts all in their order for Tab.
+void CataloguePanel::Refresh()
 {
-    const EffectRows favorites = FavoriteEffects(m_settings);
-    for (auto* button : m_pages->currentWidget()->findChildren<EffectButton*>()) {
-        button->DrawPicture();
-        button->SetFavorite(std::ranges::find(favorites, &button->Row()) != favorites.end());
-    }
+    m_pages->Refresh();
     SetReadingOrder(*this);
-}
-
-void CataloguePanel::Search()
-{
-    const EffectRows effects = SearchCatalogue(m_head->Typed());
-    m_results->SetEffects(effects);
-    m_head->ShowFound(effects.size());
-    ShowPage();
-}
-
-EffectButton* CataloguePanel::FirstButton() const
-{
-    return static_cast<EffectButton*>(FirstControl(*m_pages->currentWidget()));
 }
 
 void CataloguePanel::Describe(EffectButton* button)
@@ -170,7 +100,7 @@ void CataloguePanel::TakeButtonEvent(EffectButton& button, const QEvent& event)
 {
     switch (event.type()) {
     case QEvent::FocusIn:
-        static_cast<PageArea*>(m_pages->currentWidget())->ensureWidgetVisible(&button);
+        m_pages->BringIntoView(button);
         Describe(&button);
         break;
     case QEvent::Enter:
@@ -254,26 +184,22 @@ void CataloguePanel::ToggleFavoriteOf(const EffectButton* button)
     if (button == nullptr)
         return;
     ToggleFavorite(m_settings, button->Row());
-    if (m_pages->currentIndex() == favoritesTab)
-        m_favorites->Refresh(m_settings);
-    RefreshButtons();
+    Refresh();
 }
 
 void CataloguePanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     // Back from a wizard, it is the effect used last.
-    if (event->type() == QEvent::ActivationChange && m_pages->currentIndex() == favoritesTab) {
-        m_favorites->Refresh(m_settings);
-        RefreshButtons();
-    }
+    if (event->type() == QEvent::ActivationChange && m_pages->ShowsFavorites())
+        Refresh();
 }
 
 void CataloguePanel::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     // Behind the first paint: the window is up sooner, and the other pages are drawn when wanted.
-    QTimer::singleShot(0, this, &CataloguePanel::RefreshButtons);
+    QTimer::singleShot(0, this, &CataloguePanel::Refresh);
 }
 
 } // namespace orvane

@@ -9,13 +9,12 @@
 
 class QAction;
 class QKeyEvent;
-class QStackedWidget;
 
 namespace orvane {
 
 class CatalogueHead;
+class CataloguePages;
 class EffectDescription;
-class FavoritesPage;
 
 /// All effects as pictures on three tabs, the author's favorites on a fourth, a box that searches
 /// them all, and the title and description of the effect under the pointer or with the focus.
@@ -38,15 +37,10 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void AddPages();
-    void AddPage(QWidget* page);
-    void FillPage(int tab);
     void AddKeys();
     ButtonMaker MakerFor(ControlName group);
-    EffectButton* FirstButton() const;
     void ShowPage();
-    void RefreshButtons();
-    void Search();
+    void Refresh();
     void TakeButtonEvent(EffectButton& button, const QEvent& event);
     bool TakeButtonKey(EffectButton& button, const QKeyEvent& key);
     void Describe(EffectButton* button);
@@ -56,10 +50,7 @@ private:
     std::function<bool(EffectKind)> m_isBuilt;
     Settings& m_settings;
     CatalogueHead* m_head;
-    QStackedWidget* m_pages;
-    std::vector<EffectSection*> m_kinds;
-    FavoritesPage* m_favorites;
-    EffectSection* m_results;
+    CataloguePages* m_pages;
     EffectDescription* m_description;
     QAction* m_favorite;
     QPointer<EffectButton> m_described;
