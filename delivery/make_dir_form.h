@@ -1,19 +1,15 @@
 #pragma once
 
-#include "core/workbench.h"
-
-#include <QDialog>
+#include "windows/ok_cancel_form.h"
 
 #include <optional>
-
-class QLineEdit;
 
 namespace orvane {
 
 class FolderBoxes;
 
 /// The "Create Folder" window.
-class MakeDirForm : public QDialog
+class MakeDirForm : public OkCancelForm
 {
     Q_OBJECT
 
@@ -25,9 +21,8 @@ public:
     const std::optional<Text>& NewFolder() const { return m_newFolder; }
 
 private:
-    void MakeDirEnter();
+    void Take() override;
 
-    Workbench& m_bench;
     FolderBoxes* m_boxes;
     QLineEdit* txtFolder;
     std::optional<Text> m_newFolder;

@@ -10,13 +10,6 @@ namespace orvane {
 
 namespace {
 
-void AddNonEmpty(std::vector<Text>& list, const auto& names)
-{
-    for (const auto& name : names)
-        if (!name.empty())
-            list.emplace_back(name);
-}
-
 Text Listed(const MissingFiles& names)
 {
     Text list;
@@ -123,7 +116,9 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
 std::vector<Text> SourcesOf(const CopyDesk& desk)
 {
     std::vector<Text> sources;
-    AddNonEmpty(sources, desk.Payload.Effect.Required.Sources);
+    for (const Text& source : desk.Payload.Effect.Required.Sources)
+        if (!source.empty())
+            sources.push_back(source);
     for (const Text& name : desk.Payload.Effect.SupportFiles)
         sources.push_back(PathIn(desk.ProgramFolder, name));
     return sources;

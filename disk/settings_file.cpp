@@ -1,5 +1,6 @@
 #include "disk/settings_file.h"
 
+#include "core/escapes.h"
 #include "core/file_names.h"
 
 #include <tuple>
@@ -8,36 +9,8 @@ namespace orvane {
 
 namespace {
 
-/// The text with backslash, line ends and the signs that shape a line escaped.
-Text Escaped(TextView text)
-{
-    Text escaped;
-    for (const char16_t c : text) {
-        if (c == u'\r')
-            escaped += u"\\r";
-        else if (c == u'\n')
-            escaped += u"\\n";
-        else if (Find(u"\\=[]", TextView(&c, 1)) != 0)
-            escaped.append({u'\\', c});
-        else
-            escaped.push_back(c);
-    }
-    return escaped;
-}
-
-Text Unescaped(TextView text)
-{
-    Text plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != u'\\' || i + 1 == text.size()) {
-            plain.push_back(text[i]);
-            continue;
-        }
-        const char16_t c = text[++i];
-        plain.push_back(c == u'r' ? u'\r' : c == u'n' ? u'\n' : c);
-    }
-    return plain;
-}
+/// The signs that shape a line.
+constexpr TextView lineSigns = u"=[]";
 
 /// The first unescaped `sign` of a line, or npos.
 std::size_t FindSign(TextView line, char16_t sign)
@@ -83,9 +56,9 @@ std::string WriteSettings(const SettingsTable& settings)
     const Text* section = nullptr;
     for (const auto& [name, value] : settings) {
         if (section == nullptr || *section != name.first)
-            text += Join({u"[", Escaped(name.first), u"]\n"});
+            text += Join({u"[", Escaped(name.first, lineSigns), u"]\n"});
         section = &name.first;
-        text += Join({Escaped(name.second), u"=", Escaped(value), u"\n"});
+        text += Join({Escaped(name.second, lineSigns), u"=", Escaped(value, lineSigns), u"\n"});
     }
     return ToUtf8(text);
 }

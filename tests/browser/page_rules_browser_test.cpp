@@ -196,7 +196,7 @@ TEST(PageLinksBrowserTest, OffersAddressesOutsideToTheAuthor)
     page.WaitUntil("document.body.className == 'clicked'");
     EXPECT_EQ(page.Value("document.body.firstChild.data").toString(), "here ");
     EXPECT_EQ(page.Shell.Opened,
-              (std::vector<Text>{u"http://www.varlo.example/a b", u"mailto:ann@varlo.example"}));
+              (Texts{u"http://www.varlo.example/a b", u"mailto:ann@varlo.example"}));
 }
 
 TEST(PageLinksBrowserTest, AScriptThatLeadsAwayAgainAndAgainAsksOnce)

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 Text FirstTitle(TextView typed)
@@ -34,4 +34,4 @@ TEST(CatalogueSearchTest, FindsEffectsByTheWordsThatAuthorsUse)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

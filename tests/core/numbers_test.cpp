@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 struct NumberCase
@@ -77,4 +77,4 @@ TEST(NumbersTest, WritesAtMostFifteenDigitsAndNoTrailingZeros)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::FakeDesk;
 
 TEST(OrvaneCoreTest, EscapesEveryApostrophe)
 {
@@ -30,14 +28,13 @@ TEST(OrvaneCoreTest, ReminderToBrowseComesUnlessFileFieldsAreUnlocked)
 {
     FakeDesk desk;
     WarnInputBoxLocked(desk.Settings, desk.Dialogs);
-    EXPECT_EQ(
-        desk.Dialogs.TakeSaid(),
-        std::vector<Text>{u"Please click the 'Browse' button next to the input box to specify "
-                          u"the filename."});
+    EXPECT_EQ(desk.Dialogs.TakeSaid(),
+              Texts{u"Please click the 'Browse' button next to the input box to specify "
+                    u"the filename."});
     desk.Settings.Put(u"Misc", u"UnlockInputBoxes", u"1", u"Orvane");
     WarnInputBoxLocked(desk.Settings, desk.Dialogs);
     EXPECT_TRUE(desk.Dialogs.Said.empty());
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -8,11 +8,8 @@
 
 #include <map>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedBytes;
-using testing::ExpectSameBytes;
 
 EffectPayload PopupWindowPayload()
 {
@@ -80,4 +77,4 @@ TEST(CatalogueTest, EveryRowOpensByACommandAndOnlyTwinsShareOne)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 constexpr Template twoLines(uR"page(
@@ -38,4 +38,4 @@ TEST(TemplateTest, ThrowsWhenMarksAndValuesDoNotMatch)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(TextTest, FindCountsFromOneAndGivesZeroForNothing)
@@ -77,4 +77,4 @@ TEST(TextTest, Utf8RoundTripsAndReplacesWhatIsIllFormed)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

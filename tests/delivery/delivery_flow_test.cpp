@@ -5,7 +5,7 @@
 #include <tuple>
 #include <vector>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 constexpr DeliveryFacts everything{true, true, true, true, true, true};
@@ -77,4 +77,4 @@ TEST(DeliveryFlowTest, PageForAnExistingAndForANewPageDiffer)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

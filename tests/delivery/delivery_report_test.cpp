@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 using Lines = std::vector<Text>;
@@ -34,4 +34,4 @@ TEST(DeliveryReportTest, TellsOfEachFolderWhatLiesThereNow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(EditorHelpTest, OffersTheEditorsTopicElseThePages)
@@ -20,4 +20,4 @@ TEST(EditorHelpTest, OffersTheEditorsTopicElseThePages)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -5,10 +5,8 @@
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 TEST(MakeDirFormTest, CreatesTheFolderBelowTheOneThatItsOwnBoxShowsOrWantsAName)
 {
@@ -17,13 +15,13 @@ TEST(MakeDirFormTest, CreatesTheFolderBelowTheOneThatItsOwnBoxShowsOrWantsAName)
     MakeDirForm form(desk.Bench, u"/site");
     form.show();
     LetRun();
-    EXPECT_EQ(RowsOf(form, "Dir1"), (std::vector<Text>{u"/", u"site", u"pages", u"pictures"}));
+    EXPECT_EQ(RowsOf(form, "Dir1"), (Texts{u"/", u"site", u"pages", u"pictures"}));
     EXPECT_EQ(SelectedRowOf(form, "Dir1"), 1);
     ExpectAccessible(form);
     DoubleClickRow(form, "Dir1", 3);
     Click(form, "cmdOK");
     EXPECT_EQ(desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Please enter a new folder name for Orvane to create."});
+              Texts{u"Please enter a new folder name for Orvane to create."});
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(form.focusWidget(), Find<QWidget>(form, "txtFolder"));
     EXPECT_EQ(form.NewFolder(), std::nullopt);
@@ -47,8 +45,8 @@ TEST(MakeDirTest, NamesTheFolderThatIsThereOrStaysWhereItIs)
         EXPECT_EQ(enter(u"/", u"my pics"), (MakeDirEnd{true, u"/my pics"}));
     EXPECT_EQ(enter(u"/", u"   "), (MakeDirEnd{true, std::nullopt}));
     EXPECT_EQ(enter(u"/site", u"new"), (MakeDirEnd{true, std::nullopt}));
-    EXPECT_EQ(dialogs.Said, std::vector<Text>());
+    EXPECT_EQ(dialogs.Said, Texts());
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

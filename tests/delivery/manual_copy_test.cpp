@@ -6,8 +6,6 @@
 namespace orvane::testing {
 namespace {
 
-using Names = std::vector<Text>;
-
 Text OverwriteQuestion(TextView name)
 {
     return Join({name, u" already exists in this folder.  Do you wish to overwrite?"});
@@ -17,7 +15,7 @@ Text OverwriteQuestion(TextView name)
 class ManualCopyTest : public ::testing::Test
 {
 protected:
-    void CopyByHand(const Names& selected, TextView from = u"/found")
+    void CopyByHand(const Texts& selected, TextView from = u"/found")
     {
         for (const Text& name : selected)
             disk.Contents[PathIn(from, name)] = "new";
@@ -34,11 +32,11 @@ TEST_F(ManualCopyTest, TakesCopiedNamesOffTheListAndNamesThem)
 {
     CopyByHand({});
     EXPECT_EQ(dialogs.TakeSaid(),
-              Names{u"Select a file from the list and then click the 'Copy' button"});
+              Texts{u"Select a file from the list and then click the 'Copy' button"});
     CopyByHand({u"a.gif", u"other.txt", u"C.GIF"});
     EXPECT_EQ(disk.Contents[u"/site/a.gif"], "new");
     EXPECT_EQ(missing, (MissingFiles{u"b.gif", u"c.gif"})) << "a page finds c.gif by its own case";
-    EXPECT_EQ(dialogs.Said, Names{u"The following files were successfully copied:\r\n\r\n"
+    EXPECT_EQ(dialogs.Said, Texts{u"The following files were successfully copied:\r\n\r\n"
                                   u"a.gif, other.txt, C.GIF, "});
 }
 
@@ -52,7 +50,7 @@ TEST_F(ManualCopyTest, AsksBeforeOverwritingInAnyCaseAndSkipsOnNo)
     EXPECT_FALSE(disk.FileExists(u"/site/a.gif"));
     EXPECT_EQ(disk.Contents[u"/site/b.gif"], "new");
     EXPECT_EQ(missing, (MissingFiles{u"a.gif", u"c.gif", u"a.gif"}));
-    EXPECT_EQ(dialogs.Said, Names{u"The following files were successfully copied:\r\n\r\nb.gif, "});
+    EXPECT_EQ(dialogs.Said, Texts{u"The following files were successfully copied:\r\n\r\nb.gif, "});
 }
 
 TEST_F(ManualCopyTest, TellsWhyAFileFailedAndLeavesAloneWhatLiesThereItself)

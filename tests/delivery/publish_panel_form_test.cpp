@@ -5,12 +5,8 @@
 
 #include <QListWidget>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
-
-using Names = std::vector<Text>;
 
 /// The delivery wizard of an animation with two pictures, on a disk where both were found once.
 class PublishPanelTest : public DeliveryTest
@@ -41,7 +37,7 @@ protected:
         GoBy(1);
         Click(*m_form, "cmdNext");
         ASSERT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
-        ASSERT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program"}));
+        ASSERT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"program"}));
     }
 
     /// The same, with b.gif no longer where it was and the author sent to look for it.
@@ -86,7 +82,7 @@ protected:
             EXPECT_EQ(IsShown(name), shown.contains(name)) << name;
     }
 
-    Names m_askedFor;
+    Texts m_askedFor;
     std::optional<Text> m_newFolder;
 };
 
@@ -99,23 +95,23 @@ TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
     m_desk.Files.FailOn(u"/site/ovtemp.html", Fault::DiskFull);
     EXPECT_EQ(Focused(), u"cmdCopyFiles");
     PressEnter();
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Names{u"Disk full"});
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Disk full"});
     EXPECT_EQ(Focused(), u"cmdCopyFiles");
 
     GoTo(u"web");
     PressEnter();
     EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
-              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
+              (Texts{u"a.gif", u"Animate1.class", u"b.gif", u"ovtemp.html"}));
     EXPECT_NE(Bytes(u"/web/ovtemp.html").find("<B>moves</B>"), std::string::npos);
     PressEnter();
     EXPECT_EQ(Heading(), u"Finished!");
     EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"),
-              (Names{u"Animate1.class", u"CoolTool3.class", u"a.gif", u"b.gif"}));
+              (Texts{u"Animate1.class", u"CoolTool3.class", u"a.gif", u"b.gif"}));
     EXPECT_NE(WordsOf(*m_form, "lblReport").find(u"ovtemp.html, a.gif, b.gif, Animate1.class"),
               Text::npos);
     EXPECT_FALSE(IsShown("cmdOpenPage"));
     Click(*m_form, "cmdOpenFolder");
-    EXPECT_EQ(m_desk.Shell.Opened, Names{u"/web/"});
+    EXPECT_EQ(m_desk.Shell.Opened, Texts{u"/web/"});
 }
 
 TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
@@ -125,7 +121,7 @@ TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
                  "fileCopyTo", "cmdNewFolder", "lstMissingFiles", "cmdManualCopy",
                  "cmdDoneCopying"});
     ExpectAccessible(*m_form);
-    EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Names{u"b.gif"});
+    EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Texts{u"b.gif"});
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdManualCopy")->isDefault());
 
     Find<QListWidget>(*m_form, "fileCopyFrom")->selectAll();
@@ -135,7 +131,7 @@ TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
     EXPECT_EQ(Bytes(u"/site/b.gif"), "found");
     EXPECT_TRUE(RowsOf(*m_form, "lstMissingFiles").empty());
     EXPECT_EQ(RowsOf(*m_form, "fileCopyTo"),
-              (Names{u"a.gif", u"Animate1.class", u"b.gif", u"c.gif", u"ovtemp.html"}));
+              (Texts{u"a.gif", u"Animate1.class", u"b.gif", u"c.gif", u"ovtemp.html"}));
     EXPECT_EQ(Focused(), u"cmdDoneCopying");
 
     Click(*m_form, "cmdDoneCopying");
@@ -167,7 +163,7 @@ TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
                  "picCopyThenPreview", "cmdManualCopyForPreview", "cmdPreviewAfterCopying"});
     ExpectAccessible(*m_form);
     EXPECT_TRUE(m_desk.Pane.Navigated.empty());
-    EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Names{u"b.gif"});
+    EXPECT_EQ(RowsOf(*m_form, "lstMissingFiles"), Texts{u"b.gif"});
 
     DoubleClickName("dirCopyFrom", u"pics");
     ClickName("fileCopyFrom", u"b.gif");
@@ -177,7 +173,7 @@ TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
 
     PressEnter();
     EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
-    EXPECT_EQ(m_desk.Pane.Navigated, Names{u"/program/ov-prvw.htm"});
+    EXPECT_EQ(m_desk.Pane.Navigated, Texts{u"/program/ov-prvw.htm"});
     PressEnter();
     EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
     EXPECT_TRUE(IsShown("cmdPrevious"));
@@ -187,12 +183,12 @@ TEST_F(PublishPanelTest, GoesToTheFolderThatTheAuthorMade)
 {
     OpenPublishPage();
     Click(*m_form, "cmdNewFolder");
-    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program"}));
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"program"}));
     m_desk.Files.Folders.insert(u"/program/new");
     m_newFolder = u"/program/new";
     Click(*m_form, "cmdNewFolder");
-    EXPECT_EQ(m_askedFor, (Names{u"/program", u"/program"}));
-    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program", u"new"}));
+    EXPECT_EQ(m_askedFor, (Texts{u"/program", u"/program"}));
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"program", u"new"}));
     Click(*m_form, "cmdCopyFiles");
     EXPECT_EQ(Bytes(u"/program/new/a.gif"), "a");
 
@@ -200,7 +196,7 @@ TEST_F(PublishPanelTest, GoesToTheFolderThatTheAuthorMade)
     Click(*m_form, "cmdPrevious");
     DoubleClickName("dirCopyTo", u"/");
     Click(*m_form, "cmdLastFolder");
-    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"program", u"new"}));
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"program", u"new"}));
 }
 
 TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolder)
@@ -212,10 +208,10 @@ TEST_F(PublishPanelTest, ANewPageWithFilesMissingLeadsToThePublishPageOfItsFolde
     m_desk.Dialogs.AnswerSaveFile(u"/site/index.html");
     Click(*m_form, "cmdSaveWebPage");
     EXPECT_EQ(Heading(), u"Step 4: Publish required files to local hard drive");
-    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Names{u"/", u"site"}));
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"site"}));
     EXPECT_TRUE(IsShown("cmdCopyFiles"));
     EXPECT_EQ(Focused(), u"cmdCopyFiles");
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -36,7 +36,7 @@ TEST(RecentServersTest, StoresAnEmptyNameOnlyWhenNoSlotIsEmpty)
 {
     FakeSettings settings;
     PutRecentFTP(settings, u"", u"nobody");
-    EXPECT_EQ(settings.Writes, std::vector<Text>());
+    EXPECT_EQ(settings.Writes, Texts());
     for (TextView name : {u"a", u"b", u"c", u"d", u"e"})
         PutRecentFTP(settings, name, u"");
     PutRecentFTP(settings, u"", u"nobody");

@@ -29,8 +29,6 @@ Text OverwriteQuestion(TextView name)
     return Join({name, u" already exists in this folder.  Do you wish to overwrite?"});
 }
 
-using Names = std::vector<Text>;
-
 /// An effect with two pictures of the author and two class files, on a disk that holds them.
 class RequiredFilesTest : public ::testing::Test
 {
@@ -74,8 +72,8 @@ TEST_F(RequiredFilesTest, ANameWithoutKnownSourceIsMissingAndNeverAskedFor)
     EXPECT_EQ(disk.Contents[u"/site/a.gif"], "old");
     EXPECT_EQ(disk.Contents[u"/site/Y.class"], "Y");
     EXPECT_EQ(report.Lines(),
-              (Names{u"Copied to /site/: b.gif, X.class, Y.class", u"Missing in /site/: a.gif"}));
-    EXPECT_EQ(dialogs.Said, Names{Text(notAllCopied)});
+              (Texts{u"Copied to /site/: b.gif, X.class, Y.class", u"Missing in /site/: a.gif"}));
+    EXPECT_EQ(dialogs.Said, Texts{Text(notAllCopied)});
     EXPECT_EQ(dialogs.LastTone, Tone::Exclamation);
 }
 
@@ -89,8 +87,8 @@ TEST_F(RequiredFilesTest, AsksBeforeEachPictureThatItWouldOverwriteButNotForClas
     EXPECT_EQ(disk.Contents[u"/site/a.gif"], "old");
     EXPECT_EQ(disk.Contents[u"/site/b.gif"], "b");
     EXPECT_EQ(disk.Contents[u"/site/X.class"], "X");
-    EXPECT_EQ(report.Lines(), Names{u"Copied to /site/: b.gif, X.class, Y.class"});
-    EXPECT_EQ(dialogs.Said, Names{Text(allCopied)});
+    EXPECT_EQ(report.Lines(), Texts{u"Copied to /site/: b.gif, X.class, Y.class"});
+    EXPECT_EQ(dialogs.Said, Texts{Text(allCopied)});
     EXPECT_EQ(dialogs.LastTone, Tone::Plain);
 }
 
@@ -110,11 +108,11 @@ TEST_F(RequiredFilesTest, AsksNothingForASourceThatShouldLieInPlaceWhateverItsCa
 TEST_F(RequiredFilesTest, LeavesTheClassFilesOfTheProgramsFolderAlone)
 {
     EXPECT_EQ(Copy(u"/program/"), MissingFiles());
-    EXPECT_EQ(disk.Writes, (Names{u"/program/a.gif", u"/program/b.gif"}));
+    EXPECT_EQ(disk.Writes, (Texts{u"/program/a.gif", u"/program/b.gif"}));
     disk.Writes.clear();
     EXPECT_EQ(Copy(), MissingFiles());
     EXPECT_EQ(disk.Writes,
-              (Names{u"/site/a.gif", u"/site/b.gif", u"/site/X.class", u"/site/Y.class"}));
+              (Texts{u"/site/a.gif", u"/site/b.gif", u"/site/X.class", u"/site/Y.class"}));
     for (const TextView folder : {u"/Program/", u""}) {
         disk.Writes.clear();
         Copy(folder);
@@ -138,7 +136,7 @@ TEST_F(RequiredFilesTest, AFaultOfOneFileMakesItMissingAndAnyOtherEndsTheCopying
     ASSERT_NE(FaultIn(outcome), nullptr);
     EXPECT_EQ(*FaultIn(outcome), Fault::DiskFull);
     EXPECT_FALSE(disk.FileExists(u"/site/X.class"));
-    EXPECT_EQ(dialogs.Said, Names());
+    EXPECT_EQ(dialogs.Said, Texts());
 }
 
 TEST_F(RequiredFilesTest, AnAuthorWhoEndsTheCopyingKeepsWhatIsThereAndIsToldTheRest)
@@ -148,15 +146,15 @@ TEST_F(RequiredFilesTest, AnAuthorWhoEndsTheCopyingKeepsWhatIsThereAndIsToldTheR
     Require(10, u"c.gif", u"/pics/b.gif");
     dialogs.WorkGoesOn = 1;
     EXPECT_EQ(CopyRequiredFiles(Desk(), u"/site/"), Outcome<MissingFiles>(Fault::Cancelled));
-    EXPECT_EQ(dialogs.TakeSaid(), Names{u"You ended the copying.  These files were not copied to "
+    EXPECT_EQ(dialogs.TakeSaid(), Texts{u"You ended the copying.  These files were not copied to "
                                         u"the /site/ folder: c.gif, X.class, Y.class"});
     EXPECT_EQ(report.Lines(),
-              (Names{u"Copied to /site/: a.gif", u"Missing in /site/: c.gif, X.class, Y.class"}));
+              (Texts{u"Copied to /site/: a.gif", u"Missing in /site/: c.gif, X.class, Y.class"}));
     EXPECT_EQ(disk.Contents[u"/site/b.gif"], "old") << "nobody asks about it any more";
     EXPECT_EQ(disk.Contents[u"/site/X.class"], "old");
 
     EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles()) << "seen without its pictures";
-    EXPECT_EQ(dialogs.Said, Names());
+    EXPECT_EQ(dialogs.Said, Texts());
 }
 
 TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItAlone)
@@ -184,9 +182,9 @@ TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItA
             dialogs.ExpectAsk(OverwriteQuestion(u"orvane.js"), *test.Answer);
         EXPECT_EQ(Copy(), MissingFiles());
         EXPECT_EQ(disk.Contents[u"/site/orvane.js"], test.Left);
-        EXPECT_EQ(dialogs.TakeSaid(), Names{Text(allCopied)});
+        EXPECT_EQ(dialogs.TakeSaid(), Texts{Text(allCopied)});
     }
-    EXPECT_EQ(FilesToUpload(payload), Names{u"orvane.js"});
+    EXPECT_EQ(FilesToUpload(payload), Texts{u"orvane.js"});
     payload.RunsToday = false;
     disk.Contents.erase(u"/site/orvane.js");
     Copy();
@@ -213,11 +211,11 @@ TEST_F(RequiredFilesTest, BringsToThePreviewWithoutAWordWhatDoesNotLieThereInAny
 {
     disk.Contents[u"/program/A.GIF"] = "there";
     EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
-    EXPECT_EQ(disk.Writes, Names{u"/program/b.gif"});
+    EXPECT_EQ(disk.Writes, Texts{u"/program/b.gif"});
     Require(50, u"b.gif", u"/program/b.gif");
     EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
     EXPECT_EQ(disk.Writes.size(), 1u);
-    EXPECT_EQ(dialogs.Said, Names());
+    EXPECT_EQ(dialogs.Said, Texts());
     EXPECT_EQ(report.Folder(), u"") << "nothing is delivered by that";
 }
 
@@ -227,7 +225,7 @@ TEST_F(RequiredFilesTest, TellsWhichFilesThePreviewLacks)
     Require(2, u"d.gif", u"/gone/d.gif");
     EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), (MissingFiles{u"c.gif", u"d.gif"}));
     EXPECT_EQ(disk.Contents[u"/program/b.gif"], "b");
-    EXPECT_EQ(dialogs.Said, Names{Text(noPreview)});
+    EXPECT_EQ(dialogs.Said, Texts{Text(noPreview)});
     EXPECT_EQ(dialogs.LastTone, Tone::Exclamation);
 }
 

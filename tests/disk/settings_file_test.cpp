@@ -10,10 +10,8 @@
 #include <filesystem>
 #include <thread>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::FakeFileStore;
 
 constexpr TextView orvane = u"Orvane";
 
@@ -56,7 +54,7 @@ TEST(SettingsFileTest, UnreadableFileIsNeverWrittenOver)
 
 TEST(SettingsFileTest, TwoProgramsThatStoreAtTheSameTimeKeepBoth)
 {
-    const testing::TestFolder folder;
+    const TestFolder folder;
     const auto store = [&](TextView section) {
         PosixCalls calls;
         DiskFileStore files(calls, u"");
@@ -106,4 +104,4 @@ TEST(ProgramFolderTest, InstallsAFileOnlyWhenItDiffers)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

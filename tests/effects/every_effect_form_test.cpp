@@ -11,10 +11,8 @@
 #include <QRadioButton>
 #include <QSlider>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 constexpr TextView oddText = u"a \"b\" 'c' «Id» \\ é☃";
 
@@ -55,7 +53,7 @@ void Change(QWidget& window, FieldName name, Choice& value)
     value = static_cast<Choice>(last);
 }
 
-void Change(QWidget&, FieldName, std::vector<Text>& value)
+void Change(QWidget&, FieldName, Texts& value)
 {
     value = {Text(oddText), u"two\r\nlines"};
 }
@@ -169,4 +167,4 @@ TYPED_TEST(EveryEffectTest, CancelledWorkIsOfferedAndTakenUpByTheNextWindow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

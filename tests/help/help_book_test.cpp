@@ -9,7 +9,7 @@
 #include <iterator>
 #include <set>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 std::vector<int> NumbersOf(const std::vector<const HelpTopic*>& topics)
@@ -87,4 +87,4 @@ TEST(DeliveredHelpTest, BeginsWithTheContentsAndHoldsOnceEveryTopicThatAWindowAs
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -17,10 +17,8 @@
 #include <QTextDocument>
 #include <QWindow>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class HelpFormTest : public ::testing::Test
 {
@@ -38,7 +36,7 @@ protected:
         return Find<TopicBrowser>(m_form, "txtTopic")->toPlainText().trimmed().toStdString();
     }
 
-    std::vector<Text> Listed() { return RowsOf(m_form, "lstContents"); }
+    Texts Listed() { return RowsOf(m_form, "lstContents"); }
 
     std::string Marked()
     {
@@ -81,10 +79,10 @@ TEST_F(HelpFormTest, WalksThroughTopicsAndHandsLinksToTheWebOver)
     FollowLink("topic:7");
     ExpectAccessible(m_form);
     EXPECT_EQ(Shown(), "A <B>\nSeven");
-    EXPECT_EQ(Listed(), (std::vector<Text>{u"Contents", u"A <B>", u"Ticker"}));
+    EXPECT_EQ(Listed(), (Texts{u"Contents", u"A <B>", u"Ticker"}));
     FollowLink("http://www.varlo.example/orvane/");
     FollowLink("file:///etc/passwd");
-    EXPECT_EQ(m_shell.Opened, std::vector<Text>{u"http://www.varlo.example/orvane/"});
+    EXPECT_EQ(m_shell.Opened, Texts{u"http://www.varlo.example/orvane/"});
     Find<QListWidget>(m_form, "lstContents")->setCurrentRow(2);
     Click(m_form, "cmdBack");
     EXPECT_EQ(Marked(), "A <B>");
@@ -98,14 +96,14 @@ TEST_F(HelpFormTest, SearchListsTheHitsAndEnterOpensTheFirst)
 {
     m_form.ShowTopic(0);
     Type(m_form, "txtSearch", u"NINE");
-    EXPECT_EQ(Listed(), std::vector<Text>{u"Ticker"});
+    EXPECT_EQ(Listed(), Texts{u"Ticker"});
     EXPECT_EQ(Marked(), "");
     Press(*Find<QLineEdit>(m_form, "txtSearch"), Qt::Key_Return);
     EXPECT_EQ(Shown(), "Ticker\nNine");
     EXPECT_TRUE(m_form.isVisible());
 
     Type(m_form, "txtSearch", u" moon");
-    EXPECT_EQ(Listed(), std::vector<Text>{u"Nothing found"});
+    EXPECT_EQ(Listed(), Texts{u"Nothing found"});
     Press(*Find<QLineEdit>(m_form, "txtSearch"), Qt::Key_Return);
     Click(m_form, "cmdContents");
     EXPECT_EQ(Listed().size(), 3u);
@@ -223,4 +221,4 @@ TEST(DeliveredHelpFormTest, HasATopicForEveryWizardAndPromisesToReEditWhatOneTak
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -1,12 +1,8 @@
 #include "effects/text/status_bar_ticker.h"
 #include "tests/support/qt_delivery.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
-
-using Names = std::vector<Text>;
 
 const std::string oldPage = "<html><head>\n</head><body>Hello</body></html>";
 
@@ -41,7 +37,7 @@ TEST_F(AutoInsertFormTest, ATypedPageGetsTheEffectAndEndsTheWizardThoughAFileIsM
     m_desk.Files.Folders = {u"/gone"};
     m_desk.Files.Contents[u"/program/a.gif"] = "shown by the preview";
     Insert();
-    const Names said = m_desk.Dialogs.TakeSaid();
+    const Texts said = m_desk.Dialogs.TakeSaid();
     ASSERT_EQ(said.size(), 1u);
     EXPECT_TRUE(said[0].starts_with(u"Orvane couldn't copy all the necessary files"));
     EXPECT_EQ(Heading(), u"Finished!");
@@ -74,4 +70,4 @@ TEST_F(AutoInsertFormTest, WhatCannotBeDoneAloneLeadsToTheCodeForTheHead)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -8,11 +8,8 @@
 
 #include <utility>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::FakeDialogs;
-using testing::FakeFileStore;
 
 const Text pagePath = u"/home/jo/site/index.html";
 const Text backupPath = u"/home/jo/site/Backup of index.html";
@@ -55,7 +52,7 @@ protected:
     /// The author was told these words and no others.
     void ExpectSaid(TextView words)
     {
-        EXPECT_EQ(m_dialogs.TakeSaid(), std::vector<Text>{Text(words)});
+        EXPECT_EQ(m_dialogs.TakeSaid(), Texts{Text(words)});
         EXPECT_EQ(m_dialogs.LastTone, Tone::Plain);
     }
 
@@ -69,7 +66,7 @@ TEST_F(AutoInsertTest, BacksThePageUpBeforeItWritesIt)
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     EXPECT_EQ(Bytes(pagePath), newBytes);
     EXPECT_EQ(Bytes(backupPath), oldBytes);
-    EXPECT_EQ(m_files.Writes, (std::vector<Text>{backupPath, keptPath, pagePath}));
+    EXPECT_EQ(m_files.Writes, (Texts{backupPath, keptPath, pagePath}));
     EXPECT_TRUE(m_dialogs.Said.empty());
 }
 
@@ -112,7 +109,7 @@ TEST_F(AutoInsertTest, TellsWhichLinesToAddWhenThePageHasNoPlaceForThePageScript
     m_payload.RunsToday = true;
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     EXPECT_EQ(Bytes(pagePath), "<body><\r\n<!--B-->h<!--E-->\r\n</body>");
-    const std::vector<Text> said = m_dialogs.TakeSaid();
+    const Texts said = m_dialogs.TakeSaid();
     ASSERT_EQ(said.size(), 1u);
     EXPECT_TRUE(said[0].find(u"\r\n<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n") != Text::npos);
 }
@@ -208,7 +205,7 @@ protected:
                           {Folder.TextAt("state"), kept.Day});
     }
 
-    testing::TestFolder Folder;
+    TestFolder Folder;
 
 private:
     PosixCalls m_calls;
@@ -273,4 +270,4 @@ TEST(PagePathTest, NeedsANameAndStartsInTheCurrentFolderUnlessItIsFull)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -6,10 +6,8 @@
 
 #include <vector>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectSameBytes;
 
 /// A page, what becomes of it, and the author's answers in order, of which every one must be asked
 /// for. «h» and «b» stand for the code put into head and body, on lines of its own.
@@ -256,4 +254,4 @@ TEST(PageEditEncodingTest, KeepsToUtf8AfterItDoubledHalfACharacter)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

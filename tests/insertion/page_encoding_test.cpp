@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 constexpr auto utf8 = PageEncoding::Utf8;
@@ -123,4 +123,4 @@ TEST(EncodeForAttributeTest, NeverWritesAScriptEscape)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

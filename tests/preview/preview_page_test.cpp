@@ -7,12 +7,8 @@
 
 #include <tuple>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
-using testing::FakeDesk;
 
 FinishedPayload PlainPayload(int kind)
 {
@@ -66,7 +62,7 @@ TEST_F(BrowserLaunchTest, OpensThePageWithTheDesktopUnlessOverridden)
 {
     m_desk.Shell.Browser = u"/usr/bin/browser";
     EXPECT_FALSE(Launch());
-    EXPECT_EQ(m_desk.Shell.Opened, std::vector<Text>{m_page});
+    EXPECT_EQ(m_desk.Shell.Opened, Texts{m_page});
     EXPECT_EQ(StoredBrowser(), u"/usr/bin/browser");
     EXPECT_TRUE(m_desk.Files.Contents.contains(m_page));
     EXPECT_TRUE(m_desk.Pane.IsFileLeft);
@@ -86,9 +82,8 @@ TEST_F(BrowserLaunchTest, AsksForABrowserWhenTheDesktopTellsNone)
 {
     m_desk.Dialogs.AnswerOpenFile(u"/opt/b");
     EXPECT_FALSE(Launch());
-    EXPECT_EQ(m_desk.Dialogs.Said,
-              std::vector<Text>{u"Browser statement not found in Windows Registry.\r\n"
-                                u"Select the file/path of the browser you wish to use."});
+    EXPECT_EQ(m_desk.Dialogs.Said, Texts{u"Browser statement not found in Windows Registry.\r\n"
+                                         u"Select the file/path of the browser you wish to use."});
     EXPECT_EQ(m_desk.Dialogs.Requests.at(0).Title, u"Select Browser...");
     EXPECT_EQ(m_desk.Dialogs.Requests.at(0).FilterIndex, 2);
     EXPECT_EQ(StoredBrowser(), u"/opt/b");
@@ -116,8 +111,8 @@ TEST_F(BrowserLaunchTest, SaysWhyThePreviewPageCannotBeWritten)
     EXPECT_FALSE(Launch());
     EXPECT_FALSE(LinkToBrowser(m_desk.Bench, {}, PreviewMode::Inline));
     EXPECT_EQ(m_desk.Dialogs.Said,
-              (std::vector<Text>{u"Disk full", u"There is no code in the preview window.  Cannot "
-                                               u"preview the special effect."}));
+              (Texts{u"Disk full", u"There is no code in the preview window.  Cannot "
+                                   u"preview the special effect."}));
     EXPECT_TRUE(m_desk.Shell.Opened.empty());
 }
 
@@ -144,4 +139,4 @@ TEST(PreviewNoteTest, SaysWhatThePaneCannotShowAndWhatIsMissing)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -28,7 +28,7 @@ TEST(QtPreviewPaneFormTest, PointsToTheAuthorsBrowserWhereTheWebViewIsMissing)
               u"that it needs is missing.\n\n"
               u"You can preview the special effect in your own Web browser instead.");
     EXPECT_FALSE(Find<QWidget>(pane, "cmdTryAgain")->isVisible());
-    EXPECT_EQ(desk.Files.Writes, std::vector<Text>{path});
+    EXPECT_EQ(desk.Files.Writes, Texts{path});
     EXPECT_FALSE(desk.Files.Contents.contains(path));
     ExpectAccessible(pane);
     desk.Files.FailOn(path, Fault::DiskFull);

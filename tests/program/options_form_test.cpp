@@ -11,10 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class OptionsFormTest : public ::testing::Test
 {
@@ -49,10 +47,9 @@ TEST_F(OptionsFormTest, OverrideUnlocksAnEmptyFieldThatMustBeFilled)
     EXPECT_TRUE(IsBrowserOpen());
     EXPECT_EQ(WordsOf(*m_form, "txtBrowser"), u"");
     Click(*m_form, "cmdOK");
-    EXPECT_EQ(
-        m_desk.Dialogs.Said,
-        std::vector<Text>{u"If you are overriding the default broswer, you must enter the path "
-                          u"and filename of a different browser in the Browser input box."});
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              Texts{u"If you are overriding the default broswer, you must enter the path "
+                    u"and filename of a different browser in the Browser input box."});
     EXPECT_TRUE(m_desk.Settings.Writes.empty());
 
     Click(*m_form, "chkOverride");
@@ -112,12 +109,12 @@ TEST(PreferencesTest, AreStoredInOrderUnderTheirKeys)
     SavePreferences({.chkOverride = true, .txtDefaultPath = u"/p", .cboWebPageEditor = u"Mine"},
                     desk.Core, desk.Settings);
     EXPECT_EQ(desk.Settings.Writes,
-              (std::vector<Text>{u"Apps/Browser", u"Apps/Override", u"Misc/UnlockInputBoxes",
-                                 u"Misc/HTMLEditor", u"Misc/DefaultPath"}));
-    std::vector<Text> values;
+              (Texts{u"Apps/Browser", u"Apps/Override", u"Misc/UnlockInputBoxes",
+                     u"Misc/HTMLEditor", u"Misc/DefaultPath"}));
+    Texts values;
     for (const auto& [key, value] : desk.Settings.Stored)
         values.push_back(value);
-    EXPECT_EQ(values, (std::vector<Text>{u"default browser", u"1", u"/p", u"Mine", u"0"}));
+    EXPECT_EQ(values, (Texts{u"default browser", u"1", u"/p", u"Mine", u"0"}));
     EXPECT_EQ(desk.Core.DefaultPath, u"/p");
 
     SavePreferences({.txtDefaultPath = u""}, desk.Core, desk.Settings);
@@ -131,10 +128,10 @@ TEST(AboutFormTest, TellsTheVersionAndOpensTheMakersSite)
     about.show();
     EXPECT_EQ(WordsOf(about, "lblVersionInfo"), u"Version 1.2.3 for Windows 95/98/NT/ME/2000/XP");
     emit Find<QLabel>(about, "lblLink")->linkActivated({});
-    EXPECT_EQ(desk.Shell.Opened, std::vector<Text>{u"http://www.varlo.example"});
+    EXPECT_EQ(desk.Shell.Opened, Texts{u"http://www.varlo.example"});
     Click(about, "cmdOK");
     EXPECT_FALSE(about.isVisible());
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -15,10 +15,8 @@
 #include <QToolButton>
 #include <QToolTip>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class OVMainFormTest : public ::testing::Test
 {
@@ -231,7 +229,7 @@ TEST_F(OVMainFormTest, UpdateCheckAsksFirstAndSendsTheTrimmedVersion)
     m_desk.Dialogs.ExpectAsk(question, true);
     Command("mnuCheckForUpdate")->trigger();
     EXPECT_EQ(m_desk.Shell.Opened,
-              std::vector<Text>{u"http://www.varlo.example/updatecheck.asp?prog=OV&ver=1.2.3"});
+              Texts{u"http://www.varlo.example/updatecheck.asp?prog=OV&ver=1.2.3"});
 }
 
 TEST_F(OVMainFormTest, HelpBeginsWithTheContentsOrWithThisWindow)
@@ -242,4 +240,4 @@ TEST_F(OVMainFormTest, HelpBeginsWithTheContentsOrWithThisWindow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::FakeDesk;
 
 TEST(StartUpTest, LooksAtOneCharacterOfTheBrowserVersionOnly)
 {
@@ -37,10 +35,9 @@ TEST(StartUpTest, FailedGateOffersTheDownloadOrGoesOnWithAWarning)
     desk.Dialogs.ExpectAsk(Text(gateQuestion), false);
     EXPECT_EQ(StartUp(desk.Bench), FirstWindow::OVMain);
     EXPECT_EQ(desk.Dialogs.Said,
-              std::vector<Text>{
-                  u"You can attempt to use Orvane without having Internet Explorer 4 or above "
-                  u"installed on your computer, but it may not work correctly."});
+              Texts{u"You can attempt to use Orvane without having Internet Explorer 4 or above "
+                    u"installed on your computer, but it may not work correctly."});
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

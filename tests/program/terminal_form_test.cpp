@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 /// What reaches the terminal when a library complains.
@@ -26,4 +26,4 @@ TEST(TerminalTest, HearsOfTheEnginesOnlyWhenItAsks)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

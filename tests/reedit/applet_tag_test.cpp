@@ -6,7 +6,7 @@
 
 #include <utility>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 using Way = AppletDispatch::Way;
@@ -64,4 +64,4 @@ TEST(PipeParseTest, CutsAtTheBarsAndOffTheLastCharacter)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

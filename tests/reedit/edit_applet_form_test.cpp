@@ -3,18 +3,15 @@
 #include "effects/applet/advanced_animator_form.h"
 #include "program/form_desk.h"
 #include "program/ov_main_form.h"
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 #include "windows/multi_line_box.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 void Paste(EditAppletForm& form, const char* tag)
 {
@@ -22,19 +19,14 @@ void Paste(EditAppletForm& form, const char* tag)
     Find<MultiLineBox>(form, "Text1")->paste();
 }
 
-class EditAppletFormTest : public ::testing::Test
+class EditAppletFormTest : public FormTest<EditAppletForm>
 {
 protected:
-    EditAppletFormTest() { m_form.show(); }
-
     void Edit(const char* tag)
     {
         Paste(m_form, tag);
         Click(m_form, "cmdEdit");
     }
-
-    FakeDesk m_desk;
-    EditAppletForm m_form{m_desk.Bench};
 };
 
 TEST_F(EditAppletFormTest, AKnownAppletClosesTheWindowWithItsEffect)
@@ -55,10 +47,9 @@ TEST_F(EditAppletFormTest, AnUnknownTagIsRefused)
     EXPECT_FALSE(m_form.isVisible());
     EXPECT_EQ(m_form.Wanted(), EffectKind::None);
     EXPECT_EQ(m_desk.Dialogs.Said,
-              std::vector<Text>{
-                  u"Orvane does not recognize this special effect.  It cannot re-edit the Status "
-                  u"bar scrolling text special effect or the Fading background color special "
-                  u"effect."});
+              Texts{u"Orvane does not recognize this special effect.  It cannot re-edit the Status "
+                    u"bar scrolling text special effect or the Fading background color special "
+                    u"effect."});
     EXPECT_TRUE(m_desk.Core.EditMode);
 }
 
@@ -84,9 +75,8 @@ TEST_F(EditAppletFormTest, ATagThatIsTooLargeIsRefused)
 {
     Paste(m_form, std::string(5 * 1024 * 1024, 'x').c_str());
     EXPECT_EQ(m_desk.Dialogs.Said,
-              std::vector<Text>{
-                  u"The pasted text is larger than 4 MB.  Please paste the code of the applet "
-                  u"alone, from the \"<APPLET>\" tag to the \"</APPLET>\" tag."});
+              Texts{u"The pasted text is larger than 4 MB.  Please paste the code of the applet "
+                    u"alone, from the \"<APPLET>\" tag to the \"</APPLET>\" tag."});
     EXPECT_EQ(WordsOf(m_form, "Text1"), u"");
 }
 
@@ -129,4 +119,4 @@ TEST(EditAppletRoadTest, AnAppletWithoutAWizardOpensNothing)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

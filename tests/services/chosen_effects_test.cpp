@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 std::vector<std::string> TitlesOf(const EffectRows& effects)
@@ -17,7 +17,7 @@ std::vector<std::string> TitlesOf(const EffectRows& effects)
 
 TEST(ChosenEffectsTest, KeepTheLastTenInFront)
 {
-    testing::FakeSettings settings;
+    FakeSettings settings;
     for (int kind = 1; kind <= 13; ++kind)
         RememberEffect(settings, static_cast<EffectKind>(kind));
     RememberEffect(settings, EffectKind::StatusBarTicker);
@@ -29,7 +29,7 @@ TEST(ChosenEffectsTest, KeepTheLastTenInFront)
 
 TEST(ChosenEffectsTest, FavoritesComeAndGoAndUnknownNamesArePassedOver)
 {
-    testing::FakeSettings settings;
+    FakeSettings settings;
     settings.Stored[{u"Orvane", u"Catalogue", u"Favorites"}] = u"  mnuGone mnuClock mnuClock ";
     ToggleFavorite(settings, *FindRow(EffectKind::Tooltips));
     EXPECT_EQ(TitlesOf(FavoriteEffects(settings)),
@@ -39,4 +39,4 @@ TEST(ChosenEffectsTest, FavoritesComeAndGoAndUnknownNamesArePassedOver)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

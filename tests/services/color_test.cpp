@@ -3,10 +3,8 @@
 #include "tests/support/doubles.h"
 #include "tests/support/expect_text.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::FakeDialogs;
 
 using Channels = std::array<int, 3>; ///< red, green, blue
 
@@ -99,4 +97,4 @@ TEST(ColorTest, PacksATextForTheScreen)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

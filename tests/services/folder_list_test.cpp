@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class FolderListTest : public ::testing::Test
 {
@@ -46,12 +44,12 @@ TEST_F(FolderListTest, GivesNothingForAFolderThatCannotBeShown)
 TEST_F(FolderListTest, ListsTheFilesThatFitTheMasksIgnoringCase)
 {
     EXPECT_EQ(ListFiles(m_files, u"/home/me", u"*.jpg;*.gif"),
-              (std::vector<Text>{u"A.jpg", u"b.GIF", u"my pic.Jpg"}));
+              (Texts{u"A.jpg", u"b.GIF", u"my pic.Jpg"}));
 }
 
 TEST_F(FolderListTest, DriveIsTheLongestOneThatHoldsTheFolder)
 {
-    const std::vector<Text> drives = {u"/", u"/media/usb", u"/media"};
+    const Texts drives = {u"/", u"/media/usb", u"/media"};
     EXPECT_EQ(DriveOf(drives, u"/media/usb"), 1u);
     EXPECT_EQ(DriveOf(drives, u"/media/usb/x"), 1u);
     EXPECT_EQ(DriveOf(drives, u"/media/usb2"), 2u);
@@ -60,4 +58,4 @@ TEST_F(FolderListTest, DriveIsTheLongestOneThatHoldsTheFolder)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

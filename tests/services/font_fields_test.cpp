@@ -2,10 +2,8 @@
 
 #include "tests/support/doubles.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::FakeDialogs;
 
 TEST(FontFieldsTest, StyleGoesIntoTheFontDialogAndComesOut)
 {
@@ -29,4 +27,4 @@ TEST(FontFieldsTest, CancelLeavesEvenAStyleThatTheDialogDoesNotKnow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

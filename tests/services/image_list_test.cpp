@@ -7,10 +7,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 ImageList ListOf(std::initializer_list<TextView> names, std::optional<std::size_t> selected)
 {
@@ -25,7 +23,7 @@ std::optional<Complaint> Add(ImageList& list, OrvaneCore& core, TextView folder,
     return AddImageToList(list, core, PlaceToAdd(list), folder, name);
 }
 
-std::string Names(const ImageList& list)
+std::string NamesIn(const ImageList& list)
 {
     Text names;
     for (const ImageRow& row : list.Rows)
@@ -44,7 +42,7 @@ TEST(ImageListTest, NewImageGoesInFrontOfTheSelectedOneOrToTheEnd)
         OrvaneCore core;
         ImageList list = ListOf({u"a", u"b", u"c"}, selected);
         EXPECT_EQ(Add(list, core, u"/x", u"new"), std::nullopt);
-        EXPECT_EQ(Names(list), order);
+        EXPECT_EQ(NamesIn(list), order);
         EXPECT_EQ(list.Selected, selectedAfter);
     }
 }
@@ -102,7 +100,7 @@ TEST(ImageListTest, DraggedRowStandsWhereItWasDropped)
     for (const auto& [from, to, order] : cases) {
         ImageList list = ListOf({u"a", u"b", u"c", u"d"}, from);
         MoveSelectedTo(list, to);
-        EXPECT_EQ(Names(list), order);
+        EXPECT_EQ(NamesIn(list), order);
         EXPECT_EQ(list.Selected, to);
     }
 }
@@ -132,4 +130,4 @@ TEST(ImageListTest, SizeFieldsGrowToTheLargestPictureAndNeverShrink)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

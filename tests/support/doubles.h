@@ -15,6 +15,9 @@
 
 namespace orvane::testing {
 
+/// Messages, paths or names, in order.
+using Texts = std::vector<Text>;
+
 /// Dialogs that give prepared answers and record what was asked. A question or dialog without a
 /// prepared answer fails the test at once, an answer that was not used fails it at the end.
 class FakeDialogs : public Dialogs
@@ -29,10 +32,10 @@ public:
     {
         m_questions.push_back({std::move(words), answer});
     }
-    std::vector<Text> Said; ///< the words of every Say(), in order
+    Texts Said; ///< the words of every Say(), in order
 
     /// What was said since the last call; empties `Said`.
-    std::vector<Text> TakeSaid() { return std::exchange(Said, {}); }
+    Texts TakeSaid() { return std::exchange(Said, {}); }
 
     /// These prepare the answer to the next dialog of their kind; nothing is Cancel.
     void AnswerOpenFile(std::optional<Text> path) { m_openFiles.push_back(std::move(path)); }
@@ -42,8 +45,8 @@ public:
     void AnswerFont(const FontChoice& font) { m_fonts.push_back(font); }
     void AnswerBox(const PageBoxReply& reply) { m_boxes.push_back(reply); }
 
-    std::vector<Text> Asked;            ///< the words of every question
-    std::vector<Text> Titles;           ///< the titles of every question
+    Texts Asked;                        ///< the words of every question
+    Texts Titles;                       ///< the titles of every question
     std::vector<FileRequest> Requests;  ///< of every file dialog
     std::vector<FontChoice> FontStarts; ///< of every font dialog
     std::vector<PageBox> Boxes;         ///< of every page box
@@ -86,9 +89,9 @@ class FakeFileStore : public FileStore
 public:
     std::map<Text, std::string> Contents;
     std::set<Text> Folders;
-    std::vector<Text> Writes;        ///< every path that was to be written, in order, failed or not
-    std::vector<Text> Removals;      ///< every path that was to be removed, in order
-    mutable std::vector<Text> Reads; ///< every path that was to be read, in order
+    Texts Writes;        ///< every path that was to be written, in order, failed or not
+    Texts Removals;      ///< every path that was to be removed, in order
+    mutable Texts Reads; ///< every path that was to be read, in order
 
     /// Makes the call with this number fail with this fault. Counted from 1 are reads, writes,
     /// removals, MakeFolder() and SubFolders(); a Copy() is a read and a write.
@@ -114,8 +117,8 @@ public:
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;
     std::shared_ptr<const void> Hold(TextView) override { return nullptr; }
-    std::vector<Text> Files(TextView folder) const override;
-    Outcome<std::vector<Text>> SubFolders(TextView folder) const override;
+    Texts Files(TextView folder) const override;
+    Outcome<Texts> SubFolders(TextView folder) const override;
     bool FolderExists(TextView path) const override { return Folders.contains(Text(path)); }
 
 private:
@@ -132,7 +135,7 @@ class FakeSettings : public Settings
 {
 public:
     std::map<std::tuple<Text, Text, Text>, Text> Stored; ///< by application, section, key
-    std::vector<Text> Writes;                            ///< "section/key" of every Put()
+    Texts Writes;                                        ///< "section/key" of every Put()
 
     Text Get(TextView section, TextView key, TextView otherwise,
              TextView application) const override;
@@ -143,7 +146,7 @@ public:
 class FakeShell : public Shell
 {
 public:
-    std::vector<Text> Opened;
+    Texts Opened;
     std::vector<std::pair<Text, Text>> Started;
     bool Starts = true;          ///< what Start() gives
     std::optional<Text> Browser; ///< what DefaultBrowser() gives
@@ -169,7 +172,7 @@ public:
 class FakePreviewPane : public PreviewPane
 {
 public:
-    std::vector<Text> Navigated;
+    Texts Navigated;
     std::vector<PanePage> Pages;
     bool IsFileLeft = false; ///< whether LeaveFile() was called
     Done Navigate(const PanePage& page) override

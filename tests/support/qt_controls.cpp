@@ -120,6 +120,13 @@ void Click(QWidget& window, const char* name)
     LetRun();
 }
 
+void Pick(QWidget& window, const char* name, const char* words)
+{
+    auto* combo = Find<QComboBox>(window, name);
+    combo->setCurrentText(QString::fromUtf8(words));
+    emit combo->textActivated(combo->currentText());
+}
+
 void Press(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     SendKey(control, key, modifiers, {});

@@ -11,6 +11,8 @@
 
 namespace orvane::testing {
 
+using orvane::Find; // in texts, beside the one in windows
+
 /// The visible control of that object name in a window, or the hidden one when none is visible;
 /// fails the test when there is none of that kind.
 template <class Control>
@@ -29,6 +31,9 @@ void Type(QWidget& window, const char* name, TextView text);
 
 /// Clicks a button that the author could click; fails the test when it is hidden or disabled.
 void Click(QWidget& window, const char* name);
+
+/// Picks the entry of a combo box with these words, as the author would.
+void Pick(QWidget& window, const char* name, const char* words);
 
 /// Presses and releases a key in a window or one of its controls.
 void Press(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

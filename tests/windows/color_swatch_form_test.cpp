@@ -6,10 +6,8 @@
 
 #include <QDialog>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class ColorSwatchTest : public ::testing::Test
 {
@@ -60,4 +58,4 @@ TEST_F(ColorSwatchTest, OpensTheDialogOnEnterAndOnABlank)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,10 +4,8 @@
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 TEST(FolderBoxesTest, FolderThatCannotBeReadLeavesEverythingAsItIs)
 {
@@ -21,11 +19,11 @@ TEST(FolderBoxesTest, FolderThatCannotBeReadLeavesEverythingAsItIs)
     QObject::connect(&boxes, &FolderBoxes::FolderPicked, [&picked] { ++picked; });
     DoubleClickRow(boxes, "Dir1", 2);
     EXPECT_EQ(boxes.Folder(), u"/site");
-    EXPECT_EQ(RowsOf(boxes, "File1"), (std::vector<Text>{u"index.html", u"README"}));
+    EXPECT_EQ(RowsOf(boxes, "File1"), (Texts{u"index.html", u"README"}));
     DoubleClickRow(boxes, "Dir1", 3);
     EXPECT_EQ(boxes.Folder(), u"/site/pictures");
     EXPECT_EQ(picked, 1);
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -17,10 +17,8 @@
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 /// A window with the panel over a real folder, which the disk double lists.
 class ImageListPanelTest : public ::testing::Test
@@ -93,7 +91,7 @@ TEST_F(ImageListPanelTest, OpensInTheFolderUsedLastWithNothingToCopy)
 {
     m_desk.Core.RequiredFileCount = 7;
     Open({});
-    EXPECT_EQ(RowsOf(m_window, "File1"), (std::vector<Text>{u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(RowsOf(m_window, "File1"), (Texts{u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(SelectedRowOf(m_window, "Dir1"),
               RowWith(m_window, "Dir1", GetFileName(FromQt(m_folder.path()))));
     EXPECT_EQ(m_desk.Core.RequiredFileCount, 0);
@@ -114,7 +112,7 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
     Press(List("File1"), Qt::Key_Home);
     List("File1").clearSelection();
     Click(m_window, "cmdAddToImageList");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Please select an image."});
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Please select an image."});
     for (const char* name : buttons)
         EXPECT_FALSE(Find<QPushButton>(m_window, name)->isEnabled()) << name;
     Choose("File1", u"my pic.gif");
@@ -134,7 +132,7 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
 
     DoubleClickRow(m_window, "File1", RowWith(m_window, "File1", u"Tall.GIF"));
-    EXPECT_EQ(RowsOf(m_window, "List1"), (std::vector<Text>{u"wide.gif", u"Tall.GIF"}));
+    EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"wide.gif", u"Tall.GIF"}));
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x300"));
     EXPECT_TRUE(m_desk.Dialogs.Said.empty());
 }
@@ -179,7 +177,7 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
     ImageListPanel& panel = Open({});
     List("File1").selectAll();
     Click(m_window, "cmdAddToImageList");
-    EXPECT_EQ(RowsOf(m_window, "List1"), (std::vector<Text>{u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x300"));
 
@@ -189,8 +187,7 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
     EXPECT_FALSE(DropFiles(place, {Path(u"gone.gif")}));
     EXPECT_FALSE(DropFiles(place, {}));
     EXPECT_TRUE(DropFiles(place, {Path(u"blank name/x.jpg"), Path(u"wide.gif")}));
-    EXPECT_EQ(RowsOf(m_window, "List1"),
-              (std::vector<Text>{u"x.jpg", u"wide.gif", u"Tall.GIF", u"wide.gif"}));
+    EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"x.jpg", u"wide.gif", u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(panel.Selected(), 2u);
     ClickRow(m_window, "List1", 3);
     DropFiles(place, {Path(u"blank name/x.jpg"), Path(u"Tall.GIF")});
@@ -204,10 +201,10 @@ TEST_F(ImageListPanelTest, DraggedRowTakesAllColumnsAlong)
     ImageListPanel& panel = Open(AnimatorImageList());
     panel.SetRows({{u"a", u"1", {}, {}, {}}, {u"b", u"2", {}, {}, {}}, {u"c", u"3", {}, {}, {}}});
     EXPECT_TRUE(DragRow(m_window, "List4", 0, 2));
-    EXPECT_EQ(RowsOf(m_window, "List3"), (std::vector<Text>{u"2", u"3", u"1"}));
+    EXPECT_EQ(RowsOf(m_window, "List3"), (Texts{u"2", u"3", u"1"}));
     EXPECT_EQ(SelectedRowOf(m_window, "List1"), 2);
     EXPECT_TRUE(DragRow(m_window, "List1", 2, 1));
-    EXPECT_EQ(RowsOf(m_window, "List1"), (std::vector<Text>{u"b", u"a", u"c"}));
+    EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"b", u"a", u"c"}));
 }
 
 TEST_F(ImageListPanelTest, RowsTellOfDoubleClicksAndMenus)
@@ -242,7 +239,7 @@ TEST_F(ImageListPanelTest, BrokenPictureLeavesTheOldOneAndItsSize)
     Choose("File1", u"bad.jpg");
     EXPECT_EQ(preview->pixmap().cacheKey(), old);
     Click(m_window, "cmdAddImageToList");
-    EXPECT_EQ(RowsOf(m_window, "List1"), std::vector<Text>{u"bad.jpg"});
+    EXPECT_EQ(RowsOf(m_window, "List1"), Texts{u"bad.jpg"});
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
 }
 
@@ -259,4 +256,4 @@ TEST_F(ImageListPanelTest, PreviewShowsThePictureOfTheSelectedRow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -8,10 +8,8 @@
 #include <QClipboard>
 #include <QSignalSpy>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 /// Everything that a text box likes to change.
 const Text odd = u"a\u00A0b\u2028c\u2029d\r\n\te\uFEFF \r\nf";
@@ -49,4 +47,4 @@ TEST(MultiLineBoxTest, RefusesAPasteThatIsTooLargeAndKeepsWhatItHolds)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -8,10 +8,8 @@
 
 #include <sys/stat.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 constexpr QSize room(150, 110);
 
@@ -55,4 +53,4 @@ TEST(PictureTest, GivesNothingForWhatIsNoPictureAndAtOnceForAHugeOne)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

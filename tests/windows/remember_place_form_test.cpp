@@ -5,10 +5,8 @@
 
 #include <QScreen>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 /// Shows a window that would like to be 300 x 200, lets `act` have it, and gives where it was then.
 QRect ShowAndHide(
@@ -55,4 +53,4 @@ TEST(RememberPlaceTest, PassesOverWhatItCannotRead)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

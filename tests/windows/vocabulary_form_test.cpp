@@ -12,10 +12,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 /// A window of some rows.
 class VocabularyTest : public ::testing::Test
@@ -187,8 +185,7 @@ TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
     for (const char* button : {"cmdEdit", "cmdRemove", "cmdUp", "cmdDown"})
         Click(m_window, button);
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              (std::vector<Text>{u"edit empty", u"edit none", u"remove none", u"cannot up",
-                                 u"cannot down"}));
+              (Texts{u"edit empty", u"edit none", u"remove none", u"cannot up", u"cannot down"}));
     EXPECT_EQ(Find<ActingList>(m_window, "lstItems")->item(1)->text(), QStringLiteral("b"));
 
     auto* links = Find<ActingList>(m_window, "lstLinks");
@@ -197,11 +194,11 @@ TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
     Press(*links, Qt::Key_Return);
     EXPECT_EQ(m_edits, 2);
     Click(m_window, "cmdUp");
-    EXPECT_EQ(m_rows.Column("lstItems"), (std::vector<Text>{u"b\r\nsecond line", u"a"}));
+    EXPECT_EQ(m_rows.Column("lstItems"), (Texts{u"b\r\nsecond line", u"a"}));
     Click(m_window, "cmdUp");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"cannot up"});
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"cannot up"});
     Press(*links, Qt::Key_Delete);
-    EXPECT_EQ(m_rows.Column("lstLinks"), std::vector<Text>{u""});
+    EXPECT_EQ(m_rows.Column("lstLinks"), Texts{u""});
     EXPECT_EQ(m_rows.Rows().Selected, 0u);
     Click(m_window, "cmdRemove");
     EXPECT_FALSE(Find<QWidget>(m_window, "cmdRemove")->isEnabled());
@@ -223,4 +220,4 @@ TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

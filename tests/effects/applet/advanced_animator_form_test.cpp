@@ -15,10 +15,8 @@
 #include <QMenu>
 #include <QPushButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class AdvancedAnimatorFormTest : public ::testing::Test
 {
@@ -105,7 +103,7 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnewAndTheTitleTe
     EXPECT_EQ(title(), u"Advanced Animation Wizard[*]");
     Choose("mnuFileSave");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"You must enter an image into the Animation Image List."});
+              Texts{u"You must enter an image into the Animation Image List."});
     AddImage(0);
     EXPECT_EQ(title(), u"Advanced Animation Wizard[*] changed");
     Type(Form(), "Text20", u"1");
@@ -144,7 +142,7 @@ TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith
 {
     FormDesk road(m_desk.Bench, nullptr);
     road.OpenProject(u"/film.ovn");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Orvane finds no file /film.ovn."});
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Orvane finds no file /film.ovn."});
 
     m_desk.Files.Contents[u"/film.ovn"] = ExpectedBytes("animator_project_two_images.ovn");
     Text image;
@@ -177,4 +175,4 @@ TEST_F(AdvancedAnimatorFormTest, RecentProjectsThatAreThereOpenFromTheMenu)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

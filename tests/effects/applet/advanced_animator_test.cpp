@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectSameText;
 
 constexpr TextView sizeMissing =
     u"Animation width and height properties are required.  Please enter them.";
@@ -130,4 +128,4 @@ TEST(AdvancedAnimatorTest, TagOfTheEarlierAppletGivesSizeAndLoopCountAlone)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -5,10 +5,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 AdvancedAnimator TwoImages()
 {
@@ -190,9 +188,9 @@ TEST_F(ProjectDeskTest, OpensAProjectOrLeavesTheRowsEmpty)
 
     m_files.Contents[u"/p/large.ovn"] = std::string((4 << 20) + 1, '|');
     EXPECT_EQ(open(film, u"/p/large.ovn"), film);
-    EXPECT_EQ(m_dialogs.Said, std::vector<Text>{u"This file is larger than 4 MB, which is too "
-                                                u"large for a project."});
+    EXPECT_EQ(m_dialogs.Said, Texts{u"This file is larger than 4 MB, which is too "
+                                    u"large for a project."});
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

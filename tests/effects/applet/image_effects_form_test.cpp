@@ -1,30 +1,18 @@
 #include "effects/applet/image_effects_form.h"
 
-#include "tests/support/doubles.h"
+#include "tests/support/form_test.h"
 #include "tests/support/picture_files.h"
-#include "tests/support/qt_controls.h"
 #include "tests/support/test_folder.h"
 
 #include <QComboBox>
 #include <QSlider>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class ImageEffectsFormTest : public ::testing::Test
+class ImageEffectsFormTest : public FormTest<ImageEffectsForm>
 {
 protected:
-    ImageEffectsFormTest() { m_form.show(); }
-
-    void Pick(const char* effect)
-    {
-        auto* picker = Find<QComboBox>(m_form, "EffectPicker");
-        picker->setCurrentText(QString::fromUtf8(effect));
-        emit picker->textActivated(picker->currentText());
-    }
-
     void Browse(unsigned width, unsigned height)
     {
         m_folder.Put("a.gif", GifBytes(width, height));
@@ -43,9 +31,7 @@ protected:
         return rows;
     }
 
-    FakeDesk m_desk;
     TestFolder m_folder;
-    ImageEffectsForm m_form{m_desk.Bench};
 };
 
 TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
@@ -53,7 +39,7 @@ TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
     const QSize size = m_form.size();
     const auto expectMode = [&](const char* effect, const std::string& rows, const char* label,
                                 int topic) {
-        Pick(effect);
+        Pick(m_form, "EffectPicker", effect);
         EXPECT_EQ(Rows(), rows) << effect;
         EXPECT_EQ(LabelOf(Find<QWidget>(m_form, "ImageWidth"))->text().toStdString(), label);
         Click(m_form, "cmdClickHereForHelp");
@@ -90,4 +76,4 @@ TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 ImageEffects Chosen(TextView effect)
@@ -73,4 +73,4 @@ TEST(ImageEffectsTest, ReadsATagWithItsQuotes)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -1,26 +1,22 @@
 #include "effects/applet/image_fade_form.h"
 
 #include "effects/applet/image_fade_url_form.h"
-#include "tests/support/doubles.h"
+#include "tests/support/form_test.h"
 #include "tests/support/picture_files.h"
-#include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
 #include "tests/support/test_folder.h"
 
 #include <QListWidget>
 #include <QPushButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class ImageFadeFormTest : public ::testing::Test
+class ImageFadeFormTest : public FormTest<ImageFadeForm>
 {
 protected:
     ImageFadeFormTest()
     {
-        m_form.show();
         m_folder.Put("a.gif", GifBytes(100, 80));
         m_folder.Put("b.gif", GifBytes(100, 80));
         m_folder.Put("c.gif", GifBytes(100, 81));
@@ -33,9 +29,7 @@ protected:
         Click(m_form, "cmdAddImage");
     }
 
-    FakeDesk m_desk;
     TestFolder m_folder;
-    ImageFadeForm m_form{m_desk.Bench};
 };
 
 TEST_F(ImageFadeFormTest, DroppedImagesComeInTheirOrderAndDraggedOnesTakeLinkAndSourceAlong)
@@ -45,15 +39,15 @@ TEST_F(ImageFadeFormTest, DroppedImagesComeInTheirOrderAndDraggedOnesTakeLinkAnd
     QWidget& links = *Find<QListWidget>(m_form, "FadeLinks")->viewport();
     EXPECT_FALSE(DropFiles(links, {path("a.gif"), path("e.txt")}));
     EXPECT_TRUE(DropFiles(links, {path("b.gif"), path("c.gif"), path("c.gif"), path("a.gif")}));
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(Said().size(), 1u);
     Click(m_form, "cmdLinkToURL");
     auto* link = m_form.findChild<ImageFadeURLForm*>();
     Type(*link, "txtURL", u"x");
     Click(*link, "cmdOK");
     EXPECT_TRUE(DragRow(m_form, "FadeImages", 1, 0));
     const ImageFade fade = m_form.Parameters();
-    EXPECT_EQ(fade.FadeImages, (std::vector<Text>{u"a.gif", u"b.gif"}));
-    EXPECT_EQ(fade.FadeLinks, (std::vector<Text>{u"x", u""}));
+    EXPECT_EQ(fade.FadeImages, (Texts{u"a.gif", u"b.gif"}));
+    EXPECT_EQ(fade.FadeLinks, (Texts{u"x", u""}));
     EXPECT_EQ(fade.Required, (RequiredFiles{.Sources = {path("a.gif"), path("b.gif")}}));
 }
 
@@ -61,9 +55,8 @@ TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
 {
     EXPECT_FALSE(Find<QPushButton>(m_form, "cmdRemoveImage")->isEnabled());
     Click(m_form, "cmdLinkToURL");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{
-                  u"Select an image from the list and then click the 'Link to URL' button."});
+    EXPECT_EQ(Said(),
+              Texts{u"Select an image from the list and then click the 'Link to URL' button."});
     Add("a.gif");
     Add("b.gif");
     Find<QListWidget>(m_form, "FadeLinks")->setCurrentRow(0);
@@ -77,4 +70,4 @@ TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

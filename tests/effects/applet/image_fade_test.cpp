@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 ImageFade TwoImages()
@@ -65,4 +65,4 @@ TEST(ImageFadeTest, ReadsPauseSpeedAndTargetAlone)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

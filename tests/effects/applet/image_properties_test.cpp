@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(ImagePropertiesTest, OffersTheTransitionsInOrderEachWithItsDirections)
@@ -116,4 +116,4 @@ TEST(ImagePropertiesTest, TakesTheFieldsAndKeepsTheImage)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

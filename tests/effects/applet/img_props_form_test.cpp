@@ -7,10 +7,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class ImgPropsFormTest : public ::testing::Test
 {
@@ -94,9 +92,9 @@ TEST_F(ImgPropsFormTest, ABrowsedSoundIsRecordedEvenIfTheWindowIsCancelled)
     m_desk.Dialogs.AnswerOpenFile(u"/my ding.au");
     Click(*m_form, "Command8");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"This special effect does not allow sound filenames containing "
-                                u"space characters.\r\n"
-                                u"Please rename the sound or select another sound."});
+              Texts{u"This special effect does not allow sound filenames containing "
+                    u"space characters.\r\n"
+                    u"Please rename the sound or select another sound."});
     m_desk.Dialogs.AnswerOpenFile(std::nullopt);
     Click(*m_form, "Command8");
     EXPECT_EQ(WordsOf(*m_form, "Text3"), u"ding.au");
@@ -120,4 +118,4 @@ TEST_F(ImgPropsFormTest, SoundIsLockedAndALinkedFileStandsUnderItsBareName)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 TEST(MoreImageEffectsTest, EachTransitionHasItsFrames)
 {
@@ -64,4 +61,4 @@ TEST(MoreImageEffectsTest, ChecksTheImageThenItsSize)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -1,24 +1,14 @@
 #include "effects/applet/typewriter_text_form.h"
 
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
 #include <QComboBox>
 #include <QPlainTextEdit>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class TypewriterTextFormTest : public ::testing::Test
-{
-protected:
-    TypewriterTextFormTest() { m_form.show(); }
-
-    FakeDesk m_desk;
-    TypewriterTextForm m_form{m_desk.Bench};
-};
+using TypewriterTextFormTest = FormTest<TypewriterTextForm>;
 
 TEST_F(TypewriterTextFormTest, ATextFileTakesThePlaceOfTheText)
 {
@@ -26,7 +16,7 @@ TEST_F(TypewriterTextFormTest, ATextFileTakesThePlaceOfTheText)
     Click(m_form, "ReadFromFile");
     EXPECT_FALSE(Find<QWidget>(m_form, "TypedText")->isVisible());
     Type(m_form, "TextFile", u"x");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(Said().size(), 1u);
     m_desk.Dialogs.AnswerOpenFile(u"/p/my words.txt");
     Click(m_form, "cmdBrowseForTextFile");
     EXPECT_EQ(WordsOf(m_form, "TextFile"), u"my words.txt");
@@ -46,12 +36,10 @@ TEST_F(TypewriterTextFormTest, LeavingASizeOfZeroSaysSoAndEmptiesTheFontSize)
         Find<QWidget>(m_form, "Bold")->setFocus();
         LetRun();
         const bool isRefused = text[0] == '0' || text[0] == 'x';
-        EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-                  isRefused ? std::vector<Text>{u"This must be a positive value."}
-                            : std::vector<Text>{});
+        EXPECT_EQ(Said(), isRefused ? Texts{u"This must be a positive value."} : Texts{});
         EXPECT_EQ(size->currentText(), QString::fromUtf8(isRefused ? "" : text));
     }
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

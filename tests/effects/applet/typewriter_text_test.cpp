@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 TypewriterText Full()
 {
@@ -92,4 +89,4 @@ TEST(TypewriterTextTest, ReadsATagOfTheEarlierAppletAndNeitherTextNorColorOfItsO
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

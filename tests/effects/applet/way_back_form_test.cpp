@@ -8,10 +8,8 @@
 
 #include <QPushButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 /// Pastes an effect's tag, follows the line that takes the quotes off, and presses Done.
 template <class Form, class Effect>
@@ -94,4 +92,4 @@ TEST(WayBackFormTest, AnImageEffectComesBackWithItsColorAndItsHeight)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -1,17 +1,14 @@
 #include "effects/page/all_in_one_button_form.h"
 
 #include "core/draft.h"
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
 #include <QComboBox>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class AllInOneButtonFormTest : public ::testing::Test
+class AllInOneButtonFormTest : public FormTest<AllInOneButtonForm>
 {
 protected:
     void Choose(ButtonAction action)
@@ -19,14 +16,10 @@ protected:
         Find<QComboBox>(m_form, "cboButtonAction")->setCurrentIndex(static_cast<int>(action));
         Click(m_form, "cmdNext");
     }
-
-    FakeDesk m_desk;
-    AllInOneButtonForm m_form{m_desk.Bench};
 };
 
 TEST_F(AllInOneButtonFormTest, AnotherTypeAndANewEntryEmptyTheTexts)
 {
-    m_form.show();
     Choose(ButtonAction::Link);
     Type(m_form, "txtButtonText", u"Go");
     Type(m_form, "txtURL", u"a.html");
@@ -48,7 +41,6 @@ TEST_F(AllInOneButtonFormTest, ADraftsTextsSurviveTheFirstEntryAlone)
 {
     const AllInOneButton draft{
         .cboButtonAction = Text(buttonActions[0]), .txtButtonText = u"Go", .txtURL = u"a.html"};
-    m_form.show();
     m_form.SetParameters(draft);
     Press(m_form, Qt::Key_Escape);
     AllInOneButtonForm next(m_desk.Bench);
@@ -62,4 +54,4 @@ TEST_F(AllInOneButtonFormTest, ADraftsTextsSurviveTheFirstEntryAlone)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -5,11 +5,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 /// The button of the expected texts.
 AllInOneButton Sample(ButtonAction action, ButtonType type)
@@ -91,4 +88,4 @@ TEST(AllInOneButtonTest, AsksForTheActionThenForWhatItNeedsThenForTheText)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

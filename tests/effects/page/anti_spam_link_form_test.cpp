@@ -1,37 +1,33 @@
 #include "effects/page/anti_spam_link_form.h"
 
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
+using AntiSpamLinkFormTest = FormTest<AntiSpamLinkForm>;
 
-TEST(AntiSpamLinkFormTest, KeepsTheAddressForTheNextLink)
+TEST_F(AntiSpamLinkFormTest, KeepsTheAddressForTheNextLink)
 {
-    FakeDesk desk;
-    AntiSpamLinkForm form(desk.Bench);
-    form.show();
-    Type(form, "Email", u"jane@example.com");
-    Click(form, "cmdOK");
-    EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u);
-    EXPECT_TRUE(desk.Settings.Writes.empty());
-    desk.Dialogs.AnswerOpenFile(u"/pics/my letter.gif");
-    Click(form, "cmdBrowseForImage");
-    Type(form, "txtSubject", u"Hello");
-    EXPECT_FALSE(Find<QWidget>(form, "chkAntiSpam")->isVisible());
-    Click(form, "cmdOK");
-    EXPECT_EQ(form.TakePayload(), Generate({.Email = u"jane@example.com",
-                                            .txtImage = u"my letter.gif",
-                                            .txtSubject = u"Hello"}));
-    EXPECT_EQ((desk.Settings.Stored[{u"Page Loom", u"Miscellaneous", u"EmailAddress"}]),
+    Type(m_form, "Email", u"jane@example.com");
+    Click(m_form, "cmdOK");
+    EXPECT_EQ(Said().size(), 1u);
+    EXPECT_TRUE(m_desk.Settings.Writes.empty());
+    m_desk.Dialogs.AnswerOpenFile(u"/pics/my letter.gif");
+    Click(m_form, "cmdBrowseForImage");
+    Type(m_form, "txtSubject", u"Hello");
+    EXPECT_FALSE(Find<QWidget>(m_form, "chkAntiSpam")->isVisible());
+    Click(m_form, "cmdOK");
+    EXPECT_EQ(m_form.TakePayload(), Generate({.Email = u"jane@example.com",
+                                              .txtImage = u"my letter.gif",
+                                              .txtSubject = u"Hello"}));
+    EXPECT_EQ((m_desk.Settings.Stored[{u"Page Loom", u"Miscellaneous", u"EmailAddress"}]),
               u"jane@example.com");
 
-    AntiSpamLinkForm next(desk.Bench);
+    AntiSpamLinkForm next(m_desk.Bench);
     EXPECT_EQ(next.Parameters(), (AntiSpamLink{.Email = u"jane@example.com"}));
     EXPECT_EQ(Find<QLineEdit>(next, "Email")->selectedText(), QStringLiteral("jane@example.com"));
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 TEST(AntiSpamLinkTest, SplitsTheAddressOrWritesItPlain)
 {
@@ -67,4 +64,4 @@ TEST(AntiSpamLinkTest, ChecksInFieldOrder)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

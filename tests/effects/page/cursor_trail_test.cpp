@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(CursorTrailTest, CutsTheNameBehindEitherSeparator)
@@ -27,4 +27,4 @@ TEST(CursorTrailTest, NeedsAnImage)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -5,10 +5,8 @@
 #include "tests/support/qt_controls.h"
 #include "tests/support/test_folder.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 TEST(DynamicButtonFormTest, ThreePagesFromFreshToPayload)
 {
@@ -28,8 +26,7 @@ TEST(DynamicButtonFormTest, ThreePagesFromFreshToPayload)
     const auto picture = [&] { return Find<QLabel>(form, "picPreview")->pixmap().size(); };
 
     Click(form, "cmdNext");
-    EXPECT_EQ(desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Please specify an image for the button."});
+    EXPECT_EQ(desk.Dialogs.TakeSaid(), Texts{u"Please specify an image for the button."});
     EXPECT_EQ(browse("cmdBrowseForImage", u"/pics/my button.gif").InitDir, u"/program");
     EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u);
     browse("cmdBrowseForImage", folder.TextAt("up.gif"));
@@ -64,4 +61,4 @@ TEST(DynamicButtonFormTest, ThreePagesFromFreshToPayload)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectSameText;
 
 DynamicButton FullButton()
 {
@@ -65,4 +63,4 @@ TEST(DynamicButtonTest, CompletesTheAddressAndAsksForTheFirstImageAlone)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

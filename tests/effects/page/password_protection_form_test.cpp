@@ -1,30 +1,19 @@
 #include "effects/page/password_protection_form.h"
 
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
 #include <QRadioButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class PasswordProtectionFormTest : public ::testing::Test
-{
-protected:
-    PasswordProtectionFormTest() { m_form.show(); }
-
-    FakeDesk m_desk;
-    PasswordProtectionForm m_form{m_desk.Bench};
-};
+using PasswordProtectionFormTest = FormTest<PasswordProtectionForm>;
 
 TEST_F(PasswordProtectionFormTest, TheGateStartsWithOnePasswordOnEachEntry)
 {
     EXPECT_TRUE(WordsOf(m_form, "lblDescription").starts_with(u"JavaScript"));
     Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Please select a password protection scheme."});
+    EXPECT_EQ(Said(), Texts{u"Please select a password protection scheme."});
     Click(m_form, "optScheme(0)");
     EXPECT_TRUE(WordsOf(m_form, "lblDescription").starts_with(u"  JavaScript"));
     Click(m_form, "cmdNext");
@@ -59,7 +48,7 @@ TEST_F(PasswordProtectionFormTest, TheLoginWritesItsScriptOrStaysOpen)
     Type(m_form, "CgiDirectory", u"/cgi-bin");
     m_desk.Files.FailOn(script, Fault::PermissionDenied);
     Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Permission denied"});
+    EXPECT_EQ(Said(), Texts{u"Permission denied"});
     EXPECT_TRUE(m_form.isVisible());
     EXPECT_EQ(m_form.TakePayload(), std::nullopt);
     m_form.hide();
@@ -85,4 +74,4 @@ TEST_F(PasswordProtectionFormTest, ADraftsOptionSurvivesTheFirstEntryAndNoSecret
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

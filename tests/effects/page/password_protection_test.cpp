@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace testing;
 
 TEST(PasswordProtectionTest, WritesTheGateForManyPasswords)
 {
@@ -78,4 +76,4 @@ TEST(PasswordProtectionTest, ReadsAPastedGateWithoutItsPassword)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

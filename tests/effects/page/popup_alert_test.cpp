@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(PopupAlertTest, TurnsLineEndsOnceAndPutsTheRestInUnescaped)
@@ -28,4 +28,4 @@ TEST(PopupAlertTest, AsksForTheTypeBeforeTheText)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

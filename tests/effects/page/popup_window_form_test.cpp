@@ -1,27 +1,18 @@
 #include "effects/page/popup_window_form.h"
 
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
 #include <QPushButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class PopupWindowFormTest : public ::testing::Test
-{
-protected:
-    FakeDesk m_desk;
-    PopupWindowForm m_form{m_desk.Bench};
-};
+using PopupWindowFormTest = FormTest<PopupWindowForm>;
 
 TEST_F(PopupWindowFormTest, TheLinkFrameFollowsTheChoice)
 {
     auto* item = Find<QLineEdit>(m_form, "txtLinkItem");
     auto* browse = Find<QPushButton>(m_form, "cmdBrowseForImage");
-    m_form.show();
     EXPECT_FALSE(item->isEnabled());
     Click(m_form, "optWhenToAppear(2)");
     EXPECT_FALSE(browse->isEnabled());
@@ -43,4 +34,4 @@ TEST_F(PopupWindowFormTest, TheLinkFrameFollowsTheChoice)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 /// The body of a case of the table, and the arguments of its call.
 std::pair<Text, Text> Expected(TextView name)
@@ -67,4 +64,4 @@ TEST(PopupWindowTest, ChecksTheLinkThenTheWindow)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

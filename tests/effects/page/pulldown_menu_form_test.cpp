@@ -1,39 +1,28 @@
 #include "effects/page/pulldown_menu_form.h"
 
 #include "effects/page/pulldown_url_form.h"
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 #include "windows/acting_list.h"
 
 #include <QPushButton>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class PulldownMenuFormTest : public ::testing::Test
+class PulldownMenuFormTest : public FormTest<PulldownMenuForm>
 {
 protected:
-    PulldownMenuFormTest() { m_form.show(); }
-
     PulldownURLForm& Item() { return *m_form.findChild<PulldownURLForm*>(); }
-
-    FakeDesk m_desk;
-    PulldownMenuForm m_form{m_desk.Bench};
 };
 
 TEST_F(PulldownMenuFormTest, EditsTheSelectedItemButNoSeparator)
 {
     m_form.SetParameters({.List1 = {u"a", Text(menuSeparator)}, .List2 = {u"a.html", u""}});
     Click(m_form, "cmdEditMenuItem");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Select a menu item from the list in order to edit it."});
+    EXPECT_EQ(Said(), Texts{u"Select a menu item from the list in order to edit it."});
     Find<ActingList>(m_form, "List2")->setCurrentRow(1);
     Click(m_form, "cmdEditMenuItem");
-    EXPECT_EQ(
-        m_desk.Dialogs.TakeSaid(),
-        std::vector<Text>{u"The separator can't be edited.  It can only be added or removed."});
+    EXPECT_EQ(Said(), Texts{u"The separator can't be edited.  It can only be added or removed."});
     Click(m_form, "cmdMoveUp");
     Find<ActingList>(m_form, "List1")->setCurrentRow(1);
     Click(m_form, "cmdEditMenuItem");
@@ -41,8 +30,8 @@ TEST_F(PulldownMenuFormTest, EditsTheSelectedItemButNoSeparator)
     m_desk.Dialogs.AnswerOpenFile(u"/pages/b.html");
     Click(Item(), "cmdBrowseForURL");
     Click(Item(), "cmdOK");
-    EXPECT_EQ(m_form.Parameters().List2, (std::vector<Text>{u"", u"b.html"}));
+    EXPECT_EQ(m_form.Parameters().List2, (Texts{u"", u"b.html"}));
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

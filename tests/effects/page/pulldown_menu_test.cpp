@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(PulldownMenuTest, PutsValuesInUnescapedAndKnowsBlankAndSeparatorExactly)
@@ -36,4 +36,4 @@ TEST(PulldownMenuTest, AnItemNeedsItsTextAndThenItsAddress)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -3,10 +3,8 @@
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
 {
@@ -32,4 +30,4 @@ TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

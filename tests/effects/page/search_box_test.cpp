@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(SearchBoxTest, AsksForASiteToSearchIn)
@@ -29,4 +29,4 @@ TEST(SearchBoxTest, AsksForAWholeAddressToTranslate)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

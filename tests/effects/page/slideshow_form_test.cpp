@@ -1,26 +1,22 @@
 #include "effects/page/slideshow_form.h"
 
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
+using SlideshowFormTest = FormTest<SlideshowForm>;
 
-TEST(SlideshowFormTest, TicksTheOtherBoxWithOneMessage)
+TEST_F(SlideshowFormTest, TicksTheOtherBoxWithOneMessage)
 {
-    FakeDesk desk;
-    SlideshowForm form(desk.Bench);
-    form.SetParameters({.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.jpg"}}});
-    form.show();
-    Click(form, "cmdNext");
-    Click(form, "chkAutoStart");
-    EXPECT_TRUE(form.Parameters().chkDisplayControls);
-    Click(form, "chkDisplayControls");
-    EXPECT_TRUE(form.Parameters().chkAutoStart);
-    EXPECT_EQ(desk.Dialogs.Said.size(), 2u);
+    m_form.SetParameters({.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.jpg"}}});
+    Click(m_form, "cmdNext");
+    Click(m_form, "chkAutoStart");
+    EXPECT_TRUE(m_form.Parameters().chkDisplayControls);
+    Click(m_form, "chkDisplayControls");
+    EXPECT_TRUE(m_form.Parameters().chkAutoStart);
+    EXPECT_EQ(m_desk.Dialogs.Said.size(), 2u);
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

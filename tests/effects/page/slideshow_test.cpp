@@ -5,11 +5,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 Slideshow TwoImages()
 {
@@ -75,4 +72,4 @@ TEST(SlideshowTest, NeedsTwoImagesAndAWayToMove)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

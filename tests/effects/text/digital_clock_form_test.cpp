@@ -1,21 +1,16 @@
 #include "effects/text/digital_clock_form.h"
 
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 
 #include <QCheckBox>
 #include <QListWidget>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class DigitalClockFormTest : public ::testing::Test
+class DigitalClockFormTest : public FormTest<DigitalClockForm>
 {
 protected:
-    DigitalClockFormTest() { m_form.show(); }
-
     void ChooseFormat(const QString& item)
     {
         auto* list = Find<QListWidget>(m_form, "lstDateTimeFormat");
@@ -31,9 +26,6 @@ protected:
     }
 
     Text Heading() { return WordsOf(m_form, "lblHeading"); }
-
-    FakeDesk m_desk;
-    DigitalClockForm m_form{m_desk.Bench};
 };
 
 TEST_F(DigitalClockFormTest, ShowsItsPagesForthAndBack)
@@ -70,8 +62,7 @@ TEST_F(DigitalClockFormTest, StaysOnTheDatePageUntilAFormatIsChosen)
     // Tab puts the keyboard on the first item and selects none.
     Find<QListWidget>(m_form, "lstDateTimeFormat")->setFocus(Qt::TabFocusReason);
     Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Please select a Date format from the list below."});
+    EXPECT_EQ(Said(), Texts{u"Please select a Date format from the list below."});
     EXPECT_EQ(Heading(), u"Digital Clock - Step 2: Set Date format");
     EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("lstDateTimeFormat"));
 }
@@ -112,4 +103,4 @@ TEST_F(DigitalClockFormTest, TimeBeforeDateIsHiddenForTheTimeAloneAndKeepsItsTic
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 constexpr auto date = ClockContent::Date;
 constexpr auto time = ClockContent::Time;
@@ -104,4 +101,4 @@ TEST(DigitalClockTest, NeedsADateFormatUnlessItTellsTheTimeAlone)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

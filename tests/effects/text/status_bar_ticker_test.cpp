@@ -5,13 +5,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedBytes;
-using testing::ExpectedText;
-using testing::ExpectSameBytes;
-using testing::ExpectSameText;
 
 TEST(StatusBarTickerTest, PutsTheTextInUnescaped)
 {
@@ -44,4 +39,4 @@ TEST(StatusBarTickerTest, ReadsTheTextOfAPastedScriptWithItsOpeningQuote)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
 TEST(TooltipsTest, NeedsTheImageAlongOnlyWhenItIsPointedAt)
@@ -58,4 +58,4 @@ TEST(TooltipsTest, ComplainsPageByPage)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -1,22 +1,17 @@
 #include "effects/text/vertical_scroller_form.h"
 
 #include "effects/text/vert_scroller_add_form.h"
-#include "tests/support/doubles.h"
-#include "tests/support/qt_controls.h"
+#include "tests/support/form_test.h"
 #include "tests/support/qt_mouse.h"
 
 #include <QPlainTextEdit>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
 
-using namespace orvane::testing;
-
-class VerticalScrollerFormTest : public ::testing::Test
+class VerticalScrollerFormTest : public FormTest<VerticalScrollerForm>
 {
 protected:
-    VerticalScrollerFormTest() { m_form.show(); }
-
     /// Adds a message by the small window.
     void Add(const char* item, TextView link)
     {
@@ -27,15 +22,12 @@ protected:
         Type(*add, "txtItemURL", link);
         Click(*add, "cmdOK");
     }
-
-    FakeDesk m_desk;
-    VerticalScrollerForm m_form{m_desk.Bench};
 };
 
 TEST_F(VerticalScrollerFormTest, FromFreshToPayloadAndOnceMore)
 {
     Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), std::vector<Text>{u"Please add an item to the list."});
+    EXPECT_EQ(Said(), Texts{u"Please add an item to the list."});
     EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("cmdAdd"));
     Add("First\nline", u"WWW.x");
     Click(m_form, "cmdNext");
@@ -46,7 +38,7 @@ TEST_F(VerticalScrollerFormTest, FromFreshToPayloadAndOnceMore)
     EXPECT_EQ(WordsOf(m_form, "cmdNext"), u"&Done");
     Type(m_form, "txtHeight", u" px");
     Click(m_form, "cmdNext");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(Said().size(), 1u);
     Find<QLineEdit>(m_form, "txtHeight")->setText(QStringLiteral("80"));
     Click(m_form, "cmdNext");
     const VerticalScroller wanted{.lstItems = {u"First\r\nline"},
@@ -89,16 +81,15 @@ TEST_F(VerticalScrollerFormTest, EditingStartsWithTheRowAndTakesAPickedPagesName
     EXPECT_NE(Find(m_desk.Dialogs.Requests[0].Filter, u"*.asp;*.php;*.phtml|"), 0u);
     Find<QPlainTextEdit>(*edit, "txtItem")->clear();
     Click(*edit, "cmdOK");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              std::vector<Text>{u"Enter item text in the text input box below."});
+    EXPECT_EQ(Said(), Texts{u"Enter item text in the text input box below."});
     Find<QPlainTextEdit>(*edit, "txtItem")->setPlainText(QStringLiteral("1"));
     Click(*edit, "cmdOK");
     EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), 0);
-    EXPECT_EQ(m_form.Parameters().lstItems, (std::vector<Text>{u"1", u"two"}));
-    EXPECT_EQ(m_form.Parameters().lstLinks, (std::vector<Text>{u"b c.html", u""}));
+    EXPECT_EQ(m_form.Parameters().lstItems, (Texts{u"1", u"two"}));
+    EXPECT_EQ(m_form.Parameters().lstLinks, (Texts{u"b c.html", u""}));
     m_form.SetParameters(m_form.Parameters());
     EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), 0);
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using testing::ExpectedText;
-using testing::ExpectSameText;
 
 TEST(VerticalScrollerTest, WritesScriptAndBox)
 {
@@ -69,4 +66,4 @@ TEST(VerticalScrollerTest, ComplainsPageByPage)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing
