@@ -96,7 +96,7 @@ void BringBackForm::Take()
 {
     const int row = lstBackups->indexOfTopLevelItem(lstBackups->currentItem());
     if (row < 0)
-        return Report({u"Please choose a page that has a backup.", "cmdBrowseForPage"});
+        return ShowComplaint({u"Please choose a page that has a backup.", "cmdBrowseForPage"});
     const PageBackup& backup = m_backups.at(static_cast<std::size_t>(row));
     const Text date = FromQt(DateOf(backup));
     if (!m_bench.Dialogs.Ask(

@@ -75,16 +75,4 @@ inline constexpr std::array<InsertModeWords, 3> insertModes = {{
     {u"Create new Web page", u"Orvane will create a new Web page with your special effect."},
 }};
 
-/// The page editors that `lstHTMLEditors` lists, in its order.
-inline constexpr std::array<TextView, 10> htmlEditors = {u"AOLPress",
-                                                         u"FrontPage",
-                                                         u"FrontPage Express",
-                                                         u"DreamWeaver",
-                                                         u"Microsoft Publisher 98",
-                                                         u"NetObjects Fusion",
-                                                         u"Netscape Composer",
-                                                         u"Page Loom",
-                                                         u"Yahoo/Geocities PageBuilder",
-                                                         u"Other"};
-
 } // namespace orvane

@@ -1,18 +1,13 @@
 #include "delivery/delivery_report.h"
 
 #include "core/file_names.h"
+#include "services/add_once.h"
 
 #include <algorithm>
 
 namespace orvane {
 
 namespace {
-
-void AddOnce(std::vector<Text>& names, TextView name)
-{
-    if (std::find(names.begin(), names.end(), name) == names.end())
-        names.emplace_back(name);
-}
 
 /// One line, if there is a name to put behind the words.
 void AddLine(std::vector<Text>& lines, TextView words, const std::vector<Text>& names)

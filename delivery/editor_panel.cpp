@@ -1,6 +1,6 @@
 #include "delivery/editor_panel.h"
 
-#include "delivery/delivery_flow.h"
+#include "services/page_editors.h"
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
@@ -11,14 +11,14 @@ EditorPanel::EditorPanel() : lstHTMLEditors(new ActingList)
 {
     lstHTMLEditors->setObjectName(QStringLiteral("lstHTMLEditors"));
     lstHTMLEditors->setAccessibleName(QStringLiteral("Web page editors"));
-    for (const TextView editor : htmlEditors)
-        lstHTMLEditors->addItem(ToQt(editor));
+    for (const PageEditor& editor : pageEditors)
+        lstHTMLEditors->addItem(ToQt(editor.Name));
     PageBuilder(this).Fill(lstHTMLEditors);
     connect(lstHTMLEditors, &QListWidget::itemDoubleClicked, this, &EditorPanel::EditorChosen);
     connect(lstHTMLEditors, &ActingList::Entered, this, &EditorPanel::EditorChosen);
 }
 
-void EditorPanel::Begin()
+void EditorPanel::PageShown()
 {
     lstHTMLEditors->setFocus();
 }
@@ -28,7 +28,7 @@ void EditorPanel::Keep(Settings& settings) const
     // A row that only has the focus was not chosen.
     const int row = lstHTMLEditors->SelectedRow();
     if (row >= 0 && settings.Get(u"Misc", u"HTMLEditor", u"").empty())
-        settings.Put(u"Misc", u"HTMLEditor", htmlEditors[static_cast<std::size_t>(row)]);
+        settings.Put(u"Misc", u"HTMLEditor", pageEditors[static_cast<std::size_t>(row)].Name);
 }
 
 } // namespace orvane

@@ -17,7 +17,7 @@ public:
     EditorPanel();
 
     /// Called when the page is shown: gives the list of editors the focus.
-    void Begin();
+    void PageShown();
 
     /// Stores the chosen editor for this and later runs; does nothing when none is chosen or one is
     /// stored already.

@@ -38,7 +38,7 @@ FinishPanel::FinishPanel(Workbench& bench, const FinishedPayload& payload,
     page.Row(u"If you need help transferring your special effect to the Web, ", {link});
 }
 
-void FinishPanel::Begin()
+void FinishPanel::PageShown()
 {
     QString lines;
     for (const Text& line : m_report.Lines())

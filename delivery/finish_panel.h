@@ -22,7 +22,7 @@ public:
 
     /// Called when the page is shown or the report has changed: shows the report, the buttons that
     /// apply and the files to upload anew.
-    void Begin();
+    void PageShown();
 
 signals:
     /// The author wants an earlier version of the page with this full path.

@@ -55,7 +55,7 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
             [this](const std::vector<Text>& pages) { TakePage(pages.front()); });
 }
 
-void InsertPanel::Begin(bool isNewPage)
+void InsertPanel::PageShown(bool isNewPage)
 {
     setAcceptDrops(!isNewPage);
     lblAutoStep1->setText(
@@ -72,7 +72,7 @@ void InsertPanel::Begin(bool isNewPage)
         txtFileName->setFocus();
 }
 
-QPushButton* InsertPanel::Action(bool isNewPage) const
+QPushButton* InsertPanel::DefaultButton(bool isNewPage) const
 {
     if (isNewPage)
         return m_isSaved ? nullptr : cmdSaveWebPage;

@@ -24,13 +24,13 @@ public:
     InsertPanel(Workbench& bench, const CopyDesk& desk);
 
     /// Called when the page is shown: shows the controls for a new page or for an existing one.
-    void Begin(bool isNewPage);
+    void PageShown(bool isNewPage);
 
     /// The button that Enter is to press: "Save as New Web page" for a new page, "Auto-insert" for
     /// an existing one; null once that succeeded.
-    QPushButton* Action(bool isNewPage) const;
+    QPushButton* DefaultButton(bool isNewPage) const;
 
-    /// Called when an existing page was brought back to an earlier version: Action() gives
+    /// Called when an existing page was brought back to an earlier version: DefaultButton() gives
     /// "Auto-insert" again.
     void EffectTakenBack() { m_isInserted = false; }
 

@@ -16,7 +16,7 @@ MethodPanel::MethodPanel()
     page.Fill();
 }
 
-void MethodPanel::Begin()
+void MethodPanel::PageShown()
 {
     optInsertMode[static_cast<std::size_t>(Mode())]->setFocus();
 }

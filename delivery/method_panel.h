@@ -18,7 +18,7 @@ public:
     MethodPanel();
 
     /// Called when the page is shown: gives the chosen option button the focus.
-    void Begin();
+    void PageShown();
 
     /// The chosen insertion mode.
     InsertMode Mode() const;

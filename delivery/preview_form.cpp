@@ -68,7 +68,7 @@ void PreviewForm::NeedPanels()
 void PreviewForm::ConnectPanels()
 {
     connect(m_panels->Editor, &EditorPanel::EditorChosen, this, &PreviewForm::Next);
-    connect(m_panels->Insert, &InsertPanel::Complained, this, &PreviewForm::Report);
+    connect(m_panels->Insert, &InsertPanel::Complained, this, &PreviewForm::ShowComplaint);
     connect(m_panels->Insert, &InsertPanel::ManualWanted, this, &PreviewForm::InsertByHand);
     connect(m_panels->Insert, &InsertPanel::Delivered, this, [this] { GoOnTo(9); });
     connect(m_panels->Insert, &InsertPanel::FilesMissing, this, [this](const Text& folder) {
@@ -80,15 +80,15 @@ void PreviewForm::ConnectPanels()
             m_report.PageBroughtBack(page);
             m_panels->Insert->EffectTakenBack();
         }
-        m_panels->Finish->Begin();
+        m_panels->Finish->PageShown();
     });
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);
                 cmdNext->setVisible(controls.cmdNext);
             });
-    connect(m_panels->Publish, &PublishPanel::ActionChanged, this,
-            [this] { LeadEnterTo(m_panels->Publish->Action()); });
+    connect(m_panels->Publish, &PublishPanel::DefaultButtonChanged, this,
+            [this] { LeadEnterTo(m_panels->Publish->DefaultButton()); });
     connect(m_panels->Publish, &PublishPanel::CopyingDone, this,
             [this] { FinishCopying(DoneCopying()); });
     connect(m_panels->Publish, &PublishPanel::PreviewWanted, this,
@@ -132,22 +132,22 @@ void PreviewForm::ChangePage(DeliveryStep step)
     LeadEnterTo(nullptr);
     switch (step.PageStep) {
     case 2:
-        m_panels->Editor->Begin();
+        m_panels->Editor->PageShown();
         break;
     case 3:
         m_panels->Editor->Keep(m_bench.Settings);
-        m_panels->Method->Begin();
+        m_panels->Method->PageShown();
         break;
     case 4:
-        LeadEnterTo(m_panels->Insert->Action(Mode() == InsertMode::NewPage));
-        m_panels->Insert->Begin(Mode() == InsertMode::NewPage);
+        LeadEnterTo(m_panels->Insert->DefaultButton(Mode() == InsertMode::NewPage));
+        m_panels->Insert->PageShown(Mode() == InsertMode::NewPage);
         break;
     case 5:
         m_panels->Codes[0]->ShowPageScript(m_payload.RunsToday);
         cmdPrevious->setEnabled(true);
         break;
     case 8:
-        m_panels->Publish->Begin();
+        m_panels->Publish->PageShown();
         break;
     case 9:
         ShowFinish();
@@ -179,7 +179,7 @@ void PreviewForm::ShowFinish()
     cmdNext->setEnabled(false);
     cmdCancel->setText(QStringLiteral("&Done"));
     LeadEnterTo(cmdCancel);
-    m_panels->Finish->Begin();
+    m_panels->Finish->PageShown();
 }
 
 void PreviewForm::Preview(PreviewMode mode)
@@ -217,7 +217,7 @@ void PreviewForm::BeginPreview()
 
 void PreviewForm::FinishCopying(const AfterCopying& after)
 {
-    m_panels->Publish->Begin();
+    m_panels->Publish->PageShown();
     ShowPage(
         DescribePage({static_cast<std::int16_t>(after.HeadingPage), m_step.StepNumber}, Mode()),
         after.Panel);

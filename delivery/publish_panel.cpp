@@ -115,7 +115,7 @@ QPushButton* PublishPanel::MakeButton(PageBuilder& page, ControlName name, TextV
     return button;
 }
 
-void PublishPanel::Begin()
+void PublishPanel::PageShown()
 {
     m_missing.clear();
     m_to->Refresh();
@@ -139,7 +139,7 @@ void PublishPanel::FindMissing(PublishMode mode, const MissingFiles& missing, Te
     m_from->FolderBox()->setFocus();
 }
 
-QPushButton* PublishPanel::Action() const
+QPushButton* PublishPanel::DefaultButton() const
 {
     switch (m_mode) {
     case PublishMode::MissingInFolder:
@@ -157,7 +157,7 @@ void PublishPanel::ShowMissing()
     lstMissingFiles->clear();
     for (const Text& name : m_missing)
         lstMissingFiles->addItem(ToQt(name));
-    emit ActionChanged();
+    emit DefaultButtonChanged();
 }
 
 void PublishPanel::Show(PublishMode mode)
@@ -193,7 +193,7 @@ void PublishPanel::PublishFiles()
     if (!ValueIn(copied).empty())
         FindMissing(PublishMode::MissingInFolder, ValueIn(copied), folder);
     else if (!std::exchange(m_isPublished, true))
-        emit ActionChanged();
+        emit DefaultButtonChanged();
 }
 
 void PublishPanel::CopyByHand()

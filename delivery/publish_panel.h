@@ -33,7 +33,7 @@ public:
     PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderWindow makeFolder);
 
     /// Called when the page is shown: shows the publishing controls, with no file missing.
-    void Begin();
+    void PageShown();
 
     /// Shows a folder in the "Copy to" boxes; does nothing when it cannot be read.
     void GoTo(TextView folder);
@@ -43,13 +43,13 @@ public:
     void FindMissing(PublishMode mode, const MissingFiles& missing, TextView toFolder);
 
     /// The button that Enter is to press in this mode; null when everything was published.
-    QPushButton* Action() const;
+    QPushButton* DefaultButton() const;
 
 signals:
     /// The wizard's own buttons are to be shown or hidden with those of this panel.
     void ControlsChanged(const orvane::PublishControls& controls);
-    /// Action() may give another button now.
-    void ActionChanged();
+    /// DefaultButton() may give another button now.
+    void DefaultButtonChanged();
     /// The author has finished copying missing files by hand.
     void CopyingDone();
     /// The author has copied what the preview lacked and wants to see it.

@@ -189,7 +189,7 @@ bool DiskFileStore::AreSame(const std::string& path, const std::string& other) c
     FileStatus one{};
     FileStatus two{};
     return !Retried([&] { return m_calls.StatusAt(path, one); }) && S_ISREG(one.st_mode) &&
-           !Retried([&] { return m_calls.StatusAt(other, two); }) && IsOneFile(one, two);
+           !Retried([&] { return m_calls.StatusAt(other, two); }) && AreSameFile(one, two);
 }
 
 /// The names of what is of this kind in a folder, links followed; nothing of the store's own.

@@ -14,7 +14,7 @@ std::string FolderOf(std::string_view path)
     return last == std::string_view::npos ? "./" : std::string(path.substr(0, last + 1));
 }
 
-bool IsOneFile(const FileStatus& one, const FileStatus& other)
+bool AreSameFile(const FileStatus& one, const FileStatus& other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }

@@ -26,7 +26,7 @@ std::error_code Retried(Call call)
 std::string FolderOf(std::string_view path);
 
 /// Whether both describe the same file, by device and inode.
-bool IsOneFile(const FileStatus& one, const FileStatus& other);
+bool AreSameFile(const FileStatus& one, const FileStatus& other);
 
 /// An open file or folder, closed with the object. Interrupted calls are repeated, and reads and
 /// writes that stop early are continued. Failures of closing are ignored: what must be on the disk

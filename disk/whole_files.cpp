@@ -69,8 +69,8 @@ std::error_code WholeFiles::MustBeCopy(const std::string& path, const std::strin
     FileStatus status{};
     if (const auto error = Retried([&] { return m_calls.StatusAt(other, status); }))
         return error;
-    return IsOneFile(copy.Status(), status) ? std::make_error_code(std::errc::operation_canceled)
-                                            : copy.MustHold(bytes);
+    return AreSameFile(copy.Status(), status) ? std::make_error_code(std::errc::operation_canceled)
+                                              : copy.MustHold(bytes);
 }
 
 std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,

@@ -57,11 +57,11 @@ class EngineView : public WebView
 public:
     EngineView(WebViewOwner& owner, QWidget* parent)
         : WebView(parent),
-          m_room{.Owner = owner,
-                 .Guard = m_guard,
-                 .Token = QUuid::createUuid().toString(),
-                 .Hung = [this] { EndPage(PageEnd::Hung); }},
-          m_view(m_room, this)
+          m_context{.Owner = owner,
+                    .Guard = m_guard,
+                    .Token = QUuid::createUuid().toString(),
+                    .Hung = [this] { EndPage(PageEnd::Hung); }},
+          m_view(m_context, this)
     {
         SetUpProfile();
         auto* layout = new QVBoxLayout(this);
@@ -73,7 +73,7 @@ public:
 
     ~EngineView() override
     {
-        m_room.CloseWindows();
+        m_context.CloseWindows();
         delete m_page;
     }
 
@@ -84,8 +84,8 @@ public:
                 MakePage();
             m_isSpare = false;
             m_guard.SetFolder(PageFolder(path));
-            m_room.Page = QUrl::fromLocalFile(ToQt(path));
-            m_page->load(m_room.Page);
+            m_context.Page = QUrl::fromLocalFile(ToQt(path));
+            m_page->load(m_context.Page);
         });
     }
 
@@ -112,7 +112,7 @@ private:
 
     FolderGuard m_guard;
     QWebEngineProfile m_profile; ///< without a name: it leaves nothing on the disk
-    PageRoom m_room;
+    PageContext m_context;
     PageView m_view;
     PreviewWebPage* m_page = nullptr;
     bool m_isSpare = false; ///< nothing was shown in the page yet
@@ -142,20 +142,20 @@ void EngineView::SetUpProfile()
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::MainWorld);
     script.setRunsOnSubFrames(true);
-    script.setSourceCode(PreviewScript(m_room.Token));
+    script.setSourceCode(PreviewScript(m_context.Token));
     m_profile.scripts()->insert(script);
 }
 
 void EngineView::MakePage()
 {
-    m_room.CloseWindows();
-    m_room.Page.clear();
-    m_room.AuthorActed = false;
+    m_context.CloseWindows();
+    m_context.Page.clear();
+    m_context.AuthorActed = false;
     m_isSpare = true;
     PreviewWebPage* former = m_page;
-    m_page = new PreviewWebPage(m_profile, m_room, m_view);
+    m_page = new PreviewWebPage(m_profile, m_context, m_view);
     m_page->StatusWritten = [this](const QString& status) {
-        m_room.Owner.StatusWritten(FromQt(status));
+        m_context.Owner.StatusWritten(FromQt(status));
     };
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status, int) {
@@ -175,16 +175,16 @@ void EngineView::EndPage(PageEnd end)
         if (m_page != ended)
             return;
         Clear();
-        m_room.Owner.PageEnded(end);
+        m_context.Owner.PageEnded(end);
     });
 }
 
 /// Goes on to the next page, or none, but not while a box of this one waits for its answer.
 void EngineView::Turn(std::function<void()> toNext)
 {
-    m_room.AfterBox = nullptr;
-    if (m_room.BoxOpen)
-        m_room.AfterBox = [this, toNext] { QTimer::singleShot(0, this, toNext); };
+    m_context.AfterBox = nullptr;
+    if (m_context.BoxOpen)
+        m_context.AfterBox = [this, toNext] { QTimer::singleShot(0, this, toNext); };
     else
         toNext();
 }

@@ -50,13 +50,13 @@ void FolderGuard::interceptRequest(QWebEngineUrlRequestInfo& request)
         request.block(true);
 }
 
-void PageRoom::CloseWindows()
+void PageContext::CloseWindows()
 {
     for (const QPointer<QWidget>& window : std::exchange(Windows, {}))
         delete window.data();
 }
 
-PageBoxReply PageRoom::Answer(const PageBox& box)
+PageBoxReply PageContext::Answer(const PageBox& box)
 {
     const bool inOther = std::exchange(BoxOpen, true);
     const PageBoxReply reply = Owner.AnswerBox(box);
@@ -71,7 +71,8 @@ PageBoxReply PageRoom::Answer(const PageBox& box)
     return reply;
 }
 
-PageWindow::PageWindow(PageRoom& room, QWidget& owner) : QWidget(&owner, Qt::Window), m_room(room)
+PageWindow::PageWindow(PageContext& context, QWidget& owner)
+    : QWidget(&owner, Qt::Window), m_context(context)
 {
     setObjectName("PageWindow");
     // So nothing that must outlive it takes it for an owner.
@@ -81,24 +82,24 @@ PageWindow::PageWindow(PageRoom& room, QWidget& owner) : QWidget(&owner, Qt::Win
 
 void PageWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!m_room.BoxOpen);
-    if (m_room.BoxOpen)
+    event->setAccepted(!m_context.BoxOpen);
+    if (m_context.BoxOpen)
         hide();
 }
 
-PreviewWebPage::PreviewWebPage(QWebEngineProfile& profile, PageRoom& room, QWidget& view)
+PreviewWebPage::PreviewWebPage(QWebEngineProfile& profile, PageContext& context, QWidget& view)
     : QWebEnginePage(&profile, &view),
-      m_room(room),
+      m_context(context),
       m_view(view),
       m_watch(
-          *this, [&room] { return room.BoxOpen; }, [this] { StopHung(); })
+          *this, [&context] { return context.BoxOpen; }, [this] { StopHung(); })
 {
     RefusePrivileges();
     connect(this, &QWebEnginePage::newWindowRequested, this, &PreviewWebPage::OpenWindow);
     connect(this, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo& load) {
         if (load.status() != QWebEngineLoadingInfo::LoadStartedStatus &&
-            m_room.Page.matches(load.url(), QUrl::RemoveFragment | QUrl::RemoveQuery))
-            m_room.Owner.PageRead();
+            m_context.Page.matches(load.url(), QUrl::RemoveFragment | QUrl::RemoveQuery))
+            m_context.Owner.PageRead();
     });
 }
 
@@ -120,9 +121,9 @@ void PreviewWebPage::RefusePrivileges()
 /// counts as outside.
 bool PreviewWebPage::MayGoTo(const QUrl& url)
 {
-    if (m_room.Page.matches(url, QUrl::RemoveFragment | QUrl::RemoveQuery))
-        m_room.Owner.PageNeeded();
-    return url.scheme() == QLatin1String("javascript") || m_room.Guard.LetsThrough(url);
+    if (m_context.Page.matches(url, QUrl::RemoveFragment | QUrl::RemoveQuery))
+        m_context.Owner.PageNeeded();
+    return url.scheme() == QLatin1String("javascript") || m_context.Guard.LetsThrough(url);
 }
 
 bool PreviewWebPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame)
@@ -139,9 +140,9 @@ void PreviewWebPage::OfferOutside(const QUrl& url)
         return;
     // The engine waits for this decision; the author is asked once it has it, and the page may be
     // gone by then.
-    QTimer::singleShot(0, &m_room.Guard, [&room = m_room, url] {
+    QTimer::singleShot(0, &m_context.Guard, [&context = m_context, url] {
         const QString target = url.isLocalFile() ? url.toLocalFile() : url.toString();
-        room.Owner.OutsideWanted(FromQt(target), std::exchange(room.AuthorActed, false));
+        context.Owner.OutsideWanted(FromQt(target), std::exchange(context.AuthorActed, false));
     });
 }
 
@@ -150,13 +151,13 @@ void PreviewWebPage::StopHung()
 {
     if (const qint64 pid = renderProcessPid(); pid > 0)
         kill(static_cast<pid_t>(pid), SIGKILL);
-    m_room.Hung();
+    m_context.Hung();
 }
 
 PageBoxReply PreviewWebPage::Answer(PageBox::Kind shape, const QString& words,
                                     const QString& proposed)
 {
-    return m_room.Answer({.Shape = shape, .Words = FromQt(words), .Proposed = FromQt(proposed)});
+    return m_context.Answer({.Shape = shape, .Words = FromQt(words), .Proposed = FromQt(proposed)});
 }
 
 void PreviewWebPage::javaScriptAlert(const QUrl&, const QString& words)
@@ -180,9 +181,9 @@ bool PreviewWebPage::javaScriptPrompt(const QUrl&, const QString& words, const Q
 void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message,
                                               int, const QString&)
 {
-    if (!message.startsWith(m_room.Token))
+    if (!message.startsWith(m_context.Token))
         return;
-    const QString report = message.mid(m_room.Token.size());
+    const QString report = message.mid(m_context.Token.size());
     const bool isStatus = report.startsWith(u'=');
     if (!isStatus)
         m_watch.Start();
@@ -200,15 +201,15 @@ void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
     const QUrl url = request.requestedUrl();
     if (!url.isEmpty() && !MayGoTo(url))
         return OfferOutside(url);
-    std::erase_if(m_room.Windows, [](const auto& window) { return window.isNull(); });
-    if (m_room.Windows.size() >= mostWindows)
+    std::erase_if(m_context.Windows, [](const auto& window) { return window.isNull(); });
+    if (m_context.Windows.size() >= mostWindows)
         return;
 
-    auto* window = new PageWindow(m_room, m_view);
+    auto* window = new PageWindow(m_context, m_view);
     const QSize asked = request.requestedGeometry().size();
     window->resize(asked.isEmpty() ? windowSize : asked);
-    auto* view = new PageView(m_room, window);
-    auto* page = new PreviewWebPage(*profile(), m_room, *view);
+    auto* view = new PageView(m_context, window);
+    auto* page = new PreviewWebPage(*profile(), m_context, *view);
     view->setPage(page);
     auto* layout = new QVBoxLayout(window);
     layout->setContentsMargins({});
@@ -216,12 +217,13 @@ void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
     connect(page, &QWebEnginePage::titleChanged, window, &QWidget::setWindowTitle);
     connect(page, &QWebEnginePage::windowCloseRequested, window, &QWidget::close);
     connect(page, &QWebEnginePage::renderProcessTerminated, window, &QWidget::close);
-    m_room.Windows.emplace_back(window);
+    m_context.Windows.emplace_back(window);
     request.openIn(page);
     window->show();
 }
 
-PageView::PageView(PageRoom& room, QWidget* parent) : QWebEngineView(parent), m_room(room)
+PageView::PageView(PageContext& context, QWidget* parent)
+    : QWebEngineView(parent), m_context(context)
 {
     setContextMenuPolicy(Qt::NoContextMenu);
 }
@@ -244,7 +246,7 @@ bool PageView::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
     if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress || type == QEvent::TouchBegin)
-        m_room.AuthorActed = true;
+        m_context.AuthorActed = true;
     return QWebEngineView::eventFilter(watched, event);
 }
 

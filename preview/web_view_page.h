@@ -34,7 +34,7 @@ private:
 };
 
 /// What the shown page and the windows that it opened share.
-struct PageRoom
+struct PageContext
 {
     WebViewOwner& Owner;
     FolderGuard& Guard;
@@ -59,13 +59,13 @@ struct PageRoom
 class PageWindow : public QWidget
 {
 public:
-    PageWindow(PageRoom& room, QWidget& owner);
+    PageWindow(PageContext& context, QWidget& owner);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    PageRoom& m_room;
+    PageContext& m_context;
 };
 
 /// A page under the rules of the preview: it loads nothing from outside, the owner shows its boxes,
@@ -75,7 +75,7 @@ class PreviewWebPage : public QWebEnginePage
 {
 public:
     /// Makes a page whose parent is `view`.
-    PreviewWebPage(QWebEngineProfile& profile, PageRoom& room, QWidget& view);
+    PreviewWebPage(QWebEngineProfile& profile, PageContext& context, QWidget& view);
 
     /// Called, if set, with what the page wrote into its status line; with an empty text when a
     /// page begins.
@@ -100,24 +100,24 @@ private:
     void StopHung();
     PageBoxReply Answer(PageBox::Kind shape, const QString& words, const QString& proposed = {});
 
-    PageRoom& m_room;
+    PageContext& m_context;
     QWidget& m_view;
     AnswerWatch m_watch;
 };
 
-/// A browser view without a context menu, which notes in PageRoom::AuthorActed that the author
+/// A browser view without a context menu, which notes in PageContext::AuthorActed that the author
 /// clicked or typed.
 class PageView : public QWebEngineView
 {
 public:
-    PageView(PageRoom& room, QWidget* parent);
+    PageView(PageContext& context, QWidget* parent);
 
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    PageRoom& m_room;
+    PageContext& m_context;
 };
 
 } // namespace orvane

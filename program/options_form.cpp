@@ -102,7 +102,7 @@ void OptionsForm::Take()
         .cboWebPageEditor = FromQt(cboWebPageEditor->currentText()),
     };
     if (const auto complaint = Check(preferences))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     SavePreferences(preferences, m_bench.Core, m_bench.Settings);
     accept();
 }

@@ -59,7 +59,7 @@ std::vector<EffectKind> EffectsOfTags()
 {
     std::set<EffectKind> kinds(animationWizards.begin(), animationWizards.end());
     for (const AppletRow& row : rows)
-        if (row.Goes.Outcome == Way::Wizard)
+        if (row.Goes.Next == Way::Wizard)
             kinds.insert(row.Goes.Kind);
     return {kinds.begin(), kinds.end()};
 }

@@ -32,7 +32,7 @@ struct AppletDispatch
         Choice,        ///< the author picks one of three wizards
         Wizard,        ///< the wizard of Kind
     };
-    Way Outcome = Way::NotRecognized;
+    Way Next = Way::NotRecognized;
     EffectKind Kind = EffectKind::None;
     bool operator==(const AppletDispatch&) const = default;
 };

@@ -103,7 +103,7 @@ void EditAppletForm::Edit()
     core.AppletTextAfterCODE = letters.AppletTextAfterCODE;
     core.AppletText = letters.AppletText;
     const AppletDispatch dispatch = RecognizeApplet(core.AppletTextAfterCODE);
-    switch (dispatch.Outcome) {
+    switch (dispatch.Next) {
     case AppletDispatch::Way::Choice:
         m_panels->setCurrentIndex(1);
         m_choices[0]->setFocus(Qt::OtherFocusReason);

@@ -1,20 +1,18 @@
 #include "services/preferences.h"
 
+#include "services/page_editors.h"
+
 namespace orvane {
 
 namespace {
 
 // Stays as it is: "Dream Weaver" in two words here, in one in the delivery wizard.
-constexpr TextView webPageEditors[] = {u"AOLPress",
-                                       u"FrontPage",
-                                       u"FrontPage Express",
-                                       u"Dream Weaver",
-                                       u"Microsoft Publisher 98",
-                                       u"NetObjects Fusion",
-                                       u"Netscape Composer",
-                                       u"Page Loom",
-                                       u"Yahoo/Geocities PageBuilder",
-                                       u"Other"};
+constexpr auto webPageEditors = [] {
+    std::array<TextView, pageEditors.size()> names;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = pageEditors[i].Name == u"DreamWeaver" ? u"Dream Weaver" : pageEditors[i].Name;
+    return names;
+}();
 
 TextView Flag(bool isOn)
 {

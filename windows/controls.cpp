@@ -144,7 +144,7 @@ void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic)
                      [&help, topic] { help.ShowTopic(topic); });
 }
 
-void Report(QWidget& window, Dialogs& dialogs, const Complaint& complaint)
+void ShowComplaint(QWidget& window, Dialogs& dialogs, const Complaint& complaint)
 {
     dialogs.Say(complaint.Words, complaint.Look);
     if (complaint.Control.empty())

@@ -40,7 +40,7 @@ QAction* AddCommand(QMenu& menu, ControlName name, TextView caption);
 void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic);
 
 /// Shows the complaint's words and gives its control the focus; without a control the focus stays.
-void Report(QWidget& window, Dialogs& dialogs, const Complaint& complaint);
+void ShowComplaint(QWidget& window, Dialogs& dialogs, const Complaint& complaint);
 
 /// Lets Tab walk the window's controls in reading order, which is the order of its layouts.
 void SetReadingOrder(QWidget& window);

@@ -89,8 +89,8 @@ protected:
     {
         const Effect effect = Parameters();
         if (const auto complaint = CheckHere(effect))
-            return Report(*complaint);
-        if (const int page = PageBehind(Page()); page >= 0)
+            return ShowComplaint(*complaint);
+        if (const int page = PageAfter(Page()); page >= 0)
             GoTo(page);
         else
             Finish(effect);

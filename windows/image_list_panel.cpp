@@ -1,9 +1,9 @@
 #include "windows/image_list_panel.h"
 
 #include "core/file_names.h"
+#include "services/add_once.h"
 #include "services/move_row.h"
 #include "services/recorded_files.h"
-#include "services/said_once.h"
 #include "windows/file_drop.h"
 #include "windows/folder_boxes.h"
 #include "windows/parallel_lists.h"
@@ -194,9 +194,9 @@ void ImageListPanel::AddFiles(const std::vector<Text>& paths)
     std::vector<Complaint> complaints;
     std::size_t place = PlaceToAdd(m_list);
     for (const Text& path : paths) {
-        const std::optional<Complaint> complaint = AddFile(path, place);
-        AddOnce(complaints, complaint);
-        if (!complaint)
+        if (const auto complaint = AddFile(path, place))
+            AddOnce(complaints, *complaint);
+        else
             ++place;
     }
     ShowList();

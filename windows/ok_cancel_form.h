@@ -32,7 +32,10 @@ protected:
     void AddButtons(TextView okCaption = u"&OK");
 
     /// Shows the complaint's words and gives its control the focus.
-    void Report(const Complaint& complaint) { orvane::Report(*this, m_bench.Dialogs, complaint); }
+    void ShowComplaint(const Complaint& complaint)
+    {
+        orvane::ShowComplaint(*this, m_bench.Dialogs, complaint);
+    }
 
     /// Called when OK is pressed: closes the window by accept(), or reports what is wrong.
     virtual void Take() = 0;

@@ -14,7 +14,7 @@ PageBuilder PagedForm::AddPage(const WizardPage& words)
     return WizardForm::AddPage();
 }
 
-int PagedForm::PageBehind(int page) const
+int PagedForm::PageAfter(int page) const
 {
     return page + 1 < PanelCount() ? page + 1 : -1;
 }
@@ -25,8 +25,8 @@ void PagedForm::GoTo(int page)
     SetHeading(words.Heading, words.SubHeading);
     if (cmdPrevious != nullptr) {
         cmdPrevious->setEnabled(page > 0);
-        cmdNext->setText(PageBehind(page) < 0 ? QStringLiteral("&Done")
-                                              : QStringLiteral("&Next >>"));
+        cmdNext->setText(PageAfter(page) < 0 ? QStringLiteral("&Done")
+                                             : QStringLiteral("&Next >>"));
     }
     ShowPanel(page);
     auto* control =

@@ -33,7 +33,7 @@ protected:
     const WizardPage& WordsOf(int page) const { return m_words.at(static_cast<std::size_t>(page)); }
 
     /// The page that "Next" leads to from this one; -1 when the wizard ends with it.
-    virtual int PageBehind(int page) const;
+    virtual int PageAfter(int page) const;
 
     /// The page that "Previous" leads to from this one.
     virtual int PageBefore(int page) const { return page - 1; }

@@ -54,7 +54,10 @@ protected:
     LinkLabel* AddOffer(ControlName name, TextView words);
 
     /// Shows the complaint's words and gives its control the focus.
-    void Report(const Complaint& complaint) { orvane::Report(*this, m_bench.Dialogs, complaint); }
+    void ShowComplaint(const Complaint& complaint)
+    {
+        orvane::ShowComplaint(*this, m_bench.Dialogs, complaint);
+    }
 
     /// Shows short words beside the buttons, on what was done, for five seconds.
     void Tell(TextView words) { m_note->Tell(words); }

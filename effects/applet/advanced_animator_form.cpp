@@ -103,7 +103,7 @@ void AdvancedAnimatorForm::Save()
 {
     AnimationProject project = Project();
     if (const auto complaint = CheckProject(project.Animation))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     if (!SaveProject(project, m_bench.Dialogs, m_bench.Files))
         return;
     KeepProject(project);

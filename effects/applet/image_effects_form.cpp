@@ -92,7 +92,7 @@ void ImageEffectsForm::TakeImage(const Text& path)
 {
     ImageEffects effects = Parameters();
     if (const auto complaint = ChooseImage(effects, Measured(path)))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     Show(effects);
 }
 

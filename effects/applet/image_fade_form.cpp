@@ -2,7 +2,7 @@
 
 #include "core/pick_lists.h"
 #include "effects/applet/image_fade_url_form.h"
-#include "services/said_once.h"
+#include "services/add_once.h"
 #include "windows/file_drop.h"
 #include "windows/picture.h"
 #include "windows/row_list_panel.h"
@@ -95,12 +95,13 @@ void ImageFadeForm::AddImages(const std::vector<Text>& paths)
     const std::size_t before = fade.FadeImages.size();
     std::vector<Complaint> complaints;
     for (const Text& path : paths)
-        AddOnce(complaints, orvane::AddImage(fade, Measured(path)));
+        if (const auto complaint = orvane::AddImage(fade, Measured(path)))
+            AddOnce(complaints, *complaint);
     Show(fade);
     if (before < fade.FadeImages.size())
         m_images->Select(fade.FadeImages.size() - 1);
     for (const Complaint& complaint : complaints)
-        Report(complaint);
+        ShowComplaint(complaint);
 }
 
 void ImageFadeForm::EditLink()

@@ -29,7 +29,7 @@ Text ImageFadeURLForm::URL() const
 void ImageFadeURLForm::Take()
 {
     if (const auto complaint = CheckFadeLink(URL()))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     txtURL->setText(ToQt(WithScheme(URL())));
     accept();
 }

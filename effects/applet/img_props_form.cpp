@@ -120,7 +120,7 @@ void ImgPropsForm::Take()
 {
     const ImageProperties properties = Properties();
     if (const auto complaint = Check(properties))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     m_row = WithProperties(m_row, properties);
     accept();
 }

@@ -72,7 +72,7 @@ void MoreImageEffectsForm::TakeImage(const Text& path)
 {
     MoreImageEffects effects = Parameters();
     if (const auto complaint = ChooseImage(effects, Measured(path)))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     SetParameters(effects);
 }
 

@@ -102,7 +102,7 @@ void PasswordProtectionForm::UpdateForm()
     PerlPath->setEnabled(fields.ChangeSettings);
 }
 
-int PasswordProtectionForm::PageBehind(int page) const
+int PasswordProtectionForm::PageAfter(int page) const
 {
     if (page != scheme)
         return -1;
@@ -140,7 +140,7 @@ void PasswordProtectionForm::Deliver(EffectPayload payload)
             PathIn(m_bench.Core.ProgramFolder, passwordScriptName),
             EncodeForPage(PasswordScript(Parameters()), PageEncoding::Windows1252));
         if (const Fault* fault = FaultIn(written))
-            return Report({Text(Words(*fault)), {}});
+            return ShowComplaint({Text(Words(*fault)), {}});
     }
     EffectForm::Deliver(std::move(payload));
 }

@@ -19,7 +19,7 @@ public:
 protected:
     void UpdateForm() override;
     void Next() override;
-    int PageBehind(int page) const override;
+    int PageAfter(int page) const override;
     int PageBefore(int page) const override;
     void TakeDraft(TextView draft) override;
     void Deliver(EffectPayload payload) override;

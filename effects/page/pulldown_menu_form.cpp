@@ -65,7 +65,7 @@ void PulldownMenuForm::EditItem()
     const RowList& rows = m_items->Rows();
     const std::vector<Text>& row = rows.Rows.at(rows.Selected.value());
     if (const auto complaint = CheckEdit(row[0]))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     auto* window = new PulldownURLForm(m_bench, {row[0], row[1]}, this);
     window->Begin([this, window] {
         const MenuItem item = window->Item();

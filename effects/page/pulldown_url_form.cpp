@@ -38,7 +38,7 @@ void PulldownURLForm::Take()
 {
     MenuItem item = Item();
     if (const auto complaint = Check(item))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     Tidy(item);
     txtMenuItemURL->setText(ToQt(item.txtMenuItemURL));
     accept();

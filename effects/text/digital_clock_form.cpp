@@ -102,7 +102,7 @@ void DigitalClockForm::ChangePage(int page)
     if (const auto complaint = Check(clock); complaint && page > 2) {
         m_position.CurrentPage = 2;
         --m_position.CurrentStep;
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     }
     GoTo(page - 1);
     const WizardPage& words = WordsOf(page - 1);

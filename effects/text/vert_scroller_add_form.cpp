@@ -49,7 +49,7 @@ std::vector<Text> VertScrollerAddForm::Row() const
 void VertScrollerAddForm::Take()
 {
     if (const auto complaint = CheckScrollerItem(txtItem->Words()))
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     accept();
 }
 

@@ -104,7 +104,7 @@ void VerticalScrollerForm::ChangePage()
     const VerticalScroller scroller = Parameters();
     if (const auto complaint = CheckPage(scroller, m_page - 1)) {
         GoTo(--m_page);
-        return Report(*complaint);
+        return ShowComplaint(*complaint);
     }
     if (m_page == endOfWizard)
         Finish(scroller);

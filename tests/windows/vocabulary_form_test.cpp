@@ -136,9 +136,9 @@ TEST_F(VocabularyTest, AComplaintWithoutAControlLeavesTheFocusWhereItWas)
     m_page.Buttons({m_page.Button("cmd", u"Go")});
     Show();
     Find<QWidget>(m_window, "cmd")->setFocus();
-    Report(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = {}});
+    ShowComplaint(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = {}});
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmd"));
-    Report(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = "txt"});
+    ShowComplaint(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = "txt"});
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("txt"));
 }
 
