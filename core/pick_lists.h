@@ -17,6 +17,15 @@ inline constexpr std::array<TextView, 18> FontSizes = {u"4",  u"6",  u"8",  u"9"
                                                        u"12", u"14", u"16", u"18", u"20", u"22",
                                                        u"24", u"28", u"30", u"36", u"48", u"72"};
 
+/// The fonts that the windows offer for the text of a page.
+inline constexpr std::array<TextView, 10> pageFonts = {
+    u"Arial",         u"Courier", u"Courier New", u"Terminal",        u"MS Serif",
+    u"MS Sans Serif", u"Symbol",  u"Modern",      u"Times New Roman", u"Wingdings"};
+
+/// The font styles that the windows offer for the text of a page.
+inline constexpr std::array<TextView, 4> fontStyles = {u"Normal", u"Bold", u"Italic",
+                                                       u"Bold Italic"};
+
 inline constexpr std::array<TextView, 9> AppletAlignments = {
     u"Top",     u"Middle",    u"Bottom(Default)", u"Left",     u"Right",
     u"Texttop", u"Absmiddle", u"Baseline",        u"Absbottom"};

@@ -1,6 +1,6 @@
 #include "delivery/bring_back_form.h"
 
-#include "insertion/new_page.h"
+#include "delivery/page_requests.h"
 #include "windows/qt_text.h"
 
 #include <QDateTime>
@@ -110,7 +110,7 @@ void BringBackForm::Take()
     accept();
 }
 
-KeptPages BringBackForm::Kept() const
+KeptPagesPlace BringBackForm::Kept() const
 {
     return KeptPagesIn(m_bench.StateFolder, m_bench.Today());
 }

@@ -27,7 +27,7 @@ protected:
 private:
     void BrowseForPage();
     void ShowBackups();
-    KeptPages Kept() const;
+    KeptPagesPlace Kept() const;
 
     Text m_page;
     std::vector<PageBackup> m_backups;

@@ -47,7 +47,7 @@ void FinishPanel::PageShown()
     lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
     cmdOpenPage->setVisible(!m_report.Page().empty());
     cmdOpenFolder->setVisible(!m_report.Folder().empty());
-    const KeptPages kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
     cmdBringBack->setVisible(!m_report.Page().empty() &&
                              !BackupsOf(m_bench.Files, kept, m_report.Page()).empty());
     lstFilesToUpload->clear();

@@ -1,6 +1,7 @@
 #include "delivery/insert_panel.h"
 
 #include "core/file_names.h"
+#include "delivery/page_requests.h"
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
 #include "services/recent_files.h"
@@ -106,7 +107,7 @@ void InsertPanel::InsertIntoPage()
     if (const auto complaint = CheckPageName(name))
         return emit Complained(*complaint);
     const Text page = PagePath(name, FromQt(QDir::currentPath()));
-    const KeptPages kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
     switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_desk.Payload, kept)) {
     case AutoInsertion::NothingDone:
         return;

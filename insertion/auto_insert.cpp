@@ -1,12 +1,6 @@
 #include "insertion/auto_insert.h"
 
-#include "core/file_names.h"
-#include "core/numbers.h"
-#include "disk/program_folder.h"
 #include "insertion/page_script.h"
-
-#include <filesystem>
-#include <tuple>
 
 namespace orvane {
 
@@ -58,37 +52,7 @@ AutoInsertion Tell(Dialogs& dialogs, Fault fault)
     return AutoInsertion::NothingDone;
 }
 
-Done MakeFoldersFor(FileStore& files, TextView path)
-{
-    const TextView folder = FolderOf(path);
-    return MakeFolders(files, Left(folder, folder.size() - 1), Access::OwnerAlone);
-}
-
-/// Whatever already lies at that place, even unreadable, is an earlier backup and stays.
-void KeepFirstBackup(FileStore& files, const KeptPages& kept, TextView page, std::string_view bytes)
-{
-    const Text path = KeptPagePath(kept, page);
-    if (files.IsTaken(path))
-        return;
-    if (!FaultIn(MakeFoldersFor(files, path)))
-        std::ignore = files.PutNew(path, bytes, page);
-}
-
 } // namespace
-
-Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view bytes)
-{
-    const Done done = files.PutNew(backup, bytes, page);
-    if (FaultIn(done))
-        return done;
-    // A page that is a link to its own backup has none.
-    const auto isKept = files.IsCopyOf(backup, page, bytes);
-    if (const Fault* fault = FaultIn(isKept))
-        return *fault;
-    if (!ValueIn(isKept))
-        return Fault::PathFileAccess;
-    return {};
-}
 
 std::optional<Complaint> CheckPageName(TextView txtFileName)
 {
@@ -105,39 +69,8 @@ Text PagePath(TextView txtFileName, TextView currentFolder)
     return PathIn(currentFolder, txtFileName);
 }
 
-Text BackupPath(TextView page)
-{
-    return Join({FolderOf(page), u"Backup of ", GetFileName(page)});
-}
-
-Done KeepPage(FileStore& files, const KeptPages& kept, TextView page, std::string_view bytes)
-{
-    Done made = MakeFolders(files, kept.Folder, Access::OwnerAlone);
-    if (FaultIn(made))
-        return made;
-    // A folder that is new holds nothing that could be written over.
-    KeptPages place = kept;
-    int number = 2;
-    do {
-        place.Day = Join({kept.Day, u" ", NumberToText(number)});
-        made = files.MakeFolder(PathIn(kept.Folder, place.Day), Access::OwnerAlone);
-    } while (made == Done(Fault::PathFileAccess) && ++number < 10000);
-    if (FaultIn(made))
-        return made;
-    const Text path = KeptPagePath(place, page);
-    made = MakeFoldersFor(files, path);
-    return FaultIn(made) ? made : BackUp(files, path, page, bytes);
-}
-
-Text KeptPagePath(const KeptPages& kept, TextView page)
-{
-    // Without this, ".." in a page's path would lead out of the folder.
-    const auto plain = std::filesystem::path(ToUtf8(page)).lexically_normal();
-    return PathIn(kept.Folder, kept.Day) + FromUtf8(plain.string());
-}
-
 AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
-                         const FinishedPayload& payload, const KeptPages& kept)
+                         const FinishedPayload& payload, const KeptPagesPlace& kept)
 {
     const auto read = files.Read(page);
     if (const Fault* fault = FaultIn(read))

@@ -38,20 +38,4 @@ Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payl
     return files.Replace(path, NewPageBytes(payload));
 }
 
-FileRequest NewPageRequest()
-{
-    return {.Title = u"Save As",
-            .Filter = Text(webPageFilter),
-            .FilterIndex = 2,
-            .Purpose = FolderPurpose::Pages};
-}
-
-FileRequest ExistingPageRequest()
-{
-    return {.Title = u"Browse...",
-            .Filter = Text(webPageFilter),
-            .FilterIndex = 2,
-            .Purpose = FolderPurpose::Pages};
-}
-
 } // namespace orvane

@@ -1,8 +1,11 @@
 #include "insertion/page_backups.h"
 
 #include "core/numbers.h"
+#include "disk/program_folder.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <tuple>
 
 namespace orvane {
 
@@ -27,9 +30,70 @@ Text CountBytes(std::uint64_t count)
     return Join({FromUtf8(std::to_string(count)), count == 1 ? u" byte" : u" bytes"});
 }
 
+Done MakeFoldersFor(FileStore& files, TextView path)
+{
+    const TextView folder = FolderOf(path);
+    return MakeFolders(files, Left(folder, folder.size() - 1), Access::OwnerAlone);
+}
+
 } // namespace
 
-std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPages& kept, TextView page)
+Text BackupPath(TextView page)
+{
+    return Join({FolderOf(page), u"Backup of ", GetFileName(page)});
+}
+
+Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view bytes)
+{
+    const Done done = files.PutNew(backup, bytes, page);
+    if (FaultIn(done))
+        return done;
+    // A page that is a link to its own backup has none.
+    const auto isKept = files.IsCopyOf(backup, page, bytes);
+    if (const Fault* fault = FaultIn(isKept))
+        return *fault;
+    if (!ValueIn(isKept))
+        return Fault::PathFileAccess;
+    return {};
+}
+
+void KeepFirstBackup(FileStore& files, const KeptPagesPlace& kept, TextView page,
+                     std::string_view bytes)
+{
+    const Text path = KeptPagePath(kept, page);
+    if (files.IsTaken(path))
+        return;
+    if (!FaultIn(MakeFoldersFor(files, path)))
+        std::ignore = files.PutNew(path, bytes, page);
+}
+
+Done KeepPage(FileStore& files, const KeptPagesPlace& kept, TextView page, std::string_view bytes)
+{
+    Done made = MakeFolders(files, kept.Folder, Access::OwnerAlone);
+    if (FaultIn(made))
+        return made;
+    // A folder that is new holds nothing that could be written over.
+    KeptPagesPlace place = kept;
+    int number = 2;
+    do {
+        place.Day = Join({kept.Day, u" ", NumberToText(number)});
+        made = files.MakeFolder(PathIn(kept.Folder, place.Day), Access::OwnerAlone);
+    } while (made == Done(Fault::PathFileAccess) && ++number < 10000);
+    if (FaultIn(made))
+        return made;
+    const Text path = KeptPagePath(place, page);
+    made = MakeFoldersFor(files, path);
+    return FaultIn(made) ? made : BackUp(files, path, page, bytes);
+}
+
+Text KeptPagePath(const KeptPagesPlace& kept, TextView page)
+{
+    // Without this, ".." in a page's path would lead out of the folder.
+    const auto plain = std::filesystem::path(ToUtf8(page)).lexically_normal();
+    return PathIn(kept.Folder, kept.Day) + FromUtf8(plain.string());
+}
+
+std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPagesPlace& kept, TextView page)
 {
     std::vector<Text> paths = {BackupPath(page)};
     const auto days = files.SubFolders(kept.Folder);
@@ -55,7 +119,7 @@ Text CompareSizes(std::uint64_t backup, std::uint64_t page)
 }
 
 bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backup,
-               const KeptPages& kept)
+               const KeptPagesPlace& kept)
 {
     const auto earlier = files.Read(backup);
     if (const Fault* fault = FaultIn(earlier))

@@ -1,10 +1,47 @@
 #pragma once
 
-#include "insertion/auto_insert.h"
+#include "core/dialogs.h"
+#include "core/file_names.h"
+#include "core/file_store.h"
 
 #include <vector>
 
 namespace orvane {
+
+/// Where pages are kept as they were before a day's first insertion, and before an earlier version
+/// was brought back.
+struct KeptPagesPlace
+{
+    Text Folder; ///< full path in the user's state folder; created when it is missing
+    Text Day;    ///< such as "2024-05-31"
+};
+
+/// The place of the kept pages in a user's state folder, for that day.
+inline KeptPagesPlace KeptPagesIn(TextView stateFolder, Text day)
+{
+    return {PathIn(stateFolder, u"first-backups"), std::move(day)};
+}
+
+/// The full path of the backup in the page's own folder.
+Text BackupPath(TextView page);
+
+/// Writes the backup and checks it: it must be a file other than the page, with these bytes;
+/// PathFileAccess when it is not. Nobody gets more rights to it than to the page.
+[[nodiscard]] Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view bytes);
+
+/// Puts the day's first backup of a page among the kept pages. Whatever already lies at its place,
+/// even unreadable, is an earlier backup and stays; nobody is told of a failure.
+void KeepFirstBackup(FileStore& files, const KeptPagesPlace& kept, TextView page,
+                     std::string_view bytes);
+
+/// Puts these bytes among the kept pages, in a folder of their own so that no earlier backup is
+/// overwritten, and checks them as BackUp() does.
+[[nodiscard]] Done KeepPage(FileStore& files, const KeptPagesPlace& kept, TextView page,
+                            std::string_view bytes);
+
+/// The full path of a day's first backup of that page: the page's own path, below the folder and
+/// the day. Expects a full path.
+Text KeptPagePath(const KeptPagesPlace& kept, TextView page);
 
 /// An earlier version of a page.
 struct PageBackup
@@ -16,7 +53,8 @@ struct PageBackup
 
 /// The backups of a page, newest first: the one in its folder and those among the kept pages. A
 /// link is not taken for a backup. Expects a full path.
-std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPages& kept, TextView page);
+std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPagesPlace& kept,
+                                  TextView page);
 
 /// How the size of a backup compares with that of the page, both in bytes: "12 bytes less", "1 byte
 /// more" or "same size".
@@ -27,6 +65,6 @@ Text CompareSizes(std::uint64_t backup, std::uint64_t page);
 /// Whatever fails, the page holds its old bytes or the backup's; a page that another program
 /// changes meanwhile stays as that program left it.
 bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backup,
-               const KeptPages& kept);
+               const KeptPagesPlace& kept);
 
 } // namespace orvane

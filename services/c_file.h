@@ -14,10 +14,6 @@ struct frmCmnDlg
     Text LastFolder; ///< of the last picked file, with its separator; empty before the first
 };
 
-/// The filter of a file kind: 0 pages, 1 images, 2 multimedia, 3 Java, 4 texts, 5 programs, 6
-/// sounds, 7 videos; empty for any other number.
-TextView FileFilter(std::int32_t kind);
-
 /// One use of the file dialogs: set the properties, browse, read the properties. When the picked
 /// name has no folder, an operation gives the fault InvalidProcedureCall and leaves Path as it was.
 class CFile

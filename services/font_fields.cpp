@@ -1,5 +1,7 @@
 #include "services/font_fields.h"
 
+#include "core/pick_lists.h"
+
 namespace orvane {
 
 namespace {

@@ -3,18 +3,7 @@
 #include "core/dialogs.h"
 #include "core/text.h"
 
-#include <array>
-
 namespace orvane {
-
-/// The fonts that the windows offer for the text of a page.
-inline constexpr std::array<TextView, 10> pageFonts = {
-    u"Arial",         u"Courier", u"Courier New", u"Terminal",        u"MS Serif",
-    u"MS Sans Serif", u"Symbol",  u"Modern",      u"Times New Roman", u"Wingdings"};
-
-/// The font styles that the windows offer for the text of a page.
-inline constexpr std::array<TextView, 4> fontStyles = {u"Normal", u"Bold", u"Italic",
-                                                       u"Bold Italic"};
 
 /// The three fields in which an author chooses the font of a page's text.
 struct FontFields

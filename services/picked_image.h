@@ -8,33 +8,6 @@
 
 namespace orvane {
 
-/// The filters of the dialogs that ask for an image and for a Web page.
-inline constexpr TextView imageFilter =
-    u"All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg";
-inline constexpr TextView linkedPageFilter =
-    u"All Files (*.*)|*.*|HTML Files (*.htm, *.html)|*.htm;*.html";
-
-/// The masks of the files that can be dropped on a window where an image is asked for.
-inline constexpr TextView pictureMasks = u"*.gif;*.jpg;*.jpeg";
-
-/// What the dialog is opened with in which the author picks an image.
-inline FileRequest ImageRequest()
-{
-    return {.Title = u"Browse...",
-            .Filter = Text(imageFilter),
-            .FilterIndex = 2,
-            .Purpose = FolderPurpose::Images};
-}
-
-/// What the dialog is opened with in which the author picks a Web page to link to.
-inline FileRequest WebPageRequest()
-{
-    return {.Title = u"Browse...",
-            .Filter = Text(linkedPageFilter),
-            .FilterIndex = 2,
-            .Purpose = FolderPurpose::Links};
-}
-
 /// The size of a picture in pixels.
 struct PixelSize
 {

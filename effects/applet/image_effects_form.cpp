@@ -1,6 +1,7 @@
 #include "effects/applet/image_effects_form.h"
 
 #include "core/pick_lists.h"
+#include "services/file_requests.h"
 #include "windows/color_swatch.h"
 #include "windows/picture.h"
 #include "windows/qt_text.h"

@@ -3,6 +3,7 @@
 #include "core/pick_lists.h"
 #include "effects/applet/image_fade_url_form.h"
 #include "services/add_once.h"
+#include "services/file_requests.h"
 #include "windows/file_drop.h"
 #include "windows/picture.h"
 #include "windows/row_list_panel.h"

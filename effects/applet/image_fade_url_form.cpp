@@ -1,6 +1,7 @@
 #include "effects/applet/image_fade_url_form.h"
 
 #include "effects/applet/image_fade.h"
+#include "services/file_requests.h"
 #include "services/web_address.h"
 #include "windows/qt_text.h"
 

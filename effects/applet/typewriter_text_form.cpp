@@ -1,6 +1,6 @@
 #include "effects/applet/typewriter_text_form.h"
 
-#include "services/picked_image.h"
+#include "services/file_requests.h"
 #include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 

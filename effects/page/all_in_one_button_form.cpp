@@ -1,6 +1,6 @@
 #include "effects/page/all_in_one_button_form.h"
 
-#include "services/c_file.h"
+#include "services/file_requests.h"
 #include "windows/qt_text.h"
 
 #include <QPushButton>
@@ -16,18 +16,6 @@ constexpr TextView heading = u"All-in-One Button";
 constexpr TextView subHeading =
     u"Create a button, link or image that links to another Web page, plays a sound, closes the "
     u"current browser window, add to Favorites List and much more!";
-
-constexpr int pageFiles = 0; ///< filters of the file dialog
-constexpr int imageFiles = 1;
-constexpr int soundFiles = 6;
-
-BrowseRule BrowseFor(ControlName button, TextView caption, int filter, FolderPurpose purpose)
-{
-    return {
-        .Button = button,
-        .Caption = caption,
-        .Request = {.Title = u"Browse", .Filter = Text(FileFilter(filter)), .Purpose = purpose}};
-}
 
 } // namespace
 
@@ -66,9 +54,10 @@ void AllInOneButtonForm::AddTextRow(PageBuilder& frame)
 {
     txtButtonText = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtButtonText->setObjectName(QStringLiteral("txtButtonText"));
-    cmdBrowseForImage =
-        frame.BrowseButton(txtButtonText, BrowseFor("cmdBrowseForImage", u"Browse for image...",
-                                                    imageFiles, FolderPurpose::Images));
+    cmdBrowseForImage = frame.BrowseButton(
+        txtButtonText, {.Button = "cmdBrowseForImage",
+                        .Caption = u"Browse for image...",
+                        .Request = BrowseRequest(imageFiles, FolderPurpose::Images)});
     lblButtonText = frame.Row(u"Button text:", {txtButtonText, cmdBrowseForImage});
     lblButtonText->setObjectName(QStringLiteral("lblButtonText"));
 }
@@ -77,10 +66,14 @@ void AllInOneButtonForm::AddTargetRow(PageBuilder& frame)
 {
     txtURL = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtURL->setObjectName(QStringLiteral("txtURL"));
-    cmdBrowsePage = frame.BrowseButton(
-        txtURL, BrowseFor("cmdBrowse", u"Browse...", pageFiles, FolderPurpose::Links));
-    cmdBrowseSound = frame.BrowseButton(
-        txtURL, BrowseFor("cmdBrowse", u"Browse...", soundFiles, FolderPurpose::Sounds));
+    cmdBrowsePage =
+        frame.BrowseButton(txtURL, {.Button = "cmdBrowse",
+                                    .Caption = u"Browse...",
+                                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links)});
+    cmdBrowseSound =
+        frame.BrowseButton(txtURL, {.Button = "cmdBrowse",
+                                    .Caption = u"Browse...",
+                                    .Request = BrowseRequest(soundFiles, FolderPurpose::Sounds)});
     lblURL = frame.Row(u"Web page URL:", {txtURL, cmdBrowsePage, cmdBrowseSound});
     lblURL->setObjectName(QStringLiteral("lblURL"));
 }

@@ -1,6 +1,6 @@
 #include "effects/page/anti_spam_link_form.h"
 
-#include "services/c_file.h"
+#include "services/file_requests.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -21,9 +21,7 @@ AntiSpamLinkForm::AntiSpamLinkForm(Workbench& bench, QWidget* parent)
     page.LockedBrowseRow("txtImage", u"Image (optional):", {},
                          {.Button = "cmdBrowseForImage",
                           .Caption = u"Browse for image...",
-                          .Request = {.Title = u"Browse",
-                                      .Filter = Text(FileFilter(1)),
-                                      .Purpose = FolderPurpose::Images}});
+                          .Request = BrowseRequest(imageFiles, FolderPurpose::Images)});
     page.TextBox("txtSubject", u"Email subject:");
     page.CheckBox("chkAntiSpam", u"Protect my email address from being taken from my Web page and "
                                  u"used in spam and unsolicited email messages")

@@ -1,13 +1,8 @@
 #include "effects/page/cursor_trail_form.h"
 
+#include "services/file_requests.h"
+
 namespace orvane {
-
-namespace {
-
-constexpr TextView imageFilter =
-    u"All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg";
-
-} // namespace
 
 CursorTrailForm::CursorTrailForm(Workbench& bench, QWidget* parent)
     : EffectForm("frmCursorTrail", bench, parent)

@@ -1,7 +1,7 @@
 #include "effects/page/dynamic_button_form.h"
 
 #include "core/pick_lists.h"
-#include "services/c_file.h"
+#include "services/file_requests.h"
 #include "windows/picture_box.h"
 
 #include <QDateTime>
@@ -66,9 +66,7 @@ void DynamicButtonForm::AddImage(PageBuilder& frame, ControlName name, TextView 
     frame.LockedBrowseRow(name, u"Button Image:", tip,
                           {.Button = "cmdBrowseForImage",
                            .Caption = u"Browse for image...",
-                           .Request = {.Title = u"Browse",
-                                       .Filter = Text(FileFilter(1)),
-                                       .Purpose = FolderPurpose::Images},
+                           .Request = BrowseRequest(imageFiles, FolderPurpose::Images),
                            .Folder = &OrvaneCore::ImageFolderMemo,
                            .NoBlanks = FileRole::Image,
                            .Slot = slot,
@@ -83,9 +81,7 @@ void DynamicButtonForm::AddSound(PageBuilder& frame, ControlName name, TextView 
     frame.LockedBrowseRow(name, u"Play this sound:", tip,
                           {.Button = "cmdBrowseForSound",
                            .Caption = u"Browse for sound...",
-                           .Request = {.Title = u"Browse",
-                                       .Filter = Text(FileFilter(6)),
-                                       .Purpose = FolderPurpose::Sounds},
+                           .Request = BrowseRequest(soundFiles, FolderPurpose::Sounds),
                            .Folder = &OrvaneCore::LastSoundFolder,
                            .NoBlanks = FileRole::Sound,
                            .Slot = slot});
@@ -97,7 +93,7 @@ void DynamicButtonForm::AddLink(PageBuilder& frame)
                     {.Button = "cmdBrowseForURL",
                      .Caption = u"Browse for URL...",
                      .Request = {.Title = u"Browse...",
-                                 .Filter = Text(FileFilter(0)),
+                                 .Filter = Text(FileFilter(pageFiles)),
                                  .FilterIndex = 2,
                                  .Purpose = FolderPurpose::Links},
                      .Folder = &OrvaneCore::LinkFolderMemo},

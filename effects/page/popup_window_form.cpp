@@ -2,7 +2,7 @@
 
 #include "core/file_names.h"
 #include "core/numbers.h"
-#include "services/c_file.h"
+#include "services/file_requests.h"
 #include "windows/picture.h"
 #include "windows/qt_text.h"
 
@@ -47,12 +47,10 @@ void PopupWindowForm::AddAppearPage()
     lblLinkExplanation = link.Note({}, "lblLinkExplanation");
     txtLinkItem = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtLinkItem->setObjectName(QStringLiteral("txtLinkItem"));
-    cmdBrowseForImage =
-        link.BrowseButton(txtLinkItem, {.Button = "cmdBrowseForImage",
-                                        .Caption = u"Browse for image...",
-                                        .Request = {.Title = u"Browse",
-                                                    .Filter = Text(FileFilter(1)),
-                                                    .Purpose = FolderPurpose::Images}});
+    cmdBrowseForImage = link.BrowseButton(
+        txtLinkItem, {.Button = "cmdBrowseForImage",
+                      .Caption = u"Browse for image...",
+                      .Request = BrowseRequest(imageFiles, FolderPurpose::Images)});
     lblLinkItem = link.Row(u"Hyperlink text:", {txtLinkItem, cmdBrowseForImage});
     lblLinkItem->setObjectName(QStringLiteral("lblLinkItem"));
     ShowLink(*LinkSettingsFor(WhenToAppear::OnHyperlink));

@@ -1,7 +1,7 @@
 #include "effects/page/pulldown_url_form.h"
 
 #include "core/catalogue.h"
-#include "services/c_file.h"
+#include "services/file_requests.h"
 #include "windows/qt_text.h"
 
 namespace orvane {
@@ -18,9 +18,7 @@ PulldownURLForm::PulldownURLForm(Workbench& bench, const MenuItem& item, QWidget
         "txtMenuItemURL", u"Link menu item to this Web page:", {},
         {.Button = "cmdBrowseForURL",
          .Caption = u"Browse for URL...",
-         .Request = {.Title = u"Browse",
-                     .Filter = Text(FileFilter(0)),
-                     .Purpose = FolderPurpose::Links},
+         .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
          .Then = [this](const Text&) { txtMenuItemURL->setFocus(Qt::OtherFocusReason); }});
     page.Fill();
     AddButtons();

@@ -1,6 +1,6 @@
 #include "effects/text/tooltips_form.h"
 
-#include "services/picked_image.h"
+#include "services/file_requests.h"
 
 namespace orvane {
 

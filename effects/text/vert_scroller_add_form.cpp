@@ -1,18 +1,12 @@
 #include "effects/text/vert_scroller_add_form.h"
 
 #include "effects/text/vertical_scroller.h"
-#include "services/c_file.h"
+#include "services/file_requests.h"
 #include "services/web_address.h"
 #include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 
 namespace orvane {
-
-namespace {
-
-constexpr int webPages = 0; ///< of the file dialogs' filters
-
-} // namespace
 
 VertScrollerAddForm::VertScrollerAddForm(Workbench& bench, const std::vector<Text>& row,
                                          QWidget* parent)
@@ -30,9 +24,7 @@ VertScrollerAddForm::VertScrollerAddForm(Workbench& bench, const std::vector<Tex
                          u"item is clicked",
                          {.Button = "cmdBrowseURL",
                           .Caption = u"Browse for URL...",
-                          .Request = {.Title = u"Browse",
-                                      .Filter = Text(FileFilter(webPages)),
-                                      .Purpose = FolderPurpose::Links},
+                          .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
                           .Then = [this](const Text&) { txtItemURL->setFocus(); }});
     AddButtons();
     if (row.empty())

@@ -128,7 +128,7 @@ private:
     PosixCalls m_calls;
     NoDialogs m_dialogs;
     DiskFileStore m_files{m_calls, FromUtf8((m_folder / "state").string())};
-    KeptPages m_kept{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
+    KeptPagesPlace m_kept{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
 };
 
 /// What the system says of this program's memory under that name, in kB.

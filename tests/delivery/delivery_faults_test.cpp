@@ -1,6 +1,7 @@
 #include "core/file_names.h"
 #include "delivery/manual_copy.h"
 #include "delivery/required_files.h"
+#include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
 #include "insertion/page_backups.h"
 #include "insertion/page_edit.h"
@@ -74,7 +75,7 @@ void InsertForToday(Delivery& delivery)
 {
     delivery.Payload.RunsToday = true;
     const Text page = delivery.Folder.TextAt(pageName);
-    const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    const KeptPagesPlace kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
     if (AutoInsert(delivery.Files, delivery.Author, page, delivery.Payload, kept) ==
         AutoInsertion::Inserted)
         delivery.End(CopyRequiredFiles(delivery.Desk(), FolderOf(page)));
@@ -83,7 +84,7 @@ void InsertForToday(Delivery& delivery)
 void BringBackup(Delivery& delivery)
 {
     const Text page = delivery.Folder.TextAt(pageName);
-    const KeptPages kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    const KeptPagesPlace kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
     delivery.Heard.IsComplete =
         BringBack(delivery.Files, delivery.Author, page, BackupPath(page), kept);
 }

@@ -4,7 +4,6 @@
 #include "program/form_desk.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
-#include "tests/support/qt_mouse.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>

@@ -14,7 +14,7 @@ namespace {
 const Text pagePath = u"/home/jo/site/index.html";
 const Text backupPath = u"/home/jo/site/Backup of index.html";
 const Text keptPath = u"/state/pages/2001-11-28/home/jo/site/index.html";
-const KeptPages kept{.Folder = u"/state/pages", .Day = u"2001-11-28"};
+const KeptPagesPlace kept{.Folder = u"/state/pages", .Day = u"2001-11-28"};
 
 const std::string oldBytes = "\xEF\xBB\xBF<head>\r\n</head><body>\xC3\xA9</body>";
 const std::string newBytes =
@@ -248,14 +248,6 @@ TEST_F(AutoInsertIntoFolderTest, KeptPageIsAsPrivateAsThePageAndItsFoldersMore)
     EXPECT_EQ(Folder.Status(page).st_mode & 07777, 0640u);
     for (const std::string folder : {"state", "state/2001-11-28", "state/2001-11-28/tmp"})
         EXPECT_EQ(Folder.Status(folder).st_mode & 07777, 0700u) << folder;
-}
-
-TEST(KeptPagePathTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)
-{
-    EXPECT_EQ(KeptPagePath(kept, u"/a/index.html"), u"/state/pages/2001-11-28/a/index.html");
-    EXPECT_EQ(KeptPagePath(kept, u"/b/index.html"), u"/state/pages/2001-11-28/b/index.html");
-    EXPECT_EQ(KeptPagePath(kept, u"/a/./b/../index.html"), KeptPagePath(kept, u"/a/index.html"));
-    EXPECT_EQ(KeptPagePath(kept, u"/../../etc/\u0142"), u"/state/pages/2001-11-28/etc/\u0142");
 }
 
 TEST(PagePathTest, NeedsANameAndStartsInTheCurrentFolderUnlessItIsFull)

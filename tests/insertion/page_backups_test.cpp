@@ -46,7 +46,7 @@ protected:
     PosixCalls Calls;
     DiskFileStore Store{Calls, Folder.TextAt("state")};
     const Text Page = Folder.TextAt("site/index.html");
-    const KeptPages Kept = KeptPagesIn(Folder.TextAt("state"), u"2024-05-31");
+    const KeptPagesPlace Kept = KeptPagesIn(Folder.TextAt("state"), u"2024-05-31");
     FakeDialogs Dialogs;
 };
 
@@ -101,6 +101,15 @@ TEST(BringBackTest, APageThatAnotherProgramSavesMeanwhileStaysAsItIs)
     EXPECT_EQ(files.Contents[u"/p.html"], "theirs");
     ASSERT_EQ(dialogs.Said.size(), 1u);
     EXPECT_TRUE(dialogs.Said[0].starts_with(u"Another application has changed your Web page"));
+}
+
+TEST(KeptPagePathTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)
+{
+    const KeptPagesPlace kept{.Folder = u"/state/pages", .Day = u"2001-11-28"};
+    EXPECT_EQ(KeptPagePath(kept, u"/a/index.html"), u"/state/pages/2001-11-28/a/index.html");
+    EXPECT_EQ(KeptPagePath(kept, u"/b/index.html"), u"/state/pages/2001-11-28/b/index.html");
+    EXPECT_EQ(KeptPagePath(kept, u"/a/./b/../index.html"), KeptPagePath(kept, u"/a/index.html"));
+    EXPECT_EQ(KeptPagePath(kept, u"/../../etc/\u0142"), u"/state/pages/2001-11-28/etc/\u0142");
 }
 
 } // namespace

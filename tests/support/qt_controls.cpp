@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTimer>
 
 #include <map>
@@ -146,6 +147,31 @@ Text WordsOf(QWidget& window, const char* name)
     if (const auto* code = qobject_cast<MultiLineBox*>(control))
         return code->Words();
     return {};
+}
+
+std::vector<Text> RowsOf(QWidget& window, const char* name)
+{
+    std::vector<Text> rows;
+    const auto* list = Find<QListWidget>(window, name);
+    for (int row = 0; list != nullptr && row < list->count(); ++row)
+        rows.push_back(FromQt(list->item(row)->text()));
+    return rows;
+}
+
+int RowWith(QWidget& window, const char* name, TextView words)
+{
+    const std::vector<Text> rows = RowsOf(window, name);
+    const auto found = std::find(rows.begin(), rows.end(), words);
+    EXPECT_NE(found, rows.end()) << ToUtf8(words) << " is not in " << name;
+    return static_cast<int>(found - rows.begin());
+}
+
+int SelectedRowOf(QWidget& window, const char* name)
+{
+    const auto* list = Find<QListWidget>(window, name);
+    if (list == nullptr || list->selectedItems().isEmpty())
+        return -1;
+    return list->row(list->selectedItems().constFirst());
 }
 
 void LetRun()

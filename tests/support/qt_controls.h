@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <typeinfo>
+#include <vector>
 
 namespace orvane::testing {
 
@@ -40,6 +41,15 @@ void Press(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::
 
 /// The words of a label or button, or the text of a box; empty for any other control.
 Text WordsOf(QWidget& window, const char* name);
+
+/// The words of a list box's rows; fails the test when there is no such list.
+std::vector<Text> RowsOf(QWidget& window, const char* name);
+
+/// The row of a list box with these words; fails the test when there is none.
+int RowWith(QWidget& window, const char* name, TextView words);
+
+/// The selected row of a list box, or -1.
+int SelectedRowOf(QWidget& window, const char* name);
 
 /// Processes the events that are waiting in the event loop.
 void LetRun();

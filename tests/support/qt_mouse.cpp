@@ -59,31 +59,6 @@ bool Drop(QWidget& target, QPoint place, const QMimeData& dragged, Qt::DropActio
 
 } // namespace
 
-std::vector<Text> RowsOf(QWidget& window, const char* name)
-{
-    std::vector<Text> rows;
-    const auto* list = Find<QListWidget>(window, name);
-    for (int row = 0; list != nullptr && row < list->count(); ++row)
-        rows.push_back(FromQt(list->item(row)->text()));
-    return rows;
-}
-
-int RowWith(QWidget& window, const char* name, TextView words)
-{
-    const std::vector<Text> rows = RowsOf(window, name);
-    const auto found = std::find(rows.begin(), rows.end(), words);
-    EXPECT_NE(found, rows.end()) << ToUtf8(words) << " is not in " << name;
-    return static_cast<int>(found - rows.begin());
-}
-
-int SelectedRowOf(QWidget& window, const char* name)
-{
-    const auto* list = Find<QListWidget>(window, name);
-    if (list == nullptr || list->selectedItems().isEmpty())
-        return -1;
-    return list->row(list->selectedItems().constFirst());
-}
-
 void ClickRow(QWidget& window, const char* name, int row)
 {
     if (auto* list = Find<QListWidget>(window, name))

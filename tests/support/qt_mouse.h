@@ -9,15 +9,6 @@
 
 namespace orvane::testing {
 
-/// The words of a list box's rows; fails the test when there is no such list.
-std::vector<Text> RowsOf(QWidget& window, const char* name);
-
-/// The row of a list box with these words; fails the test when there is none.
-int RowWith(QWidget& window, const char* name, TextView words);
-
-/// The selected row of a list box, or -1.
-int SelectedRowOf(QWidget& window, const char* name);
-
 /// Presses and releases the left button on a row of a list box.
 void ClickRow(QWidget& window, const char* name, int row);
 

@@ -29,6 +29,7 @@ TEST_F(PulldownMenuFormTest, EditsTheSelectedItemButNoSeparator)
     EXPECT_EQ(Item().Item(), (MenuItem{u"a", u"a.html"}));
     m_desk.Dialogs.AnswerOpenFile(u"/pages/b.html");
     Click(Item(), "cmdBrowseForURL");
+    EXPECT_NE(Find(m_desk.Dialogs.Requests[0].Filter, u"|*.php;*.php3;*.phtml"), 0u);
     Click(Item(), "cmdOK");
     EXPECT_EQ(m_form.Parameters().List2, (Texts{u"", u"b.html"}));
 }
