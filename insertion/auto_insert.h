@@ -7,6 +7,8 @@
 #include "core/payload.h"
 
 #include <optional>
+#include <string_view>
+#include <utility>
 
 namespace orvane {
 

@@ -2,6 +2,7 @@
 
 #include "insertion/auto_insert.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace orvane {
