@@ -73,9 +73,10 @@ void SetField(RequiredFiles& value, const FieldTexts& texts)
 {
     value = {};
     for (std::size_t i = 0; i + 2 < texts.size(); i += 3) {
-        const auto slot = static_cast<std::size_t>(Val(texts[i]));
-        if (Val(texts[i]) < 0 || slot >= value.Names.size())
+        const double number = Val(texts[i]);
+        if (number < 0 || number >= static_cast<double>(value.Names.size()))
             continue;
+        const auto slot = static_cast<std::size_t>(number);
         value.Names[slot] = texts[i + 1];
         value.Sources[slot] = texts[i + 2];
     }

@@ -56,7 +56,8 @@ requires std::is_enum_v<Choice> FieldTexts TextsOf(Choice value)
     return TextsOf(static_cast<int>(value));
 }
 
-/// Sets a choice by its number. Which numbers the enumeration has is not checked.
+/// Sets a choice by its number. Which numbers the enumeration has is not checked here: a window
+/// shows no choice that it does not offer, so none reaches the effect from it.
 template <class Choice>
 requires std::is_enum_v<Choice>
 void SetField(Choice& value, const FieldTexts& texts)

@@ -3,6 +3,9 @@
 #include "insertion/page_backups.h"
 #include "windows/ok_cancel_form.h"
 
+#include <optional>
+#include <vector>
+
 class QTreeWidget;
 
 namespace orvane {

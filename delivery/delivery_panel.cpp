@@ -20,9 +20,9 @@ std::array<CodePanel*, 3> MakeCodePanels(Workbench& bench, const CopyDesk& desk)
     const CodePanel::Words attribute{"lblNeedHelp(2)", "txtBODYAttribute", "cmdCopyBODYAttrib",
                                      u"BODY attribute",
                                      Join({u"For example:  <BODY", payload.BODYAttribute, u">"})};
-    return {new CodePanel(bench, head, payload.Effect.HEADHTML, *desk.Report),
-            new CodePanel(bench, body, payload.Effect.BODYHTML, *desk.Report),
-            new CodePanel(bench, attribute, payload.BODYAttribute, *desk.Report)};
+    return {new CodePanel(bench, head, payload.Effect.HEADHTML, desk.Report),
+            new CodePanel(bench, body, payload.Effect.BODYHTML, desk.Report),
+            new CodePanel(bench, attribute, payload.BODYAttribute, desk.Report)};
 }
 
 } // namespace
@@ -34,7 +34,7 @@ DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolde
       Codes(MakeCodePanels(bench, desk)),
       Publish(new PublishPanel(desk, bench.Settings, std::move(makeFolder))),
       Ftp(new FtpPanel(bench.Settings)),
-      Finish(new FinishPanel(bench, desk.Payload, *desk.Report))
+      Finish(new FinishPanel(bench, desk.Payload, desk.Report))
 {
 }
 

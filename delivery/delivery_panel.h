@@ -15,8 +15,8 @@ class MethodPanel;
 /// The panels of all pages of the delivery wizard that come after the preview.
 struct DeliveryPanels
 {
-    /// Makes the panels, each without a parent yet. Expects a desk with a report; bench and what
-    /// the desk refers to must outlive the panels.
+    /// Makes the panels, each without a parent yet. Bench and what the desk refers to must outlive
+    /// the panels.
     DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder);
 
     /// All panels in the order of their indexes, which begin with 1: 0 is the preview.

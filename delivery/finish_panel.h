@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QLabel;
 class QListWidget;
 class QPushButton;

@@ -3,6 +3,8 @@
 #include "core/dialogs.h"
 #include "core/file_store.h"
 
+#include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace orvane {

@@ -30,7 +30,7 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
     txtFileName = new FileNameBox(bench.Settings, bench.Dialogs, this);
     txtFileName->setObjectName(QStringLiteral("txtFileName"));
     txtFileName->setAccessibleName(QStringLiteral("Web page"));
-    connect(txtFileName, &QLineEdit::textChanged, this, [this] { m_isInserted = false; });
+    connect(txtFileName, &QLineEdit::textChanged, this, [this] { m_insertedInto.clear(); });
     cmdBrowse = page.Button("cmdBrowse", u"&Browse...");
     connect(cmdBrowse, &QPushButton::clicked, this, &InsertPanel::BrowseForPage);
     cmdRecentPages = page.Button("cmdRecentPages", u"&Recent pages");
@@ -76,8 +76,15 @@ void InsertPanel::PageShown(bool isNewPage)
 QPushButton* InsertPanel::DefaultButton(bool isNewPage) const
 {
     if (isNewPage)
-        return m_isSaved ? nullptr : cmdSaveWebPage;
-    return m_isInserted ? nullptr : cmdAutoInsert;
+        return m_savedAs.empty() ? cmdSaveWebPage : nullptr;
+    return m_insertedInto.empty() ? cmdAutoInsert : nullptr;
+}
+
+void InsertPanel::EffectTakenBack(TextView page)
+{
+    for (Text* written : {&m_insertedInto, &m_savedAs})
+        if (*written == page)
+            written->clear();
 }
 
 void InsertPanel::BrowseForPage()
@@ -97,7 +104,7 @@ void InsertPanel::TakePage(const Text& path)
 
 void InsertPanel::WriteDown(const Text& page)
 {
-    m_desk.Report->PageWritten(page);
+    m_desk.Report.PageWritten(page);
     PutRecentFile(m_bench.Settings, recentPages, page);
 }
 
@@ -114,7 +121,7 @@ void InsertPanel::InsertIntoPage()
     case AutoInsertion::Manual:
         return emit ManualWanted();
     case AutoInsertion::Inserted:
-        m_isInserted = true;
+        m_insertedInto = page;
         WriteDown(page);
         // What is missing was told; the last page comes all the same.
         if (CopyFiles(FolderOf(page)))
@@ -133,7 +140,7 @@ void InsertPanel::SaveWebPage()
     }();
     if (const Fault* fault = FaultIn(saved))
         return m_bench.Dialogs.Say(Words(*fault));
-    m_isSaved = true;
+    m_savedAs = *path;
     WriteDown(*path);
     const Text folder(FolderOf(*path));
     const auto isAllThere = CopyFiles(folder);

@@ -20,7 +20,7 @@ class InsertPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// Expects a desk with a report. Bench and what the desk refers to must outlive the panel.
+    /// Bench and what the desk refers to must outlive the panel.
     InsertPanel(Workbench& bench, const CopyDesk& desk);
 
     /// Called when the page is shown: shows the controls for a new page or for an existing one.
@@ -30,9 +30,9 @@ public:
     /// an existing one; null once that succeeded.
     QPushButton* DefaultButton(bool isNewPage) const;
 
-    /// Called when an existing page was brought back to an earlier version: DefaultButton() gives
-    /// "Auto-insert" again.
-    void EffectTakenBack() { m_isInserted = false; }
+    /// Called when the page with this full path was brought back to an earlier version:
+    /// DefaultButton() gives the button that wrote it again.
+    void EffectTakenBack(TextView page);
 
 signals:
     /// The name of the page cannot be used.
@@ -58,8 +58,8 @@ private:
 
     Workbench& m_bench;
     const CopyDesk m_desk;
-    bool m_isInserted = false;
-    bool m_isSaved = false;
+    Text m_insertedInto; ///< full path of the page, while `txtFileName` names it
+    Text m_savedAs;      ///< full path of the new page
 
     QLabel* lblAutoStep1;
     QLabel* lblAutoStep2;

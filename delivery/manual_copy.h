@@ -2,6 +2,8 @@
 
 #include "delivery/required_files.h"
 
+#include <vector>
+
 namespace orvane {
 
 /// Copies the selected files from one folder to another, asks before it overwrites one, and tells

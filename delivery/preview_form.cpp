@@ -78,7 +78,7 @@ void PreviewForm::ConnectPanels()
     connect(m_panels->Finish, &FinishPanel::BringBackWanted, this, [this](const Text& page) {
         if (m_windows.BringBack(page)) {
             m_report.PageBroughtBack(page);
-            m_panels->Insert->EffectTakenBack();
+            m_panels->Insert->EffectTakenBack(page);
         }
         m_panels->Finish->PageShown();
     });
@@ -245,7 +245,7 @@ void PreviewForm::GoOnTo(std::int16_t page)
 
 CopyDesk PreviewForm::Desk()
 {
-    return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, &m_report};
+    return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, m_report};
 }
 
 InsertMode PreviewForm::Mode() const

@@ -5,6 +5,8 @@
 #include "preview/preview_page.h"
 #include "windows/wizard_frame.h"
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace orvane {

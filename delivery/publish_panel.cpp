@@ -200,10 +200,10 @@ void PublishPanel::CopyByHand()
 {
     const bool isForPreview = m_mode == PublishMode::MissingForPreview;
     const Text folder = isForPreview ? m_toFolder : m_to->Folder();
-    CopyDesk desk = m_desk;
-    // What the preview needs is delivered to nobody.
-    if (isForPreview)
-        desk.Report = nullptr;
+    // What the preview needs is delivered to nobody, and no report of it is shown.
+    DeliveryReport unseen;
+    const CopyDesk desk{m_desk.Payload, m_desk.ProgramFolder, m_desk.Files, m_desk.Dialogs,
+                        isForPreview ? unseen : m_desk.Report};
     ManualCopy(desk, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
     m_to->Refresh();
     ShowMissing();

@@ -40,8 +40,7 @@ bool IsMissing(Fault fault)
 Done Miss(const CopyDesk& desk, TextView folder, TextView name, MissingFiles& missing)
 {
     missing.emplace_back(name);
-    if (desk.Report != nullptr)
-        desk.Report->FileMissing(folder, name);
+    desk.Report.FileMissing(folder, name);
     return {};
 }
 
@@ -52,7 +51,7 @@ Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView s
     const Done done = desk.Copies->Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
     if (!fault)
-        desk.WriteDownCopied(folder, name);
+        desk.Report.FileCopied(folder, name);
     else if (IsMissing(*fault))
         return Miss(desk, folder, name, missing);
     return done;
@@ -177,12 +176,6 @@ bool CopyDesk::MayOverwrite(TextView name) const
     return Dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
 }
 
-void CopyDesk::WriteDownCopied(TextView folder, TextView name) const
-{
-    if (Report != nullptr)
-        Report->FileCopied(folder, name);
-}
-
 Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
 {
     MissingFiles missing;
@@ -234,7 +227,7 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         const Done done = desk.Files.PutNew(page, NewPageBytes(desk.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
-        desk.WriteDownCopied(target, u"ovtemp.html");
+        desk.Report.FileCopied(target, u"ovtemp.html");
     }
     return CopyRequiredFiles(desk, target);
 }

@@ -22,14 +22,11 @@ struct CopyDesk
     TextView ProgramFolder;
     FileStore& Files;
     orvane::Dialogs& Dialogs;
-    DeliveryReport* Report = nullptr; ///< where copied and missing files are noted; null: nowhere
+    DeliveryReport& Report;           ///< where copied and missing files are noted
     FollowedCopies* Copies = nullptr; ///< null but while files are copied
 
     /// Asks the author whether the file of that name may be overwritten; true for Yes.
     bool MayOverwrite(TextView name) const;
-
-    /// Notes in the report, if there is one, that a file was copied to the folder.
-    void WriteDownCopied(TextView folder, TextView name) const;
 };
 
 /// Copies the author's files, the class files and a wanted page script to the page's folder. Asks

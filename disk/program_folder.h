@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 
 namespace orvane {
 

@@ -4,6 +4,8 @@
 #include "core/settings.h"
 
 #include <map>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace orvane {

@@ -5,6 +5,8 @@
 #include "insertion/page_backups.h"
 
 #include <optional>
+#include <string_view>
+#include <utility>
 
 namespace orvane {
 

@@ -4,6 +4,7 @@
 #include "core/file_names.h"
 #include "core/file_store.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace orvane {

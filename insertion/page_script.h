@@ -2,6 +2,9 @@
 
 #include "insertion/page_edit.h"
 
+#include <string>
+#include <string_view>
+
 namespace orvane {
 
 /// The name of the page script, the file beside a page that makes its effects run in today's

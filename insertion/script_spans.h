@@ -2,6 +2,8 @@
 
 #include "insertion/page_markup.h"
 
+#include <string_view>
+
 namespace orvane {
 
 /// The script between the tags of the first SCRIPT element whose open tag begins at or behind

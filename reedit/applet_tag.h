@@ -47,6 +47,7 @@ inline constexpr std::array<EffectKind, 3> animationWizards = {
 
 /// Every effect to which a pasted tag can lead, each once, in the order of the catalogue.
 std::vector<EffectKind> EffectsOfTags();
+
 /// What the author is told when more is pasted than the window takes.
 inline constexpr TextView pastedTagTooLarge =
     u"The pasted text is larger than 4 MB.  Please paste the code of the applet alone, from the "

@@ -169,7 +169,7 @@ export class Reveal {
         const begin = performance.now();
         const step = () => {
             const p = Math.min((performance.now() - begin) / 1000 / this.seconds, 1);
-            if (p === 1 || !this.place) return this.end();
+            if (!(p < 1) || !this.place) return this.end();
             cover.style.clipPath = `path(evenodd,"${coverPath(this.kind, p, this.order, w, h)}")`;
             requestAnimationFrame(step);
         };

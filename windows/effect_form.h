@@ -5,6 +5,8 @@
 #include "windows/field_controls.h"
 #include "windows/paged_form.h"
 
+#include <optional>
+
 namespace orvane {
 
 /// The base class of all effect windows. It binds each field that `ForEachField` names to its

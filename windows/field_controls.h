@@ -21,7 +21,7 @@ public:
     FieldTexts Read(ControlName name) const;
 
     /// Shows a value in the field's control, a number outside of a slider's range as the nearer end
-    /// of the range; does nothing for a field without a control.
+    /// of the range; does nothing for a field without a control or for a choice without an option.
     void Write(ControlName name, const FieldTexts& texts);
 
     /// Whether the window has a control for the field.

@@ -127,8 +127,13 @@ bool FolderBoxes::GoTo(TextView folder)
     m_folder = list->Rows[list->Current].Path;
     ShowFolders(*list);
     ShowFiles();
-    m_drives->setCurrentIndex(static_cast<int>(DriveOf(m_driveList, m_folder).value_or(0)));
+    ShowDrive();
     return true;
+}
+
+void FolderBoxes::ShowDrive()
+{
+    m_drives->setCurrentIndex(static_cast<int>(DriveOf(m_driveList, m_folder).value_or(0)));
 }
 
 void FolderBoxes::Refresh()
@@ -163,9 +168,9 @@ void FolderBoxes::ShowFiles()
 void FolderBoxes::PickDrive(int index)
 {
     if (GoTo(FromQt(m_drives->itemText(index))))
-        emit FolderPicked();
-    else
-        QApplication::beep();
+        return emit FolderPicked();
+    QApplication::beep();
+    ShowDrive();
 }
 
 void FolderBoxes::PickFolder(int row)

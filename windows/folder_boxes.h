@@ -5,6 +5,8 @@
 #include "windows/acting_list.h"
 #include "windows/controls.h"
 
+#include <vector>
+
 class QComboBox;
 class QVBoxLayout;
 
@@ -65,6 +67,7 @@ private:
     void AddBox(QVBoxLayout* column, ControlName name, TextView caption, QWidget* box, int stretch);
     void PickDrive(int index);
     void PickFolder(int row);
+    void ShowDrive();
     void ShowFolders(const FolderRows& list);
     void ShowFiles();
 

@@ -7,6 +7,9 @@
 #include <QSize>
 #include <QWidget>
 
+#include <optional>
+#include <vector>
+
 class QLabel;
 class QLineEdit;
 class QPushButton;

@@ -6,6 +6,8 @@
 #include <QPoint>
 #include <QWidget>
 
+#include <vector>
+
 namespace orvane {
 
 class MovableList;

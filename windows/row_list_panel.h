@@ -4,7 +4,9 @@
 #include "services/row_list.h"
 #include "windows/parallel_lists.h"
 
+#include <optional>
 #include <span>
+#include <vector>
 
 class QPushButton;
 

@@ -175,7 +175,7 @@ abstract class Tag extends Applet {
     static List<String> broken(String line, FontMetrics metrics, int width) {
         List<String> lines = new ArrayList<>();
         String left = line;
-        while (metrics.stringWidth(left) > width) {
+        while (!left.isEmpty() && metrics.stringWidth(left) > width) {
             int fits = 1;
             while (fits < left.length() &&
                    metrics.stringWidth(left.substring(0, fits + 1)) <= width)

@@ -3,6 +3,8 @@
 #include "effects/applet/animation_project.h"
 #include "windows/effect_form.h"
 
+#include <string>
+
 namespace orvane {
 
 class ImageListPanel;

@@ -4,6 +4,7 @@
 #include "core/file_store.h"
 #include "effects/applet/advanced_animator.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 

@@ -3,6 +3,8 @@
 #include "effects/applet/image_effects.h"
 #include "windows/effect_form.h"
 
+#include <optional>
+
 namespace orvane {
 
 /// The window of Image Effects.

@@ -3,6 +3,8 @@
 #include "effects/applet/image_fade.h"
 #include "windows/effect_form.h"
 
+#include <vector>
+
 namespace orvane {
 
 class RowListPanel;

@@ -4,6 +4,7 @@
 #include "windows/effect_form.h"
 
 #include <array>
+#include <vector>
 
 namespace orvane {
 

@@ -6,6 +6,7 @@
 #include "core/pick_lists.h"
 
 #include <array>
+#include <cstdint>
 #include <optional>
 
 namespace orvane {

@@ -141,8 +141,9 @@ export async function animator(tag, pen) {
                 if (t < since + S * each) return;
                 arrive(since + S * each);
             } else {
+                if (ends()) return;
                 const p = pause();
-                if (ends() || p < 0 || t < since + p) return;
+                if (p < 0 || t < since + p) return;
                 leave(since + p);
             }
         }

@@ -34,6 +34,9 @@ const kinds = new Map([
     ["ImageFade2ech", fade],
 ]);
 
+/** No browser draws on a canvas with longer sides; such an applet stays as it is. */
+const longest = 32767;
+
 const look = `a { display: block; outline-offset: 2px } canvas { display: block }
   button { position: absolute; right: 0; top: 0 }`;
 
@@ -190,7 +193,9 @@ export function runApplets() {
     for (const applet of document.querySelectorAll("applet")) {
         const tag = new Tag(applet);
         const kind = kinds.get(tag.code);
-        if (!kind || !/Orvane/.test(tag.text("WIZARD") ?? "") || tag.W < 1 || tag.H < 1) continue;
+        const [least, most] = [Math.min(tag.W, tag.H), Math.max(tag.W, tag.H)];
+        if (!kind || !/Orvane/.test(tag.text("WIZARD") ?? "") || least < 1 || most > longest)
+            continue;
         const stage = new Stage(tag);
         kind(tag, stage.pen).then((show) => stage.play(show));
     }

@@ -28,12 +28,14 @@ export class Tag {
     }
 
     /**
-     * The number at the start of a parameter; `missing` when there is none or it is below `least`.
+     * The number at the start of a parameter, at most a million up or down; `missing` when there is
+     * none or it is below `least`.
      * @param {string} name @param {number} missing @param {number} least
      */
     number(name, missing, least = -Infinity) {
         const found = /^[+-]?\d+/.exec(this.text(name) ?? "");
-        return found && Number(found[0]) >= least ? Number(found[0]) : missing;
+        const number = Math.min(Math.max(Number(found?.[0]), -1e6), 1e6);
+        return number >= least ? number : missing;
     }
 
     /** A colour of three numbers, or `missing`. @param {string} name @param {string} missing */
@@ -85,16 +87,15 @@ export function sheet(w, h, color) {
 export function brokenLines(pen, text, width) {
     const fits = (/** @type {string} */ part) => pen.measureText(part).width <= width;
     const lines = [];
-    let rest = text;
-    while (!fits(rest)) {
+    for (let rest = text; ;) {
         let end = 1;
         while (end < rest.length && fits(rest.slice(0, end + 1))) end++;
+        if (end >= rest.length) return [...lines, rest];
         const blank = rest.lastIndexOf(" ", end);
         if (blank > 0) end = blank;
         lines.push(rest.slice(0, end));
         rest = rest.slice(rest[end] === " " ? end + 1 : end);
     }
-    return [...lines, rest];
 }
 
 /**
@@ -122,7 +123,7 @@ export const missing = (name) => `The parameter ${name} is missing.`;
 export function load(name) {
     return new Promise((done) => {
         const image = new Image();
-        image.onload = () => done(image);
+        image.onload = () => done(image.width && image.height ? image : null);
         image.onerror = () => done(null);
         image.src = name;
     });

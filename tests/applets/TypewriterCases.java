@@ -67,6 +67,11 @@ final class TypewriterCases extends Cases {
         samePicture("at a blank and in a word",
                     bare("First", word.substring(0, fits), word.substring(fits)),
                     host.at((5 + word.length()) * 251));
+        String narrow = page("typewriter_bare.html").replace("WIDTH=\"200\"", "WIDTH=\"5\"");
+        BufferedImage white = filled(5, 50, (x, y) -> 0xffffffff);
+        samePicture("without room for a letter",
+                    typed(white, PLAIN, Color.black, new String[] {"a", "", "b"}),
+                    host(with(narrow, "TEXT.0", "a\\\\b")).at(2 * 251));
     }
 
     static void saysWhatItLacks() throws Exception {

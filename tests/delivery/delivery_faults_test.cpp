@@ -53,9 +53,10 @@ struct Delivery
     WillingAuthor Author = {};
     FinishedPayload Payload = MakePayload(Folder);
     Report Heard = {};
+    DeliveryReport Written = {};
     Text Program = Folder.TextAt("program");
 
-    CopyDesk Desk() { return {Payload, Program, Files, Author}; }
+    CopyDesk Desk() { return {Payload, Program, Files, Author, Written}; }
 
     void Fail(Fault fault) { Author.Say(Words(fault), Tone::Plain); }
 

@@ -19,12 +19,14 @@ protected:
     {
         for (const Text& name : selected)
             disk.Contents[PathIn(from, name)] = "new";
-        ManualCopy({payload, u"/program", disk, dialogs}, from, u"/site", selected, missing);
+        ManualCopy({payload, u"/program", disk, dialogs, report}, from, u"/site", selected,
+                   missing);
     }
 
     FakeDialogs dialogs;
     FakeFileStore disk;
     FinishedPayload payload;
+    DeliveryReport report;
     MissingFiles missing = {u"a.gif", u"b.gif", u"c.gif", u"a.gif"};
 };
 

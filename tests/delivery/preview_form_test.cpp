@@ -273,6 +273,13 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     EXPECT_FALSE(m_form->WasDelivered()) << "the author's entries are still wanted";
     Click(*m_form, "cmdPrevious");
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdAutoInsert")->isDefault());
+    Click(*m_form, "cmdPrevious");
+    GoBy(2);
+    m_desk.Dialogs.AnswerSaveFile(u"/site/a&b.html");
+    Click(*m_form, "cmdSaveWebPage");
+    Click(*m_form, "cmdBringBack");
+    Click(*m_form, "cmdPrevious");
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdSaveWebPage")->isDefault());
 }
 
 TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndEmptiesTheSharedCode)

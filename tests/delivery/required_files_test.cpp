@@ -56,7 +56,7 @@ protected:
         return ValueIn(CopyRequiredFiles(Desk(), folder));
     }
 
-    CopyDesk Desk() { return {payload, u"/program", disk, dialogs, &report}; }
+    CopyDesk Desk() { return {payload, u"/program", disk, dialogs, report}; }
 
     FakeDialogs dialogs;
     FakeFileStore disk;

@@ -1,5 +1,6 @@
 #include "core/catalogue.h"
 #include "core/draft.h"
+#include "core/numbers.h"
 #include "tests/effects/effect_forms.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
@@ -137,6 +138,33 @@ TYPED_TEST(EveryEffectTest, GeneratedTextsHaveWholeLineEndsAndNoUnfilledMark)
     for (const Text& text : {payload.HEADHTML, payload.BODYHTML}) {
         EXPECT_EQ(ReplaceAll(text, u"\r\n", u"").find_first_of(u"\r\n"), Text::npos);
         EXPECT_EQ(ReplaceAll(text, u"«Id»", u"").find(u'«'), Text::npos);
+    }
+}
+
+TYPED_TEST(EveryEffectTest, ADraftWithAnyTextsInItsFieldsLeavesAWindowThatWorks)
+{
+    struct Window : TypeParam
+    {
+        using TypeParam::Next;
+        using TypeParam::TakeDraft;
+        using TypeParam::TypeParam;
+    };
+    const typename TestFixture::Effect fresh;
+    for (const Text& text : {Text(u"99999"), Text(u"-7"), Text(u"1e300"), Text(u"-1"), Text(u"1"),
+                             Text(u"5"), Text(u"nan"), Text(), Text(5000, u'9')}) {
+        Text draft = u"a line without a value\n";
+        ForEachField(fresh, [&](FieldName name, const auto&) {
+            for (int i = 0; i < 10; ++i)
+                draft += DraftLine(name.Name, text);
+        });
+        Window window(this->m_desk.Bench);
+        window.show();
+        window.TakeDraft(draft);
+        const bool isSlot = Val(text) >= 0 && Val(text) <= 50;
+        EXPECT_TRUE(isSlot || this->m_desk.Core.Required == RequiredFiles()) << ToUtf8(text);
+        for (int page = 0; page < 6 && window.isVisible(); ++page)
+            window.Next();
+        EXPECT_NE(window.isVisible(), window.TakePayload().has_value());
     }
 }
 

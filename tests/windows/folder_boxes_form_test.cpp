@@ -4,6 +4,8 @@
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
 
+#include <QComboBox>
+
 namespace orvane::testing {
 namespace {
 
@@ -23,6 +25,11 @@ TEST(FolderBoxesTest, FolderThatCannotBeReadLeavesEverythingAsItIs)
     DoubleClickRow(boxes, "Dir1", 3);
     EXPECT_EQ(boxes.Folder(), u"/site/pictures");
     EXPECT_EQ(picked, 1);
+    QComboBox* drives = boxes.DriveBox();
+    drives->addItem(QStringLiteral("/gone"));
+    drives->setCurrentIndex(drives->count() - 1);
+    emit drives->activated(drives->currentIndex());
+    EXPECT_EQ(drives->currentText(), QStringLiteral("/"));
 }
 
 } // namespace

@@ -13,6 +13,11 @@ function near(seen, wanted, by = 2) {
     assert.ok(Math.max(...off) <= by, `${seen} for ${wanted}`);
 }
 
+/** A tag with these parameters, written as "NAME=value NAME=value". */
+const tag = (code, size, values) =>
+    `<APPLET CODE="${code}.class" WIDTH="${size}" HEIGHT="${size}">` +
+    `WIZARD=Orvane ${values}</APPLET>`.replace(/(\S+)=(\S+)/g, '<PARAM NAME="$1" VALUE="$2">');
+
 export const appletChecks = [
     check("More Image Effects", "grow from a corner, stay, shrink, and end", async (v) => {
         await v.show([effect("Image Effects 2", "more_image_effects_expand_shrink_full")], still);
@@ -134,13 +139,6 @@ export const appletChecks = [
         }
     }),
     check(null, "canvases flash three times a second at most", async (v) => {
-        const tag = (code, values) =>
-            `<APPLET CODE="${code}.class" WIDTH="40" HEIGHT="40"><PARAM NAME="WIZARD" VALUE="Orvane">` +
-            `${values} IMAGE.0=black.bmp IMAGE.1=white.bmp`.replace(
-                /(\S+)=(\S+)/g,
-                '<PARAM NAME="$1" VALUE="$2">',
-            ) +
-            "</APPLET>";
         const short = "TRANSITION.STEP.0=2 TRANSITION.RATE.0=0 PAUSE.0=10 PAUSE.1=10";
         for (const [code, values] of [
             ["Animate1", "PAUSE.0=10 PAUSE.1=10"],
@@ -148,7 +146,7 @@ export const appletChecks = [
             ["Animate1", `${short} TRANSITION.TYPE.1=shutter(1) FGCOLOR.0=128,128,128`],
             ["ImageFade2ech", "PAUSE=0 TRANSITION.STEPS=1 TRANSITION.SPEED=1000"],
         ]) {
-            const body = tag(code, values).replace(
+            const body = tag(code, 40, `${values} IMAGE.0=black.bmp IMAGE.1=white.bmp`).replace(
                 /(black|white)\.bmp/g,
                 (name) =>
                     "data:image/bmp;base64," +
@@ -171,5 +169,18 @@ export const appletChecks = [
             });
             assert.ok(longest > 1 && longest <= 7, `${code} ${values}: ${longest} changes`);
         }
+    }),
+    check(null, "no size, number or lack in an applet's tag stops the page", async (v) => {
+        const numbers = "PAUSE PAUSE.0 TRANSITION.STEP.0 TRANSITION.STEPS TRANSITION.SPEED SPEED";
+        const kinds = ["Animate1", "Typewriter9", "TmapCube", "Lake", "ripple", "ImageFade2ech"];
+        for (const size of [99999999, 3, 40])
+            for (const images of ["IMAGE=gone.gif IMAGE.0=gone.gif IMAGE.1=a.gif", ""])
+                for (const number of ["0", "9".repeat(400)]) {
+                    const values = `${numbers.replace(/(?= |$)/g, `=${number}`)} ${images} TEXT.0=a`;
+                    const body = kinds.map((code) => tag(code, size, values)).join("");
+                    await v.show([{ name: "Animation", body }]);
+                    await wait(50);
+                }
+        assert.ok((await v.dark(0)) > 10, "words that tell of the missing images");
     }),
 ];
