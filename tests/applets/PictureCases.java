@@ -1,4 +1,3 @@
-import java.awt.Cursor;
 import java.awt.image.BufferedImage;
 
 /** Cube, lake, ripple and fade: what is drawn at known times, at places worked out by hand. */
@@ -58,7 +57,6 @@ final class PictureCases extends Cases {
         Host host = host(page);
         host.click(2500);
         colors(host, "2500 50,40 c86400", "2646 50,40 78b488", "2773 50,40 32faff");
-        same("hand", Cursor.HAND_CURSOR, host.applet.getCursor().getType());
         host.click(2773 + 2600);
         same("link", "[_top http://www.example.com/b.html]", host.opened.toString());
         colors(host, "5546 50,40 c86400");

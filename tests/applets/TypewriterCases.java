@@ -23,8 +23,8 @@ final class TypewriterCases extends Cases {
                      Color.blue, lines);
     }
 
-    private static BufferedImage bare(String... lines) {
-        return typed(filled(200, 50, (x, y) -> 0xffffffff), PLAIN, Color.black, lines);
+    private static BufferedImage bare(int width, String... lines) {
+        return typed(filled(width, 50, (x, y) -> 0xffffffff), PLAIN, Color.black, lines);
     }
 
     private static BufferedImage night(String... lines) {
@@ -43,7 +43,7 @@ final class TypewriterCases extends Cases {
         host.click(5000);
         same("link", "[_self http://WWW.example.com/x.html]", host.opened.toString());
         host = host(page("typewriter_bare.html"));
-        samePicture("in cycle 1001", bare("He"), host.at(1000 * 3255 + 2 * 251));
+        samePicture("in cycle 1001", bare(200, "He"), host.at(1000 * 3255 + 2 * 251));
     }
 
     static void readsTextFile() throws Exception {
@@ -59,19 +59,15 @@ final class TypewriterCases extends Cases {
 
     static void breaksLongLines() throws Exception {
         String word = "aVeryLongWordThatIsWiderThanALineCanEverBe";
-        FontMetrics metrics = bare().createGraphics().getFontMetrics(PLAIN);
+        FontMetrics metrics = bare(200).createGraphics().getFontMetrics(PLAIN);
         int fits = 1;
         while (metrics.stringWidth(word.substring(0, fits + 1)) <= 192)
             fits++;
         Host host = host(with(page("typewriter_bare.html"), "TEXT.0", "First " + word));
-        samePicture("at a blank and in a word",
-                    bare("First", word.substring(0, fits), word.substring(fits)),
+        samePicture("broken", bare(200, "First", word.substring(0, fits), word.substring(fits)),
                     host.at((5 + word.length()) * 251));
-        String narrow = page("typewriter_bare.html").replace("WIDTH=\"200\"", "WIDTH=\"5\"");
-        BufferedImage white = filled(5, 50, (x, y) -> 0xffffffff);
-        samePicture("without room for a letter",
-                    typed(white, PLAIN, Color.black, new String[] {"a", "", "b"}),
-                    host(with(narrow, "TEXT.0", "a\\\\b")).at(2 * 251));
+        host = host(with(page("typewriter_bare.html").replace("200", "5"), "TEXT.0", "a\\\\b"));
+        samePicture("without room for a letter", bare(5, "a", "", "b"), host.at(2 * 251));
     }
 
     static void saysWhatItLacks() throws Exception {
