@@ -14,10 +14,8 @@
 #include <QListWidget>
 #include <QMenu>
 
-namespace orvane {
+namespace orvane::testing {
 namespace {
-
-using namespace orvane::testing;
 
 class PreviewFormTest : public DeliveryTest
 {
@@ -322,4 +320,4 @@ TEST(FormDeskTest, LeadsBackToTheWizardWithItsFieldAndOutOfBoth)
 }
 
 } // namespace
-} // namespace orvane
+} // namespace orvane::testing

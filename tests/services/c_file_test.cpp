@@ -67,16 +67,9 @@ TEST_F(CFileTest, CancelGivesTheEmptyTextAndLeavesAllProperties)
     file.CancelError = false;
     EXPECT_EQ(ValueIn(file.BrowseForFile(1)), u"");
     ExpectChosen(u"/a", u"b.gif", u"/a/b.gif");
-}
-
-TEST_F(CFileTest, ACancelThatIsNoErrorSavesUnderTheEmptyName)
-{
-    file.Path = u"/a";
-    file.CancelError = false;
+    // A save dialog whose cancel is no error picks the empty name.
     dialogs.AnswerSaveFile(std::nullopt);
-    const auto picked = file.GetFileNameForSave();
-    ASSERT_NE(FaultIn(picked), nullptr);
-    EXPECT_EQ(*FaultIn(picked), Fault::InvalidProcedureCall);
+    EXPECT_EQ(std::get<Fault>(file.GetFileNameForSave()), Fault::InvalidProcedureCall);
     ExpectChosen(u"/a", u"", u"");
 }
 
@@ -110,11 +103,6 @@ TEST_F(CFileTest, TakesFilterAndFolderFromThePropertiesForKindEightAlone)
                                u"All Files (*.*)|*.*|Graphics Files (*.jpeg, *.jpg, *.gif, *.png)|"
                                u"*.jpeg;*.jpg;*.gif;*.png|GIF Files (*.gif)|*.gif|"
                                u"JPEG Files (*.jpeg, *.jpg)|*.jpeg;*.jpg",
-                               u""},
-                              {4, u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt", u""},
-                              {7,
-                               u"All Files (*.*)|*.*|Video Files (*.avi, *.mov, *.mpeg, *.mpg)|"
-                               u"*.avi;*.mov;*.mpeg;*.mpg",
                                u""},
                               {8, u"Own|*.own", u"/own"},
                               {9, u"", u""},
