@@ -85,6 +85,11 @@ QWidget* PublishPanel::MakeToSide(QWidget* all)
     auto* side = new QWidget(all);
     m_to = new FolderBoxes(m_desk.Files, {"driveCopyTo", "dirCopyTo", "fileCopyTo"}, u"*.*", side);
     GoTo(m_desk.ProgramFolder);
+    // Without the focus, which stays with the author among the folders.
+    connect(m_to, &FolderBoxes::FolderPicked, this, [this] {
+        if (QPushButton* button = DefaultButton())
+            button->setDefault(true);
+    });
     QVBoxLayout* column = MakeColumn(side);
     AddBoxes(column, u"Copy to:", m_to);
     PageBuilder below(new QWidget(side));
@@ -149,7 +154,7 @@ QPushButton* PublishPanel::DefaultButton() const
     case PublishMode::Publish:
         break;
     }
-    return m_isPublished ? nullptr : cmdCopyFiles;
+    return m_to->Folder() == m_publishedTo ? nullptr : cmdCopyFiles;
 }
 
 void PublishPanel::ShowMissing()
@@ -192,7 +197,7 @@ void PublishPanel::PublishFiles()
     }
     if (!ValueIn(copied).empty())
         FindMissing(PublishMode::MissingInFolder, ValueIn(copied), folder);
-    else if (!std::exchange(m_isPublished, true))
+    else if (std::exchange(m_publishedTo, folder) != folder)
         emit DefaultButtonChanged();
 }
 
@@ -212,6 +217,7 @@ void PublishPanel::CopyByHand()
 void PublishPanel::GoToLastFolder()
 {
     m_to->GoTo(RememberedFolder(m_settings, FolderPurpose::Publishing));
+    emit DefaultButtonChanged();
 }
 
 void PublishPanel::MakeFolder()
@@ -219,6 +225,7 @@ void PublishPanel::MakeFolder()
     if (const auto folder = m_makeFolder(m_to->Folder())) {
         m_to->Refresh();
         m_to->GoTo(*folder);
+        emit DefaultButtonChanged();
     }
 }
 

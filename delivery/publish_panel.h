@@ -42,7 +42,8 @@ public:
     /// `toFolder`. Expects one of the modes for missing files.
     void FindMissing(PublishMode mode, const MissingFiles& missing, TextView toFolder);
 
-    /// The button that Enter is to press in this mode; null when everything was published.
+    /// The button that Enter is to press in this mode; null when everything was published to the
+    /// folder that is shown.
     QPushButton* DefaultButton() const;
 
 signals:
@@ -72,7 +73,7 @@ private:
     Settings& m_settings;
     MakeFolderWindow m_makeFolder;
     PublishMode m_mode = PublishMode::Publish;
-    bool m_isPublished = false;
+    Text m_publishedTo; ///< the folder to which everything was published last
     MissingFiles m_missing;
     Text m_toFolder; ///< where the files go that the preview lacks
 

@@ -112,6 +112,10 @@ TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
     EXPECT_FALSE(IsShown("cmdOpenPage"));
     Click(*m_form, "cmdOpenFolder");
     EXPECT_EQ(m_desk.Shell.Opened, Texts{u"/web/"});
+    Click(*m_form, "cmdPrevious");
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdNext")->isDefault());
+    GoTo(u"site");
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdCopyFiles")->isDefault()) << "another folder";
 }
 
 TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
