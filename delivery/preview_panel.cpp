@@ -14,7 +14,7 @@ PreviewPanel::PreviewPanel(QWidget* pane, TodaysBrowsers today) : m_pane(pane)
     if (pane != nullptr)
         pane->show();
     page.Note(today.Sentence, "lblRunsToday")->setVisible(!today.Sentence.empty());
-    QCheckBox* runsToday = page.CheckBox("chkRunsToday", u"Make it run in today's browsers",
+    QCheckBox* runsToday = page.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
                                          u"Lets your Web page use Orvane's page script, orvane.js");
     runsToday->setChecked(today.RunsToday);
     connect(runsToday, &QCheckBox::toggled, this, &PreviewPanel::RunsTodayChosen);
