@@ -1,165 +1,30 @@
 #include "core/catalogue.h"
 
+#include "core/image_effect_rows.h"
+#include "core/other_effect_rows.h"
+#include "core/text_effect_rows.h"
+
 #include <algorithm>
+#include <array>
 
 namespace orvane {
 
 namespace {
 
-// clang-format off
-constexpr CatalogueRow rows[] = {
-    {EffectKind::AdvancedAnimator, "mnuAppletsAnimations", u"applets_animations", u"Advanced Animator",
-     u"Create animations, scrolling billboard ads, and slideshows using this wizard.  This is for advanced users.",
-     "Anim", u"Animation", FilesNeeded::Always, false, false},
-    {EffectKind::AnimationWizard, "mnuAnimWiz", u"anim_wiz", u"Animation Wizard",
-     u"This wizard helps you to make exciting animations step by step.",
-     "AnimWizard", u"Animation", FilesNeeded::Always, false, false},
-    {EffectKind::BannerWizard, "mnuBBWiz", u"bb_wiz", u"Banner/Billboard Wizard",
-     u"This wizard helps you to make rotating banners and billboards, step by step.",
-     "BBWizard", u"Animation", FilesNeeded::Always, false, false},
-    {EffectKind::DigitalClock, "mnuClock", u"clock", u"Digital Clock",
-     u"Create a working clock on your Web page that tells the date and time.",
-     "frmDateTime", u"DigitalClock", FilesNeeded::Never, false, false},
-    {EffectKind::DynamicButton, "mnuAppletsDynaBut", u"applets_dyna_but", u"Dynamic Button",
-     u"Create buttons that change when the user's mouse moves over them and displays a new Web page when the user clicks on them.",
-     "DynaBut", u"Dynamic Button", FilesNeeded::Always, false, false},
-    {EffectKind::BackgroundFade, "mnuFade", u"fade", u"Background Color Fading effect",
-     u"Fades the Web page background from one color to another color.  This effect can be set to occur when the Web page loads and exits.",
-     "Fade", u"Color Fade", FilesNeeded::Never, true, false},
-    {EffectKind::ImageEffects, "mnuImageEffects", u"image_effects", u"Image Effects",
-     u"Make your images go wild by applying these effects.  Lake Reflection, Image Cube, Image Brighten and Ripple effects produce amazing effects for your Web pages.",
-     "ImageEffects", u"Image Effects", FilesNeeded::Always, false, false},
-    {EffectKind::PasswordScript, "mnuPassword", u"password", u"Password Protection",
-     u"Protect your Web pages with a password so only people with a password can see it.",
-     "Password", u"Password", FilesNeeded::Never, true, false},
-    {EffectKind::StatusBarTicker, "mnuStatusBar", u"status_bar", u"Status Bar Text Ticker",
-     u"Create text that scrolls in the Web browser's status bar.",
-     "StatusBar", u"Status Bar Scroller", FilesNeeded::Never, true, false},
-    {EffectKind::SwirlyText, "mnuAppletSwirly", u"applet_swirly", u"Swirly Text effect",
-     u"Create text that swirls in different colors.",
-     "Swirly", u"Color Swirl", FilesNeeded::Always, false, false},
-    {EffectKind::TypewriterText, "mnuAppletsTyper", u"applets_typer", u"Typewriter Text",
-     u"Create text that is typed onto your Web page one letter at a time - like using a typewriter.",
-     "Typer", u"Typewriter", FilesNeeded::Always, false, false},
-    {EffectKind::SmoothScroll, "mnuSmoothScroll", u"smooth_scroll", u"Smooth Scrolling Text Ticker",
-     u"Create text that scrolls smoothly across your Web page.",
-     "SmoothScroll", u"Smooth Scroller", FilesNeeded::Always, false, false},
-    {EffectKind::FadingMessage, "mnuFadeMsg", u"fade_msg", u"Fading Message effect",
-     u"Create a text message slideshow that fades in and out from one message to the next.",
-     "FadeMsg", u"Fading Text", FilesNeeded::Always, false, false},
-    {EffectKind::NavigatorTicker, "mnuNavTicker", u"nav_ticker", u"Navigator Ticker",
-     u"Create a colorful, scrolling text ticker that you can link to different Web pages.",
-     "NavTicker", u"Navigator Ticker", FilesNeeded::Always, false, false},
-    {EffectKind::PulldownMenu, "mnuPulldown", u"pulldown", u"Pulldown Menu",
-     u"Create a Pulldown menu that allows you to pick a selection and then jump to the Web page by clicking a button.",
-     "Pulldown", u"Pulldown Menu", FilesNeeded::Never, false, false},
-    {EffectKind::SoundReserved, "mnuSoundFX", u"sound_fx", u"Sound Effect",
-     u"Use this special effect to have your Web page play a sound file when it loads and a different sound file when the user exits the Web page.",
-     "Sound", u"Sound", FilesNeeded::Never, false, false, false},
-    {EffectKind::MoreImageEffects, "mnuMoreImageEffects", u"more_image_effects", u"More Image Effects",
-     u"Eight more image special effects that produce amazing effects for your Web pages.",
-     "ImageEffects2", u"Image Effects 2", FilesNeeded::Always, false, false},
-    {EffectKind::PopupAlert, "mnuPopupAlert", u"popup_alert", u"Popup Alert Box",
-     u"Create a Popup Alert box that pops up and gives the user a message when they load your Web page.",
-     "PopupAlert", u"Popup Alert", FilesNeeded::Never, false, false},
-    {EffectKind::AnimatedButton, "mnuAnimButton", u"anim_button", u"Animated Button",
-     u"Create buttons that animate when the user's mouse moves over them or clicks on them.  The buttons can be linked to a Web page when the user clicks on them.",
-     "AnimButton", u"Animated Button", FilesNeeded::Always, false, false},
-    {EffectKind::ImageRollover, "mnuImgRollover", u"img_rollover", u"Image Rollover",
-     u"Create images that change another image on your Web page when the user's mouse moves over them and displays a new Web page when the user clicks on them.",
-     "ImgRollover", u"Image Rollover", FilesNeeded::Always, true, false},
-    {EffectKind::Sound, "mnuSoundFX", u"sound_fx", u"Sound Effect",
-     u"Use this special effect to have your Web page play a sound file when it loads and a different sound file when the user exits the Web page.",
-     "Sound", u"Sound", FilesNeeded::Always, true, true},
-    {EffectKind::ImageFade, "mnuImageFade", u"image_fade", u"Image Fade",
-     u"Create a slideshow where images fade from one to the next.  Each image can be linked to other Web pages.",
-     "ImageFade", u"Image Fade", FilesNeeded::Always, false, false},
-    {EffectKind::ScrollingCredits, "mnuScrollingCredits", u"scrolling_credits", u"Scrolling Credits",
-     u"Create a Web page that scrolls like the credits at the end of a movie.",
-     "Credits", u"Scrolling Credits", FilesNeeded::Never, true, false},
-    {EffectKind::PasswordServer, "mnuPassword", u"password", u"Password Protection",
-     u"Protect your Web pages with a password so only people with a password can see it.",
-     "Password", u"CGI Password", FilesNeeded::Always, false, false, false},
-    {EffectKind::PageTransitions, "mnuPageTransitions", u"page_transitions", u"IE Web Page Transitions",
-     u"Choose from 24 different Web page transitions that will dazzle you when you load and exit your Web page.",
-     "PageTransitions", u"Page Transitions", FilesNeeded::Never, true, false},
-    {EffectKind::TextTransitions, "mnuTextTransitions", u"text_transitions", u"IE Text Transitions",
-     u"Choose from 24 different transitions to create wild text special effects.",
-     "TextTransitions", u"Text Transitions", FilesNeeded::Never, true, false},
-    {EffectKind::PopupWindow, "mnuPopUpWindow", u"pop_up_window", u"PopUp Window",
-     u"Create a Popup Window that pops up and displays a Web page of your choice when a user clicks on a link, image or when the Web page loads/exits.",
-     "PopUpWindow", u"Popup Window", FilesNeeded::Always, true, false},
-    {EffectKind::TextEffects, "mnuTextEffectsTextFX", u"text_effects_text_fx", u"IE Text Effects",
-     u"Apply Grow and Stretch special effects to your text!",
-     "TextEffects", u"Text Effects", FilesNeeded::Never, true, false},
-    {EffectKind::RandomImage, "mnuRandomImage", u"random_image", u"Random Image",
-     u"Display a random image on your Web page.  Great effect for displaying advertising banners and for making your Web site look fresh and new!",
-     "frmRandom", u"Random Image", FilesNeeded::Always, false, true},
-    {EffectKind::FallingImages, "mnuFallingSnow", u"falling_snow", u"Falling/Floating Images",
-     u"Create falling or floating images (like snowflakes) on your Web page using this special effect.",
-     "frmFallingSnow", u"Falling/Floating", FilesNeeded::Always, false, false},
-    {EffectKind::TextButton, "mnuTextButton", u"text_button", u"Text Button",
-     u"Create colorful text buttons that link to other Web pages!  The text changes when the mouse is moved over the button.",
-     "frmTextButton", u"Text Button", FilesNeeded::Always, false, false},
-    {EffectKind::Personalize, "mnuPersonalized", u"personalized", u"Personalize your Web page",
-     u"Make your Web page greet visitors with their names or personalized greetings like 'Hello, Jim!', display how many times the user has visited and the date/time of their last visit.",
-     "frmPersonalize", u"Personalize", FilesNeeded::Never, true, false},
-    {EffectKind::AllInOneButton, "mnuOtherButton", u"other_button", u"All-in-One Button",
-     u"Create a button, link or image that links to another Web page, closes the current browser window or prints the current Web page.",
-     "frmButton", u"All-in-One Button", FilesNeeded::Never, true, false},
-    {EffectKind::RandomQuote, "mnuRandomQuote", u"random_quote", u"Random Quote",
-     u"Make your Web page display random text or quotes of your choice.",
-     "frmRandom", u"Random Quote", FilesNeeded::Never, false, true},
-    {EffectKind::Earthquake, "mnuEarthquake", u"earthquake", u"Browser Window Earthquake",
-     u"Make your browser window shake like an earthquake!  Great for grabbing people's attention when used as an advertisment window.",
-     "frmEarthquake", u"Browser Window Earthquake", FilesNeeded::Never, true, false},
-    {EffectKind::DayCalendar, "mnuDayCalendar", u"day_calendar", u"Day Calendar",
-     u"Place a Day Calendar on your Web page to display the current month, day and date.",
-     "frmDayCalendar", u"Day Calendar", FilesNeeded::Never, false, true},
-    {EffectKind::ColorScrollbars, "mnuColorScrollbars", u"color_scrollbars", u"Color Scrollbars",
-     u"Create colorful browser scrollbars that match the colors or theme of your Web pages.",
-     "frmColorScrollbar", u"Color Scrollbars", FilesNeeded::Never, false, false},
-    {EffectKind::SlidingMessage, "mnuSlidingIMWindow", u"sliding_im_window", u"Sliding Instant Message Window",
-     u"Create a sliding instant message popup window to display a message that links to another Web page!  Behaves just like an Instant Messenger window!",
-     "frmSlidingIMWindow", u"Sliding Instant Message Window", FilesNeeded::Never, true, false},
-    {EffectKind::SearchBox, "mnuGoogleSearch", u"google_search", u"Search Box",
-     u"Add a Google search box to your Web pages so anyone can search the Web from your page!  Or search a specific Web site of your choice!",
-     "frmGoogle", u"Google Search Box", FilesNeeded::Always, false, false},
-    {EffectKind::Translator, "mnuGoogleTranslate", u"google_translate", u"Web Page Translator",
-     u"Translate your Web pages to any language with this special effect!",
-     "frmGoogle", u"Google Translate Your Web Page", FilesNeeded::Always, false, false},
-    {EffectKind::CursorTrail, "mnuCursorTrail", u"cursor_trail", u"Mouse Cursor Trail",
-     u"Create a trail of images that follows your mouse cursor wherever it moves on your Web page!",
-     "frmCursorTrail", u"Mouse Cursor Trail", FilesNeeded::Always, false, false},
-    {EffectKind::FlashingText, "mnuFlashText", u"flash_text", u"Flashing Text",
-     u"Make your text flash with different text colors and background colors!",
-     "frmFlashText", u"Flashing Text", FilesNeeded::Never, true, false},
-    {EffectKind::ShakingText, "mnuShakeText", u"shake_text", u"Shaking Text",
-     u"Make your text shake back and forth to make it stand out on your Web page!",
-     "frmFlashText", u"Shaking Text", FilesNeeded::Never, true, false},
-    {EffectKind::AntiSpamLink, "mnuAntiSpam", u"anti_spam", u"Anti-Spam Email Link",
-     u"Create an email link for your Web page that hides your email address from spammers who try to steal it from your Web page.",
-     "frmMailTo", u"AntiSpam Email Protection", FilesNeeded::Never, true, false},
-    {EffectKind::Slideshow, "mnuSlideshow", u"slideshow", u"Slideshow",
-     u"Create a slideshow of images and photos for your Web page!",
-     "frmSlideshow", u"Slideshow", FilesNeeded::Always, true, false},
-    {EffectKind::FlyingText, "mnuFlyingText", u"flying_text", u"Flying Text",
-     u"Create text that flys onto your Web page one letter at a time!",
-     "frmFlyingText", u"Flying Text", FilesNeeded::Always, false, false},
-    {EffectKind::Tooltips, "mnuTooltip", u"tooltip", u"Tooltips",
-     u"Create tooltips that pop up when you move the mouse over an image or text on your Web page!",
-     "frmTooltip", u"Tooltip", FilesNeeded::WhenListed, true, false},
-    {EffectKind::ThoughtBubbles, "mnuBubbles", u"bubbles", u"Thought Bubbles",
-     u"Show what people or pets in your photos are thinking with these pop-up Thought Bubbles.",
-     "frmBubbleText", u"Thought Bubbles", FilesNeeded::Always, true, false},
-    {EffectKind::VerticalScroller, "mnuVertScroller", u"vert_scroller", u"Vertical Scrolling Text",
-     u"Vertically scroll messages like a news ticker.  You can link each message to different Web pages.",
-     "frmVertScroller", u"Vertical Scrolling Text", FilesNeeded::Never, true, false},
-    {EffectKind::ImageScroller, "mnuImageScroller", u"image_scroller", u"Image Filmstrip Scroller",
-     u"Create a scrolling filmstrip of your favorite images!",
-     "frmImageScroller", u"Image Scroller", FilesNeeded::Always, true, false},
-};
+/// All pages together.
+constexpr auto rows = [] {
+    using namespace catalogue_rows;
+    std::array<CatalogueRow,
+               std::size(imageEffectRows) + std::size(textEffectRows) + std::size(otherEffectRows)>
+        all;
+    auto* end = std::ranges::copy(imageEffectRows, all.begin()).out;
+    end = std::ranges::copy(textEffectRows, end).out;
+    std::ranges::copy(otherEffectRows, end);
+    std::ranges::sort(all, {}, &CatalogueRow::Kind);
+    return all;
+}();
 
+// clang-format off
 constexpr EffectCommand commands[] = {
     {"mnuAppletsAnimations", u"&Advanced Animator...", CataloguePage::ImageEffects, EffectKind::AdvancedAnimator},
     {"mnuAnimButton", u"Animated Bu&tton...", CataloguePage::ImageEffects, EffectKind::AnimatedButton},
@@ -230,6 +95,13 @@ std::span<const CatalogueRow> Catalogue()
 const CatalogueRow* FindRow(EffectKind kind)
 {
     return FindIn(Catalogue(), [&](const CatalogueRow& row) { return row.Kind == kind; });
+}
+
+const CatalogueRow& RowOf(EffectKind kind)
+{
+    static constexpr CatalogueRow none;
+    const CatalogueRow* row = FindRow(kind);
+    return row == nullptr ? none : *row;
 }
 
 std::span<const EffectCommand> EffectCommands()

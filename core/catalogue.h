@@ -4,6 +4,7 @@
 #include "core/payload.h"
 #include "core/text.h"
 
+#include <array>
 #include <span>
 
 namespace orvane {
@@ -24,19 +25,39 @@ enum class FilesNeeded
     WhenListed, ///< when the author listed at least one
 };
 
+/// What the preview page has around an effect that a plain page does not show well. The pane is the
+/// embedded browser, which has no banner.
+struct PreviewWords
+{
+    TextView AboveBanner; ///< in front of the banner
+    TextView Before;      ///< in front of the BODY code
+    TextView After;       ///< behind the BODY code
+    TextView PaneHead;    ///< in the pane, takes the place of the HEAD code; empty: nothing does
+    TextView PaneAfter;   ///< behind the BODY code, in the pane alone
+};
+
+/// The row that the list to upload shows for an effect without files.
+inline constexpr TextView noRequiredFiles = u"No Required Files.";
+
 /// Everything fixed about one effect.
 struct CatalogueRow
 {
-    EffectKind Kind;
+    EffectKind Kind = EffectKind::None;
     ControlName MenuCommand; ///< the object name of the command that opens it
     TextView Picture; ///< name of its picture in the program's resources, such as "status_bar"
     TextView Title;
     TextView Description;
-    ControlName Form;    ///< the wizard window
-    TextView MarkerName; ///< stands in the comments around the inserted code
-    FilesNeeded Files;
-    bool ScriptedHelp;     ///< the help on the author's editor is that for scripts
-    bool ReplaceInBody;    ///< an earlier copy in the BODY is looked for and replaced
+    TextView OtherWords;       ///< what else authors call it, or look for when they want it
+    TextView InTodaysBrowsers; ///< how it runs there, and what the page script cannot change
+    ControlName Form;          ///< the wizard window
+    TextView MarkerName;       ///< stands in the comments around the inserted code
+    FilesNeeded Files = FilesNeeded::Never;
+    std::array<TextView, 3> Uploads = {}; ///< the list to upload begins with these
+    bool UploadsSupportFiles = false;     ///< and goes on with the class files that were chosen
+    bool ScriptedHelp = false;            ///< the help on the author's editor is that for scripts
+    bool ReplaceInBody = false;           ///< an earlier copy in the BODY is found and replaced
+    bool ShowsInStatusLine = false;       ///< of the browser alone, without the page script
+    PreviewWords Preview = {};
     bool HasButton = true; ///< false for the second of two rows that open the same wizard
 };
 
@@ -54,6 +75,9 @@ std::span<const CatalogueRow> Catalogue();
 
 /// The row of an effect, or null for a number without one.
 const CatalogueRow* FindRow(EffectKind kind);
+
+/// The row of an effect, or one without words and flags for a number without one.
+const CatalogueRow& RowOf(EffectKind kind);
 
 /// All effect commands, in menu order.
 std::span<const EffectCommand> EffectCommands();

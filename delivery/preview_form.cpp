@@ -1,6 +1,6 @@
 #include "delivery/preview_form.h"
 
-#include "core/todays_browsers.h"
+#include "core/catalogue.h"
 #include "delivery/editor_panel.h"
 #include "delivery/finish_panel.h"
 #include "delivery/insert_panel.h"
@@ -26,8 +26,8 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     m_payload.RunsToday = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
-    auto* preview =
-        new PreviewPanel(m_pane, {InTodaysBrowsers(m_payload.Effect.Kind), m_payload.RunsToday});
+    auto* preview = new PreviewPanel(
+        m_pane, {RowOf(m_payload.Effect.Kind).InTodaysBrowsers, m_payload.RunsToday});
     connect(preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
     connect(preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
     AddPanelOf(0, preview);

@@ -1,8 +1,7 @@
 #include "preview/preview_note.h"
 
+#include "core/catalogue.h"
 #include "core/file_names.h"
-
-#include <vector>
 
 namespace orvane {
 
@@ -19,25 +18,8 @@ constexpr MarkNote markNotes[] = {
                  u"effect in a browser that runs them."},
 };
 
-/// What the pane says of one effect.
-struct KindNote
-{
-    EffectKind Kind;
-    bool RunsInStatus;
-    TextView Words;
-};
-constexpr KindNote kindNotes[] = {
-    {EffectKind::StatusBarTicker, true,
-     u"This effect runs in the browser's status line.  See the framed line below the page."},
-};
-
-const KindNote* NoteOf(EffectKind kind)
-{
-    for (const KindNote& note : kindNotes)
-        if (note.Kind == kind)
-            return &note;
-    return nullptr;
-}
+constexpr TextView runsInStatusLine =
+    u"This effect runs in the browser's status line.  See the framed line below the page.";
 
 /// The files that the effect needs beside its page and that do not lie there, with commas between.
 Text MissingNames(const EffectPayload& effect, const FileStore& files, TextView folder)
@@ -70,17 +52,16 @@ Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextVie
     for (const auto& [mark, words] : markNotes)
         if (!payload.RunsToday && FindIgnoringCase(effect.BODYHTML, mark) != 0)
             AddSentence(note, words);
-    if (const KindNote* kind = NoteOf(effect.Kind); kind != nullptr && !payload.RunsToday)
-        AddSentence(note, kind->Words);
+    if (RunsInStatus(payload))
+        AddSentence(note, runsInStatusLine);
     if (const Text missing = MissingNames(effect, files, folder); !missing.empty())
         AddSentence(note, Join({u"Not found in ", folder, u": ", missing, u"."}));
     return note;
 }
 
-bool RunsInStatus(EffectKind kind)
+bool RunsInStatus(const FinishedPayload& payload)
 {
-    const KindNote* note = NoteOf(kind);
-    return note != nullptr && note->RunsInStatus;
+    return !payload.RunsToday && RowOf(payload.Effect.Kind).ShowsInStatusLine;
 }
 
 } // namespace orvane

@@ -10,7 +10,8 @@ namespace orvane {
 /// files of the effect that are missing in `folder`, where the preview page lies.
 Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextView folder);
 
-/// Whether, without the page script, the effect is seen in the browser's status line alone.
-bool RunsInStatus(EffectKind kind);
+/// Whether the effect is seen in the browser's status line alone, as some are without the page
+/// script.
+bool RunsInStatus(const FinishedPayload& payload);
 
 } // namespace orvane

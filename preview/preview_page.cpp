@@ -1,5 +1,6 @@
 #include "preview/preview_page.h"
 
+#include "core/catalogue.h"
 #include "core/file_names.h"
 #include "core/template.h"
 #include "insertion/page_encoding.h"
@@ -39,75 +40,23 @@ constexpr Template previewPage(uR"page(
 
 Text BrowserPreviewBanner(EffectKind kind, PreviewMode mode)
 {
-    if (mode == PreviewMode::Inline)
-        return {};
-    return kind == EffectKind::TextEffects ? Text(u"<br><br><br><br><br>").append(banner)
-                                           : Text(banner);
+    return mode == PreviewMode::Inline ? Text() : Join({RowOf(kind).Preview.AboveBanner, banner});
 }
 
 /// The code with a word to the author where a plain preview cannot show the effect.
 Text PreviewBodyPart(const FinishedPayload& payload, PreviewMode mode)
 {
-    const EffectPayload& effect = payload.Effect;
-    const Text& body = effect.BODYHTML;
-    switch (effect.Kind) {
-    case EffectKind::StatusBarTicker:
-        if (payload.RunsToday)
-            return body;
-        return body +
-               u"\r\n<br><br><br>This special effect cannot be previewed in Orvane's built-in "
-               u"Previewer.";
-    case EffectKind::SoundReserved:
-    case EffectKind::Sound:
-        return body + u"<br><br><br>Reload this Web page to play the sound again.";
-    case EffectKind::PopupAlert:
-        return body + u"<br><br><br>Reload this Web page to display the PopupAlert box again.";
-    case EffectKind::ScrollingCredits:
-        return body +
-               u"<br><br><br>We've added a few lines of text to demonstrate the scrolling credit "
-               u"effect<BR><BR><BR><BR><BR><BR>This text should be scrolling<BR><BR><BR><BR><BR><BR>"
-               u"<BR><BR><BR><BR><BR><BR><BR><BR>The End.<HR><BR><BR><BR><BR><BR><BR><BR><BR><BR><BR>"
-               u"<BR><BR>.\r\n\r\n</FONT>";
-    case EffectKind::PageTransitions:
-        return body +
-               u"This effect will only display correctly when loading from another Web page.  The "
-               u"Orvane Preview does not display it correctly.  <ol align=left><li>Click the "
-               u"<b>Preview in Browser</b> button to open a browser window.<li>Open any Web page in "
-               u"your Web browser.<li>Hit the browser's back button to see the Page Transition "
-               u"special effect properly.</ol>";
-    case EffectKind::RandomImage:
-    case EffectKind::RandomQuote:
-        return u"<font face='arial' size=1>Click the <b>Refresh</b> button multiple times to "
-               u"demonstrate this special effect.  (This text will not appear in your special "
-               u"effect).</font><br><br><br> " +
-               body;
-    case EffectKind::Earthquake:
-        if (mode == PreviewMode::Inline)
-            return body + u"\r\nThis special effect cannot be previewed in Orvane's built-in "
-                          u"Previewer.  Click the 'Preview in Browser' button to preview it "
-                          u"correctly.";
-        return body;
-    case EffectKind::ColorScrollbars:
-        return body +
-               u"<img src='' width=600 height=1><br>This is a preview of the Color "
-               u"Scrollbars.  Color scrollbars will only appear in Internet Explorer 5.5 and "
-               u"above.";
-    case EffectKind::SlidingMessage:
-        return body + u"This is a preview of the Sliding Instant Message Window.  The window will "
-                      u"slide into view from the lower right-hand corner of your screen.";
-    case EffectKind::ThoughtBubbles:
-        return u"<br><br><br><br><br><br>" + body;
-    default:
-        return body;
-    }
+    const CatalogueRow& row = RowOf(payload.Effect.Kind);
+    const bool isSeen = row.ShowsInStatusLine && !RunsInStatus(payload);
+    return Join({row.Preview.Before, payload.Effect.BODYHTML,
+                 isSeen ? TextView() : row.Preview.After,
+                 mode == PreviewMode::Inline ? row.Preview.PaneAfter : TextView()});
 }
 
-Text PreviewHeadPart(const EffectPayload& effect, PreviewMode mode)
+TextView PreviewHeadPart(const EffectPayload& effect, PreviewMode mode)
 {
-    // The embedded window must not shake.
-    if (effect.Kind == EffectKind::Earthquake && mode == PreviewMode::Inline)
-        return u"<script>function varlo_quake(){}</script>";
-    return effect.HEADHTML;
+    const TextView inPane = RowOf(effect.Kind).Preview.PaneHead;
+    return mode == PreviewMode::Inline && !inPane.empty() ? inPane : TextView(effect.HEADHTML);
 }
 
 bool IsKnown(const Text& browser)
@@ -178,7 +127,7 @@ Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mod
             {.Path = path,
              .Bytes = std::move(bytes),
              .Note = PreviewNote(payload, bench.Files, bench.Core.ProgramFolder),
-             .RunsInStatus = !payload.RunsToday && RunsInStatus(payload.Effect.Kind)});
+             .RunsInStatus = RunsInStatus(payload)});
     bench.Pane.LeaveFile();
     return bench.Files.Replace(path, bytes);
 }
