@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -82,6 +84,16 @@ struct RequiredFiles
     bool operator==(const RequiredFiles&) const = default;
 };
 
+/// A file that an effect makes. It is written into the program's folder when the wizard ends, and
+/// goes beside the page as a support file of that name.
+struct MadeFile
+{
+    Text Name;
+    std::string Bytes;
+    bool IsSecret = false; ///< it holds a password, say, so that only its owner may read it
+    bool operator==(const MadeFile&) const = default;
+};
+
 /// The generated code of one effect, with the files that it needs. Each Generate() gives a new one,
 /// so that nothing of an earlier effect survives.
 struct EffectPayload
@@ -95,6 +107,7 @@ struct EffectPayload
     Text OnUnloadArgs; ///< parentheses included
     RequiredFiles Required;
     std::array<Text, 3> SupportFiles; ///< names of the effect's files in the program's folder
+    std::vector<MadeFile> MadeFiles;  ///< those of them that the effect makes
     Text SavedHEAD; ///< a copy of the effect's script or BODY code, kept in OrvaneCore
     Text SavedBODY; ///< a copy of its BODY code, or that code with sample words
     bool operator==(const EffectPayload&) const = default;

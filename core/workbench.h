@@ -8,6 +8,7 @@
 #include "core/preview_pane.h"
 #include "core/settings.h"
 #include "core/shell.h"
+#include "core/surroundings.h"
 
 #include <functional>
 #include <optional>
@@ -29,7 +30,14 @@ struct Workbench
     Text Version;                               ///< of this program, such as "1.0.0"
     Text StateFolder;                           ///< the user's folder for drafts and kept pages
     std::function<Text()> Today;                ///< gives the date, such as "2024-05-31"
+    std::function<double()> Clock;              ///< gives the time, as in Surroundings
     std::optional<Text> PlatformBrowserVersion; ///< nothing where no registry can be asked
 };
+
+/// What effects may know now.
+inline Surroundings SurroundingsOf(const Workbench& bench)
+{
+    return {bench.Clock(), bench.Core.ProgramFolder};
+}
 
 } // namespace orvane

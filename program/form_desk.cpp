@@ -87,7 +87,7 @@ WizardMaker MakerOf(EffectKind kind)
         return &Make<SearchBoxForm>;
     case EffectKind::Translator:
         return [](Workbench& bench, QWidget* parent) -> std::unique_ptr<WizardForm> {
-            return std::make_unique<SearchBoxForm>(bench, parent, translateMode);
+            return std::make_unique<SearchBoxForm>(bench, parent, EffectKind::Translator);
         };
     case EffectKind::PasswordScript:
         return &Make<PasswordProtectionForm>;

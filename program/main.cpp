@@ -14,7 +14,7 @@
 #include "windows/remember_place.h"
 
 #include <QApplication>
-#include <QDate>
+#include <QDateTime>
 #include <QIcon>
 #include <QTimer>
 
@@ -48,6 +48,14 @@ void ProvideHome()
         return;
     if (const passwd* account = getpwuid(getuid()))
         setenv("HOME", account->pw_dir, 1);
+}
+
+/// Local time in days since the year 1900 began, as the numbers of spreadsheets count them.
+double DaysSince1900()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const auto days = QDate(1899, 12, 30).daysTo(now.date());
+    return static_cast<double>(days) + now.time().msecsSinceStartOfDay() / 86400000.0;
 }
 
 /// Writes the answer where its reader looks for it, and gives the exit code.
@@ -103,7 +111,8 @@ int main(int argc, char** argv)
                     .Help = help,
                     .Version = ORVANE_VERSION,
                     .StateFolder = folders->State,
-                    .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); }};
+                    .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); },
+                    .Clock = &DaysSince1900};
     FormDesk desk(bench, &pane);
     // An open wizard is the first sign of a preview to come; the author is still reading then.
     QObject::connect(&desk, &FormDesk::WizardOpened, &pane,

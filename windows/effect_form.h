@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/draft.h"
+#include "core/effect.h"
 #include "core/pasted_tag.h"
 #include "windows/field_controls.h"
 #include "windows/paged_form.h"
@@ -9,14 +10,16 @@
 
 namespace orvane {
 
-/// The base class of all effect windows. It binds each field that `ForEachField` names to its
-/// control, asks `Check` (or `CheckPage` on each page), shows the values that `Tidy` corrected,
-/// delivers what `Generate` returns, keeps drafts, and fills the window from a pasted tag where the
-/// effect has a `ReadTag`.
+/// The base class of all effect windows, made of what stands beside the parameters (see
+/// core/effect.h). It binds each field that `ForEachField` names to its control, goes from page to
+/// page while the checks pass, shows the values that `Tidy` mended, delivers what `Generate` gives,
+/// keeps drafts, and fills the window from a pasted tag where the effect has a `ReadTag`.
 template <class Effect>
 class EffectForm : public PagedForm
 {
 public:
+    using EffectType = Effect;
+
     /// The values of all fields as their controls show them. Expects a control for each field;
     /// throws std::logic_error for a field without one.
     Effect Parameters() const
@@ -61,8 +64,10 @@ public:
     }
 
 protected:
-    EffectForm(ControlName name, Workbench& bench, QWidget* parent)
-        : PagedForm(name, bench, parent), m_controls(*this, bench)
+    /// `kind` is one of the effect's kinds.
+    EffectForm(ControlName name, Workbench& bench, QWidget* parent,
+               EffectKind kind = Effect::Kinds.front())
+        : PagedForm(name, kind, bench, parent), m_controls(*this, bench), m_freshKind(kind)
     {
     }
 
@@ -80,8 +85,14 @@ protected:
         BeginDrafts(isFresh);
     }
 
-    /// What a fresh window shows; overridden where it is more than the struct's defaults.
-    virtual Effect Fresh() const { return {}; }
+    /// What a fresh window shows.
+    Effect Fresh() const
+    {
+        Effect effect = FreshOf<Effect>(m_freshKind);
+        if constexpr (requires { Recall(effect, m_bench.Settings); })
+            Recall(effect, m_bench.Settings);
+        return effect;
+    }
 
     /// Shows what depends on the values of the fields. SetParameters() calls it; a window that
     /// needs it when the author changes a field connects that itself.
@@ -90,7 +101,7 @@ protected:
     void Next() override
     {
         const Effect effect = Parameters();
-        if (const auto complaint = CheckHere(effect))
+        if (const auto complaint = ComplaintOn(effect, Page()))
             return ShowComplaint(*complaint);
         if (const int page = PageAfter(Page()); page >= 0)
             GoTo(page);
@@ -98,18 +109,17 @@ protected:
             Finish(effect);
     }
 
-    /// The page code and files of the effect; overridden where `Generate` takes more than the
-    /// fields.
-    virtual EffectPayload Produce(const Effect& effect) const { return Generate(effect); }
+    int PageAfter(int page) const override { return NextPageOf(Parameters(), page); }
 
-    /// Corrects an effect that passed its checks by `Tidy`, and delivers it.
+    /// Tidies an effect that passed its checks, and delivers it.
     void Finish(Effect effect)
     {
-        if constexpr (requires { Tidy(effect); }) {
-            Tidy(effect);
+        TidyFields(effect);
+        if (effect != Parameters())
             SetParameters(effect);
-        }
-        Deliver(Produce(effect));
+        if constexpr (requires { Remember(effect, m_bench.Settings); })
+            Remember(effect, m_bench.Settings);
+        Deliver(PayloadOf(effect, SurroundingsOf(m_bench)));
     }
 
     Text Draft() const override { return WriteDraft(Parameters()); }
@@ -122,14 +132,6 @@ protected:
     }
 
 private:
-    std::optional<Complaint> CheckHere(const Effect& effect) const
-    {
-        if constexpr (requires { CheckPage(effect, 0); })
-            return CheckPage(effect, Page());
-        else
-            return Check(effect);
-    }
-
     void FillFromTag()
     {
         Effect effect;
@@ -138,6 +140,7 @@ private:
     }
 
     FieldControls m_controls;
+    const EffectKind m_freshKind;
     PastedTag m_tag;
 };
 

@@ -1,5 +1,6 @@
 #include "windows/wizard_form.h"
 
+#include "core/file_names.h"
 #include "services/drafts.h"
 #include "windows/qt_text.h"
 
@@ -13,22 +14,20 @@ namespace {
 
 constexpr int keepEveryMilliseconds = 2000;
 
-EffectKind KindOf(ControlName form)
+/// Writes the file where support files lie.
+Done WriteMade(Workbench& bench, const MadeFile& file)
 {
-    for (const CatalogueRow& row : Catalogue())
-        if (row.Form == form)
-            return row.Kind;
-    return EffectKind::None;
+    return bench.Files.Replace(PathIn(bench.Core.ProgramFolder, file.Name), file.Bytes);
 }
 
 } // namespace
 
-WizardForm::WizardForm(ControlName name, Workbench& bench, QWidget* parent)
+WizardForm::WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent)
     : WizardFrame(name, bench, parent),
       m_keepTimer(new QTimer(this)),
       lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
 {
-    SetEffect(KindOf(name));
+    SetEffect(kind);
     bench.Core.Required = {};
     bench.Core.RequiredFileCount = 0;
     m_keepTimer->setInterval(keepEveryMilliseconds);
@@ -101,6 +100,11 @@ std::optional<EffectPayload> WizardForm::TakePayload()
 
 void WizardForm::Deliver(EffectPayload payload)
 {
+    for (const MadeFile& file : payload.MadeFiles) {
+        const Done written = WriteMade(m_bench, file);
+        if (const Fault* fault = FaultIn(written))
+            return ShowComplaint({Text(Words(*fault)), {}});
+    }
     m_bench.Core.SavedHEAD = payload.SavedHEAD;
     m_bench.Core.SavedBODY = payload.SavedBODY;
     m_payload = std::move(payload);

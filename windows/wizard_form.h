@@ -10,16 +10,17 @@ class QTimer;
 namespace orvane {
 
 /// The window of one effect. Done hides it and keeps the fields as they are, Cancel closes it; what
-/// it produced is read with TakePayload(). What the author entered is kept as a draft file until
-/// the effect was delivered, and is offered when the window opens the next time.
+/// it produced is read with TakePayload(). Files that the effect makes are written before it hides.
+/// What the author entered is kept as a draft file until the effect was delivered, and is offered
+/// when the window opens the next time.
 class WizardForm : public WizardFrame
 {
     Q_OBJECT
 
 public:
-    /// Empties the shared table of files to copy. The effect is the one whose catalogue row has
-    /// `name` as its window; the row gives title and help topic.
-    WizardForm(ControlName name, Workbench& bench, QWidget* parent);
+    /// Empties the shared table of files to copy. The effect's row in the catalogue gives title and
+    /// help topic.
+    WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent);
 
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
@@ -28,9 +29,9 @@ public:
     void DropDraft();
 
 protected:
-    /// Keeps the payload for TakePayload() and closes the window by accept(). A window with more to
-    /// do at the end overrides this: it does that first, and calls this only if it succeeded.
-    virtual void Deliver(EffectPayload payload);
+    /// Writes the files that the effect made, keeps the payload for TakePayload() and closes the
+    /// window by accept(). When a file cannot be written, tells the author why and does no more.
+    void Deliver(EffectPayload payload);
 
     /// Makes this the window of another effect: title, help topic and draft are then those of its
     /// catalogue row.

@@ -6,6 +6,7 @@
 #include "core/payload.h"
 #include "services/image_list.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -16,6 +17,9 @@ namespace orvane {
 /// window.
 struct AdvancedAnimator
 {
+    static constexpr std::array Kinds = {EffectKind::AdvancedAnimator};
+    static constexpr int Pages = 1;
+
     std::vector<ImageRow> Rows;
     Text AnimationWidth;  ///< pixels, as typed
     Text AnimationHeight; ///< pixels, as typed

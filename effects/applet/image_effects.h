@@ -15,6 +15,9 @@ namespace orvane {
 /// controls; the defaults are those of a fresh window.
 struct ImageEffects
 {
+    static constexpr std::array Kinds = {EffectKind::ImageEffects};
+    static constexpr int Pages = 1;
+
     Text EffectPicker; ///< one of imageEffectNames; empty while nothing is chosen
     Text ImageFile;    ///< without its folder
     Text ImageWidth;   ///< pixels, as typed

@@ -7,6 +7,7 @@
 #include "services/picked_image.h"
 #include "services/row_list.h"
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -15,6 +16,9 @@ namespace orvane {
 /// What the author enters on the Image Fade window; the defaults are those of a fresh window.
 struct ImageFade
 {
+    static constexpr std::array Kinds = {EffectKind::ImageFade};
+    static constexpr int Pages = 1;
+
     std::vector<Text> FadeImages; ///< without their folders
     std::vector<Text> FadeLinks;  ///< one for each image, empty for no link
     Text FadePause = u"1";        ///< seconds, as typed

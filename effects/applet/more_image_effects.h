@@ -14,6 +14,9 @@ namespace orvane {
 /// window.
 struct MoreImageEffects
 {
+    static constexpr std::array Kinds = {EffectKind::MoreImageEffects};
+    static constexpr int Pages = 1;
+
     Text EffectPicker;  ///< one of moreImageEffectNames; empty while nothing is chosen
     Text ImageFile;     ///< without its folder
     Text ImageWidth;    ///< pixels, as typed

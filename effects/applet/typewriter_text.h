@@ -6,6 +6,7 @@
 #include "core/payload.h"
 #include "core/pick_lists.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -13,6 +14,9 @@ namespace orvane {
 /// What the author enters on the Typewriter Text window; the defaults are those of a fresh window.
 struct TypewriterText
 {
+    static constexpr std::array Kinds = {EffectKind::TypewriterText};
+    static constexpr int Pages = 3;
+
     bool ReadFromFile = false; ///< the text lies in `TextFile`, else it is `TypedText`
     Text TypedText;            ///< lines end in CR LF
     Text TextFile;             ///< without its folder

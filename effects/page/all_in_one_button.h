@@ -21,6 +21,9 @@ enum class ButtonType
 /// window.
 struct AllInOneButton
 {
+    static constexpr std::array Kinds = {EffectKind::AllInOneButton};
+    static constexpr int Pages = 2;
+
     Text cboButtonAction; ///< an item of buttonActions; empty when none is chosen
     ButtonType optButtonType = ButtonType::Button;
     Text txtButtonText; ///< the text, or the file name of the image

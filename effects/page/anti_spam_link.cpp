@@ -76,14 +76,14 @@ Text PlainBody(const AntiSpamLink& link, TextView subject, TextView image)
 
 } // namespace
 
-Text StoredEmail(const Settings& settings)
+void Recall(AntiSpamLink& link, const Settings& settings)
 {
-    return settings.Get(editorSection, emailKey, {}, editorApplication);
+    link.Email = settings.Get(editorSection, emailKey, {}, editorApplication);
 }
 
-void StoreEmail(Settings& settings, TextView email)
+void Remember(const AntiSpamLink& link, Settings& settings)
 {
-    settings.Put(editorSection, emailKey, email, editorApplication);
+    settings.Put(editorSection, emailKey, link.Email, editorApplication);
 }
 
 std::optional<Complaint> Check(const AntiSpamLink& link)

@@ -5,6 +5,7 @@
 #include "core/payload.h"
 #include "core/settings.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -13,6 +14,9 @@ namespace orvane {
 /// window without a stored address.
 struct AntiSpamLink
 {
+    static constexpr std::array Kinds = {EffectKind::AntiSpamLink};
+    static constexpr int Pages = 1;
+
     Text Email;
     Text MailToText;
     Text txtImage; ///< file name; empty for a link of text alone
@@ -32,10 +36,11 @@ void ForEachField(Link& link, Field&& field)
     field("chkAntiSpam", link.chkAntiSpam);
 }
 
-/// The author's stored address, which the maker's page editor shares; empty when none is stored.
-Text StoredEmail(const Settings& settings);
+/// Fills in the author's stored address, which the maker's page editor shares; empties the field
+/// when none is stored.
+void Recall(AntiSpamLink& link, const Settings& settings);
 /// Stores the author's address.
-void StoreEmail(Settings& settings, TextView email);
+void Remember(const AntiSpamLink& link, Settings& settings);
 
 /// The complaint of the first check that fails, in the order of the fields, or nothing when the
 /// wizard may finish.

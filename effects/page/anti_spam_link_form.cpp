@@ -33,15 +33,4 @@ AntiSpamLinkForm::AntiSpamLinkForm(Workbench& bench, QWidget* parent)
     Email->selectAll();
 }
 
-AntiSpamLink AntiSpamLinkForm::Fresh() const
-{
-    return {.Email = StoredEmail(m_bench.Settings)};
-}
-
-void AntiSpamLinkForm::Deliver(EffectPayload payload)
-{
-    StoreEmail(m_bench.Settings, Parameters().Email);
-    EffectForm::Deliver(std::move(payload));
-}
-
 } // namespace orvane

@@ -12,10 +12,6 @@ class AntiSpamLinkForm : public EffectForm<AntiSpamLink>
 
 public:
     explicit AntiSpamLinkForm(Workbench& bench, QWidget* parent = nullptr);
-
-protected:
-    AntiSpamLink Fresh() const override;
-    void Deliver(EffectPayload payload) override;
 };
 
 } // namespace orvane

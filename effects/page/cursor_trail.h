@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -12,6 +13,9 @@ namespace orvane {
 /// window.
 struct CursorTrail
 {
+    static constexpr std::array Kinds = {EffectKind::CursorTrail};
+    static constexpr int Pages = 1;
+
     Text txtImage;  ///< with its folder, as Browse gave it
     int Slider = 5; ///< images in the trail, 1 to 20
     bool operator==(const CursorTrail&) const = default;

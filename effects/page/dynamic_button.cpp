@@ -29,6 +29,14 @@ constexpr Template imageTag(uR"page(
 
 constexpr Template play(uR"page( «Id».src='«Sound»')page");
 
+/// "bgs" and four digits of the clock, or all where there are fewer, as at midnight.
+Text SoundElement(double clock)
+{
+    const Text digits = NumberToText(clock);
+    const TextView four = digits.size() < 6 ? TextView(digits) : Mid(digits, digits.size() - 5, 4);
+    return Join({u"bgs", four});
+}
+
 Text Play(TextView soundElement, TextView sound)
 {
     return sound.empty() ? Text() : Fill(play, {{u"Id", soundElement}, {u"Sound", sound}});
@@ -59,15 +67,9 @@ void Tidy(DynamicButton& button)
     button.LinkUrl = WithScheme(button.LinkUrl);
 }
 
-Text SoundElement(double clock)
+EffectPayload Generate(const DynamicButton& button, const Surroundings& surroundings)
 {
-    const Text digits = NumberToText(clock);
-    const TextView four = digits.size() < 6 ? TextView(digits) : Mid(digits, digits.size() - 5, 4);
-    return Join({u"bgs", four});
-}
-
-EffectPayload Generate(const DynamicButton& button, TextView soundElement)
-{
+    const Text soundElement = SoundElement(surroundings.Clock);
     const auto otherwiseOver = [&](const Text& image) {
         return image.empty() ? button.OverImage : image;
     };

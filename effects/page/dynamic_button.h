@@ -3,7 +3,9 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "core/surroundings.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -11,6 +13,9 @@ namespace orvane {
 /// What the author enters on the Dynamic Button window; the defaults are those of a fresh window.
 struct DynamicButton
 {
+    static constexpr std::array Kinds = {EffectKind::DynamicButton};
+    static constexpr int Pages = 3;
+
     Text DefaultImage; ///< a file name, as are the other images and the sounds
     Text OverImage;
     Text OverSound;
@@ -42,12 +47,9 @@ std::optional<Complaint> CheckPage(const DynamicButton& button, int page);
 /// Puts "http://" in front of a link that begins with "www.".
 void Tidy(DynamicButton& button);
 
-/// The id of the element that plays the sounds: "bgs" and digits of the time, which is given in
-/// days, so that two buttons of one page are unlikely to have the same.
-Text SoundElement(double clock);
-
-/// The button's page text, with its sounds in the element of that id (see SoundElement()). Expects
-/// a button that passes CheckPage() and went through Tidy().
-EffectPayload Generate(const DynamicButton& button, TextView soundElement = u"bgs");
+/// The button's page text. The id of the element that plays its sounds is made of the time, so that
+/// two buttons of one page are unlikely to have the same. Expects a button that passes CheckPage()
+/// and went through Tidy().
+EffectPayload Generate(const DynamicButton& button, const Surroundings& surroundings);
 
 } // namespace orvane

@@ -4,21 +4,7 @@
 #include "services/file_requests.h"
 #include "windows/picture_box.h"
 
-#include <QDateTime>
-
 namespace orvane {
-
-namespace {
-
-/// Local time in days since the year 1900 began, as the numbers of spreadsheets count them.
-double Clock()
-{
-    const QDateTime now = QDateTime::currentDateTime();
-    const auto days = QDate(1899, 12, 30).daysTo(now.date());
-    return static_cast<double>(days) + now.time().msecsSinceStartOfDay() / 86400000.0;
-}
-
-} // namespace
 
 DynamicButtonForm::DynamicButtonForm(Workbench& bench, QWidget* parent)
     : EffectForm("DynaBut", bench, parent)
@@ -105,11 +91,6 @@ void DynamicButtonForm::UpdateForm()
 {
     for (const auto& [slot, box] : m_previews)
         box->Load(m_bench.Core.Required.Sources.at(slot));
-}
-
-EffectPayload DynamicButtonForm::Produce(const DynamicButton& button) const
-{
-    return Generate(button, SoundElement(Clock()));
 }
 
 } // namespace orvane

@@ -23,7 +23,6 @@ public:
 
 protected:
     void UpdateForm() override;
-    EffectPayload Produce(const DynamicButton& button) const override;
 
 private:
     PageBuilder AddButtonPage(TextView frame, ControlName focus);

@@ -1,6 +1,7 @@
 #include "effects/page/password_protection.h"
 
 #include "core/template.h"
+#include "insertion/page_encoding.h"
 #include "reedit/applet_values.h"
 #include "services/web_address.h"
 
@@ -152,6 +153,7 @@ constexpr Template loginForm(uR"page(
         </form>
 )page");
 
+constexpr TextView scriptName = u"password.cgi";
 constexpr TextView usualPerlPath = u"/usr/bin/perl";
 
 Text GateHead(const PasswordProtection& gate)
@@ -161,6 +163,19 @@ Text GateHead(const PasswordProtection& gate)
             ? Fill(manyPasswords, {{u"GateUrl", gate.GateUrl}})
             : Fill(onePassword, {{u"GatePassword", gate.GatePassword}, {u"GateUrl", gate.GateUrl}});
     return Fill(gateHead, {{u"CreditBanner", CreditBanner}, {u"GateLines", lines}});
+}
+
+/// The script for the Web server, as it lies on the disk.
+MadeFile PasswordScript(const PasswordProtection& protection)
+{
+    const Text script = Fill(serverScript, {{u"PerlPath", protection.PerlPath},
+                                            {u"Password", Trim(protection.LoginPassword)},
+                                            {u"Username", Trim(protection.LoginUsername)},
+                                            {u"LandingUrl", protection.LandingUrl},
+                                            {u"CgiDirectory", protection.CgiDirectory}});
+    return {.Name = Text(scriptName),
+            .Bytes = EncodeForPage(script, PageEncoding::Windows1252),
+            .IsSecret = true};
 }
 
 void TidyLogin(PasswordProtection& login)
@@ -178,6 +193,12 @@ void TidyLogin(PasswordProtection& login)
 }
 
 } // namespace
+
+void ChooseKind(PasswordProtection& protection, EffectKind kind)
+{
+    if (kind == EffectKind::PasswordServer)
+        protection.optScheme = PasswordScheme::Server;
+}
 
 TextView DescriptionOf(PasswordScheme scheme)
 {
@@ -226,6 +247,14 @@ std::optional<Complaint> CheckPage(const PasswordProtection& protection, int pag
     return std::nullopt;
 }
 
+int PageAfter(const PasswordProtection& protection, int page)
+{
+    using namespace password_pages;
+    if (page != scheme)
+        return -1;
+    return protection.optScheme == PasswordScheme::Server ? server : script;
+}
+
 void Tidy(PasswordProtection& protection)
 {
     if (protection.optScheme == PasswordScheme::Server)
@@ -234,22 +263,14 @@ void Tidy(PasswordProtection& protection)
         protection.GateUrl.pop_back();
 }
 
-Text PasswordScript(const PasswordProtection& protection)
-{
-    return Fill(serverScript, {{u"PerlPath", protection.PerlPath},
-                               {u"Password", Trim(protection.LoginPassword)},
-                               {u"Username", Trim(protection.LoginUsername)},
-                               {u"LandingUrl", protection.LandingUrl},
-                               {u"CgiDirectory", protection.CgiDirectory}});
-}
-
 EffectPayload Generate(const PasswordProtection& protection)
 {
     if (protection.optScheme == PasswordScheme::Server)
         return {
             .Kind = EffectKind::PasswordServer,
             .BODYHTML = Fill(loginForm, {{u"CgiDirectory", protection.CgiDirectory}}),
-            .SupportFiles = {Text(passwordScriptName)},
+            .SupportFiles = {Text(scriptName)},
+            .MadeFiles = {PasswordScript(protection)},
         };
     return {
         .Kind = EffectKind::PasswordScript,

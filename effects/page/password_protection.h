@@ -5,6 +5,7 @@
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -28,6 +29,9 @@ enum class PasswordType
 /// window.
 struct PasswordProtection
 {
+    static constexpr std::array Kinds = {EffectKind::PasswordScript, EffectKind::PasswordServer};
+    static constexpr int Pages = 3;
+
     PasswordScheme optScheme = PasswordScheme::None;
     PasswordType optPasswordType = PasswordType::One;
     Text GatePassword;
@@ -66,6 +70,10 @@ inline constexpr int server = 2;
 
 } // namespace password_pages
 
+/// Chooses the scheme of that kind for a fresh protection; none for the script, which a fresh
+/// window does not choose either.
+void ChooseKind(PasswordProtection& protection, EffectKind kind);
+
 /// What the window says about a scheme.
 TextView DescriptionOf(PasswordScheme scheme);
 
@@ -81,20 +89,17 @@ GateWords GateWordsOf(PasswordType type);
 /// The complaint that keeps the author on a page, or nothing; the script page has none.
 std::optional<Complaint> CheckPage(const PasswordProtection& protection, int page);
 
+/// The page that follows: that of the chosen scheme, or -1 when the wizard ends.
+int PageAfter(const PasswordProtection& protection, int page);
+
 /// Completes the fields of the chosen scheme. Script: a slash at the end of GateUrl is removed.
 /// Server: LandingUrl gets "http://" if it begins with "www.", CgiDirectory a slash at its end, and
 /// an empty PerlPath becomes "/usr/bin/perl".
 void Tidy(PasswordProtection& protection);
 
-/// The file name of the script for the Web server.
-inline constexpr TextView passwordScriptName = u"password.cgi";
-
-/// The text of the script for the Web server. Expects a protection that went through Tidy().
-Text PasswordScript(const PasswordProtection& protection);
-
-/// The page text of the chosen scheme: the script, or the login form, whose server script must be
-/// in the program's folder. Expects a protection that passes CheckPage() on the pages of its scheme
-/// and went through Tidy().
+/// The page text of the chosen scheme: the script, or the login form with its file, the script for
+/// the Web server. Expects a protection that passes CheckPage() on the pages of its scheme and went
+/// through Tidy().
 EffectPayload Generate(const PasswordProtection& protection);
 
 /// Fills the fields of the script scheme from a pasted script. In a script that Generate() gives,

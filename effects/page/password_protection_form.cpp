@@ -1,7 +1,5 @@
 #include "effects/page/password_protection_form.h"
 
-#include "core/file_names.h"
-#include "insertion/page_encoding.h"
 #include "windows/qt_text.h"
 
 #include <QCheckBox>
@@ -102,13 +100,6 @@ void PasswordProtectionForm::UpdateForm()
     PerlPath->setEnabled(fields.ChangeSettings);
 }
 
-int PasswordProtectionForm::PageAfter(int page) const
-{
-    if (page != scheme)
-        return -1;
-    return Parameters().optScheme == PasswordScheme::Server ? server : script;
-}
-
 int PasswordProtectionForm::PageBefore(int) const
 {
     return scheme;
@@ -130,19 +121,6 @@ void PasswordProtectionForm::TakeDraft(TextView draft)
 {
     EffectForm::TakeDraft(draft);
     m_keepsOption = true;
-}
-
-/// The login form needs its script in the program's folder, from where it is copied to the page.
-void PasswordProtectionForm::Deliver(EffectPayload payload)
-{
-    if (payload.Kind == EffectKind::PasswordServer) {
-        const Done written = m_bench.Files.Replace(
-            PathIn(m_bench.Core.ProgramFolder, passwordScriptName),
-            EncodeForPage(PasswordScript(Parameters()), PageEncoding::Windows1252));
-        if (const Fault* fault = FaultIn(written))
-            return ShowComplaint({Text(Words(*fault)), {}});
-    }
-    EffectForm::Deliver(std::move(payload));
 }
 
 } // namespace orvane

@@ -19,10 +19,8 @@ public:
 protected:
     void UpdateForm() override;
     void Next() override;
-    int PageAfter(int page) const override;
     int PageBefore(int page) const override;
     void TakeDraft(TextView draft) override;
-    void Deliver(EffectPayload payload) override;
 
 private:
     void AddSchemePage();

@@ -26,6 +26,9 @@ inline constexpr std::array<AlertType, 3> alertTypes = {{
 /// What the author enters on the Popup Alert window; the defaults are those of a fresh window.
 struct PopupAlert
 {
+    static constexpr std::array Kinds = {EffectKind::PopupAlert};
+    static constexpr int Pages = 1;
+
     Text cmboAlertType = Text(alertTypes[0].Item); ///< empty when none is chosen
     Text txtAlertText;
     bool operator==(const PopupAlert&) const = default;

@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -20,6 +21,9 @@ enum class WhenToAppear
 /// What the author enters on the Popup Window window; the defaults are those of a fresh window.
 struct PopupWindow
 {
+    static constexpr std::array Kinds = {EffectKind::PopupWindow};
+    static constexpr int Pages = 2;
+
     WhenToAppear optWhenToAppear = WhenToAppear::OnLoad;
     Text txtLinkItem; ///< text of the link, or file name of the image
     Text txtWindowName;

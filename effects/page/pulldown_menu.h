@@ -20,6 +20,9 @@ enum class MenuDisplay
 /// What the author enters on the Pulldown Menu window; the defaults are those of a fresh window.
 struct PulldownMenu
 {
+    static constexpr std::array Kinds = {EffectKind::PulldownMenu};
+    static constexpr int Pages = 1;
+
     std::vector<Text> List1; ///< item texts
     std::vector<Text> List2; ///< the items' addresses, in step with the texts
     MenuDisplay optDisplay = MenuDisplay::Dropdown;

@@ -1,11 +1,14 @@
 #include "effects/page/search_box.h"
 
+#include "core/file_names.h"
 #include "core/template.h"
-#include "services/recorded_files.h"
 
 namespace orvane {
 
 namespace {
+
+/// The picture in both forms.
+constexpr TextView searchLogo = u"GoogleLogo.gif";
 
 constexpr TextView searchEndpoint = u"https://www.google.com/search";
 constexpr TextView searchHome = u"https://www.google.com/";
@@ -65,6 +68,11 @@ Text TranslateForm(const SearchBox& box)
 
 } // namespace
 
+void ChooseKind(SearchBox& box, EffectKind kind)
+{
+    box.Mode = kind == EffectKind::Translator ? translateMode : searchMode;
+}
+
 SearchModeWords WordsOfMode(TextView mode)
 {
     if (mode == searchMode)
@@ -93,13 +101,14 @@ std::optional<Complaint> Check(const SearchBox& box)
     return std::nullopt;
 }
 
-EffectPayload Generate(const SearchBox& box)
+EffectPayload Generate(const SearchBox& box, const Surroundings& surroundings)
 {
     EffectPayload payload{
         .Kind = WordsOfMode(box.Mode).Kind,
         .BODYHTML = box.Mode == searchMode ? SearchForm(box) : TranslateForm(box),
     };
-    RequireFile(payload.Required, 0, searchLogo);
+    payload.Required.Names[0] = searchLogo;
+    payload.Required.Sources[0] = PathIn(surroundings.ProgramFolder, searchLogo);
     return payload;
 }
 

@@ -3,7 +3,9 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "core/surroundings.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -27,6 +29,9 @@ inline constexpr TextView translateSample = u"http://www.mysite.example/mypage.h
 /// are those of a fresh window.
 struct SearchBox
 {
+    static constexpr std::array Kinds = {EffectKind::SearchBox, EffectKind::Translator};
+    static constexpr int Pages = 1;
+
     Text Mode = Text(searchMode);
     SearchPlace optSearch = SearchPlace::Web;
     Text txtURL; ///< the site to search
@@ -44,6 +49,9 @@ void ForEachField(Box& box, Field&& field)
     field("txtTranslateURL", box.txtTranslateURL);
 }
 
+/// Gives a fresh box the mode of that kind.
+void ChooseKind(SearchBox& box, EffectKind kind);
+
 /// The effect of a mode, and the headings of its window.
 struct SearchModeWords
 {
@@ -54,14 +62,11 @@ struct SearchModeWords
 /// The words of this mode.
 SearchModeWords WordsOfMode(TextView mode);
 
-/// The picture in both forms. It is in the program's folder and must be copied beside the page.
-inline constexpr TextView searchLogo = u"GoogleLogo.gif";
-
 /// The complaint about the address that the mode needs, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const SearchBox& box);
 
-/// The form's page text, with its picture in file slot 0, without a source. Expects a box that
-/// passes Check().
-EffectPayload Generate(const SearchBox& box);
+/// The form's page text, with its picture, which lies in the program's folder, in file slot 0.
+/// Expects a box that passes Check().
+EffectPayload Generate(const SearchBox& box, const Surroundings& surroundings);
 
 } // namespace orvane

@@ -1,19 +1,16 @@
 #include "effects/page/search_box_form.h"
 
-#include "core/file_names.h"
-
 #include <QRadioButton>
 
 namespace orvane {
 
-SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
-    : EffectForm("frmGoogle", bench, parent), m_mode(mode)
+SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, EffectKind kind)
+    : EffectForm("frmGoogle", bench, parent, kind)
 {
-    const SearchModeWords words = WordsOfMode(mode);
-    SetEffect(words.Kind);
+    const SearchModeWords words = WordsOfMode(Fresh().Mode);
     // The cursor waits behind the "http://", which stays unselected.
-    PageBuilder page = AddPage(
-        {words.Heading, words.SubHeading, mode == searchMode ? ControlName() : "txtTranslateURL"});
+    PageBuilder page = AddPage({words.Heading, words.SubHeading,
+                                kind == EffectKind::SearchBox ? ControlName() : "txtTranslateURL"});
     page.HiddenText("Mode");
     PageBuilder search = page.Frame(u"Search box settings", "frameSearch");
     frameSearch = search.Page();
@@ -30,25 +27,12 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
     AddButtons(Buttons::OnePage);
 }
 
-SearchBox SearchBoxForm::Fresh() const
-{
-    return {.Mode = Text(m_mode)};
-}
-
 void SearchBoxForm::UpdateForm()
 {
     const SearchBox box = Parameters();
     frameSearch->setVisible(box.Mode == searchMode);
     frameTranslate->setVisible(box.Mode != searchMode);
     txtURL->setEnabled(box.optSearch == SearchPlace::Site);
-}
-
-/// The picture comes out of the program's folder.
-EffectPayload SearchBoxForm::Produce(const SearchBox& box) const
-{
-    EffectPayload payload = Generate(box);
-    payload.Required.Sources[0] = PathIn(m_bench.Core.ProgramFolder, searchLogo);
-    return payload;
 }
 
 } // namespace orvane

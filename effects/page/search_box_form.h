@@ -11,16 +11,14 @@ class SearchBoxForm : public EffectForm<SearchBox>
     Q_OBJECT
 
 public:
-    /// Shows the window in that mode.
-    explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = searchMode);
+    /// Shows the window of that kind.
+    explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr,
+                           EffectKind kind = EffectKind::SearchBox);
 
 protected:
-    SearchBox Fresh() const override;
     void UpdateForm() override;
-    EffectPayload Produce(const SearchBox& box) const override;
 
 private:
-    const TextView m_mode;
     QWidget* frameSearch;
     QLineEdit* txtURL;
     QWidget* frameTranslate;

@@ -5,6 +5,7 @@
 #include "core/payload.h"
 #include "services/image_list.h"
 
+#include <array>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,9 @@ namespace orvane {
 /// What the author enters on the Slideshow window; the defaults are those of a fresh window.
 struct Slideshow
 {
+    static constexpr std::array Kinds = {EffectKind::Slideshow};
+    static constexpr int Pages = 2;
+
     std::vector<ImageRow> Rows;
     Text txtSlideDuration = u"5"; ///< seconds, as typed
     bool chkDisplayControls = false;

@@ -22,6 +22,9 @@ enum class ClockContent
 /// What the author enters on the Digital Clock window; the defaults are those of a fresh window.
 struct DigitalClock
 {
+    static constexpr std::array Kinds = {EffectKind::DigitalClock};
+    static constexpr int Pages = 4;
+
     ClockContent optDateTime = ClockContent::Date;
     Text lstDateTimeFormat; ///< the selected item; empty when none is selected
     bool chkDayOfWeek = false;

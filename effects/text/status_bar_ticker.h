@@ -5,6 +5,7 @@
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 
+#include <array>
 #include <optional>
 
 namespace orvane {
@@ -13,6 +14,9 @@ namespace orvane {
 /// window.
 struct StatusBarTicker
 {
+    static constexpr std::array Kinds = {EffectKind::StatusBarTicker};
+    static constexpr int Pages = 1;
+
     Text txtStatusBarText;
     bool operator==(const StatusBarTicker&) const = default;
 };

@@ -26,6 +26,9 @@ inline constexpr std::array<TextView, 2> tooltipLocations = {u"Below the mousepo
 /// What the author enters on the Tooltips window; the defaults are those of a fresh window.
 struct Tooltips
 {
+    static constexpr std::array Kinds = {EffectKind::Tooltips};
+    static constexpr int Pages = 3;
+
     Text txtTooltipText;
     Text cboFont = u"Arial";
     Text cboFontSize = Text(FontSizes[6]);

@@ -147,9 +147,8 @@ void Tidy(VerticalScroller& scroller)
     TakeDefault(scroller.LinkColor, u"#0000FF");
 }
 
-EffectPayload Generate(VerticalScroller scroller)
+EffectPayload Generate(const VerticalScroller& scroller)
 {
-    Tidy(scroller);
     EffectPayload payload{.Kind = EffectKind::VerticalScroller};
     payload.HEADHTML = Fill(
         head, {{u"Speed", NumberToText(slowestPixel - scroller.sldrSpeed)},

@@ -6,6 +6,7 @@
 #include "core/pick_lists.h"
 #include "services/row_list.h"
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -15,6 +16,9 @@ namespace orvane {
 /// window.
 struct VerticalScroller
 {
+    static constexpr std::array Kinds = {EffectKind::VerticalScroller};
+    static constexpr int Pages = 3;
+
     std::vector<Text> lstItems; ///< the messages; lines of one end in CR LF
     std::vector<Text> lstLinks; ///< the address of each message, or an empty text
     Text cboFont = u"Arial";
@@ -69,7 +73,8 @@ std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page);
 /// Puts the default colours where none was picked.
 void Tidy(VerticalScroller& scroller);
 
-/// The scroller's page text. Expects a scroller that passes CheckPage() on every page.
-EffectPayload Generate(VerticalScroller scroller);
+/// The scroller's page text. Expects a scroller that passes CheckPage() on every page and went
+/// through Tidy().
+EffectPayload Generate(const VerticalScroller& scroller);
 
 } // namespace orvane

@@ -55,7 +55,8 @@ int Run(QApplication& application, bool isWarm)
                     .Clipboard = fake.Clipboard,
                     .Pane = pane,
                     .Help = fake.Help,
-                    .Today = [] { return Text(); }};
+                    .Today = [] { return Text(); },
+                    .Clock = [] { return 0.0; }};
     FormDesk desk(bench, &pane);
     QElapsedTimer watch;
     files.PageRead = [&] {

@@ -1,3 +1,4 @@
+#include "core/effect.h"
 #include "effects/page/all_in_one_button.h"
 #include "effects/page/anti_spam_link.h"
 #include "effects/page/password_protection.h"
@@ -12,7 +13,7 @@ namespace {
 template <class Effect>
 std::string PageOf(const Effect& effect)
 {
-    return NewPageBytes(Finish(Generate(effect)));
+    return NewPageBytes(Finish(PayloadOf(effect, {})));
 }
 
 TEST(PulldownMenuBrowserTest, TheButtonOpensTheChosenPageFromBothDisplays)

@@ -10,8 +10,9 @@ namespace {
 class VerticalScrollerBrowserTest : public ::testing::Test
 {
 protected:
-    void Load(const VerticalScroller& scroller)
+    void Load(VerticalScroller scroller)
     {
+        Tidy(scroller);
         m_page.Load(
             "<script>steps = []; watch = () => {"
             "  const box = divContainer, message = spnOne;"

@@ -131,9 +131,8 @@ TYPED_TEST(EveryEffectTest, GivesBackWhatItIsGivenWithEveryFieldChanged)
 TYPED_TEST(EveryEffectTest, GeneratedTextsHaveWholeLineEndsAndNoUnfilledMark)
 {
     auto effect = this->Changed();
-    if constexpr (requires { Tidy(effect); })
-        Tidy(effect);
-    const EffectPayload payload = Generate(effect);
+    TidyFields(effect);
+    const EffectPayload payload = PayloadOf(effect, {});
     EXPECT_NE(FindRow(payload.Kind), nullptr);
     for (const Text& text : {payload.HEADHTML, payload.BODYHTML}) {
         EXPECT_EQ(ReplaceAll(text, u"\r\n", u"").find_first_of(u"\r\n"), Text::npos);
@@ -168,8 +167,14 @@ TYPED_TEST(EveryEffectTest, ADraftWithAnyTextsInItsFieldsLeavesAWindowThatWorks)
     }
 }
 
-TYPED_TEST(EveryEffectTest, ShrinksWithItsButtonsInSight)
+TYPED_TEST(EveryEffectTest, HasItsPagesAndShrinksWithItsButtonsInSight)
 {
+    struct Window : TypeParam
+    {
+        using TypeParam::PanelCount;
+        using TypeParam::TypeParam;
+    };
+    EXPECT_EQ(Window(this->m_desk.Bench).PanelCount(), TestFixture::Effect::Pages);
     this->m_form.resize(640, 440);
     this->m_form.show();
     LetRun();

@@ -215,7 +215,8 @@ struct FakeDesk
                     .Help = Help,
                     .Version = u"1.2.3",
                     .StateFolder = u"/state",
-                    .Today = [] { return Text(u"2024-05-31"); }};
+                    .Today = [] { return Text(u"2024-05-31"); },
+                    .Clock = [] { return 45443.5; }};
 
     FakeDesk() { Core.ProgramFolder = u"/program"; }
 };

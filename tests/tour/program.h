@@ -68,7 +68,8 @@ struct Program
                     .Help = Help,
                     .Version = u"1.0.0",
                     .StateFolder = FromQt(tourFolder + QStringLiteral("/home/state")),
-                    .Today = [] { return Text(u"2024-05-31"); }};
+                    .Today = [] { return Text(u"2024-05-31"); },
+                    .Clock = [] { return 37865.270585185123; }};
     FormDesk Desk{Bench, &Pane};
     EffectPayload Previewed; ///< the payload that was previewed last
     std::optional<testing::Guide> Guide;

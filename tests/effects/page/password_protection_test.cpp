@@ -45,6 +45,7 @@ TEST(PasswordProtectionTest, MendsTheFieldsOfTheLogin)
     Tidy(fields);
     EXPECT_EQ(fields.LandingUrl, u"http://Www.example.com");
     EXPECT_EQ(fields.CgiDirectory, u"/cgi-bin/");
+    EXPECT_TRUE(Generate(fields).MadeFiles.at(0).IsSecret);
 }
 
 TEST(PasswordProtectionTest, ChecksTheSchemeAndTheLoginButNotTheGate)

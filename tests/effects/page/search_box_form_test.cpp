@@ -9,7 +9,7 @@ namespace {
 TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
 {
     FakeDesk desk;
-    SearchBoxForm form(desk.Bench, nullptr, translateMode);
+    SearchBoxForm form(desk.Bench, nullptr, EffectKind::Translator);
     form.show();
     ExpectAccessible(form);
     Click(form, "cmdClickHereForHelp");
@@ -24,9 +24,10 @@ TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
     Click(form, "cmdDone");
     const auto payload = form.TakePayload();
     ASSERT_TRUE(payload);
-    EXPECT_EQ(
-        payload->BODYHTML,
-        Generate({.Mode = Text(translateMode), .txtTranslateURL = u"http://a.example"}).BODYHTML);
+    EXPECT_EQ(payload,
+              Generate({.Mode = Text(translateMode), .txtTranslateURL = u"http://a.example"},
+                       SurroundingsOf(desk.Bench)));
+    EXPECT_EQ(payload->Required.Sources[0], u"/program/GoogleLogo.gif");
 }
 
 } // namespace

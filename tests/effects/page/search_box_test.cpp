@@ -13,7 +13,8 @@ TEST(SearchBoxTest, AsksForASiteToSearchIn)
                                      "txtURL"}));
     box.txtURL = u"«Site»\"é☃";
     EXPECT_EQ(Check(box), std::nullopt);
-    EXPECT_NE(Find(Generate(box).BODYHTML, u" value=\"«Site»\"é☃\">\r\n<INPUT type=submit"), 0u);
+    EXPECT_NE(Find(Generate(box, {}).BODYHTML, u" value=\"«Site»\"é☃\">\r\n<INPUT type=submit"),
+              0u);
 }
 
 TEST(SearchBoxTest, AsksForAWholeAddressToTranslate)
