@@ -32,15 +32,15 @@ Text WriteDraft(const Effect& effect)
     return draft;
 }
 
-/// Puts a draft's values into the effect. Secret fields, and fields that the draft lacks, stay as
-/// they are.
+/// Puts a draft's values into the effect; fields that the draft lacks stay as they are. Lines with
+/// names of no field are ignored.
 template <class Effect>
 void ReadDraft(Effect& effect, TextView draft)
 {
     const DraftFields fields = ReadDraftFields(draft);
     ForEachField(effect, [&](FieldName name, auto& value) {
         const auto found = fields.find(name.Name);
-        if (found != fields.end() && !name.IsSecret)
+        if (found != fields.end())
             SetField(value, found->second);
     });
 }

@@ -5,24 +5,8 @@
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/applet/advanced_animator_form.h"
-#include "effects/applet/image_effects_form.h"
-#include "effects/applet/image_fade_form.h"
-#include "effects/applet/more_image_effects_form.h"
-#include "effects/applet/typewriter_text_form.h"
-#include "effects/page/all_in_one_button_form.h"
-#include "effects/page/anti_spam_link_form.h"
-#include "effects/page/cursor_trail_form.h"
-#include "effects/page/dynamic_button_form.h"
-#include "effects/page/password_protection_form.h"
-#include "effects/page/popup_alert_form.h"
-#include "effects/page/popup_window_form.h"
-#include "effects/page/pulldown_menu_form.h"
-#include "effects/page/search_box_form.h"
-#include "effects/page/slideshow_form.h"
-#include "effects/text/digital_clock_form.h"
-#include "effects/text/status_bar_ticker_form.h"
-#include "effects/text/tooltips_form.h"
-#include "effects/text/vertical_scroller_form.h"
+#include "effects/effect_windows.h"
+#include "effects/effects.h"
 #include "program/about_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
@@ -34,69 +18,6 @@
 #include <QCoreApplication>
 
 namespace orvane {
-
-namespace {
-
-using WizardMaker = std::unique_ptr<WizardForm> (*)(Workbench&, QWidget*);
-
-template <class Form>
-std::unique_ptr<WizardForm> Make(Workbench& bench, QWidget* parent)
-{
-    return std::make_unique<Form>(bench, parent);
-}
-
-/// The window of an effect; null while it has none.
-WizardMaker MakerOf(EffectKind kind)
-{
-    switch (kind) {
-    case EffectKind::AdvancedAnimator:
-        return &Make<AdvancedAnimatorForm>;
-    case EffectKind::DigitalClock:
-        return &Make<DigitalClockForm>;
-    case EffectKind::StatusBarTicker:
-        return &Make<StatusBarTickerForm>;
-    case EffectKind::Tooltips:
-        return &Make<TooltipsForm>;
-    case EffectKind::VerticalScroller:
-        return &Make<VerticalScrollerForm>;
-    case EffectKind::TypewriterText:
-        return &Make<TypewriterTextForm>;
-    case EffectKind::ImageEffects:
-        return &Make<ImageEffectsForm>;
-    case EffectKind::MoreImageEffects:
-        return &Make<MoreImageEffectsForm>;
-    case EffectKind::ImageFade:
-        return &Make<ImageFadeForm>;
-    case EffectKind::DynamicButton:
-        return &Make<DynamicButtonForm>;
-    case EffectKind::Slideshow:
-        return &Make<SlideshowForm>;
-    case EffectKind::CursorTrail:
-        return &Make<CursorTrailForm>;
-    case EffectKind::PopupAlert:
-        return &Make<PopupAlertForm>;
-    case EffectKind::PopupWindow:
-        return &Make<PopupWindowForm>;
-    case EffectKind::PulldownMenu:
-        return &Make<PulldownMenuForm>;
-    case EffectKind::AllInOneButton:
-        return &Make<AllInOneButtonForm>;
-    case EffectKind::AntiSpamLink:
-        return &Make<AntiSpamLinkForm>;
-    case EffectKind::SearchBox:
-        return &Make<SearchBoxForm>;
-    case EffectKind::Translator:
-        return [](Workbench& bench, QWidget* parent) -> std::unique_ptr<WizardForm> {
-            return std::make_unique<SearchBoxForm>(bench, parent, EffectKind::Translator);
-        };
-    case EffectKind::PasswordScript:
-        return &Make<PasswordProtectionForm>;
-    default:
-        return nullptr;
-    }
-}
-
-} // namespace
 
 FormDesk::FormDesk(Workbench& bench, QWidget* pane) : m_bench(bench), m_pane(pane) {}
 
@@ -116,7 +37,7 @@ void FormDesk::Start()
 
 void FormDesk::ShowMainForm()
 {
-    m_mainForm = std::make_unique<OVMainForm>(m_bench, &FormDesk::IsBuilt);
+    m_mainForm = std::make_unique<OVMainForm>(m_bench, &HasWizard);
     PrepareMainWindow(m_bench.Core);
     connect(m_mainForm.get(), &OVMainForm::EffectWanted, this, &FormDesk::OpenEffect);
     connect(m_mainForm.get(), &OVMainForm::EditAppletWanted, this, &FormDesk::EditApplet);
@@ -131,22 +52,11 @@ void FormDesk::ShowMainForm()
     m_mainForm->show();
 }
 
-bool FormDesk::IsBuilt(EffectKind kind)
-{
-    return MakerOf(kind) != nullptr;
-}
-
-std::unique_ptr<WizardForm> FormDesk::MakeWizard(EffectKind kind, Workbench& bench, QWidget* parent)
-{
-    const WizardMaker maker = MakerOf(kind);
-    return maker == nullptr ? nullptr : maker(bench, parent);
-}
-
 Text FormDesk::ListEffectsOfTags()
 {
     Text list = u"<ul>\n";
     for (const EffectKind kind : EffectsOfTags())
-        if (IsBuilt(kind))
+        if (HasWizard(kind))
             list += Join({u"<li><a href=\"topic:",
                           NumberToText(help_topics::firstEffect + static_cast<int>(kind)), u"\">",
                           FindRow(kind)->Title, u"</a></li>\n"});

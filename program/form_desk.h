@@ -30,13 +30,6 @@ public:
     /// Shows the window that the program opens with.
     void Start();
 
-    /// Whether the effect has a wizard.
-    static bool IsBuilt(EffectKind kind);
-
-    /// A fresh window of the effect, or null when it has no wizard.
-    static std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,
-                                                  QWidget* parent = nullptr);
-
     /// The effects whose pasted tags can be edited, as an HTML list of links to their help topics.
     static Text ListEffectsOfTags();
 

@@ -1,7 +1,8 @@
 #include "core/catalogue.h"
 #include "core/draft.h"
 #include "core/numbers.h"
-#include "tests/effects/effect_forms.h"
+#include "effects/effect_windows.h"
+#include "effects/effects.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 #include "windows/field_controls.h"
@@ -88,7 +89,15 @@ protected:
     Form m_form{m_desk.Bench};
 };
 
-TYPED_TEST_SUITE(EveryEffectTest, EffectForms);
+template <class Windows>
+struct TypesOf;
+template <class... Windows>
+struct TypesOf<std::tuple<Windows...>>
+{
+    using Types = ::testing::Types<Windows...>;
+};
+
+TYPED_TEST_SUITE(EveryEffectTest, TypesOf<EffectWindows>::Types);
 
 TYPED_TEST(EveryEffectTest, HasItsNameTitleAndHelpTopicAndForgetsTheFilesOfTheEffectBefore)
 {
@@ -108,6 +117,16 @@ TYPED_TEST(EveryEffectTest, HasItsNameTitleAndHelpTopicAndForgetsTheFilesOfTheEf
     const TypeParam next(this->m_desk.Bench);
     EXPECT_EQ(this->m_desk.Core.Required, RequiredFiles());
     EXPECT_EQ(this->m_desk.Core.RequiredFileCount, 0);
+}
+
+TEST(EffectWindowsTest, EveryEffectHasItsWindow)
+{
+    FakeDesk desk;
+    for (const CatalogueRow& row : Catalogue()) {
+        const auto wizard = MakeWizard(row.Kind, desk.Bench);
+        EXPECT_EQ(wizard != nullptr, HasWizard(row.Kind)) << row.MenuCommand;
+        EXPECT_TRUE(wizard == nullptr || wizard->objectName().toStdString() == row.Form);
+    }
 }
 
 TYPED_TEST(EveryEffectTest, AFreshWindowShowsTheDefaultsInControlsOfTheFieldsNames)

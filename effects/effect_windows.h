@@ -20,16 +20,21 @@
 #include "effects/text/tooltips_form.h"
 #include "effects/text/vertical_scroller_form.h"
 
-#include <gtest/gtest.h>
+#include <memory>
+#include <tuple>
 
-namespace orvane::testing {
+namespace orvane {
 
-/// The windows of all effects, for typed tests.
-using EffectForms =
-    ::testing::Types<AdvancedAnimatorForm, AllInOneButtonForm, AntiSpamLinkForm, CursorTrailForm,
-                     DigitalClockForm, DynamicButtonForm, ImageEffectsForm, ImageFadeForm,
-                     MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm, PopupWindowForm,
-                     PulldownMenuForm, SearchBoxForm, SlideshowForm, StatusBarTickerForm,
-                     TooltipsForm, TypewriterTextForm, VerticalScrollerForm>;
+/// The windows of all effects, each named once.
+using EffectWindows =
+    std::tuple<AdvancedAnimatorForm, AllInOneButtonForm, AntiSpamLinkForm, CursorTrailForm,
+               DigitalClockForm, DynamicButtonForm, ImageEffectsForm, ImageFadeForm,
+               MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm, PopupWindowForm,
+               PulldownMenuForm, SearchBoxForm, SlideshowForm, StatusBarTickerForm, TooltipsForm,
+               TypewriterTextForm, VerticalScrollerForm>;
 
-} // namespace orvane::testing
+/// A fresh window of that kind of effect; null where HasWizard() is false.
+std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,
+                                       QWidget* parent = nullptr);
+
+} // namespace orvane

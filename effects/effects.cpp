@@ -1,0 +1,77 @@
+#include "effects/effects.h"
+
+#include "core/draft.h"
+#include "core/effect.h"
+
+#include <algorithm>
+#include <type_traits>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+template <class Effect>
+bool IsOfKind(EffectKind kind)
+{
+    return std::ranges::find(Effect::Kinds, kind) != Effect::Kinds.end();
+}
+
+/// The fresh effect of the first type of the list that is made as this kind.
+template <std::size_t index = 0>
+std::optional<AnyEffect> FirstOfKind(EffectKind kind)
+{
+    if constexpr (index < std::variant_size_v<EffectParameters>) {
+        using Effect = std::variant_alternative_t<index, EffectParameters>;
+        return IsOfKind<Effect>(kind) ? AnyEffect(FreshOf<Effect>(kind))
+                                      : FirstOfKind<index + 1>(kind);
+    } else {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+bool HasWizard(EffectKind kind)
+{
+    return AnyEffect::Fresh(kind).has_value();
+}
+
+std::optional<AnyEffect> AnyEffect::Fresh(EffectKind kind)
+{
+    return FirstOfKind(kind);
+}
+
+void AnyEffect::ReadDraft(TextView draft)
+{
+    std::visit([&](auto& effect) { orvane::ReadDraft(effect, draft); }, m_parameters);
+}
+
+Text AnyEffect::Draft() const
+{
+    return std::visit([](const auto& effect) { return WriteDraft(effect); }, m_parameters);
+}
+
+int AnyEffect::Pages() const
+{
+    return std::visit([](const auto& effect) { return std::decay_t<decltype(effect)>::Pages; },
+                      m_parameters);
+}
+
+std::optional<Complaint> AnyEffect::Check() const
+{
+    return std::visit([](const auto& effect) { return FirstComplaint(effect); }, m_parameters);
+}
+
+void AnyEffect::Tidy()
+{
+    std::visit([](auto& effect) { TidyFields(effect); }, m_parameters);
+}
+
+EffectPayload AnyEffect::Generate(const Surroundings& surroundings) const
+{
+    return std::visit([&](const auto& effect) { return PayloadOf(effect, surroundings); },
+                      m_parameters);
+}
+
+} // namespace orvane

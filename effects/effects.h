@@ -1,0 +1,76 @@
+#pragma once
+
+#include "core/surroundings.h"
+#include "effects/applet/advanced_animator.h"
+#include "effects/applet/image_effects.h"
+#include "effects/applet/image_fade.h"
+#include "effects/applet/more_image_effects.h"
+#include "effects/applet/typewriter_text.h"
+#include "effects/page/all_in_one_button.h"
+#include "effects/page/anti_spam_link.h"
+#include "effects/page/cursor_trail.h"
+#include "effects/page/dynamic_button.h"
+#include "effects/page/password_protection.h"
+#include "effects/page/popup_alert.h"
+#include "effects/page/popup_window.h"
+#include "effects/page/pulldown_menu.h"
+#include "effects/page/search_box.h"
+#include "effects/page/slideshow.h"
+#include "effects/text/digital_clock.h"
+#include "effects/text/status_bar_ticker.h"
+#include "effects/text/tooltips.h"
+#include "effects/text/vertical_scroller.h"
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace orvane {
+
+/// The parameters of all effects, each named once.
+using EffectParameters =
+    std::variant<AdvancedAnimator, AllInOneButton, AntiSpamLink, CursorTrail, DigitalClock,
+                 DynamicButton, ImageEffects, ImageFade, MoreImageEffects, PasswordProtection,
+                 PopupAlert, PopupWindow, PulldownMenu, SearchBox, Slideshow, StatusBarTicker,
+                 Tooltips, TypewriterText, VerticalScroller>;
+
+/// Whether there is an effect of that kind, and so a wizard for it.
+bool HasWizard(EffectKind kind);
+
+/// One effect, whichever it is, with everything that can be done with it without its window.
+class AnyEffect
+{
+public:
+    explicit AnyEffect(EffectParameters parameters) : m_parameters(std::move(parameters)) {}
+
+    /// A fresh effect of that kind, without what earlier ones left in the settings; nothing where
+    /// HasWizard() is false.
+    static std::optional<AnyEffect> Fresh(EffectKind kind);
+
+    const EffectParameters& Parameters() const { return m_parameters; }
+
+    /// Takes over the values of a draft's text, secret ones too; fields that it lacks stay.
+    void ReadDraft(TextView draft);
+
+    /// The fields as a draft's text, without the secret ones.
+    Text Draft() const;
+
+    /// The number of its wizard's pages.
+    int Pages() const;
+
+    /// The first complaint on the pages that the author comes by, or nothing when the wizard may
+    /// end.
+    std::optional<Complaint> Check() const;
+
+    /// Mends the fields as the wizard does when it ends. Expects that Check() gives nothing.
+    void Tidy();
+
+    /// What the effect puts into a page, with its files. Expects that Check() gives nothing and
+    /// that Tidy() was called.
+    EffectPayload Generate(const Surroundings& surroundings) const;
+
+private:
+    EffectParameters m_parameters;
+};
+
+} // namespace orvane

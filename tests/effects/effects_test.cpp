@@ -1,0 +1,39 @@
+#include "effects/effects.h"
+
+#include "core/catalogue.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::testing {
+namespace {
+
+TEST(EffectsTest, TheFirstComplaintOfAllPagesIsToldInTheirOrder)
+{
+    auto tooltip = AnyEffect::Fresh(EffectKind::Tooltips);
+    tooltip->ReadDraft(u"txtWidth: wide");
+    EXPECT_EQ(tooltip->Check()->Control, "txtTooltipText");
+    tooltip->ReadDraft(u"txtTooltipText: A fact");
+    EXPECT_EQ(tooltip->Check()->Control, "txtTitleText");
+    tooltip->ReadDraft(u"txtWidth: 99");
+    EXPECT_EQ(tooltip->Check()->Control, "optHoverObject(0)");
+}
+
+TEST(EffectsTest, EveryEffectWithAWizardHasAWholeRow)
+{
+    int count = 0;
+    for (const CatalogueRow& row : Catalogue()) {
+        if (!HasWizard(row.Kind))
+            continue;
+        ++count;
+        for (const TextView fact :
+             {row.Picture, row.Title, row.Description, row.InTodaysBrowsers, row.MarkerName})
+            EXPECT_FALSE(fact.empty()) << row.MenuCommand;
+        EXPECT_FALSE(row.Form.empty()) << row.MenuCommand;
+        EXPECT_NE(row.OtherWords.empty(), row.HasButton) << row.MenuCommand;
+        EXPECT_NE(FindCommand(row.MenuCommand), nullptr) << row.MenuCommand;
+    }
+    EXPECT_GE(count, static_cast<int>(std::variant_size_v<EffectParameters>));
+}
+
+} // namespace
+} // namespace orvane::testing
