@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -70,6 +72,16 @@ std::string ExpectedBytes(const std::string& name)
 Text ExpectedText(const std::string& name)
 {
     return FromUtf8(ExpectedBytes(name));
+}
+
+std::vector<std::string> ExpectedNames(std::string_view ending)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(ORVANE_EXPECTED_FOLDER))
+        if (std::string name = entry.path().filename().string(); name.ends_with(ending))
+            names.push_back(std::move(name));
+    std::ranges::sort(names);
+    return names;
 }
 
 } // namespace orvane::testing

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvane::testing {
 
@@ -17,5 +18,8 @@ std::string ExpectedBytes(const std::string& name);
 
 /// The same, read as UTF-8.
 Text ExpectedText(const std::string& name);
+
+/// The names of the files of tests/expected with this ending, sorted.
+std::vector<std::string> ExpectedNames(std::string_view ending);
 
 } // namespace orvane::testing

@@ -1,7 +1,5 @@
 #include "effects/applet/typewriter_text.h"
 
-#include "tests/support/expect_text.h"
-
 #include <gtest/gtest.h>
 
 namespace orvane::testing {
@@ -24,7 +22,7 @@ TypewriterText Full()
             .LinkURL = u"WWW.example.com/x.html"};
 }
 
-TEST(TypewriterTextTest, LeavesOutWhatIsEmptyAndNeedsATextFileThatItDoesNotRead)
+TEST(TypewriterTextTest, NeedsATextFileThatItDoesNotRead)
 {
     TypewriterText typewriter = Full();
     typewriter.TextFile = u"my words.txt"; // stays required although it is not read
@@ -32,14 +30,6 @@ TEST(TypewriterTextTest, LeavesOutWhatIsEmptyAndNeedsATextFileThatItDoesNotRead)
     EXPECT_EQ(
         Generate(typewriter).Required,
         (RequiredFiles{.Names = {u"paper.gif", u"my words.txt"}, .Sources = {u"/p/paper.gif"}}));
-
-    ExpectSameText(ExpectedText("typewriter_bare.html"), Generate({.TypedText = u"Hello",
-                                                                   .FontName = u"",
-                                                                   .FontSize = u"",
-                                                                   .AppletWidth = u"200",
-                                                                   .AppletHeight = u"50",
-                                                                   .Cycles = u"0 - Infinite"})
-                                                             .BODYHTML);
 }
 
 TEST(TypewriterTextTest, ChecksTheTextFirstAndAllAtTheEnd)

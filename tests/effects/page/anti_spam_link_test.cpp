@@ -1,36 +1,9 @@
 #include "effects/page/anti_spam_link.h"
 
-#include "tests/support/expect_text.h"
-
 #include <gtest/gtest.h>
 
 namespace orvane::testing {
 namespace {
-
-TEST(AntiSpamLinkTest, SplitsTheAddressOrWritesItPlain)
-{
-    const std::pair<const char16_t*, AntiSpamLink> cases[] = {
-        {u"full", {u"a.b@c.d.org", u"Email me", u"letter.gif", u" Hello there "}},
-        {u"text", {u"jane@example.com", u"Write to me"}},
-        {u"no_dot", {u"jane@localhost", u"Email me"}},
-        {u"no_at", {u"jane.example.com", u"Email me"}},
-        {u"plain_subject",
-         {u"jane@example.com", u"Email me", u"letter.gif", u"Hello there", false}},
-        {u"plain", {u"jane@example.com", u"jane@example.com", u"", u" ", false}},
-    };
-    Text lines;
-    for (const auto& [name, link] : cases) {
-        EXPECT_EQ(Check(link), std::nullopt);
-        const EffectPayload payload = Generate(link);
-        lines += Join({name, u"\t", payload.BODYHTML, u"\n"});
-        EXPECT_EQ(payload,
-                  (EffectPayload{.Kind = EffectKind::AntiSpamLink,
-                                 .HEADHTML = link.chkAntiSpam ? ExpectedText("mail_link_head.html")
-                                                              : Text(),
-                                 .BODYHTML = payload.BODYHTML}));
-    }
-    ExpectSameText(ExpectedText("mail_link_lines.tsv"), lines);
-}
 
 TEST(AntiSpamLinkTest, SplitsOddAddressesAndPutsValuesInUnescaped)
 {

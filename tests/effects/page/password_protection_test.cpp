@@ -7,15 +7,6 @@
 namespace orvane::testing {
 namespace {
 
-TEST(PasswordProtectionTest, WritesTheGateForManyPasswords)
-{
-    PasswordProtection gate{.optScheme = PasswordScheme::Script,
-                            .optPasswordType = PasswordType::Many,
-                            .GateUrl = u"http://www.example.com/members/"};
-    Tidy(gate);
-    ExpectSameText(ExpectedText("password_gate_many_head.html"), Generate(gate).HEADHTML);
-}
-
 TEST(PasswordProtectionTest, PutsGateValuesInUnescapedAndEmptyOnesToo)
 {
     const std::pair<PasswordProtection, const char16_t*> cases[] = {

@@ -1,7 +1,6 @@
 #include "effects/page/slideshow.h"
 
 #include "core/pick_lists.h"
-#include "tests/support/expect_text.h"
 
 #include <gtest/gtest.h>
 
@@ -11,23 +10,6 @@ namespace {
 Slideshow TwoImages()
 {
     return {.Rows = {{.FileName = u"a.jpg"}, {.FileName = u"b.gif"}}};
-}
-
-TEST(SlideshowTest, WritesABareShow)
-{
-    Slideshow show = TwoImages();
-    show.Required.Names[7] = u"deleted.gif";
-    const EffectPayload expected{.Kind = EffectKind::Slideshow,
-                                 .HEADHTML = ExpectedText("slideshow_bare_head.html"),
-                                 .BODYHTML = ExpectedText("slideshow_bare_body.html"),
-                                 .OnLoadFunc = u"loadImages",
-                                 .OnLoadArgs = u"()",
-                                 .Required = show.Required,
-                                 .SavedHEAD = ExpectedText("slideshow_bare_head.html"),
-                                 .SavedBODY = ExpectedText("slideshow_bare_body.html")};
-    const EffectPayload payload = Generate(show);
-    ExpectSameText(expected.HEADHTML, payload.HEADHTML);
-    EXPECT_EQ(payload, expected);
 }
 
 TEST(SlideshowTest, MultipliesTheDurationIn16Bits)

@@ -21,13 +21,6 @@ Text LineOf(const DigitalClock& clock, int line)
     return Text(Mid(page, start, Find(page, lineEnd, start) - start));
 }
 
-TEST(DigitalClockTest, SavesTheScriptAndTheElementsWithSampleWords)
-{
-    const EffectPayload code = Generate({.lstDateTimeFormat = u"November 28, 2001"});
-    ExpectSameText(ExpectedText("digital_clock_saved_head.html"), code.SavedHEAD);
-    ExpectSameText(ExpectedText("digital_clock_saved_body.html"), code.SavedBODY);
-}
-
 TEST(DigitalClockTest, EachDateFormatHasItsLineWithAndWithoutTheDayOfWeek)
 {
     const Text table = ExpectedText("digital_clock_lines.tsv");

@@ -8,10 +8,8 @@
 namespace orvane::testing {
 namespace {
 
-TEST(StatusBarTickerTest, PutsTheTextInUnescaped)
+TEST(StatusBarTickerTest, KeepsALineFeedInTheTextAsItIs)
 {
-    ExpectSameText(ExpectedText("status_bar_ticker_odd_utf8.html"),
-                   Generate({u"He said \"hi\" & it's «Name» "}).HEADHTML);
     const Text withLineEnd = Generate({u"a\nb"}).HEADHTML;
     EXPECT_NE(Find(withLineEnd, u"        var msg  =\"a\nb\";\r\n"), 0u);
 }

@@ -1,38 +1,9 @@
 #include "effects/text/vertical_scroller.h"
 
-#include "tests/support/expect_text.h"
-
 #include <gtest/gtest.h>
 
 namespace orvane::testing {
 namespace {
-
-TEST(VerticalScrollerTest, WritesScriptAndBox)
-{
-    const EffectPayload payload =
-        Generate({.lstItems = {u"It's <b>new</b>\r\nSecond line", u"Plain message"},
-                  .lstLinks = {u"http://www.example.com/o'neil.html", u""},
-                  .cboFont = u"Courier New",
-                  .cboFontSize = u"14",
-                  .cboFontStyle = u"Bold Italic",
-                  .TextColor = u"rgb(0,0,128)",
-                  .LinkColor = u"rgb(255,0,0)",
-                  .cboTextAlign = u"Right",
-                  .txtWidth = u"200",
-                  .txtHeight = u"100",
-                  .BGColor = u"rgb(255,255,192)",
-                  .sldrSpeed = 100,
-                  .txtPause = u" 2.5 "});
-    const EffectPayload expected{.Kind = EffectKind::VerticalScroller,
-                                 .HEADHTML = ExpectedText("vertical_scroller_full_head.html"),
-                                 .BODYHTML = ExpectedText("vertical_scroller_full_body.html"),
-                                 .OnLoadFunc = u"moveSpan",
-                                 .OnLoadArgs = u"()",
-                                 .SavedHEAD = ExpectedText("vertical_scroller_full_body.html")};
-    ExpectSameText(expected.HEADHTML, payload.HEADHTML);
-    ExpectSameText(expected.BODYHTML, payload.BODYHTML);
-    EXPECT_EQ(payload, expected);
-}
 
 TEST(VerticalScrollerTest, TakesSizesAsTypedAndAPauseOnlyWhenItIsANumber)
 {
