@@ -208,9 +208,8 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
 
 void FormDesk::EditApplet()
 {
-    EditAppletForm form(m_bench, m_mainForm.get());
+    EditAppletForm form(m_bench, &FormDesk::IsBuilt, m_mainForm.get());
     ShowModally(form);
-    // An effect that has no wizard yet opens none, and the author is told nothing.
     if (const CatalogueRow* row = FindRow(form.Wanted()))
         OpenEffect(*FindCommand(row->MenuCommand));
     m_bench.Core.PastedApplet.clear();
