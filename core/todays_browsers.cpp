@@ -68,4 +68,9 @@ TextView InTodaysBrowsers(EffectKind kind)
     return {};
 }
 
+bool GainsByPageScript(EffectKind kind)
+{
+    return InTodaysBrowsers(kind) != withoutScript;
+}
+
 } // namespace orvane

@@ -8,4 +8,7 @@ namespace orvane {
 /// script cannot change; empty for an effect without a wizard.
 TextView InTodaysBrowsers(EffectKind kind);
 
+/// Whether an effect runs better, or at all, with the page script.
+bool GainsByPageScript(EffectKind kind);
+
 } // namespace orvane

@@ -1,7 +1,10 @@
 #include "preview/preview_note.h"
 
 #include "core/file_names.h"
+#include "insertion/page_files.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace orvane {
@@ -19,38 +22,19 @@ constexpr MarkNote markNotes[] = {
                  u"effect in a browser that runs them."},
 };
 
-/// What the pane says of one effect.
-struct KindNote
-{
-    EffectKind Kind;
-    bool RunsInStatus;
-    TextView Words;
-};
-constexpr KindNote kindNotes[] = {
-    {EffectKind::StatusBarTicker, true,
-     u"This effect runs in the browser's status line.  See the framed line below the page."},
-};
-
-const KindNote* NoteOf(EffectKind kind)
-{
-    for (const KindNote& note : kindNotes)
-        if (note.Kind == kind)
-            return &note;
-    return nullptr;
-}
+constexpr EffectKind statusLineEffects[] = {EffectKind::StatusBarTicker};
 
 /// The files that the effect needs beside its page and that do not lie there, with commas between.
 Text MissingNames(const EffectPayload& effect, const FileStore& files, TextView folder)
 {
     Text names;
-    const auto add = [&](const Text& name) {
-        if (!name.empty() && !files.FileExists(PathIn(folder, name)))
-            names += (names.empty() ? u"" : u", ") + name;
+    const auto add = [&](const Text& needed) {
+        const auto name = NameBesidePage(needed);
+        if (name && !files.FileExists(PathIn(folder, *name)))
+            names += (names.empty() ? u"" : u", ") + *name;
     };
-    for (const Text& name : effect.Required.Names)
-        add(name);
-    for (const Text& name : effect.SupportFiles)
-        add(name);
+    std::ranges::for_each(effect.Required.Names, add);
+    std::ranges::for_each(effect.SupportFiles, add);
     return names;
 }
 
@@ -70,8 +54,6 @@ Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextVie
     for (const auto& [mark, words] : markNotes)
         if (!payload.RunsToday && FindIgnoringCase(effect.BODYHTML, mark) != 0)
             AddSentence(note, words);
-    if (const KindNote* kind = NoteOf(effect.Kind); kind != nullptr && !payload.RunsToday)
-        AddSentence(note, kind->Words);
     if (const Text missing = MissingNames(effect, files, folder); !missing.empty())
         AddSentence(note, Join({u"Not found in ", folder, u": ", missing, u"."}));
     return note;
@@ -79,8 +61,7 @@ Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextVie
 
 bool RunsInStatus(EffectKind kind)
 {
-    const KindNote* note = NoteOf(kind);
-    return note != nullptr && note->RunsInStatus;
+    return std::ranges::find(statusLineEffects, kind) != std::end(statusLineEffects);
 }
 
 } // namespace orvane

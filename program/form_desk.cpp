@@ -30,6 +30,7 @@
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
 #include "services/chosen_effects.h"
+#include "windows/picked_files.h"
 
 #include <QCoreApplication>
 
@@ -198,6 +199,7 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
                 return makeDir.NewFolder();
             },
         .BringBack = [&](const Text& page) { return ShowBringBack(page, preview.get()) == page; },
+        .PickedFile = [&](const Text& name) { return PickedFile(wizard, name); },
     };
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
