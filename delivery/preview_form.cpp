@@ -42,10 +42,9 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
       m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
-    const bool gains = GainsByPageScript(effect.Kind);
-    m_payload.RunsToday = gains && bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
-    m_preview =
-        new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), gains, m_payload.RunsToday});
+    const bool isWanted = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
+    m_payload.RunsToday = isWanted && GainsByPageScript(effect.Kind);
+    m_preview = new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), isWanted});
     connect(m_preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
     connect(m_preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
     AddPanelOf(0, m_preview);
@@ -101,7 +100,7 @@ void PreviewForm::ConnectPanels()
             if (!isStillThere)
                 m_panels->Insert->EffectTakenBack(page);
         }
-        m_panels->Finish->PageShown();
+        ShowFinishAnew();
     });
     connect(m_panels->Finish, &FinishPanel::RunsTodayWanted, this, &PreviewForm::MakeRunToday);
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
@@ -219,7 +218,7 @@ void PreviewForm::Preview(PreviewMode mode)
 
 void PreviewForm::ChooseRunsToday(bool isWanted)
 {
-    m_payload.RunsToday = isWanted;
+    m_payload.RunsToday = isWanted && GainsByPageScript(m_payload.Effect.Kind);
     m_bench.Settings.Put(u"Misc", u"RunsToday", isWanted ? u"1" : u"0");
     Preview(PreviewMode::Inline);
 }
@@ -233,7 +232,14 @@ void PreviewForm::MakeRunToday(const std::vector<Text>& pages)
     for (const Text& page : pages)
         if (InsertPageScript(m_bench.Files, m_bench.Dialogs, page, m_payload, kept))
             CopyPageScriptTo(Desk(), FolderOf(page));
+    ShowFinishAnew();
+}
+
+void PreviewForm::ShowFinishAnew()
+{
     m_panels->Finish->PageShown();
+    // The control that had the focus may be gone.
+    LeadEnterTo(cmdCancel);
 }
 
 void PreviewForm::BeginPreview()

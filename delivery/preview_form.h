@@ -69,6 +69,7 @@ private:
     /// Makes this button the one that Enter presses, and gives it the focus; null means "Next".
     void LeadEnterTo(QPushButton* action);
     void ShowFinish();
+    void ShowFinishAnew();
     void ChooseRunsToday(bool isWanted);
     /// Puts the page script into pages that were written without it.
     void MakeRunToday(const std::vector<Text>& pages);

@@ -19,7 +19,6 @@ public:
     struct TodaysBrowsers
     {
         Text Sentence;  ///< empty for none
-        bool Gains;     ///< whether the page script changes anything for the effect
         bool RunsToday; ///< whether the box is checked at first
     };
     /// `pane` is the preview pane's widget, or null. The panel shows it while it exists, without

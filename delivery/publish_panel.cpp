@@ -137,14 +137,12 @@ void PublishPanel::PageShown()
 /// The first time the boxes show the folder of the page, where one is known.
 void PublishPanel::StartBesideThePage()
 {
-    Text page = m_desk.Report.Page();
-    if (page.empty())
-        for (const Text& recent : RecentFiles(m_settings, m_desk.Files, recentPages)) {
-            page = recent;
-            break;
-        }
-    if (!m_hasStarted && !page.empty())
-        m_hasStarted = m_to->GoTo(FolderOf(page));
+    if (m_hasStarted)
+        return;
+    std::vector<Text> pages = RecentFiles(m_settings, m_desk.Files, recentPages);
+    if (!m_desk.Report.Page().empty())
+        pages = {m_desk.Report.Page()};
+    m_hasStarted = !pages.empty() && m_to->GoTo(FolderOf(pages.front()));
 }
 
 void PublishPanel::GoTo(TextView folder)

@@ -187,8 +187,9 @@ TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
 
     m_payload.Kind = EffectKind::PulldownMenu;
     Open();
-    EXPECT_FALSE(Find<QPushButton>(*m_form, "cmdNext")->isHidden());
-    EXPECT_FALSE(Find<QWidget>(*m_form, "chkRunsToday")->isEnabled()) << "it needs no page script";
+    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes)) << "it needs no page script";
+    Click(*m_form, "chkRunsToday");
+    Click(*m_form, "chkRunsToday");
     EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
 }
 
@@ -324,6 +325,7 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     EXPECT_EQ(ToQt(WordsOf(*m_form, "lblReport")).remove(QChar(0x200B)),
               QStringLiteral("Earlier version brought back: /site/a&b.html"));
     EXPECT_FALSE(IsShown("lstFilesToUpload"));
+    EXPECT_EQ(Focused(), u"cmdCancel");
     EXPECT_FALSE(m_form->WasDelivered()) << "the author's entries are still wanted";
     Click(*m_form, "cmdPrevious");
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdAutoInsert")->isDefault());
