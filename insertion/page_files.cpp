@@ -1,11 +1,11 @@
 #include "insertion/page_files.h"
 
 #include "core/file_names.h"
+#include "insertion/page_decoding.h"
 #include "insertion/page_markup.h"
-#include "services/add_once.h"
 
 #include <algorithm>
-#include <charconv>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -36,90 +36,6 @@ bool IsAmong(std::string_view name, const auto& names)
         names, [&](std::string_view known) { return EqualIgnoringCase(name, known); });
 }
 
-/// The number at the start of `digits`, as a character; nothing when there is none.
-std::optional<Text> CharacterOf(std::string_view digits, int base)
-{
-    unsigned number = 0;
-    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number, base);
-    if (read.ec != std::errc() || read.ptr != digits.data() + digits.size() || number == 0 ||
-        number > 0x10FFFF)
-        return std::nullopt;
-    if (number < 0x10000)
-        return Text(1, static_cast<char16_t>(number));
-    return Text{static_cast<char16_t>(0xD7C0 + (number >> 10)),
-                static_cast<char16_t>(0xDC00 + (number & 0x3FF))};
-}
-
-/// The character that a reference such as "&amp;" stands for, given without "&" and ";".
-std::optional<Text> CharacterReferred(std::string_view name)
-{
-    constexpr std::pair<std::string_view, char16_t> named[] = {
-        {"amp", u'&'}, {"quot", u'"'}, {"lt", u'<'}, {"gt", u'>'}};
-    for (const auto& [word, character] : named)
-        if (name == word)
-            return Text(1, character);
-    if (!name.starts_with('#'))
-        return std::nullopt;
-    name.remove_prefix(1);
-    const bool isHex = name.starts_with('x') || name.starts_with('X');
-    return CharacterOf(isHex ? name.substr(1) : name, isHex ? 16 : 10);
-}
-
-/// An attribute's value without its character references.
-Text WithoutReferences(TextView value)
-{
-    Text plain;
-    for (std::size_t at = 0; at < value.size(); ++at) {
-        const std::size_t end = value[at] == u'&' ? value.find(u';', at) : TextView::npos;
-        if (end < at + 12)
-            if (const auto character =
-                    CharacterReferred(ToUtf8(value.substr(at + 1, end - at - 1)))) {
-                plain += *character;
-                at = end;
-                continue;
-            }
-        plain += value[at];
-    }
-    return plain;
-}
-
-/// A quoted text of a script without its backslashes.
-Text WithoutBackslashes(TextView quoted)
-{
-    Text plain;
-    for (std::size_t at = 0; at < quoted.size(); ++at) {
-        if (quoted[at] == u'\\' && ++at < quoted.size() && quoted[at] == u'u') {
-            if (const auto character = CharacterOf(ToUtf8(quoted.substr(at + 1, 4)), 16)) {
-                plain += *character;
-                at += 4;
-                continue;
-            }
-        }
-        if (at < quoted.size())
-            plain += quoted[at];
-    }
-    return plain;
-}
-
-/// "%20" and the like as the bytes that they stand for.
-Text WithoutPercents(TextView address)
-{
-    const std::string bytes = ToUtf8(address);
-    std::string plain;
-    for (std::size_t at = 0; at < bytes.size(); ++at) {
-        unsigned char byte = 0;
-        const char* digits = bytes.data() + at + 1;
-        if (bytes[at] == '%' && at + 2 < bytes.size() &&
-            std::from_chars(digits, digits + 2, byte, 16).ptr == digits + 2) {
-            plain += static_cast<char>(byte);
-            at += 2;
-        } else {
-            plain += bytes[at];
-        }
-    }
-    return FromUtf8(plain);
-}
-
 /// Whether the address begins with a scheme, such as "http:"; a drive's letter counts as one.
 bool HasScheme(TextView address)
 {
@@ -146,7 +62,7 @@ public:
         }
     }
 
-    std::vector<Text> Names;
+    std::vector<Text> TakeNames() { return std::move(m_names); }
 
 private:
     Text Decode(std::string_view bytes) const
@@ -157,7 +73,19 @@ private:
     void Add(TextView address)
     {
         if (const auto name = NameBesidePage(address))
-            AddOnce(Names, *name);
+            AddName(*name);
+    }
+
+    void AddName(const Text& name)
+    {
+        if (m_seen.insert(name).second)
+            m_names.push_back(name);
+    }
+
+    void AddNamesOf(NameReader& inner)
+    {
+        for (const Text& name : inner.TakeNames())
+            AddName(name);
     }
 
     void ReadTag(std::string_view tag)
@@ -172,7 +100,8 @@ private:
                 const std::string_view name = attribute->Value;
                 isGiven = IsAmong(name.substr(0, name.find('.')), addressParameters);
             } else if (EqualIgnoringCase(attribute->Name, "value")) {
-                // Options of a menu lead to pages; others, and parameters such as "null", are words.
+                // Options of a menu lead to pages; others, and parameters such as "null", are
+                // words.
                 if ((isGiven || isOption) && value.find_first_of(u"./") != Text::npos)
                     Add(value);
             } else if (StartsWithIgnoringCase(attribute->Name, "on")) {
@@ -187,8 +116,7 @@ private:
     {
         NameReader reader(encoding);
         reader.ReadScript(script);
-        for (const Text& name : reader.Names)
-            AddOnce(Names, name);
+        AddNamesOf(reader);
     }
 
     /// Reads what is quoted in a script: addresses, and page code.
@@ -220,8 +148,7 @@ private:
     {
         NameReader reader(PageEncoding::Utf8);
         reader.ReadCode(ToUtf8(words));
-        for (const Text& name : reader.Names)
-            AddOnce(Names, name);
+        AddNamesOf(reader);
     }
 
     /// The place of the sign that ends the text quoted at `at`, or of the end of its line.
@@ -257,6 +184,8 @@ private:
     }
 
     PageEncoding m_encoding;
+    std::vector<Text> m_names;
+    std::set<Text> m_seen;
 };
 
 } // namespace
@@ -276,7 +205,7 @@ std::vector<Text> NamesInCode(std::string_view code, PageEncoding encoding)
 {
     NameReader reader(encoding);
     reader.ReadCode(code);
-    return std::move(reader.Names);
+    return reader.TakeNames();
 }
 
 std::vector<PageFile> LookBesidePage(const FileStore& files, TextView folder,
