@@ -49,6 +49,7 @@ struct CatalogueRow
     TextView Description;
     TextView OtherWords;       ///< what else authors call it, or look for when they want it
     TextView InTodaysBrowsers; ///< how it runs there, and what the page script cannot change
+    bool RunsByItself = false; ///< today's browsers need no page script for it
     ControlName Form;          ///< the wizard window
     TextView MarkerName;       ///< stands in the comments around the inserted code
     FilesNeeded Files = FilesNeeded::Never;

@@ -171,6 +171,7 @@ inline constexpr CatalogueRow textEffectRows[] = {
             u"who try to steal it from your Web page.",
         .OtherWords = u"e-mail, mailto, contact, protect, junk, harvest",
         .InTodaysBrowsers = withoutScript,
+        .RunsByItself = true,
         .Form = "frmMailTo",
         .MarkerName = u"AntiSpam Email Protection",
         .ScriptedHelp = true,

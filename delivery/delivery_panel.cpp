@@ -1,7 +1,6 @@
 #include "delivery/delivery_panel.h"
 
 #include "delivery/editor_panel.h"
-#include "delivery/finish_panel.h"
 #include "delivery/ftp_panel.h"
 #include "delivery/insert_panel.h"
 #include "delivery/method_panel.h"
@@ -27,14 +26,15 @@ std::array<CodePanel*, 3> MakeCodePanels(Workbench& bench, const CopyDesk& desk)
 
 } // namespace
 
-DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder)
+DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder,
+                               PickedFileFinder pickedFile)
     : Editor(new EditorPanel),
       Method(new MethodPanel),
       Insert(new InsertPanel(bench, desk)),
       Codes(MakeCodePanels(bench, desk)),
       Publish(new PublishPanel(desk, bench.Settings, std::move(makeFolder))),
       Ftp(new FtpPanel(bench.Settings)),
-      Finish(new FinishPanel(bench, desk.Payload, desk.Report))
+      Finish(new FinishPanel(bench, desk, std::move(pickedFile)))
 {
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "delivery/code_panel.h"
+#include "delivery/finish_panel.h"
 #include "delivery/publish_panel.h"
 
 #include <array>
@@ -8,7 +9,6 @@
 namespace orvane {
 
 class EditorPanel;
-class FinishPanel;
 class InsertPanel;
 class MethodPanel;
 
@@ -17,7 +17,8 @@ struct DeliveryPanels
 {
     /// Makes the panels, each without a parent yet. Bench and what the desk refers to must outlive
     /// the panels.
-    DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder);
+    DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder,
+                   PickedFileFinder pickedFile);
 
     /// All panels in the order of their indexes, which begin with 1: 0 is the preview.
     std::array<QWidget*, 9> InOrder() const;

@@ -7,43 +7,24 @@
 
 namespace orvane {
 
-namespace {
-
-/// One line, if there is a name to put behind the words.
-void AddLine(std::vector<Text>& lines, TextView words, const std::vector<Text>& names)
-{
-    if (names.empty())
-        return;
-    Text line(words);
-    for (const Text& name : names)
-        line += (&name == &names.front() ? Text(u": ") : Text(u", ")) + name;
-    lines.push_back(std::move(line));
-}
-
-} // namespace
-
-DeliveryReport::FolderState& DeliveryReport::At(TextView folder)
-{
-    Text path = WithSeparator(folder);
-    const auto found = std::find_if(m_folders.begin(), m_folders.end(),
-                                    [&](const FolderState& known) { return known.Path == path; });
-    if (found != m_folders.end())
-        return *found;
-    return m_folders.emplace_back(FolderState{.Path = std::move(path)});
-}
-
 void DeliveryReport::PageWritten(TextView path)
 {
-    FolderState& folder = At(FolderOf(path));
-    AddOnce(folder.Pages, GetFileName(path));
+    AddOnce(m_pages, path);
     std::erase(m_broughtBack, path);
     m_page = path;
-    m_folder = folder.Path;
+    m_folder = FolderOf(path);
 }
 
-void DeliveryReport::PageBroughtBack(TextView path)
+void DeliveryReport::PagePublished(TextView path)
 {
-    std::erase(At(FolderOf(path)).Pages, GetFileName(path));
+    AddOnce(m_published, path);
+    m_folder = FolderOf(path);
+}
+
+void DeliveryReport::PageBroughtBack(TextView path, bool holdsEffect)
+{
+    if (!holdsEffect)
+        std::erase(m_pages, path);
     AddOnce(m_broughtBack, path);
 }
 
@@ -52,44 +33,14 @@ void DeliveryReport::CodeCopied(TextView part)
     AddOnce(m_parts, part);
 }
 
-void DeliveryReport::FileCopied(TextView folder, TextView name)
+void DeliveryReport::FileCopied(TextView folder)
 {
-    FolderState& state = At(folder);
-    AddOnce(state.Copied, name);
-    std::erase(state.Missing, name);
-    m_folder = state.Path;
+    m_folder = WithSeparator(folder);
 }
 
-void DeliveryReport::FileMissing(TextView folder, TextView name)
+bool DeliveryReport::HasCopiedCode() const
 {
-    FolderState& state = At(folder);
-    AddOnce(state.Missing, name);
-    std::erase(state.Copied, name);
-}
-
-bool DeliveryReport::HasDelivered() const
-{
-    // The page script alone brings no effect.
-    return std::any_of(m_parts.begin(), m_parts.end(),
-                       [](const Text& part) { return part != pageScriptPart; }) ||
-           std::any_of(m_folders.begin(), m_folders.end(),
-                       [](const FolderState& folder) { return !folder.Pages.empty(); });
-}
-
-std::vector<Text> DeliveryReport::Lines() const
-{
-    std::vector<Text> lines;
-    if (m_folder.empty() && m_parts.empty())
-        lines.emplace_back(u"Nothing was delivered: no Web page was written, no HTML code was "
-                           u"copied and no file was published.");
-    AddLine(lines, u"HTML code copied for you to paste", m_parts);
-    AddLine(lines, u"Earlier version brought back", m_broughtBack);
-    for (const FolderState& folder : m_folders) {
-        AddLine(lines, Join({u"Web page with the special effect in ", folder.Path}), folder.Pages);
-        AddLine(lines, Join({u"Copied to ", folder.Path}), folder.Copied);
-        AddLine(lines, Join({u"Missing in ", folder.Path}), folder.Missing);
-    }
-    return lines;
+    return std::ranges::any_of(m_parts, [](const Text& part) { return part != pageScriptPart; });
 }
 
 } // namespace orvane

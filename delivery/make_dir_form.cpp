@@ -28,8 +28,8 @@ MakeDirForm::MakeDirForm(Workbench& bench, TextView folder, QWidget* parent)
 
 void MakeDirForm::Take()
 {
-    const MakeDirEnd end =
-        MakeDirEnter(m_boxes->Folder(), FromQt(txtFolder->text()), m_bench.Files, m_bench.Dialogs);
+    const MakeDirEnd end = MakeDirEnter(m_boxes->MarkedFolder(), FromQt(txtFolder->text()),
+                                        m_bench.Files, m_bench.Dialogs);
     if (!end.Closes) {
         txtFolder->setFocus();
         return;

@@ -24,7 +24,7 @@ bool CopySelected(const CopyDesk& desk, TextView fromFolder, TextView toFolder, 
             desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
         return false;
     }
-    desk.Report.FileCopied(toFolder, name);
+    desk.Report.FileCopied(toFolder);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "delivery/insert_panel.h"
 #include "delivery/method_panel.h"
 #include "delivery/preview_panel.h"
+#include "insertion/auto_insert.h"
 #include "windows/qt_text.h"
 #include "windows/wait_cursor.h"
 
@@ -17,6 +18,22 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int publishPanel = 7;
+
+/// The one note of the preview's page on how the effect runs.
+Text WordsOnBrowsers(EffectKind kind)
+{
+    const CatalogueRow& row = RowOf(kind);
+    Text words(row.InTodaysBrowsers);
+    if (row.ShowsInStatusLine)
+        words += u"  Without it, the framed line below the preview shows the effect here.";
+    return words;
+}
+
+} // namespace
+
 PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget* pane,
                          PreviewWindows windows, QWidget* parent)
     : WizardFrame("Preview", bench, parent),
@@ -25,12 +42,12 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
       m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
-    m_payload.RunsToday = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
-    auto* preview = new PreviewPanel(
-        m_pane, {RowOf(m_payload.Effect.Kind).InTodaysBrowsers, m_payload.RunsToday});
-    connect(preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
-    connect(preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
-    AddPanelOf(0, preview);
+    const bool isWanted = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
+    m_payload.RunsToday = isWanted && !RowOf(effect.Kind).RunsByItself;
+    m_preview = new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), isWanted});
+    connect(m_preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
+    connect(m_preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
+    AddPanelOf(0, m_preview);
     AddButtons(Buttons::Paged, "cmdHelp");
     setMinimumSize(640, 440);
     // The pages that are built later have room in so many lines.
@@ -57,7 +74,7 @@ void PreviewForm::NeedPanels()
 {
     if (m_panels)
         return;
-    m_panels.emplace(m_bench, Desk(), m_windows.MakeFolder);
+    m_panels.emplace(m_bench, Desk(), m_windows.MakeFolder, m_windows.PickedFile);
     int index = 0;
     for (QWidget* panel : m_panels->InOrder())
         AddPanelOf(++index, panel);
@@ -77,11 +94,15 @@ void PreviewForm::ConnectPanels()
     });
     connect(m_panels->Finish, &FinishPanel::BringBackWanted, this, [this](const Text& page) {
         if (m_windows.BringBack(page)) {
-            m_report.PageBroughtBack(page);
-            m_panels->Insert->EffectTakenBack(page);
+            // The earlier version may hold the effect as well.
+            const bool isStillThere = HoldsEffect(m_bench.Files, page, m_payload).value_or(false);
+            m_report.PageBroughtBack(page, isStillThere);
+            if (!isStillThere)
+                m_panels->Insert->EffectTakenBack(page);
         }
-        m_panels->Finish->PageShown();
+        ShowFinishAnew();
     });
+    connect(m_panels->Finish, &FinishPanel::RunsTodayWanted, this, &PreviewForm::MakeRunToday);
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);
@@ -90,7 +111,7 @@ void PreviewForm::ConnectPanels()
     connect(m_panels->Publish, &PublishPanel::DefaultButtonChanged, this,
             [this] { LeadEnterTo(m_panels->Publish->DefaultButton()); });
     connect(m_panels->Publish, &PublishPanel::CopyingDone, this,
-            [this] { FinishCopying(DoneCopying()); });
+            [this] { FinishCopying(DoneCopying(Facts().HasHead)); });
     connect(m_panels->Publish, &PublishPanel::PreviewWanted, this,
             [this] { FinishCopying(PreviewAfterCopying()); });
 }
@@ -162,6 +183,9 @@ void PreviewForm::ShowPage(const DeliveryPage& page, int panel)
     SetHeading(page.Heading, page.SubHeading);
     SetHelpTopic(page.HelpContext);
     ShowPanel(panel);
+    // "Publish" has its letter.
+    cmdPrevious->setText(panel == publishPanel ? QStringLiteral("<< P&revious")
+                                               : QStringLiteral("<< &Previous"));
 }
 
 void PreviewForm::LeadEnterTo(QPushButton* action)
@@ -194,9 +218,28 @@ void PreviewForm::Preview(PreviewMode mode)
 
 void PreviewForm::ChooseRunsToday(bool isWanted)
 {
-    m_payload.RunsToday = isWanted;
+    m_payload.RunsToday = isWanted && !RowOf(m_payload.Effect.Kind).RunsByItself;
     m_bench.Settings.Put(u"Misc", u"RunsToday", isWanted ? u"1" : u"0");
     Preview(PreviewMode::Inline);
+}
+
+void PreviewForm::MakeRunToday(const std::vector<Text>& pages)
+{
+    m_payload.RunsToday = true;
+    m_bench.Settings.Put(u"Misc", u"RunsToday", u"1");
+    m_preview->CheckRunsToday();
+    const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    for (const Text& page : pages)
+        if (InsertPageScript(m_bench.Files, m_bench.Dialogs, page, m_payload, kept))
+            CopyPageScriptTo(Desk(), FolderOf(page));
+    ShowFinishAnew();
+}
+
+void PreviewForm::ShowFinishAnew()
+{
+    m_panels->Finish->PageShown();
+    // The control that had the focus may be gone.
+    LeadEnterTo(cmdCancel);
 }
 
 void PreviewForm::BeginPreview()
@@ -210,7 +253,7 @@ void PreviewForm::BeginPreview()
     }
     SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);
     NeedPanels();
-    ShowPanel(7);
+    ShowPanel(publishPanel);
     m_panels->Publish->FindMissing(PublishMode::MissingForPreview, missing,
                                    m_bench.Core.ProgramFolder);
 }
@@ -224,6 +267,7 @@ void PreviewForm::FinishCopying(const AfterCopying& after)
     cmdNext->setEnabled(after.IsNextEnabled);
     cmdPrevious->setEnabled(after.IsPreviousEnabled);
     cmdCancel->setText(ToQt(after.CancelCaption));
+    m_panels->Finish->PageShown();
     LeadEnterTo(after.IsNextEnabled ? cmdNext : cmdCancel);
     if (after.IsPreviewed)
         Preview(PreviewMode::Inline);

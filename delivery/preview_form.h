@@ -11,6 +11,8 @@
 
 namespace orvane {
 
+class PreviewPanel;
+
 /// How the delivery wizard ended.
 enum class DeliveryEnd
 {
@@ -25,6 +27,7 @@ struct PreviewWindows
     MakeFolderWindow MakeFolder;
     /// Offers the backups of the page with this full path; true when the author brought one back.
     std::function<bool(const Text& page)> BringBack;
+    PickedFileFinder PickedFile; ///< looks among the files picked in the effect's wizard
 };
 
 /// The delivery wizard: leads from a finished payload to an effect in the author's page. This class
@@ -66,7 +69,10 @@ private:
     /// Makes this button the one that Enter presses, and gives it the focus; null means "Next".
     void LeadEnterTo(QPushButton* action);
     void ShowFinish();
+    void ShowFinishAnew();
     void ChooseRunsToday(bool isWanted);
+    /// Puts the page script into pages that were written without it.
+    void MakeRunToday(const std::vector<Text>& pages);
     void BeginPreview();
     void Preview(PreviewMode mode);
     void FinishCopying(const AfterCopying& after);
@@ -79,6 +85,7 @@ private:
     FinishedPayload m_payload;
     DeliveryReport m_report;
     QWidget* m_pane;
+    PreviewPanel* m_preview;
     PreviewWindows m_windows;
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;

@@ -1,23 +1,25 @@
 #include "delivery/preview_panel.h"
 
+#include "windows/let_shrink.h"
 #include "windows/page_builder.h"
 
 #include <QCheckBox>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 namespace orvane {
 
-PreviewPanel::PreviewPanel(QWidget* pane, TodaysBrowsers today) : m_pane(pane)
+PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(pane)
 {
     PageBuilder page(this);
-    page.Fill(pane);
+    LetShrink(*page.Fill(pane), 8);
     if (pane != nullptr)
         pane->show();
     page.Note(today.Sentence, "lblRunsToday")->setVisible(!today.Sentence.empty());
-    QCheckBox* runsToday = page.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
-                                         u"Lets your Web page use Orvane's page script, orvane.js");
-    runsToday->setChecked(today.RunsToday);
-    connect(runsToday, &QCheckBox::toggled, this, &PreviewPanel::RunsTodayChosen);
+    chkRunsToday = page.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
+                                 u"Lets your Web page use Orvane's page script, orvane.js");
+    chkRunsToday->setChecked(today.RunsToday);
+    connect(chkRunsToday, &QCheckBox::toggled, this, &PreviewPanel::RunsTodayChosen);
     QPushButton* preview = page.Button("cmdPreview1", u"Preview in &Browser");
     connect(preview, &QPushButton::clicked, this,
             [this] { emit PreviewWanted(PreviewMode::Browser1); });
@@ -25,6 +27,12 @@ PreviewPanel::PreviewPanel(QWidget* pane, TodaysBrowsers today) : m_pane(pane)
     connect(refresh, &QPushButton::clicked, this,
             [this] { emit PreviewWanted(PreviewMode::Inline); });
     page.Buttons({preview, refresh});
+}
+
+void PreviewPanel::CheckRunsToday()
+{
+    const QSignalBlocker blocker(chkRunsToday);
+    chkRunsToday->setChecked(true);
 }
 
 PreviewPanel::~PreviewPanel()

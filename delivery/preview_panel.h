@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
+class QCheckBox;
+
 namespace orvane {
 
 /// The delivery wizard's page that shows the effect.
@@ -16,15 +18,18 @@ public:
     /// What the page tells about today's browsers, and its check box for the page script.
     struct TodaysBrowsers
     {
-        TextView Sentence; ///< empty for none
-        bool RunsToday;    ///< whether the box is checked at first
+        Text Sentence;  ///< empty for none
+        bool RunsToday; ///< whether the box is checked at first
     };
     /// `pane` is the preview pane's widget, or null. The panel shows it while it exists, without
     /// owning it.
-    PreviewPanel(QWidget* pane, TodaysBrowsers today);
+    PreviewPanel(QWidget* pane, const TodaysBrowsers& today);
 
     /// Hides the pane and takes it out of this panel, if it still exists.
     ~PreviewPanel() override;
+
+    /// Checks the box for the page script, without RunsTodayChosen().
+    void CheckRunsToday();
 
 signals:
     /// The author wants to see the effect, in the pane or in a browser.
@@ -34,6 +39,7 @@ signals:
 
 private:
     QPointer<QWidget> m_pane;
+    QCheckBox* chkRunsToday;
 };
 
 } // namespace orvane

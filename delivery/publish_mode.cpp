@@ -21,10 +21,10 @@ PublishControls ControlsOf(PublishMode mode)
     };
 }
 
-AfterCopying DoneCopying()
+AfterCopying DoneCopying(bool hasHead)
 {
     // Stays as it is: the panel of the HEAD code comes forward, under the heading of the last page.
-    return {.Panel = 4,
+    return {.Panel = hasHead ? 4 : 9,
             .HeadingPage = 9,
             .IsNextEnabled = false,
             .IsPreviousEnabled = true,

@@ -58,8 +58,9 @@ struct AfterCopying
     bool operator==(const AfterCopying&) const = default;
 };
 
-/// What a click on `cmdDoneCopying` leads to: the heading of the last page.
-AfterCopying DoneCopying();
+/// What a click on `cmdDoneCopying` leads to: the heading of the last page, above the panel of the
+/// HEAD code or, for an effect without any, above what that page tells.
+AfterCopying DoneCopying(bool hasHead);
 
 /// What a click on `cmdPreviewAfterCopying` leads to: the first page and its preview.
 AfterCopying PreviewAfterCopying();

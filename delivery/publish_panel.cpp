@@ -1,8 +1,10 @@
 #include "delivery/publish_panel.h"
 
+#include "core/file_names.h"
 #include "delivery/manual_copy.h"
-
+#include "delivery/page_requests.h"
 #include "services/folder_memory.h"
+#include "services/recent_files.h"
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
@@ -86,7 +88,8 @@ QWidget* PublishPanel::MakeToSide(QWidget* all)
     m_to = new FolderBoxes(m_desk.Files, {"driveCopyTo", "dirCopyTo", "fileCopyTo"}, u"*.*", side);
     GoTo(m_desk.ProgramFolder);
     // Without the focus, which stays with the author among the folders.
-    connect(m_to, &FolderBoxes::FolderPicked, this, [this] {
+    connect(m_to, &FolderBoxes::FolderMarked, this, [this] {
+        m_hasStarted = true;
         if (QPushButton* button = DefaultButton())
             button->setDefault(true);
     });
@@ -124,10 +127,22 @@ void PublishPanel::PageShown()
 {
     m_missing.clear();
     m_to->Refresh();
+    StartBesideThePage();
     const Text last = RememberedFolder(m_settings, FolderPurpose::Publishing);
     cmdLastFolder->setVisible(m_desk.Files.FolderExists(last));
     cmdLastFolder->setToolTip(ToQt(last));
     Show(PublishMode::Publish);
+}
+
+/// The first time the boxes show the folder of the page, where one is known.
+void PublishPanel::StartBesideThePage()
+{
+    if (m_hasStarted)
+        return;
+    std::vector<Text> pages = RecentFiles(m_settings, m_desk.Files, recentPages);
+    if (!m_desk.Report.Page().empty())
+        pages = {m_desk.Report.Page()};
+    m_hasStarted = !pages.empty() && m_to->GoTo(FolderOf(pages.front()));
 }
 
 void PublishPanel::GoTo(TextView folder)
@@ -154,7 +169,7 @@ QPushButton* PublishPanel::DefaultButton() const
     case PublishMode::Publish:
         break;
     }
-    return m_to->Folder() == m_publishedTo ? nullptr : cmdCopyFiles;
+    return m_to->MarkedFolder() == m_publishedTo ? nullptr : cmdCopyFiles;
 }
 
 void PublishPanel::ShowMissing()
@@ -183,9 +198,9 @@ void PublishPanel::Show(PublishMode mode)
 
 void PublishPanel::PublishFiles()
 {
-    const Text folder = m_to->Folder();
+    const Text folder = m_to->MarkedFolder();
     const auto copied = Publish(m_desk, folder);
-    m_to->Refresh();
+    m_to->GoTo(folder);
     const Fault* fault = FaultIn(copied);
     if (fault == nullptr)
         RememberFolder(m_settings, FolderPurpose::Publishing, folder);
@@ -204,13 +219,13 @@ void PublishPanel::PublishFiles()
 void PublishPanel::CopyByHand()
 {
     const bool isForPreview = m_mode == PublishMode::MissingForPreview;
-    const Text folder = isForPreview ? m_toFolder : m_to->Folder();
+    const Text folder = isForPreview ? m_toFolder : m_to->MarkedFolder();
     // What the preview needs is delivered to nobody, and no report of it is shown.
     DeliveryReport unseen;
     const CopyDesk desk{m_desk.Payload, m_desk.ProgramFolder, m_desk.Files, m_desk.Dialogs,
                         isForPreview ? unseen : m_desk.Report};
     ManualCopy(desk, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
-    m_to->Refresh();
+    m_to->GoTo(folder);
     ShowMissing();
 }
 
@@ -222,7 +237,7 @@ void PublishPanel::GoToLastFolder()
 
 void PublishPanel::MakeFolder()
 {
-    if (const auto folder = m_makeFolder(m_to->Folder())) {
+    if (const auto folder = m_makeFolder(m_to->MarkedFolder())) {
         m_to->Refresh();
         m_to->GoTo(*folder);
         emit DefaultButtonChanged();

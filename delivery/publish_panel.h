@@ -68,12 +68,14 @@ private:
     void CopyByHand();
     void MakeFolder();
     void GoToLastFolder();
+    void StartBesideThePage();
 
     const CopyDesk m_desk;
     Settings& m_settings;
     MakeFolderWindow m_makeFolder;
     PublishMode m_mode = PublishMode::Publish;
-    Text m_publishedTo; ///< the folder to which everything was published last
+    bool m_hasStarted = false; ///< the "Copy to" boxes show a folder that somebody chose
+    Text m_publishedTo;        ///< the folder to which everything was published last
     MissingFiles m_missing;
     Text m_toFolder; ///< where the files go that the preview lacks
 

@@ -36,32 +36,28 @@ bool IsMissing(Fault fault)
            fault == Fault::PermissionDenied || fault == Fault::PathFileAccess;
 }
 
-/// The name goes to the missing ones.
-Done Miss(const CopyDesk& desk, TextView folder, TextView name, MissingFiles& missing)
-{
-    missing.emplace_back(name);
-    desk.Report.FileMissing(folder, name);
-    return {};
-}
-
 /// Copies a file; one that cannot be copied goes to the missing ones, any other fault comes back.
 Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView source,
                 MissingFiles& missing)
 {
     const Done done = desk.Copies->Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
-    if (!fault)
-        desk.Report.FileCopied(folder, name);
-    else if (IsMissing(*fault))
-        return Miss(desk, folder, name, missing);
+    if (!fault) {
+        desk.Report.FileCopied(folder);
+    } else if (IsMissing(*fault)) {
+        missing.emplace_back(name);
+        return {};
+    }
     return done;
 }
 
 Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextView source,
                     MissingFiles& missing)
 {
-    if (source.empty())
-        return Miss(desk, folder, name, missing);
+    if (source.empty()) {
+        missing.emplace_back(name);
+        return {};
+    }
     const Text destination = Join({folder, name});
     if (desk.Files.IsTaken(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
@@ -98,8 +94,10 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
         if (desk.Copies->IsCancelled())
             return {};
         const auto own = desk.Files.Read(source);
-        if (FaultIn(own))
-            return Miss(desk, folder, pageScriptFile, missing);
+        if (FaultIn(own)) {
+            missing.emplace_back(pageScriptFile);
+            return {};
+        }
         const auto present = desk.Files.Read(destination);
         const auto version = [](const Outcome<std::string>& file) {
             return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
@@ -171,9 +169,49 @@ MissingFiles CopyForPreview(const CopyDesk& desk)
 
 } // namespace
 
+Text CopyDesk::SourceOf(TextView name) const
+{
+    const EffectPayload& effect = Payload.Effect;
+    for (std::size_t i = 0; i < effect.Required.Names.size(); ++i)
+        if (effect.Required.Names[i] == name && !effect.Required.Sources[i].empty())
+            return effect.Required.Sources[i];
+    if (name == pageScriptFile ||
+        std::ranges::find(effect.SupportFiles, name) != effect.SupportFiles.end())
+        return PathIn(ProgramFolder, name);
+    return {};
+}
+
 bool CopyDesk::MayOverwrite(TextView name) const
 {
     return Dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
+}
+
+bool CopyPageScriptTo(CopyDesk desk, TextView folder)
+{
+    MissingFiles missing;
+    const Done done = [&] {
+        FollowedCopies copies(desk.Files, desk.Dialogs, folder, {});
+        desk.Copies = &copies;
+        return CopyPageScript(desk, folder, missing);
+    }();
+    if (const Fault* fault = FaultIn(done))
+        desk.Dialogs.Say(Words(*fault));
+    return !FaultIn(done) && missing.empty();
+}
+
+void CopyHere(const CopyDesk& desk, TextView source, TextView folder, TextView name)
+{
+    const Text destination = Join({folder, name});
+    if (desk.Files.IsTaken(destination) && !desk.MayOverwrite(name))
+        return;
+    const TextView into = FolderOf(destination);
+    Done done = into == folder ? Done() : MakeFolders(desk.Files, Left(into, into.size() - 1));
+    if (!FaultIn(done)) {
+        FollowedCopies copies(desk.Files, desk.Dialogs, into, {Text(source)});
+        done = copies.Copy(source, destination);
+    }
+    if (const Fault* fault = FaultIn(done); fault && *fault != Fault::Cancelled)
+        desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
 }
 
 Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
@@ -227,8 +265,8 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         const Done done = desk.Files.PutNew(page, NewPageBytes(desk.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
-        desk.Report.FileCopied(target, u"ovtemp.html");
     }
+    desk.Report.PagePublished(page);
     return CopyRequiredFiles(desk, target);
 }
 

@@ -22,8 +22,12 @@ struct CopyDesk
     TextView ProgramFolder;
     FileStore& Files;
     orvane::Dialogs& Dialogs;
-    DeliveryReport& Report;           ///< where copied and missing files are noted
+    DeliveryReport& Report;           ///< where it is noted what was written
     FollowedCopies* Copies = nullptr; ///< null but while files are copied
+
+    /// The full path of the file that the effect needs under that name, as far as the payload
+    /// tells; empty otherwise.
+    Text SourceOf(TextView name) const;
 
     /// Asks the author whether the file of that name may be overwritten; true for Yes.
     bool MayOverwrite(TextView name) const;
@@ -37,6 +41,14 @@ struct CopyDesk
 /// without a word to the author, for the caller to show. When the author cancels and files are
 /// missing, a message lists them and Cancelled is given. No file is ever copied in part.
 [[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder);
+
+/// Copies a wanted page script to the folder, as CopyRequiredFiles() does. The author is told of a
+/// fault; false when the script could not be copied.
+bool CopyPageScriptTo(CopyDesk desk, TextView folder);
+
+/// Copies one file to a page's folder, under a name relative to that; folders in the name are made.
+/// Asks before it overwrites a file, and tells the author of a fault.
+void CopyHere(const CopyDesk& desk, TextView source, TextView folder, TextView name);
 
 /// Copies the author's files to the program's folder, in which the preview page is; a name that is
 /// there already is not copied again. Gives the names that could not be copied, and tells the

@@ -52,6 +52,21 @@ AutoInsertion Tell(Dialogs& dialogs, Fault fault)
     return AutoInsertion::NothingDone;
 }
 
+/// Writes the edited page; false, and the author is told why, when it still holds its old bytes or
+/// what another program wrote.
+bool WritePage(FileStore& files, Dialogs& dialogs, TextView page, std::string_view bytes,
+               std::string_view edited)
+{
+    const auto written = files.Exchange(page, bytes, edited);
+    if (const Fault* fault = FaultIn(written))
+        dialogs.Say(TellingWords(*fault));
+    else if (!ValueIn(written))
+        dialogs.Say(changedWords);
+    else
+        return true;
+    return false;
+}
+
 } // namespace
 
 std::optional<Complaint> CheckPageName(TextView txtFileName)
@@ -90,16 +105,35 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
         return AutoInsertion::Manual;
     }
     const std::string& edited = std::get<EditedPage>(edit).Bytes;
-    const auto written = files.Exchange(page, bytes, edited);
-    if (const Fault* fault = FaultIn(written))
-        return Tell(dialogs, *fault);
-    if (!ValueIn(written)) {
-        dialogs.Say(changedWords);
+    if (!WritePage(files, dialogs, page, bytes, edited))
         return AutoInsertion::NothingDone;
-    }
     if (payload.RunsToday && !HasPageScript(edited))
         dialogs.Say(Join({noHeadWords, pageScriptLines}));
     return AutoInsertion::Inserted;
+}
+
+bool InsertPageScript(FileStore& files, Dialogs& dialogs, TextView page,
+                      const FinishedPayload& payload, const KeptPagesPlace& kept)
+{
+    const auto read = files.Read(page);
+    if (const Fault* fault = FaultIn(read)) {
+        dialogs.Say(TellingWords(*fault));
+        return false;
+    }
+    const std::string& bytes = ValueIn(read);
+    const std::string edited = WithPageScriptFor(bytes, payload);
+    if (!HasPageScript(edited)) {
+        dialogs.Say(Join({noHeadWords, pageScriptLines}));
+        return false;
+    }
+    if (edited == bytes)
+        return true;
+    const Done isKept = KeepPage(files, kept, page, bytes);
+    if (const Fault* fault = FaultIn(isKept)) {
+        dialogs.Say(Words(*fault));
+        return false;
+    }
+    return WritePage(files, dialogs, page, bytes, edited);
 }
 
 } // namespace orvane

@@ -34,4 +34,11 @@ Text PagePath(TextView txtFileName, TextView currentFolder);
 AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
                          const FinishedPayload& payload, const KeptPagesPlace& kept);
 
+/// Puts the page script's lines into a page that holds the payload's effect already, and gives true
+/// when they stand there; otherwise the author is told why not. The page as it is before is put
+/// among the kept pages first. Whatever fails, the page holds its old bytes or the new ones; one
+/// that another program changes meanwhile stays as that program left it. Expects a full path.
+bool InsertPageScript(FileStore& files, Dialogs& dialogs, TextView page,
+                      const FinishedPayload& payload, const KeptPagesPlace& kept);
+
 } // namespace orvane

@@ -140,6 +140,18 @@ PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload
     return edit;
 }
 
+std::string WithPageScriptFor(std::string_view page, const FinishedPayload& payload)
+{
+    std::string code(page);
+    const auto lines = TakePageScriptLines(code);
+    const auto head = HeadTag(code);
+    if (!head || (lines && lines->IsChanged))
+        return std::string(page);
+    const EventCalls known =
+        AllCalls(payload, EncodingOf(page), lines ? lines->Carried : EventCalls());
+    return code.insert(head->End, MakeLines(code, known));
+}
+
 std::string_view PageScriptVersion(std::string_view file)
 {
     constexpr std::string_view begin = "/*! Orvane page script ";

@@ -34,6 +34,11 @@ std::string WithoutPageScript(std::string_view page);
 PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload,
                            const ReplaceQuestion& askToReplace);
 
+/// The page, into which the payload's effect was put before, with the lines that
+/// EditPageAndScript() would have put there with it. A page without a HEAD tag is given back
+/// unchanged.
+std::string WithPageScriptFor(std::string_view page, const FinishedPayload& payload);
+
 /// The version that the first bytes of a page script name, such as "1.0.0"; empty for any other
 /// file.
 std::string_view PageScriptVersion(std::string_view file);

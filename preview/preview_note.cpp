@@ -2,6 +2,9 @@
 
 #include "core/catalogue.h"
 #include "core/file_names.h"
+#include "insertion/page_files.h"
+
+#include <algorithm>
 
 namespace orvane {
 
@@ -18,21 +21,17 @@ constexpr MarkNote markNotes[] = {
                  u"effect in a browser that runs them."},
 };
 
-constexpr TextView runsInStatusLine =
-    u"This effect runs in the browser's status line.  See the framed line below the page.";
-
 /// The files that the effect needs beside its page and that do not lie there, with commas between.
 Text MissingNames(const EffectPayload& effect, const FileStore& files, TextView folder)
 {
     Text names;
-    const auto add = [&](const Text& name) {
-        if (!name.empty() && !files.FileExists(PathIn(folder, name)))
-            names += (names.empty() ? u"" : u", ") + name;
+    const auto add = [&](const Text& needed) {
+        const auto name = NameBesidePage(needed);
+        if (name && !files.FileExists(PathIn(folder, *name)))
+            names += (names.empty() ? u"" : u", ") + *name;
     };
-    for (const Text& name : effect.Required.Names)
-        add(name);
-    for (const Text& name : effect.SupportFiles)
-        add(name);
+    std::ranges::for_each(effect.Required.Names, add);
+    std::ranges::for_each(effect.SupportFiles, add);
     return names;
 }
 
@@ -52,8 +51,6 @@ Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextVie
     for (const auto& [mark, words] : markNotes)
         if (!payload.RunsToday && FindIgnoringCase(effect.BODYHTML, mark) != 0)
             AddSentence(note, words);
-    if (RunsInStatus(payload))
-        AddSentence(note, runsInStatusLine);
     if (const Text missing = MissingNames(effect, files, folder); !missing.empty())
         AddSentence(note, Join({u"Not found in ", folder, u": ", missing, u"."}));
     return note;

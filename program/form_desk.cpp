@@ -14,6 +14,7 @@
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
 #include "services/chosen_effects.h"
+#include "windows/picked_files.h"
 
 #include <QCoreApplication>
 
@@ -108,6 +109,7 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
                 return makeDir.NewFolder();
             },
         .BringBack = [&](const Text& page) { return ShowBringBack(page, preview.get()) == page; },
+        .PickedFile = [&](const Text& name) { return PickedFile(wizard, name); },
     };
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
@@ -118,9 +120,8 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
 
 void FormDesk::EditApplet()
 {
-    EditAppletForm form(m_bench, m_mainForm.get());
+    EditAppletForm form(m_bench, &FormDesk::IsBuilt, m_mainForm.get());
     ShowModally(form);
-    // An effect that has no wizard yet opens none, and the author is told nothing.
     if (const CatalogueRow* row = FindRow(form.Wanted()))
         OpenEffect(*FindCommand(row->MenuCommand));
     m_bench.Core.PastedApplet.clear();

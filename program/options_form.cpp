@@ -78,7 +78,7 @@ void OptionsForm::BrowseForBrowser()
     m_bench.Core.BrowserPathChoice.clear();
     BrowseDialog(m_bench.Core, m_bench.Dialogs,
                  {.Title = u"Select Browser...",
-                  .Filter = u"All Files (*.*)|*.*|EXE Files (*.exe)|*.exe|BAT Files (*.bat)|*.bat",
+                  .Filter = u"All Files (*.*)|*.*|Programs (*.AppImage, *.sh)|*.AppImage;*.sh",
                   .FilterIndex = 1});
     // Cancel empties the field, as it always has.
     txtBrowser->setText(ToQt(m_bench.Core.BrowserPathChoice));

@@ -12,11 +12,12 @@ struct AppletRow
 {
     TextView Prefix; ///< five letters; behind a quote the first four of them count
     AppletDispatch Goes;
+    bool Fills = true; ///< the wizard reads its fields out of the tag
 };
 
-constexpr AppletRow To(TextView prefix, EffectKind kind)
+constexpr AppletRow To(TextView prefix, EffectKind kind, bool fills = true)
 {
-    return {prefix, {Way::Wizard, kind}};
+    return {prefix, {Way::Wizard, kind}, fills};
 }
 
 /// The first row that fits counts.
@@ -27,11 +28,11 @@ constexpr std::array<AppletRow, 14> rows = {{
     To(u"Lake.", EffectKind::ImageEffects),
     To(u"rippl", EffectKind::ImageEffects),
     To(u"TmapC", EffectKind::ImageEffects),
-    To(u"Butto", EffectKind::DynamicButton),
+    To(u"Butto", EffectKind::DynamicButton, false),
     To(u"Navig", EffectKind::NavigatorTicker),
     To(u"FadeT", EffectKind::FadingMessage),
     To(u"Color", EffectKind::SwirlyText),
-    To(u"Simpl", EffectKind::Sound),
+    To(u"Simpl", EffectKind::Sound, false),
     To(u"Typew", EffectKind::TypewriterText),
     To(u"RTLSc", EffectKind::SmoothScroll),
     To(u"LTRSc", EffectKind::SmoothScroll),
@@ -59,7 +60,7 @@ std::vector<EffectKind> EffectsOfTags()
 {
     std::set<EffectKind> kinds(animationWizards.begin(), animationWizards.end());
     for (const AppletRow& row : rows)
-        if (row.Goes.Next == Way::Wizard)
+        if (row.Goes.Next == Way::Wizard && row.Fills)
             kinds.insert(row.Goes.Kind);
     return {kinds.begin(), kinds.end()};
 }

@@ -45,7 +45,7 @@ AppletDispatch RecognizeApplet(TextView appletTextAfterCODE);
 inline constexpr std::array<EffectKind, 3> animationWizards = {
     EffectKind::AdvancedAnimator, EffectKind::AnimationWizard, EffectKind::BannerWizard};
 
-/// Every effect to which a pasted tag can lead, each once, in the order of the catalogue.
+/// Every effect whose wizard a pasted tag fills, each once, in the order of the catalogue.
 std::vector<EffectKind> EffectsOfTags();
 
 /// What the author is told when more is pasted than the window takes.

@@ -5,6 +5,7 @@
 #include <QDialog>
 
 #include <array>
+#include <functional>
 
 class QRadioButton;
 class QStackedWidget;
@@ -15,13 +16,15 @@ class MultiLineBox;
 class PageBuilder;
 
 /// The window into which the author pastes an applet tag to edit its effect again. It closes with
-/// the effect whose wizard is to open.
+/// the effect whose wizard is to open; where there is no such wizard it says so and stays.
 class EditAppletForm : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit EditAppletForm(Workbench& bench, QWidget* parent = nullptr);
+    /// `isBuilt` tells whether an effect has a wizard.
+    EditAppletForm(Workbench& bench, std::function<bool(EffectKind)> isBuilt,
+                   QWidget* parent = nullptr);
 
     /// The effect whose wizard the author asked for; None when there is none to open.
     EffectKind Wanted() const { return m_wanted; }
@@ -35,6 +38,7 @@ private:
     void Open(EffectKind kind);
 
     Workbench& m_bench;
+    const std::function<bool(EffectKind)> m_isBuilt;
     EffectKind m_wanted = EffectKind::None;
     QStackedWidget* m_panels;
     MultiLineBox* Text1 = nullptr;

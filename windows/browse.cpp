@@ -1,6 +1,7 @@
 #include "windows/browse.h"
 
 #include "core/file_names.h"
+#include "windows/picked_files.h"
 #include "windows/qt_text.h"
 
 #include <QLineEdit>
@@ -27,6 +28,7 @@ void Browse(Workbench& bench, QLineEdit& field, const BrowseRule& rule)
     if (rule.Folder != nullptr)
         bench.Core.*rule.Folder = FolderOf(*path);
     field.setText(ToQt(rule.KeepsPath ? TextView(*path) : name));
+    RememberPicked(field, *path);
     if (rule.Slot)
         bench.Core.Required.Sources.at(*rule.Slot) = *path;
     if (rule.Then)

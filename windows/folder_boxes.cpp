@@ -95,6 +95,7 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
     const auto pick = [this] { PickFolder(m_folders->SelectedRow()); };
     connect(m_folders, &ActingList::Entered, this, pick);
     connect(m_folders, &QListWidget::itemDoubleClicked, this, pick);
+    connect(m_folders, &QListWidget::itemSelectionChanged, this, &FolderBoxes::FolderMarked);
     if (!names.File.empty()) {
         m_files = new ActingList;
         AddBox(column, names.File, u"Files:", m_files, 3);
@@ -143,6 +144,8 @@ void FolderBoxes::Refresh()
 
 void FolderBoxes::ShowFolders(const FolderRows& list)
 {
+    // The program's own selecting is none of the author's.
+    const QSignalBlocker blocker(m_folders);
     m_folders->clear();
     const QIcon open = style()->standardIcon(QStyle::SP_DirOpenIcon);
     const QIcon closed = style()->standardIcon(QStyle::SP_DirIcon);
@@ -167,8 +170,10 @@ void FolderBoxes::ShowFiles()
 
 void FolderBoxes::PickDrive(int index)
 {
-    if (GoTo(FromQt(m_drives->itemText(index))))
+    if (GoTo(FromQt(m_drives->itemText(index)))) {
+        emit FolderMarked();
         return emit FolderPicked();
+    }
     QApplication::beep();
     ShowDrive();
 }
@@ -177,10 +182,18 @@ void FolderBoxes::PickFolder(int row)
 {
     if (row < 0)
         return;
-    if (GoTo(FromQt(m_folders->item(row)->data(pathRole).toString())))
+    if (GoTo(FromQt(m_folders->item(row)->data(pathRole).toString()))) {
+        emit FolderMarked();
         emit FolderPicked();
-    else
+    } else {
         QApplication::beep();
+    }
+}
+
+Text FolderBoxes::MarkedFolder() const
+{
+    const int row = m_folders->SelectedRow();
+    return row < 0 ? m_folder : FromQt(m_folders->item(row)->data(pathRole).toString());
 }
 
 Text FolderBoxes::FileName() const

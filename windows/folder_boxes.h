@@ -44,6 +44,10 @@ public:
     /// The full path of the folder that is shown.
     const Text& Folder() const { return m_folder; }
 
+    /// The full path of the folder that is selected in the folder box, which the author may not
+    /// have gone to; the folder that is shown when none is selected.
+    Text MarkedFolder() const;
+
     /// The name of the file box's current row if it is selected, else the empty text. Of several
     /// selected rows the current one is the one that the author came to last.
     Text FileName() const;
@@ -56,6 +60,8 @@ public:
     QListWidget* FileBox() const { return m_files; } ///< null for a window without one
 
 signals:
+    /// The author selected a folder or went to one: MarkedFolder() may be another one.
+    void FolderMarked();
     /// The author, not the program, went to another folder.
     void FolderPicked();
     /// The selection in the file box changed; it may be empty.

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QEvent>
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
 
 #include <algorithm>
@@ -46,18 +47,34 @@ private:
             QByteArray::fromBase64(ToQt(m_settings.Get(section, Key(), u"")).toLatin1());
         // A text that was cut short would be read as zeros behind its end.
         if (stored.size() != m_window.saveGeometry().size() || !m_window.restoreGeometry(stored))
-            return;
+            return FitInto(RoomInFrame());
         if (!m_window.isMaximized() && !m_window.isFullScreen())
             BringIntoSight();
+    }
+
+    /// What the screen leaves to a window that has its frame still to come.
+    QSize RoomInFrame() const
+    {
+        const int frame = m_window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+        return m_window.screen()->availableSize() - QSize(frame, 2 * frame);
+    }
+
+    /// Makes the window no larger than that; what it has no room for then is scrolled.
+    void FitInto(const QSize& room)
+    {
+        if (m_window.minimumSize() != m_window.minimumSize().boundedTo(room))
+            m_window.setMinimumSize(m_window.minimumSize().boundedTo(room));
+        const QSize size = m_window.size().boundedTo(room);
+        if (size != m_window.size())
+            m_window.resize(size);
     }
 
     /// The toolkit moves a window off a screen that is gone; a smaller screen is left to us.
     void BringIntoSight()
     {
         const QRect room = m_window.screen()->availableGeometry();
-        const QSize size = m_window.size().boundedTo(room.size());
-        if (size != m_window.size())
-            m_window.resize(size);
+        FitInto(room.size());
+        const QSize size = m_window.size();
         const QPoint behind = room.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
         const QPoint place(std::clamp(m_window.x(), room.left(), behind.x()),
                            std::clamp(m_window.y(), room.top(), behind.y()));

@@ -1,6 +1,7 @@
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "insertion/new_page.h"
+#include "insertion/page_script.h"
 #include "program/form_desk.h"
 #include "program/ov_main_form.h"
 #include "services/chosen_effects.h"
@@ -25,6 +26,7 @@ protected:
         m_payload = Generate(StatusBarTicker{u"Welcome\u00A0to my\u2028page!"});
         m_windows.BringBack = [this](const Text& page) {
             m_broughtBack = page;
+            m_desk.Files.Contents[page] = m_earlier;
             return true;
         };
         m_desk.Core.Payload = m_payload;
@@ -41,6 +43,7 @@ protected:
     }
 
     Text m_broughtBack;
+    std::string m_earlier; ///< what the page that is brought back holds then
 };
 
 TEST_F(PreviewFormTest, OpensWithThePreviewOnItsFirstPage)
@@ -102,7 +105,7 @@ TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
     ExpectSameBytes(ExpectedBytes("status_bar_ticker_new_page.html"),
                     m_desk.Files.Contents.at(u"/site/index.html"));
     EXPECT_EQ(Heading(), u"Finished!");
-    EXPECT_EQ(ToQt(WordsOf(*m_form, "lblReport")).remove(QChar(0x200B)),
+    EXPECT_EQ(ToQt(WordsOf(*m_form, "lblReport")).remove(QChar(0x200B)).split(u'\n').at(1),
               QStringLiteral("Web page with the special effect in /site/: index.html"));
     Click(*m_form, "cmdOpenPage");
     Click(*m_form, "cmdOpenFolder");
@@ -149,8 +152,12 @@ TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
     const auto holdsLines = [](const std::string& page) {
         return page.find("<HEAD><!-- Begin Orvane page script -->") != std::string::npos;
     };
-    EXPECT_TRUE(
-        WordsOf(*m_form, "lblRunsToday").ends_with(u"in a strip at the foot of the window."));
+    EXPECT_EQ(
+        WordsOf(*m_form, "lblRunsToday"),
+        u"Today's browsers show this effect only with Orvane's page script, in a strip at the "
+        u"foot of the window.  Without it, the framed line below the preview shows the effect "
+        u"here.");
+    EXPECT_EQ(m_desk.Pane.Pages.back().Note, u"") << "one note is enough";
     EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
     Click(*m_form, "chkRunsToday");
     EXPECT_TRUE(holdsLines(m_desk.Pane.Pages.back().Bytes));
@@ -177,6 +184,48 @@ TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
     EXPECT_TRUE(holdsLines(Bytes(u"/program/ovtemp.html")));
     Click(*m_form, "cmdNext");
     EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"), std::vector<Text>{u"orvane.js"});
+
+    m_payload.Kind = EffectKind::PulldownMenu;
+    Open();
+    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes)) << "it needs no page script";
+    Click(*m_form, "chkRunsToday");
+    Click(*m_form, "chkRunsToday");
+    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+}
+
+TEST_F(PreviewFormTest, WhatWentInWithoutThePageScriptGetsItOnTheLastPage)
+{
+    m_payload.BODYHTML = u"<IMG SRC='img/new.gif'><IMG SRC='http://x/y.gif'>";
+    m_windows.PickedFile = [](const Text& name) { return Text(u"/pics/") + name; };
+    m_desk.Files.Folders = {u"/", u"/pics", u"/program", u"/site", u"/site/img"};
+    m_desk.Files.Contents[u"/pics/new.gif"] = "picked";
+    m_desk.Files.Contents[u"/program/orvane.js"] = "/*! Orvane page script 1.0 */";
+    m_desk.Files.Contents[u"/site/a.html"] = "<head>1</head><body>2</body>";
+    Open();
+    Click(*m_form, "cmdNext");
+    Click(*m_form, "cmdNext");
+    m_desk.Dialogs.AnswerOpenFile(u"/site/a.html");
+    Click(*m_form, "cmdBrowse");
+    Click(*m_form, "cmdAutoInsert");
+    const std::string before = Bytes(u"/site/a.html");
+    ExpectAccessible(*m_form);
+    EXPECT_TRUE(WordsOf(*m_form, "lblReport")
+                    .starts_with(u"Today's browsers show this effect "
+                                 u"only with Orvane's page script"));
+    EXPECT_EQ(RowsOf(*m_form, "lstPageFiles"), (Texts{u"/site/a.html", u"img/new.gif: not there"}));
+    Click(*m_form, "cmdRunsToday");
+    EXPECT_EQ(Bytes(u"/site/a.html"),
+              "<head>" + ToBytes(pageScriptLines) + before.substr(std::string("<head>").size()));
+    EXPECT_EQ(Bytes(u"/state/first-backups/2024-05-31 2/site/a.html"), before);
+    EXPECT_EQ(Bytes(u"/site/Backup of a.html"), "<head>1</head><body>2</body>");
+    EXPECT_FALSE(IsShown("cmdRunsToday"));
+    EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"), Texts{u"orvane.js"});
+
+    Click(*m_form, "cmdCopyHere");
+    EXPECT_EQ(Bytes(u"/site/img/new.gif"), "picked");
+    EXPECT_EQ(RowsOf(*m_form, "lstPageFiles"),
+              (Texts{u"/site/a.html", u"img/new.gif: there", u"orvane.js: there"}));
+    EXPECT_FALSE(IsShown("cmdCopyHere"));
 }
 
 TEST_F(PreviewFormTest, FailedSaveSaysWhyAndStaysOnThePage)
@@ -205,8 +254,9 @@ TEST_F(PreviewFormTest, CopyPutsTheExactCodeOnTheClipboard)
     EXPECT_EQ(m_desk.Clipboard.Content, u" onLoad=\"scrollit_r2l(99)\" ");
     Click(*m_form, "cmdNext");
     EXPECT_EQ(Heading(), u"Finished!");
-    EXPECT_EQ(WordsOf(*m_form, "lblReport"),
-              u"HTML code copied for you to paste: HEAD, BODY attribute");
+    EXPECT_TRUE(WordsOf(*m_form, "lblReport")
+                    .ends_with(u"You did not copy its lines.\nHTML code copied for you to paste: "
+                               u"HEAD, BODY attribute"));
 }
 
 TEST_F(PreviewFormTest, BrowsingNamesTheBackup)
@@ -265,9 +315,17 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     menu->actions().at(0)->trigger();
     Click(*m_form, "cmdAutoInsert");
     EXPECT_EQ(Heading(), u"Finished!");
+    m_earlier = Bytes(u"/site/a&b.html") + "<P>";
     Click(*m_form, "cmdBringBack");
     EXPECT_EQ(m_broughtBack, u"/site/a&b.html");
-    EXPECT_TRUE(WordsOf(*m_form, "lblReport").starts_with(u"Earlier version brought back"));
+    EXPECT_TRUE(m_form->WasDelivered()) << "that version holds the effect too";
+    EXPECT_TRUE(IsShown("lstFilesToUpload"));
+    m_earlier = "<head></head>";
+    Click(*m_form, "cmdBringBack");
+    EXPECT_EQ(ToQt(WordsOf(*m_form, "lblReport")).remove(QChar(0x200B)),
+              QStringLiteral("Earlier version brought back: /site/a&b.html"));
+    EXPECT_FALSE(IsShown("lstFilesToUpload"));
+    EXPECT_EQ(Focused(), u"cmdCancel");
     EXPECT_FALSE(m_form->WasDelivered()) << "the author's entries are still wanted";
     Click(*m_form, "cmdPrevious");
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdAutoInsert")->isDefault());

@@ -1,5 +1,6 @@
 #include "delivery/publish_panel.h"
 
+#include "services/recent_files.h"
 #include "tests/support/qt_delivery.h"
 #include "tests/support/qt_mouse.h"
 
@@ -107,8 +108,8 @@ TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
     EXPECT_EQ(Heading(), u"Finished!");
     EXPECT_EQ(RowsOf(*m_form, "lstFilesToUpload"),
               (Texts{u"Animate1.class", u"CoolTool3.class", u"a.gif", u"b.gif"}));
-    EXPECT_NE(WordsOf(*m_form, "lblReport").find(u"ovtemp.html, a.gif, b.gif, Animate1.class"),
-              Text::npos);
+    EXPECT_EQ(RowsOf(*m_form, "lstPageFiles"),
+              (Texts{u"/web/", u"a.gif: there", u"b.gif: there", u"Animate1.class: there"}));
     EXPECT_FALSE(IsShown("cmdOpenPage"));
     Click(*m_form, "cmdOpenFolder");
     EXPECT_EQ(m_desk.Shell.Opened, Texts{u"/web/"});
@@ -118,7 +119,7 @@ TEST_F(PublishPanelTest, EnterPublishesToTheChosenFolderThenGoesOn)
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdCopyFiles")->isDefault()) << "another folder";
 }
 
-TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
+TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheReportComesLast)
 {
     OpenWithoutB();
     ExpectShown({"driveCopyFrom", "dirCopyFrom", "fileCopyFrom", "driveCopyTo", "dirCopyTo",
@@ -140,7 +141,8 @@ TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheHeadCodeComesLast)
 
     Click(*m_form, "cmdDoneCopying");
     EXPECT_EQ(Heading(), u"Finished!");
-    EXPECT_TRUE(IsShown("txtHEADHTML"));
+    EXPECT_TRUE(IsShown("lblReport")) << "there is no code for the HEAD";
+    EXPECT_EQ(DoneCopying(true).Panel, 4);
     EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Done");
     EXPECT_EQ(Focused(), u"cmdCancel");
     EXPECT_TRUE(IsShown("cmdNext"));
@@ -181,6 +183,31 @@ TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
     PressEnter();
     EXPECT_EQ(Heading(), u"Step 2: Select Method for Inserting your Special Effect");
     EXPECT_TRUE(IsShown("cmdPrevious"));
+}
+
+TEST_F(PublishPanelTest, StartsBesideThePageAndPublishesToTheFolderThatOneClickMarks)
+{
+    PutRecentFile(m_desk.Settings, u"Pages", u"/site/index.html");
+    m_desk.Files.Contents[u"/site/index.html"] = "<html>";
+    Open();
+    Click(*m_form, "cmdNext");
+    GoBy(1);
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"site"}));
+    ExpectAccessible(*m_form);
+    DoubleClickName("dirCopyTo", u"/");
+    ClickName("dirCopyTo", u"web");
+    Click(*m_form, "cmdCopyFiles");
+    EXPECT_EQ(Bytes(u"/web/a.gif"), "a");
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo"), (Texts{u"/", u"web"}));
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdNext")->isDefault());
+    DoubleClickName("dirCopyTo", u"/");
+    ClickName("dirCopyTo", u"pics");
+    EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdCopyFiles")->isDefault());
+    Click(*m_form, "cmdPrevious");
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(RowsOf(*m_form, "dirCopyTo").front(), u"/") << "where the author left it";
+    EXPECT_NE(RowsOf(*m_form, "dirCopyTo").at(1), u"site") << "not beside the page again";
 }
 
 TEST_F(PublishPanelTest, GoesToTheFolderThatTheAuthorMade)

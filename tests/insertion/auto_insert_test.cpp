@@ -114,6 +114,34 @@ TEST_F(AutoInsertTest, TellsWhichLinesToAddWhenThePageHasNoPlaceForThePageScript
     EXPECT_TRUE(said[0].find(u"\r\n<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n") != Text::npos);
 }
 
+TEST_F(AutoInsertTest, AddsThePageScriptAfterwardsAndKeepsThePageAsItWas)
+{
+    const std::string page = "<head><!--B-->h<!--E--></head><body onload='a()' onload=\"go(1)\">";
+    m_files.Contents[pagePath] = page;
+    m_payload.Effect.OnLoadFunc = u"go";
+    m_payload.Effect.OnLoadArgs = u"(1)";
+    const auto add = [&] {
+        return InsertPageScript(m_files, m_dialogs, pagePath, m_payload, kept);
+    };
+    m_files.FailOn(u"/state/pages/2001-11-28 2/home/jo/site/index.html", Fault::DiskFull);
+    EXPECT_FALSE(add());
+    ExpectSaid(u"Disk full");
+    EXPECT_EQ(Bytes(pagePath), page);
+    EXPECT_TRUE(add());
+    EXPECT_EQ(Bytes(pagePath), "<head><!-- Begin Orvane page script -->\r\n"
+                               "<SCRIPT SRC=\"orvane.js\" data-onload=\"go(1)\"></SCRIPT>\r\n"
+                               "<!-- End Orvane page script -->" +
+                                   page.substr(6));
+    EXPECT_EQ(Bytes(u"/state/pages/2001-11-28 3/home/jo/site/index.html"), page);
+    EXPECT_FALSE(m_files.FileExists(backupPath)) << "that one holds the page without the effect";
+    m_files.Writes.clear();
+    EXPECT_TRUE(add());
+    EXPECT_TRUE(m_files.Writes.empty());
+    m_files.Contents[pagePath] = "<body>";
+    EXPECT_FALSE(add());
+    EXPECT_EQ(m_dialogs.TakeSaid().size(), 1u);
+}
+
 TEST_F(AutoInsertTest, TellsTheFaultOfThePageItself)
 {
     m_files.Contents.clear();

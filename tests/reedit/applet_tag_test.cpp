@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvane::testing {
@@ -29,6 +30,16 @@ TEST(AppletTagTest, IsRecognisedWithAndWithoutQuotes)
             EXPECT_EQ(RecognizeApplet(LettersBehindCode(tag).AppletTextAfterCODE), goes)
                 << ToUtf8(tag);
         }
+}
+
+TEST(AppletTagTest, ListsTheWizardsThatFillThemselves)
+{
+    const std::vector<EffectKind> kinds = EffectsOfTags();
+    const auto has = [&](EffectKind kind) {
+        return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+    };
+    EXPECT_TRUE(has(EffectKind::ImageEffects) && has(EffectKind::TypewriterText));
+    EXPECT_FALSE(has(EffectKind::DynamicButton)) << "its wizard opens empty";
 }
 
 TEST(AppletTagTest, AQuoteMustStandBeforeFourLetters)

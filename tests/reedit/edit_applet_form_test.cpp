@@ -3,7 +3,8 @@
 #include "effects/applet/advanced_animator_form.h"
 #include "program/form_desk.h"
 #include "program/ov_main_form.h"
-#include "tests/support/form_test.h"
+#include "tests/support/doubles.h"
+#include "tests/support/qt_controls.h"
 #include "windows/multi_line_box.h"
 
 #include <QAction>
@@ -19,14 +20,23 @@ void Paste(EditAppletForm& form, const char* tag)
     Find<MultiLineBox>(form, "Text1")->paste();
 }
 
-class EditAppletFormTest : public FormTest<EditAppletForm>
+/// The window of a program without the billboard wizard and the navigator ticker.
+class EditAppletFormTest : public ::testing::Test
 {
 protected:
+    EditAppletFormTest() { m_form.show(); }
+
     void Edit(const char* tag)
     {
         Paste(m_form, tag);
         Click(m_form, "cmdEdit");
     }
+
+    FakeDesk m_desk;
+    EditAppletForm m_form{m_desk.Bench, [](EffectKind kind) {
+                              return kind != EffectKind::BannerWizard &&
+                                     kind != EffectKind::NavigatorTicker;
+                          }};
 };
 
 TEST_F(EditAppletFormTest, AKnownAppletClosesTheWindowWithItsEffect)
@@ -67,7 +77,14 @@ TEST_F(EditAppletFormTest, AnAnimationAsksForItsWizard)
     EXPECT_EQ(m_form.Wanted(), EffectKind::None);
     Click(m_form, "optBillboardWizard");
     Press(m_form, Qt::Key_Return);
-    EXPECT_EQ(m_form.Wanted(), EffectKind::BannerWizard);
+    EXPECT_EQ(m_form.Wanted(), EffectKind::None);
+    EXPECT_TRUE(m_form.isVisible());
+    EXPECT_EQ(m_desk.Dialogs.Said,
+              Texts{u"This version of Orvane has no wizard for the effect \"Banner/Billboard "
+                    u"Wizard\", so it cannot be edited here.  The code stays as you pasted it."});
+    Click(m_form, "optAnimationWizard");
+    Press(m_form, Qt::Key_Return);
+    EXPECT_EQ(m_form.Wanted(), EffectKind::AnimationWizard);
     EXPECT_FALSE(m_form.isVisible());
 }
 
@@ -107,14 +124,18 @@ TEST(EditAppletRoadTest, AnAppletWithoutAWizardOpensNothing)
     FakeDesk desk;
     FormDesk road(desk.Bench, nullptr);
     road.Start();
-    for (const char* tag : {"CODE=NavigatorTicker20.class", "CODE=Clock.class"}) {
-        WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
-            Paste(form, tag);
-            Click(form, "cmdEdit");
-        });
-        road.EditApplet();
-        EXPECT_TRUE(desk.Core.EditMode);
-    }
+    WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
+        Paste(form, "CODE=NavigatorTicker20.class");
+        Click(form, "cmdEdit");
+        EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u);
+        EXPECT_EQ(WordsOf(form, "Text1"), u"CODE=NavigatorTicker20.class");
+        EXPECT_TRUE(form.isVisible());
+        Press(*Find<QWidget>(form, "Text1"), Qt::Key_A, Qt::ControlModifier);
+        Paste(form, "CODE=Clock.class");
+        Click(form, "cmdEdit");
+    });
+    road.EditApplet();
+    EXPECT_TRUE(desk.Core.EditMode);
     EXPECT_TRUE(desk.Dialogs.Said.empty());
 }
 

@@ -40,6 +40,20 @@ TEST(RememberPlaceTest, OpensAsItWasLeftAndOnAScreenThatIsThere)
     ShowAndHide(settings, [](QWidget& window) { EXPECT_TRUE(window.isMaximized()); });
 }
 
+TEST(RememberPlaceTest, OpensNoLargerThanItsScreen)
+{
+    FakeSettings settings;
+    QWidget window;
+    RememberPlace(window, settings);
+    window.setMinimumSize(3000, 200);
+    window.resize(4000, 5000);
+    window.show();
+    const QSize room = window.screen()->availableSize();
+    EXPECT_LT(window.width(), room.width());
+    EXPECT_LT(window.height(), room.height());
+    EXPECT_EQ(window.minimumHeight(), 200);
+}
+
 TEST(RememberPlaceTest, PassesOverWhatItCannotRead)
 {
     FakeSettings settings;
