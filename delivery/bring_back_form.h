@@ -29,6 +29,7 @@ protected:
 
 private:
     void BrowseForPage();
+    void TakePage(const Text& path);
     void ShowBackups();
     KeptPagesPlace Kept() const;
 

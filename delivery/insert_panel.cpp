@@ -17,12 +17,6 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr TextView recentPages = u"Pages";
-
-} // namespace
-
 InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench), m_desk(desk)
 {
     PageBuilder page(this);

@@ -3,6 +3,7 @@
 #include "disk/settings_file.h"
 #include "disk/system_calls.h"
 #include "help/help_form.h"
+#include "preview/preview_page.h"
 #include "preview/qt_preview_pane.h"
 #include "program/command_line.h"
 #include "program/form_desk.h"
@@ -112,6 +113,7 @@ int main(int argc, char** argv)
     // Behind the first paint of the window: the icon alone loads a library.
     QTimer::singleShot(0, &desk, [&] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
+        RemovePreviewPages(files, core);
         InstallResources(files, dialogs, folders->Program);
         if (const Text& path = std::get<Text>(project); !path.empty())
             desk.OpenProject(path);

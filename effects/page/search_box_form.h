@@ -14,6 +14,8 @@ public:
     /// Shows the window in that mode.
     explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = searchMode);
 
+    void setVisible(bool isVisible) override;
+
 protected:
     SearchBox Fresh() const override;
     void UpdateForm() override;
@@ -24,6 +26,7 @@ private:
     QWidget* frameSearch;
     QLineEdit* txtURL;
     QWidget* frameTranslate;
+    QLineEdit* txtTranslateURL;
 };
 
 } // namespace orvane
