@@ -37,9 +37,9 @@ public:
     /// The page wrote this into its status line; empty when a page begins.
     virtual void StatusWritten(TextView status) = 0;
 
-    /// The page wants to go to an address, which is given encoded, or to a file (then `target` is
-    /// its path) outside of the preview. `byAuthor`: the author has clicked or typed in the page
-    /// since the last such call.
+    /// The page wants to go to an address, which is given encoded and is empty when it is not
+    /// valid, or to a file (then `target` is its path) outside of the preview. `byAuthor`: the
+    /// author has clicked or typed in the page since the last such call.
     virtual void OutsideWanted(TextView target, bool byAuthor) = 0;
 
     /// The page no longer runs, and the view is empty.

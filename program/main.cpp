@@ -78,6 +78,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setDesktopFileName(ToQt(desktopId));
     QApplication::setQuitOnLastWindowClosed(false);
+    EndOrderlyOnSignals(application);
     const auto project = ProjectOf(QApplication::arguments().mid(1));
     if (const auto* answer = std::get_if<TerminalAnswer>(&project))
         return Tell(*answer);

@@ -217,6 +217,9 @@ TEST(PageLinksBrowserTest, OffersAddressesOutsideToTheAuthor)
     page.Value("document.links[0].href = 'http://v\u0430rlo.example/\u202emth'");
     page.ClickOn("document.links[0]");
     EXPECT_TRUE(WaitFor([&] { return page.Dialogs.Asked.size() == 3; }));
+    page.Value("document.links[0].href = 'http://a..b/'");
+    page.ClickOn("document.links[0]");
+    EXPECT_TRUE(WaitFor([&] { return page.Dialogs.Said.size() == 3; })) << "no address to show";
     page.ClickOn("document.links[4]");
     page.WaitUntil("document.body.className == 'clicked'");
     EXPECT_EQ(page.Value("document.body.firstChild.data").toString(), "here ");
