@@ -25,8 +25,10 @@ void GiveFocusBack(const QDialog& dialog)
     if (owner == nullptr)
         return;
     // Later: the next window may come up directly behind this one.
-    QObject::connect(&dialog, &QDialog::finished, owner,
-                     [owner] { QTimer::singleShot(0, owner, [owner] { ActivateFront(*owner); }); });
+    QObject::connect(
+        &dialog, &QDialog::finished, owner,
+        [owner] { QTimer::singleShot(0, owner, [owner] { ActivateFront(*owner); }); },
+        Qt::SingleShotConnection);
 }
 
 } // namespace orvane

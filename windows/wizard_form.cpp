@@ -26,7 +26,7 @@ EffectKind KindOf(ControlName form)
 WizardForm::WizardForm(ControlName name, Workbench& bench, QWidget* parent)
     : WizardFrame(name, bench, parent),
       m_keepTimer(new QTimer(this)),
-      lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
+      lblTakeUp(AddOffer("lblTakeUp", u"Pick up where you left off"))
 {
     SetEffect(KindOf(name));
     bench.Core.Required = {};

@@ -56,7 +56,7 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
         ++all;
     }
     EXPECT_EQ(all, 50);
-    EXPECT_EQ(std::ranges::count(wanted, "mnuPassword"), 2);
+    EXPECT_EQ(std::ranges::count(wanted, ControlName("mnuPassword")), 2);
     for (const int tab : {0, 1, 2})
         Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
     int buttons = 0;
