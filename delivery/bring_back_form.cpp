@@ -50,7 +50,10 @@ BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
     // A page that is gone may come back as well.
     OfferPaths(
         *recent, [&bench] { return RecentFilesAndGone(bench.Settings, recentPages); },
-        [this](const Text& path) { TakePage(path); });
+        [this](const Text& path) {
+            m_page = path;
+            ShowBackups();
+        });
     cmdRecentPages->setMenu(recent);
     txtPage = new QLineEdit;
     txtPage->setObjectName(QStringLiteral("txtPage"));
@@ -66,14 +69,10 @@ BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
 
 void BringBackForm::BrowseForPage()
 {
-    if (const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest()))
-        TakePage(*path);
-}
-
-void BringBackForm::TakePage(const Text& path)
-{
-    m_page = path;
-    ShowBackups();
+    if (const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest())) {
+        m_page = *path;
+        ShowBackups();
+    }
 }
 
 void BringBackForm::ShowBackups()

@@ -29,7 +29,6 @@ protected:
 
 private:
     void BrowseForPage();
-    void TakePage(const Text& path);
     void ShowBackups();
     KeptPagesPlace Kept() const;
 
