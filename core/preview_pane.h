@@ -4,6 +4,7 @@
 #include "core/text.h"
 
 #include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -12,6 +13,7 @@ struct PanePage
 {
     Text Path;                 ///< where the page file lies while the page is read
     std::string Bytes;         ///< what the file holds
+    std::vector<Text> Files;   ///< names of files beside it; the page can read no others
     Text Note;                 ///< what cannot be seen of the effect, and why; empty when all can
     bool RunsInStatus = false; ///< the effect shows in the status line, outside the page
 };

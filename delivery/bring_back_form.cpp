@@ -1,10 +1,13 @@
 #include "delivery/bring_back_form.h"
 
 #include "delivery/page_requests.h"
-#include "windows/qt_text.h"
+#include "services/recent_files.h"
+#include "windows/plain_tip.h"
+#include "windows/recent_menu.h"
 
 #include <QDateTime>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -42,8 +45,20 @@ BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
     PageBuilder rows = Rows();
     cmdBrowseForPage = rows.Button("cmdBrowseForPage", u"B&rowse for page...");
     connect(cmdBrowseForPage, &QPushButton::clicked, this, &BringBackForm::BrowseForPage);
-    txtPage = rows.TextBoxWithButton("txtPage", u"Web page:", cmdBrowseForPage);
+    auto* cmdRecentPages = rows.Button("cmdRecentPages", u"R&ecent pages");
+    auto* recent = new QMenu(cmdRecentPages);
+    // A page that is gone may come back as well.
+    OfferPaths(
+        *recent, [&bench] { return RecentFilesAndGone(bench.Settings, recentPages); },
+        [this](const Text& path) {
+            m_page = path;
+            ShowBackups();
+        });
+    cmdRecentPages->setMenu(recent);
+    txtPage = new QLineEdit;
+    txtPage->setObjectName(QStringLiteral("txtPage"));
     txtPage->setReadOnly(true);
+    rows.Row(u"Web page:", {txtPage, cmdBrowseForPage, cmdRecentPages});
     lblBackups = rows.Note({}, "lblBackups");
     rows.Fill(lstBackups);
     AddButtons(u"&Bring back");
@@ -75,7 +90,7 @@ void BringBackForm::ShowBackups()
             new QTreeWidgetItem(lstBackups, {DateOf(backup), size, ToQt(difference),
                                              isBeside ? QStringLiteral("beside the page")
                                                       : QStringLiteral("in Orvane's own folder")});
-        row->setToolTip(3, ToQt(backup.Path));
+        row->setToolTip(3, PlainTip(backup.Path));
     }
     TextView words = u"Choose the backup that the page shall hold again.  The page as it is now is "
                      u"kept as a backup first.";

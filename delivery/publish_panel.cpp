@@ -7,7 +7,7 @@
 #include "services/recent_files.h"
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"
-#include "windows/qt_text.h"
+#include "windows/plain_tip.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -130,7 +130,7 @@ void PublishPanel::PageShown()
     StartBesideThePage();
     const Text last = RememberedFolder(m_settings, FolderPurpose::Publishing);
     cmdLastFolder->setVisible(m_desk.Files.FolderExists(last));
-    cmdLastFolder->setToolTip(ToQt(last));
+    cmdLastFolder->setToolTip(PlainTip(last));
     Show(PublishMode::Publish);
 }
 

@@ -6,9 +6,13 @@
 
 #include <QEvent>
 #include <QImage>
+#include <QScrollBar>
+#include <QTextBlock>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
+#include <vector>
 
 namespace orvane {
 
@@ -45,6 +49,7 @@ TopicBrowser::TopicBrowser(const HelpBook& book, const FileStore& files, Text pi
 {
     setOpenLinks(false);
     document()->setDocumentMargin(fontMetrics().averageCharWidth());
+    connect(this, &QTextBrowser::sourceChanged, this, &TopicBrowser::FitPictures);
     FollowPalette();
 }
 
@@ -91,6 +96,37 @@ void TopicBrowser::FollowPalette()
     document()->setDefaultStyleSheet(
         QStringLiteral("a { color: %1 }").arg(LinkColor(palette()).name()));
     reload();
+    FitPictures();
+}
+
+void TopicBrowser::resizeEvent(QResizeEvent* event)
+{
+    QTextBrowser::resizeEvent(event);
+    FitPictures();
+}
+
+void TopicBrowser::FitPictures()
+{
+    // The same with and without a scroll bar, which a smaller picture may take away.
+    const int room = maximumViewportSize().width() - verticalScrollBar()->sizeHint().width() -
+                     2 * static_cast<int>(document()->documentMargin());
+    std::vector<std::pair<int, QTextImageFormat>> pictures;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            if (const auto picture = part.fragment().charFormat().toImageFormat();
+                picture.isValid())
+                pictures.emplace_back(part.fragment().position(), picture);
+    QTextCursor cursor(document());
+    for (auto& [place, picture] : pictures) {
+        const QVariant shown = document()->resource(QTextDocument::ImageResource, picture.name());
+        const int width = std::min(shown.value<QImage>().width(), std::max(room, 1));
+        if (picture.width() == width)
+            continue;
+        picture.setWidth(width);
+        cursor.setPosition(place);
+        cursor.setPosition(place + 1, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(picture);
+    }
 }
 
 } // namespace orvane

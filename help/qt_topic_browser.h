@@ -15,7 +15,8 @@ QUrl TopicUrl(int number);
 int TopicOf(const QUrl& url);
 
 /// Shows the topics of a book by their addresses, with a history to go back and forward. A number
-/// that the book lacks gives a page that says so. A click on a link only emits anchorClicked().
+/// that the book lacks gives a page that says so. A picture is shown no wider than the window has
+/// room. A click on a link only emits anchorClicked().
 class TopicBrowser : public QTextBrowser
 {
     Q_OBJECT
@@ -30,11 +31,13 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QString Page(const HelpTopic* topic) const;
     QVariant Picture(TextView name) const;
     void FollowPalette();
+    void FitPictures();
 
     const HelpBook& m_book;
     const FileStore& m_files;

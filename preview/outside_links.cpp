@@ -25,7 +25,9 @@ void OutsideLinks::Offer(TextView target, bool byAuthor)
     m_hasLed = true;
     m_isAsking = true;
     // A file is never handed on: what the desktop would do with it is not for a page to choose.
-    if (target.starts_with(pathSeparator))
+    if (target.empty())
+        m_dialogs.Say(u"The page leads out of the preview, to an address that is not valid.");
+    else if (target.starts_with(pathSeparator))
         m_dialogs.Say(Join({m_files.FileExists(target)
                                 ? u"The page leads to a file that the preview does not open:"
                                 : u"The page leads to a file that is not there:",

@@ -19,9 +19,10 @@ public:
     void StartPage() { m_hasLed = false; }
 
     /// Asks whether to open the address in the author's own program, and opens it on Yes; of a
-    /// file, the author is only told its path. `byAuthor` says that the author clicked or typed
-    /// before: otherwise only the first address of a page is offered, so that a script cannot ask
-    /// again and again. Ignored while a question is open.
+    /// file, the author is only told its path, and of an empty address that it is not valid.
+    /// `byAuthor` says that the author clicked or typed before: otherwise only the first address of
+    /// a page is offered, so that a script cannot ask again and again. Ignored while a question is
+    /// open.
     void Offer(TextView target, bool byAuthor);
 
 private:

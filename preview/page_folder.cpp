@@ -1,7 +1,10 @@
 #include "preview/page_folder.h"
 
+#include "core/file_names.h"
+
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 namespace orvane {
 
@@ -17,19 +20,18 @@ std::filesystem::path Resolved(const std::filesystem::path& path)
 
 } // namespace
 
-PageFolder::PageFolder(TextView pagePath)
-    : m_folder(Resolved(std::filesystem::path(ToUtf8(pagePath)).parent_path()))
+PageFolder::PageFolder(TextView pagePath, std::vector<Text> files)
+    : m_folder(Resolved(std::filesystem::path(ToUtf8(pagePath)).parent_path())),
+      m_files(std::move(files))
 {
+    m_files.emplace_back(GetFileName(pagePath));
 }
 
 bool PageFolder::Holds(TextView path) const
 {
     const std::filesystem::path resolved = Resolved(ToUtf8(path));
-    if (m_folder.empty() || resolved.empty())
-        return false;
-    const auto [rest, below] =
-        std::mismatch(m_folder.begin(), m_folder.end(), resolved.begin(), resolved.end());
-    return rest == m_folder.end() && below != resolved.end();
+    return !m_folder.empty() && resolved.parent_path() == m_folder &&
+           std::ranges::find(m_files, FromUtf8(resolved.filename().string())) != m_files.end();
 }
 
 } // namespace orvane

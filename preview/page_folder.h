@@ -3,24 +3,28 @@
 #include "core/text.h"
 
 #include <filesystem>
+#include <vector>
 
 namespace orvane {
 
-/// The folder from which, with its sub-folders, a previewed page may read files.
+/// The folder of a previewed page, and which of its files the page may read. More lies there than
+/// belongs to the page: the settings, drafts and passwords of the author, for one.
 class PageFolder
 {
 public:
     /// No folder: nothing lies in it.
     PageFolder() = default;
 
-    /// The folder of the page file, with its links resolved.
-    explicit PageFolder(TextView pagePath);
+    /// The folder of the page file, with its links resolved. The page may read itself and the files
+    /// with these names.
+    PageFolder(TextView pagePath, std::vector<Text> files);
 
-    /// Whether the file exists and, with all links resolved, lies below the folder.
+    /// Whether the file exists and, with all links resolved, is one that the page may read.
     bool Holds(TextView path) const;
 
 private:
     std::filesystem::path m_folder;
+    std::vector<Text> m_files;
 };
 
 } // namespace orvane

@@ -6,7 +6,10 @@
 #include "insertion/page_encoding.h"
 #include "insertion/page_script.h"
 #include "preview/preview_note.h"
+#include "preview/readable_files.h"
+#include "services/preferences.h"
 
+#include <tuple>
 #include <utility>
 
 namespace orvane {
@@ -64,6 +67,12 @@ bool IsKnown(const Text& browser)
     return !browser.empty() && browser != u"c:\\";
 }
 
+/// Whether this is the path of a browser, and not the words that the preferences store for none.
+bool IsProgram(const Text& browser)
+{
+    return IsKnown(browser) && browser != defaultBrowser;
+}
+
 /// The platform's browser command without what follows the program's name, and without quotes.
 Text BrowserProgram(TextView command)
 {
@@ -103,8 +112,14 @@ bool ShowInBrowser(Workbench& bench)
 {
     const Text browser = FindBrowser(bench);
     const Text page = PreviewPagePath(bench.Core);
-    if (bench.Settings.Get(u"Apps", u"Override", u"0") == u"0") {
+    const bool isOverridden = bench.Settings.Get(u"Apps", u"Override", u"0") != u"0";
+    const bool hasDefault = !isOverridden && bench.Shell.DefaultBrowser().has_value();
+    // A desktop without a browser opens nothing: there the one that the author chose is started.
+    if (!isOverridden && (hasDefault || !IsProgram(browser))) {
         bench.Shell.OpenWithShell(page);
+        if (!hasDefault)
+            bench.Dialogs.Say(u"If no Web browser opens now, choose one in the main window under "
+                              u"Edit, Preferences: tick \"Override default\" and browse for it.");
         return false;
     }
     return !bench.Shell.Start(browser, page) &&
@@ -126,6 +141,7 @@ Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mod
         return bench.Pane.Navigate(
             {.Path = path,
              .Bytes = std::move(bytes),
+             .Files = ReadableFiles(payload, bench.Files, bench.Core.ProgramFolder),
              .Note = PreviewNote(payload, bench.Files, bench.Core.ProgramFolder),
              .RunsInStatus = RunsInStatus(payload)});
     bench.Pane.LeaveFile();
@@ -150,6 +166,12 @@ Text PreviewPageText(const FinishedPayload& payload, PreviewMode mode)
 Text PreviewPagePath(const OrvaneCore& core)
 {
     return PathIn(core.ProgramFolder, u"ov-prvw.htm");
+}
+
+void RemovePreviewPages(FileStore& files, const OrvaneCore& core)
+{
+    for (const Text& page : {PreviewPagePath(core), PathIn(core.ProgramFolder, panePageName)})
+        std::ignore = files.Remove(page);
 }
 
 bool LinkToBrowser(Workbench& bench, const FinishedPayload& payload, PreviewMode mode)

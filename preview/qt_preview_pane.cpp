@@ -1,6 +1,7 @@
 #include "preview/qt_preview_pane.h"
 
 #include "core/file_names.h"
+#include "preview/preview_page.h"
 #include "preview/qt_status_line.h"
 #include "preview/qt_web_view_module.h"
 #include "windows/controls.h"
@@ -21,12 +22,9 @@ namespace {
 constexpr TextView instead =
     u"\r\n\r\nYou can preview the special effect in your own Web browser instead.";
 
-/// The name of the page file while a browser has the other; it lies beside that.
-constexpr TextView ownPageName = u"ov-pane.htm";
-
 Text OwnPath(TextView path)
 {
-    return PathIn(FolderOf(path), ownPageName);
+    return PathIn(FolderOf(path), panePageName);
 }
 
 } // namespace
@@ -143,7 +141,7 @@ void QtPreviewPane::ShowPage()
         return ShowNote(Join({*refusal, instead}), false);
     }
     m_stack->setCurrentWidget(m_viewPage);
-    m_view->ShowPage(m_page.Path);
+    m_view->ShowPage(m_page.Path, m_page.Files);
 }
 
 /// Loads the module and makes its view, once; what stands against it otherwise.

@@ -23,10 +23,11 @@ namespace {
 constexpr const char* flagsVariable = "QTWEBENGINE_CHROMIUM_FLAGS";
 
 /// Cuts the engine off from every network, whatever a page finds to call with: a proxy that nobody
-/// runs, no traffic past it, and no name that is looked up.
+/// runs, no traffic past it, no name that is looked up, and no group joined to make up names.
 constexpr const char* engineFlags =
     " --proxy-server=socks5://127.0.0.1:9 --proxy-bypass-list=<-loopback>"
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp"
+    " --disable-features=WebRtcHideLocalIpsWithMdns"
     " --host-resolver-rules=\"MAP * ~NOTFOUND\"";
 
 /// The preview's own script, first in every document. It gives window.status back its voice, which
@@ -77,13 +78,13 @@ public:
         delete m_page;
     }
 
-    void ShowPage(TextView path) override
+    void ShowPage(TextView path, const std::vector<Text>& files) override
     {
-        Turn([this, path = Text(path)] {
+        Turn([this, path = Text(path), files] {
             if (!m_isSpare)
                 MakePage();
             m_isSpare = false;
-            m_guard.SetFolder(PageFolder(path));
+            m_guard.SetFolder(PageFolder(path, files));
             m_context.Page = QUrl::fromLocalFile(ToQt(path));
             m_page->load(m_context.Page);
         });
@@ -106,6 +107,7 @@ public:
 
 private:
     void SetUpProfile();
+    void SetFonts(QWebEngineSettings& settings);
     void MakePage();
     void EndPage(PageEnd end);
     void Turn(std::function<void()> toNext);
@@ -137,6 +139,7 @@ void EngineView::SetUpProfile()
     settings.setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
     // Not to follow them: otherwise the page is not asked, and cannot offer a mail address.
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::AllowAllUnknownUrlSchemes);
+    SetFonts(settings);
 
     QWebEngineScript script;
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
@@ -144,6 +147,21 @@ void EngineView::SetUpProfile()
     script.setRunsOnSubFrames(true);
     script.setSourceCode(PreviewScript(m_context.Token));
     m_profile.scripts()->insert(script);
+}
+
+/// The families of the browser that the engine comes from. The toolkit's own make words look unlike
+/// those in a browser of the same machine wherever a page names no font, or one that is missing.
+void EngineView::SetFonts(QWebEngineSettings& settings)
+{
+    constexpr std::pair<QWebEngineSettings::FontFamily, const char*> families[] = {
+        {QWebEngineSettings::StandardFont, "Times New Roman"},
+        {QWebEngineSettings::SerifFont, "Times New Roman"},
+        {QWebEngineSettings::SansSerifFont, "Arial"},
+        {QWebEngineSettings::FixedFont, "Monospace"},
+        {QWebEngineSettings::CursiveFont, "Comic Sans MS"},
+        {QWebEngineSettings::FantasyFont, "Impact"}};
+    for (const auto& [family, name] : families)
+        settings.setFontFamily(family, QLatin1String(name));
 }
 
 void EngineView::MakePage()

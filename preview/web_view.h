@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 namespace orvane {
 
@@ -36,24 +37,25 @@ public:
     /// The page wrote this into its status line; empty when a page begins.
     virtual void StatusWritten(TextView status) = 0;
 
-    /// The page wants to go to an address or a file (then `target` is its path) outside of the
-    /// preview. `byAuthor`: the author has clicked or typed in the page since the last such call.
+    /// The page wants to go to an address, which is given encoded and is empty when it is not
+    /// valid, or to a file (then `target` is its path) outside of the preview. `byAuthor`: the
+    /// author has clicked or typed in the page since the last such call.
     virtual void OutsideWanted(TextView target, bool byAuthor) = 0;
 
     /// The page no longer runs, and the view is empty.
     virtual void PageEnded(PageEnd end) = 0;
 };
 
-/// The embedded browser. It loads files in the folder of the page and its sub-folders, and nothing
-/// from any network.
+/// The embedded browser. It loads the page file and files beside it that it is given, and nothing
+/// else from the disk or from any network.
 class WebView : public QWidget
 {
 public:
     using QWidget::QWidget;
 
-    /// Shows the page file. The page shown before is unloaded, and the windows that it opened
-    /// close.
-    virtual void ShowPage(TextView path) = 0;
+    /// Shows the page file, which may read the files with these names in its folder. The page shown
+    /// before is unloaded, and the windows that it opened close.
+    virtual void ShowPage(TextView path, const std::vector<Text>& files) = 0;
 
     /// Unloads the page, with its sounds and windows.
     virtual void Clear() = 0;

@@ -141,7 +141,9 @@ void PreviewWebPage::OfferOutside(const QUrl& url)
     // The engine waits for this decision; the author is asked once it has it, and the page may be
     // gone by then.
     QTimer::singleShot(0, &m_context.Guard, [&context = m_context, url] {
-        const QString target = url.isLocalFile() ? url.toLocalFile() : url.toString();
+        // Encoded, so that no sign in it can make it look like another.
+        const QString target =
+            url.isLocalFile() ? url.toLocalFile() : url.toString(QUrl::FullyEncoded);
         context.Owner.OutsideWanted(FromQt(target), std::exchange(context.AuthorActed, false));
     });
 }

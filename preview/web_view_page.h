@@ -16,14 +16,14 @@
 
 namespace orvane {
 
-/// Lets the engine load files in one folder and its sub-folders, and addresses that carry their
-/// content themselves ("data:", "blob:"); blocks all other requests.
+/// Lets the engine load what a PageFolder holds, and addresses that carry their content themselves
+/// ("data:", "blob:"); blocks all other requests.
 class FolderGuard : public QWebEngineUrlRequestInterceptor
 {
 public:
     using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
 
-    /// Sets the folder of the page that is shown from now on.
+    /// Sets what the page that is shown from now on may read.
     void SetFolder(const PageFolder& folder) { m_folder = folder; }
     /// Whether a page may load this address.
     bool LetsThrough(const QUrl& url) const;

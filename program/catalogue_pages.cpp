@@ -5,6 +5,8 @@
 #include "windows/controls.h"
 #include "windows/page_area.h"
 
+#include <QTimer>
+
 #include <algorithm>
 
 namespace orvane {
@@ -15,7 +17,7 @@ constexpr int favoritesTab = 3;
 constexpr int resultsPage = 4;
 
 constexpr SectionWords resultWords{
-    u"", u"No effect answers to these words. Try fewer or other ones, or press Escape to see all "
+    u"", u"No effect matches these words. Try fewer or other ones, or press Escape to see all "
          u"effects again."};
 
 EffectRows EffectsOn(CataloguePage page)
@@ -39,12 +41,30 @@ CataloguePages::CataloguePages(const std::function<ButtonMaker(ControlName group
         m_kinds.push_back(new EffectSection({}, makerFor("cmdSpecialFX")));
         m_kinds.back()->setObjectName(MemberName("Picture1", tab));
     }
-    // The others would ask for as much room.
+    AddSecondButtons(makerFor("cmdSpecialFX"));
+    // The others would ask for as much room, and the first window waits for none of them.
     FillKind(0);
+    QTimer::singleShot(0, this, [this] {
+        for (int tab = 1; tab < favoritesTab; ++tab)
+            FillKind(tab);
+    });
     for (EffectSection* kind : m_kinds)
         addWidget(new PageArea(kind));
     addWidget(new PageArea(m_favorites));
     addWidget(new PageArea(m_results));
+}
+
+/// The buttons of effects that another button opens as well have their place in the group, but are
+/// not shown a second time.
+void CataloguePages::AddSecondButtons(const ButtonMaker& make)
+{
+    for (const CatalogueRow& row : Catalogue())
+        if (!row.HasButton) {
+            EffectButton* button = make(row);
+            button->setParent(
+                m_kinds[static_cast<std::size_t>(FindCommand(row.MenuCommand)->Page)]);
+            button->hide();
+        }
 }
 
 void CataloguePages::FillKind(int tab)

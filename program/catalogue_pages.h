@@ -13,8 +13,8 @@ namespace orvane {
 class FavoritesPage;
 
 /// The pages of the catalogue: one for each kind of effects, one of the author's favorites and one
-/// of the effects that a search found. Each page gets its buttons, and they their pictures, when it
-/// is shown for the first time.
+/// of the effects that a search found. The buttons of the other kinds come right behind the first
+/// show, and each gets its picture when its page is shown for the first time.
 class CataloguePages : public QStackedWidget
 {
 public:
@@ -46,6 +46,7 @@ public:
     std::vector<QWidget*> Pages() const;
 
 private:
+    void AddSecondButtons(const ButtonMaker& make);
     void FillKind(int tab);
 
     const Settings& m_settings;

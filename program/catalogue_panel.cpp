@@ -63,7 +63,7 @@ void CataloguePanel::AddKeys()
 ButtonMaker CataloguePanel::MakerFor(ControlName group)
 {
     return [this, group](const CatalogueRow& row) {
-        auto* button = new EffectButton(row, m_isBuilt(row.Kind),
+        auto* button = new EffectButton(row, m_isBuilt(FindCommand(row.MenuCommand)->Kind),
                                         MemberName(group, static_cast<int>(row.Kind)));
         button->installEventFilter(this);
         connect(button, &EffectButton::EffectWanted, this, &CataloguePanel::EffectWanted);

@@ -14,6 +14,7 @@
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
 #include "services/chosen_effects.h"
+#include "windows/focus_back.h"
 #include "windows/picked_files.h"
 
 #include <QCoreApplication>
@@ -76,7 +77,7 @@ void FormDesk::OpenEffect(const EffectCommand& command)
 void FormDesk::OpenProject(TextView path)
 {
     if (!m_bench.Files.FileExists(path))
-        return m_bench.Dialogs.Say(Join({u"Orvane finds no file ", path, u"."}));
+        return m_bench.Dialogs.Say(Join({u"Orvane cannot find the file ", path, u"."}));
     RememberEffect(m_bench.Settings, EffectKind::AdvancedAnimator);
     AdvancedAnimatorForm animator(m_bench, m_mainForm.get());
     animator.ShowProject(path);
@@ -142,6 +143,7 @@ std::optional<Text> FormDesk::ShowBringBack(TextView page, QWidget* parent)
 
 void FormDesk::ShowModally(QDialog& window)
 {
+    GiveFocusBack(window);
     window.exec();
 }
 

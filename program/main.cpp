@@ -3,6 +3,7 @@
 #include "disk/settings_file.h"
 #include "disk/system_calls.h"
 #include "help/help_form.h"
+#include "preview/preview_page.h"
 #include "preview/qt_preview_pane.h"
 #include "program/command_line.h"
 #include "program/form_desk.h"
@@ -85,6 +86,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setDesktopFileName(ToQt(desktopId));
     QApplication::setQuitOnLastWindowClosed(false);
+    EndOrderlyOnSignals(application);
     const auto project = ProjectOf(QApplication::arguments().mid(1));
     if (const auto* answer = std::get_if<TerminalAnswer>(&project))
         return Tell(*answer);
@@ -121,6 +123,7 @@ int main(int argc, char** argv)
     // Behind the first paint of the window: the icon alone loads a library.
     QTimer::singleShot(0, &desk, [&] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
+        RemovePreviewPages(files, core);
         InstallResources(files, dialogs, folders->Program);
         if (const Text& path = std::get<Text>(project); !path.empty())
             desk.OpenProject(path);

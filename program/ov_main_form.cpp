@@ -37,6 +37,8 @@ void OVMainForm::AddMenus()
         return command;
     };
     QMenu* file = AddMenu(*menuBar(), "mnuFile", u"&File");
+    add(file, "mnuBringBack", u"&Bring back a page...", &OVMainForm::BringBackWanted);
+    file->addSeparator();
     add(file, "mnuFileExit", u"E&xit", &QWidget::close)->setShortcut(Qt::CTRL | Qt::Key_Q);
 
     QMenu* edit = AddMenu(*menuBar(), "mnuEdit", u"&Edit");
@@ -53,7 +55,6 @@ void OVMainForm::AddMenus()
     QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
     add(help, "mnuHelpContents", u"&Contents...",
         [this] { m_bench.Help.ShowTopic(help_topics::contents); });
-    add(help, "mnuBringBack", u"&Bring back a page...", &OVMainForm::BringBackWanted);
     add(help, "mnuCheckForUpdate", u"Chec&k for update...", &OVMainForm::CheckForUpdate);
     help->addSeparator();
     add(help, "mnuHelpAbout", u"&About...", &OVMainForm::AboutWanted);

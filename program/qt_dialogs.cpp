@@ -4,6 +4,7 @@
 #include "program/words_box.h"
 #include "services/folder_memory.h"
 #include "windows/controls.h"
+#include "windows/focus_back.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
@@ -27,6 +28,8 @@ namespace {
 QWidget* WindowInFront()
 {
     QWidget* window = QApplication::activeWindow();
+    if (window == nullptr)
+        window = QApplication::activeModalWidget();
     while (window != nullptr && window->testAttribute(Qt::WA_DeleteOnClose))
         window = window->parentWidget() == nullptr ? nullptr : window->parentWidget()->window();
     return window;
@@ -39,6 +42,7 @@ bool Run(QDialog& dialog)
     std::vector<QCursor> waiting;
     for (; QApplication::overrideCursor() != nullptr; QApplication::restoreOverrideCursor())
         waiting.push_back(*QApplication::overrideCursor());
+    GiveFocusBack(dialog);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     for (; !waiting.empty(); waiting.pop_back())
         QApplication::setOverrideCursor(waiting.back());

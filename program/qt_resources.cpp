@@ -15,7 +15,8 @@ namespace {
 Done InstallFolder(FileStore& files, const QString& resources, const QString& masks,
                    TextView folder)
 {
-    const Done made = MakeFolders(files, folder);
+    // Previews and passwords lie there as well.
+    const Done made = MakeFolders(files, folder, Access::OwnerAlone);
     if (FaultIn(made))
         return made;
     for (QDirIterator entry(resources, {masks}, QDir::Files); entry.hasNext();) {

@@ -8,8 +8,9 @@ constexpr TextView section = u"Recent";
 constexpr char16_t between = u'\n';
 constexpr std::size_t limit = 10;
 
-/// All that are stored, gone ones too.
-std::vector<Text> Stored(const Settings& settings, TextView kind)
+} // namespace
+
+std::vector<Text> RecentFilesAndGone(const Settings& settings, TextView kind)
 {
     const Text list = settings.Get(section, kind, u"");
     std::vector<Text> paths;
@@ -21,11 +22,9 @@ std::vector<Text> Stored(const Settings& settings, TextView kind)
     return paths;
 }
 
-} // namespace
-
 std::vector<Text> RecentFiles(const Settings& settings, const FileStore& files, TextView kind)
 {
-    std::vector<Text> paths = Stored(settings, kind);
+    std::vector<Text> paths = RecentFilesAndGone(settings, kind);
     std::erase_if(paths, [&](const Text& path) { return !files.FileExists(path); });
     return paths;
 }
@@ -35,7 +34,7 @@ void PutRecentFile(Settings& settings, TextView kind, TextView path)
     // The list has no sign for such a path.
     if (path.find(between) != TextView::npos)
         return;
-    std::vector<Text> paths = Stored(settings, kind);
+    std::vector<Text> paths = RecentFilesAndGone(settings, kind);
     std::erase(paths, path);
     Text list(path);
     for (std::size_t i = 0; i < paths.size() && i + 1 < limit; ++i)

@@ -1,5 +1,6 @@
 #include "windows/ok_cancel_form.h"
 
+#include "windows/focus_back.h"
 #include "windows/qt_text.h"
 #include "windows/remember_place.h"
 
@@ -42,6 +43,7 @@ void OkCancelForm::Begin(std::function<void()> then)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     connect(this, &QDialog::accepted, this, std::move(then));
+    GiveFocusBack(*this);
     open();
 }
 

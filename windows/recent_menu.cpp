@@ -25,13 +25,12 @@ QString WordsFor(const QMenu& menu, int number, const Text& path)
 
 } // namespace
 
-void OfferRecentFiles(QMenu& menu, TextView kind, const Workbench& bench,
-                      std::function<void(const Text& path)> take)
+void OfferPaths(QMenu& menu, PathLister list, std::function<void(const Text& path)> take)
 {
-    const auto fill = [&menu, kind, &bench, take = std::move(take)] {
+    const auto fill = [&menu, list = std::move(list), take = std::move(take)] {
         menu.clear();
         int number = 0;
-        for (const Text& path : RecentFiles(bench.Settings, bench.Files, kind)) {
+        for (const Text& path : list()) {
             QAction* entry = menu.addAction(WordsFor(menu, ++number, path));
             QObject::connect(entry, &QAction::triggered, &menu, [take, path] { take(path); });
         }
@@ -39,6 +38,14 @@ void OfferRecentFiles(QMenu& menu, TextView kind, const Workbench& bench,
             menu.addAction(QStringLiteral("(None)"))->setEnabled(false);
     };
     QObject::connect(&menu, &QMenu::aboutToShow, &menu, fill);
+}
+
+void OfferRecentFiles(QMenu& menu, TextView kind, const Workbench& bench,
+                      std::function<void(const Text& path)> take)
+{
+    OfferPaths(
+        menu, [kind, &bench] { return RecentFiles(bench.Settings, bench.Files, kind); },
+        std::move(take));
 }
 
 } // namespace orvane

@@ -8,7 +8,6 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, EffectKind kind)
     : EffectForm("frmGoogle", bench, parent, kind)
 {
     const SearchModeWords words = WordsOfMode(Fresh().Mode);
-    // The cursor waits behind the "http://", which stays unselected.
     PageBuilder page = AddPage({words.Heading, words.SubHeading,
                                 kind == EffectKind::SearchBox ? ControlName() : "txtTranslateURL"});
     page.HiddenText("Mode");
@@ -21,10 +20,17 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, EffectKind kind)
     txtURL = search.TextBox("txtURL", u"Web site:", {}, u"e.g., mysite.com");
     PageBuilder translate = page.Frame(u"Translation settings", "frameTranslate");
     frameTranslate = translate.Page();
-    translate.TextBox("txtTranslateURL", u"Web page:");
+    txtTranslateURL = translate.TextBox("txtTranslateURL", u"Web page:");
     translate.Note(Join({u"e.g., ", translateSample}));
     page.Fill();
     AddButtons(Buttons::OnePage);
+}
+
+void SearchBoxForm::setVisible(bool isVisible)
+{
+    EffectForm::setVisible(isVisible);
+    // A dialog selects what its first field holds; here the cursor waits behind the "http://".
+    txtTranslateURL->end(false);
 }
 
 void SearchBoxForm::UpdateForm()

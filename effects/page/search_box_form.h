@@ -15,6 +15,8 @@ public:
     explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr,
                            EffectKind kind = EffectKind::SearchBox);
 
+    void setVisible(bool isVisible) override;
+
 protected:
     void UpdateForm() override;
 
@@ -22,6 +24,7 @@ private:
     QWidget* frameSearch;
     QLineEdit* txtURL;
     QWidget* frameTranslate;
+    QLineEdit* txtTranslateURL;
 };
 
 } // namespace orvane

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
@@ -60,13 +61,15 @@ struct PictureCase
 class PageFilesBrowserTest : public ::testing::TestWithParam<PictureCase>
 {
 };
-TEST_P(PageFilesBrowserTest, ReadsOnlyWhatLiesBelowItsFolder)
+TEST_P(PageFilesBrowserTest, ReadsOnlyWhatItIsGiven)
 {
     BrowserPage outside;
     BrowserPage page;
     outside.AddFile("there.gif", picture);
     page.AddFile("with blank#%.gif", picture);
-    std::filesystem::create_symlink(outside.Path("there.gif"), page.Path("link.gif"));
+    std::filesystem::create_directory(page.Path("state"));
+    for (const char* file : {"earlier.gif", "state/kept.gif"})
+        std::ofstream(page.Path(file)) << picture;
 
     const Text source =
         ReplaceAll(FromUtf8(GetParam().Source), u"OUTSIDE", FromUtf8(outside.Path("")));
@@ -84,7 +87,8 @@ INSTANTIATE_TEST_SUITE_P(
                                   "ywAAAAAAQABAAACAkQBADs=",
                                   true},
                       PictureCase{"Outside", "file://OUTSIDE/there.gif", false},
-                      PictureCase{"LinkOut", "link.gif", false}),
+                      PictureCase{"OfAnotherEffect", "earlier.gif", false},
+                      PictureCase{"BelowItsFolder", "state/kept.gif", false}),
     [](const auto& test) { return test.param.Name; });
 
 /// A port of this machine that answers nobody and notices who calls, by TCP or UDP.
@@ -125,6 +129,18 @@ private:
     int m_datagrams = socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK, 0);
 };
 
+/// How many sockets of this machine have joined the group in which names of computers are asked
+/// for.
+int MembersOfNameGroup()
+{
+    int members = 0;
+    std::ifstream groups("/proc/net/igmp");
+    for (std::string group; groups >> group;)
+        if (int users = 0; group == "FB0000E0" && groups >> users)
+            members += users;
+    return members;
+}
+
 class PageNetworkBrowserTest : public ::testing::TestWithParam<const char*>
 {
 };
@@ -132,10 +148,12 @@ TEST_P(PageNetworkBrowserTest, CallsNobody)
 {
     const ListeningServer server;
     BrowserPage page;
+    const int members = MembersOfNameGroup();
     const Text body = ReplaceAll(FromUtf8(GetParam()), u"SERVER", FromUtf8(server.Address));
     page.Load("<script>const over = () => status = 'over'; setTimeout(over, 1000);</script>" +
               ToUtf8(body));
     EXPECT_TRUE(WaitFor([&] { return page.Status() == u"over"; }));
+    EXPECT_EQ(MembersOfNameGroup(), members);
     EXPECT_FALSE(server.WasCalled());
 }
 INSTANTIATE_TEST_SUITE_P(
@@ -158,7 +176,7 @@ INSTANTIATE_TEST_SUITE_P(
         "<script>document.forms[0].submit();</script>"));
 
 constexpr TextView webQuestion = u"The page leads out of the preview, to:\r\n\r\n"
-                                 u"http://www.varlo.example/a b\r\n\r\n"
+                                 u"http://www.varlo.example/a%20b\r\n\r\n"
                                  u"Do you want to open it in your Web browser?";
 
 TEST(PageLinksBrowserTest, OffersAddressesOutsideToTheAuthor)
@@ -192,11 +210,21 @@ TEST(PageLinksBrowserTest, OffersAddressesOutsideToTheAuthor)
     ASSERT_TRUE(WaitFor([&] { return page.Dialogs.Said.size() == 2; }));
     EXPECT_EQ(page.Dialogs.Said[1], Join({u"The page leads to a file that is not there:\r\n\r\n",
                                           FromUtf8(page.Path("missing.html"))}));
+    page.Dialogs.ExpectAsk(u"The page leads out of the preview, to:\r\n\r\n"
+                           u"http://xn--vrlo-53d.example/%E2%80%AEmth\r\n\r\n"
+                           u"Do you want to open it in your Web browser?",
+                           false);
+    page.Value("document.links[0].href = 'http://v\u0430rlo.example/\u202emth'");
+    page.ClickOn("document.links[0]");
+    EXPECT_TRUE(WaitFor([&] { return page.Dialogs.Asked.size() == 3; }));
+    page.Value("document.links[0].href = 'http://a..b/'");
+    page.ClickOn("document.links[0]");
+    EXPECT_TRUE(WaitFor([&] { return page.Dialogs.Said.size() == 3; })) << "no address to show";
     page.ClickOn("document.links[4]");
     page.WaitUntil("document.body.className == 'clicked'");
     EXPECT_EQ(page.Value("document.body.firstChild.data").toString(), "here ");
     EXPECT_EQ(page.Shell.Opened,
-              (Texts{u"http://www.varlo.example/a b", u"mailto:ann@varlo.example"}));
+              (Texts{u"http://www.varlo.example/a%20b", u"mailto:ann@varlo.example"}));
 }
 
 TEST(PageLinksBrowserTest, AScriptThatLeadsAwayAgainAndAgainAsksOnce)

@@ -113,6 +113,22 @@ TEST(PreviewPaneBrowserTest, EmptiesTheStatusForTheNextPage)
     EXPECT_EQ(page.Status(), u"");
 }
 
+TEST(PreviewPaneBrowserTest, FontsAreThoseOfABrowser)
+{
+    BrowserPage page;
+    page.Load("<style>span { font: 40px none; }</style>"
+              "<span>The quick brown fox</span><br>"
+              "<span style='font-family: Times New Roman'>The quick brown fox</span><br>"
+              "<span style='font-family: sans-serif'>The quick brown fox</span><br>"
+              "<span style='font-family: Arial'>The quick brown fox</span>");
+    const QVariantList widths =
+        page.Value("[...document.querySelectorAll('span')].map(words => words.offsetWidth)")
+            .toList();
+    ASSERT_EQ(widths.size(), 4);
+    EXPECT_EQ(widths[0].toInt(), widths[1].toInt());
+    EXPECT_EQ(widths[2].toInt(), widths[3].toInt());
+}
+
 TEST(PreviewPaneBrowserTest, ACrashedPageCanBeTriedAgain)
 {
     BrowserPage page;

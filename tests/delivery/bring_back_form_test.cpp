@@ -1,8 +1,11 @@
 #include "delivery/bring_back_form.h"
 
+#include "services/recent_files.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -23,6 +26,11 @@ TEST(BringBackFormTest, ComparesTheBackupsOfAPageAndBringsBackTheChosenOne)
     EXPECT_EQ(form.focusWidget()->objectName(), QStringLiteral("cmdBrowseForPage"));
     Click(form, "cmdOK");
     EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u) << "a page is wanted first";
+    PutRecentFile(desk.Settings, recentPages, u"/site/gone.html");
+    auto* recent = Find<QPushButton>(form, "cmdRecentPages")->menu();
+    emit recent->aboutToShow();
+    recent->actions().at(0)->trigger();
+    EXPECT_EQ(WordsOf(form, "txtPage"), u"/site/gone.html") << "a page that was deleted, too";
     desk.Dialogs.AnswerOpenFile(u"/site/a.html");
     Click(form, "cmdBrowseForPage");
     auto* list = Find<QTreeWidget>(form, "lstBackups");

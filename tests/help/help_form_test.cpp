@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextDocument>
 #include <QWindow>
@@ -188,10 +189,17 @@ TEST_F(HelpFormTest, TopicsShowTheirPictures)
     QFile picture(QLatin1String(":/help/road.svg"));
     ASSERT_TRUE(picture.open(QIODevice::ReadOnly));
     m_files.Contents[u"/program/help/road.svg"] = picture.readAll().toStdString();
+    m_files.Contents[u"/program/orvane.hlp"] = "=== 0 Contents\n<p><img src=\"road.svg\"></p>";
     m_form.ShowTopic(0);
     const auto* document = Find<TopicBrowser>(m_form, "txtTopic")->document();
     const QVariant shown = document->resource(QTextDocument::ImageResource, QUrl("road.svg"));
     EXPECT_FALSE(shown.value<QImage>().isNull());
+    for (const int width : {900, 320, 900}) {
+        m_form.resize(width, 300);
+        LetRun();
+        EXPECT_EQ(Find<TopicBrowser>(m_form, "txtTopic")->horizontalScrollBar()->maximum(), 0)
+            << width;
+    }
 }
 
 TEST(DeliveredHelpFormTest, HasATopicForEveryWizardAndPromisesToReEditWhatOneTakesBack)

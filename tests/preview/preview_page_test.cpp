@@ -78,15 +78,30 @@ TEST_F(BrowserLaunchTest, CutsTheCommandBehindExeAndDropsItsQuotes)
               (std::vector<std::pair<Text, Text>>{{u"c:\\web\\b.exe", m_page}}));
 }
 
-TEST_F(BrowserLaunchTest, AsksForABrowserWhenTheDesktopTellsNone)
+TEST_F(BrowserLaunchTest, StartsTheBrowserThatWasChosenWhereTheDesktopTellsNone)
 {
-    m_desk.Dialogs.AnswerOpenFile(u"/opt/b");
+    m_desk.Dialogs.AnswerOpenFile({});
     EXPECT_FALSE(Launch());
-    EXPECT_EQ(m_desk.Dialogs.Said, Texts{u"Browser statement not found in Windows Registry.\r\n"
-                                         u"Select the file/path of the browser you wish to use."});
     EXPECT_EQ(m_desk.Dialogs.Requests.at(0).Title, u"Select Browser...");
     EXPECT_EQ(m_desk.Dialogs.Requests.at(0).FilterIndex, 2);
-    EXPECT_EQ(StoredBrowser(), u"/opt/b");
+    const Texts words = m_desk.Dialogs.TakeSaid();
+    ASSERT_EQ(words.size(), 2u) << "the way to one is shown";
+    EXPECT_EQ(words[0], u"Browser statement not found in Windows Registry.\r\n"
+                        u"Select the file/path of the browser you wish to use.");
+    EXPECT_TRUE(words[1].starts_with(u"If no Web browser opens now, choose one"));
+
+    m_desk.Dialogs.AnswerOpenFile(u"/opt/b");
+    for (const std::size_t starts : {1u, 2u}) {
+        EXPECT_FALSE(Launch());
+        EXPECT_EQ(m_desk.Shell.Started.size(), starts);
+    }
+    EXPECT_EQ(m_desk.Shell.Started[1], std::pair(Text(u"/opt/b"), m_page));
+    EXPECT_EQ(m_desk.Shell.Opened, Texts{m_page}) << "before one was chosen";
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{words[0]});
+
+    m_desk.Settings.Put(u"Apps", u"Browser", u"default browser", u"Orvane");
+    EXPECT_FALSE(Launch());
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{words[1]});
 }
 
 TEST_F(BrowserLaunchTest, FailedStartOffersThePreferences)
@@ -114,6 +129,28 @@ TEST_F(BrowserLaunchTest, SaysWhyThePreviewPageCannotBeWritten)
               (Texts{u"Disk full", u"There is no code in the preview window.  Cannot "
                                    u"preview the special effect."}));
     EXPECT_TRUE(m_desk.Shell.Opened.empty());
+}
+
+TEST(ReadableFilesTest, AreTheOnesThatTheEffectNeedsOrNames)
+{
+    FakeDesk desk;
+    for (const TextView name :
+         {u"orvane.js", u"A.class", u"B.class", u"x.gif", u"max.gif", u"y.gif", u"z.gif",
+          u"needed b.gif", u"password.cgi", u"settings/orvane.ini"})
+        desk.Files.Contents[Join({u"/program/", name})] = "";
+    FinishedPayload payload = PlainPayload(24);
+    payload.Effect.Required.Names = {u"needed b.gif", u"password.cgi"};
+    payload.Effect.SupportFiles[0] = u"A.class";
+    payload.Effect.BODYHTML =
+        u"<img src=max.gif><a href='password.cgi'>a/y.gif</a>|z.gif|settings/";
+    std::ignore = LinkToBrowser(desk.Bench, payload, PreviewMode::Inline);
+    EXPECT_EQ(desk.Pane.Pages.at(0).Files,
+              (Texts{u"A.class", u"max.gif", u"needed b.gif", u"orvane.js", u"z.gif"}));
+
+    for (const TextView page : {u"/program/ov-prvw.htm", u"/program/ov-pane.htm"})
+        desk.Files.Contents[Text(page)] = "left by a killed program";
+    RemovePreviewPages(desk.Files, desk.Core);
+    EXPECT_EQ(desk.Files.Contents.size(), 10u);
 }
 
 TEST(PreviewNoteTest, SaysWhatThePaneCannotShowAndWhatIsMissing)

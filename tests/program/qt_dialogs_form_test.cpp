@@ -88,6 +88,9 @@ TEST(QtDialogsTest, NoBoxBelongsToAWindowThatClosesByItself)
         box.accept();
     });
     dialogs.Say(u"Hello", Tone::Exclamation);
+    popup->hide();
+    LetRun();
+    EXPECT_EQ(QApplication::activeWindow(), &wizard) << "the keys go to the window below";
 }
 
 TEST(QtDialogsTest, TheWaitPointerDoesNotStandOverAQuestion)

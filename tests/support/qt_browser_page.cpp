@@ -84,13 +84,15 @@ void BrowserPage::FixClock(const std::string& localTime)
 
 void BrowserPage::AddFile(const std::string& name, std::string_view bytes)
 {
+    m_files.push_back(FromUtf8(name));
     std::ofstream(Path(name), std::ios::binary) << bytes;
 }
 
 void BrowserPage::Open(std::string_view page)
 {
-    EXPECT_FALSE(FaultIn(Pane.Navigate(
-        {.Path = FromUtf8(Path("page.html")), .Bytes = m_clock + std::string(page)})));
+    EXPECT_FALSE(FaultIn(Pane.Navigate({.Path = FromUtf8(Path("page.html")),
+                                        .Bytes = m_clock + std::string(page),
+                                        .Files = m_files})));
 }
 
 void BrowserPage::Load(std::string_view page)

@@ -37,7 +37,7 @@ public:
     /// stands still until a script moves it by `pageClock.now += milliseconds`.
     void FixClock(const std::string& localTime);
 
-    /// Puts a file beside the page.
+    /// Puts a file beside the page that pages opened from now on may read.
     void AddFile(const std::string& name, std::string_view bytes);
 
     /// Writes the page file and starts to load it, without waiting.
@@ -90,6 +90,7 @@ private:
 
     QTemporaryDir m_folder;
     std::string m_clock;
+    Texts m_files;
 };
 
 } // namespace orvane::testing

@@ -142,7 +142,7 @@ TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith
 {
     FormDesk road(m_desk.Bench, nullptr);
     road.OpenProject(u"/film.ovn");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Orvane finds no file /film.ovn."});
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Orvane cannot find the file /film.ovn."});
 
     m_desk.Files.Contents[u"/film.ovn"] = ExpectedBytes("animator_project_two_images.ovn");
     Text image;
