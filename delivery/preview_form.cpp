@@ -1,5 +1,6 @@
 #include "delivery/preview_form.h"
 
+#include "core/file_names.h"
 #include "core/todays_browsers.h"
 #include "delivery/editor_panel.h"
 #include "delivery/finish_panel.h"
@@ -43,6 +44,11 @@ PreviewForm::~PreviewForm()
     m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
+    // The login's script was made for this delivery and holds the password.
+    if (m_payload.Effect.Kind == EffectKind::PasswordServer)
+        for (const Text& name : m_payload.Effect.SupportFiles)
+            if (!name.empty())
+                std::ignore = m_bench.Files.Remove(PathIn(m_bench.Core.ProgramFolder, name));
     m_bench.Core.Payload.HEADHTML.clear();
     m_bench.Core.Payload.BODYHTML.clear();
 }

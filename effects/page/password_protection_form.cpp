@@ -136,7 +136,7 @@ void PasswordProtectionForm::TakeDraft(TextView draft)
 void PasswordProtectionForm::Deliver(EffectPayload payload)
 {
     if (payload.Kind == EffectKind::PasswordServer) {
-        const Done written = m_bench.Files.Replace(
+        const Done written = m_bench.Files.PutPrivate(
             PathIn(m_bench.Core.ProgramFolder, passwordScriptName),
             EncodeForPage(PasswordScript(Parameters()), PageEncoding::Windows1252));
         if (const Fault* fault = FaultIn(written))
