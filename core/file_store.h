@@ -55,22 +55,39 @@ public:
     /// one of more than 512 MB OutOfMemory.
     virtual Outcome<std::string> Read(TextView path) const = 0;
 
+    /// What Read() gives, for a file itself: a link of that name is BadFileName.
+    virtual Outcome<std::string> ReadItself(TextView path) const = 0;
+
     /// Makes the file hold these bytes; a missing file is created, but not its folder. Whatever
     /// fails, even the machine, the next Read() gives the old bytes or the new ones. Links are
     /// followed, permissions kept.
     [[nodiscard]] virtual Done Replace(TextView path, std::string_view bytes) = 0;
 
-    /// Does what Replace() does, provided that the file still holds `old` directly before it is
-    /// written. Gives false, with the file as it was, when it holds anything else or is gone.
+    /// Does what Replace() does, provided that the file still holds `old`. Gives false, with the
+    /// file as another program saved it last, when it holds anything else or is gone. Where the
+    /// file system can exchange the names of two files, no file that another program saves
+    /// meanwhile is lost; elsewhere the file is looked at directly before it is written, and what
+    /// is saved between the two is lost. What a program writes into a file that it opened before
+    /// may be lost anywhere.
     [[nodiscard]] virtual Outcome<bool> Exchange(TextView path, std::string_view old,
                                                  std::string_view bytes) = 0;
 
     /// Puts a new file with these bytes under the name. A link of that name is replaced, not
-    /// followed; a replaced file that has other names keeps its content under them. Nobody gets
-    /// more rights to the new file than to the file `like` or, where that is empty, to the file
-    /// that it replaces.
+    /// followed; a replaced file that has other names keeps its content under them. Nobody but its
+    /// owner, who may read and write it, gets more rights to the new file than to the file `like`
+    /// or, where that is empty, to the file that it replaces, which this user must be allowed to
+    /// write then.
     [[nodiscard]] virtual Done PutNew(TextView path, std::string_view bytes,
                                       TextView like = {}) = 0;
+
+    /// Puts a new file with these bytes under the name, as PutNew() does, which nobody but its
+    /// owner may ever look into.
+    [[nodiscard]] virtual Done PutPrivate(TextView path, std::string_view bytes) = 0;
+
+    /// Puts a new file with these bytes under a name that is free, links followed, with the rights
+    /// that PutNew() gives it. Gives false when the name is taken.
+    [[nodiscard]] virtual Outcome<bool> PutIfFree(TextView path, std::string_view bytes,
+                                                  TextView like) = 0;
 
     /// Puts a new file with the content of `from` under the name `to`, as PutNew() would; does
     /// nothing when both are one file. `progress` is told how many bytes are copied; when it gives
@@ -84,7 +101,7 @@ public:
     [[nodiscard]] virtual Done MakeFolder(TextView path, Access access = Access::AsUsual) = 0;
 
     /// Locks the folder until the result is destroyed: another program that calls this for the same
-    /// folder waits until then. Null when the folder cannot be locked.
+    /// folder waits until then, but a second at most. Null when the folder cannot be locked.
     [[nodiscard]] virtual std::shared_ptr<const void> Hold(TextView folder) = 0;
 
     /// The names of the files in a folder, links to files included, sorted ignoring case; empty

@@ -70,7 +70,7 @@ BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
 void BringBackForm::BrowseForPage()
 {
     if (const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest())) {
-        m_page = *path;
+        m_page = PageOfBackup(m_bench.Files, Kept(), *path);
         ShowBackups();
     }
 }
@@ -95,9 +95,13 @@ void BringBackForm::ShowBackups()
     TextView words = u"Choose the backup that the page shall hold again.  The page as it is now is "
                      u"kept as a backup first.";
     if (m_page.empty())
-        words = u"Find the Web page of which an earlier version shall come back.";
+        words =
+            u"Find the Web page of which an earlier version shall come back.  Of a page that is "
+            u"gone, find its backup.";
     else if (m_backups.empty())
         words = u"Orvane has no backup of this Web page.";
+    else if (!page)
+        words = u"This Web page is gone.  Choose the backup from which it shall come back.";
     lblBackups->setText(ToQt(words));
     lstBackups->setVisible(!m_backups.empty());
     lstBackups->setCurrentItem(lstBackups->topLevelItem(0));
@@ -114,13 +118,15 @@ void BringBackForm::Take()
         return ShowComplaint({u"Please choose a page that has a backup.", "cmdBrowseForPage"});
     const PageBackup& backup = m_backups.at(static_cast<std::size_t>(row));
     const Text date = FromQt(DateOf(backup));
-    if (!m_bench.Dialogs.Ask(
-            Join({u"Do you want to replace ", m_page, u" by its backup of ", date, u"?"})))
+    const bool isThere = m_bench.Files.FileExists(m_page);
+    if (isThere && !m_bench.Dialogs.Ask(Join(
+                       {u"Do you want to replace ", m_page, u" by its backup of ", date, u"?"})))
         return;
     if (!orvane::BringBack(m_bench.Files, m_bench.Dialogs, m_page, backup.Path, Kept()))
         return ShowBackups();
-    m_bench.Dialogs.Say(Join({u"Your Web page holds the backup of ", date,
-                              u" again.  The page as it was before is among its backups now."}));
+    m_bench.Dialogs.Say(
+        Join({u"Your Web page holds the backup of ", date, u" again.",
+              isThere ? u"  The page as it was before is among its backups now." : u""}));
     m_broughtBack = m_page;
     accept();
 }

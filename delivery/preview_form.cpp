@@ -1,6 +1,7 @@
 #include "delivery/preview_form.h"
 
 #include "core/catalogue.h"
+#include "core/file_names.h"
 #include "delivery/editor_panel.h"
 #include "delivery/finish_panel.h"
 #include "delivery/insert_panel.h"
@@ -60,6 +61,10 @@ PreviewForm::~PreviewForm()
     m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
+    // What holds a password was made for this delivery alone.
+    for (const MadeFile& file : m_payload.Effect.MadeFiles)
+        if (file.IsSecret)
+            std::ignore = m_bench.Files.Remove(PathIn(m_bench.Core.ProgramFolder, file.Name));
     m_bench.Core.Payload.HEADHTML.clear();
     m_bench.Core.Payload.BODYHTML.clear();
 }

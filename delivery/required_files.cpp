@@ -82,8 +82,21 @@ Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing
     return {};
 }
 
-/// An earlier version of the page script is replaced and a later one stays; about any other file of
-/// its name the author is asked.
+/// Whether the page script may take the place of the file of its name: an earlier version of it is
+/// replaced and a later one stays; about any other file, and a version that was changed, the author
+/// is asked.
+bool MayReplace(const CopyDesk& desk, const Outcome<std::string>& present, const std::string& own)
+{
+    if (!FaultIn(present)) {
+        const std::string& file = ValueIn(present);
+        if (IsLaterVersion(PageScriptVersion(file), PageScriptVersion(own)))
+            return false;
+        if (file == own || IsPageScriptUnchanged(file))
+            return true;
+    }
+    return desk.MayOverwrite(pageScriptFile);
+}
+
 Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing)
 {
     if (!desk.Payload.RunsToday || folder == WithSeparator(desk.ProgramFolder))
@@ -98,12 +111,7 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
             missing.emplace_back(pageScriptFile);
             return {};
         }
-        const auto present = desk.Files.Read(destination);
-        const auto version = [](const Outcome<std::string>& file) {
-            return FaultIn(file) ? std::string_view() : PageScriptVersion(ValueIn(file));
-        };
-        if (version(present).empty() ? !desk.MayOverwrite(pageScriptFile)
-                                     : IsLaterVersion(version(present), version(own)))
+        if (!MayReplace(desk, desk.Files.Read(destination), ValueIn(own)))
             return {};
     }
     return CopyOrMiss(desk, folder, pageScriptFile, source, missing);

@@ -34,7 +34,8 @@ struct CopyDesk
 };
 
 /// Copies the author's files, the class files and a wanted page script to the page's folder. Asks
-/// before it overwrites one of the author's files or a foreign file with the page script's name.
+/// before it overwrites one of the author's files, or a file with the page script's name that is
+/// not an earlier version of it.
 /// Tells the author at the end whether everything was copied, and gives the names that are missing.
 /// Expects the folder with its final separator, or the empty text for the current folder. A fault
 /// that concerns more than one file, such as a full disk, ends the copying; it is given back

@@ -4,7 +4,8 @@
 #include "disk/replacement_file.h"
 
 #include <algorithm>
-#include <tuple>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 #include <dirent.h>
@@ -13,6 +14,8 @@
 namespace orvane {
 
 namespace {
+
+constexpr std::chrono::seconds longestWait{1};
 
 /// The bytes of a path; empty when no file can have it.
 std::string PathBytes(TextView path)
@@ -71,10 +74,7 @@ bool DiskFileStore::IsTaken(TextView path) const
 Outcome<bool> DiskFileStore::IsCopyOf(TextView path, TextView other, std::string_view bytes) const
 {
     const std::string name = PathBytes(path);
-    const auto error = m_files.MustBeCopy(name, PathBytes(other), bytes);
-    if (error && error != std::errc::operation_canceled)
-        return FaultAt(name, error);
-    return !error;
+    return UnlessCancelled(name, m_files.MustBeCopy(name, PathBytes(other), bytes));
 }
 
 std::optional<FileFacts> DiskFileStore::Facts(TextView path) const
@@ -99,6 +99,15 @@ Outcome<std::string> DiskFileStore::Read(TextView path) const
     return bytes;
 }
 
+Outcome<std::string> DiskFileStore::ReadItself(TextView path) const
+{
+    const std::string name = PathBytes(path);
+    std::string bytes;
+    if (const auto error = m_files.ReadItself(name, bytes))
+        return FaultAt(name, error);
+    return bytes;
+}
+
 Done DiskFileStore::Replace(TextView path, std::string_view bytes)
 {
     const std::string name = PathBytes(path);
@@ -108,16 +117,25 @@ Done DiskFileStore::Replace(TextView path, std::string_view bytes)
 Outcome<bool> DiskFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes)
 {
     const std::string name = PathBytes(path);
-    const auto error = m_files.Replace(name, bytes, old);
-    if (error && error != std::errc::operation_canceled)
-        return FaultAt(name, error);
-    return !error;
+    return UnlessCancelled(name, m_files.Replace(name, bytes, old));
 }
 
 Done DiskFileStore::PutNew(TextView path, std::string_view bytes, TextView like)
 {
     const std::string name = PathBytes(path);
     return DoneAt(name, m_files.PutNew(name, FillingWith(bytes), PathBytes(like)));
+}
+
+Done DiskFileStore::PutPrivate(TextView path, std::string_view bytes)
+{
+    const std::string name = PathBytes(path);
+    return DoneAt(name, m_files.PutPrivate(name, FillingWith(bytes)));
+}
+
+Outcome<bool> DiskFileStore::PutIfFree(TextView path, std::string_view bytes, TextView like)
+{
+    const std::string name = PathBytes(path);
+    return UnlessCancelled(name, m_files.PutIfFree(name, FillingWith(bytes), PathBytes(like)));
 }
 
 Done DiskFileStore::Copy(TextView from, TextView to, Progress* progress)
@@ -157,9 +175,17 @@ std::shared_ptr<const void> DiskFileStore::Hold(TextView folder)
 {
     // The folder itself is locked: it stays when the files in it are replaced.
     auto held = std::make_shared<FileHandle>(m_calls);
-    if (held->OpenFolder(FolderBytes(folder)) || held->WaitForLock())
+    if (held->OpenFolder(FolderBytes(folder)))
         return nullptr;
-    return held;
+    const auto end = std::chrono::steady_clock::now() + longestWait;
+    std::error_code error = held->Lock();
+    while (error == std::errc::permission_denied && m_waitsForLocks) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        error = held->Lock();
+        // Whoever keeps the lock so long will not give it back soon.
+        m_waitsForLocks = !error || std::chrono::steady_clock::now() < end;
+    }
+    return error ? nullptr : held;
 }
 
 std::vector<Text> DiskFileStore::Files(TextView folder) const
@@ -227,6 +253,14 @@ Fault DiskFileStore::FaultAt(const std::string& path, const Error& error) const
     const bool isMissing = error == std::errc::no_such_file_or_directory &&
                            Retried([&] { return m_calls.StatusAt(FolderOf(path), folder); });
     return isMissing ? Fault::PathNotFound : FaultOf(error);
+}
+
+/// Whether a call was done that is cancelled when the files are not as they were.
+Outcome<bool> DiskFileStore::UnlessCancelled(const std::string& path, const Error& error) const
+{
+    if (error && error != std::errc::operation_canceled)
+        return FaultAt(path, error);
+    return !error;
 }
 
 Done DiskFileStore::DoneAt(const std::string& path, const Error& error) const

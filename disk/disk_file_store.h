@@ -27,9 +27,12 @@ public:
     Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const override;
     std::optional<FileFacts> Facts(TextView path) const override;
     Outcome<std::string> Read(TextView path) const override;
+    Outcome<std::string> ReadItself(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
     Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
     Done PutNew(TextView path, std::string_view bytes, TextView like) override;
+    Done PutPrivate(TextView path, std::string_view bytes) override;
+    Outcome<bool> PutIfFree(TextView path, std::string_view bytes, TextView like) override;
     Done Copy(TextView from, TextView to, Progress* progress) override;
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;
@@ -45,9 +48,11 @@ private:
     Error Names(TextView folder, mode_t kind, std::vector<Text>& names) const;
     Fault FaultAt(const std::string& path, const Error& error) const;
     Done DoneAt(const std::string& path, const Error& error) const;
+    Outcome<bool> UnlessCancelled(const std::string& path, const Error& error) const;
 
     SystemCalls& m_calls;
     WholeFiles m_files;
+    bool m_waitsForLocks = true; ///< until it once did in vain
 };
 
 } // namespace orvane

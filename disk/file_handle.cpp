@@ -170,13 +170,24 @@ std::error_code FileHandle::TakeRightsOf(const FileStatus& other) const
 
 std::error_code FileHandle::TakePermissionsOf(const FileStatus& other) const
 {
-    mode_t mode = other.st_mode & 0777;
-    const std::error_code error = TakeOwnerOf(other);
+    mode_t mode = (other.st_mode & 0777) | 0600;
+    std::error_code error = TakeOwnerOf(other);
     if (error == std::errc::operation_not_permitted)
         mode &= ~mode_t{070} | ((mode & 07) << 3);
     else if (error)
         return error;
-    return Retried([&] { return m_calls.ChangeMode(m_descriptor, mode); });
+    error = Retried([&] { return m_calls.ChangeMode(m_descriptor, mode); });
+    const bool cannot =
+        error == std::errc::operation_not_permitted || error == std::errc::not_supported;
+    return cannot ? std::error_code() : error;
+}
+
+std::error_code FileHandle::TakeFromOthers() const
+{
+    const mode_t mode = m_status.st_mode & 07700;
+    return (m_status.st_mode & 07777) == mode
+               ? std::error_code()
+               : Retried([&] { return m_calls.ChangeMode(m_descriptor, mode); });
 }
 
 std::error_code FileHandle::Sync() const
@@ -188,15 +199,10 @@ std::error_code FileHandle::Sync() const
 
 std::error_code FileHandle::Lock() const
 {
-    const std::error_code error = Retried([&] { return m_calls.Lock(m_descriptor, false); });
+    const std::error_code error = Retried([&] { return m_calls.Lock(m_descriptor); });
     return error == std::errc::operation_would_block
                ? std::make_error_code(std::errc::permission_denied)
                : error;
-}
-
-std::error_code FileHandle::WaitForLock() const
-{
-    return Retried([&] { return m_calls.Lock(m_descriptor, true); });
 }
 
 std::error_code FileHandle::HasAccessList(bool& has) const

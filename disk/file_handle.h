@@ -77,10 +77,14 @@ public:
     /// Sets owner, group and mode to those of `other`, where they differ.
     [[nodiscard]] std::error_code TakeRightsOf(const FileStatus& other) const;
 
-    /// Sets owner, group and permissions to those of `other`. Where this user may not set the
-    /// owner, the group gets no more than both group and others have in `other`, so that nobody
-    /// gets more rights.
+    /// Sets owner, group and permissions to those of `other`, but the owner may always read and
+    /// write. Where this user may not set the owner, the group gets no more than both group and
+    /// others have in `other`, so that nobody else gets more rights. On a file system that lets
+    /// nobody set permissions, those of the open file stay.
     [[nodiscard]] std::error_code TakePermissionsOf(const FileStatus& other) const;
+
+    /// Takes all rights from everybody but the owner.
+    [[nodiscard]] std::error_code TakeFromOthers() const;
 
     /// Waits until the file's content, or the folder's names, are on the disk. A folder on a file
     /// system that cannot sync folders counts as synced.
@@ -89,9 +93,6 @@ public:
     /// Takes the file's lock and keeps it until the file is closed; permission_denied when another
     /// program has it. On a file system without locks, the error of the call.
     [[nodiscard]] std::error_code Lock() const;
-
-    /// Waits until no other program has the lock, then takes it.
-    [[nodiscard]] std::error_code WaitForLock() const;
 
     /// Whether the file has an access control list (POSIX ACL) beside its mode.
     [[nodiscard]] std::error_code HasAccessList(bool& has) const;

@@ -135,6 +135,16 @@ void InPlaceWriter::RemoveCopy(const std::string& place) const
         std::ignore = folder.Sync();
 }
 
+/// Gives a copy that must not be put back a name of its own. A failure is passed over: the copy is
+/// then looked at again.
+void InPlaceWriter::SetAside(const std::string& place) const
+{
+    const std::string kept = place + std::string(keptEnd);
+    std::error_code error = RenameToFree(m_calls, place, kept);
+    for (int number = 2; error == std::errc::file_exists; ++number)
+        error = RenameToFree(m_calls, place, kept + "-" + std::to_string(number));
+}
+
 std::error_code InPlaceWriter::RestoreFrom(const std::string& place, const std::string& path,
                                            const FileStatus& status) const
 {
@@ -168,8 +178,7 @@ std::error_code InPlaceWriter::PutBack(const FileHandle& kept, const std::string
         return error;
     const auto copy = ReadRecoveryCopy(bytes);
     if (!copy || !IsHalfWritten(content, *copy)) {
-        std::ignore =
-            Retried([&] { return m_calls.Rename(place, std::string(place).append(keptEnd)); });
+        SetAside(place);
         return {};
     }
     // All new bytes may be there without lying on the disk yet.

@@ -16,9 +16,9 @@ namespace orvane {
 /// - in the user's state folder, as ".orvane-«device»-«inode».recovery",
 /// with hexadecimal numbers. A copy that is found later means that its writer was killed: the old
 /// bytes are put back, unless all new ones are there. When the file holds anything else than a
-/// mixture of old and new bytes, or the copy is incomplete, the file stays as it is and ".kept" is
-/// added to the copy's name. A copy counts only if it belongs to this user, to the file's owner or
-/// to the superuser.
+/// mixture of old and new bytes, or the copy is incomplete, the file stays as it is and ".kept", or
+/// ".kept-2" and so on, is added to the copy's name. A copy counts only if it belongs to this user,
+/// to the file's owner or to the superuser.
 class InPlaceWriter
 {
 public:
@@ -44,6 +44,7 @@ private:
                          std::string& place) const;
     std::error_code PutCopy(const std::string& place, const std::string& bytes) const;
     void RemoveCopy(const std::string& place) const;
+    void SetAside(const std::string& place) const;
     std::error_code RestoreFrom(const std::string& place, const std::string& path,
                                 const FileStatus& status) const;
     std::error_code PutBack(const FileHandle& kept, const std::string& place,

@@ -1,8 +1,10 @@
 #include "disk/program_folder.h"
 
 #include "core/file_names.h"
+#include "disk/file_handle.h"
 
 #include <filesystem>
+#include <tuple>
 
 namespace orvane {
 
@@ -46,6 +48,15 @@ std::optional<UserFolders> FindUserFolders(const Environment& environment)
     if (folders.Program.empty() || folders.Settings.empty() || folders.State.empty())
         return std::nullopt;
     return folders;
+}
+
+void ShutOthersOut(SystemCalls& calls, const UserFolders& folders)
+{
+    for (const Text& path : {folders.Settings, folders.State}) {
+        FileHandle folder(calls);
+        if (!folder.OpenFolder(ToUtf8(path)))
+            std::ignore = folder.TakeFromOthers();
+    }
 }
 
 Done InstallFile(FileStore& files, TextView path, std::string_view bytes)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/file_store.h"
+#include "disk/system_calls.h"
 
 #include <functional>
 #include <optional>
@@ -23,6 +24,10 @@ struct UserFolders
 /// ORVANE_HOME, if set, is the program folder instead and has the other two inside; a relative one
 /// starts at the current folder. Nothing when the variables give no place for one of the folders.
 std::optional<UserFolders> FindUserFolders(const Environment& environment);
+
+/// Shuts all others out of this user's settings and state, where these folders exist already; a
+/// failure is passed over.
+void ShutOthersOut(SystemCalls& calls, const UserFolders& folders);
 
 /// Makes the file hold these bytes; a file that holds them already is not written.
 [[nodiscard]] Done InstallFile(FileStore& files, TextView path, std::string_view bytes);

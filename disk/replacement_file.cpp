@@ -1,6 +1,7 @@
 #include "disk/replacement_file.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <random>
 #include <tuple>
 
@@ -22,6 +23,13 @@ std::string TemporaryName()
     for (std::size_t i = 0; i < digitCount; ++i, number /= digits.size())
         name.push_back(digits[number % digits.size()]);
     return name.append(ownNameEnd);
+}
+
+/// Whether a call failed because the system or this file system does not have it.
+bool IsUnknownCall(const std::error_code& error)
+{
+    return error == std::errc::invalid_argument || error == std::errc::not_supported ||
+           error == std::errc::function_not_supported;
 }
 
 } // namespace
@@ -63,6 +71,18 @@ bool IsRefusal(const std::error_code& error)
            error == std::errc::device_or_resource_busy || error == std::errc::cross_device_link;
 }
 
+std::error_code RenameToFree(SystemCalls& calls, const std::string& from, const std::string& to)
+{
+    const auto error = Retried([&] { return calls.Rename(from, to, RENAME_NOREPLACE); });
+    if (!IsUnknownCall(error))
+        return error;
+    std::string target;
+    const auto free = Retried([&] { return calls.ReadLink(to, target); });
+    if (free != std::errc::no_such_file_or_directory)
+        return std::make_error_code(std::errc::file_exists);
+    return Retried([&] { return calls.Rename(from, to); });
+}
+
 ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, mode_t mode)
     : m_calls(calls), m_path(std::move(path)), m_mode(mode)
 {
@@ -74,7 +94,7 @@ ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, const Fil
 {
 }
 
-std::error_code ReplacementFile::Put(const Filling& fill, const LastLook& look)
+std::error_code ReplacementFile::Put(const Filling& fill, const Former& former)
 {
     m_isInPlace = false;
     FileHandle folder(m_calls);
@@ -84,8 +104,8 @@ std::error_code ReplacementFile::Put(const Filling& fill, const LastLook& look)
     RemoveLeftovers(path);
     const std::string temporary = path + TemporaryName();
     FileHandle file(m_calls);
-    if (const auto error = PutThrough(file, temporary, fill, look)) {
-        if (error != std::errc::file_exists)
+    if (const auto error = PutThrough(file, temporary, fill, former)) {
+        if (error != std::errc::file_exists && !m_isLost)
             std::ignore = Retried([&] { return m_calls.Remove(temporary); });
         return error;
     }
@@ -95,7 +115,7 @@ std::error_code ReplacementFile::Put(const Filling& fill, const LastLook& look)
 
 /// Writes the temporary file and renames it to the path.
 std::error_code ReplacementFile::PutThrough(FileHandle& file, const std::string& temporary,
-                                            const Filling& fill, const LastLook& look)
+                                            const Filling& fill, const Former& former)
 {
     if (const auto error = file.Open(temporary, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, m_mode))
         return error;
@@ -107,9 +127,75 @@ std::error_code ReplacementFile::PutThrough(FileHandle& file, const std::string&
         return error;
     if (const auto error = file.Sync())
         return error;
-    if (const auto error = look ? look() : std::error_code())
+    return TakePlace(file, temporary, former);
+}
+
+std::error_code ReplacementFile::TakePlace(const FileHandle& file, const std::string& temporary,
+                                           const Former& former)
+{
+    const auto rename = [&] { return Retried([&] { return m_calls.Rename(temporary, m_path); }); };
+    if (former.Is == Former::Kind::Anything)
+        return rename();
+    if (former.Is == Former::Kind::Nothing) {
+        const auto error = RenameToFree(m_calls, temporary, m_path);
+        return error == std::errc::file_exists ? std::make_error_code(std::errc::operation_canceled)
+                                               : error;
+    }
+    // Most saves are seen here, before anybody meets the new file.
+    if (const auto error = MustHold(m_path, former.Bytes))
         return error;
-    return Retried([&] { return m_calls.Rename(temporary, m_path); });
+    const auto exchanged = Exchange(temporary);
+    if (IsUnknownCall(exchanged))
+        return rename();
+    if (exchanged)
+        return exchanged;
+    auto error = MustHold(temporary, former.Bytes);
+    if (!error)
+        error = Retried([&] { return m_calls.Remove(temporary); });
+    if (!error)
+        return {};
+    const auto lost = GiveBack(file.Status(), temporary);
+    m_isLost = static_cast<bool>(lost);
+    return m_isLost ? lost : error;
+}
+
+/// operation_canceled when the path does not have a file with these bytes.
+std::error_code ReplacementFile::MustHold(const std::string& path, std::string_view bytes) const
+{
+    FileHandle now(m_calls);
+    const auto error = now.OpenRegular(path, O_RDONLY | O_NOFOLLOW);
+    if (error == std::errc::no_such_file_or_directory ||
+        error == std::errc::too_many_symbolic_link_levels)
+        return std::make_error_code(std::errc::operation_canceled);
+    return error ? error : now.MustHold(bytes);
+}
+
+std::error_code ReplacementFile::Exchange(const std::string& temporary) const
+{
+    const auto error = Retried([&] { return m_calls.Rename(temporary, m_path, RENAME_EXCHANGE); });
+    return error == std::errc::no_such_file_or_directory
+               ? std::make_error_code(std::errc::operation_canceled)
+               : error;
+}
+
+/// Exchanges the names again, where `given` has the path now. The other program may save once more
+/// meanwhile: then that file comes out, and it is the newest one that must have the path.
+std::error_code ReplacementFile::GiveBack(FileStatus given, const std::string& temporary)
+{
+    for (;;) {
+        FileHandle next(m_calls);
+        FileHandle out(m_calls);
+        auto error = next.Open(temporary, O_PATH | O_NOFOLLOW);
+        if (!error)
+            error = Exchange(temporary);
+        if (!error)
+            error = out.Open(temporary, O_PATH | O_NOFOLLOW);
+        if (error)
+            return std::make_error_code(std::errc::io_error);
+        if (AreSameFile(out.Status(), given))
+            return {};
+        given = next.Status();
+    }
 }
 
 std::error_code ReplacementFile::TakeRights(const FileHandle& file) const

@@ -31,6 +31,11 @@ bool IsTemporaryName(std::string_view name);
 /// system, a mount), so that writing in another way may succeed.
 bool IsRefusal(const std::error_code& error);
 
+/// Renames a file to a name that must be free; file_exists when it is not. On a file system that
+/// cannot look and rename at once, one that takes the name in between is lost.
+[[nodiscard]] std::error_code RenameToFree(SystemCalls& calls, const std::string& from,
+                                           const std::string& to);
+
 /// A whole new file that takes the place of a path in one step: it is written under a hidden name
 /// in the same folder, synced and renamed to the path, then the folder is synced. The hidden name
 /// cannot be guessed, and the file is locked while its writer runs; one that a killed program left
@@ -51,12 +56,25 @@ public:
     /// A file with the rights of another.
     ReplacementFile(SystemCalls& calls, std::string path, const FileStatus& like, Rights rights);
 
-    /// Called directly before the file takes its place; an error from it stops Put().
-    using LastLook = std::function<std::error_code()>;
+    /// What must have the path when the file takes its place.
+    struct Former
+    {
+        enum class Kind
+        {
+            Anything, ///< or nothing at all
+            Nothing,
+            File, ///< a file with these bytes
+        };
+        Kind Is;
+        std::string_view Bytes;
+    };
 
     /// Puts a file with this content at the path. No temporary file is left after a failure; a
-    /// missing folder gives not_a_directory.
-    [[nodiscard]] std::error_code Put(const Filling& fill, const LastLook& look = {});
+    /// missing folder gives not_a_directory. operation_canceled when the path has anything else
+    /// than it must have. An expected file gives way by an exchange of names: when what came out is
+    /// not what was expected, it gets its name back. Where names cannot be exchanged, the path is
+    /// looked at directly before the renaming.
+    [[nodiscard]] std::error_code Put(const Filling& fill, const Former& former = {});
 
     /// Whether the new file is at the path. It may be so although Put() failed: the last sync comes
     /// after.
@@ -64,7 +82,12 @@ public:
 
 private:
     std::error_code PutThrough(FileHandle& file, const std::string& temporary, const Filling& fill,
-                               const LastLook& look);
+                               const Former& former);
+    std::error_code TakePlace(const FileHandle& file, const std::string& temporary,
+                              const Former& former);
+    std::error_code MustHold(const std::string& path, std::string_view bytes) const;
+    std::error_code Exchange(const std::string& temporary) const;
+    std::error_code GiveBack(FileStatus given, const std::string& temporary);
     std::error_code TakeRights(const FileHandle& file) const;
     void RemoveLeftovers(const std::string& folder) const;
 
@@ -74,6 +97,7 @@ private:
     std::optional<FileStatus> m_like;
     Rights m_rights = Rights::All;
     bool m_isInPlace = false;
+    bool m_isLost = false; ///< the temporary name has a file that is not ours
 };
 
 } // namespace orvane

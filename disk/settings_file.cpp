@@ -81,7 +81,7 @@ Text SettingsFile::Get(TextView section, TextView key, TextView otherwise,
 
 void SettingsFile::Put(TextView section, TextView key, TextView value, TextView application)
 {
-    const Done folder = MakeFolders(m_files, m_folder);
+    const Done folder = MakeFolders(m_files, m_folder, Access::OwnerAlone);
     if (FaultIn(folder))
         return;
     const Text path = PathOf(application);

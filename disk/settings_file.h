@@ -26,7 +26,7 @@ std::string WriteSettings(const SettingsTable& settings);
 class SettingsFile : public Settings
 {
 public:
-    /// `folder` is created at the first Put().
+    /// `folder` is created at the first Put(), for its owner alone.
     SettingsFile(FileStore& files, Text folder);
 
     Text Get(TextView section, TextView key, TextView otherwise,

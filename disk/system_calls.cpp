@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <cstdio>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -68,9 +69,9 @@ SystemCalls::Error PosixCalls::Sync(int descriptor)
     return ErrorOf(::fsync(descriptor));
 }
 
-SystemCalls::Error PosixCalls::Lock(int descriptor, bool waits)
+SystemCalls::Error PosixCalls::Lock(int descriptor)
 {
-    return ErrorOf(::flock(descriptor, waits ? LOCK_EX : LOCK_EX | LOCK_NB));
+    return ErrorOf(::flock(descriptor, LOCK_EX | LOCK_NB));
 }
 
 SystemCalls::Error PosixCalls::Status(int descriptor, FileStatus& status)
@@ -98,9 +99,12 @@ SystemCalls::Error PosixCalls::ChangeOwner(int descriptor, uid_t user, gid_t gro
     return ErrorOf(::fchown(descriptor, user, group));
 }
 
-SystemCalls::Error PosixCalls::Rename(const std::string& from, const std::string& to)
+SystemCalls::Error PosixCalls::Rename(const std::string& from, const std::string& to,
+                                      unsigned flags)
 {
-    return ErrorOf(::rename(from.c_str(), to.c_str()));
+    // Not every file system knows the call with flags.
+    return ErrorOf(flags == 0 ? ::rename(from.c_str(), to.c_str())
+                              : ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags));
 }
 
 SystemCalls::Error PosixCalls::Remove(const std::string& path)

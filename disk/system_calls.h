@@ -45,9 +45,8 @@ public:
     [[nodiscard]] virtual Error Truncate(int descriptor, off_t size) = 0;
     /// fsync(2), of a file or a folder.
     [[nodiscard]] virtual Error Sync(int descriptor) = 0;
-    /// flock(2) for this descriptor alone; one that does not wait gives EWOULDBLOCK when another
-    /// has the lock.
-    [[nodiscard]] virtual Error Lock(int descriptor, bool waits) = 0;
+    /// flock(2) for this descriptor alone, without waiting: EWOULDBLOCK when another has the lock.
+    [[nodiscard]] virtual Error Lock(int descriptor) = 0;
     /// fstat(2).
     [[nodiscard]] virtual Error Status(int descriptor, FileStatus& status) = 0;
     /// stat(2): links are followed.
@@ -59,8 +58,9 @@ public:
     [[nodiscard]] virtual Error ChangeMode(int descriptor, mode_t mode) = 0;
     /// fchown(2).
     [[nodiscard]] virtual Error ChangeOwner(int descriptor, uid_t user, gid_t group) = 0;
-    /// rename(2).
-    [[nodiscard]] virtual Error Rename(const std::string& from, const std::string& to) = 0;
+    /// rename(2), or renameat2(2) when there are `flags`: RENAME_EXCHANGE or RENAME_NOREPLACE.
+    [[nodiscard]] virtual Error Rename(const std::string& from, const std::string& to,
+                                       unsigned flags = 0) = 0;
     /// unlink(2).
     [[nodiscard]] virtual Error Remove(const std::string& path) = 0;
     /// readlink(2); EINVAL when the path is no symbolic link.
@@ -84,13 +84,13 @@ public:
     Error Write(int descriptor, off_t offset, std::string_view bytes, std::size_t& count) override;
     Error Truncate(int descriptor, off_t size) override;
     Error Sync(int descriptor) override;
-    Error Lock(int descriptor, bool waits) override;
+    Error Lock(int descriptor) override;
     Error Status(int descriptor, FileStatus& status) override;
     Error StatusAt(const std::string& path, FileStatus& status) override;
     Error AttributeSize(int descriptor, const char* name, std::size_t& size) override;
     Error ChangeMode(int descriptor, mode_t mode) override;
     Error ChangeOwner(int descriptor, uid_t user, gid_t group) override;
-    Error Rename(const std::string& from, const std::string& to) override;
+    Error Rename(const std::string& from, const std::string& to, unsigned flags) override;
     Error Remove(const std::string& path) override;
     Error ReadLink(const std::string& path, std::string& target) override;
     Error MakeFolder(const std::string& path, mode_t mode) override;

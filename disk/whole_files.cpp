@@ -19,6 +19,21 @@ void PutBack(const FileHandle& old, ReplacementFile& file)
         std::ignore = file.Put(FillingWith(bytes));
 }
 
+/// Whether a path that could not be opened so has no file of its own: nothing, or a link.
+bool IsNoFile(const std::error_code& missing)
+{
+    return missing == std::errc::no_such_file_or_directory ||
+           missing == std::errc::too_many_symbolic_link_levels;
+}
+
+/// The whole content; not_enough_memory when it is more than 512 MB.
+std::error_code ReadWhole(const FileHandle& file, std::string& bytes)
+{
+    if (file.Status().st_size > sizeLimit)
+        return std::make_error_code(std::errc::not_enough_memory);
+    return file.ReadAll(bytes);
+}
+
 } // namespace
 
 WholeFiles::WholeFiles(SystemCalls& calls, std::string stateFolder)
@@ -53,11 +68,15 @@ std::error_code WholeFiles::Open(std::string path, FileHandle& file) const
 std::error_code WholeFiles::Read(const std::string& path, std::string& bytes) const
 {
     FileHandle file(m_calls);
-    if (const auto error = Open(path, file))
-        return error;
-    if (file.Status().st_size > sizeLimit)
-        return std::make_error_code(std::errc::not_enough_memory);
-    return file.ReadAll(bytes);
+    const auto error = Open(path, file);
+    return error ? error : ReadWhole(file, bytes);
+}
+
+std::error_code WholeFiles::ReadItself(const std::string& path, std::string& bytes) const
+{
+    FileHandle file(m_calls);
+    const auto error = file.OpenRegular(path, O_RDONLY | O_NOFOLLOW);
+    return error ? error : ReadWhole(file, bytes);
 }
 
 std::error_code WholeFiles::MustBeCopy(const std::string& path, const std::string& other,
@@ -91,8 +110,13 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
     if (const auto error = old.HasAccessList(hasAccessList))
         return error;
     if (old.Status().st_nlink == 1 && !hasAccessList) {
+        // Else another Orvane might take the old file for a leftover while it has that name.
+        std::ignore = old.Lock();
+        ReplacementFile::Former former{};
+        if (expected)
+            former = {ReplacementFile::Former::Kind::File, *expected};
         ReplacementFile file(m_calls, path, old.Status(), ReplacementFile::Rights::All);
-        const auto error = file.Put(FillingWith(bytes), [&] { return LookAgain(path, expected); });
+        const auto error = file.Put(FillingWith(bytes), former);
         if (error && file.IsInPlace())
             PutBack(old, file);
         if (!IsRefusal(error) || file.IsInPlace())
@@ -101,27 +125,13 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
     return m_inPlace.Write(old, path, bytes, expected);
 }
 
-/// operation_canceled when the file does not hold what is expected.
-std::error_code WholeFiles::LookAgain(const std::string& path,
-                                      std::optional<std::string_view> expected) const
-{
-    if (!expected)
-        return {};
-    FileHandle now(m_calls);
-    const auto error = now.OpenRegular(path, O_RDONLY);
-    if (error == std::errc::no_such_file_or_directory)
-        return std::make_error_code(std::errc::operation_canceled);
-    return error ? error : now.MustHold(*expected);
-}
-
 std::error_code WholeFiles::PutNew(const std::string& path, const Filling& fill,
                                    const std::string& like)
 {
     FileHandle old(m_calls);
-    const auto missing = old.OpenRegular(path, O_RDWR | O_NOFOLLOW);
-    const bool isLink = missing == std::errc::too_many_symbolic_link_levels;
-    const bool isFree = missing == std::errc::no_such_file_or_directory;
-    if (missing && !isLink && !isFree)
+    // What is like another file may be as read-only as that one was, and is replaced all the same.
+    const auto missing = old.OpenRegular(path, (like.empty() ? O_RDWR : O_RDONLY) | O_NOFOLLOW);
+    if (missing && !IsNoFile(missing))
         return missing;
     FileStatus rights = old.Status();
     if (!like.empty())
@@ -130,12 +140,46 @@ std::error_code WholeFiles::PutNew(const std::string& path, const Filling& fill,
     if (missing && like.empty())
         return PutWhereNoneIs(path, fill);
     ReplacementFile file(m_calls, path, rights, ReplacementFile::Rights::Permissions);
+    return PutOver(file, path, fill, old, missing);
+}
+
+std::error_code WholeFiles::PutPrivate(const std::string& path, const Filling& fill)
+{
+    FileHandle old(m_calls);
+    const auto missing = old.OpenRegular(path, O_RDONLY | O_NOFOLLOW);
+    if (missing && !IsNoFile(missing))
+        return missing;
+    ReplacementFile file(m_calls, path, 0600);
+    return PutOver(file, path, fill, old, missing);
+}
+
+std::error_code WholeFiles::PutIfFree(std::string path, const Filling& fill,
+                                      const std::string& like)
+{
+    FileStatus rights{};
+    if (const auto error = Retried([&] { return m_calls.StatusAt(like, rights); }))
+        return error;
+    if (const auto error = FollowLinks(path))
+        return error;
+    ReplacementFile file(m_calls, path, rights, ReplacementFile::Rights::Permissions);
+    const auto error = file.Put(fill, {ReplacementFile::Former::Kind::Nothing, {}});
+    if (error && file.IsInPlace())
+        std::ignore = Retried([&] { return m_calls.Remove(path); });
+    return error;
+}
+
+/// Puts the file in place of `old`, which comes back after a failure; `missing` says why there is
+/// none.
+std::error_code WholeFiles::PutOver(ReplacementFile& file, const std::string& path,
+                                    const Filling& fill, const FileHandle& old,
+                                    const std::error_code& missing)
+{
     const auto error = file.Put(fill);
     // A link that is gone stays so: the new file holds what was wanted.
     if (error && file.IsInPlace() && !missing) {
         ReplacementFile before(m_calls, path, old.Status(), ReplacementFile::Rights::Permissions);
         PutBack(old, before);
-    } else if (error && file.IsInPlace() && isFree) {
+    } else if (error && file.IsInPlace() && missing == std::errc::no_such_file_or_directory) {
         std::ignore = Retried([&] { return m_calls.Remove(path); });
     }
     return error;

@@ -27,27 +27,38 @@ public:
     /// The whole content, links followed; not_enough_memory when it is more than 512 MB.
     [[nodiscard]] std::error_code Read(const std::string& path, std::string& bytes) const;
 
+    /// The same for a file itself; too_many_symbolic_link_levels when the path is a link.
+    [[nodiscard]] std::error_code ReadItself(const std::string& path, std::string& bytes) const;
+
     /// No error when the path leads to a file that is not the file `other` and holds exactly these
     /// bytes; operation_canceled when it is that file or holds other bytes.
     [[nodiscard]] std::error_code MustBeCopy(const std::string& path, const std::string& other,
                                              std::string_view bytes) const;
 
     /// Makes the file, links followed, hold these bytes; a missing file is created unless something
-    /// is `expected`. operation_canceled, with the file as it was, when it does not hold what is
-    /// expected directly before it is written.
+    /// is `expected`. operation_canceled when it does not hold what is expected: for a new file as
+    /// ReplacementFile::Put() tells it, for one written in place directly before.
     [[nodiscard]] std::error_code Replace(std::string path, std::string_view bytes,
                                           std::optional<std::string_view> expected);
 
-    /// Puts a new file with this content under the name itself, in place of a link or of a file
-    /// that this user may write. It has the permissions of the file `like`; when that is empty, of
-    /// the file that it replaces.
+    /// Puts a new file with this content under the name itself, in place of a link or of a file. It
+    /// has the permissions of the file `like`; when that is empty, of the file that it replaces,
+    /// which this user must be allowed to write then.
     [[nodiscard]] std::error_code PutNew(const std::string& path, const Filling& fill,
                                          const std::string& like);
 
+    /// The same for a file that is its owner's alone.
+    [[nodiscard]] std::error_code PutPrivate(const std::string& path, const Filling& fill);
+
+    /// Puts a new file with this content and the permissions of `like` under a free name, links
+    /// followed; operation_canceled when the name is taken.
+    [[nodiscard]] std::error_code PutIfFree(std::string path, const Filling& fill,
+                                            const std::string& like);
+
 private:
     std::error_code FollowLinks(std::string& path) const;
-    std::error_code LookAgain(const std::string& path,
-                              std::optional<std::string_view> expected) const;
+    std::error_code PutOver(ReplacementFile& file, const std::string& path, const Filling& fill,
+                            const FileHandle& old, const std::error_code& missing);
     std::error_code PutWhereNoneIs(const std::string& path, const Filling& fill);
 
     SystemCalls& m_calls;

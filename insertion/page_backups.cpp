@@ -13,6 +13,10 @@ namespace {
 
 constexpr TextView sameWords = u"Your Web page is the same as this backup already.";
 
+constexpr TextView linkWords =
+    u"A link has taken the place of this backup.  Orvane does not follow "
+    u"it.";
+
 constexpr TextView changedWords =
     u"Another application has changed your Web page file in the meantime.  The file stays as that "
     u"application saved it."
@@ -30,10 +34,42 @@ Text CountBytes(std::uint64_t count)
     return Join({FromUtf8(std::to_string(count)), count == 1 ? u" byte" : u" bytes"});
 }
 
-Done MakeFoldersFor(FileStore& files, TextView path)
+Done MakeFoldersFor(FileStore& files, TextView path, Access access)
 {
     const TextView folder = FolderOf(path);
-    return MakeFolders(files, Left(folder, folder.size() - 1), Access::OwnerAlone);
+    return MakeFolders(files, Left(folder, folder.size() - 1), access);
+}
+
+/// The result of writing a backup, which must be a file other than the page, with these bytes.
+Done Checked(const FileStore& files, const Done& written, TextView backup, TextView page,
+             std::string_view bytes)
+{
+    if (FaultIn(written))
+        return written;
+    // A page that is a link to its own backup has none.
+    const auto isKept = files.IsCopyOf(backup, page, bytes);
+    if (const Fault* fault = FaultIn(isKept))
+        return *fault;
+    if (!ValueIn(isKept))
+        return Fault::PathFileAccess;
+    return {};
+}
+
+bool IsGone(const Outcome<std::string>& page)
+{
+    const Fault* fault = FaultIn(page);
+    return fault && (*fault == Fault::FileNotFound || *fault == Fault::PathNotFound);
+}
+
+/// Puts a page that is gone where it was. What another program puts there meanwhile stays.
+Outcome<bool> PutGonePage(FileStore& files, TextView page, TextView backup, std::string_view bytes)
+{
+    const Done made = MakeFoldersFor(files, page, Access::AsUsual);
+    if (const Fault* fault = FaultIn(made))
+        return *fault;
+    // A kept page is its owner's alone; the backup beside the page has the rights of the page.
+    const Text beside = BackupPath(page);
+    return files.PutIfFree(page, bytes, files.FileExists(beside) ? TextView(beside) : backup);
 }
 
 } // namespace
@@ -45,16 +81,7 @@ Text BackupPath(TextView page)
 
 Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view bytes)
 {
-    const Done done = files.PutNew(backup, bytes, page);
-    if (FaultIn(done))
-        return done;
-    // A page that is a link to its own backup has none.
-    const auto isKept = files.IsCopyOf(backup, page, bytes);
-    if (const Fault* fault = FaultIn(isKept))
-        return *fault;
-    if (!ValueIn(isKept))
-        return Fault::PathFileAccess;
-    return {};
+    return Checked(files, files.PutNew(backup, bytes, page), backup, page, bytes);
 }
 
 void KeepFirstBackup(FileStore& files, const KeptPagesPlace& kept, TextView page,
@@ -63,8 +90,8 @@ void KeepFirstBackup(FileStore& files, const KeptPagesPlace& kept, TextView page
     const Text path = KeptPagePath(kept, page);
     if (files.IsTaken(path))
         return;
-    if (!FaultIn(MakeFoldersFor(files, path)))
-        std::ignore = files.PutNew(path, bytes, page);
+    if (!FaultIn(MakeFoldersFor(files, path, Access::OwnerAlone)))
+        std::ignore = files.PutPrivate(path, bytes);
 }
 
 Done KeepPage(FileStore& files, const KeptPagesPlace& kept, TextView page, std::string_view bytes)
@@ -82,8 +109,8 @@ Done KeepPage(FileStore& files, const KeptPagesPlace& kept, TextView page, std::
     if (FaultIn(made))
         return made;
     const Text path = KeptPagePath(place, page);
-    made = MakeFoldersFor(files, path);
-    return FaultIn(made) ? made : BackUp(files, path, page, bytes);
+    made = MakeFoldersFor(files, path, Access::OwnerAlone);
+    return FaultIn(made) ? made : Checked(files, files.PutPrivate(path, bytes), path, page, bytes);
 }
 
 Text KeptPagePath(const KeptPagesPlace& kept, TextView page)
@@ -110,6 +137,20 @@ std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPagesPlace& 
     return backups;
 }
 
+Text PageOfBackup(const FileStore& files, const KeptPagesPlace& kept, TextView path)
+{
+    constexpr TextView beside = u"Backup of ";
+    const Text folder = WithSeparator(kept.Folder);
+    Text page;
+    if (path.starts_with(folder)) {
+        const std::size_t behindDay = path.find(pathSeparator, folder.size());
+        page = behindDay == TextView::npos ? TextView() : path.substr(behindDay);
+    } else if (const TextView name = GetFileName(path); name.starts_with(beside)) {
+        page = Join({FolderOf(path), name.substr(beside.size())});
+    }
+    return page.empty() || files.FileExists(page) ? Text(path) : page;
+}
+
 Text CompareSizes(std::uint64_t backup, std::uint64_t page)
 {
     if (backup == page)
@@ -121,18 +162,20 @@ Text CompareSizes(std::uint64_t backup, std::uint64_t page)
 bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backup,
                const KeptPagesPlace& kept)
 {
-    const auto earlier = files.Read(backup);
+    const auto earlier = files.ReadItself(backup);
     if (const Fault* fault = FaultIn(earlier))
-        return Tell(dialogs, Words(*fault));
+        return Tell(dialogs, *fault == Fault::BadFileName ? linkWords : Words(*fault));
     const auto now = files.Read(page);
-    if (const Fault* fault = FaultIn(now))
+    const bool isGone = IsGone(now);
+    if (const Fault* fault = FaultIn(now); fault && !isGone)
         return Tell(dialogs, Words(*fault));
-    if (ValueIn(now) == ValueIn(earlier))
+    if (now == earlier)
         return Tell(dialogs, sameWords);
-    const Done isKept = KeepPage(files, kept, page, ValueIn(now));
+    const Done isKept = isGone ? Done() : KeepPage(files, kept, page, ValueIn(now));
     if (const Fault* fault = FaultIn(isKept))
         return Tell(dialogs, Words(*fault));
-    const auto written = files.Exchange(page, ValueIn(now), ValueIn(earlier));
+    const auto written = isGone ? PutGonePage(files, page, backup, ValueIn(earlier))
+                                : files.Exchange(page, ValueIn(now), ValueIn(earlier));
     if (const Fault* fault = FaultIn(written))
         return Tell(dialogs, Words(*fault));
     return ValueIn(written) || Tell(dialogs, changedWords);

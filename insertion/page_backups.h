@@ -30,13 +30,14 @@ Text BackupPath(TextView page);
 /// PathFileAccess when it is not. Nobody gets more rights to it than to the page.
 [[nodiscard]] Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view bytes);
 
-/// Puts the day's first backup of a page among the kept pages. Whatever already lies at its place,
-/// even unreadable, is an earlier backup and stays; nobody is told of a failure.
+/// Puts the day's first backup of a page among the kept pages, for its owner alone. Whatever
+/// already lies at its place, even unreadable, is an earlier backup and stays; nobody is told of a
+/// failure.
 void KeepFirstBackup(FileStore& files, const KeptPagesPlace& kept, TextView page,
                      std::string_view bytes);
 
-/// Puts these bytes among the kept pages, in a folder of their own so that no earlier backup is
-/// overwritten, and checks them as BackUp() does.
+/// Puts these bytes among the kept pages, for their owner alone and in a folder of their own, so
+/// that no earlier backup is overwritten, and checks them as BackUp() does.
 [[nodiscard]] Done KeepPage(FileStore& files, const KeptPagesPlace& kept, TextView page,
                             std::string_view bytes);
 
@@ -57,14 +58,19 @@ struct PageBackup
 std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPagesPlace& kept,
                                   TextView page);
 
+/// The page that is gone and of which this file is a backup; the file itself where there is no such
+/// page. Expects a full path.
+Text PageOfBackup(const FileStore& files, const KeptPagesPlace& kept, TextView path);
+
 /// How the size of a backup compares with that of the page, both in bytes: "12 bytes less", "1 byte
 /// more" or "same size".
 Text CompareSizes(std::uint64_t backup, std::uint64_t page);
 
 /// Gives the page the bytes of a backup and gives true; otherwise tells the author why not and
 /// gives false. The page as it is before is put among the kept pages first, and every backup stays.
-/// Whatever fails, the page holds its old bytes or the backup's; a page that another program
-/// changes meanwhile stays as that program left it.
+/// A page that is gone comes back with its folder. A link in the place of the backup is not
+/// followed. Whatever fails, the page holds its old bytes or the backup's; a page that another
+/// program changes meanwhile stays as that program left it.
 bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backup,
                const KeptPagesPlace& kept);
 

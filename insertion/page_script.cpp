@@ -5,7 +5,7 @@
 #include "insertion/page_script_lines.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstdint>
 #include <utility>
 
 namespace orvane {
@@ -18,6 +18,32 @@ constexpr Template linesWithCalls(uR"page(
 <!-- End Orvane page script -->)page");
 
 constexpr Template callsOfTag(uR"page( «Name»="«Calls»")page");
+
+constexpr std::string_view fileBegin = "/*! Orvane page script ";
+constexpr std::string_view fileBeginEnd = " */\n";
+
+/// A number of 16 digits that is another for every change of the bytes that somebody makes by hand.
+std::string ChecksumOf(std::string_view bytes)
+{
+    std::uint64_t sum = 0xCBF29CE484222325;
+    for (const char byte : bytes)
+        sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string checksum;
+    for (int shift = 60; shift >= 0; shift -= 4)
+        checksum.push_back(digits[(sum >> shift) & 0xF]);
+    return checksum;
+}
+
+/// Takes the number at the front of a version, with the dot behind it; gives it without zeros in
+/// front, so that of two numbers the one with more digits is the larger one.
+std::string_view TakeNumber(std::string_view& version)
+{
+    std::string_view number = version.substr(0, version.find('.'));
+    version.remove_prefix(std::min(number.size() + 1, version.size()));
+    number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
+    return number;
+}
 
 /// The first tag of that name; nothing when another of `before` or the end of the code comes first,
 /// or when the tag has no end.
@@ -42,10 +68,11 @@ std::optional<CodeSpan> HeadTag(std::string_view code)
     return FindTag(code, "<head", {"<body", "<frameset", "</head", "</html"});
 }
 
-/// Whether a call that stands in a BODY tag is one of these, or the window of a popup effect.
+/// Whether a call that stands in a BODY tag is one of these, each between two semicolons, or the
+/// window of a popup effect.
 bool IsOfEffects(std::string_view call, std::string_view known)
 {
-    return Find(Join({";", known, ";"}), Join({";", call, ";"})) != 0 ||
+    return Find(known, Join({";", call, ";"})) != 0 ||
            (call.starts_with("window.open(") && Find(call, ",toolbar=") != 0);
 }
 
@@ -55,11 +82,12 @@ std::string DroppedCalls(std::string_view bodyTag, std::string_view event, std::
 {
     std::string dropped;
     bool isFirst = true;
+    const std::string between = Join({";", known, ";"});
     bodyTag.remove_prefix(std::string_view("<body").size());
     while (const auto attribute = NextAttribute(bodyTag)) {
         if (!EqualIgnoringCase(attribute->Name, event) || std::exchange(isFirst, false))
             continue;
-        if (IsOfEffects(attribute->Value, known) && !attribute->Value.empty())
+        if (IsOfEffects(attribute->Value, between) && !attribute->Value.empty())
             dropped.append(dropped.empty() ? "" : ";").append(attribute->Value);
     }
     return dropped;
@@ -152,29 +180,34 @@ std::string WithPageScriptFor(std::string_view page, const FinishedPayload& payl
     return code.insert(head->End, MakeLines(code, known));
 }
 
+std::string PageScriptFile(std::string_view version, std::string_view script)
+{
+    return Join({fileBegin, version, " ", ChecksumOf(script), fileBeginEnd, script});
+}
+
 std::string_view PageScriptVersion(std::string_view file)
 {
-    constexpr std::string_view begin = "/*! Orvane page script ";
-    if (!file.starts_with(begin))
+    if (!file.starts_with(fileBegin))
         return {};
-    file.remove_prefix(begin.size());
-    return file.substr(0, std::min(file.find(' '), std::size_t{20}));
+    file.remove_prefix(fileBegin.size());
+    const std::size_t end = file.find_first_not_of("0123456789.");
+    return end != std::string_view::npos && file[end] == ' ' ? file.substr(0, end)
+                                                             : std::string_view();
+}
+
+bool IsPageScriptUnchanged(std::string_view file)
+{
+    const std::size_t end = file.find(fileBeginEnd);
+    return end != std::string_view::npos &&
+           file == PageScriptFile(PageScriptVersion(file), file.substr(end + fileBeginEnd.size()));
 }
 
 bool IsLaterVersion(std::string_view version, std::string_view other)
 {
-    const auto takeNumber = [](std::string_view& rest) {
-        int number = 0;
-        const auto read = std::from_chars(rest.data(), rest.data() + rest.size(), number);
-        rest.remove_prefix(static_cast<std::size_t>(read.ptr - rest.data()));
-        if (!rest.empty())
-            rest.remove_prefix(1);
-        return number;
-    };
     while (!version.empty() || !other.empty()) {
-        const int left = takeNumber(version), right = takeNumber(other);
+        const std::string_view left = TakeNumber(version), right = TakeNumber(other);
         if (left != right)
-            return left > right;
+            return std::pair(left.size(), left) > std::pair(right.size(), right);
     }
     return false;
 }

@@ -39,11 +39,18 @@ PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload
 /// unchanged.
 std::string WithPageScriptFor(std::string_view page, const FinishedPayload& payload);
 
+/// The bytes of the page script's file: a comment with the version and a checksum, then the script.
+std::string PageScriptFile(std::string_view version, std::string_view script);
+
 /// The version that the first bytes of a page script name, such as "1.0.0"; empty for any other
 /// file.
 std::string_view PageScriptVersion(std::string_view file);
 
-/// Whether a version is later than another; their numbers between the dots are compared one by one.
+/// Whether this is a page script of any version as PageScriptFile() gave it.
+bool IsPageScriptUnchanged(std::string_view file);
+
+/// Whether a version is later than another; their numbers between the dots, of any size, are
+/// compared one by one.
 bool IsLaterVersion(std::string_view version, std::string_view other);
 
 } // namespace orvane

@@ -61,12 +61,12 @@ std::optional<PageScriptLines> LinesAt(std::string_view code, const Markup& comm
 
 } // namespace
 
-std::optional<PageScriptLines> FindPageScriptLines(std::string_view page)
+std::optional<PageScriptLines> FindPageScriptLines(std::string_view page, std::size_t from)
 {
     // Most pages have none, and a page may be long.
-    if (page.find(beginLine) == std::string_view::npos)
+    if (page.find(beginLine, from) == std::string_view::npos)
         return std::nullopt;
-    for (Markup markup = NextMarkup(page, 0); markup.Whole.Begin < page.size();
+    for (Markup markup = NextMarkup(page, from); markup.Whole.Begin < page.size();
          markup = NextMarkup(page, markup.Next))
         if (auto lines = LinesAt(page, markup))
             return lines;
@@ -76,8 +76,11 @@ std::optional<PageScriptLines> FindPageScriptLines(std::string_view page)
 std::optional<PageScriptLines> TakePageScriptLines(std::string& page)
 {
     std::optional<PageScriptLines> first;
-    while (auto lines = FindPageScriptLines(page)) {
-        page.erase(lines->Whole.Begin, lines->Whole.End - lines->Whole.Begin);
+    std::string rest;
+    std::size_t done = 0;
+    while (auto lines = FindPageScriptLines(page, done)) {
+        rest.append(page, done, lines->Whole.Begin - done);
+        done = lines->Whole.End;
         if (!first) {
             first = std::move(lines);
             continue;
@@ -85,6 +88,8 @@ std::optional<PageScriptLines> TakePageScriptLines(std::string& page)
         first->Carried.OnLoad += ";" + lines->Carried.OnLoad;
         first->Carried.OnUnload += ";" + lines->Carried.OnUnload;
     }
+    if (first)
+        page = rest.append(page, done);
     return first;
 }
 

@@ -24,8 +24,9 @@ struct PageScriptLines
     bool IsChanged = false; ///< the SCRIPT tag has something that this program does not write
 };
 
-/// The first such lines in the page, outside of comments and scripts; nothing when there are none.
-std::optional<PageScriptLines> FindPageScriptLines(std::string_view page);
+/// The first such lines at or behind `from`, outside of comments and scripts; nothing when there
+/// are none. Expects `from` outside of a tag.
+std::optional<PageScriptLines> FindPageScriptLines(std::string_view page, std::size_t from = 0);
 
 /// Takes all such lines out of the page and gives the first ones, with the calls of all; nothing
 /// when there are none.

@@ -92,6 +92,7 @@ int main(int argc, char** argv)
         return Tell(*answer);
 
     PosixCalls calls;
+    ShutOthersOut(calls, *folders);
     DiskFileStore files(calls, folders->State);
     SettingsFile settings(files, folders->Settings);
     QtDialogs dialogs(settings);

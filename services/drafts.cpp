@@ -24,8 +24,8 @@ std::optional<Text> ReadDraftFile(const FileStore& files, TextView path)
 void WriteDraftFile(FileStore& files, TextView path, TextView draft)
 {
     const TextView folder = FolderOf(path);
-    std::ignore = MakeFolders(files, folder.substr(0, folder.size() - 1));
-    std::ignore = files.Replace(path, ToUtf8(draft));
+    std::ignore = MakeFolders(files, folder.substr(0, folder.size() - 1), Access::OwnerAlone);
+    std::ignore = files.PutPrivate(path, ToUtf8(draft));
 }
 
 void DropDraftFile(FileStore& files, TextView path)

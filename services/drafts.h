@@ -13,8 +13,9 @@ Text DraftPathOf(TextView stateFolder, ControlName effect);
 /// The text of the draft in this file; nothing when there is none that can be read.
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path);
 
-/// Stores a draft, with its folder when that is missing. A failure is ignored: the author did not
-/// ask for a draft to be saved. Expects a path with a folder.
+/// Stores a draft for its owner alone, with its folder when that is missing; a link in its place is
+/// not followed. A failure is ignored: the author did not ask for a draft to be saved. Expects a
+/// path with a folder.
 void WriteDraftFile(FileStore& files, TextView path, TextView draft);
 
 /// Deletes a draft, if there is one.

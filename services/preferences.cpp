@@ -55,7 +55,8 @@ void SavePreferences(const Preferences& preferences, OrvaneCore& core, Settings&
     settings.Put(u"Apps", u"Override", Flag(preferences.chkOverride));
     settings.Put(u"Misc", u"UnlockInputBoxes", Flag(preferences.chkUnlock));
     settings.Put(u"Misc", u"HTMLEditor", preferences.cboWebPageEditor);
-    if (!preferences.txtDefaultPath.empty())
+    const bool isChanged = preferences.txtDefaultPath != LoadPreferences(settings).txtDefaultPath;
+    if (isChanged && !preferences.txtDefaultPath.empty())
         SaveDefaultPath(core, settings, preferences.txtDefaultPath);
 }
 

@@ -32,8 +32,8 @@ Preferences LoadPreferences(const Settings& settings);
 /// The complaint about an empty browser field, or nothing when the preferences can be stored.
 std::optional<Complaint> Check(const Preferences& preferences);
 
-/// Stores the preferences. An empty default folder leaves the stored one. Expects preferences that
-/// pass Check().
+/// Stores the preferences; the default folder only when it is another one, and not empty. Expects
+/// preferences that pass Check().
 void SavePreferences(const Preferences& preferences, OrvaneCore& core, Settings& settings);
 
 } // namespace orvane

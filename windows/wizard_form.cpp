@@ -17,7 +17,9 @@ constexpr int keepEveryMilliseconds = 2000;
 /// Writes the file where support files lie.
 Done WriteMade(Workbench& bench, const MadeFile& file)
 {
-    return bench.Files.Replace(PathIn(bench.Core.ProgramFolder, file.Name), file.Bytes);
+    const Text path = PathIn(bench.Core.ProgramFolder, file.Name);
+    return file.IsSecret ? bench.Files.PutPrivate(path, file.Bytes)
+                         : bench.Files.Replace(path, file.Bytes);
 }
 
 } // namespace

@@ -53,6 +53,17 @@ TEST(BringBackFormTest, ComparesTheBackupsOfAPageAndBringsBackTheChosenOne)
               "as it is now");
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(form.BroughtBack(), u"/site/a.html");
+
+    desk.Files.Contents.erase(u"/site/a.html");
+    desk.Dialogs.AnswerOpenFile(u"/site/Backup of a.html");
+    BringBackForm second(desk.Bench, {});
+    second.show();
+    Click(second, "cmdBrowseForPage");
+    EXPECT_EQ(WordsOf(second, "txtPage"), u"/site/a.html");
+    EXPECT_TRUE(WordsOf(second, "lblBackups").starts_with(u"This Web page is gone."));
+    Click(second, "cmdOK");
+    EXPECT_EQ(desk.Files.Contents[u"/site/a.html"], "before");
+    EXPECT_TRUE(desk.Dialogs.Said.back().ends_with(u" again."));
 }
 
 } // namespace

@@ -338,10 +338,17 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdSaveWebPage")->isDefault());
 }
 
-TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndEmptiesTheSharedCode)
+TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndTheLoginsScriptAndEmptiesTheSharedCode)
 {
+    m_payload = {.Kind = EffectKind::PasswordServer,
+                 .BODYHTML = u"password.cgi",
+                 .SupportFiles = {u"password.cgi"}};
+    m_desk.Files.Contents[u"/program/password.cgi"] = "secret";
+    Open();
+    EXPECT_TRUE(m_desk.Files.Contents.contains(u"/program/password.cgi"));
     m_form.reset();
     EXPECT_FALSE(m_desk.Files.Contents.contains(u"/program/ov-prvw.htm"));
+    EXPECT_FALSE(m_desk.Files.Contents.contains(u"/program/password.cgi"));
     EXPECT_EQ(m_desk.Core.Payload.HEADHTML, u"");
 }
 

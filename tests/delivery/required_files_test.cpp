@@ -2,6 +2,7 @@
 
 #include "delivery/files_to_upload.h"
 #include "insertion/new_page.h"
+#include "insertion/page_script.h"
 #include "tests/support/doubles.h"
 
 namespace orvane::testing {
@@ -155,9 +156,10 @@ TEST_F(RequiredFilesTest, AnAuthorWhoEndsTheCopyingKeepsWhatIsThereAndIsToldTheR
 
 TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItAlone)
 {
-    const std::string own = "/*! Orvane page script 1.2.0 */new";
-    const std::string earlier = "/*! Orvane page script 1.1.9 */old";
-    const std::string later = "/*! Orvane page script 1.10.0 */newer";
+    const std::string own = PageScriptFile("1.2.0", "new");
+    const std::string earlier = PageScriptFile("1.1.99999999999999999999", "old");
+    const std::string changed = earlier + "mine";
+    const std::string later = PageScriptFile("1.20000000000000000000.0", "newer") + "theirs";
     struct Case
     {
         const char* Present; ///< null: no such file
@@ -165,7 +167,8 @@ TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItA
         std::string Left;
     };
     const Case cases[] = {{nullptr, {}, own},         {earlier.c_str(), {}, own},
-                          {later.c_str(), {}, later}, {"mine", false, "mine"},
+                          {later.c_str(), {}, later}, {changed.c_str(), false, changed},
+                          {own.c_str(), {}, own},     {"mine", false, "mine"},
                           {"mine", true, own},        {"", false, ""}};
     disk.Contents[u"/program/orvane.js"] = own;
     payload = {.RunsToday = true};

@@ -43,6 +43,11 @@ Report PutNew(FileStore& files, const TestFolder& folder)
         files.PutNew(folder.TextAt(pageName), newPage, folder.TextAt("other/like.html")));
 }
 
+Report PutPrivate(FileStore& files, const TestFolder& folder)
+{
+    return ReportOf(files.PutPrivate(folder.TextAt(pageName), newPage));
+}
+
 void PutPage(const TestFolder& folder)
 {
     folder.Put(pageName, oldPage, 0640);
@@ -139,6 +144,7 @@ const WritingWay ways[] = {
     {"CopyToNewFile", PutSource, Copy, thePage, true},
     {"CopyToOldFile", Both(PutSource, PutPage), Copy, thePage, true, true},
     {"CopyToHardLinked", Both(PutSource, PutHardLinked), Copy, thePage, true, true},
+    {"PutPrivate", PutPage, PutPrivate, thePage, true, true},
     {"PutNewLikeAnother", [](const TestFolder& f) { f.Put("other/like.html", oldPage, 0640); },
      PutNew, thePage, true, true},
 };

@@ -1,5 +1,6 @@
 #include "disk/disk_file_store.h"
 #include "disk/replacement_file.h"
+#include "services/drafts.h"
 #include "tests/support/test_folder.h"
 
 #include <gtest/gtest.h>
@@ -192,6 +193,16 @@ TEST_F(DiskFileStoreTest, NewFileTakesTheNameAndNothingIsWrittenThroughIt)
         EXPECT_EQ(Folder.Get(name), "new");
         EXPECT_EQ(Folder.Get("away/file"), "theirs");
     }
+    WriteDraftFile(Store, Folder.TextAt("state/drafts/Password.txt"), u"new");
+    for (const char* folder : {"state", "state/drafts"})
+        EXPECT_EQ(Folder.Status(folder).st_mode & 07777, 0700u);
+    Folder.Link("../../away/file", "state/drafts/Popup.txt");
+    for (const char* name : {"state/drafts/Password.txt", "state/drafts/Popup.txt"}) {
+        WriteDraftFile(Store, Folder.TextAt(name), u"new");
+        EXPECT_EQ(Folder.Status(name).st_mode, S_IFREG | 0600u);
+        EXPECT_EQ(Folder.Get(name), "new");
+    }
+    EXPECT_EQ(Folder.Get("away/file"), "theirs");
     EXPECT_EQ(Folder.Names("away"), std::vector<std::string>{"file"});
     EXPECT_FALSE(Store.IsTaken(Folder.TextAt("away")));
     EXPECT_FALSE(Store.IsTaken(Folder.TextAt("none")));
@@ -226,6 +237,40 @@ private:
     const TestFolder& m_folder;
 };
 
+/// A disk on which another program saves the page, twice, directly before names are exchanged.
+class LateCalls : public PosixCalls
+{
+public:
+    explicit LateCalls(const TestFolder& folder) : m_folder(folder) {}
+    Error Rename(const std::string& from, const std::string& to, unsigned flags) override
+    {
+        if (m_saves < 2) {
+            m_folder.Put("theirs", "save " + std::to_string(++m_saves));
+            std::filesystem::rename(m_folder.At("theirs"), m_folder.At("page"));
+        }
+        return PosixCalls::Rename(from, to, flags);
+    }
+
+private:
+    const TestFolder& m_folder;
+    int m_saves = 0;
+};
+
+/// A file system that can neither exchange names nor set permissions.
+class PoorCalls : public PosixCalls
+{
+public:
+    Error Rename(const std::string& from, const std::string& to, unsigned flags) override
+    {
+        return flags == 0 ? PosixCalls::Rename(from, to, flags)
+                          : std::make_error_code(std::errc::invalid_argument);
+    }
+    Error ChangeMode(int, mode_t) override
+    {
+        return std::make_error_code(std::errc::operation_not_permitted);
+    }
+};
+
 TEST_F(DiskFileStoreTest, ExchangeLeavesWhatAnotherProgramSavedInTheLastMoment)
 {
     BusyCalls busy(Folder);
@@ -241,6 +286,27 @@ TEST_F(DiskFileStoreTest, ExchangeLeavesWhatAnotherProgramSavedInTheLastMoment)
     EXPECT_EQ(ValueIn(store.Exchange(Folder.TextAt("gone"), "older", "new")), false);
     EXPECT_EQ(ValueIn(Store.Exchange(Folder.TextAt("page"), "saved", "new")), true);
     EXPECT_EQ(Folder.Get("page"), "new");
+    std::filesystem::remove(Folder.At("alias"));
+    LateCalls late(Folder);
+    EXPECT_EQ(ValueIn(DiskFileStore(late, u"").Exchange(Folder.TextAt("page"), "new", "newer")),
+              false);
+    EXPECT_EQ(Folder.Get("page"), "save 2");
+    EXPECT_EQ(Folder.Names(""), std::vector<std::string>{"page"});
+}
+
+TEST_F(DiskFileStoreTest, WorksWhereNamesCannotBeExchangedAndPermissionsNotSet)
+{
+    PoorCalls calls;
+    DiskFileStore store(calls, u"");
+    const Text page = Folder.TextAt("page");
+    Folder.Put("page", "old");
+    EXPECT_EQ(store.PutNew(Folder.TextAt("backup"), "old", page), Done());
+    EXPECT_EQ(Folder.Status("backup").st_mode & 07777, 0600u);
+    EXPECT_EQ(ValueIn(store.Exchange(page, "old", "new")), true);
+    EXPECT_EQ(ValueIn(store.PutIfFree(page, "newer", page)), false);
+    EXPECT_EQ(ValueIn(store.PutIfFree(Folder.TextAt("second"), "new", page)), true);
+    EXPECT_EQ(Folder.Get("page"), Folder.Get("second"));
+    EXPECT_EQ(Folder.Names("").size(), 3u);
 }
 
 /// A disk on which somebody guesses the name of a temporary file and lays a link there.
@@ -301,15 +367,17 @@ TEST_F(DiskFileStoreTest, ListsFilesAndFoldersSortedIgnoringCase)
 TEST_F(DiskFileStoreTest, RemovesOnlyTemporaryFilesThatNobodyWrites)
 {
     for (const char* name : {".orvane-0123456789abcdef.tmp", ".orvane-fedcba9876543210.tmp",
-                             ".orvane-page.tmp", ".orvane-0123456789abcdef.html"})
+                             ".orvane-page.tmp", ".orvane-0123456789abcdeg.tmp",
+                             ".orvane-0123456789abcdef.htm", ".backup-0123456789abcdef.tmp"})
         Folder.Put(name, "");
     const int writer = ::open(Folder.At(".orvane-fedcba9876543210.tmp").c_str(), O_RDWR);
     ASSERT_EQ(::flock(writer, LOCK_EX), 0);
     EXPECT_EQ(Replace("page"), Done());
     ::close(writer);
-    EXPECT_EQ(Folder.Names(""), (std::vector<std::string>{".orvane-0123456789abcdef.html",
-                                                          ".orvane-fedcba9876543210.tmp",
-                                                          ".orvane-page.tmp", "page"}));
+    EXPECT_EQ(Folder.Names(""), (std::vector<std::string>{
+                                    ".backup-0123456789abcdef.tmp", ".orvane-0123456789abcdef.htm",
+                                    ".orvane-0123456789abcdeg.tmp", ".orvane-fedcba9876543210.tmp",
+                                    ".orvane-page.tmp", "page"}));
 }
 
 } // namespace

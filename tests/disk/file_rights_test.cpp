@@ -17,12 +17,15 @@ protected:
     DiskFileStore Store{Calls, Folder.TextAt("state")};
 };
 
-TEST_F(OrdinaryUserTest, ReadOnlyFileIsNotReplaced)
+TEST_F(OrdinaryUserTest, ReadOnlyFileIsNotReplacedButItsBackupIs)
 {
     Folder.Put("page", "old", 0444);
     EXPECT_EQ(Store.Replace(Folder.TextAt("page"), "new"), Done(Fault::PermissionDenied));
     EXPECT_EQ(Folder.Get("page"), "old");
     EXPECT_EQ(Folder.Names(""), std::vector<std::string>{"page"});
+    Folder.Put("backup", "older", 0444);
+    EXPECT_EQ(Store.PutNew(Folder.TextAt("backup"), "old", Folder.TextAt("page")), Done());
+    EXPECT_EQ(Folder.Status("backup").st_mode & 07777, 0644u) << "who owns it may write it again";
 }
 
 TEST_F(OrdinaryUserTest, UnreadableFileOrFolderHasNothingToShow)

@@ -42,16 +42,18 @@ protected:
 
 TEST_F(InPlaceWriterTest, HalfWrittenFileGetsItsOldBytesBackAndAnyOtherStaysAsItIs)
 {
-    const std::tuple<const char*, const char*, bool> cases[] = {
-        {"the newes", "old bytes", false},
-        {"the new ones", "the new ones", false},
-        {"mended since", "mended since", true}};
-    for (const auto& [found, read, isCopyKept] : cases) {
+    const std::tuple<const char*, const char*, bool, bool> cases[] = {
+        {"the newes", "old bytes", false, false},
+        {"the new ones", "the new ones", false, false},
+        {"mended since", "mended since", true, false},
+        {"mended again", "mended again", true, true}};
+    for (const auto& [found, read, isCopyKept, isSecond] : cases) {
         const std::string copy = LeaveHalfWritten(found);
         EXPECT_EQ(ValueIn(Read("alias")), read);
         EXPECT_EQ(Folder.Get("page"), read);
         EXPECT_FALSE(Folder.Get(copy));
         EXPECT_EQ(Folder.Get(copy + ".kept").has_value(), isCopyKept);
+        EXPECT_EQ(Folder.Get(copy + ".kept-2").has_value(), isSecond);
         EXPECT_EQ(Store.Remove(Folder.TextAt("alias")), Done());
     }
 }

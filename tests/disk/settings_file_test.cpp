@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <thread>
 
@@ -67,6 +68,25 @@ TEST(SettingsFileTest, TwoProgramsThatStoreAtTheSameTimeKeepBoth)
     other.join();
     const auto settings = ReadSettings(folder.Get("settings/Orvane.conf").value_or(""));
     EXPECT_EQ(settings.size(), 52u);
+    EXPECT_EQ(folder.Status("settings").st_mode & 07777, 0700u);
+}
+
+TEST(SettingsFileTest, AreStoredThoughSomebodyKeepsTheLockAndTheFolderIsShutAtTheNextStart)
+{
+    const TestFolder folder;
+    folder.MakeFolder("settings", 0755);
+    PosixCalls calls;
+    FileHandle theirs(calls);
+    ASSERT_FALSE(theirs.OpenFolder(folder.At("settings")) || theirs.Lock());
+    ShutOthersOut(calls, {.Settings = folder.TextAt("settings"), .State = folder.TextAt("none")});
+    EXPECT_EQ(folder.Status("settings").st_mode & 07777, 0700u);
+    DiskFileStore files(calls, u"");
+    SettingsFile settings(files, folder.TextAt("settings"));
+    const auto start = std::chrono::steady_clock::now();
+    for (const TextView value : {u"first", u"second", u"third", u"fourth"})
+        settings.Put(u"Misc", u"HTMLEditor", value, orvane);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
+    EXPECT_EQ(settings.Get(u"Misc", u"HTMLEditor", u"", orvane), u"fourth");
 }
 
 TEST(ProgramFolderTest, FollowsTheDesktopsConventionsAndItsOwnVariable)

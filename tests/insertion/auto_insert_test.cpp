@@ -268,12 +268,12 @@ TEST_F(AutoInsertIntoFolderTest, PageThatIsALinkToItsOwnBackupIsLeft)
     EXPECT_EQ(Folder.Get("site/index.html"), oldBytes);
 }
 
-TEST_F(AutoInsertIntoFolderTest, KeptPageIsAsPrivateAsThePageAndItsFoldersMore)
+TEST_F(AutoInsertIntoFolderTest, KeptPageAndItsFoldersAreTheirOwnersAlone)
 {
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     const std::string page = "state/2001-11-28" + Folder.At("site/index.html");
     EXPECT_EQ(Folder.Get(page), oldBytes);
-    EXPECT_EQ(Folder.Status(page).st_mode & 07777, 0640u);
+    EXPECT_EQ(Folder.Status(page).st_mode & 07777, 0600u);
     for (const std::string folder : {"state", "state/2001-11-28", "state/2001-11-28/tmp"})
         EXPECT_EQ(Folder.Status(folder).st_mode & 07777, 0700u) << folder;
 }

@@ -84,15 +84,40 @@ TEST_F(PageBackupsTest, ABroughtBackPageCanBeTakenBackAndNoBackupIsEverLost)
               (std::set<std::string>{"2", "the page now", "edited since"}));
 }
 
+TEST_F(PageBackupsTest, APageThatIsGoneComesBackAndNoLinkInTheBackupsPlaceIsFollowed)
+{
+    fs::permissions(Folder.At("site/Backup of index.html"), fs::perms(0640));
+    Put(KeptName("2024-05-30"), "1", 1);
+    const Text beside = BackupPath(Page);
+    const Text aside = Folder.TextAt(KeptName("2024-05-30"));
+    EXPECT_EQ(PageOfBackup(Store, Kept, beside), beside);
+    fs::remove(Folder.At("site/index.html"));
+    for (const Text& backup : {beside, aside})
+        EXPECT_EQ(PageOfBackup(Store, Kept, backup), Page);
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, beside, Kept));
+    EXPECT_EQ(Folder.Get("site/index.html"), "2");
+    EXPECT_EQ(Folder.Status("site/index.html").st_mode & 07777, 0640u);
+    fs::remove_all(Folder.At("site"));
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, aside, Kept));
+    EXPECT_EQ(Folder.Get("site/index.html"), "1");
+    EXPECT_EQ(Backups(), Contents{"1"}) << "nothing was there to be kept";
+    Folder.Put("private", "mine");
+    Folder.Link("../private", "site/Backup of index.html");
+    EXPECT_FALSE(BringBack(Store, Dialogs, Page, beside, Kept));
+    EXPECT_EQ(Folder.Get("site/index.html"), "1");
+    EXPECT_EQ(Dialogs.TakeSaid(),
+              Texts{u"A link has taken the place of this backup.  Orvane does not follow it."});
+}
+
 TEST(BringBackTest, APageThatAnotherProgramSavesMeanwhileStaysAsItIs)
 {
     /// The other program is at work whenever this one keeps the page.
     struct BusyStore : FakeFileStore
     {
-        Done PutNew(TextView path, std::string_view bytes, TextView like) override
+        Done PutPrivate(TextView path, std::string_view bytes) override
         {
             Contents[u"/p.html"] = "theirs";
-            return FakeFileStore::PutNew(path, bytes, like);
+            return FakeFileStore::PutPrivate(path, bytes);
         }
     } files;
     FakeDialogs dialogs;

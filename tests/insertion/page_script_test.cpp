@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <utility>
@@ -128,6 +129,18 @@ TEST(PageScriptTest, LeavesWhatOnlyLooksLikeTheLines)
         ExpectSameBytes(page, WithoutPageScript(page));
 }
 
+TEST(PageScriptTest, TakesAllCopiesOfTheLinesOutInOnePass)
+{
+    std::string page, rest;
+    for (int i = 0; i < 10000; ++i) {
+        page += lines + "<p>";
+        rest += "<p>";
+    }
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(WithoutPageScript(page), rest);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
 TEST(PageScriptTest, MovesLinesThatTheAuthorHasChangedAsTheyAre)
 {
     const std::string changed = "<!-- Begin Orvane page script -->\n"
@@ -150,6 +163,9 @@ TEST(PageScriptTest, CarriesTheCallsThatTheBodyTagCouldNotTake)
          "<SCRIPT SRC=\"orvane.js\" "
          "data-onload=\"window.open('b','c','width=1,toolbar=no,status=no');go('\xE9;x')\" "
          "data-onunload=\"window.open('d','','width=1,toolbar=no,status=no')\"></SCRIPT>"},
+        {"<body onload=a() onload='window.open(\"b\",\"c\",\"width=1,toolbar=no\")'>",
+         "<SCRIPT SRC=\"orvane.js\" data-onload=\"window.open(&quot;b&quot;,&quot;c&quot;,"
+         "&quot;width=1,toolbar=no&quot;);go('\xE9;x')\"></SCRIPT>"},
     };
     for (const auto& [bodyTag, scriptLine] : cases) {
         const std::string page = std::string("<head></head>") + bodyTag + "</body>";

@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace orvane::testing {
 namespace {
 
@@ -118,7 +120,9 @@ TEST(PreferencesTest, AreStoredInOrderUnderTheirKeys)
     EXPECT_EQ(desk.Core.DefaultPath, u"/p");
 
     SavePreferences({.txtDefaultPath = u""}, desk.Core, desk.Settings);
+    SavePreferences({.txtDefaultPath = u"/p"}, desk.Core, desk.Settings);
     EXPECT_EQ(LoadPreferences(desk.Settings).txtDefaultPath, u"/p");
+    EXPECT_EQ(std::ranges::count(desk.Settings.Writes, u"Misc/DefaultPath"), 1);
 }
 
 TEST(AboutFormTest, TellsTheVersionAndOpensTheMakersSite)

@@ -147,6 +147,16 @@ Outcome<bool> FakeFileStore::Exchange(TextView path, std::string_view old, std::
     return true;
 }
 
+Outcome<bool> FakeFileStore::PutIfFree(TextView path, std::string_view bytes, TextView)
+{
+    if (IsTaken(path))
+        return false;
+    const Done done = Replace(path, bytes);
+    if (const Fault* fault = FaultIn(done))
+        return *fault;
+    return true;
+}
+
 std::optional<FileFacts> FakeFileStore::Facts(TextView path) const
 {
     const auto found = Contents.find(Text(path));

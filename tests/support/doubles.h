@@ -90,9 +90,10 @@ class FakeFileStore : public FileStore
 public:
     std::map<Text, std::string> Contents;
     std::set<Text> Folders;
-    Texts Writes;        ///< every path that was to be written, in order, failed or not
-    Texts Removals;      ///< every path that was to be removed, in order
-    mutable Texts Reads; ///< every path that was to be read, in order
+    std::set<Text> Private; ///< every path that was to be written for its owner alone
+    Texts Writes;           ///< every path that was to be written, in order, failed or not
+    Texts Removals;         ///< every path that was to be removed, in order
+    mutable Texts Reads;    ///< every path that was to be read, in order
 
     /// Makes the call with this number fail with this fault. Counted from 1 are reads, writes,
     /// removals, MakeFolder() and SubFolders(); a Copy() is a read and a write.
@@ -108,12 +109,19 @@ public:
     Outcome<bool> IsCopyOf(TextView path, TextView other, std::string_view bytes) const override;
     std::optional<FileFacts> Facts(TextView path) const override;
     Outcome<std::string> Read(TextView path) const override;
+    Outcome<std::string> ReadItself(TextView path) const override { return Read(path); }
     Done Replace(TextView path, std::string_view bytes) override;
     Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
     Done PutNew(TextView path, std::string_view bytes, TextView) override
     {
         return Replace(path, bytes);
     }
+    Done PutPrivate(TextView path, std::string_view bytes) override
+    {
+        Private.emplace(path);
+        return Replace(path, bytes);
+    }
+    Outcome<bool> PutIfFree(TextView path, std::string_view bytes, TextView) override;
     Done Copy(TextView from, TextView to, Progress* progress) override;
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;

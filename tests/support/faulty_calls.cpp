@@ -174,12 +174,14 @@ SystemCalls::Error FaultyCalls::Sync(int descriptor)
     return {};
 }
 
-SystemCalls::Error FaultyCalls::Rename(const std::string& from, const std::string& to)
+SystemCalls::Error FaultyCalls::Rename(const std::string& from, const std::string& to,
+                                       unsigned flags)
 {
     if (const Error error = Meet())
         return error;
-    Unsynced::Undo undo = m_unsynced.BeforeRemoving(to);
-    const Error error = m_calls.Rename(from, to);
+    const bool isExchange = flags == RENAME_EXCHANGE;
+    Unsynced::Undo undo = isExchange ? Unsynced::Undo() : m_unsynced.BeforeRemoving(to);
+    const Error error = m_calls.Rename(from, to, flags);
     if (!error)
         m_unsynced.Renamed(from, to, std::move(undo));
     return error;

@@ -83,7 +83,7 @@ public:
     Error Write(int descriptor, off_t offset, std::string_view bytes, std::size_t& count) override;
     Error Truncate(int descriptor, off_t size) override;
     Error Sync(int descriptor) override;
-    Error Lock(int file, bool waits) override { return Try(&PosixCalls::Lock, file, waits); }
+    Error Lock(int file) override { return Try(&PosixCalls::Lock, file); }
     Error Status(int file, FileStatus& status) override
     {
         return Try(&PosixCalls::Status, file, status);
@@ -104,7 +104,7 @@ public:
     {
         return Try(&PosixCalls::ChangeOwner, file, user, group);
     }
-    Error Rename(const std::string& from, const std::string& to) override;
+    Error Rename(const std::string& from, const std::string& to, unsigned flags) override;
     Error Remove(const std::string& path) override;
     Error ReadLink(const std::string& path, std::string& target) override
     {

@@ -104,8 +104,10 @@ void Unsynced::Removed(const std::string& path, Undo undo)
 void Unsynced::Renamed(const std::string& from, const std::string& to, Undo undo)
 {
     m_names.push_back({FolderIdentity(to), [from, to, undo = std::move(undo)] {
-                           ::rename(to.c_str(), from.c_str());
-                           undo();
+                           const unsigned flags = undo ? 0 : RENAME_EXCHANGE;
+                           ::renameat2(AT_FDCWD, to.c_str(), AT_FDCWD, from.c_str(), flags);
+                           if (undo)
+                               undo();
                        }});
 }
 

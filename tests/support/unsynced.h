@@ -31,7 +31,7 @@ public:
     using Undo = std::function<void()>;
 
     /// Called before a name is removed or renamed over; pass the result to Removed() or Renamed()
-    /// when the call has succeeded.
+    /// when the call has succeeded. An exchange of names, which removes none, has no undo.
     Undo BeforeRemoving(const std::string& path) const;
     void Removed(const std::string& path, Undo undo);
     void Renamed(const std::string& from, const std::string& to, Undo undo);

@@ -163,7 +163,9 @@ TEST_F(AdvancedAnimatorFormTest, RecentProjectsThatAreThereOpenFromTheMenu)
     };
     EXPECT_FALSE(entries().at(0)->isEnabled());
     m_desk.Files.Contents[u"/R&B.ovn"] = "\"5\",\"6\",\"NULL\",\"\",\"a.gif\"";
-    for (const TextView path : {u"/R&B.ovn", u"/gone.ovn", u"/film.ovn"})
+    m_desk.Files.Contents[u"/1"] = "the eleventh";
+    for (const TextView path : {u"/1", u"/2", u"/3", u"/4", u"/5", u"/6", u"/7", u"/8", u"/R&B.ovn",
+                                u"/gone.ovn", u"/film.ovn", u"/film.ovn\n/R&B.ovn"})
         PutRecentFile(m_desk.Settings, u"Projects", path);
     m_desk.Files.Contents[u"/film.ovn"] = "";
     ASSERT_EQ(entries().size(), 2);

@@ -51,6 +51,7 @@ TEST_F(PasswordProtectionFormTest, TheLoginWritesItsScriptOrStaysOpen)
     EXPECT_EQ(Said(), Texts{u"Permission denied"});
     EXPECT_TRUE(m_form.isVisible());
     EXPECT_EQ(m_form.TakePayload(), std::nullopt);
+    EXPECT_TRUE(m_desk.Files.Private.contains(script));
     m_form.hide();
     for (const auto& [path, bytes] : m_desk.Files.Contents)
         EXPECT_EQ(bytes.find("secret word"), std::string::npos) << ToUtf8(path);
@@ -60,8 +61,11 @@ TEST_F(PasswordProtectionFormTest, ADraftsOptionSurvivesTheFirstEntryAndNoSecret
 {
     m_form.SetParameters({.optScheme = PasswordScheme::Script,
                           .optPasswordType = PasswordType::Many,
-                          .GatePassword = u"hidden"});
+                          .GatePassword = u"hidden",
+                          .LoginUsername = u"hidden"});
     Press(m_form, Qt::Key_Escape);
+    for (auto& [path, draft] : m_desk.Files.Contents)
+        draft += "GatePassword: read\n";
     PasswordProtectionForm next(m_desk.Bench);
     next.show();
     Press(*Find<QWidget>(next, "lblTakeUp"), Qt::Key_Return);
