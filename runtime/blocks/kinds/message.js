@@ -1,0 +1,34 @@
+/** Fading Message: messages that fade in and out, one after the other. */
+import { buttonCss, motion } from "../calm.js";
+import { dress, fields, look, make, place, rows, size, start } from "../start.js";
+import { turns, turnsCss } from "../turns.js";
+
+const css = ".box{display:flex;align-items:center;max-width:100%}.stage{flex:1;align-items:center}";
+
+start("message-1", (root) => {
+    const field = fields(root, {
+        seconds: [4, 1, 60],
+        fadeSeconds: [1, 0.2, 10],
+        order: "forward",
+        times: [0, 0, 10],
+        ...look,
+        align: "center",
+        width: size,
+    });
+    const items = rows(root);
+    const stage = make("ul", "stage", ...items);
+    const box = make("div", "box", stage);
+    dress(box, field);
+    box.style.textAlign = field.align;
+    const timing = { ...field, pause: field.seconds * 1000 };
+    const duration = field.fadeSeconds * 2000;
+    const fade = (/** @type {HTMLElement} */ from, /** @type {HTMLElement} */ to) => {
+        from.animate({ opacity: [1, 0, 0] }, duration);
+        return to.animate({ opacity: [0, 0, 1] }, duration).finished;
+    };
+    place(root, css + turnsCss + buttonCss, box);
+    if (!items[1]) return void items[0].classList.add("shown");
+    const { run } = turns(items, timing, fade, () => play(false));
+    const { button, play } = motion(root, "the messages", run, { stage });
+    box.append(button);
+});
