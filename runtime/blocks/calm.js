@@ -13,8 +13,7 @@ export const buttonCss =
 
 /** The pause button as a chip in the lower right corner, for pictures. */
 export const chipCss =
-    ":host{position:relative!important}" +
-    "button{position:absolute;right:4px;bottom:4px;background:#fff;color:#222;border-radius:4px;" +
+    "button{position:absolute;z-index:2;right:4px;bottom:4px;background:#fff;color:#222;border-radius:4px;" +
     "box-shadow:0 0 0 1px #2226}";
 
 /**

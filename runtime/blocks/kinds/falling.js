@@ -86,7 +86,7 @@ start("falling-1", (root) => {
         }
         if (moves && !flights[0]) {
             flights = Array.from({ length: field.number }, (_, i) => send(i));
-            layer.animate({ opacity: [0, 1] }, 1000);
+            flights.push(layer.animate({ opacity: [0, 1] }, 1000));
         }
         drive(flights, moves);
         clearTimeout(timer);

@@ -3,7 +3,8 @@ import { buttonCss, motion } from "../calm.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
 
-const css = ".box{display:flex;align-items:center;max-width:100%}.stage{flex:1;align-items:center}";
+const css =
+    ".box{display:flex;align-items:center;max-width:100%;box-sizing:border-box}.stage{flex:1;align-items:center}";
 
 start("message-1", (root) => {
     const field = fields(root, {
@@ -20,6 +21,8 @@ start("message-1", (root) => {
     const box = make("div", "box", stage);
     dress(box, field);
     box.style.textAlign = field.align;
+    // As much room as the button has on the other side.
+    if (field.align === "center") box.style.paddingLeft = "24px";
     const timing = { ...field, pause: field.seconds * 1000 };
     const duration = field.fadeSeconds * 2000;
     const fade = (/** @type {HTMLElement} */ from, /** @type {HTMLElement} */ to) => {
