@@ -23,8 +23,11 @@ export function change(from, to, how, duration) {
     return new Promise((done) => {
         const step = () => {
             const p = Number(cover.currentTime ?? duration) / duration;
-            from.style.clipPath = p < 1 ? `path(evenodd,"${coverPath(kind, p, order, w, h)}")` : "";
-            if (p < 1) requestAnimationFrame(step);
+            const path = p < 1 && coverPath(kind, p, order, w, h);
+            // Both are clipped, since what is behind a text is seen through it.
+            from.style.clipPath = path ? `path(evenodd,"${path}")` : "";
+            to.style.clipPath = path ? `path(evenodd,"${path}M0 0H${w}V${h}H0Z")` : "";
+            if (path) requestAnimationFrame(step);
             else done(0);
         };
         step();

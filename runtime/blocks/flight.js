@@ -6,14 +6,15 @@ export const flightCss =
     "pointer-events:none;contain:strict}@media print{.flight{display:none}}";
 
 /**
- * Lets animations go on or rest. Those that have ended stay as they are.
+ * Lets animations go on, or begin again once they were cancelled, or rest. Those that have ended stay
+ * as they are.
  * @param {Animation[]} animations
  * @param {boolean} moves
  */
 export function drive(animations, moves) {
     for (const animation of animations) {
         const { playState } = animation;
-        if (moves && playState === "paused") animation.play();
+        if (moves && /paused|idle/.test(playState)) animation.play();
         if (!moves && playState === "running") animation.pause();
     }
 }

@@ -83,12 +83,27 @@ export function dress({ style }, { font, fontSize, fontStyle, textColor, backCol
  */
 export function rows(root, target = "") {
     const items = [...root.querySelectorAll("li")].map((item) => {
-        const row = make("li", "", ...item.cloneNode(true).childNodes);
+        const row = /** @type {HTMLElement} */ (item.cloneNode(true));
+        row.hidden = false;
         for (const link of row.querySelectorAll("a")) if (target) link.target = target;
         return row;
     });
     if (!items[0]) throw 0;
     return items;
+}
+
+/**
+ * The text of an effect on words in a line, in a box of its own that may move.
+ * @param {HTMLElement} root
+ * @param {string} css
+ * @param {Parameters<typeof dress>[1]} values
+ */
+export function words(root, css, values) {
+    const text = make("span", "text", make("slot", ""));
+    const box = make("span", "box", text);
+    dress(text, values);
+    place(root, ".text{display:inline-block}" + css, box);
+    return { text, box };
 }
 
 /**

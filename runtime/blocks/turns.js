@@ -48,7 +48,7 @@ export function turns(items, { order, times, pause }, change, end) {
 
     const wait = () => {
         clearTimeout(timer);
-        if (moves) timer = setTimeout(next, pause);
+        if (moves && items[1]) timer = setTimeout(next, pause);
     };
     const next = async () => {
         if (!--left) {

@@ -30,8 +30,7 @@ start("message-1", (root) => {
         return to.animate({ opacity: [0, 0, 1] }, duration).finished;
     };
     place(root, css + turnsCss + buttonCss, box);
-    if (!items[1]) return void items[0].classList.add("shown");
     const { run } = turns(items, timing, fade, () => play(false));
     const { button, play } = motion(root, "the messages", run, { stage });
-    box.append(button);
+    if (items[1]) box.append(button);
 });

@@ -6,23 +6,49 @@
 import assert from "../page_script/assert.mjs";
 import { wait } from "../page_script/tools.mjs";
 
-/** What a function makes of an element in the n-th block: see `inside` in scenarios.mjs. */
-const x = (css, n) => (tab) =>
-    tab.evaluate((css, n) => inside(css, n).getBoundingClientRect().x, css, n);
-
-/** Waits until `take` holds in the tab; says what it was instead. */
-async function until(tab, take, ...values) {
-    const begin = Date.now();
-    for (;;) {
+/** Waits until what `take` gives of the n-th block is `wanted`; says what it was instead. */
+async function until(tab, wanted, take, ...values) {
+    for (const begin = Date.now(); ; await wait(30)) {
         const seen = await tab.evaluate(take, ...values);
-        if (seen === true) return;
-        if (Date.now() - begin > 6000) throw new Error(`${seen} of ${take}`);
-        await wait(30);
+        if (String(seen) === String(wanted)) return;
+        if (Date.now() - begin > 6000) throw new Error(`${seen} for ${wanted} of ${take}`);
     }
 }
-/** The text that is seen of items in one place. */
-const shown = (n) =>
-    [...inside(".stage", n).children].map((e) => getComputedStyle(e).opacity).join();
+
+/** Where an element in the n-th block begins, and whether it moves. */
+const x = (tab, css, n) =>
+    tab.evaluate((css, n) => inside(css, n).getBoundingClientRect().x, css, n);
+async function moves(tab, css, n) {
+    const places = [];
+    for (let i = 0; i < 10; i++) {
+        places.push(
+            await tab.evaluate((css, n) => getComputedStyle(inside(css, n)).transform, css, n),
+        );
+        await wait(40);
+    }
+    assert.ok(new Set(places).size > 2, `it stands still at ${places[0]}`);
+}
+
+/** The opacities of the items of a stage, to one digit. */
+const stage = (n) =>
+    [...inside(".stage", n).children].map((e) => Math.round(getComputedStyle(e).opacity * 10) / 10);
+/** Whether the first item of a stage is clipped, as transitions do it. */
+const clipped = (n) => inside(".stage", n).firstElementChild.style.clipPath.includes("evenodd");
+
+/** The band of the n-th block moves to the left, without a gap at its end. */
+async function band(tab, n) {
+    await wait(200);
+    const before = await x(tab, ".group", n);
+    await wait(300);
+    const moved = before - (await x(tab, ".group", n));
+    assert.ok(moved > 15 && moved < 250, `moved by ${moved}`);
+    const right = (css) =>
+        tab.evaluate((css, n) => inside(css, n).getBoundingClientRect().right, css, n);
+    assert.ok((await right(".group:last-child")) > (await right(".view")));
+}
+
+const two = `<ul><li><a href="cat.html"><img src="a.gif" alt="A cat jumps" width="100" height="80"></a></li>
+    <li><img src="b.gif" alt="It sits" width="100" height="80"></li></ul>`;
 
 export const kinds = [
     {
@@ -33,18 +59,7 @@ export const kinds = [
             <li><a href="plums.html">Plums from Monday</a></li></ul>§</div>`,
         words: ["Seeds are in", "Plums from Monday"],
         links: ["plums.html"],
-        async sees(tab, n) {
-            await wait(200);
-            const before = await x(".group", n)(tab);
-            await wait(300);
-            const moved = before - (await x(".group", n)(tab));
-            assert.ok(moved > 15 && moved < 150, `moved by ${moved}`);
-            const filled = await tab.evaluate((n) => {
-                const [view, last] = [inside(".view", n), inside(".group:last-child", n)];
-                return last.getBoundingClientRect().right > view.getBoundingClientRect().right;
-            }, n);
-            assert.ok(filled, "no gap at the end of the band");
-        },
+        sees: band,
     },
     {
         kind: "message",
@@ -53,27 +68,9 @@ export const kinds = [
         words: ["Open on Sundays", "Two rooms are free"],
         links: ["rooms.html"],
         async sees(tab, n) {
-            const opacities = (n) =>
-                [...inside(".stage", n).children].map((e) => +getComputedStyle(e).opacity);
-            assert.equal(await tab.evaluate(opacities, n), [1, 0]);
-            await until(
-                tab,
-                (n) => {
-                    const [a, b] = [...inside(".stage", n).children].map(
-                        (e) => +getComputedStyle(e).opacity,
-                    );
-                    return b === 0 && a < 1 && a > 0;
-                },
-                n,
-            );
-            await until(
-                tab,
-                (n) =>
-                    [...inside(".stage", n).children]
-                        .map((e) => getComputedStyle(e).opacity)
-                        .join() === "0,1",
-                n,
-            );
+            await until(tab, "1,0", stage, n);
+            await until(tab, "0,0", stage, n);
+            await until(tab, "0,1", stage, n);
         },
     },
     {
@@ -84,15 +81,8 @@ export const kinds = [
         words: [],
         links: ["cat.html"],
         async sees(tab, n) {
-            await until(tab, (n) => inside("img", n).style.clipPath.includes("evenodd"), n);
-            await until(
-                tab,
-                (n) =>
-                    [...inside(".stage", n).children]
-                        .map((e) => getComputedStyle(e).opacity)
-                        .join() === "0,1",
-                n,
-            );
+            await until(tab, true, clipped, n);
+            await until(tab, "0,1", stage, n);
         },
     },
     {
@@ -103,16 +93,12 @@ export const kinds = [
             Monday</a>§</span></p>`,
         words: ["Plums from Monday"],
         links: ["plums.html"],
+        once: true,
         async sees(tab, n) {
-            await until(
-                tab,
-                (n) => {
-                    const letter = inside(".word span", n);
-                    return letter && getComputedStyle(letter).transform !== "none";
-                },
-                n,
-            );
-            await until(tab, (n) => inside(".letters", n) === null, n);
+            await moves(tab, ".word:last-child span", n);
+            const wide = () => document.documentElement.scrollWidth - innerWidth;
+            assert.ok((await tab.evaluate(wide)) <= 0, "a scroll bar appears");
+            await until(tab, true, (n) => !inside(".letters", n), n);
         },
     },
     {
@@ -131,6 +117,156 @@ export const kinds = [
             const after = await tab.evaluate(tops, n);
             assert.equal(before.length, 12);
             assert.ok(after.filter((y, i) => y > before[i]).length > 9, "they fall");
+        },
+    },
+    {
+        kind: "navigator",
+        block: `<div data-orvane="navigator-1" data-speed="120" data-back-color="#f4f0e0"
+            data-font-style="bold"><ul><li data-color="#a00000"><a href="a.html">Home</a></li>
+            <li data-color="#005000"><a href="b.html">Our rooms</a></li></ul>§</div>`,
+        words: ["Home", "Our rooms"],
+        links: ["a.html", "b.html"],
+        async sees(tab, n) {
+            await band(tab, n);
+            const colors = (n) =>
+                [1, 2].map((i) => getComputedStyle(inside(`.group li:nth-child(${i}) a`, n)).color);
+            await until(tab, "rgb(160, 0, 0),rgb(0, 80, 0)", colors, n);
+        },
+    },
+    {
+        kind: "texts",
+        block: `<div data-orvane="texts-1" data-seconds="1" data-transition="10" data-font-size="24">
+            <ul><li>Open on Sundays</li><li><a href="rooms.html">Two rooms are free</a></li></ul>§</div>`,
+        words: ["Open on Sundays", "Two rooms are free"],
+        links: ["rooms.html"],
+        async sees(tab, n) {
+            await until(tab, true, clipped, n);
+            await until(tab, "0,1", stage, n);
+        },
+    },
+    {
+        kind: "images",
+        block: `<div data-orvane="images-1" data-seconds="1" data-transition="2">${two}§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            await until(tab, true, clipped, n);
+            await until(tab, "0,1", stage, n);
+        },
+    },
+    {
+        kind: "grow",
+        block: `<p>New: <span data-orvane="grow-1" data-from="20" data-to="200" data-times="0"
+            data-text-color="#880044">Plums§</span></p>`,
+        words: ["Plums"],
+        links: [],
+        async sees(tab, n) {
+            await moves(tab, ".text", n);
+        },
+    },
+    {
+        kind: "flash",
+        block: `<p>New: <span data-orvane="flash-1" data-times-per-second="3" data-seconds="0">Plums§</span></p>`,
+        words: ["Plums"],
+        links: [],
+        async sees(tab, n) {
+            const color = (n) => getComputedStyle(inside(".text", n)).backgroundColor;
+            await until(tab, "rgb(192, 0, 0)", color, n);
+            await until(tab, "rgba(0, 0, 0, 0)", color, n);
+        },
+    },
+    {
+        kind: "shake",
+        block: `<p>New: <span data-orvane="shake-1" data-burst-seconds="2" data-pixels="8">Plums§</span></p>`,
+        words: ["Plums"],
+        links: [],
+        async sees(tab, n) {
+            await moves(tab, ".text", n);
+        },
+    },
+    {
+        kind: "textbutton",
+        block: `<p>See <span data-orvane="textbutton-1" data-hover-text="Now!"><a href="plums.html">Our
+            plums</a>§</span></p>`,
+        words: ["Our plums"],
+        links: ["plums.html"],
+        async sees(tab, n) {
+            await tab.evaluate((n) => inside("a", n).focus(), n);
+            await tab.keyboard.press("Tab");
+            await tab.evaluate((n) => inside("a", n).focus({ focusVisible: true }), n);
+            await until(
+                tab,
+                "0,1",
+                (n) => ["rest", "over"].map((c) => getComputedStyle(inside("." + c, n)).opacity),
+                n,
+            );
+        },
+    },
+    {
+        kind: "swirl",
+        block: `<p><span data-orvane="swirl-1" data-font-size="40" data-font-style="bold"
+            data-seconds="4">Plums from Monday§</span></p>`,
+        words: ["Plums from Monday"],
+        links: [],
+        async sees(tab, n) {
+            const position = (n) => getComputedStyle(inside(".text", n)).backgroundPositionX;
+            const before = await tab.evaluate(position, n);
+            await wait(300);
+            assert.notEqual(await tab.evaluate(position, n), before);
+        },
+    },
+    {
+        kind: "quote",
+        block: `<div data-orvane="quote-1" data-rule="seconds" data-seconds="2"><ul>
+            <li><blockquote>Well begun is half done.</blockquote><cite>A saying</cite></li>
+            <li hidden><blockquote>Look before you leap.</blockquote></li></ul>§</div>`,
+        words: ["Well begun is half done."],
+        links: [],
+        async sees(tab, n) {
+            const text = (n) => inside(".shown blockquote", n).textContent;
+            const other = { W: "Look before you leap.", L: "Well begun is half done." };
+            await until(tab, other[(await tab.evaluate(text, n))[0]], text, n);
+        },
+    },
+    {
+        kind: "bubble",
+        block: `<div data-orvane="bubble-1" data-place-x="60" data-place-y="70"><figure><img
+            src="photo.gif" alt="Our dog" width="200" height="150"><figcaption><p>Is it lunch
+            yet?</p></figcaption></figure>§</div>`,
+        words: ["Is it lunch yet?"],
+        links: [],
+        async sees(tab, n) {
+            const shown = (n) => getComputedStyle(inside(".bubble", n)).visibility;
+            await until(tab, "hidden", shown, n);
+            await tab.evaluate((n) => inside("button", n).click(), n);
+            await until(tab, "visible", shown, n);
+            await tab.keyboard.press("Escape");
+            await until(tab, "hidden", shown, n);
+        },
+    },
+    {
+        kind: "credits",
+        block: `<div data-orvane="credits-1" data-speed="80" data-wait-seconds="0" data-height="120"
+            data-tilted="yes"><p>Written by Ann</p><p><a href="bob.html">Music by Bob</a></p>§</div>`,
+        words: ["Written by Ann", "Music by Bob"],
+        links: ["bob.html"],
+        async sees(tab, n) {
+            await moves(tab, ".text", n);
+        },
+    },
+    {
+        kind: "greeting",
+        block: `<div data-orvane="greeting-1" data-visits="yes">Hello!§</div>`,
+        words: ["Hello!"],
+        links: [],
+        async sees(tab, n) {
+            await tab.evaluate((n) => {
+                inside("input", n).value = "<b>Jim</b>";
+                inside("form", n).requestSubmit();
+            }, n);
+            await until(tab, "Hello, <b>Jim</b>!", (n) => inside("p", n).textContent, n);
+            await tab.evaluate((n) => inside(".link", n).click(), n);
+            await until(tab, true, (n) => Boolean(inside("form", n)), n);
         },
     },
 ];
