@@ -18,16 +18,15 @@ export const chipCss =
 
 /**
  * Tells an effect when it moves and when it rests. It rests while the visitor has stopped it or
- * wants as little motion as possible, while the mouse or the focus is on it, while it is not seen.
+ * wants as little motion as possible, while it is not seen, and while `rest` says so.
  * @param {HTMLElement} root
  * @param {string} what what moves, in words for screen readers, such as "the moving text"
  * @param {(moves: boolean, still: boolean) => void} run called at every change; `still` is the
  *     state of those who want no motion
- * @param {{stage?: HTMLElement | false, seen?: boolean, plays?: boolean}} options what rests it
- *     when the mouse is there; false for an effect whose place in the page does not matter, or that
- *     waits for the visitor
+ * @param {{seen?: boolean, plays?: boolean}} options false for an effect whose place in the page
+ *     does not matter, and for one that waits for the visitor
  */
-export function motion(root, what, run, { stage = false, seen = true, plays: begins = true } = {}) {
+export function motion(root, what, run, { seen = true, plays: begins = true } = {}) {
     const reduced = matchMedia("(prefers-reduced-motion:reduce)");
     const button = make("button", "");
     /** What keeps it from moving for now. */
@@ -54,13 +53,19 @@ export function motion(root, what, run, { stage = false, seen = true, plays: beg
     button.type = "button";
     on(button, "click", () => play(!plays));
     on(reduced, "change", () => play(begins && !reduced.matches));
-    if (stage) {
-        on(stage, "pointerenter", () => rest("mouse", true));
-        on(stage, "pointerleave", () => rest("mouse", false));
-        on(stage, "focusin", ({ target }) => rest("focus", target.matches(":focus-visible")));
-        on(stage, "focusout", () => rest("focus", false));
-    }
     tell();
     sleep(root, seen, (sleeps) => rest("away", sleeps));
-    return { button, play };
+    return { button, play, rest };
+}
+
+/**
+ * Lets an effect rest while the mouse or the focus is on it. Its button is not part of the stage.
+ * @param {HTMLElement} stage
+ * @param {(why: string, now: boolean) => void} rest
+ */
+export function restUnder(stage, rest) {
+    on(stage, "pointerenter", () => rest("mouse", true));
+    on(stage, "pointerleave", () => rest("mouse", false));
+    on(stage, "focusin", ({ target }) => rest("focus", target.matches(":focus-visible")));
+    on(stage, "focusout", () => rest("focus", false));
 }

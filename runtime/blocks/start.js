@@ -93,7 +93,7 @@ export function rows(root, target = "") {
 }
 
 /**
- * The text of an effect on words in a line, in a box of its own that may move.
+ * Puts the text of an effect on words in a line into boxes of its own.
  * @param {HTMLElement} root
  * @param {string} css
  * @param {Parameters<typeof dress>[1]} values
@@ -101,8 +101,8 @@ export function rows(root, target = "") {
 export function words(root, css, values) {
     const text = make("span", "text", make("slot", ""));
     const box = make("span", "box", text);
-    dress(text, values);
-    place(root, ".text{display:inline-block}" + css, box);
+    dress(box, values);
+    place(root, "::slotted(script){display:none!important}" + css, box);
     return { text, box };
 }
 

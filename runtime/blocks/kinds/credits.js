@@ -1,5 +1,5 @@
 /** Scrolling Credits: a text that rises in a box, or a page that scrolls by itself. */
-import { buttonCss, motion } from "../calm.js";
+import { buttonCss, motion, restUnder } from "../calm.js";
 import { drive } from "../flight.js";
 import { dress, fields, look, make, on, place, size, start } from "../start.js";
 
@@ -83,20 +83,16 @@ start("credits-1", (root) => {
         place(root, buttonCss + css, box);
         /** @type {Animation[]} */
         let rise = [];
-        const { button } = motion(
-            root,
-            "the credits",
-            (moves, still) => {
-                box.classList.toggle("still", still);
-                if (still) {
-                    box.tabIndex = 0;
-                    for (const one of rise) one.cancel();
-                    rise = [];
-                } else if (moves && !rise[0]) rise = [begin()];
-                drive(rise, moves);
-            },
-            { stage: box },
-        );
+        const { button, rest } = motion(root, "the credits", (moves, still) => {
+            box.classList.toggle("still", still);
+            if (still) {
+                box.tabIndex = 0;
+                for (const one of rise) one.cancel();
+                rise = [];
+            } else if (moves && !rise[0]) rise = [begin()];
+            drive(rise, moves);
+        });
+        restUnder(box, rest);
         const begin = () => {
             const [h, room] = [text.offsetHeight, field.height];
             const again = field.atEnd === "again";

@@ -2,7 +2,8 @@
 import { buttonCss, motion } from "../calm.js";
 import { dress, fields, look, on, start, words } from "../start.js";
 
-const css = ".box{display:inline-flex;align-items:center}.text{padding:0 .2em}";
+const css =
+    ".box{display:inline-flex;align-items:center}.text{display:inline-block}.text{padding:0 .2em}";
 
 start("flash-1", (root) => {
     const { textColor: _, ...font } = look;

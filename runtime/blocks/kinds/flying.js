@@ -2,7 +2,7 @@
 import { buttonCss, motion } from "../calm.js";
 import { drive } from "../flight.js";
 import { letters, lettersCss } from "../letters.js";
-import { dress, fields, look, make, place, start } from "../start.js";
+import { fields, look, start, words } from "../start.js";
 
 /** How many letters may fly as letters; of a longer text the words fly. */
 const most = 80;
@@ -48,8 +48,7 @@ start("flying-1", (root) => {
         againAfter: [0, 0, 600],
         ...look,
     });
-    const text = make("span", "text", make("slot", ""));
-    const box = make("span", "", text);
+    const { text, box } = words(root, lettersCss + buttonCss, field);
     /** @type {Animation[]} */
     let flights = [];
     /** @type {ReturnType<typeof letters> | null} */
@@ -101,8 +100,6 @@ start("flying-1", (root) => {
         if (moves && !landed && !flights[0]) fly();
         wait();
     };
-    dress(box, field);
-    place(root, lettersCss + buttonCss, box);
     const { button } = motion(root, "the flying text", run);
     const length = (letters(root, most).parts.length * field.letterPause) / 1000;
     if (field.againAfter || length + field.flightSeconds > 5) box.append(button);

@@ -4,7 +4,7 @@ import { drive } from "../flight.js";
 import { fields, look, make, on, start, words } from "../start.js";
 
 const css =
-    ".box{display:inline-flex;align-items:center}.room{display:inline-grid;place-items:center}" +
+    ".box{display:inline-flex;align-items:center}.text{display:inline-block}.room{display:inline-grid;place-items:center}" +
     ".text{width:max-content;max-width:100%}";
 
 start("grow-1", (root) => {

@@ -1,5 +1,5 @@
 /** Image Transitions: pictures that give way to each other in one of 24 ways. */
-import { buttonCss, chipCss, motion } from "../calm.js";
+import { buttonCss, chipCss, motion, restUnder } from "../calm.js";
 import { change } from "../change.js";
 import { fields, make, place, rows, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
@@ -37,6 +37,7 @@ start("images-1", (root) => {
         (from, to) => change(from, to, field.transition, field.duration * 1000),
         () => play(false),
     );
-    const { button, play } = motion(root, "the pictures", run, { stage });
+    const { button, play, rest } = motion(root, "the pictures", run);
+    restUnder(stage, rest);
     if (items[1]) box.append(button);
 });

@@ -1,5 +1,5 @@
 /** Fading Message: messages that fade in and out, one after the other. */
-import { buttonCss, motion } from "../calm.js";
+import { buttonCss, motion, restUnder } from "../calm.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
 
@@ -31,6 +31,7 @@ start("message-1", (root) => {
     };
     place(root, css + turnsCss + buttonCss, box);
     const { run } = turns(items, timing, fade, () => play(false));
-    const { button, play } = motion(root, "the messages", run, { stage });
+    const { button, play, rest } = motion(root, "the messages", run);
+    restUnder(stage, rest);
     if (items[1]) box.append(button);
 });

@@ -1,5 +1,5 @@
 /** Navigator Ticker: a colourful band of links. */
-import { buttonCss, motion } from "../calm.js";
+import { buttonCss, motion, restUnder } from "../calm.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
 import { strip, stripCss } from "../strip.js";
 
@@ -30,8 +30,7 @@ start("navigator-1", (root) => {
     const box = make("div", "box", view);
     dress(box, field);
     place(root, css + stripCss + buttonCss, box);
-    const { button } = motion(root, "the moving links", run, {
-        stage: field.pauseOnHover && view,
-    });
+    const { button, rest } = motion(root, "the moving links", run);
+    if (field.pauseOnHover) restUnder(view, rest);
     box.append(button);
 });

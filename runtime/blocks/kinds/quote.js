@@ -1,5 +1,5 @@
 /** Random Quote: another text at each visit. */
-import { buttonCss, motion } from "../calm.js";
+import { buttonCss, motion, restUnder } from "../calm.js";
 import { pick } from "../pick.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
 import { turnsCss } from "../turns.js";
@@ -37,18 +37,14 @@ start("quote-1", (root) => {
     show(shown);
     if (field.rule !== "seconds" || !items[1]) return;
     let timer = 0;
-    const { button } = motion(
-        root,
-        "the quotes",
-        (moves) => {
-            clearInterval(timer);
-            if (!moves) return;
-            timer = setInterval(() => {
-                show(shown + 1);
-                items[shown].animate({ opacity: [0, 1] }, 700);
-            }, field.seconds * 1000);
-        },
-        { stage },
-    );
+    const { button, rest } = motion(root, "the quotes", (moves) => {
+        clearInterval(timer);
+        if (!moves) return;
+        timer = setInterval(() => {
+            show(shown + 1);
+            items[shown].animate({ opacity: [0, 1] }, 700);
+        }, field.seconds * 1000);
+    });
+    restUnder(stage, rest);
     box.append(button);
 });

@@ -1,5 +1,5 @@
 /** Smooth Scrolling Text Ticker: messages that pass in an endless band. */
-import { buttonCss, motion } from "../calm.js";
+import { buttonCss, motion, restUnder } from "../calm.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
 import { strip, stripCss } from "../strip.js";
 
@@ -29,8 +29,7 @@ start("scroller-1", (root) => {
     dress(box, field);
     if (field.height) box.style.minHeight = field.height + "px";
     place(root, css + stripCss + buttonCss, box);
-    const { button } = motion(root, "the moving text", run, {
-        stage: field.pauseOnHover && view,
-    });
+    const { button, rest } = motion(root, "the moving text", run);
+    if (field.pauseOnHover) restUnder(view, rest);
     box.append(button);
 });

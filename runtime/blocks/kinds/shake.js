@@ -3,7 +3,7 @@ import { buttonCss, motion } from "../calm.js";
 import { drive } from "../flight.js";
 import { fields, look, on, start, words } from "../start.js";
 
-const css = ".box{display:inline-flex;align-items:center}";
+const css = ".box{display:inline-flex;align-items:center}.text{display:inline-block}";
 
 /** @type {Record<string, (n: number) => string>} */
 const ways = {

@@ -6,7 +6,7 @@ import { fields, look, start, words } from "../start.js";
 
 const css =
     lettersCss +
-    ".box{display:inline-flex;align-items:center}div.box{display:flex}" +
+    ".box{display:inline-flex;align-items:center}.text{display:inline-block}div.box{display:flex}" +
     "@media screen and (forced-colors:none){@supports((-webkit-background-clip:text) and " +
     "(-webkit-text-fill-color:#0000)){.swirl{background:var(--swirl) 0 0/200% 100%;" +
     "-webkit-background-clip:text;background-clip:text;-webkit-text-fill-color:#0000}}}";

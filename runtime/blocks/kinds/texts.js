@@ -1,5 +1,5 @@
 /** Text Transitions: texts that give way to each other in one of 24 ways. */
-import { buttonCss, motion } from "../calm.js";
+import { buttonCss, motion, restUnder } from "../calm.js";
 import { change } from "../change.js";
 import { dress, fields, look, make, place, rows, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
@@ -26,6 +26,7 @@ start("texts-1", (root) => {
         (from, to) => change(from, to, field.transition, field.duration * 1000),
         () => play(false),
     );
-    const { button, play } = motion(root, "the texts", run, { stage });
+    const { button, play, rest } = motion(root, "the texts", run);
+    restUnder(stage, rest);
     if (items[1]) box.append(button);
 });

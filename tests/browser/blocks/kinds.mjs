@@ -197,7 +197,7 @@ export const kinds = [
             await until(
                 tab,
                 "0,1",
-                (n) => ["rest", "over"].map((c) => getComputedStyle(inside("." + c, n)).opacity),
+                (n) => ["two", "over"].map((c) => getComputedStyle(inside("." + c, n)).opacity),
                 n,
             );
         },

@@ -12,13 +12,15 @@ const before = `${tabs}
     return root.shadowRoot?.querySelector(css) ?? root.querySelector(css);
   };
   window.pending = new Set();
-  const { setTimeout: set, clearTimeout: clear, setInterval: every } = window;
+  const { setTimeout: set, clearTimeout: clear } = window;
   window.setTimeout = (run, ...rest) => {
     const id = set(() => { pending.delete(id); run(); }, ...rest);
     return pending.add(id), id;
   };
   window.clearTimeout = (id) => { pending.delete(id); clear(id); };
-  window.setInterval = (...all) => { pending.add("interval"); return every(...all); };
+  const { setInterval: every, clearInterval: stop } = window;
+  window.setInterval = (...all) => { const id = every(...all); return pending.add(id), id; };
+  window.clearInterval = (id) => { pending.delete(id); stop(id); };
   window.moving = () => [...document.querySelectorAll("[data-orvane]")]
     .flatMap(({ shadowRoot }) => [document, shadowRoot ?? document])
     .flatMap((one) => one.getAnimations())
