@@ -50,7 +50,6 @@ export function motion(root, what, run, { seen = true, plays: begins = true } = 
         else rests.delete(why);
         tell();
     };
-    button.type = "button";
     on(button, "click", () => play(!plays));
     on(reduced, "change", () => play(begins && !reduced.matches));
     tell();

@@ -1,6 +1,7 @@
 /** Animation Wizard: pictures that follow each other in one place. */
 import { buttonCss, chipCss, motion } from "../calm.js";
 import { change } from "../change.js";
+import { inOrder } from "../order.js";
 import { decoded, pictures } from "../pictures.js";
 import { fields, make, on, place, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
@@ -35,12 +36,11 @@ start("animation-1", (root) => {
     place(root, css + turnsCss + buttonCss + chipCss, box);
 
     const length = field.change === "cut" ? 0 : Math.min(field.milliseconds / 2, 1000);
-    const timing = { ...field, pause: field.milliseconds - length };
     decoded(frames).then((items) => {
         if (!items[1]) return;
         const { run } = turns(
             items,
-            timing,
+            { ...inOrder(items.length, field), pause: field.milliseconds - length },
             (from, to) => change(from, to, field.change, length),
             () => play(false),
         );

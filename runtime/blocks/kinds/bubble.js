@@ -75,7 +75,6 @@ start("bubble-1", (root) => {
     if (!texts[0]) throw 0;
     texts.slice(0, 2).forEach((text, i) => {
         const spot = make("button", "spot", "\u2026");
-        spot.type = "button";
         spot.title = `What ${picture.alt || "is thought here"} is thinking`;
         spot.style.left = (i ? field.secondPlaceX : field.placeX) + "%";
         spot.style.top = (i ? field.secondPlaceY : field.placeY) + "%";

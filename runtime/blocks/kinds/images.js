@@ -2,13 +2,8 @@
 import { buttonCss, chipCss, motion, restUnder } from "../calm.js";
 import { change } from "../change.js";
 import { fields, make, place, rows, size, start } from "../start.js";
+import { framesCss, sized } from "../pictures.js";
 import { turns, turnsCss } from "../turns.js";
-
-const css =
-    ".box{display:inline-block;position:relative;max-width:100%;vertical-align:top}" +
-    ".stage{isolation:isolate}li{display:grid;place-items:center}a{display:block}" +
-    "img{display:block;max-width:100%;height:auto}" +
-    ".sized img{width:var(--w);height:var(--h);object-fit:contain}";
 
 start("images-1", (root) => {
     const field = fields(root, {
@@ -18,22 +13,17 @@ start("images-1", (root) => {
         times: [0, 0, 10],
         width: size,
         height: size,
+        fit: "contain",
         target: "",
     });
     const items = rows(root, field.target);
     const stage = make("ul", "stage", ...items);
     const box = make("div", "box", stage);
-    for (const item of items)
-        for (const picture of item.querySelectorAll("img")) picture.loading = "eager";
-    if (field.width || field.height) {
-        box.className += " sized";
-        box.style.setProperty("--w", field.width ? field.width + "px" : "auto");
-        box.style.setProperty("--h", field.height ? field.height + "px" : "auto");
-    }
-    place(root, css + turnsCss + buttonCss + chipCss, box);
+    for (const item of items) sized(item, field);
+    place(root, framesCss + turnsCss + buttonCss + chipCss, box);
     const { run } = turns(
         items,
-        { order: "forward", times: field.times, pause: field.seconds * 1000 },
+        { changes: field.times * items.length, pause: field.seconds * 1000 },
         (from, to) => change(from, to, field.transition, field.duration * 1000),
         () => play(false),
     );

@@ -1,5 +1,6 @@
 /** Fading Message: messages that fade in and out, one after the other. */
 import { buttonCss, motion, restUnder } from "../calm.js";
+import { inOrder } from "../order.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
 
@@ -23,7 +24,7 @@ start("message-1", (root) => {
     box.style.textAlign = field.align;
     // As much room as the button has on the other side.
     if (field.align === "center") box.style.paddingLeft = "24px";
-    const timing = { ...field, pause: field.seconds * 1000 };
+    const timing = { ...inOrder(items.length, field), pause: field.seconds * 1000 };
     const duration = field.fadeSeconds * 2000;
     const fade = (/** @type {HTMLElement} */ from, /** @type {HTMLElement} */ to) => {
         from.animate({ opacity: [1, 0, 0] }, duration);

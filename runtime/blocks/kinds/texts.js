@@ -22,7 +22,7 @@ start("texts-1", (root) => {
     place(root, css + turnsCss + buttonCss, box);
     const { run } = turns(
         items,
-        { order: "forward", times: field.times, pause: field.seconds * 1000 },
+        { changes: field.times * items.length, pause: field.seconds * 1000 },
         (from, to) => change(from, to, field.transition, field.duration * 1000),
         () => play(false),
     );

@@ -269,4 +269,141 @@ export const kinds = [
             await until(tab, true, (n) => Boolean(inside("form", n)), n);
         },
     },
+    {
+        kind: "banner",
+        block: `<div data-orvane="banner-1" data-seconds="2" data-duration="0.4">${two}§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            await until(tab, "1,0", stage, n);
+            await tab.evaluate((n) => inside("[title=Next]", n).click(), n);
+            await until(tab, "0,1", stage, n);
+            await tab.evaluate((n) => inside("[title^=Play]", n).click(), n);
+            await until(tab, "1,0", stage, n);
+        },
+    },
+    {
+        kind: "button",
+        block: `<p><span data-orvane="button-1"><a href="plums.html"><img src="a.gif"
+            alt="Our plums" width="100" height="80"></a><img src="b.gif" alt="" hidden
+            data-state="over" loading="lazy">§</span></p>`,
+        words: [],
+        links: ["plums.html"],
+        async sees(tab, n) {
+            const shown = (n) => inside(".shown", n).getAttribute("src");
+            await until(tab, "a.gif", shown, n);
+            await wait(100);
+            await tab.evaluate((n) => inside("a", n).focus(), n);
+            await until(tab, "b.gif", shown, n);
+        },
+    },
+    {
+        kind: "rollover",
+        block: `<div data-orvane="rollover-1"><ul><li><a href="cat.html">The cat</a> <img src="a.gif"
+            alt="It jumps" width="100" height="80"></li><li><a href="dog.html">The dog</a>
+            <img src="b.gif" alt="It sits" width="100" height="80"></li></ul>§</div>`,
+        words: ["The cat", "The dog"],
+        links: ["cat.html", "dog.html"],
+        async sees(tab, n) {
+            const shown = (n) => inside(".shown", n).getAttribute("src");
+            await until(tab, "a.gif", shown, n);
+            await tab.evaluate((n) => inside("li:last-child a", n).focus(), n);
+            await until(tab, "b.gif", shown, n);
+        },
+    },
+    {
+        kind: "image",
+        block: `<div data-orvane="image-1" data-width="200"><ul><li><a href="cat.html"><img
+            src="a.gif" alt="A cat jumps" width="100" height="80"></a></li><li hidden><img
+            src="b.gif" alt="It sits" width="100" height="80" loading="lazy"></li></ul>§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            // Each once before one comes again, from visit to visit.
+            const shown = async () => tab.evaluate((n) => inside("img", n).getAttribute("src"), n);
+            const before = await shown();
+            await tab.evaluate(() => {
+                const html = document.querySelector("[data-orvane]");
+                const copy = html.cloneNode(true);
+                html.replaceWith(copy);
+                const script = document.createElement("script");
+                script.text = copy.querySelector("script")?.text ?? document.scripts[1].text;
+                copy.append(script);
+            });
+            if (n === 0) assert.notEqual(await shown(), before);
+        },
+    },
+    {
+        kind: "film",
+        block: `<div data-orvane="film-1" data-speed="120" data-height="80" data-film-look="yes">${two}§</div>`,
+        words: [],
+        links: ["cat.html"],
+        sees: band,
+    },
+    {
+        kind: "background",
+        block: `<span data-orvane="background-1" data-last-color="#004000" data-seconds="1">§</span>`,
+        words: [],
+        links: [],
+        once: true,
+        async sees(tab) {
+            const color = () => getComputedStyle(document.body).backgroundColor;
+            const green = Number((await tab.evaluate(color)).match(/\d+/));
+            assert.ok(green > 0, "it begins bright");
+            await until(tab, "rgb(0, 64, 0)", color);
+        },
+    },
+    {
+        kind: "quake",
+        block: `<span data-orvane="quake-1" data-seconds="3">§</span>`,
+        words: [],
+        links: [],
+        once: true,
+        async sees(tab) {
+            const places = new Set();
+            for (let i = 0; i < 8; i++)
+                places.add(await tab.evaluate(() => document.body.getBoundingClientRect().x));
+            assert.ok(places.size > 2, "it stands still");
+        },
+    },
+    {
+        kind: "sound",
+        block: `<div data-orvane="sound-1" data-controls="no"><audio src="bell.wav" controls
+            preload="none"></audio>§</div>`,
+        words: [],
+        links: [],
+        async sees(tab, n) {
+            await until(
+                tab,
+                "Play the sound",
+                (n) => inside("button:not([hidden])", n)?.textContent,
+                n,
+            );
+        },
+    },
+    {
+        kind: "calendar",
+        block: `<div data-orvane="calendar-1" data-language="de" data-time-zone="UTC"><time
+            hidden></time>§</div>`,
+        words: [],
+        links: [],
+        ticks: true,
+        async sees(tab, n) {
+            const today = new Date().toLocaleString("de", { timeZone: "UTC", month: "long" });
+            await until(tab, today, (n) => inside(".month", n).textContent, n);
+        },
+    },
+    {
+        kind: "window",
+        block: `<div data-orvane="window-1" data-title="News" data-wait-seconds="0"><p>Plums are
+            <a href="plums.html">in</a>.</p>§</div>`,
+        words: ["Plums are in"],
+        links: ["plums.html"],
+        async sees(tab, n) {
+            const bottom = (n) => Math.round(inside("aside", n).getBoundingClientRect().bottom);
+            await until(tab, 588, bottom, n);
+            await tab.evaluate((n) => inside("[title=Close]", n).click(), n);
+            await until(tab, true, (n) => inside("aside", n).hidden, n);
+        },
+    },
 ];
