@@ -12,7 +12,7 @@ const bars = 48;
 const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i));
 
 /** The numbers below `count` in random order. @param {number} count */
-function shuffled(count) {
+export function shuffled(count) {
     const order = pieces(count, (i) => [i, 0, 0, 0]).map(([i]) => i);
     for (let i = count - 1; i > 0; i--) {
         const j = Math.floor(Math.random() * (i + 1));
@@ -64,6 +64,12 @@ const strips = (p, left, up) =>
         const long = stair(p, (up ? rows - 1 - i : i) / (rows - 1));
         return [left ? 1 - long : 0, i / rows, long, 1 / rows];
     });
+
+/**
+ * The random order in which a transition uncovers its dots or lines.
+ * @param {number} kind
+ */
+export const orderOf = (kind) => shuffled(kind === 12 ? 400 : bars);
 
 /** Lines in random order. @param {number[]} order @param {number} p @returns {Piece[]} */
 const some = (order, p) =>
@@ -119,7 +125,7 @@ const uncovered = {
  * @param {number} kind @param {number} p @param {number[]} order
  * @param {number} w @param {number} h
  */
-function coverPath(kind, p, order, w, h) {
+export function coverPath(kind, p, order, w, h) {
     const all = `M0 0H${w}V${h}H0Z`;
     if (kind === 2 || kind === 3) {
         const radius = (Math.hypot(w, h) / 2) * (kind === 2 ? 1 - p : p);
@@ -143,7 +149,7 @@ export class Reveal {
         this.element = /** @type {HTMLImageElement} */ (element);
         this.kind = kind === 23 ? Math.floor(Math.random() * 23) : kind;
         this.seconds = seconds;
-        this.order = shuffled(this.kind === 12 ? 400 : bars);
+        this.order = orderOf(this.kind);
         /** @type {ReturnType<typeof placeOver> | null} */
         this.place = null;
         this.before = "";

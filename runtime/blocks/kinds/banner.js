@@ -1,0 +1,52 @@
+/** Banner/Billboard Wizard: linked pictures that take turns. */
+import { buttonCss, chipCss, motion, restUnder } from "../calm.js";
+import { shuffled } from "../../reveal.js";
+import { change } from "../change.js";
+import { fields, make, on, place, rows, size, start } from "../start.js";
+import { turns, turnsCss } from "../turns.js";
+import { framesCss, sized } from "../pictures.js";
+
+const css =
+    ".arrow{right:0;top:50%;bottom:auto;margin:-16px 4px;padding:0;text-align:center;" +
+    "font:24px/22px sans-serif}.arrow::before{content:none}.back{right:auto}";
+
+start("banner-1", (root) => {
+    const field = fields(root, {
+        seconds: [5, 2, 600],
+        transition: "fade",
+        duration: [1, 0.2, 5],
+        randomFirst: false,
+        pauseOnHover: true,
+        arrows: true,
+        width: size,
+        height: size,
+        fit: "contain",
+        target: "",
+    });
+    const items = rows(root, field.target);
+    if (field.randomFirst) items.push(...items.splice(0, shuffled(items.length)[0]));
+    const stage = make("ul", "stage", ...items);
+    const box = make("div", "box");
+    for (const item of items) sized(item, field);
+    place(root, framesCss + turnsCss + buttonCss + chipCss + css, box);
+    const { run, go } = turns(items, { pause: field.seconds * 1000 }, (from, to) =>
+        change(from, to, field.transition, field.duration * 1000),
+    );
+    const { button, play, rest } = motion(root, "the banners", run);
+    if (field.pauseOnHover) restUnder(stage, rest);
+    /** @param {string} name @param {string} sign @param {number} step */
+    const arrow = (name, sign, step) => {
+        const made = make("button", step < 0 ? "arrow back" : "arrow", sign);
+        made.title = name;
+        on(made, "click", () => {
+            play(false);
+            go(step);
+        });
+        return made;
+    };
+    // Readers meet the buttons before what they change.
+    if (items[1]) box.append(button);
+    if (items[1] && field.arrows)
+        box.append(arrow("Previous", "\u2039", -1), arrow("Next", "\u203a", 1));
+    box.append(stage);
+});

@@ -1,0 +1,409 @@
+/**
+ * The blocks that are looked at, one row a kind: `block` is written by hand as the contract has it,
+ * with § for its script; `words` and `links` are what it says without the script; `sees` throws
+ * unless the visitor sees what the effect's description promises.
+ */
+import assert from "../page_script/assert.mjs";
+import { wait } from "../page_script/tools.mjs";
+
+/** Waits until what `take` gives of the n-th block is `wanted`; says what it was instead. */
+async function until(tab, wanted, take, ...values) {
+    for (const begin = Date.now(); ; await wait(30)) {
+        const seen = await tab.evaluate(take, ...values);
+        if (String(seen) === String(wanted)) return;
+        if (Date.now() - begin > 6000) throw new Error(`${seen} for ${wanted} of ${take}`);
+    }
+}
+
+/** Where an element in the n-th block begins, and whether it moves. */
+const x = (tab, css, n) =>
+    tab.evaluate((css, n) => inside(css, n).getBoundingClientRect().x, css, n);
+async function moves(tab, css, n) {
+    const places = [];
+    for (let i = 0; i < 10; i++) {
+        places.push(
+            await tab.evaluate((css, n) => getComputedStyle(inside(css, n)).transform, css, n),
+        );
+        await wait(40);
+    }
+    assert.ok(new Set(places).size > 2, `it stands still at ${places[0]}`);
+}
+
+/** The opacities of the items of a stage, to one digit. */
+const stage = (n) =>
+    [...inside(".stage", n).children].map((e) => Math.round(getComputedStyle(e).opacity * 10) / 10);
+/** Whether the first item of a stage is clipped, as transitions do it. */
+const clipped = (n) => inside(".stage", n).firstElementChild.style.clipPath.includes("evenodd");
+
+/** The band of the n-th block moves to the left, without a gap at its end. */
+async function band(tab, n) {
+    await wait(200);
+    const before = await x(tab, ".group", n);
+    await wait(300);
+    const moved = before - (await x(tab, ".group", n));
+    assert.ok(moved > 15 && moved < 250, `moved by ${moved}`);
+    const right = (css) =>
+        tab.evaluate((css, n) => inside(css, n).getBoundingClientRect().right, css, n);
+    assert.ok((await right(".group:last-child")) > (await right(".view")));
+}
+
+const two = `<ul><li><a href="cat.html"><img src="a.gif" alt="A cat jumps" width="100" height="80"></a></li>
+    <li><img src="b.gif" alt="It sits" width="100" height="80"></li></ul>`;
+
+export const kinds = [
+    {
+        kind: "scroller",
+        block: `<div data-orvane="scroller-1" data-speed="120" data-font="Georgia, serif"
+            data-font-size="18" data-text-color="#ffffff" data-back-color="#002244"
+            data-faded-edges="yes" data-width="600"><ul><li>Seeds are in</li>
+            <li><a href="plums.html">Plums from Monday</a></li></ul>§</div>`,
+        words: ["Seeds are in", "Plums from Monday"],
+        links: ["plums.html"],
+        sees: band,
+    },
+    {
+        kind: "message",
+        block: `<div data-orvane="message-1" data-seconds="1" data-fade-seconds="0.3"><ul>
+            <li>Open on Sundays</li><li><a href="rooms.html">Two rooms are free</a></li></ul>§</div>`,
+        words: ["Open on Sundays", "Two rooms are free"],
+        links: ["rooms.html"],
+        async sees(tab, n) {
+            await until(tab, "1,0", stage, n);
+            await until(tab, "0,0", stage, n);
+            await until(tab, "0,1", stage, n);
+        },
+    },
+    {
+        kind: "animation",
+        block: `<div data-orvane="animation-1" data-milliseconds="600" data-change="10"><ul>
+            <li><a href="cat.html"><img src="a.gif" alt="A cat jumps" width="100" height="80"></a></li>
+            <li hidden><img src="b.gif" alt="" width="100" height="80" loading="lazy"></li></ul>§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            await until(tab, true, clipped, n);
+            await until(tab, "0,1", stage, n);
+        },
+    },
+    {
+        kind: "flying",
+        block: `<p>New: <span data-orvane="flying-1" data-from="all" data-path="spiral"
+            data-letter-pause="40" data-flight-seconds="0.8" data-font-size="28"
+            data-font-style="bold" data-text-color="#880044">Plums <a href="plums.html">from
+            Monday</a>§</span></p>`,
+        words: ["Plums from Monday"],
+        links: ["plums.html"],
+        once: true,
+        async sees(tab, n) {
+            await moves(tab, ".word:last-child span", n);
+            const wide = () => document.documentElement.scrollWidth - innerWidth;
+            assert.ok((await tab.evaluate(wide)) <= 0, "a scroll bar appears");
+            await until(tab, true, (n) => !inside(".letters", n), n);
+        },
+    },
+    {
+        kind: "falling",
+        block: `<div data-orvane="falling-1" data-number="12" data-speed="150" data-turning="yes"><ul hidden>
+            <li><img src="a.gif" alt="" width="100" height="80" loading="lazy"></li>
+            <li><img src="b.gif" alt="" width="100" height="80" loading="lazy"></li></ul>§</div>`,
+        words: [],
+        links: [],
+        async sees(tab, n) {
+            const tops = (n) =>
+                [...inside(".flight", n).children].map((e) => e.getBoundingClientRect().y);
+            await wait(300);
+            const before = await tab.evaluate(tops, n);
+            await wait(200);
+            const after = await tab.evaluate(tops, n);
+            assert.equal(before.length, 12);
+            assert.ok(after.filter((y, i) => y > before[i]).length > 9, "they fall");
+        },
+    },
+    {
+        kind: "navigator",
+        block: `<div data-orvane="navigator-1" data-speed="120" data-back-color="#f4f0e0"
+            data-font-style="bold"><ul><li data-color="#a00000"><a href="a.html">Home</a></li>
+            <li data-color="#005000"><a href="b.html">Our rooms</a></li></ul>§</div>`,
+        words: ["Home", "Our rooms"],
+        links: ["a.html", "b.html"],
+        async sees(tab, n) {
+            await band(tab, n);
+            const colors = (n) =>
+                [1, 2].map((i) => getComputedStyle(inside(`.group li:nth-child(${i}) a`, n)).color);
+            await until(tab, "rgb(160, 0, 0),rgb(0, 80, 0)", colors, n);
+        },
+    },
+    {
+        kind: "texts",
+        block: `<div data-orvane="texts-1" data-seconds="1" data-transition="10" data-font-size="24">
+            <ul><li>Open on Sundays</li><li><a href="rooms.html">Two rooms are free</a></li></ul>§</div>`,
+        words: ["Open on Sundays", "Two rooms are free"],
+        links: ["rooms.html"],
+        async sees(tab, n) {
+            await until(tab, true, clipped, n);
+            await until(tab, "0,1", stage, n);
+        },
+    },
+    {
+        kind: "images",
+        block: `<div data-orvane="images-1" data-seconds="1" data-transition="2">${two}§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            await until(tab, true, clipped, n);
+            await until(tab, "0,1", stage, n);
+        },
+    },
+    {
+        kind: "grow",
+        block: `<p>New: <span data-orvane="grow-1" data-from="20" data-to="200" data-times="0"
+            data-text-color="#880044">Plums§</span></p>`,
+        words: ["Plums"],
+        links: [],
+        async sees(tab, n) {
+            await moves(tab, ".text", n);
+        },
+    },
+    {
+        kind: "flash",
+        block: `<p>New: <span data-orvane="flash-1" data-times-per-second="3" data-seconds="0">Plums§</span></p>`,
+        words: ["Plums"],
+        links: [],
+        async sees(tab, n) {
+            const color = (n) => getComputedStyle(inside(".text", n)).backgroundColor;
+            await until(tab, "rgb(192, 0, 0)", color, n);
+            await until(tab, "rgba(0, 0, 0, 0)", color, n);
+        },
+    },
+    {
+        kind: "shake",
+        block: `<p>New: <span data-orvane="shake-1" data-burst-seconds="2" data-pixels="8">Plums§</span></p>`,
+        words: ["Plums"],
+        links: [],
+        async sees(tab, n) {
+            await moves(tab, ".text", n);
+        },
+    },
+    {
+        kind: "textbutton",
+        block: `<p>See <span data-orvane="textbutton-1" data-hover-text="Now!"><a href="plums.html">Our
+            plums</a>§</span></p>`,
+        words: ["Our plums"],
+        links: ["plums.html"],
+        async sees(tab, n) {
+            await tab.evaluate((n) => inside("a", n).focus(), n);
+            await tab.keyboard.press("Tab");
+            await tab.evaluate((n) => inside("a", n).focus({ focusVisible: true }), n);
+            await until(
+                tab,
+                "0,1",
+                (n) => ["two", "over"].map((c) => getComputedStyle(inside("." + c, n)).opacity),
+                n,
+            );
+        },
+    },
+    {
+        kind: "swirl",
+        block: `<p><span data-orvane="swirl-1" data-font-size="40" data-font-style="bold"
+            data-seconds="4">Plums from Monday§</span></p>`,
+        words: ["Plums from Monday"],
+        links: [],
+        async sees(tab, n) {
+            const position = (n) => getComputedStyle(inside(".text", n)).backgroundPositionX;
+            const before = await tab.evaluate(position, n);
+            await wait(300);
+            assert.notEqual(await tab.evaluate(position, n), before);
+        },
+    },
+    {
+        kind: "quote",
+        block: `<div data-orvane="quote-1" data-rule="seconds" data-seconds="2"><ul>
+            <li><blockquote>Well begun is half done.</blockquote><cite>A saying</cite></li>
+            <li hidden><blockquote>Look before you leap.</blockquote></li></ul>§</div>`,
+        words: ["Well begun is half done."],
+        links: [],
+        async sees(tab, n) {
+            const text = (n) => inside(".shown blockquote", n).textContent;
+            const other = { W: "Look before you leap.", L: "Well begun is half done." };
+            await until(tab, other[(await tab.evaluate(text, n))[0]], text, n);
+        },
+    },
+    {
+        kind: "bubble",
+        block: `<div data-orvane="bubble-1" data-place-x="60" data-place-y="70"><figure><img
+            src="photo.gif" alt="Our dog" width="200" height="150"><figcaption><p>Is it lunch
+            yet?</p></figcaption></figure>§</div>`,
+        words: ["Is it lunch yet?"],
+        links: [],
+        async sees(tab, n) {
+            const shown = (n) => getComputedStyle(inside(".bubble", n)).visibility;
+            await until(tab, "hidden", shown, n);
+            await tab.evaluate((n) => inside("button", n).click(), n);
+            await until(tab, "visible", shown, n);
+            await tab.keyboard.press("Escape");
+            await until(tab, "hidden", shown, n);
+        },
+    },
+    {
+        kind: "credits",
+        block: `<div data-orvane="credits-1" data-speed="80" data-wait-seconds="0" data-height="120"
+            data-tilted="yes"><p>Written by Ann</p><p><a href="bob.html">Music by Bob</a></p>§</div>`,
+        words: ["Written by Ann", "Music by Bob"],
+        links: ["bob.html"],
+        async sees(tab, n) {
+            await moves(tab, ".text", n);
+        },
+    },
+    {
+        kind: "greeting",
+        block: `<div data-orvane="greeting-1" data-visits="yes">Hello!§</div>`,
+        words: ["Hello!"],
+        links: [],
+        async sees(tab, n) {
+            await tab.evaluate((n) => {
+                inside("input", n).value = "<b>Jim</b>";
+                inside("form", n).requestSubmit();
+            }, n);
+            await until(tab, "Hello, <b>Jim</b>!", (n) => inside("p", n).textContent, n);
+            await tab.evaluate((n) => inside(".link", n).click(), n);
+            await until(tab, true, (n) => Boolean(inside("form", n)), n);
+        },
+    },
+    {
+        kind: "banner",
+        block: `<div data-orvane="banner-1" data-seconds="2" data-duration="0.4">${two}§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            await until(tab, "1,0", stage, n);
+            await tab.evaluate((n) => inside("[title=Next]", n).click(), n);
+            await until(tab, "0,1", stage, n);
+            await tab.evaluate((n) => inside("[title^=Play]", n).click(), n);
+            await until(tab, "1,0", stage, n);
+        },
+    },
+    {
+        kind: "button",
+        block: `<p><span data-orvane="button-1"><a href="plums.html"><img src="a.gif"
+            alt="Our plums" width="100" height="80"></a><img src="b.gif" alt="" hidden
+            data-state="over" loading="lazy">§</span></p>`,
+        words: [],
+        links: ["plums.html"],
+        async sees(tab, n) {
+            const shown = (n) => inside(".shown", n).getAttribute("src");
+            await until(tab, "a.gif", shown, n);
+            await wait(100);
+            await tab.evaluate((n) => inside("a", n).focus(), n);
+            await until(tab, "b.gif", shown, n);
+        },
+    },
+    {
+        kind: "rollover",
+        block: `<div data-orvane="rollover-1"><ul><li><a href="cat.html">The cat</a> <img src="a.gif"
+            alt="It jumps" width="100" height="80"></li><li><a href="dog.html">The dog</a>
+            <img src="b.gif" alt="It sits" width="100" height="80"></li></ul>§</div>`,
+        words: ["The cat", "The dog"],
+        links: ["cat.html", "dog.html"],
+        async sees(tab, n) {
+            const shown = (n) => inside(".shown", n).getAttribute("src");
+            await until(tab, "a.gif", shown, n);
+            await tab.evaluate((n) => inside("li:last-child a", n).focus(), n);
+            await until(tab, "b.gif", shown, n);
+        },
+    },
+    {
+        kind: "image",
+        block: `<div data-orvane="image-1" data-width="200"><ul><li><a href="cat.html"><img
+            src="a.gif" alt="A cat jumps" width="100" height="80"></a></li><li hidden><img
+            src="b.gif" alt="It sits" width="100" height="80" loading="lazy"></li></ul>§</div>`,
+        words: [],
+        links: ["cat.html"],
+        async sees(tab, n) {
+            // Each once before one comes again, from visit to visit.
+            const shown = async () => tab.evaluate((n) => inside("img", n).getAttribute("src"), n);
+            const before = await shown();
+            await tab.evaluate(() => {
+                const html = document.querySelector("[data-orvane]");
+                const copy = html.cloneNode(true);
+                html.replaceWith(copy);
+                const script = document.createElement("script");
+                script.text = copy.querySelector("script")?.text ?? document.scripts[1].text;
+                copy.append(script);
+            });
+            if (n === 0) assert.notEqual(await shown(), before);
+        },
+    },
+    {
+        kind: "film",
+        block: `<div data-orvane="film-1" data-speed="120" data-height="80" data-film-look="yes">${two}§</div>`,
+        words: [],
+        links: ["cat.html"],
+        sees: band,
+    },
+    {
+        kind: "background",
+        block: `<span data-orvane="background-1" data-last-color="#004000" data-seconds="1">§</span>`,
+        words: [],
+        links: [],
+        once: true,
+        async sees(tab) {
+            const color = () => getComputedStyle(document.body).backgroundColor;
+            const green = Number((await tab.evaluate(color)).match(/\d+/));
+            assert.ok(green > 0, "it begins bright");
+            await until(tab, "rgb(0, 64, 0)", color);
+        },
+    },
+    {
+        kind: "quake",
+        block: `<span data-orvane="quake-1" data-seconds="3">§</span>`,
+        words: [],
+        links: [],
+        once: true,
+        async sees(tab) {
+            const places = new Set();
+            for (let i = 0; i < 8; i++)
+                places.add(await tab.evaluate(() => document.body.getBoundingClientRect().x));
+            assert.ok(places.size > 2, "it stands still");
+        },
+    },
+    {
+        kind: "sound",
+        block: `<div data-orvane="sound-1" data-controls="no"><audio src="bell.wav" controls
+            preload="none"></audio>§</div>`,
+        words: [],
+        links: [],
+        async sees(tab, n) {
+            await until(
+                tab,
+                "Play the sound",
+                (n) => inside("button:not([hidden])", n)?.textContent,
+                n,
+            );
+        },
+    },
+    {
+        kind: "calendar",
+        block: `<div data-orvane="calendar-1" data-language="de" data-time-zone="UTC"><time
+            hidden></time>§</div>`,
+        words: [],
+        links: [],
+        ticks: true,
+        async sees(tab, n) {
+            const today = new Date().toLocaleString("de", { timeZone: "UTC", month: "long" });
+            await until(tab, today, (n) => inside(".month", n).textContent, n);
+        },
+    },
+    {
+        kind: "window",
+        block: `<div data-orvane="window-1" data-title="News" data-wait-seconds="0"><p>Plums are
+            <a href="plums.html">in</a>.</p>§</div>`,
+        words: ["Plums are in"],
+        links: ["plums.html"],
+        async sees(tab, n) {
+            const bottom = (n) => Math.round(inside("aside", n).getBoundingClientRect().bottom);
+            await until(tab, 588, bottom, n);
+            await tab.evaluate((n) => inside("[title=Close]", n).click(), n);
+            await until(tab, true, (n) => inside("aside", n).hidden, n);
+        },
+    },
+];
