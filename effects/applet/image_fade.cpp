@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "effects/applet/applet_tag_builder.h"
 #include "reedit/applet_values.h"
+#include "services/file_complaints.h"
 #include "services/move_row.h"
 
 #include <algorithm>
@@ -35,9 +36,9 @@ std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image)
     const Text width = NumberToText(image.Size->Width);
     const Text height = NumberToText(image.Size->Height);
     if (!fade.FadeImages.empty() && (width != fade.FadeWidth || height != fade.FadeHeight))
-        return Complaint{u"The images must be exactly the same size.  If one image is 100 pixels "
-                         u"by 100 pixels, then this image must be 100 x 100.",
-                         ""};
+        return AboutFiles(u"The images must be exactly the same size.  If one image is 100 pixels "
+                          u"by 100 pixels, then this image must be 100 x 100.",
+                          {name});
     fade.FadeWidth = width;
     fade.FadeHeight = height;
     fade.FadeImages.push_back(name);
@@ -47,10 +48,12 @@ std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image)
     return std::nullopt;
 }
 
-void ForgetImage(ImageFade& fade, std::size_t row)
+ForgottenImage ForgetImage(ImageFade& fade, std::size_t row)
 {
+    ForgottenImage image{.Source = {}, .Width = fade.FadeWidth, .Height = fade.FadeHeight};
     auto& sources = fade.Required.Sources;
     if (row < sources.size()) {
+        image.Source = sources[row];
         std::move(sources.begin() + row + 1, sources.end(), sources.begin() + row);
         sources.back().clear();
     }
@@ -58,6 +61,18 @@ void ForgetImage(ImageFade& fade, std::size_t row)
         fade.FadeWidth.clear();
         fade.FadeHeight.clear();
     }
+    return image;
+}
+
+void RecallImage(ImageFade& fade, std::size_t row, const ForgottenImage& image)
+{
+    auto& sources = fade.Required.Sources;
+    if (row < sources.size()) {
+        std::move_backward(sources.begin() + row, sources.end() - 1, sources.end());
+        sources[row] = image.Source;
+    }
+    fade.FadeWidth = image.Width;
+    fade.FadeHeight = image.Height;
 }
 
 void MoveSource(ImageFade& fade, std::size_t from, std::size_t to)
