@@ -17,17 +17,16 @@ Complaint AboutFiles(TextView words, const std::vector<Text>& names)
     return complaint;
 }
 
-void FileComplaints::Add(const Complaint& complaint)
+void FileComplaints::Add(const Complaint& complaint, TextView name)
 {
-    const std::size_t end = complaint.Words.rfind(lineEnd);
-    const Text words = complaint.Words.substr(0, end);
-    const Text name = complaint.Words.substr(end + lineEnd.size());
-    const auto same =
-        std::ranges::find(m_files, words, [](const auto& files) { return files.first; });
+    Text words = complaint.Words;
+    if (const Text line = Join({lineEnd, name}); words.ends_with(line))
+        words.resize(words.size() - line.size());
+    const auto same = std::ranges::find(m_files, words, &std::pair<Text, std::vector<Text>>::first);
     if (same != m_files.end())
-        same->second.push_back(name);
+        same->second.emplace_back(name);
     else
-        m_files.push_back({words, {name}});
+        m_files.push_back({words, {Text(name)}});
 }
 
 std::vector<Complaint> FileComplaints::All() const

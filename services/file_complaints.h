@@ -15,8 +15,8 @@ Complaint AboutFiles(TextView words, const std::vector<Text>& names);
 class FileComplaints
 {
 public:
-    /// Notes a complaint of AboutFiles() about one file.
-    void Add(const Complaint& complaint);
+    /// Notes a complaint about one file, whose name may be its last line already.
+    void Add(const Complaint& complaint, TextView name);
 
     /// Each complaint once, about all its files.
     std::vector<Complaint> All() const;

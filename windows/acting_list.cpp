@@ -48,7 +48,9 @@ void ActingList::keyPressEvent(QKeyEvent* event)
         return;
     if (isSelected && key == Qt::Key_Delete && Tell(&ActingList::Deleted))
         return;
-    if (!isSelected && count() > 0 && (key == Qt::Key_Down || key == Qt::Key_Up))
+    const bool isFirstStep = key == Qt::Key_Down || key == Qt::Key_Up ||
+                             (key == Qt::Key_Space && !currentIndex().isValid());
+    if (!isSelected && count() > 0 && isFirstStep)
         setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
     else
         QListWidget::keyPressEvent(event);

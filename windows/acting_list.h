@@ -6,8 +6,8 @@ namespace orvane {
 
 /// A list box that signals double clicks, on a row or beside the rows, and Enter and Delete while a
 /// row is selected; a key that nobody listens to goes on to the window, as Enter to its default
-/// button. With no row selected, Up or Down selects the first one. A mouse press beside the rows
-/// leaves the selection as it is.
+/// button. With no row selected, Up, Down or Space selects the first one. A mouse press beside the
+/// rows leaves the selection as it is.
 class ActingList : public QListWidget
 {
     Q_OBJECT

@@ -20,6 +20,13 @@ struct DroppedFiles
     std::vector<Text> LeftOut;
 };
 
+/// The name of a file or folder; an address without one is shown whole.
+Text NameOf(const QUrl& url)
+{
+    const QString name = url.adjusted(QUrl::StripTrailingSlash).fileName();
+    return FromQt(name.isEmpty() ? url.toDisplayString() : name);
+}
+
 DroppedFiles FilesIn(const QMimeData& dropped, TextView masks)
 {
     DroppedFiles files;
@@ -28,8 +35,7 @@ DroppedFiles FilesIn(const QMimeData& dropped, TextView masks)
         if (QFileInfo(path).isFile() && MatchesMasks(GetFileName(FromQt(path)), masks))
             files.Paths.push_back(FromQt(path));
         else
-            files.LeftOut.push_back(
-                FromQt(url.fileName().isEmpty() ? url.toDisplayString() : url.fileName()));
+            files.LeftOut.push_back(NameOf(url));
     }
     return files;
 }
@@ -50,7 +56,7 @@ bool FileDrop::eventFilter(QObject* target, QEvent* event)
         return QObject::eventFilter(target, event);
     auto* drop = static_cast<QDropEvent*>(event);
     const DroppedFiles files = FilesIn(*drop->mimeData(), m_masks);
-    if (files.Paths.empty() || files.Paths.size() > m_most ||
+    if (files.Paths.empty() || files.Paths.size() + files.LeftOut.size() > m_most ||
         !(drop->possibleActions() & Qt::CopyAction)) {
         drop->ignore();
         return true;

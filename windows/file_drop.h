@@ -17,7 +17,7 @@ class FileDrop : public QObject
     Q_OBJECT
 
 public:
-    /// `masks` are such as "*.jpg;*.gif"; more than `most` files that fit are refused. The widget
+    /// `masks` are such as "*.jpg;*.gif"; more than `most` files at once are refused. The widget
     /// owns the new object; the dialogs must outlive it.
     FileDrop(QWidget& target, TextView masks, Dialogs& dialogs,
              std::size_t most = std::numeric_limits<std::size_t>::max());

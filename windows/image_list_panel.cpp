@@ -219,7 +219,7 @@ void ImageListPanel::AddFiles(const std::vector<Text>& paths)
     std::size_t place = PlaceToAdd(m_list);
     for (const Text& path : paths) {
         if (const auto complaint = AddFile(path, place))
-            refused.Add(*complaint);
+            refused.Add(*complaint, Trim(GetFileName(path)));
         else
             ++place;
     }

@@ -3,7 +3,6 @@
 #include "core/numbers.h"
 #include "effects/applet/applet_tag_builder.h"
 #include "reedit/applet_values.h"
-#include "services/file_complaints.h"
 #include "services/move_row.h"
 
 #include <algorithm>
@@ -36,9 +35,9 @@ std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image)
     const Text width = NumberToText(image.Size->Width);
     const Text height = NumberToText(image.Size->Height);
     if (!fade.FadeImages.empty() && (width != fade.FadeWidth || height != fade.FadeHeight))
-        return AboutFiles(u"The images must be exactly the same size.  If one image is 100 pixels "
-                          u"by 100 pixels, then this image must be 100 x 100.",
-                          {name});
+        return Complaint{u"The images must be exactly the same size.  If one image is 100 pixels "
+                         u"by 100 pixels, then this image must be 100 x 100.",
+                         ""};
     fade.FadeWidth = width;
     fade.FadeHeight = height;
     fade.FadeImages.push_back(name);

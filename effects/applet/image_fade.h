@@ -55,9 +55,9 @@ inline constexpr RowListWords fadeWords = {
         u"Select an item in the Images list.  You cannot move the last image downward.",
 };
 
-/// Adds a picked image behind the others, or gives the complaint about its name or size, with the
-/// name as its last line: all images must have the size of the first. A file that is not a picture
-/// adds nothing and gives no complaint.
+/// Adds a picked image behind the others, or gives the complaint about its name or size: all images
+/// must have the size of the first. A file that is not a picture adds nothing and gives no
+/// complaint.
 std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image);
 
 /// What the fade knew of an image beside its two texts.

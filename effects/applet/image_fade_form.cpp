@@ -104,10 +104,13 @@ void ImageFadeForm::AddImages(const std::vector<Text>& paths)
     FileComplaints refused;
     for (const Text& path : paths) {
         const PickedImage image = Measured(path);
-        if (const auto complaint = orvane::AddImage(fade, image))
-            refused.Add(*complaint);
+        const auto complaint = orvane::AddImage(fade, image);
+        if (complaint && paths.size() == 1)
+            return ShowComplaint(*complaint);
+        if (complaint)
+            refused.Add(*complaint, GetFileName(path));
         else if (!image.Size && paths.size() > 1)
-            refused.Add(AboutFiles(u"Orvane can't read this image:", {Text(GetFileName(path))}));
+            refused.Add({u"Orvane can't read this image:", {}}, GetFileName(path));
     }
     Show(fade);
     if (before < fade.FadeImages.size())
