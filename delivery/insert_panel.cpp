@@ -52,7 +52,7 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench
     page.Fill();
     // Else the box would take a page's address as a text.
     txtFileName->setAcceptDrops(false);
-    connect(new FileDrop(*this, pageMasks, 1), &FileDrop::Dropped, this,
+    connect(new FileDrop(*this, pageMasks, m_bench.Dialogs, 1), &FileDrop::Dropped, this,
             [this](const std::vector<Text>& pages) { TakePage(pages.front()); });
 }
 

@@ -3,8 +3,7 @@
 #include "core/file_names.h"
 #include "insertion/new_page.h"
 #include "insertion/page_script.h"
-
-#include <algorithm>
+#include "services/add_once.h"
 
 namespace orvane {
 
@@ -111,13 +110,31 @@ Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing
     return CopyOrMiss(desk, folder, pageScriptFile, source, missing);
 }
 
+/// A file that the author picked, under the name that the page knows it by.
+struct PickedFile
+{
+    Text Name;
+    Text Source; ///< empty when nobody knows where it lies
+    bool operator==(const PickedFile&) const = default;
+};
+
+/// The author's files, those once that a page names several times.
+std::vector<PickedFile> PickedFiles(const RequiredFiles& required)
+{
+    std::vector<PickedFile> files;
+    for (std::size_t i = 0; i < required.Names.size(); ++i)
+        if (!required.Names[i].empty())
+            AddOnce(files, PickedFile{required.Names[i], required.Sources[i]});
+    return files;
+}
+
 /// The sources of all files that the payload names.
 std::vector<Text> SourcesOf(const CopyDesk& desk)
 {
     std::vector<Text> sources;
-    for (const Text& source : desk.Payload.Effect.Required.Sources)
-        if (!source.empty())
-            sources.push_back(source);
+    for (const PickedFile& file : PickedFiles(desk.Payload.Effect.Required))
+        if (!file.Source.empty())
+            sources.push_back(file.Source);
     for (const Text& name : desk.Payload.Effect.SupportFiles)
         sources.push_back(PathIn(desk.ProgramFolder, name));
     return sources;
@@ -128,12 +145,8 @@ Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
 {
     FollowedCopies copies(desk.Files, desk.Dialogs, folder, SourcesOf(desk));
     desk.Copies = &copies;
-    const RequiredFiles& required = desk.Payload.Effect.Required;
-    for (std::size_t i = 0; i < required.Names.size(); ++i) {
-        if (required.Names[i].empty())
-            continue;
-        const Done done =
-            CopyListedFile(desk, folder, required.Names[i], required.Sources[i], missing);
+    for (const auto& [name, source] : PickedFiles(desk.Payload.Effect.Required)) {
+        const Done done = CopyListedFile(desk, folder, name, source, missing);
         if (FaultIn(done))
             return done;
     }
@@ -151,17 +164,13 @@ Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
 MissingFiles CopyForPreview(const CopyDesk& desk)
 {
     FollowedCopies copies(desk.Files, desk.Dialogs, desk.ProgramFolder, SourcesOf(desk));
-    const RequiredFiles& required = desk.Payload.Effect.Required;
     const std::vector<Text> present = desk.Files.Files(desk.ProgramFolder);
     MissingFiles missing;
-    for (std::size_t i = 0; i < required.Names.size(); ++i) {
-        const Text& name = required.Names[i];
-        if (name.empty())
-            continue;
-        if (required.Sources[i].empty()) {
+    for (const auto& [name, source] : PickedFiles(desk.Payload.Effect.Required)) {
+        if (source.empty()) {
             missing.push_back(name);
         } else if (!IsListed(present, name)) {
-            const Done done = copies.Copy(required.Sources[i], PathIn(desk.ProgramFolder, name));
+            const Done done = copies.Copy(source, PathIn(desk.ProgramFolder, name));
             if (FaultIn(done) && !copies.IsCancelled())
                 missing.push_back(name);
         }

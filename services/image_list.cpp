@@ -75,9 +75,12 @@ std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, std::
 {
     if (auto complaint = CheckNoBlank(Trim(fileName), FileRole::Image))
         return complaint;
+    const bool isAtEnd = place == list.Rows.size();
     list.Rows.insert(list.Rows.begin() + static_cast<std::ptrdiff_t>(place),
                      ImageRow{.FileName = Text(fileName)});
-    if (list.Selected && *list.Selected >= place)
+    if (isAtEnd)
+        list.Selected = place;
+    else if (list.Selected && *list.Selected >= place)
         ++*list.Selected;
     RecordRequiredFile(core, PathIn(folder, fileName), fileName);
     return std::nullopt;

@@ -74,8 +74,9 @@ struct ImageList
 /// or the last one is selected.
 std::size_t PlaceToAdd(const ImageList& list);
 
-/// Inserts a file of `folder` at index `place` and records it for copying; the image that was
-/// selected stays selected. A name with a blank inside is a complaint and changes nothing.
+/// Inserts a file of `folder` at index `place` and records it for copying. An image at the end is
+/// then selected; in front of others it leaves the one selected that was. A name with a blank
+/// inside is a complaint and changes nothing.
 std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, std::size_t place,
                                         TextView folder, TextView fileName);
 

@@ -1,6 +1,7 @@
 #include "services/recorded_files.h"
 
 #include "core/file_names.h"
+#include "services/file_complaints.h"
 
 #include <limits>
 
@@ -11,11 +12,10 @@ std::optional<Complaint> CheckNoBlank(TextView fileName, FileRole role)
     if (fileName.find(u' ') == TextView::npos)
         return std::nullopt;
     const TextView word = role == FileRole::Image ? u"image" : u"sound";
-    return Complaint{.Words =
-                         Join({u"This special effect does not allow ", word,
-                               u" filenames containing space characters.\r\nPlease rename the ",
-                               word, u" or select another ", word, u"."}),
-                     .Control = {}};
+    return AboutFiles(Join({u"This special effect does not allow ", word,
+                            u" filenames containing space characters.\r\nPlease rename the ", word,
+                            u" or select another ", word, u"."}),
+                      {Text(fileName)});
 }
 
 void ClearRequiredFiles(OrvaneCore& core)
@@ -58,6 +58,13 @@ void RequireFile(RequiredFiles& files, std::size_t slot, TextView name)
     Text& source = files.Sources.at(slot);
     if (name.empty() || GetFileName(source) != name)
         source.clear();
+}
+
+void RequireBrowsedFile(RequiredFiles& files, std::size_t slot, TextView name)
+{
+    files.Names.at(slot) = name;
+    if (name.empty())
+        files.Sources.at(slot).clear();
 }
 
 Text RequirePath(RequiredFiles& files, std::size_t slot, TextView path)

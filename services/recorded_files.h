@@ -15,8 +15,8 @@ enum class FileRole
     Sound,
 };
 
-/// The complaint about a file name with a blank in it, or nothing; for effects whose tags allow no
-/// blank.
+/// The complaint about a file name with a blank in it, with the name as its last line, or nothing;
+/// for effects whose tags allow no blank.
 std::optional<Complaint> CheckNoBlank(TextView fileName, FileRole role);
 
 /// Forgets all recorded files, and the support files of the payload.
@@ -37,6 +37,11 @@ void SetRequiredFileCount(OrvaneCore& core);
 /// it is the path of that file; a typed name, or an empty one, has no source. Throws
 /// std::out_of_range for a slot above 50.
 void RequireFile(RequiredFiles& files, std::size_t slot, TextView name);
+
+/// Puts the file name of a field into a slot. The source that Browse left in the slot stays, also
+/// behind a name that was typed over it, until the name is empty. Throws std::out_of_range for a
+/// slot above 50.
+void RequireBrowsedFile(RequiredFiles& files, std::size_t slot, TextView name);
 
 /// Puts a file into a slot and gives its name, which is what follows the last separator of `path`.
 /// The source is `path` if it has a folder, else empty. Throws std::out_of_range for a slot above

@@ -1,7 +1,10 @@
 #include "windows/acting_list.h"
 
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
 
 namespace orvane {
 
@@ -20,8 +23,20 @@ QSize ActingList::sizeHint() const
 void ActingList::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QListWidget::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton)
-        emit DoubleClicked();
+    if (event->button() != Qt::LeftButton)
+        return;
+    emit DoubleClicked();
+    if (indexAt(event->position().toPoint()).isValid())
+        emit RowDoubleClicked();
+}
+
+/// Sends a signal; false, so that the key goes on, when nobody listens to it.
+bool ActingList::Tell(void (ActingList::*signal)())
+{
+    const bool isHeard = isSignalConnected(QMetaMethod::fromSignal(signal));
+    if (isHeard)
+        emit(this->*signal)();
+    return isHeard;
 }
 
 void ActingList::keyPressEvent(QKeyEvent* event)
@@ -29,14 +44,39 @@ void ActingList::keyPressEvent(QKeyEvent* event)
     const int key = event->key();
     const bool isSelected = SelectedRow() >= 0;
     // Taken here, Enter does not reach the window's default button.
-    if (isSelected && (key == Qt::Key_Return || key == Qt::Key_Enter))
-        emit Entered();
-    else if (isSelected && key == Qt::Key_Delete)
-        emit Deleted();
-    else if (!isSelected && count() > 0 && (key == Qt::Key_Down || key == Qt::Key_Up))
+    if (isSelected && (key == Qt::Key_Return || key == Qt::Key_Enter) && Tell(&ActingList::Entered))
+        return;
+    if (isSelected && key == Qt::Key_Delete && Tell(&ActingList::Deleted))
+        return;
+    const bool isFirstStep = key == Qt::Key_Down || key == Qt::Key_Up ||
+                             (key == Qt::Key_Space && !currentIndex().isValid());
+    if (!isSelected && count() > 0 && isFirstStep)
         setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
     else
         QListWidget::keyPressEvent(event);
+}
+
+void ActingList::focusInEvent(QFocusEvent* event)
+{
+    const bool hadCurrent = currentIndex().isValid();
+    QListWidget::focusInEvent(event);
+    // The toolkit makes the first row the current one, whose frame looks as if it were selected.
+    if (!hadCurrent)
+        selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+}
+
+/// With no row to show it, the list as a whole shows that it has the focus.
+void ActingList::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    if (!hasFocus() || currentIndex().isValid())
+        return;
+    QStyleOptionFocusRect frame;
+    frame.initFrom(viewport());
+    frame.state |= QStyle::State_KeyboardFocusChange;
+    frame.rect.adjust(1, 1, -1, -1);
+    QPainter painter(viewport());
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
 }
 
 QItemSelectionModel::SelectionFlags ActingList::selectionCommand(const QModelIndex& index,

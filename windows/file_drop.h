@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/text.h"
+#include "core/dialogs.h"
 
 #include <QWidget>
 
@@ -9,20 +9,22 @@
 
 namespace orvane {
 
-/// Lets the author drop files on a widget or anything in it. A drop is accepted only if all of it
-/// are local files whose names fit the masks; otherwise the mouse pointer shows the refusal.
+/// Lets the author drop files on a widget or anything in it. A drop is accepted if local files are
+/// among it whose names fit the masks; otherwise the mouse pointer shows the refusal. What else was
+/// dropped with them is left out, and named to the author.
 class FileDrop : public QObject
 {
     Q_OBJECT
 
 public:
     /// `masks` are such as "*.jpg;*.gif"; more than `most` files at once are refused. The widget
-    /// owns the new object.
-    FileDrop(QWidget& target, TextView masks,
+    /// owns the new object; the dialogs must outlive it.
+    FileDrop(QWidget& target, TextView masks, Dialogs& dialogs,
              std::size_t most = std::numeric_limits<std::size_t>::max());
 
 signals:
-    /// Files were dropped: their full paths, in the order in which the drag listed them.
+    /// Files were dropped: the full paths of those that fit, in the order in which the drag listed
+    /// them.
     void Dropped(const std::vector<orvane::Text>& paths);
 
 protected:
@@ -30,6 +32,7 @@ protected:
 
 private:
     const Text m_masks;
+    Dialogs& m_dialogs;
     const std::size_t m_most;
 };
 

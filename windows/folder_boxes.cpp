@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QStorageInfo>
 #include <QStyledItemDelegate>
@@ -98,12 +99,18 @@ FolderBoxes::FolderBoxes(const FileStore& files, const FolderBoxNames& names, Te
     if (!names.File.empty()) {
         m_files = new ActingList;
         AddBox(column, names.File, u"Files:", m_files, 3);
-        connect(m_files, &ActingList::DoubleClicked, this, &FolderBoxes::FileActivated);
-        connect(m_files, &ActingList::Entered, this, &FolderBoxes::FileActivated);
         connect(m_files, &QListWidget::itemSelectionChanged, this, &FolderBoxes::FileSelected);
     }
     if (!GoTo(FromQt(QDir::homePath())))
         GoTo(Text(m_folder));
+}
+
+void FolderBoxes::connectNotify(const QMetaMethod& signal)
+{
+    if (m_files == nullptr || signal != QMetaMethod::fromSignal(&FolderBoxes::FileActivated))
+        return;
+    for (const auto act : {&ActingList::RowDoubleClicked, &ActingList::Entered})
+        connect(m_files, act, this, &FolderBoxes::FileActivated, Qt::UniqueConnection);
 }
 
 void FolderBoxes::AddBox(QVBoxLayout* column, ControlName name, TextView caption, QWidget* box,

@@ -60,8 +60,12 @@ signals:
     void FolderPicked();
     /// The selection in the file box changed; it may be empty.
     void FileSelected();
-    /// A double click anywhere in the file box, or Enter on a selected file.
+    /// A double click on a file, or Enter on a selected one. While nobody listens, Enter goes on to
+    /// the window's default button.
     void FileActivated();
+
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
     void AddBox(QVBoxLayout* column, ControlName name, TextView caption, QWidget* box, int stretch);

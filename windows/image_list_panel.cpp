@@ -1,7 +1,7 @@
 #include "windows/image_list_panel.h"
 
 #include "core/file_names.h"
-#include "services/add_once.h"
+#include "services/file_complaints.h"
 #include "services/move_row.h"
 #include "services/recorded_files.h"
 #include "windows/file_drop.h"
@@ -9,13 +9,15 @@
 #include "windows/parallel_lists.h"
 #include "windows/picture.h"
 #include "windows/qt_text.h"
+#include "windows/row_list_panel.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -46,9 +48,9 @@ ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& varia
     m_boxes->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     cmdAdd = MakeButton(variation.AddButton, variation.AddCaption, variation.AddTip);
     m_lists = new ParallelLists(ColumnsOf(variation), variation.RowTip);
-    cmdMoveUp = MakeButton("cmdMoveUp", u"Move Up");
-    cmdMoveDown = MakeButton("cmdMoveDown", u"Move Down");
-    cmdDelete = MakeButton("cmdDelete", u"Delete");
+    cmdMoveUp = MakeButton("cmdMoveUp", u"Move Up", TipOf(RowCommand::MoveUp));
+    cmdMoveDown = MakeButton("cmdMoveDown", u"Move Down", TipOf(RowCommand::MoveDown));
+    cmdDelete = MakeButton("cmdDelete", u"Delete", TipOf(RowCommand::Remove));
     EnableListButtons(!variation.EnablesButtonsOnAdd);
     Arrange();
     Connect();
@@ -98,20 +100,16 @@ void ImageListPanel::Connect()
             LoadPictureOf(PathIn(m_boxes->Folder(), name));
     });
     connect(m_boxes, &FolderBoxes::FileActivated, this, &ImageListPanel::AddImageToList);
-    connect(new FileDrop(*m_lists, imageMasks), &FileDrop::Dropped, this,
+    connect(new FileDrop(*m_lists, imageMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
             &ImageListPanel::AddFiles);
     connect(cmdAdd, &QPushButton::clicked, this, &ImageListPanel::AddSelectedFiles);
     connect(cmdMoveUp, &QPushButton::clicked, this,
             [this] { Tell(MoveUp(m_list, m_variation.ListInMessages)); });
     connect(cmdMoveDown, &QPushButton::clicked, this,
             [this] { Tell(MoveDown(m_list, m_variation.ListInMessages)); });
-    const auto remove = [this] {
-        DeleteRow(m_list);
-        ShowList();
-    };
-    connect(cmdDelete, &QPushButton::clicked, this, remove);
-    connect(m_lists, &ParallelLists::RowDeleted, this, remove);
-    connect(m_lists, &ParallelLists::RowDragged, this, [this](int place) {
+    connect(cmdDelete, &QPushButton::clicked, this, &ImageListPanel::Remove);
+    connect(m_lists, &ParallelLists::RowDeleted, this, &ImageListPanel::Remove);
+    connect(m_lists, &ParallelLists::MoveWanted, this, [this](int place) {
         MoveSelectedTo(m_list, static_cast<std::size_t>(place));
         ShowList();
     });
@@ -120,11 +118,36 @@ void ImageListPanel::Connect()
         ShowPictureOfRow();
         emit RowSelected();
     });
-    connect(m_lists, &ParallelLists::RowActivated, this, &ImageListPanel::RowActivated);
     connect(m_lists, &ParallelLists::MenuRequested, this, [this](QPoint place) {
         if (m_list.Selected)
             emit MenuRequested(place);
     });
+}
+
+void ImageListPanel::connectNotify(const QMetaMethod& signal)
+{
+    if (signal == QMetaMethod::fromSignal(&ImageListPanel::RowActivated))
+        connect(m_lists, &ParallelLists::RowActivated, this, &ImageListPanel::RowActivated,
+                Qt::UniqueConnection);
+}
+
+void ImageListPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (!event->matches(QKeySequence::Undo))
+        return QWidget::keyPressEvent(event);
+    if (!m_removed.PutBack(m_list))
+        return;
+    ShowList();
+    ShowPictureOfRow();
+    emit RowSelected();
+}
+
+void ImageListPanel::Remove()
+{
+    if (m_list.Selected)
+        m_removed.Keep(*m_list.Selected, m_list.Rows[*m_list.Selected]);
+    DeleteRow(m_list);
+    ShowList();
 }
 
 void ImageListPanel::SetSizeFields(QLineEdit* width, QLineEdit* height)
@@ -136,6 +159,7 @@ void ImageListPanel::SetSizeFields(QLineEdit* width, QLineEdit* height)
 void ImageListPanel::SetRows(std::vector<ImageRow> rows)
 {
     m_list = {.Rows = std::move(rows), .Selected = {}};
+    m_removed.Forget();
     if (!m_list.Rows.empty())
         EnableListButtons(true);
     ShowList();
@@ -161,9 +185,10 @@ void ImageListPanel::LoadPictureOf(const Text& path)
 
 void ImageListPanel::ShowPictureOfRow()
 {
-    if (m_preview == nullptr || !m_list.Selected)
+    if (m_preview == nullptr)
         return;
-    const Text path = SourceOf(m_bench.Core, m_list.Rows[*m_list.Selected].FileName);
+    const Text path =
+        m_list.Selected ? SourceOf(m_bench.Core, m_list.Rows[*m_list.Selected].FileName) : Text();
     const auto picture = LoadPicture(ToQt(path), previewRoom);
     m_preview->setPixmap(picture ? QPixmap::fromImage(picture->Thumbnail) : QPixmap());
 }
@@ -180,9 +205,8 @@ void ImageListPanel::AddImageToList()
     std::vector<Text> paths;
     for (const Text& name : m_boxes->SelectedFiles())
         paths.push_back(PathIn(m_boxes->Folder(), name));
-    if (paths.empty())
-        paths.push_back(PathIn(m_boxes->Folder(), {}));
-    AddFiles(paths);
+    if (!paths.empty())
+        AddFiles(paths);
 }
 
 /// Adds what can be added, and says each thing that speaks against the others once.
@@ -191,26 +215,32 @@ void ImageListPanel::AddFiles(const std::vector<Text>& paths)
     // The buttons come alive even if the name is refused.
     if (m_variation.EnablesButtonsOnAdd)
         EnableListButtons(true);
-    std::vector<Complaint> complaints;
+    FileComplaints refused;
     std::size_t place = PlaceToAdd(m_list);
     for (const Text& path : paths) {
         if (const auto complaint = AddFile(path, place))
-            AddOnce(complaints, *complaint);
+            refused.Add(*complaint, Trim(GetFileName(path)));
         else
             ++place;
     }
     ShowList();
+    const std::vector<Complaint> complaints = refused.All();
+    if (!complaints.empty())
+        ShowPictureOfRow(); // in place of a refused one
+    if (m_list.Selected)
+        emit RowSelected();
     for (const Complaint& complaint : complaints)
         m_bench.Dialogs.Say(complaint.Words, complaint.Look);
 }
 
 std::optional<Complaint> ImageListPanel::AddFile(const Text& path, std::size_t place)
 {
-    LoadPictureOf(path);
-    auto complaint =
-        orvane::AddImageToList(m_list, m_bench.Core, place, FolderOf(path), GetFileName(path));
-    if (complaint || m_width == nullptr)
+    if (auto complaint =
+            orvane::AddImageToList(m_list, m_bench.Core, place, FolderOf(path), GetFileName(path)))
         return complaint;
+    LoadPictureOf(path);
+    if (m_width == nullptr)
+        return std::nullopt;
     m_width->setText(ToQt(GrownField(FromQt(m_width->text()), m_pictureSize.width())));
     m_height->setText(ToQt(GrownField(FromQt(m_height->text()), m_pictureSize.height())));
     return std::nullopt;

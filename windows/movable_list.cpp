@@ -2,6 +2,7 @@
 
 #include <QDrag>
 #include <QDropEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 
 namespace orvane {
@@ -31,6 +32,20 @@ QMimeData* MovableList::mimeData(const QList<QListWidgetItem*>&) const
     return dragged;
 }
 
+/// At an end of the list a key moves nothing and says nothing: held down, it would say it again and
+/// again.
+void MovableList::keyPressEvent(QKeyEvent* event)
+{
+    const bool isUp = event->key() == Qt::Key_Up;
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (SelectedRow() < 0 || modifiers != Qt::AltModifier ||
+        (!isUp && event->key() != Qt::Key_Down))
+        return ActingList::keyPressEvent(event);
+    const int place = SelectedRow() + (isUp ? -1 : 1);
+    if (place >= 0 && place < count())
+        emit MoveWanted(place);
+}
+
 /// The owner of the rows moves them; what the list itself would take out behind a drag stays.
 void MovableList::startDrag(Qt::DropActions actions)
 {
@@ -52,7 +67,7 @@ void MovableList::dropEvent(QDropEvent* event)
     stopAutoScroll();
     setState(NoState);
     event->acceptProposedAction();
-    emit RowDragged(gap > SelectedRow() ? gap - 1 : gap);
+    emit MoveWanted(gap > SelectedRow() ? gap - 1 : gap);
 }
 
 } // namespace orvane

@@ -5,8 +5,8 @@
 namespace orvane {
 
 /// A list whose selected row can be dragged to another place, in this list or in another one that
-/// shows a column of the same rows. The list itself moves nothing: the owner of the rows does, when
-/// it gets RowDragged().
+/// shows a column of the same rows, and moved by Alt+Up and Alt+Down. The list itself moves
+/// nothing: the owner of the rows does, when it gets MoveWanted().
 class MovableList : public ActingList
 {
     Q_OBJECT
@@ -20,13 +20,14 @@ public:
     void AddRow();
 
 signals:
-    /// The selected row was dropped and is to have this index, counted from 0, once it has moved.
-    void RowDragged(int place);
+    /// The selected row is to have this index, counted from 0, once it has moved.
+    void MoveWanted(int place);
 
 protected:
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QList<QListWidgetItem*>& items) const override;
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void dropEvent(QDropEvent* event) override;
 

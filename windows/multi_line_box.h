@@ -7,13 +7,14 @@
 namespace orvane {
 
 /// A text box of several lines that keeps every character: the toolkit's own box would turn a
-/// no-break space into a blank, and a paragraph separator into a line end.
+/// no-break space into a blank, and a paragraph separator into a line end. Once a word is too long
+/// for the toolkit to look for places to break it, lines are broken anywhere.
 class MultiLineBox : public QPlainTextEdit
 {
     Q_OBJECT
 
 public:
-    using QPlainTextEdit::QPlainTextEdit;
+    explicit MultiLineBox(QWidget* parent = nullptr);
 
     /// The text; its lines end in CR LF, whatever ended them in SetWords().
     Text Words() const;
@@ -31,6 +32,9 @@ signals:
 protected:
     QMimeData* createMimeDataFromSelection() const override;
     void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    void WatchWords(int place, int added);
 };
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 #include "windows/qt_text.h"
 
 #include <QLabel>
+#include <QMetaMethod>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -41,6 +42,7 @@ ParallelLists::ParallelLists(std::vector<ListColumn> columns, TextView rowTip, Q
         splitter->addWidget(pane);
         m_lists.push_back(list);
     }
+    setFocusProxy(m_lists.front());
     for (int column = 0; column < splitter->count(); ++column)
         splitter->setStretchFactor(column, IsWide(column) ? 2 : 1);
     auto* all = new QVBoxLayout(this);
@@ -74,10 +76,8 @@ MovableList* ParallelLists::MakeList(const ListColumn& column)
             list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
     connect(list, &QListWidget::itemSelectionChanged, this, [this, list] { Follow(*list); });
-    connect(list, &MovableList::DoubleClicked, this, &ParallelLists::RowActivated);
-    connect(list, &MovableList::Entered, this, &ParallelLists::RowActivated);
     connect(list, &MovableList::Deleted, this, &ParallelLists::RowDeleted);
-    connect(list, &MovableList::RowDragged, this, &ParallelLists::RowDragged);
+    connect(list, &MovableList::MoveWanted, this, &ParallelLists::MoveWanted);
     connect(list, &QWidget::customContextMenuRequested, this, [this, list](QPoint place) {
         if (list->itemAt(place) != nullptr)
             emit MenuRequested(list->viewport()->mapToGlobal(place));
@@ -87,6 +87,15 @@ MovableList* ParallelLists::MakeList(const ListColumn& column)
             other->verticalScrollBar()->setValue(value);
     });
     return list;
+}
+
+void ParallelLists::connectNotify(const QMetaMethod& signal)
+{
+    if (signal != QMetaMethod::fromSignal(&ParallelLists::RowActivated))
+        return;
+    for (MovableList* list : m_lists)
+        for (const auto act : {&MovableList::DoubleClicked, &MovableList::Entered})
+            connect(list, act, this, &ParallelLists::RowActivated, Qt::UniqueConnection);
 }
 
 void ParallelLists::Follow(const MovableList& list)
@@ -99,7 +108,7 @@ void ParallelLists::Follow(const MovableList& list)
 void ParallelLists::SelectInAll(int row)
 {
     for (MovableList* list : m_lists) {
-        if (list->SelectedRow() == row)
+        if (list->SelectedRow() == row && list->currentRow() == row)
             continue;
         const QSignalBlocker quiet(list);
         list->setCurrentRow(row);

@@ -34,14 +34,19 @@ public:
 signals:
     /// The author selected another row, or none, which is -1.
     void RowSelected(int row);
-    /// A double click anywhere, or Enter on a selected row.
+    /// A double click anywhere, or Enter on a selected row. While nobody listens, Enter goes on to
+    /// the window's default button.
     void RowActivated();
     /// Delete on a selected row.
     void RowDeleted();
-    /// The selected row was dragged and is to have this index, counted from 0, once it has moved.
-    void RowDragged(int place);
+    /// The selected row was dragged, or is moved by Alt+Up or Alt+Down, and is to have this index,
+    /// counted from 0, once it has moved.
+    void MoveWanted(int place);
     /// A right press on a row, or the menu key, at that place on the screen.
     void MenuRequested(QPoint globalPlace);
+
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
     MovableList* MakeList(const ListColumn& column);

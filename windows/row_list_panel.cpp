@@ -4,12 +4,29 @@
 #include "windows/qt_text.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace orvane {
+
+TextView TipOf(RowCommand command)
+{
+    switch (command) {
+    case RowCommand::Remove:
+        return u"Removes the selected row; Ctrl+Z brings it back";
+    case RowCommand::MoveUp:
+        return u"Moves the selected row up, as Alt+Up does in the list";
+    case RowCommand::MoveDown:
+        return u"Moves the selected row down, as Alt+Down does in the list";
+    case RowCommand::Add:
+    case RowCommand::Edit:
+        break;
+    }
+    return {};
+}
 
 RowListPanel::RowListPanel(std::vector<ListColumn> columns, const RowListWords& words,
                            std::span<const RowButton> buttons, Dialogs& dialogs, QWidget* parent)
@@ -22,7 +39,8 @@ RowListPanel::RowListPanel(std::vector<ListColumn> columns, const RowListWords& 
     auto* column = new QVBoxLayout;
     int place = 0;
     for (const RowButton& button : buttons) {
-        QPushButton* control = MakeButton(button.Name, button.Caption, button.Tip);
+        QPushButton* control = MakeButton(button.Name, button.Caption,
+                                          button.Tip.empty() ? TipOf(button.Command) : button.Tip);
         connect(control, &QPushButton::clicked, this,
                 [this, command = button.Command, index = place++] { Run(command, index); });
         if (button.Command != RowCommand::Add && !button.StaysEnabled)
@@ -39,7 +57,7 @@ RowListPanel::RowListPanel(std::vector<ListColumn> columns, const RowListWords& 
     });
     connect(m_lists, &ParallelLists::RowActivated, this, [this] { Run(RowCommand::Edit, -1); });
     connect(m_lists, &ParallelLists::RowDeleted, this, [this] { Run(RowCommand::Remove, -1); });
-    connect(m_lists, &ParallelLists::RowDragged, this,
+    connect(m_lists, &ParallelLists::MoveWanted, this,
             [this](int row) { MoveTo(static_cast<std::size_t>(row)); });
     Refresh();
 }
@@ -64,6 +82,7 @@ void RowListPanel::SetColumn(ControlName name, const std::vector<Text>& texts)
         return;
     const std::size_t column = IndexOf(name);
     m_list.Selected.reset();
+    m_removed.Forget();
     if (m_list.Rows.size() < texts.size())
         m_list.Rows.resize(texts.size(), std::vector<Text>(m_columns.size()));
     for (std::size_t i = 0; i < m_list.Rows.size(); ++i)
@@ -76,7 +95,7 @@ void RowListPanel::SetColumn(ControlName name, const std::vector<Text>& texts)
 void RowListPanel::AddRow(std::vector<Text> row)
 {
     m_list.Rows.push_back(std::move(row));
-    Refresh();
+    Select(m_list.Rows.size() - 1);
 }
 
 void RowListPanel::Select(std::size_t row)
@@ -99,13 +118,33 @@ void RowListPanel::Run(RowCommand command, int button)
         if (!Refused(CheckEdit(m_list, m_words)))
             emit EditWanted();
     } else if (command == RowCommand::Remove) {
-        const std::size_t row = m_list.Selected.value_or(0);
-        if (Refused(RemoveRow(m_list, m_words)))
-            return;
-        Refresh();
-        emit RowRemoved(row);
+        Remove();
     } else {
         Move(command);
+    }
+}
+
+void RowListPanel::Remove()
+{
+    RowList before = m_list;
+    if (Refused(RemoveRow(m_list, m_words)))
+        return;
+    const std::size_t row = before.Selected.value();
+    m_removed.Keep(row, std::move(before.Rows[row]));
+    // The button, which is disabled without rows, would hand the focus to another one.
+    if (m_list.Rows.empty())
+        m_lists->setFocus();
+    Refresh();
+    emit RowRemoved(row);
+}
+
+void RowListPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (!event->matches(QKeySequence::Undo))
+        return QWidget::keyPressEvent(event);
+    if (const auto row = m_removed.PutBack(m_list)) {
+        Refresh();
+        emit RowPutBack(*row);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dialogs.h"
+#include "services/removed_rows.h"
 #include "services/row_list.h"
 #include "windows/parallel_lists.h"
 
@@ -22,19 +23,22 @@ enum class RowCommand
     MoveDown, ///< the panel moves the selected row
 };
 
+/// The tool tip of such a button, which names the key for the same; empty where there is none.
+TextView TipOf(RowCommand command);
+
 /// A button of the panel.
 struct RowButton
 {
     RowCommand Command;
     ControlName Name;
     TextView Caption;
-    TextView Tip = {};
+    TextView Tip = {};         ///< in place of TipOf()
     bool StaysEnabled = false; ///< enabled in an empty list too; a click then tells the author so
 };
 
 /// Lists that show the same rows, with buttons that add, edit, remove and move them. Without rows
 /// all buttons are disabled but Add and those that stay enabled; with rows but none selected they
-/// tell the author so.
+/// tell the author so. Ctrl+Z puts removed rows back, one after the other.
 class RowListPanel : public QWidget
 {
     Q_OBJECT
@@ -50,13 +54,14 @@ public:
 
     /// Puts other texts into one list. Rows are added when it becomes the longest list, and rows at
     /// the end that are empty in all lists are removed. Nothing is selected then, unless the texts
-    /// are the same as before. Expects the name of a list of this panel.
+    /// are the same as before, and no removed row comes back. Expects the name of a list of this
+    /// panel.
     void SetColumn(ControlName name, const std::vector<Text>& texts);
 
     /// Whether the panel has a list of that name.
     bool HasColumn(ControlName name) const { return IndexOf(name) < m_columns.size(); }
 
-    /// Adds a row at the end, one text for each list; the selection stays.
+    /// Adds a row at the end, one text for each list, and selects it.
     void AddRow(std::vector<Text> row);
 
     /// Selects a row. Expects an existing one.
@@ -73,12 +78,18 @@ signals:
     void EditWanted();
     /// A row was removed that had this index.
     void RowRemoved(std::size_t row);
+    /// The row that was removed last was put back and has this index.
+    void RowPutBack(std::size_t row);
     /// A row was moved from one index to another; the rows between moved on by one.
     void RowMoved(std::size_t from, std::size_t to);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     std::size_t IndexOf(ControlName name) const;
     void Run(RowCommand command, int button);
+    void Remove();
     void Move(RowCommand command);
     void MoveTo(std::size_t place);
     void Refresh();
@@ -88,6 +99,7 @@ private:
     const std::vector<ListColumn> m_columns;
     const RowListWords m_words;
     RowList m_list;
+    RemovedRows<std::vector<Text>> m_removed;
     ParallelLists* m_lists;
     std::vector<QPushButton*> m_rowButtons; ///< those that need a row
 };

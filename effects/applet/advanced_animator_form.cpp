@@ -62,9 +62,13 @@ void AdvancedAnimatorForm::AddMenus()
         [this] { TakeProject(NewProject(Project(), m_bench.Dialogs, caption)); });
     add(*mnuFile, "mnuFileOpen", u"&Open...", QKeySequence::Open,
         [this] { TakeProject(OpenProject(Project(), m_bench.Dialogs, m_bench.Files)); });
-    add(*mnuFile, "mnuFileSave", u"&Save...", QKeySequence::Save, [this] { Save(); });
+    add(*mnuFile, "mnuFileSave", u"&Save...", {}, [this] { Save(SaveProjectAs); });
     add(*mnuFile, "mnuFileReturnToMainMenu", u"&Return to Main menu", {}, [this] { reject(); });
     mnuFile->addSeparator();
+    add(*mnuFile, "mnuFileSaveProject", u"Save pro&ject", QKeySequence::Save,
+        [this] { Save(SaveProject); });
+    add(*mnuFile, "mnuFileSaveAs", u"Save &as...", Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+        [this] { Save(SaveProjectAs); });
     OfferRecentFiles(*AddMenu(*mnuFile, "mnuFileRecent", u"Open re&cent"), recentProjects, m_bench,
                      [this](const Text& path) { ShowProject(path); });
     mnuProperties = AddMenu(*bar, "mnuProperties", u"&Properties");
@@ -99,12 +103,12 @@ void AdvancedAnimatorForm::TakeProject(const AnimationProject& project)
     KeepProject(project);
 }
 
-void AdvancedAnimatorForm::Save()
+void AdvancedAnimatorForm::Save(SaveCommand save)
 {
     AnimationProject project = Project();
     if (const auto complaint = CheckProject(project.Animation))
         return ShowComplaint(*complaint);
-    if (!SaveProject(project, m_bench.Dialogs, m_bench.Files))
+    if (!save(project, m_bench.Dialogs, m_bench.Files))
         return;
     KeepProject(project);
     Tell(u"Saved");

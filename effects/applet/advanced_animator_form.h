@@ -19,11 +19,13 @@ public:
     void ShowProject(TextView path);
 
 private:
+    using SaveCommand = bool (*)(AnimationProject& project, Dialogs& dialogs, FileStore& files);
+
     void AddMenus();
     void AddFields(PageBuilder& page);
     AnimationProject Project() const { return {Parameters(), m_path, m_saved}; }
     void TakeProject(const AnimationProject& project);
-    void Save();
+    void Save(SaveCommand save);
     void KeepProject(const AnimationProject& project);
     void ShowTitle();
     void UpdateForm() override { ShowTitle(); }

@@ -116,6 +116,18 @@ FileRequest ProjectRequest(TextView title)
             .Purpose = FolderPurpose::Projects};
 }
 
+/// Writes the animation to a file, which is the project's own from then on. A failure says nothing
+/// and gives false; the file is then as it was.
+bool Write(AnimationProject& project, const Text& path, FileStore& files)
+{
+    std::string bytes = ProjectBytes(project.Animation);
+    if (FaultIn(files.Replace(path, bytes)) != nullptr)
+        return false;
+    project.Path = path;
+    project.Saved = std::move(bytes);
+    return true;
+}
+
 } // namespace
 
 std::string ProjectBytes(const AdvancedAnimator& animator)
@@ -180,19 +192,19 @@ bool IsModified(const AnimationProject& project)
     return ProjectBytes(project.Animation) != project.Saved;
 }
 
-bool SaveProject(AnimationProject& project, Dialogs& dialogs, FileStore& files)
+bool SaveProjectAs(AnimationProject& project, Dialogs& dialogs, FileStore& files)
 {
     FileRequest request = ProjectRequest(u"Save As");
     request.InitDir = FolderOf(project.Path);
     request.FileName = GetFileName(project.Path);
     const auto path = dialogs.SaveFile(request);
-    std::string bytes = ProjectBytes(project.Animation);
-    // A failure says nothing; the file is then as it was.
-    if (!path || FaultIn(files.Replace(*path, bytes)) != nullptr)
-        return false;
-    project.Path = *path;
-    project.Saved = std::move(bytes);
-    return true;
+    return path && Write(project, *path, files);
+}
+
+bool SaveProject(AnimationProject& project, Dialogs& dialogs, FileStore& files)
+{
+    return project.Path.empty() ? SaveProjectAs(project, dialogs, files)
+                                : Write(project, Text(project.Path), files);
 }
 
 AnimationProject OpenProject(const AnimationProject& project, Dialogs& dialogs,
@@ -216,6 +228,7 @@ AnimationProject LoadProject(const AnimationProject& project, TextView path, Dia
     }
     AnimationProject opened =
         UnnamedProject(ReadProject(fault ? std::string_view() : ValueIn(bytes)));
+    opened.Animation.Required = project.Animation.Required;
     if (fault == nullptr)
         opened.Path = path;
     return opened;
@@ -225,7 +238,8 @@ AnimationProject NewProject(const AnimationProject& project, Dialogs& dialogs, T
 {
     if (!dialogs.AskOrCancel(u"Do you want to start a new animation?", caption).value_or(false))
         return project;
-    return UnnamedProject({.LoopCount = project.Animation.LoopCount});
+    return UnnamedProject(
+        {.LoopCount = project.Animation.LoopCount, .Required = project.Animation.Required});
 }
 
 } // namespace orvane

@@ -40,6 +40,10 @@ bool IsModified(const AnimationProject& project);
 /// Asks where to save the animation and saves it there; true when it was saved. After a cancel or a
 /// failure, which is not told, file and project are as they were. Expects an animation that passes
 /// CheckProject().
+bool SaveProjectAs(AnimationProject& project, Dialogs& dialogs, FileStore& files);
+
+/// Saves the animation in the project's own file without a question; one that has no file yet is
+/// saved by SaveProjectAs(). Gives and expects what that does.
 bool SaveProject(AnimationProject& project, Dialogs& dialogs, FileStore& files);
 
 /// Asks for a project file and gives what LoadProject() makes of it; after a cancel, `project`
@@ -47,14 +51,14 @@ bool SaveProject(AnimationProject& project, Dialogs& dialogs, FileStore& files);
 AnimationProject OpenProject(const AnimationProject& project, Dialogs& dialogs,
                              const FileStore& files);
 
-/// The project in the file at `path`. A file that cannot be read counts as one without bytes, and
-/// the project has no path. A file of more than 4 MB is refused with a message, and `project` is
-/// given back.
+/// The project in the file at `path`, with the required files of `project`: those picked so far are
+/// delivered all the same. A file that cannot be read counts as one without bytes, and the project
+/// has no path. A file of more than 4 MB is refused with a message, and `project` is given back.
 AnimationProject LoadProject(const AnimationProject& project, TextView path, Dialogs& dialogs,
                              const FileStore& files);
 
 /// Asks, under the title `caption`, whether to start anew. On Yes gives an animation without rows,
-/// size, background and file, whose loop count is kept; else `project`.
+/// size, background and file, whose loop count and required files are kept; else `project`.
 AnimationProject NewProject(const AnimationProject& project, Dialogs& dialogs, TextView caption);
 
 } // namespace orvane

@@ -277,7 +277,7 @@ void Tidy(ImageEffects& effects)
 EffectPayload Generate(const ImageEffects& effects)
 {
     EffectPayload payload{.Kind = EffectKind::ImageEffects, .Required = effects.Required};
-    RequireFile(payload.Required, 0, effects.ImageFile);
+    RequireBrowsedFile(payload.Required, 0, effects.ImageFile);
     if (effects.EffectPicker == cube)
         GenerateCube(payload, effects);
     else if (effects.EffectPicker == lake)

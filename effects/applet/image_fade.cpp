@@ -47,10 +47,12 @@ std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image)
     return std::nullopt;
 }
 
-void ForgetImage(ImageFade& fade, std::size_t row)
+ForgottenImage ForgetImage(ImageFade& fade, std::size_t row)
 {
+    ForgottenImage image{.Source = {}, .Width = fade.FadeWidth, .Height = fade.FadeHeight};
     auto& sources = fade.Required.Sources;
     if (row < sources.size()) {
+        image.Source = sources[row];
         std::move(sources.begin() + row + 1, sources.end(), sources.begin() + row);
         sources.back().clear();
     }
@@ -58,6 +60,18 @@ void ForgetImage(ImageFade& fade, std::size_t row)
         fade.FadeWidth.clear();
         fade.FadeHeight.clear();
     }
+    return image;
+}
+
+void RecallImage(ImageFade& fade, std::size_t row, const ForgottenImage& image)
+{
+    auto& sources = fade.Required.Sources;
+    if (row < sources.size()) {
+        std::move_backward(sources.begin() + row, sources.end() - 1, sources.end());
+        sources[row] = image.Source;
+    }
+    fade.FadeWidth = image.Width;
+    fade.FadeHeight = image.Height;
 }
 
 void MoveSource(ImageFade& fade, std::size_t from, std::size_t to)

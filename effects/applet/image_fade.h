@@ -60,9 +60,20 @@ inline constexpr RowListWords fadeWords = {
 /// complaint.
 std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image);
 
+/// What the fade knew of an image beside its two texts.
+struct ForgottenImage
+{
+    Text Source;
+    Text Width;
+    Text Height;
+};
+
 /// Removes the source of an image that was removed from both lists at `row`, and the size when no
-/// image is left.
-void ForgetImage(ImageFade& fade, std::size_t row);
+/// image is left; gives both.
+ForgottenImage ForgetImage(ImageFade& fade, std::size_t row);
+
+/// Takes back what ForgetImage() gave of an image that was put back into both lists at `row`.
+void RecallImage(ImageFade& fade, std::size_t row, const ForgottenImage& image);
 
 /// Moves the source of an image that was moved from row `from` to row `to`.
 void MoveSource(ImageFade& fade, std::size_t from, std::size_t to);

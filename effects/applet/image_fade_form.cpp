@@ -1,8 +1,9 @@
 #include "effects/applet/image_fade_form.h"
 
+#include "core/file_names.h"
 #include "core/pick_lists.h"
 #include "effects/applet/image_fade_url_form.h"
-#include "services/add_once.h"
+#include "services/file_complaints.h"
 #include "services/file_requests.h"
 #include "windows/file_drop.h"
 #include "windows/picture.h"
@@ -44,7 +45,13 @@ ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
     connect(m_images, &RowListPanel::EditWanted, this, &ImageFadeForm::EditLink);
     connect(m_images, &RowListPanel::RowRemoved, this, [this](std::size_t row) {
         ImageFade fade = Parameters();
-        ForgetImage(fade, row);
+        m_forgotten.push_back(ForgetImage(fade, row));
+        Show(fade);
+    });
+    connect(m_images, &RowListPanel::RowPutBack, this, [this](std::size_t row) {
+        ImageFade fade = Parameters();
+        RecallImage(fade, row, m_forgotten.back());
+        m_forgotten.pop_back();
         Show(fade);
     });
     connect(m_images, &RowListPanel::RowMoved, this, [this](std::size_t from, std::size_t to) {
@@ -52,7 +59,7 @@ ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
         MoveSource(fade, from, to);
         Show(fade);
     });
-    connect(new FileDrop(*m_images, pictureMasks), &FileDrop::Dropped, this,
+    connect(new FileDrop(*m_images, pictureMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
             &ImageFadeForm::AddImages);
     AddButtons(Buttons::OnePage, "cmdHelp");
 }
@@ -94,14 +101,21 @@ void ImageFadeForm::AddImages(const std::vector<Text>& paths)
 {
     ImageFade fade = Parameters();
     const std::size_t before = fade.FadeImages.size();
-    std::vector<Complaint> complaints;
-    for (const Text& path : paths)
-        if (const auto complaint = orvane::AddImage(fade, Measured(path)))
-            AddOnce(complaints, *complaint);
+    FileComplaints refused;
+    for (const Text& path : paths) {
+        const PickedImage image = Measured(path);
+        const auto complaint = orvane::AddImage(fade, image);
+        if (complaint && paths.size() == 1)
+            return ShowComplaint(*complaint);
+        if (complaint)
+            refused.Add(*complaint, GetFileName(path));
+        else if (!image.Size && paths.size() > 1)
+            refused.Add({u"Orvane can't read this image:", {}}, GetFileName(path));
+    }
     Show(fade);
     if (before < fade.FadeImages.size())
         m_images->Select(fade.FadeImages.size() - 1);
-    for (const Complaint& complaint : complaints)
+    for (const Complaint& complaint : refused.All())
         ShowComplaint(complaint);
 }
 

@@ -25,6 +25,7 @@ private:
     void Show(const ImageFade& fade);
 
     RowListPanel* m_images;
+    std::vector<ForgottenImage> m_forgotten; ///< of the removed rows, the last one last
 };
 
 } // namespace orvane

@@ -151,7 +151,7 @@ EffectPayload Generate(const MoreImageEffects& effects)
     tag.ParamUnlessEmpty(u"BGCOLOR.0", effects.BackColorText);
     tag.ParamUnlessEmpty(u"FGCOLOR.0", effects.BackColorText);
     RequiredFiles required = effects.Required;
-    RequireFile(required, 0, effects.ImageFile);
+    RequireBrowsedFile(required, 0, effects.ImageFile);
     return {
         .Kind = EffectKind::MoreImageEffects,
         .BODYHTML = tag.Tag(),

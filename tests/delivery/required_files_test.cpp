@@ -110,6 +110,7 @@ TEST_F(RequiredFilesTest, LeavesTheClassFilesOfTheProgramsFolderAlone)
     EXPECT_EQ(Copy(u"/program/"), MissingFiles());
     EXPECT_EQ(disk.Writes, (Texts{u"/program/a.gif", u"/program/b.gif"}));
     disk.Writes.clear();
+    Require(1, u"a.gif", u"/pics/a.gif"); // the effect shows it twice, and it is copied once
     EXPECT_EQ(Copy(), MissingFiles());
     EXPECT_EQ(disk.Writes,
               (Texts{u"/site/a.gif", u"/site/b.gif", u"/site/X.class", u"/site/Y.class"}));

@@ -34,10 +34,8 @@ std::string NamesIn(const ImageList& list)
 TEST(ImageListTest, NewImageGoesInFrontOfTheSelectedOneOrToTheEnd)
 {
     using Row = std::optional<std::size_t>;
-    const std::tuple<Row, const char*, Row> cases[] = {{Row(), "a b c new ", Row()},
-                                                       {0, "new a b c ", 1},
-                                                       {1, "a new b c ", 2},
-                                                       {2, "a b c new ", 2}};
+    const std::tuple<Row, const char*, Row> cases[] = {
+        {Row(), "a b c new ", 3}, {0, "new a b c ", 1}, {1, "a new b c ", 2}, {2, "a b c new ", 3}};
     for (const auto& [selected, order, selectedAfter] : cases) {
         OrvaneCore core;
         ImageList list = ListOf({u"a", u"b", u"c"}, selected);
@@ -55,7 +53,7 @@ TEST(ImageListTest, RefusesABlankInTheNameButNotAroundItNorInTheFolder)
     ASSERT_TRUE(complaint);
     EXPECT_EQ(ToUtf8(complaint->Words),
               "This special effect does not allow image filenames containing space "
-              "characters.\r\nPlease rename the image or select another image.");
+              "characters.\r\nPlease rename the image or select another image.\r\nmy pic.gif");
     EXPECT_EQ(list, ListOf({u"a"}, 0));
     EXPECT_EQ(core.RequiredFileCount, 0);
 

@@ -71,6 +71,12 @@ void DoubleClickRow(QWidget& window, const char* name, int row)
         ClickAt(*list, PlaceOf(*list, row), true);
 }
 
+void DoubleClickBeside(QWidget& window, const char* name)
+{
+    if (auto* list = Find<QListWidget>(window, name))
+        ClickAt(*list, list->viewport()->rect().bottomLeft(), true);
+}
+
 void RightPressRow(QWidget& window, const char* name, int row)
 {
     auto* list = Find<QListWidget>(window, name);

@@ -15,6 +15,9 @@ void ClickRow(QWidget& window, const char* name, int row);
 /// Double-clicks a row of a list box.
 void DoubleClickRow(QWidget& window, const char* name, int row);
 
+/// Double clicks below the rows of a list box. Expects that they leave room there.
+void DoubleClickBeside(QWidget& window, const char* name);
+
 /// Presses the right button on a row of a list box, which asks for its context menu.
 void RightPressRow(QWidget& window, const char* name, int row);
 

@@ -109,8 +109,10 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
     const std::array<const char*, 3> buttons = {"cmdDelete", "cmdMoveDown", "cmdMoveUp"};
     AddFile(u"my pic.gif", GifBytes(900, 900));
     ImageListPanel& panel = Open(AnimatorImageList());
-    Press(List("File1"), Qt::Key_Home);
-    List("File1").clearSelection();
+    List("File1").setFocus();
+    EXPECT_EQ(List("File1").currentRow(), -1) << "nothing is selected, nor looks so";
+    DoubleClickBeside(m_window, "File1");
+    EXPECT_TRUE(panel.Rows().empty());
     Click(m_window, "cmdAddToImageList");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Please select an image."});
     for (const char* name : buttons)
@@ -162,12 +164,28 @@ TEST_F(ImageListPanelTest, ListsSelectScrollAndMoveAsOne)
     EXPECT_EQ(panel.Rows()[50], rows[51]);
     EXPECT_EQ(RowsOf(m_window, "List4")[50], u"t51");
     EXPECT_EQ(SelectedRowOf(m_window, "List6"), 50);
+    Press(List("List4"), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(panel.Rows()[49], rows[51]);
+    Press(List("List1"), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(SelectedRowOf(m_window, "List6"), 50);
     Click(m_window, "cmdDelete");
-    EXPECT_EQ(RowsOf(m_window, "List6")[50], u"s50");
+    Press(List("List1"), Qt::Key_Delete);
+    EXPECT_EQ(RowsOf(m_window, "List6")[50], u"s52");
     EXPECT_EQ(SelectedRowOf(m_window, "List1"), 50);
+    Press(List("List1"), Qt::Key_Home);
+    for (const std::size_t left : {59u, 60u, 60u}) {
+        Press(*Find<QWidget>(m_window, "cmdDelete"), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(panel.Rows().size(), left);
+    }
+    EXPECT_EQ(panel.Rows()[50], rows[51]);
+    EXPECT_EQ(panel.Selected(), 50u);
+    Click(m_window, "cmdDelete");
     panel.SetRow(3, {.FileName = u"3", .Pause = u"-1"});
     EXPECT_EQ(RowsOf(m_window, "List3")[3], u"-1");
     EXPECT_EQ(SelectedRowOf(m_window, "List4"), 3);
+    panel.SetRows({});
+    Press(List("List1"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(panel.Rows().empty()) << "the removed row belongs to other rows";
 }
 
 TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
@@ -178,15 +196,23 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
     List("File1").selectAll();
     Click(m_window, "cmdAddToImageList");
     EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"Tall.GIF", u"wide.gif"}));
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              Texts{u"This special effect does not allow image filenames containing space "
+                    u"characters.\r\nPlease rename the image or select another image.\r\n"
+                    u"a b.gif\r\nc d.gif"});
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x300"));
+    EXPECT_EQ(panel.Selected(), 1u) << "the last one that was added";
 
     ClickRow(m_window, "List1", 0);
     QWidget& place = *List("List1").viewport();
-    EXPECT_FALSE(DropFiles(place, {Path(u"wide.gif"), Path(u"page.html")}));
-    EXPECT_FALSE(DropFiles(place, {Path(u"gone.gif")}));
-    EXPECT_FALSE(DropFiles(place, {}));
-    EXPECT_TRUE(DropFiles(place, {Path(u"blank name/x.jpg"), Path(u"wide.gif")}));
+    for (const std::vector<Text>& refused :
+         {{Path(u"page.html"), u"http://x/wide.gif"}, {Path(u"gone.gif")}, std::vector<Text>()})
+        EXPECT_FALSE(DropFiles(place, refused));
+    EXPECT_TRUE(DropFiles(place, {Path(u"page.html"), Path(u"blank name/x.jpg"), Path(u""),
+                                  Path(u"wide.gif"), u"http://x/y.gif"}));
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
+              Texts{Join({u"These files do not fit here and were left out:\r\npage.html\r\n",
+                          GetFileName(FromQt(m_folder.path())), u"\r\ny.gif"})});
     EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"x.jpg", u"wide.gif", u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(panel.Selected(), 2u);
     ClickRow(m_window, "List1", 3);
@@ -231,6 +257,7 @@ TEST_F(ImageListPanelTest, RowsTellOfDoubleClicksAndMenus)
 TEST_F(ImageListPanelTest, PreviewShowsTheSelectedPictureAndKeepsItOverABrokenOne)
 {
     AddFile(u"bad.jpg", "Dear reader,\r\n");
+    AddFile(u"a b.gif", GifBytes(30, 30));
     Open(SlideshowImageList()).SetRows({{.FileName = u"unknown.gif"}});
     DoubleClickRow(m_window, "File1", RowWith(m_window, "File1", u"wide.gif"));
     const auto* preview = Find<QLabel>(m_window, "lblPreviewImage");
@@ -242,8 +269,18 @@ TEST_F(ImageListPanelTest, PreviewShowsTheSelectedPictureAndKeepsItOverABrokenOn
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
     ClickRow(m_window, "List1", 1);
     EXPECT_EQ(preview->pixmap().size(), QSize(120, 40));
+    DropFiles(*List("List1").viewport(), {Path(u"a b.gif")});
+    EXPECT_EQ(preview->pixmap().size(), QSize(120, 40)) << "not the refused one";
     ClickRow(m_window, "List1", 0);
     EXPECT_TRUE(preview->pixmap().isNull());
+    Choose("File1", u"a b.gif");
+    EXPECT_EQ(preview->pixmap().size(), QSize(30, 30));
+    Click(m_window, "cmdAddImageToList");
+    EXPECT_TRUE(preview->pixmap().isNull()) << "as the selected one";
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 2u);
+    EXPECT_TRUE(m_window.isVisible());
+    Press(List("List1"), Qt::Key_Return);
+    EXPECT_FALSE(m_window.isVisible()) << "nothing opens a row here";
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 #include <QClipboard>
 #include <QSignalSpy>
 
+#include <chrono>
+
 namespace orvane::testing {
 namespace {
 
@@ -33,6 +35,21 @@ TEST(MultiLineBoxTest, EndsEveryLineInCrLf)
     box.SetWords(u"a\nb\rc");
     Press(box, Qt::Key_Return);
     ExpectSameText(u"\r\na\r\nb\r\nc", box.Words());
+}
+
+TEST(MultiLineBoxTest, AVeryLongWordIsShownWithoutAWait)
+{
+    MultiLineBox box;
+    box.resize(600, 300);
+    box.show();
+    const auto start = std::chrono::steady_clock::now();
+    QApplication::clipboard()->setText(QString(400'000, u'x'));
+    box.paste();
+    box.insertPlainText(QStringLiteral("y"));
+    LetRun();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    box.SetWords(u"short words");
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 TEST(MultiLineBoxTest, RefusesAPasteThatIsTooLargeAndKeepsWhatItHolds)

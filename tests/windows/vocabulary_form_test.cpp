@@ -182,6 +182,8 @@ TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
     emit Find<ActingList>(m_window, "lstItems")->DoubleClicked();
     m_rows.AddRow({u"a", u""});
     m_rows.AddRow({u"b\r\nsecond line", u"b.html"});
+    EXPECT_EQ(m_rows.Rows().Selected, 1u);
+    Find<ActingList>(m_window, "lstItems")->clearSelection();
     for (const char* button : {"cmdEdit", "cmdRemove", "cmdUp", "cmdDown"})
         Click(m_window, button);
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
@@ -200,8 +202,13 @@ TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
     Press(*links, Qt::Key_Delete);
     EXPECT_EQ(m_rows.Column("lstLinks"), Texts{u""});
     EXPECT_EQ(m_rows.Rows().Selected, 0u);
+    Find<QWidget>(m_window, "cmdRemove")->setFocus();
     Click(m_window, "cmdRemove");
     EXPECT_FALSE(Find<QWidget>(m_window, "cmdRemove")->isEnabled());
+    for (int times = 0; times < 3; ++times)
+        Press(*m_window.focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(m_rows.Column("lstItems"), (Texts{u"b\r\nsecond line", u"a"}));
+    EXPECT_EQ(m_rows.Rows().Selected, 0u);
 }
 
 TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
@@ -209,7 +216,9 @@ TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
     m_rows.AddRow({u"a", u"1"});
     m_rows.AddRow({u"b", u"2"});
     auto* items = Find<ActingList>(m_window, "lstItems");
+    items->clearSelection();
     items->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(items->currentRow(), -1);
     Press(*items, Qt::Key_Down);
     EXPECT_EQ(m_rows.Rows().Selected, 0u);
     Press(*items, Qt::Key_Down);
@@ -217,6 +226,9 @@ TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
     EXPECT_EQ(Find<ActingList>(m_window, "lstLinks")->SelectedRow(), 1);
     Press(*items, Qt::Key_Tab);
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmdAdd"));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
+        Press(*items, key, Qt::AltModifier);
+    EXPECT_EQ(m_rows.Column("lstItems"), (Texts{u"b", u"a"})) << "without a word at the ends";
 }
 
 } // namespace

@@ -61,15 +61,15 @@ protected:
 
 TEST_F(AdvancedAnimatorFormTest, PropertiesGoIntoTheSelectedRow)
 {
-    AddImage(0);
-    AddImage(1);
     EXPECT_FALSE(Find<QPushButton>(Form(), "SetPropsButton")->isEnabled());
     Choose("mnuSetProperties");
     EXPECT_EQ(Form().findChild<ImgPropsForm*>(), nullptr);
+    AddImage(0);
+    AddImage(1);
+    EXPECT_TRUE(Find<QPushButton>(Form(), "SetPropsButton")->isEnabled());
 
     ImgPropsForm* properties = OpenProperties("List5", 1);
     ASSERT_NE(properties, nullptr);
-    EXPECT_TRUE(Find<QPushButton>(Form(), "SetPropsButton")->isEnabled());
     Type(*properties, "Text2", u"WWW.example.com");
     Find<QComboBox>(*properties, "Combo3")->setEditText(QStringLiteral("squish"));
     Type(*properties, "Combo1", u"6");
@@ -116,7 +116,9 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnewAndTheTitleTe
     m_desk.Files.FailOn(u"/film.ovn", Fault::PermissionDenied);
     Find<QComboBox>(Form(), "Combo3")->setEditText(QStringLiteral("3 times"));
     save();
+    Choose("mnuFileSaveProject");
     EXPECT_EQ(title(), u"Advanced Animation Wizard - film.ovn[*] changed");
+    EXPECT_EQ(m_desk.Files.Writes.size(), 3u);
 
     for (const std::optional<bool> answer : {std::optional<bool>(), {false}, {true}}) {
         m_desk.Dialogs.ExpectAskOrCancel(u"Do you want to start a new animation?", answer);
@@ -124,14 +126,20 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnewAndTheTitleTe
         EXPECT_EQ(Form().Parameters().AnimationWidth, answer == true ? u"" : u"1");
     }
     EXPECT_EQ(m_desk.Dialogs.Titles.back(), u"Advanced Animation Wizard");
-    EXPECT_EQ(Form().Parameters(), AdvancedAnimator{.LoopCount = u"3 times"});
+    // The picture of this run is delivered, whatever project is open.
+    const RequiredFiles required{.Names = {u"a.gif"}, .Sources = {u"/pics/a.gif"}};
+    EXPECT_EQ(Form().Parameters(),
+              (AdvancedAnimator{.LoopCount = u"3 times", .Required = required}));
 
     m_desk.Files.Contents[u"/other.ovn"] = ProjectBytes(saved);
-    m_desk.Dialogs.AnswerOpenFile(u"/other.ovn");
-    const RequiredFiles required = m_desk.Core.Required;
-    Choose("mnuFileOpen");
-    EXPECT_EQ(Form().Parameters(), ReadProject(ProjectBytes(saved)));
-    EXPECT_EQ(m_desk.Core.Required, required);
+    AdvancedAnimator opened = ReadProject(ProjectBytes(saved));
+    opened.Required = required;
+    for (const std::optional<Text>& answer : {std::optional<Text>(u"/other.ovn"), {}}) {
+        m_desk.Dialogs.AnswerOpenFile(answer);
+        Choose("mnuFileOpen");
+        EXPECT_EQ(Form().Parameters(), opened);
+        opened.Rows.clear();
+    }
 
     Choose("mnuFileReturnToMainMenu");
     EXPECT_FALSE(Form().isVisible());

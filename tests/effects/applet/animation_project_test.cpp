@@ -145,7 +145,7 @@ TEST_F(ProjectDeskTest, SavesUnderTheNameAsGivenAndSaysNothingOfAFailure)
 {
     m_dialogs.AnswerSaveFile(u"/p/film");
     AnimationProject project{.Animation = TwoImages()};
-    EXPECT_TRUE(SaveProject(project, m_dialogs, m_files));
+    EXPECT_TRUE(SaveProject(project, m_dialogs, m_files)) << "asks while there is no file";
     const std::string saved = ProjectBytes(TwoImages());
     EXPECT_EQ(m_files.Contents[u"/p/film"], saved);
     EXPECT_EQ(project, (AnimationProject{TwoImages(), u"/p/film", saved}));
@@ -158,13 +158,18 @@ TEST_F(ProjectDeskTest, SavesUnderTheNameAsGivenAndSaysNothingOfAFailure)
     for (const std::optional<Text>& answer :
          {std::optional<Text>(u"/p/film"), std::optional<Text>()}) {
         m_dialogs.AnswerSaveFile(answer);
-        EXPECT_FALSE(SaveProject(project, m_dialogs, m_files));
+        EXPECT_FALSE(SaveProjectAs(project, m_dialogs, m_files));
         EXPECT_EQ(project, unsaved);
         EXPECT_TRUE(IsModified(project));
     }
     EXPECT_EQ(m_dialogs.Requests[1].FileName, u"film");
     EXPECT_EQ(m_files.Contents[u"/p/film"], saved);
-    EXPECT_EQ(m_files.Writes.size(), 2u);
+    EXPECT_FALSE(SaveProject(project, m_dialogs, m_files));
+    EXPECT_EQ(project, unsaved);
+    project.Path = u"/p/film.ovn";
+    EXPECT_TRUE(SaveProject(project, m_dialogs, m_files));
+    EXPECT_EQ(m_files.Contents[project.Path], ProjectBytes(project.Animation));
+    EXPECT_FALSE(IsModified(project));
     EXPECT_TRUE(m_dialogs.Said.empty());
 }
 

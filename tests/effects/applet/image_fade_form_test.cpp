@@ -37,9 +37,13 @@ TEST_F(ImageFadeFormTest, DroppedImagesComeInTheirOrderAndDraggedOnesTakeLinkAnd
     const auto path = [this](const char* name) { return m_folder.TextAt(name); };
     m_folder.Put("e.txt", "text");
     QWidget& links = *Find<QListWidget>(m_form, "FadeLinks")->viewport();
-    EXPECT_FALSE(DropFiles(links, {path("a.gif"), path("e.txt")}));
-    EXPECT_TRUE(DropFiles(links, {path("b.gif"), path("c.gif"), path("c.gif"), path("a.gif")}));
-    EXPECT_EQ(Said().size(), 1u);
+    EXPECT_TRUE(DropFiles(links, {path("b.gif"), path("c.gif"), path("e.txt"), path("c.gif"),
+                                  path("d.gif"), path("a.gif")}));
+    EXPECT_EQ(Said(),
+              (Texts{u"The images must be exactly the same size.  If one image is 100 pixels by "
+                     u"100 pixels, then this image must be 100 x 100.\r\nc.gif\r\nc.gif",
+                     u"Orvane can't read this image:\r\nd.gif",
+                     u"These files do not fit here and were left out:\r\ne.txt"}));
     Click(m_form, "cmdLinkToURL");
     auto* link = m_form.findChild<ImageFadeURLForm*>();
     Type(*link, "txtURL", u"x");
@@ -64,7 +68,16 @@ TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
     EXPECT_EQ(m_form.Parameters().Required.Sources[0], m_folder.TextAt("b.gif"));
     Click(m_form, "cmdRemoveImage"); // the next row was selected
     EXPECT_FALSE(Find<QPushButton>(m_form, "cmdMoveUp")->isEnabled());
+    auto* images = Find<QListWidget>(m_form, "FadeImages");
+    for (int times = 0; times < 2; ++times)
+        Press(*images, Qt::Key_Z, Qt::ControlModifier);
+    const RequiredFiles both{.Sources = {m_folder.TextAt("a.gif"), m_folder.TextAt("b.gif")}};
+    EXPECT_EQ(m_form.Parameters().Required, both);
+    EXPECT_EQ(m_form.Parameters().FadeHeight, u"80");
+    for (int times = 0; times < 2; ++times)
+        Press(*images, Qt::Key_Delete);
     Add("c.gif");
+    Press(*images, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(m_form.Parameters().FadeHeight, u"81");
     EXPECT_EQ(m_form.Parameters().Required, (RequiredFiles{.Sources = {m_folder.TextAt("c.gif")}}));
 }

@@ -94,7 +94,7 @@ TEST_F(ImgPropsFormTest, ABrowsedSoundIsRecordedEvenIfTheWindowIsCancelled)
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
               Texts{u"This special effect does not allow sound filenames containing "
                     u"space characters.\r\n"
-                    u"Please rename the sound or select another sound."});
+                    u"Please rename the sound or select another sound.\r\nmy ding.au"});
     m_desk.Dialogs.AnswerOpenFile(std::nullopt);
     Click(*m_form, "Command8");
     EXPECT_EQ(WordsOf(*m_form, "Text3"), u"ding.au");

@@ -60,5 +60,15 @@ TEST(MoreImageEffectsTest, ChecksTheImageThenItsSize)
     EXPECT_EQ(Check(effects), std::nullopt);
 }
 
+TEST(MoreImageEffectsTest, ABrowsedSourceStaysBehindATypedNameUntilTheBoxIsEmpty)
+{
+    MoreImageEffects effects{.ImageFile = u"typed.gif"};
+    effects.Required.Sources[0] = u"/p/browsed.gif";
+    EXPECT_EQ(Generate(effects).Required.Names[0], u"typed.gif");
+    EXPECT_EQ(Generate(effects).Required.Sources[0], u"/p/browsed.gif");
+    effects.ImageFile.clear();
+    EXPECT_EQ(Generate(effects).Required.Sources[0], u"");
+}
+
 } // namespace
 } // namespace orvane::testing

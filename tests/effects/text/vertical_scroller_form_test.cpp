@@ -70,7 +70,7 @@ TEST_F(VerticalScrollerFormTest, EditingStartsWithTheRowAndTakesAPickedPagesName
 {
     Add("one", u"a.html");
     Add("two", u"");
-    EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), -1);
+    EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), 1);
     DoubleClickRow(m_form, "lstLinks", 0);
     auto* edit = m_form.findChild<VertScrollerAddForm*>();
     ASSERT_NE(edit, nullptr);
