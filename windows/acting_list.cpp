@@ -4,7 +4,6 @@
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace orvane {
 
@@ -71,12 +70,9 @@ void ActingList::paintEvent(QPaintEvent* event)
     QListWidget::paintEvent(event);
     if (!hasFocus() || currentIndex().isValid())
         return;
-    QStyleOptionFocusRect frame;
-    frame.initFrom(viewport());
-    frame.state |= QStyle::State_KeyboardFocusChange;
-    frame.rect.adjust(1, 1, -1, -1);
     QPainter painter(viewport());
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+    painter.setPen(palette().highlight().color());
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 QItemSelectionModel::SelectionFlags ActingList::selectionCommand(const QModelIndex& index,
