@@ -111,8 +111,6 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
     ImageListPanel& panel = Open(AnimatorImageList());
     List("File1").setFocus();
     EXPECT_EQ(List("File1").currentRow(), -1) << "nothing is selected, nor looks so";
-    DoubleClickBeside(m_window, "File1");
-    EXPECT_TRUE(panel.Rows().empty());
     Click(m_window, "cmdAddToImageList");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Please select an image."});
     for (const char* name : buttons)
@@ -129,6 +127,7 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
     EXPECT_EQ(m_width.text(), QString());
     Press(List("File1"), Qt::Key_Enter);
     EXPECT_TRUE(m_window.isVisible());
+    DoubleClickBeside(m_window, "File1");
     EXPECT_EQ(panel.Rows(), std::vector<ImageRow>{{.FileName = u"wide.gif"}});
     EXPECT_EQ(m_desk.Core.Required.Sources[0], Path(u"wide.gif"));
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
