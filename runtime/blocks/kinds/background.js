@@ -1,4 +1,5 @@
 /** Background Color Fading: the page's ground passes from one colour to another. */
+import { drive } from "../flight.js";
 import { onLeaving } from "../leaving.js";
 import { fields, on, place, start } from "../start.js";
 
@@ -14,6 +15,8 @@ start("background-1", (root) => {
     const { firstColor, lastColor, andBack, textColor, when } = field;
     const { body } = document;
     const reduced = matchMedia("(prefers-reduced-motion:reduce)");
+    /** @type {Animation[]} */
+    let fade = [];
     place(root, "");
     const shows = (/** @type {string} */ color) => {
         body.style.backgroundColor = color;
@@ -23,11 +26,12 @@ start("background-1", (root) => {
         const end = andBack ? firstColor : lastColor;
         if (when !== "leaving" && !reduced.matches) {
             const colors = andBack ? [firstColor, lastColor, firstColor] : [firstColor, lastColor];
-            body.animate({ backgroundColor: colors }, field.seconds * 1000);
+            fade = [body.animate({ backgroundColor: colors }, field.seconds * 1000)];
         }
         shows(when === "leaving" ? firstColor : end);
     };
     arrive();
+    on(document, "visibilitychange", () => drive(fade, !document.hidden));
     // Back from a page that was left.
     on(window, "pageshow", ({ persisted }) => persisted && arrive());
     if (when === "arrival" || reduced.matches) return;

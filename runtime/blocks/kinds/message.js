@@ -16,8 +16,9 @@ start("message-1", (root) => {
         ...look,
         align: "center",
         width: size,
+        target: "",
     });
-    const items = rows(root);
+    const items = rows(root, field.target);
     const stage = make("ul", "stage", ...items);
     const box = make("div", "box", stage);
     dress(box, field);
