@@ -3,9 +3,9 @@
 #include "core/file_names.h"
 #include "delivery/files_to_upload.h"
 #include "insertion/page_backups.h"
-#include "windows/let_shrink.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
+#include "windows/shrinking.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -48,22 +48,22 @@ FinishPanel::FinishPanel(Workbench& bench, const CopyDesk& desk, PickedFileFinde
 
 void FinishPanel::AddPageFiles(PageBuilder& page)
 {
-    m_pageFiles = new QWidget(this);
-    PageBuilder rows(m_pageFiles);
-    m_pageFiles->layout()->setContentsMargins({});
+    auto* part = new QWidget(this);
+    PageBuilder rows(part);
+    part->layout()->setContentsMargins({});
     lstPageFiles = rows.ListBox("lstPageFiles", u"Files that your Web page names:", {});
     connect(lstPageFiles, &QListWidget::itemSelectionChanged, this, &FinishPanel::UpdateCopy);
     cmdCopyHere = rows.Button("cmdCopyHere", u"Cop&y it here...");
     connect(cmdCopyHere, &QPushButton::clicked, this, &FinishPanel::CopySelected);
     rows.Buttons({cmdCopyHere});
-    LetShrink(*page.Fill(m_pageFiles), 9);
+    m_pageFiles = FillShrinking(page, part, 9);
 }
 
 void FinishPanel::AddUploads(PageBuilder& page)
 {
-    m_uploads = new QWidget(this);
-    PageBuilder rows(m_uploads);
-    m_uploads->layout()->setContentsMargins({});
+    auto* part = new QWidget(this);
+    PageBuilder rows(part);
+    part->layout()->setContentsMargins({});
     lstFilesToUpload =
         rows.ListBox("lstFilesToUpload",
                      u"If you wish to upload your special effect to the Web, you must "
@@ -74,7 +74,7 @@ void FinishPanel::AddUploads(PageBuilder& page)
     connect(link, &LinkLabel::Followed, this,
             [this] { m_bench.Help.ShowTopic(help_topics::transfer); });
     rows.Row(u"If you need help transferring your special effect to the Web, ", {link});
-    LetShrink(*page.Fill(m_uploads), 9);
+    m_uploads = FillShrinking(page, part, 9);
 }
 
 void FinishPanel::PageShown()

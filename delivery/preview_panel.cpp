@@ -1,7 +1,7 @@
 #include "delivery/preview_panel.h"
 
-#include "windows/let_shrink.h"
 #include "windows/page_builder.h"
+#include "windows/shrinking.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -12,9 +12,10 @@ namespace orvane {
 PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(pane)
 {
     PageBuilder page(this);
-    LetShrink(*page.Fill(pane), 8);
-    if (pane != nullptr)
-        pane->show();
+    if (pane == nullptr)
+        pane = new QWidget;
+    FillShrinking(page, pane, 8);
+    pane->show();
     page.Note(today.Sentence, "lblRunsToday")->setVisible(!today.Sentence.empty());
     chkRunsToday = page.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
                                  u"Lets your Web page use Orvane's page script, orvane.js");

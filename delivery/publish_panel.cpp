@@ -8,6 +8,8 @@
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"
 #include "windows/plain_tip.h"
+#include "windows/qt_text.h"
+#include "windows/shrinking.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -37,6 +39,8 @@ void AddBoxes(QVBoxLayout* column, TextView words, FolderBoxes* boxes)
     for (QWidget* box :
          std::initializer_list<QWidget*>{boxes->DriveBox(), boxes->FolderBox(), boxes->FileBox()})
         box->setAccessibleName(ToQt(words) + u' ' + box->accessibleName());
+    for (QWidget* list : std::initializer_list<QWidget*>{boxes->FolderBox(), boxes->FileBox()})
+        list->setMinimumHeight(3 * list->fontMetrics().lineSpacing());
     column->addWidget(boxes, 1);
 }
 
@@ -52,7 +56,7 @@ PublishPanel::PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderW
     sides->addWidget(MakeFromSide(all), 1);
     sides->addWidget(MakeToSide(all), 1);
     sides->addWidget(MakeMissingSide(all), 1);
-    page.Fill(all);
+    FillShrinking(page, all, 17);
     Label4 = page.Note(publishHint, "Label4");
     cmdCopyFiles = MakeButton(page, "cmdCopyFiles", u"&Publish >>", &PublishPanel::PublishFiles);
     cmdManualCopy = MakeButton(page, "cmdManualCopy", u"C&opy >>", &PublishPanel::CopyByHand);

@@ -95,6 +95,21 @@ TEST_F(PreviewFormTest, EveryPageIsAccessibleAndFits)
     }
 }
 
+TEST_F(PreviewFormTest, ThePreviewGivesWayToWhatStandsBelowIt)
+{
+    struct : QWidget
+    {
+        QSize sizeHint() const override { return {800, 600}; }
+    } pane;
+    PreviewForm form(m_desk.Bench, m_payload, &pane, m_windows);
+    form.resize(640, 440);
+    form.show();
+    LetRun();
+    const auto* button = Find<QWidget>(form, "cmdPreview1");
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+    EXPECT_GT(pane.visibleRegion().boundingRect().height(), 60);
+}
+
 TEST_F(PreviewFormTest, NewPageHoldsTheEffectAndEndsTheWizard)
 {
     m_payload = Generate(StatusBarTicker{u"Welcome to my page!"});
