@@ -2,8 +2,6 @@
 
 #include "core/file_names.h"
 
-#include <vector>
-
 namespace orvane {
 
 namespace {
