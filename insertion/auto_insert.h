@@ -5,8 +5,6 @@
 #include "insertion/page_backups.h"
 
 #include <optional>
-#include <string_view>
-#include <utility>
 
 namespace orvane {
 

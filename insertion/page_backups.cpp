@@ -1,7 +1,6 @@
 #include "insertion/page_backups.h"
 
 #include "core/numbers.h"
-#include "disk/program_folder.h"
 
 #include <algorithm>
 #include <filesystem>

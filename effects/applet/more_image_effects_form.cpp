@@ -1,6 +1,5 @@
 #include "effects/applet/more_image_effects_form.h"
 
-#include "core/pick_lists.h"
 #include "services/file_requests.h"
 #include "windows/picture.h"
 #include "windows/qt_text.h"

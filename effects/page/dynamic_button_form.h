@@ -3,7 +3,6 @@
 #include "effects/page/dynamic_button.h"
 #include "windows/effect_form.h"
 
-#include <array>
 #include <vector>
 
 namespace orvane {

@@ -1,7 +1,6 @@
 #include "effects/page/popup_window_form.h"
 
 #include "core/file_names.h"
-#include "core/numbers.h"
 #include "services/file_requests.h"
 #include "windows/picture.h"
 #include "windows/qt_text.h"

@@ -1,6 +1,5 @@
 #include "effects/page/pulldown_url_form.h"
 
-#include "core/catalogue.h"
 #include "services/file_requests.h"
 #include "windows/qt_text.h"
 

@@ -2,8 +2,6 @@
 #include "insertion/script_spans.h"
 #include "tests/fuzz/fuzz_input.h"
 
-#include <cctype>
-
 namespace orvane::testing {
 
 namespace {

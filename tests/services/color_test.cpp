@@ -1,7 +1,6 @@
 #include "services/color.h"
 
 #include "tests/support/doubles.h"
-#include "tests/support/expect_text.h"
 
 namespace orvane::testing {
 namespace {

@@ -1,7 +1,6 @@
 #include "services/image_list.h"
 
 #include "services/move_row.h"
-#include "services/recorded_files.h"
 
 #include "tests/support/doubles.h"
 
