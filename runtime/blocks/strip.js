@@ -6,7 +6,7 @@ export const stripCss =
     ".view{flex:1;min-width:0;overflow:hidden;overflow:clip;direction:ltr}" +
     ".track{display:flex;width:max-content;align-items:center;will-change:transform}" +
     ".group{display:flex;flex:none;align-items:center}.group>*{flex:none;unicode-bidi:plaintext}" +
-    ".still{width:auto}.still .group{flex-wrap:wrap;flex:1 1 auto;width:100%}" +
+    ".still .track{width:auto}.still .group{flex-wrap:wrap;flex:1 1 auto;width:100%}" +
     ".still .group>*{flex:0 1 auto}.still .copy{display:none}" +
     "@media print{.track{transform:none!important;width:auto}.group{flex-wrap:wrap;width:100%}" +
     ".copy{display:none}}";
@@ -69,7 +69,7 @@ export function strip(group, speed, right) {
         run(moving, quiet) {
             moves = moving;
             still = quiet;
-            track.classList.toggle("still", still);
+            view.classList.toggle("still", still);
             if (still) {
                 animation?.cancel();
                 width = 0;

@@ -9,7 +9,7 @@ const css =
     "a{display:block}.film .track{border:solid #111;border-width:3px 0;padding:8px 0;" +
     "background:repeating-linear-gradient(90deg,#111 0 6px,#eee 6px 16px)}" +
     ".film .group{background:#111;padding:3px 0}" +
-    ".rests{overflow-x:auto}.rests .still{width:max-content}.rests .group{flex-wrap:nowrap}";
+    ".still{overflow-x:auto}.still .track{width:max-content}.still .group{flex-wrap:nowrap}";
 
 start("film-1", (root) => {
     const field = fields(root, {
@@ -31,7 +31,6 @@ start("film-1", (root) => {
     const box = make("div", field.filmLook ? "box film" : "box", view);
     place(root, stripCss + buttonCss + css, box);
     const { button, rest } = motion(root, "the film", (moves, still) => {
-        view.classList.toggle("rests", still);
         if (still) view.tabIndex = 0;
         else view.removeAttribute("tabindex");
         film.run(moves, still);

@@ -5,7 +5,7 @@ import { strip, stripCss } from "../strip.js";
 
 const css =
     ".box{display:flex;align-items:center;box-sizing:border-box;max-width:100%;min-height:1.6em}" +
-    ".faded{-webkit-mask-image:var(--edges);mask-image:var(--edges);" +
+    ".faded:not(.still){-webkit-mask-image:var(--edges);mask-image:var(--edges);" +
     "--edges:linear-gradient(90deg,#0000,#000 2em calc(100% - 2em),#0000)}";
 
 start("scroller-1", (root) => {
