@@ -3,6 +3,8 @@
 #include "core/draft.h"
 #include "core/pasted_tag.h"
 #include "windows/field_controls.h"
+#include "windows/field_watch.h"
+#include "windows/hint_lines.h"
 #include "windows/paged_form.h"
 
 #include <optional>
@@ -11,8 +13,8 @@ namespace orvane {
 
 /// The base class of all effect windows. It binds each field that `ForEachField` names to its
 /// control, asks `Check` (or `CheckPage` on each page), shows the values that `Tidy` corrected,
-/// delivers what `Generate` returns, keeps drafts, and fills the window from a pasted tag where the
-/// effect has a `ReadTag`.
+/// delivers what `Generate` returns, shows the hints of `HintsOf` where there is one, keeps drafts,
+/// and fills the window from a pasted tag where the effect has a `ReadTag`.
 template <class Effect>
 class EffectForm : public PagedForm
 {
@@ -73,11 +75,14 @@ protected:
         PagedForm::AddButtons(buttons, helpName);
         SetParameters(Fresh());
         GoTo(0);
-        const bool isFresh = !m_bench.Core.EditMode;
-        if constexpr (requires(Effect & effect, const PastedTag& tag) { ReadTag(effect, tag); })
+        bool isFresh = true;
+        if constexpr (requires(Effect & effect, const PastedTag& tag) { ReadTag(effect, tag); }) {
+            isFresh = !m_bench.Core.EditMode;
             if (!isFresh)
                 EditApplet();
+        }
         BeginDrafts(isFresh);
+        BeginHints();
     }
 
     /// What a fresh window shows; overridden where it is more than the struct's defaults.
@@ -122,6 +127,18 @@ protected:
     }
 
 private:
+    /// Keeps the hints below the fields true while the author changes them.
+    void BeginHints()
+    {
+        if constexpr (requires(const Effect& effect) { HintsOf(effect); }) {
+            const auto show = [this] { m_hints.Show(HintsOf(Parameters())); };
+            connect(&m_watch, &FieldWatch::Changed, this, show);
+            const Effect fresh;
+            ForEachField(fresh, [this](FieldName name, const auto&) { m_watch.Add(name.Name); });
+            show();
+        }
+    }
+
     std::optional<Complaint> CheckHere(const Effect& effect) const
     {
         if constexpr (requires { CheckPage(effect, 0); })
@@ -138,6 +155,8 @@ private:
     }
 
     FieldControls m_controls;
+    FieldWatch m_watch{*this};
+    HintLines m_hints{*this};
     PastedTag m_tag;
 };
 

@@ -66,6 +66,17 @@ Text SoundElement(double clock)
     return Join({u"bgs", four});
 }
 
+std::vector<Hint> HintsOf(const DynamicButton& button)
+{
+    return HintList()
+        .InScript("DefaultImage", button.DefaultImage, bothQuotes)
+        .InScript("OverImage", button.OverImage, bothQuotes)
+        .InScript("OverSound", button.OverSound, bothQuotes)
+        .InScript("ClickImage", button.ClickImage, bothQuotes)
+        .InScript("ClickSound", button.ClickSound, bothQuotes)
+        .Hints();
+}
+
 EffectPayload Generate(const DynamicButton& button, TextView soundElement)
 {
     const auto otherwiseOver = [&](const Text& image) {

@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <optional>
 
@@ -45,6 +46,9 @@ void Tidy(DynamicButton& button);
 /// The id of the element that plays the sounds: "bgs" and digits of the time, which is given in
 /// days, so that two buttons of one page are unlikely to have the same.
 Text SoundElement(double clock);
+
+/// The hints at quotes in the names of images and sounds, which the scripts of the button take.
+std::vector<Hint> HintsOf(const DynamicButton& button);
 
 /// The button's page text, with its sounds in the element of that id (see SoundElement()). Expects
 /// a button that passes CheckPage() and went through Tidy().

@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <optional>
 
@@ -91,6 +92,10 @@ inline constexpr TextView passwordScriptName = u"password.cgi";
 
 /// The text of the script for the Web server. Expects a protection that went through Tidy().
 Text PasswordScript(const PasswordProtection& protection);
+
+/// The hints at quotation marks in what the chosen scheme's script takes, and at an empty password
+/// of the page's own script.
+std::vector<Hint> HintsOf(const PasswordProtection& protection);
 
 /// The page text of the chosen scheme: the script, or the login form, whose server script must be
 /// in the program's folder. Expects a protection that passes CheckPage() on the pages of its scheme

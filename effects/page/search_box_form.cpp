@@ -11,7 +11,6 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
 {
     const SearchModeWords words = WordsOfMode(mode);
     SetEffect(words.Kind);
-    // The cursor waits behind the "http://", which stays unselected.
     PageBuilder page = AddPage(
         {words.Heading, words.SubHeading, mode == searchMode ? ControlName() : "txtTranslateURL"});
     page.HiddenText("Mode");
@@ -24,10 +23,18 @@ SearchBoxForm::SearchBoxForm(Workbench& bench, QWidget* parent, TextView mode)
     txtURL = search.TextBox("txtURL", u"Web site:", {}, u"e.g., mysite.com");
     PageBuilder translate = page.Frame(u"Translation settings", "frameTranslate");
     frameTranslate = translate.Page();
-    translate.TextBox("txtTranslateURL", u"Web page:");
+    txtTranslateURL = translate.TextBox("txtTranslateURL", u"Web page:");
     translate.Note(Join({u"e.g., ", translateSample}));
     page.Fill();
     AddButtons(Buttons::OnePage);
+}
+
+void SearchBoxForm::setVisible(bool isVisible)
+{
+    // The toolkit shows a window with all of its first field selected.
+    EffectForm::setVisible(isVisible);
+    if (isVisible)
+        txtTranslateURL->end(false);
 }
 
 SearchBox SearchBoxForm::Fresh() const

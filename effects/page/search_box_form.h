@@ -14,6 +14,9 @@ public:
     /// Shows the window in that mode.
     explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr, TextView mode = searchMode);
 
+    /// The cursor stands behind the "http://", which is not selected.
+    void setVisible(bool isVisible) override;
+
 protected:
     SearchBox Fresh() const override;
     void UpdateForm() override;
@@ -24,6 +27,7 @@ private:
     QWidget* frameSearch;
     QLineEdit* txtURL;
     QWidget* frameTranslate;
+    QLineEdit* txtTranslateURL;
 };
 
 } // namespace orvane
