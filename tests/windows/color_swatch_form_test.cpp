@@ -57,15 +57,16 @@ TEST_F(ColorSwatchTest, SaysItsColorAndGoesBackToTheDefaultOnDelete)
     auto* tooltip = PageBuilder(new QWidget(&m_window), &m_desk.Bench)
                         .ColorSwatch("lblBack", u"Back:", ColorNotation::RgbFunction);
     tooltip->SetValue(u"#FFFFFF");
-    const std::pair<ColorSwatch*, std::string> rows[] = {{m_swatch, "#BC0A00"},
-                                                         {tooltip, "rgb(188,10,0)"}};
+    const std::pair<ColorSwatch*, std::string> rows[] = {{m_swatch, "#BC0A30"},
+                                                         {tooltip, "rgb(188,10,48)"}};
     for (const auto& [swatch, value] : rows) {
         const std::string plain = words(*swatch);
         const Text unset = swatch->Value();
         int changes = 0;
-        QObject::connect(swatch, &ColorSwatch::WasUnset, [&changes] { ++changes; });
+        QObject receiver;
+        QObject::connect(swatch, &ColorSwatch::WasUnset, &receiver, [&changes] { ++changes; });
         for (int time = 0; time < 2; ++time) {
-            m_dialogs.AnswerColor(188 | 10 << 8);
+            m_dialogs.AnswerColor(188 | 10 << 8 | 48 << 16);
             swatch->click();
         }
         const std::string name = swatch == m_swatch ? "Text color, " : "Back, ";

@@ -171,7 +171,7 @@ TEST_F(VocabularyTest, AHintStandsBelowItsFieldAsLongAsItHolds)
     QLineEdit* box = m_page.TextBox("txt", u"Text:");
     QLineEdit* below = m_page.TextBox("txtBelow", u"Below:");
     m_page.TextBox("txtHidden", u"Hidden:")->hide();
-    m_page.ListBox("lst", {}, {});
+    m_page.ListBox("lst", u"List:", {});
     HintLines lines(m_window);
     Show();
     for (int time = 0; time < 2; ++time) {
