@@ -6,9 +6,10 @@ namespace orvane {
 
 namespace {
 
-bool IsSeparator(char16_t c)
+/// On this machine "\" may stand in a name like any other character.
+TextView SeparatorsIn(TextView path)
 {
-    return c == u'/' || c == u'\\';
+    return path.starts_with(pathSeparator) ? u"/" : u"/\\";
 }
 
 /// Matches one mask; on a mismatch behind a "*" the star takes one more character.
@@ -39,7 +40,7 @@ bool MatchesMask(TextView name, TextView mask)
 
 std::size_t LastSeparator(TextView path)
 {
-    const std::size_t place = path.find_last_of(u"/\\");
+    const std::size_t place = path.find_last_of(SeparatorsIn(path));
     return place == TextView::npos ? 0 : place + 1;
 }
 
@@ -56,7 +57,7 @@ TextView FolderOf(TextView path)
 Text WithSeparator(TextView folder)
 {
     Text path(folder);
-    if (path.empty() || !IsSeparator(path.back()))
+    if (LastSeparator(path) != path.size() || path.empty())
         path.push_back(pathSeparator);
     return path;
 }

@@ -6,10 +6,11 @@
 
 namespace orvane {
 
-/// Stands between the folders of a path. Texts that come from a page or a tag may hold "\" instead.
+/// Stands between the folders of a path. A path that begins with it is parted by it alone; in any
+/// other text, which comes from a page, a tag or the author, "\" parts folders as well.
 inline constexpr char16_t pathSeparator = u'/';
 
-/// The position of the last separator of either kind, counted from 1; 0 when there is none.
+/// The position of the last separator, counted from 1; 0 when there is none.
 std::size_t LastSeparator(TextView path);
 
 /// The name behind the last separator; the whole text when there is none.

@@ -82,6 +82,7 @@ void OptionsForm::BrowseForBrowser()
                   .FilterIndex = 1});
     // Cancel empties the field, as it always has.
     txtBrowser->setText(ToQt(m_bench.Core.BrowserPathChoice));
+    txtBrowser->setFocus(Qt::OtherFocusReason);
 }
 
 void OptionsForm::BrowseForDefaultPath()
@@ -90,6 +91,7 @@ void OptionsForm::BrowseForDefaultPath()
         m_bench.Dialogs.PickFolder(u"Default directory", FromQt(txtDefaultPath->text()));
     if (folder)
         txtDefaultPath->setText(ToQt(*folder));
+    txtDefaultPath->setFocus(Qt::OtherFocusReason);
 }
 
 void OptionsForm::Take()

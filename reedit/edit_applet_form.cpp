@@ -48,6 +48,7 @@ EditAppletForm::EditAppletForm(Workbench& bench, std::function<bool(EffectKind)>
     all->addWidget(m_panels);
     AddPastePanel();
     AddChoicePanel();
+    SetReadingOrder(*this);
     OpenHelpOnF1(this, bench.Help, help_topics::editApplet);
     resize(520, 360);
 }
@@ -72,7 +73,7 @@ void EditAppletForm::AddPastePanel()
     QPushButton* help = panel.Button("cmdClickHereForHelp", u"Click here for help");
     connect(help, &QPushButton::clicked, this,
             [this] { m_bench.Help.ShowTopic(help_topics::editApplet); });
-    panel.Buttons({edit, cancel, help});
+    panel.EndButtons({help}, {edit, cancel});
 }
 
 void EditAppletForm::AddChoicePanel()
@@ -91,7 +92,7 @@ void EditAppletForm::AddChoicePanel()
     connect(edit, &QPushButton::clicked, this, &EditAppletForm::EditChosen);
     QPushButton* cancel = panel.Button("cmdCancel", u"&Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    panel.Buttons({edit, cancel});
+    panel.EndButtons({}, {edit, cancel});
 }
 
 PageBuilder EditAppletForm::AddPanel()

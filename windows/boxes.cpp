@@ -1,5 +1,6 @@
 #include "windows/boxes.h"
 
+#include "windows/controls.h"
 #include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 #include "windows/text_line.h"
@@ -37,6 +38,18 @@ private:
     QRadioButton* m_option;
 };
 
+/// A caption that is too long for one line is broken near its middle, which no one hears.
+void Label(QAbstractButton& button, TextView caption)
+{
+    constexpr qsizetype longest = 90;
+    QString words = ToQt(caption);
+    if (words.size() > longest) {
+        button.setAccessibleName(words);
+        words[words.lastIndexOf(u' ', words.size() / 2)] = u'\n';
+    }
+    button.setText(words);
+}
+
 } // namespace
 
 QLineEdit* MakeTextBox(QWidget* parent)
@@ -46,11 +59,16 @@ QLineEdit* MakeTextBox(QWidget* parent)
 
 QCheckBox* MakeCheckBox(TextView caption, QWidget* parent)
 {
-    constexpr qsizetype longest = 90;
-    QString words = ToQt(caption);
-    if (words.size() > longest)
-        words[words.lastIndexOf(u' ', words.size() / 2)] = u'\n';
-    return new QCheckBox(words, parent);
+    auto* box = new QCheckBox(parent);
+    Label(*box, caption);
+    return box;
+}
+
+QRadioButton* MakeOption(TextView caption, QWidget* parent)
+{
+    auto* option = new QRadioButton(parent);
+    Label(*option, caption);
+    return option;
 }
 
 QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent)
@@ -61,6 +79,7 @@ QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidge
     // What is typed stays as it is: no "12" for a typed "1", no "Arial" for a typed "arial".
     if (isEditable) {
         box->setCompleter(nullptr);
+        LeaveAltToAccessKeys(*box);
         box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     }
     for (const TextView item : items)

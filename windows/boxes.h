@@ -35,6 +35,9 @@ QLineEdit* MakeTextBox(QWidget* parent);
 /// A check box; a caption of more than 90 characters takes two lines.
 QCheckBox* MakeCheckBox(TextView caption, QWidget* parent);
 
+/// An option button, with a caption like that of a check box.
+QRadioButton* MakeOption(TextView caption, QWidget* parent);
+
 /// A combo box; what is typed into an editable one stays as it is, without completion.
 QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent);
 

@@ -40,8 +40,10 @@ void Browse(Workbench& bench, QLineEdit& field, const BrowseRule& rule)
 QPushButton* MakeBrowseButton(Workbench& bench, QLineEdit* field, BrowseRule rule)
 {
     QPushButton* button = MakeButton(rule.Button, rule.Caption);
-    QObject::connect(button, &QPushButton::clicked, field,
-                     [field, &bench, rule = std::move(rule)] { Browse(bench, *field, rule); });
+    QObject::connect(button, &QPushButton::clicked, field, [field, &bench, rule = std::move(rule)] {
+        Browse(bench, *field, rule);
+        field->setFocus(Qt::OtherFocusReason);
+    });
     return button;
 }
 

@@ -34,7 +34,8 @@ struct BrowseRule
 };
 
 /// The button that lets the author pick a file for the field, by the rule; it has no parent yet. A
-/// cancelled dialog changes nothing. The bench must outlive the button.
+/// cancelled dialog changes nothing. Either way the focus goes to the field. The bench must outlive
+/// the button.
 QPushButton* MakeBrowseButton(Workbench& bench, QLineEdit* field, BrowseRule rule);
 
 } // namespace orvane

@@ -1,8 +1,11 @@
 #include "windows/color_swatch.h"
 
+#include "windows/controls.h"
 #include "windows/qt_text.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -14,6 +17,15 @@ namespace {
 QColor OnScreen(std::int32_t color)
 {
     return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
+}
+
+/// The words with another end in place of the one that they have, which becomes the other one.
+QString WithEnd(QString words, QString& end, const QString& next)
+{
+    if (words.endsWith(end))
+        words.chop(end.size());
+    end = next;
+    return words + next;
 }
 
 } // namespace
@@ -34,15 +46,37 @@ void ColorSwatch::SetValue(TextView value)
 {
     m_value = value;
     const bool isDefault = m_notation == ColorNotation::RgbFunction && value.starts_with(u'#');
+    if (isDefault || value.empty())
+        m_unset = value;
     Show(isDefault ? std::nullopt : PackedColor(value));
+}
+
+void ColorSwatch::Unset()
+{
+    m_value = m_unset;
+    Show(std::nullopt);
+    emit WasUnset();
 }
 
 void ColorSwatch::Show(std::optional<std::int32_t> color)
 {
     m_color = color;
     setText(color ? QString() : m_caption);
-    setAccessibleDescription(color ? OnScreen(*color).name() : m_caption);
+    setAccessibleDescription(color ? QString() : m_caption);
+    const QString value = color ? ToQt(ColorText(*color, m_notation)) : QString();
+    setAccessibleName(WithEnd(accessibleName(), m_spoken, value.isEmpty() ? value : ", " + value));
+    setToolTip(WithEnd(toolTip(), m_tip, value.isEmpty() ? value : " (" + value + ")"));
     update();
+}
+
+void ColorSwatch::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* unset = AddCommand(*menu, "mnuUnsetColor", u"&Take the color away");
+    unset->setEnabled(m_color.has_value());
+    connect(unset, &QAction::triggered, this, &ColorSwatch::Unset);
+    menu->popup(event->globalPos());
 }
 
 QSize ColorSwatch::sizeHint() const
@@ -57,8 +91,11 @@ QSize ColorSwatch::sizeHint() const
 
 void ColorSwatch::keyPressEvent(QKeyEvent* event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isEnter)
+    const int key = event->key();
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (key == Qt::Key_Delete || key == Qt::Key_Backspace)
+        Unset();
+    else if (!isEnter)
         QPushButton::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         click();

@@ -11,7 +11,8 @@
 namespace orvane {
 
 /// The field in which an author picks a colour: it shows a caption at first, then the colour
-/// itself. A click, Enter or the space bar opens the colour dialog.
+/// itself, which its accessible name and its tool tip say as well. A click, Enter or the space bar
+/// opens the colour dialog; Delete, Backspace and the context menu take the colour away.
 class ColorSwatch : public QPushButton
 {
     Q_OBJECT
@@ -34,13 +35,21 @@ public:
     /// The colour that is shown, packed as CColor::RGBColor is; nothing while the caption is shown.
     std::optional<std::int32_t> Color() const { return m_color; }
 
+    /// Takes the colour away: the field is as it was before the author picked one, with the value
+    /// that it had then.
+    void Unset();
+
     QSize sizeHint() const override;
 
 signals:
     /// The author picked this colour, packed as Color() is; not sent on Cancel.
     void Picked(std::int32_t color);
 
+    /// The author took the colour away.
+    void WasUnset();
+
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -52,6 +61,9 @@ private:
     const QString m_caption;
     const ColorNotation m_notation;
     Text m_value;
+    Text m_unset;     ///< the value without a picked colour
+    QString m_spoken; ///< what the colour adds to the accessible name
+    QString m_tip;    ///< what it adds to the tool tip
     std::optional<std::int32_t> m_color;
 };
 

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -60,23 +61,6 @@ bool Holds(QLayoutItem* item, const QWidget* control)
         if (Holds(layout->itemAt(i), control))
             return true;
     return false;
-}
-
-struct FormRow
-{
-    QFormLayout* Rows = nullptr;
-    int Row = 0;
-};
-
-/// Where the control stands; no rows when its parent lays out otherwise.
-FormRow RowOf(const QWidget* control)
-{
-    auto* rows = qobject_cast<QFormLayout*>(control->parentWidget()->layout());
-    for (int row = 0; rows != nullptr && row < rows->rowCount(); ++row)
-        for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole})
-            if (QLayoutItem* item = rows->itemAt(row, role); item && Holds(item, control))
-                return {rows, row};
-    return {};
 }
 
 void ShowAll(QLayoutItem& item, bool isShown)
@@ -149,8 +133,31 @@ void ShowComplaint(QWidget& window, Dialogs& dialogs, const Complaint& complaint
     dialogs.Say(complaint.Words, complaint.Look);
     if (complaint.Control.empty())
         return;
-    if (auto* control = window.findChild<QWidget*>(ToQt(complaint.Control)))
-        control->setFocus(Qt::OtherFocusReason);
+    for (auto* control : window.findChildren<QWidget*>(ToQt(complaint.Control)))
+        if (control->isVisibleTo(&window))
+            control->setFocus(Qt::OtherFocusReason);
+}
+
+void LeaveAltToAccessKeys(QWidget& field)
+{
+    /// Without it a letter that is no access key at present would be typed.
+    class AltFilter : public QObject
+    {
+    public:
+        using QObject::QObject;
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() != QEvent::KeyPress)
+                return QObject::eventFilter(watched, event);
+            const auto& key = *static_cast<QKeyEvent*>(event);
+            const bool types = !key.text().isEmpty() && key.text().at(0).isPrint();
+            if (!types || (key.modifiers() & ~Qt::ShiftModifier) != Qt::AltModifier)
+                return false;
+            event->ignore();
+            return true;
+        }
+    };
+    field.installEventFilter(new AltFilter(&field));
 }
 
 void SetReadingOrder(QWidget& window)
@@ -170,6 +177,16 @@ QWidget* FirstControl(QWidget& page)
     };
     const auto first = std::ranges::find_if(controls, stops);
     return first == controls.end() ? nullptr : *first;
+}
+
+FormRow RowOf(const QWidget* control)
+{
+    auto* rows = qobject_cast<QFormLayout*>(control->parentWidget()->layout());
+    for (int row = 0; rows != nullptr && row < rows->rowCount(); ++row)
+        for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole})
+            if (QLayoutItem* item = rows->itemAt(row, role); item && Holds(item, control))
+                return {rows, row};
+    return {};
 }
 
 QLabel* LabelOf(QWidget* control)

@@ -6,6 +6,7 @@
 #include <QString>
 
 class QAction;
+class QFormLayout;
 class QLabel;
 class QMenu;
 class QMenuBar;
@@ -39,14 +40,30 @@ QAction* AddCommand(QMenu& menu, ControlName name, TextView caption);
 /// Opens the window's help topic on F1.
 void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic);
 
-/// Shows the complaint's words and gives its control the focus; without a control the focus stays.
+/// Shows the complaint's words and gives its control the focus; the focus stays when there is no
+/// control, or none that is on the page that is shown.
 void ShowComplaint(QWidget& window, Dialogs& dialogs, const Complaint& complaint);
+
+/// Keeps a letter that is pressed together with Alt out of a field, whether or not it is an access
+/// key of the window at present.
+void LeaveAltToAccessKeys(QWidget& field);
 
 /// Lets Tab walk the window's controls in reading order, which is the order of its layouts.
 void SetReadingOrder(QWidget& window);
 
 /// The first control of a page in reading order that Tab stops at; null when there is none.
 QWidget* FirstControl(QWidget& page);
+
+/// A row of a form layout.
+struct FormRow
+{
+    QFormLayout* Rows = nullptr;
+    int Row = 0;
+};
+
+/// The row in which the control stands, whose parent has the form layout; without a layout when the
+/// parent lays out otherwise.
+FormRow RowOf(const QWidget* control);
 
 /// The label of the form row in which the control stands; null when there is no row or no label.
 QLabel* LabelOf(QWidget* control);

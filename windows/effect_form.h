@@ -4,6 +4,8 @@
 #include "core/effect.h"
 #include "core/pasted_tag.h"
 #include "windows/field_controls.h"
+#include "windows/field_watch.h"
+#include "windows/hint_lines.h"
 #include "windows/paged_form.h"
 
 #include <optional>
@@ -12,8 +14,9 @@ namespace orvane {
 
 /// The base class of all effect windows, made of what stands beside the parameters (see
 /// core/effect.h). It binds each field that `ForEachField` names to its control, goes from page to
-/// page while the checks pass, shows the values that `Tidy` mended, delivers what `Generate` gives,
-/// keeps drafts, and fills the window from a pasted tag where the effect has a `ReadTag`.
+/// page while the checks pass, shows the hints of `HintsOf` where there is one and the values that
+/// `Tidy` mended, delivers what `Generate` gives, keeps drafts, and fills the window from a pasted
+/// tag where the effect has a `ReadTag`.
 template <class Effect>
 class EffectForm : public PagedForm
 {
@@ -78,11 +81,14 @@ protected:
         PagedForm::AddButtons(buttons, helpName);
         SetParameters(Fresh());
         GoTo(0);
-        const bool isFresh = !m_bench.Core.EditMode;
-        if constexpr (requires(Effect & effect, const PastedTag& tag) { ReadTag(effect, tag); })
+        bool isFresh = true;
+        if constexpr (requires(Effect & effect, const PastedTag& tag) { ReadTag(effect, tag); }) {
+            isFresh = !m_bench.Core.EditMode;
             if (!isFresh)
                 EditApplet();
+        }
         BeginDrafts(isFresh);
+        BeginHints();
     }
 
     /// What a fresh window shows.
@@ -132,6 +138,18 @@ protected:
     }
 
 private:
+    /// Keeps the hints below the fields true while the author changes them.
+    void BeginHints()
+    {
+        if constexpr (requires(const Effect& effect) { HintsOf(effect); }) {
+            const auto show = [this] { m_hints.Show(HintsOf(Parameters())); };
+            connect(&m_watch, &FieldWatch::Changed, this, show);
+            const Effect fresh;
+            ForEachField(fresh, [this](FieldName name, const auto&) { m_watch.Add(name.Name); });
+            show();
+        }
+    }
+
     void FillFromTag()
     {
         Effect effect;
@@ -141,6 +159,8 @@ private:
 
     FieldControls m_controls;
     const EffectKind m_freshKind;
+    FieldWatch m_watch{*this};
+    HintLines m_hints{*this};
     PastedTag m_tag;
 };
 

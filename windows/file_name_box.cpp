@@ -6,6 +6,20 @@
 
 namespace orvane {
 
+namespace {
+
+/// Whether the key would change the text of a box that is not locked.
+bool Changes(const QKeyEvent& key)
+{
+    if (key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace)
+        return true;
+    if (key.matches(QKeySequence::Paste) || key.matches(QKeySequence::Cut))
+        return true;
+    return !key.text().isEmpty() && key.text().at(0).isPrint();
+}
+
+} // namespace
+
 FileNameBox::FileNameBox(const Settings& settings, Dialogs& dialogs, QWidget* parent)
     : TextLine(parent), m_settings(settings), m_dialogs(dialogs)
 {
@@ -19,8 +33,7 @@ void FileNameBox::SetHoldsFile(bool holdsFile)
 
 void FileNameBox::keyPressEvent(QKeyEvent* event)
 {
-    const bool types = !event->text().isEmpty() && event->text().at(0).isPrint();
-    if (isReadOnly() && types)
+    if (isReadOnly() && Changes(*event))
         WarnInputBoxLocked(m_settings, m_dialogs);
     else
         TextLine::keyPressEvent(event);

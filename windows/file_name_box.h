@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-/// A text box for a file name: read-only unless the preferences unlock it. A character typed into a
-/// locked box makes it tell the author to use Browse.
+/// A text box for a file name: read-only unless the preferences unlock it. A key that would change
+/// a locked box makes it tell the author to use Browse.
 class FileNameBox : public TextLine
 {
     Q_OBJECT

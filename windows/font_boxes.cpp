@@ -10,11 +10,11 @@
 
 namespace orvane {
 
-void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button)
+void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button, TextView sizeUnit)
 {
     QComboBox* font = page.ComboBox("cboFont", u"Font:", pageFonts, true);
     QComboBox* size =
-        page.Narrow(page.ComboBox("cboFontSize", u"Font size:", FontSizes, true, {}, u"points"));
+        page.Narrow(page.ComboBox("cboFontSize", u"Font size:", FontSizes, true, {}, sizeUnit));
     QComboBox* style = page.ComboBox("cboFontStyle", u"Font style:", fontStyles, true);
     QPushButton* more = page.Button(button, u"more...");
     page.Buttons({more});

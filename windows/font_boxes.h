@@ -11,6 +11,7 @@ class PageBuilder;
 
 /// Adds the three rows in which an author chooses a font, `cboFont`, `cboFontSize` and
 /// `cboFontStyle`, and a button of the name `button` that opens the font dialog.
-void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button);
+/// `sizeUnit` stands to the right of the size.
+void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button, TextView sizeUnit);
 
 } // namespace orvane

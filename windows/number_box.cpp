@@ -13,6 +13,7 @@ NumberBox::NumberBox(ControlName name, int lowest, int highest, QWidget* parent)
     : QLineEdit(parent), m_lowest(lowest), m_highest(highest), m_upDown(new QWidget(parent))
 {
     setObjectName(ToQt(name));
+    LeaveAltToAccessKeys(*this);
     auto* buttons = new QVBoxLayout(m_upDown);
     buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(0);

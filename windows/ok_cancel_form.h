@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/workbench.h"
+#include "windows/hint_lines.h"
 #include "windows/page_builder.h"
 
 #include <QDialog>
@@ -37,6 +38,9 @@ protected:
         orvane::ShowComplaint(*this, m_bench.Dialogs, complaint);
     }
 
+    /// Shows these hints below their fields and takes away all others.
+    void ShowHints(const std::vector<Hint>& hints) { m_hints.Show(hints); }
+
     /// Called when OK is pressed: closes the window by accept(), or reports what is wrong.
     virtual void Take() = 0;
 
@@ -44,6 +48,7 @@ protected:
 
 private:
     PageBuilder m_rows;
+    HintLines m_hints{*this};
 };
 
 } // namespace orvane

@@ -46,6 +46,7 @@ orvane::MultiLineBox* PageBuilder::MultiLineBox(ControlName name, TextView label
 {
     auto* box = new orvane::MultiLineBox(Page());
     box->setTabChangesFocus(true);
+    LeaveAltToAccessKeys(*box);
     box->setMinimumHeight(4 * box->fontMetrics().lineSpacing());
     FieldRow(box, name, label, tip, nullptr);
     return box;
@@ -110,6 +111,8 @@ QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName s
     picker->setToolTip(QStringLiteral("Click here to select a color"));
     QObject::connect(picker, &orvane::ColorSwatch::Picked, box,
                      [box, picker] { SetComboText(*box, picker->Value()); });
+    QObject::connect(picker, &orvane::ColorSwatch::WasUnset, box,
+                     [box] { SetComboText(*box, {}); });
     LastLine()->addWidget(picker);
     return box;
 }
@@ -149,9 +152,9 @@ orvane::ColorSwatch* PageBuilder::ColorSwatch(ControlName name, TextView label,
     return swatch;
 }
 
-void PageBuilder::FontRow(ControlName button)
+void PageBuilder::FontRow(ControlName button, TextView sizeUnit)
 {
-    AddFontRows(*this, m_bench->Dialogs, button);
+    AddFontRows(*this, m_bench->Dialogs, button, sizeUnit);
 }
 
 ActingList* PageBuilder::ListBox(ControlName name, TextView label, std::span<const TextView> items)
@@ -178,7 +181,7 @@ QCheckBox* PageBuilder::CheckBox(ControlName name, TextView caption, TextView ti
 QRadioButton* PageBuilder::Option(ControlName group, int index, TextView caption,
                                   TextView description, const QString& picture)
 {
-    auto* option = new QRadioButton(ToQt(caption), Page());
+    QRadioButton* option = MakeOption(caption, Page());
     option->setObjectName(MemberName(group, index));
     Rows().addRow(option);
     if (description.empty())

@@ -84,8 +84,8 @@ public:
                                      TextView tip = u"Click here to select a color");
 
     /// Font, size and style as `cboFont`, `cboFontSize` and `cboFontStyle`, and the button that
-    /// opens the font dialog.
-    void FontRow(ControlName button = "cmdMoreFonts");
+    /// opens the font dialog; `sizeUnit` stands to the right of the size.
+    void FontRow(ControlName button = "cmdMoreFonts", TextView sizeUnit = u"points");
 
     /// A list box with these items below its label; it takes the height that is left.
     ActingList* ListBox(ControlName name, TextView label, std::span<const TextView> items);

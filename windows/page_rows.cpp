@@ -55,6 +55,16 @@ void PageRows::Buttons(std::initializer_list<QPushButton*> buttons)
     m_rows->addRow(line);
 }
 
+void PageRows::EndButtons(std::initializer_list<QPushButton*> left,
+                          std::initializer_list<QPushButton*> right)
+{
+    Buttons(left);
+    QLayoutItem* row = m_rows->itemAt(m_rows->rowCount() - 1, QFormLayout::SpanningRole);
+    auto* line = static_cast<QHBoxLayout*>(row->layout());
+    for (QPushButton* button : right)
+        line->addWidget(button);
+}
+
 QLabel* PageRows::Row(TextView label, std::initializer_list<QWidget*> widgets)
 {
     auto* line = new QHBoxLayout;

@@ -30,6 +30,11 @@ public:
     /// A row of buttons, each as wide as its caption.
     void Buttons(std::initializer_list<QPushButton*> buttons);
 
+    /// The row of buttons that ends a window: at its left those that leave it open, at its right
+    /// those that close it.
+    void EndButtons(std::initializer_list<QPushButton*> left,
+                    std::initializer_list<QPushButton*> right);
+
     /// Any widgets side by side in one row with a label, which belongs to the first one. The first
     /// one takes the width that is left. Returns the label; null when `label` is empty.
     QLabel* Row(TextView label, std::initializer_list<QWidget*> widgets);

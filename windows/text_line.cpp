@@ -1,5 +1,7 @@
 #include "windows/text_line.h"
 
+#include "windows/controls.h"
+
 #include <QStyleOptionFrame>
 
 #include <limits>
@@ -9,6 +11,7 @@ namespace orvane {
 TextLine::TextLine(QWidget* parent) : QLineEdit(parent)
 {
     setMaxLength(std::numeric_limits<int>::max());
+    LeaveAltToAccessKeys(*this);
     setMinimumWidth(22 * fontMetrics().averageCharWidth());
 }
 

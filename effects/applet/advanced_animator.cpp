@@ -63,8 +63,8 @@ std::vector<ImageRow> ReadRows(const PastedTag& tag)
 std::optional<Complaint> Check(const AdvancedAnimator& animator)
 {
     if (animator.Rows.size() < 2)
-        return Complaint{u"You must insert more than one image into the Animation Image List.", "",
-                         Tone::Exclamation};
+        return Complaint{u"You must insert more than one image into the Animation Image List.",
+                         "List1", Tone::Exclamation};
     if (animator.AnimationWidth.empty() || animator.AnimationHeight.empty())
         return Complaint{u"Animation width and height properties are required.  Please enter them.",
                          "Text20"};
@@ -72,6 +72,15 @@ std::optional<Complaint> Check(const AdvancedAnimator& animator)
         return Complaint{u"Animation width and height properties must be greater than 0.",
                          "Text20"};
     return std::nullopt;
+}
+
+std::vector<Hint> HintsOf(const AdvancedAnimator& animator)
+{
+    return HintList()
+        .Number("Text20", animator.AnimationWidth)
+        .Number("Text21", animator.AnimationHeight)
+        .Number("Combo3", CountOf(animator.LoopCount))
+        .Hints();
 }
 
 EffectPayload Generate(const AdvancedAnimator& animator)
@@ -89,7 +98,7 @@ EffectPayload Generate(const AdvancedAnimator& animator)
     AddSet(tag, u"TRANSITION.TYPE", animator.Rows, &ImageRow::Transition);
     AddEach(tag, u"URL", animator.Rows, &ImageRow::URL, u"null");
     if (!animator.LoopCount.empty())
-        tag.Param(u"CYCLES", Trim(Left(animator.LoopCount, 2)));
+        tag.Param(u"CYCLES", CountOf(animator.LoopCount));
     if (!animator.BackgroundColor.empty())
         tag.Param(u"BGCOLOR.0", Trim(animator.BackgroundColor));
     return {

@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
+#include "services/hints.h"
 #include "services/image_list.h"
 
 #include <array>
@@ -43,6 +44,9 @@ void ForEachField(Animator& animator, Field&& field)
 
 /// The first failing check in order, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const AdvancedAnimator& animator);
+
+/// The hints at numbers that are none.
+std::vector<Hint> HintsOf(const AdvancedAnimator& animator);
 
 /// The animation's page text, with the collected files that must lie beside the page. Expects an
 /// animator that passes Check().

@@ -78,7 +78,8 @@ void AdvancedAnimatorForm::AddMenus()
 
 void AdvancedAnimatorForm::AddFields(PageBuilder& page)
 {
-    SetPropsButton = page.Button("SetPropsButton", u"Set Image &Properties");
+    // The menu "Properties" has the letter P.
+    SetPropsButton = page.Button("SetPropsButton", u"Set &Image Properties");
     SetPropsButton->setEnabled(false);
     connect(SetPropsButton, &QPushButton::clicked, this, &AdvancedAnimatorForm::SetProperties);
     page.Row({}, {new QWidget, SetPropsButton}); // to the right, below the lists
@@ -91,6 +92,7 @@ void AdvancedAnimatorForm::AddFields(PageBuilder& page)
         connect(box, &QLineEdit::textChanged, this, &AdvancedAnimatorForm::ShowTitle);
     connect(loop, &QComboBox::currentTextChanged, this, &AdvancedAnimatorForm::ShowTitle);
     connect(Label16, &ColorSwatch::Picked, this, &AdvancedAnimatorForm::ShowTitle);
+    connect(Label16, &ColorSwatch::WasUnset, this, &AdvancedAnimatorForm::ShowTitle);
 }
 
 /// Stays as it is: the swatch goes on showing what was picked last.

@@ -263,7 +263,7 @@ std::optional<Complaint> Check(const ImageEffects& effects)
     if (effects.ImageWidth.empty() || effects.ImageHeight.empty())
         return Complaint{u"Please input the special effect width and height.", "ImageWidth"};
     if (effects.ImageFile.empty())
-        return Complaint{u"Please select an image.", ""};
+        return Complaint{u"Please select an image.", "ImageFile"};
     return std::nullopt;
 }
 
@@ -272,6 +272,15 @@ void Tidy(ImageEffects& effects)
     const ImageEffectsMode* mode = ModeOf(effects);
     if (mode && mode->Second == SecondRow::Link)
         effects.LinkOrColor = WithScheme(effects.LinkOrColor);
+}
+
+std::vector<Hint> HintsOf(const ImageEffects& effects)
+{
+    return HintList()
+        .Number("ImageWidth", effects.ImageWidth)
+        .Number("ImageHeight", effects.ImageHeight)
+        .Number("FrameCount", effects.FrameCount)
+        .Hints();
 }
 
 EffectPayload Generate(const ImageEffects& effects)

@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
+#include "services/hints.h"
 #include "services/picked_image.h"
 
 #include <array>
@@ -123,7 +124,8 @@ void ChooseEffect(ImageEffects& effects);
 /// Applies a change of `chkGradual`: ticked, it puts the size slider at its start for Brighten.
 void ChooseGradual(ImageEffects& effects);
 
-/// Puts a picked color, given as "255,128,0", into the fields.
+/// Puts a picked color, given as "255,128,0", into the fields; an empty text when it was taken
+/// away.
 void ChooseColor(ImageEffects& effects, const Text& channels);
 
 /// Puts a picked image into the fields, or gives the complaint about its size or name. A file that
@@ -135,6 +137,9 @@ std::optional<Complaint> Check(const ImageEffects& effects);
 
 /// Puts "http://" in front of a link that begins with "www.".
 void Tidy(ImageEffects& effects);
+
+/// The hints at numbers that are none.
+std::vector<Hint> HintsOf(const ImageEffects& effects);
 
 /// The page text of the chosen effect; without code while none is chosen. Expects effects that pass
 /// Check().

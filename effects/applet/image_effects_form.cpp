@@ -35,8 +35,10 @@ ImageEffectsForm::ImageEffectsForm(Workbench& bench, QWidget* parent)
         ImageEffects effects = Parameters();
         ChooseEffect(effects);
         Show(effects);
-        ImageFile->setFocus(Qt::OtherFocusReason);
+        if (!m_keys.IsChoosing())
+            ImageFile->setFocus(Qt::OtherFocusReason);
     });
+    m_keys.Watch(*picker);
     AddButtons(Buttons::OnePage);
     if (ModeOf(Parameters()) != nullptr)
         ImageFile->setFocus(Qt::OtherFocusReason);
@@ -77,11 +79,13 @@ void ImageEffectsForm::AddModeFields(PageBuilder& page)
                                  {.Lowest = 1, .Highest = 75, .Tick = 5});
     for (const ControlName hidden : {"BackRed", "BackGreen", "BackBlue"})
         page.HiddenText(hidden);
-    connect(ColorSwatch, &orvane::ColorSwatch::Picked, this, [this] {
+    const auto takeColor = [this] {
         ImageEffects effects = Parameters();
         ChooseColor(effects, effects.ColorSwatch);
         Show(effects);
-    });
+    };
+    connect(ColorSwatch, &orvane::ColorSwatch::Picked, this, takeColor);
+    connect(ColorSwatch, &orvane::ColorSwatch::WasUnset, this, takeColor);
     connect(chkGradual, &QCheckBox::clicked, this, [this] {
         ImageEffects effects = Parameters();
         ChooseGradual(effects);

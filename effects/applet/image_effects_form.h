@@ -2,6 +2,7 @@
 
 #include "effects/applet/image_effects.h"
 #include "windows/effect_form.h"
+#include "windows/key_choice.h"
 
 #include <optional>
 
@@ -25,6 +26,7 @@ private:
     void ShowSizeSlider(const std::optional<EffectSlider>& slider);
     void TakeImage(const Text& path);
 
+    KeyChoice m_keys;
     QWidget* m_properties = nullptr;
     FileNameBox* ImageFile = nullptr;
     QLineEdit* ImageWidth = nullptr;

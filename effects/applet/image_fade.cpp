@@ -93,8 +93,14 @@ std::optional<Complaint> CheckFadeLink(TextView link)
 std::optional<Complaint> Check(const ImageFade& fade)
 {
     if (fade.FadeImages.size() < 2)
-        return Complaint{u"You must enter at least 2 images to create the image fade effect.", ""};
+        return Complaint{u"You must enter at least 2 images to create the image fade effect.",
+                         "FadeImages"};
     return std::nullopt;
+}
+
+std::vector<Hint> HintsOf(const ImageFade& fade)
+{
+    return HintList().Seconds("FadePause", fade.FadePause, longestTimer).Hints();
 }
 
 EffectPayload Generate(const ImageFade& fade)

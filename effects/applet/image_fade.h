@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
+#include "services/hints.h"
 #include "services/picked_image.h"
 #include "services/row_list.h"
 
@@ -87,6 +88,9 @@ std::optional<Complaint> CheckFadeLink(TextView link);
 
 /// The complaint about too few images, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const ImageFade& fade);
+
+/// The hint at a pause that is no number, or that the applet cannot wait.
+std::vector<Hint> HintsOf(const ImageFade& fade);
 
 /// The fade's page text. Expects a fade that passes Check().
 EffectPayload Generate(const ImageFade& fade);

@@ -114,6 +114,11 @@ std::optional<Complaint> Check(const ImageProperties& properties)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const ImageProperties& properties)
+{
+    return HintList().Number("Text1", properties.Pause).Hints();
+}
+
 Text TransitionValue(TextView transition, TextView direction)
 {
     for (const TextView item : TransitionDirections)

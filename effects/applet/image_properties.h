@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "services/hints.h"
 #include "services/image_list.h"
 
 #include <array>
@@ -63,6 +64,9 @@ std::optional<DirectionChoice> OpeningChoice(const ImageRow& row);
 
 /// The complaint about a pause below -2, or nothing when the properties can be taken.
 std::optional<Complaint> Check(const ImageProperties& properties);
+
+/// The hint at a pause that is no number.
+std::vector<Hint> HintsOf(const ImageProperties& properties);
 
 /// The transition as it stands in a row, such as "slidein(3)"; empty when none is chosen.
 Text TransitionValue(TextView transition, TextView direction);

@@ -21,6 +21,7 @@ ImgPropsForm::ImgPropsForm(Workbench& bench, const ImageRow& row, QWidget* paren
     AddTransition(page);
     page.Fill();
     AddButtons();
+    connect(Text1, &QLineEdit::textChanged, this, [this] { ShowHints(HintsOf(Properties())); });
     Load();
     connect(Check1, &QCheckBox::toggled, this, &ImgPropsForm::WaitForClick);
     // Typed or picked; a second pick of the same item is one as well.

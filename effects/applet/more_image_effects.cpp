@@ -134,6 +134,15 @@ void Tidy(MoreImageEffects& effects)
     effects.LinkUrl = WithScheme(effects.LinkUrl);
 }
 
+std::vector<Hint> HintsOf(const MoreImageEffects& effects)
+{
+    HintList hints;
+    hints.Number("ImageWidth", effects.ImageWidth).Number("ImageHeight", effects.ImageHeight);
+    if (effects.LoopCount != endless)
+        hints.Number("LoopCount", effects.LoopCount);
+    return hints.Seconds("PauseSeconds", effects.PauseSeconds, longestTimer).Hints();
+}
+
 EffectPayload Generate(const MoreImageEffects& effects)
 {
     AppletTagBuilder tag(u"Animate1.class",

@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 #include "services/picked_image.h"
 
 #include <array>
@@ -89,6 +90,9 @@ std::optional<Complaint> Check(const MoreImageEffects& effects);
 
 /// Puts "http://" in front of a link that begins with "www.".
 void Tidy(MoreImageEffects& effects);
+
+/// The hints at numbers that are none, and at a pause that the applet cannot wait.
+std::vector<Hint> HintsOf(const MoreImageEffects& effects);
 
 /// The page text of the chosen effect. Pause and edge are used even while their rows are hidden.
 /// Expects effects that pass Check().

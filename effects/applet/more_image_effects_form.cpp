@@ -20,6 +20,7 @@ MoreImageEffectsForm::MoreImageEffectsForm(Workbench& bench, QWidget* parent)
     AddBehavior(page.Frame(u"Behavior"));
     page.Fill();
     connect(picker, &QComboBox::textActivated, this, &MoreImageEffectsForm::ChooseEffect);
+    m_keys.Watch(*picker);
     connect(LoopCount, &QComboBox::currentTextChanged, this, [this] {
         const MoreImageEffects effects = Parameters();
         ShowRow(PauseSeconds, ShowsPauseForLoops(effects));
@@ -65,7 +66,8 @@ void MoreImageEffectsForm::ChooseEffect()
     effects.LoopCount = Text(loopCounts[0]);
     m_shownEffect.clear();
     SetParameters(effects);
-    ImageFile->setFocus(Qt::OtherFocusReason);
+    if (!m_keys.IsChoosing())
+        ImageFile->setFocus(Qt::OtherFocusReason);
 }
 
 void MoreImageEffectsForm::TakeImage(const Text& path)

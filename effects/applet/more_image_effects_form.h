@@ -2,6 +2,7 @@
 
 #include "effects/applet/more_image_effects.h"
 #include "windows/effect_form.h"
+#include "windows/key_choice.h"
 
 namespace orvane {
 
@@ -20,6 +21,7 @@ private:
     void ChooseEffect();
     void TakeImage(const Text& path);
 
+    KeyChoice m_keys;
     QWidget* m_above = nullptr; ///< holds the picker in the middle while nothing is chosen
     QWidget* m_properties = nullptr;
     QWidget* m_behavior = nullptr;

@@ -25,18 +25,19 @@ std::optional<Complaint> CheckText(const TypewriterText& typewriter)
 
 std::optional<Complaint> CheckAll(const TypewriterText& typewriter)
 {
-    const auto refuse = [](TextView words, const char* control = "") {
+    const auto refuse = [](TextView words, const char* control) {
         return Complaint{Text(words), control, Tone::Exclamation};
     };
     if (typewriter.AppletHeight.empty() || typewriter.AppletWidth.empty())
         return refuse(u"Please enter the required width and height properties.", "AppletWidth");
     if (typewriter.TypedText.empty() && typewriter.TextFile.empty())
         return refuse(
-            u"You must type something in the text box or enter the filename of a text file.");
+            u"You must type something in the text box or enter the filename of a text file.",
+            typewriter.ReadFromFile ? "TextFile" : "TypedText");
     if (!typewriter.ReadFromFile && typewriter.TypedText.empty())
-        return refuse(u"You must type something in the text box.");
+        return refuse(u"You must type something in the text box.", "TypedText");
     if (typewriter.ReadFromFile && typewriter.TextFile.empty())
-        return refuse(u"You must enter the filename of a text file.");
+        return refuse(u"You must enter the filename of a text file.", "TextFile");
     return std::nullopt;
 }
 
@@ -88,6 +89,16 @@ void Tidy(TypewriterText& typewriter)
     typewriter.LinkURL = WithScheme(typewriter.LinkURL);
 }
 
+std::vector<Hint> HintsOf(const TypewriterText& typewriter)
+{
+    return HintList()
+        .Number("FontSize", typewriter.FontSize)
+        .Number("AppletWidth", typewriter.AppletWidth)
+        .Number("AppletHeight", typewriter.AppletHeight)
+        .Number("Cycles", CountOf(typewriter.Cycles))
+        .Hints();
+}
+
 EffectPayload Generate(const TypewriterText& typewriter)
 {
     AppletTagBuilder tag(u"Typewriter9.class", {{u"HEIGHT", SizeOf(typewriter.AppletHeight)},
@@ -103,7 +114,7 @@ EffectPayload Generate(const TypewriterText& typewriter)
     if (!Trim(typewriter.LinkURL).empty())
         tag.Param(u"URL", typewriter.LinkURL);
     tag.Param(u"SPEED", NumberToText(fastestTypewriter + 1 - typewriter.Speed));
-    const TextView cycles = Trim(Left(typewriter.Cycles, 2));
+    const TextView cycles = CountOf(typewriter.Cycles);
     if (cycles != u"0")
         AddUnlessEmpty(tag, u"CYCLES", typewriter.Cycles, cycles);
     AddUnlessEmpty(tag, u"BGCOLOR", typewriter.BackColor, ChannelsOf(typewriter.BackColor));

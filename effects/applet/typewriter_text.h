@@ -5,6 +5,7 @@
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -75,6 +76,9 @@ std::optional<Complaint> CheckPositive(TextView value);
 
 /// Puts "http://" in front of a link that begins with "www.".
 void Tidy(TypewriterText& typewriter);
+
+/// The hints at numbers that are none.
+std::vector<Hint> HintsOf(const TypewriterText& typewriter);
 
 /// The typewriter's page text. Expects a typewriter that passes CheckPage() on every page.
 EffectPayload Generate(const TypewriterText& typewriter);

@@ -4,8 +4,10 @@
 #include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QTimer>
 
 namespace orvane {
 
@@ -47,7 +49,7 @@ void TypewriterTextForm::AddFontPage()
         AddPage({u"Step 2: Text Properties", u"Specify the font and text properties below."});
     page.ComboBox("FontName", u"Font:", AppletFonts, true);
     FontSize = page.Narrow(page.ComboBox("FontSize", u"Font Size (points):", FontSizes, true));
-    WatchSize(FontSize->lineEdit());
+    WatchSize(FontSize);
     PageBuilder style = page.Frame(u"Font Style");
     style.CheckBox("Bold", u"Bold");
     style.CheckBox("Italic", u"Italic");
@@ -79,21 +81,29 @@ void TypewriterTextForm::AddPropertiesPage()
     page.Fill();
 }
 
-/// Tells the author who leaves a box with no positive number in it. The word comes once the focus
-/// has moved on, so that a click on another control still reaches it.
-void TypewriterTextForm::WatchSize(QLineEdit* box)
+/// Tells the author who leaves a box with no positive number in it, changed or not. The word comes
+/// once the focus has moved on, so that a click on another control still reaches it.
+void TypewriterTextForm::WatchSize(QWidget* box)
 {
-    const auto tell = [this, box] {
-        if (!isVisible() || box->hasFocus())
-            return;
-        const auto complaint = CheckPositive(FromQt(box->text()));
-        if (!complaint)
-            return;
-        m_bench.Dialogs.Say(complaint->Words);
-        if (box == FontSize->lineEdit())
-            SetComboText(*FontSize, {});
+    const auto tell = [this, box](QWidget* left, QWidget* entered) {
+        if (left == box && entered != nullptr && entered->window() == this)
+            QTimer::singleShot(0, this, [this, box] { TellSize(box); });
     };
-    connect(box, &QLineEdit::editingFinished, this, tell, Qt::QueuedConnection);
+    connect(qApp, &QApplication::focusChanged, this, tell);
+}
+
+void TypewriterTextForm::TellSize(QWidget* box)
+{
+    if (!isVisible() || box->hasFocus())
+        return;
+    const bool isFont = box == FontSize;
+    const QLineEdit* line = isFont ? FontSize->lineEdit() : static_cast<QLineEdit*>(box);
+    const auto complaint = CheckPositive(FromQt(line->text()));
+    if (!complaint)
+        return;
+    m_bench.Dialogs.Say(complaint->Words);
+    if (isFont)
+        SetComboText(*FontSize, {});
 }
 
 void TypewriterTextForm::UpdateForm()

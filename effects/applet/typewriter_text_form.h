@@ -18,7 +18,8 @@ private:
     void AddTextPage();
     void AddFontPage();
     void AddPropertiesPage();
-    void WatchSize(QLineEdit* box);
+    void WatchSize(QWidget* box);
+    void TellSize(QWidget* box);
 
     orvane::MultiLineBox* TypedText = nullptr;
     FileNameBox* TextFile = nullptr;

@@ -191,6 +191,18 @@ std::optional<Complaint> CheckPage(const AllInOneButton& button, int page)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const AllInOneButton& button)
+{
+    HintList hints;
+    const ButtonAction action = ActionOf(button.cboButtonAction);
+    if (action == ButtonAction::Link || action == ButtonAction::Sound)
+        hints.InScript("txtURL", button.txtURL, bothQuotes);
+    if (action == ButtonAction::Favorites)
+        hints.InScript("txtBookmarkURL", button.txtBookmarkURL, bothQuotes)
+            .InScript("txtBookmarkTitle", button.txtBookmarkTitle, bothQuotes);
+    return hints.Hints();
+}
+
 EffectPayload Generate(const AllInOneButton& button)
 {
     const ClickCode code = CodeOf(button);

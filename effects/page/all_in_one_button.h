@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -86,6 +87,9 @@ ButtonTargetBox TargetBoxOf(ButtonAction action);
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const AllInOneButton& button, int page);
+
+/// The hints at quotes in what the call of the action's script takes.
+std::vector<Hint> HintsOf(const AllInOneButton& button);
 
 /// The button's page text. Expects a button that passes CheckPage() on every page.
 EffectPayload Generate(const AllInOneButton& button);

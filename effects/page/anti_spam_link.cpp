@@ -101,6 +101,15 @@ std::optional<Complaint> Check(const AntiSpamLink& link)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const AntiSpamLink& link)
+{
+    HintList hints;
+    if (link.chkAntiSpam)
+        hints.InScript("Email", link.Email, bothQuotes)
+            .InScript("txtSubject", link.txtSubject, bothQuotes);
+    return hints.Hints();
+}
+
 EffectPayload Generate(const AntiSpamLink& link)
 {
     const TextView subject = Trim(link.txtSubject);

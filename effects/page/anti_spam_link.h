@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 #include "core/settings.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -45,6 +46,9 @@ void Remember(const AntiSpamLink& link, Settings& settings);
 /// The complaint of the first check that fails, in the order of the fields, or nothing when the
 /// wizard may finish.
 std::optional<Complaint> Check(const AntiSpamLink& link);
+
+/// The hints at quotes in what the call of the script takes.
+std::vector<Hint> HintsOf(const AntiSpamLink& link);
 
 /// The link's page text. Expects a link that passes Check().
 EffectPayload Generate(const AntiSpamLink& link);

@@ -1,5 +1,6 @@
 #include "effects/page/cursor_trail.h"
 
+#include "core/file_names.h"
 #include "core/numbers.h"
 #include "core/template.h"
 #include "services/recorded_files.h"
@@ -90,6 +91,11 @@ std::optional<Complaint> Check(const CursorTrail& trail)
     if (trail.txtImage.empty())
         return Complaint{u"Please specify an image to use as your Mouse Cursor Trail.", "txtImage"};
     return std::nullopt;
+}
+
+std::vector<Hint> HintsOf(const CursorTrail& trail)
+{
+    return HintList().InScript("txtImage", GetFileName(trail.txtImage), bothQuotes).Hints();
 }
 
 EffectPayload Generate(const CursorTrail& trail)

@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -31,6 +32,9 @@ void ForEachField(Trail& trail, Field&& field)
 
 /// The complaint about a missing image, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const CursorTrail& trail);
+
+/// The hint at quotes in the name of the image, which a script takes.
+std::vector<Hint> HintsOf(const CursorTrail& trail);
 
 /// The trail's page text, with the image that must lie beside the page. Expects a trail that passes
 /// Check().

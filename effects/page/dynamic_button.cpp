@@ -67,6 +67,17 @@ void Tidy(DynamicButton& button)
     button.LinkUrl = WithScheme(button.LinkUrl);
 }
 
+std::vector<Hint> HintsOf(const DynamicButton& button)
+{
+    return HintList()
+        .InScript("DefaultImage", button.DefaultImage, bothQuotes)
+        .InScript("OverImage", button.OverImage, bothQuotes)
+        .InScript("OverSound", button.OverSound, bothQuotes)
+        .InScript("ClickImage", button.ClickImage, bothQuotes)
+        .InScript("ClickSound", button.ClickSound, bothQuotes)
+        .Hints();
+}
+
 EffectPayload Generate(const DynamicButton& button, const Surroundings& surroundings)
 {
     const Text soundElement = SoundElement(surroundings.Clock);

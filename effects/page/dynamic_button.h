@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 #include "core/surroundings.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -46,6 +47,9 @@ std::optional<Complaint> CheckPage(const DynamicButton& button, int page);
 
 /// Puts "http://" in front of a link that begins with "www.".
 void Tidy(DynamicButton& button);
+
+/// The hints at quotes in the names of images and sounds, which the scripts of the button take.
+std::vector<Hint> HintsOf(const DynamicButton& button);
 
 /// The button's page text. The id of the element that plays its sounds is made of the time, so that
 /// two buttons of one page are unlikely to have the same. Expects a button that passes CheckPage()

@@ -263,6 +263,23 @@ void Tidy(PasswordProtection& protection)
         protection.GateUrl.pop_back();
 }
 
+std::vector<Hint> HintsOf(const PasswordProtection& protection)
+{
+    HintList hints;
+    if (protection.optScheme == PasswordScheme::Server)
+        return hints.InScript("LoginUsername", protection.LoginUsername, u"\"")
+            .InScript("LoginPassword", protection.LoginPassword, u"\"")
+            .InScript("LandingUrl", protection.LandingUrl, u"\"")
+            .InScript("CgiDirectory", protection.CgiDirectory, u"\"")
+            .Hints();
+    const bool isOne = protection.optPasswordType == PasswordType::One;
+    if (isOne && protection.GatePassword.empty())
+        hints.Say("GatePassword", u"Without a password here, visitors come in without one.");
+    if (isOne)
+        hints.InScript("GatePassword", protection.GatePassword, u"\"");
+    return hints.InScript("GateUrl", protection.GateUrl, u"\"").Hints();
+}
+
 EffectPayload Generate(const PasswordProtection& protection)
 {
     if (protection.optScheme == PasswordScheme::Server)

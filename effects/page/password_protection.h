@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -96,6 +97,10 @@ int PageAfter(const PasswordProtection& protection, int page);
 /// Server: LandingUrl gets "http://" if it begins with "www.", CgiDirectory a slash at its end, and
 /// an empty PerlPath becomes "/usr/bin/perl".
 void Tidy(PasswordProtection& protection);
+
+/// The hints at quotation marks in what the chosen scheme's script takes, and at an empty password
+/// of the page's own script.
+std::vector<Hint> HintsOf(const PasswordProtection& protection);
 
 /// The page text of the chosen scheme: the script, or the login form with its file, the script for
 /// the Web server. Expects a protection that passes CheckPage() on the pages of its scheme and went

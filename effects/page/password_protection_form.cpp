@@ -47,7 +47,7 @@ void PasswordProtectionForm::AddScriptPage()
     optOnePassword = frame.Option("optPasswordType", 0,
                                   u"Use one password to gain access to a specific Web page.");
     frame.Option("optPasswordType", 1,
-                 u"Use different passwords that allow access to different Web pages.",
+                 u"Use different passwords that allow access to different Web pages.  "
                  u"For example, typing the password \"bob\" accesses the bob.html Web page, and "
                  u"typing \"sam\" will access the sam.html Web page.");
     const GateWords words = GateWordsOf(PasswordType::One);
@@ -115,6 +115,12 @@ void PasswordProtectionForm::Next()
     // Stays as it is: whoever comes to the page again starts with one password.
     if (Page() == script && !std::exchange(m_keepsOption, false))
         optOnePassword->setChecked(true);
+}
+
+void PasswordProtectionForm::Previous()
+{
+    EffectForm::Previous();
+    SetEffect(EffectKind::PasswordScript);
 }
 
 void PasswordProtectionForm::TakeDraft(TextView draft)

@@ -19,6 +19,7 @@ public:
 protected:
     void UpdateForm() override;
     void Next() override;
+    void Previous() override;
     int PageBefore(int page) const override;
     void TakeDraft(TextView draft) override;
 

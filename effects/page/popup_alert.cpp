@@ -61,6 +61,11 @@ void Tidy(PopupAlert& alert)
     alert.txtAlertText = ReplaceAll(alert.txtAlertText, lineEnd, u"\\n");
 }
 
+std::vector<Hint> HintsOf(const PopupAlert& alert)
+{
+    return HintList().InScript("txtAlertText", alert.txtAlertText, u"\"").Hints();
+}
+
 EffectPayload Generate(const PopupAlert& alert)
 {
     // The text goes in as it is: a quote in it ends the string, and always has.

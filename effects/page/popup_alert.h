@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -51,6 +52,9 @@ std::optional<Complaint> Check(const PopupAlert& alert);
 
 /// Replaces the line ends of the text by "\n", as a script's string needs them.
 void Tidy(PopupAlert& alert);
+
+/// The hint at a quotation mark, which ends the text in the script.
+std::vector<Hint> HintsOf(const PopupAlert& alert);
 
 /// The box's page text. Expects an alert that passes Check() and went through Tidy().
 EffectPayload Generate(const PopupAlert& alert);

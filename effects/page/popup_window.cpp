@@ -3,6 +3,8 @@
 #include "core/template.h"
 #include "services/recorded_files.h"
 
+#include <utility>
+
 namespace orvane {
 
 namespace {
@@ -134,6 +136,21 @@ bool IsPopupPicture(TextView fileName)
 std::optional<Complaint> CheckPage(const PopupWindow& window, int page)
 {
     return page == 0 ? CheckLink(window) : CheckWindow(window);
+}
+
+std::vector<Hint> HintsOf(const PopupWindow& window)
+{
+    HintList hints;
+    hints.InScript("txtWindowName", window.txtWindowName, bothQuotes)
+        .InScript("txtURL", window.txtURL, bothQuotes);
+    const std::pair<ControlName, const Text&> numbers[] = {
+        {"txtWidth", window.txtWidth},
+        {"txtHeight", window.txtHeight},
+        {"txtHorizLocation", window.txtHorizLocation},
+        {"txtVertLocation", window.txtVertLocation}};
+    for (const auto& [control, number] : numbers)
+        hints.InScript(control, number, bothQuotes).Number(control, number);
+    return hints.Hints();
 }
 
 EffectPayload Generate(const PopupWindow& window)

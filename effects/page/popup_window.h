@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -82,6 +83,10 @@ bool IsPopupPicture(TextView fileName);
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const PopupWindow& window, int page);
+
+/// The hints at quotes in what the call of the script takes, and at sizes and places that are no
+/// numbers.
+std::vector<Hint> HintsOf(const PopupWindow& window);
 
 /// The page text that opens the popup window, with the file that it shows. Expects a window that
 /// passes CheckPage() on every page.

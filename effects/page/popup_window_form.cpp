@@ -38,9 +38,11 @@ void PopupWindowForm::AddAppearPage()
     page.OptionGroup("optWhenToAppear",
                      {u"when the user loads the Web page", u"when the user exits the Web page",
                       u"when the user clicks a hyperlink", u"when the user clicks an image"});
-    for (int i = 0; i < 4; ++i)
-        connect(findChild<QRadioButton*>(MemberName("optWhenToAppear", i)), &QRadioButton::clicked,
-                this, &PopupWindowForm::ChooseWhenToAppear);
+    for (int i = 0; i < 4; ++i) {
+        auto* option = findChild<QRadioButton*>(MemberName("optWhenToAppear", i));
+        connect(option, &QRadioButton::clicked, this, &PopupWindowForm::ChooseWhenToAppear);
+        m_keys.Watch(*option);
+    }
     PageBuilder link = page.Frame(u"Link settings", "frameLinkSettings");
     frameLinkSettings = qobject_cast<QGroupBox*>(link.Page());
     lblLinkExplanation = link.Note({}, "lblLinkExplanation");
@@ -141,7 +143,9 @@ void PopupWindowForm::ChooseWhenToAppear()
     if (m_choice == before || !frameLinkSettings->isEnabled())
         return;
     txtLinkItem->clear();
-    txtLinkItem->setFocus(Qt::OtherFocusReason);
+    // The arrow keys go through all options.
+    if (!m_keys.IsChoosing())
+        txtLinkItem->setFocus(Qt::OtherFocusReason);
 }
 
 /// A window that shows a picture is as large as the picture.

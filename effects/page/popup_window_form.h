@@ -2,6 +2,7 @@
 
 #include "effects/page/popup_window.h"
 #include "windows/effect_form.h"
+#include "windows/key_choice.h"
 
 class QGroupBox;
 
@@ -26,6 +27,7 @@ private:
     void ChooseWhenToAppear();
     void TakeSize(const Text& path);
 
+    KeyChoice m_keys;
     WhenToAppear m_choice = WhenToAppear::OnLoad; ///< the choice that the link frame is set for
     QGroupBox* frameLinkSettings;
     QLabel* lblLinkExplanation;

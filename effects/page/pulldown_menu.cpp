@@ -89,6 +89,11 @@ std::optional<Complaint> Check(const PulldownMenu& menu)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const PulldownMenu& menu)
+{
+    return HintList().InScript("cboTarget", menu.cboTarget, u"'").Hints();
+}
+
 EffectPayload Generate(const PulldownMenu& menu)
 {
     const bool showsAll = menu.optDisplay == MenuDisplay::AllItems;

@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -66,6 +67,9 @@ std::optional<Complaint> CheckEdit(TextView item);
 
 /// The complaint about a menu without items, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const PulldownMenu& menu);
+
+/// The hint at an apostrophe in the target frame, which ends the text in the script.
+std::vector<Hint> HintsOf(const PulldownMenu& menu);
 
 /// The menu's page text. Expects a menu that passes Check().
 EffectPayload Generate(const PulldownMenu& menu);

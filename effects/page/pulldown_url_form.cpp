@@ -13,12 +13,10 @@ PulldownURLForm::PulldownURLForm(Workbench& bench, const MenuItem& item, QWidget
     setMinimumWidth(80 * fontMetrics().averageCharWidth());
     PageBuilder page = Rows();
     txtMenuItem = page.TextBox("txtMenuItem", u"Menu item text:");
-    txtMenuItemURL = page.BrowseRow(
-        "txtMenuItemURL", u"Link menu item to this Web page:", {},
-        {.Button = "cmdBrowseForURL",
-         .Caption = u"Browse for URL...",
-         .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-         .Then = [this](const Text&) { txtMenuItemURL->setFocus(Qt::OtherFocusReason); }});
+    txtMenuItemURL = page.BrowseRow("txtMenuItemURL", u"Link menu item to this Web page:", {},
+                                    {.Button = "cmdBrowseForURL",
+                                     .Caption = u"Browse for URL...",
+                                     .Request = BrowseRequest(pageFiles, FolderPurpose::Links)});
     page.Fill();
     AddButtons();
     txtMenuItem->setText(ToQt(item.txtMenuItem));

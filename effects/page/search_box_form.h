@@ -17,6 +17,9 @@ public:
 
     void setVisible(bool isVisible) override;
 
+    /// The cursor stands behind the "http://", which is not selected.
+    void setVisible(bool isVisible) override;
+
 protected:
     void UpdateForm() override;
 

@@ -116,6 +116,8 @@ constexpr Template setControlsWithout(uR"page(
 
 constexpr Template transFilter(uR"page(revealTrans(transition=«Index»,duration=1))page");
 
+constexpr int longestSlide = 32; ///< seconds whose milliseconds have 16 bits
+
 /// The duration in milliseconds. Stays as it is: a duration that is no whole-text number, or whose
 /// milliseconds leave 16 bits, gives no text.
 Text IntervalMs(const Text& seconds)
@@ -193,6 +195,16 @@ std::optional<Complaint> CheckPage(const Slideshow& show, int page)
     if (page == 0 && show.Rows.size() < 2)
         return Complaint{u"Please add more than one image to the Slideshow Image List.", "List1"};
     return std::nullopt;
+}
+
+std::vector<Hint> HintsOf(const Slideshow& show)
+{
+    HintList hints;
+    for (const ImageRow& row : show.Rows)
+        hints.InScript("List1", row.FileName, u"\"");
+    if (IntervalMs(show.txtSlideDuration).empty())
+        hints.Seconds("txtSlideDuration", show.txtSlideDuration, longestSlide);
+    return hints.Hints();
 }
 
 EffectPayload Generate(const Slideshow& show)

@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/fields.h"
 #include "core/payload.h"
+#include "services/hints.h"
 #include "services/image_list.h"
 
 #include <array>
@@ -48,6 +49,10 @@ std::optional<Complaint> CheckMoves(const Slideshow& show, std::string_view unti
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const Slideshow& show, int page);
+
+/// The hints at images whose quotation mark ends the text in the script, and at a duration that it
+/// cannot carry.
+std::vector<Hint> HintsOf(const Slideshow& show);
 
 /// The slideshow's page text, with the images that must be copied beside the page. Expects a show
 /// that passes CheckPage() on every page.

@@ -21,6 +21,7 @@ SlideshowForm::SlideshowForm(Workbench& bench, QWidget* parent)
     AddImagePage();
     AddPropertiesPage();
     AddButtons(Buttons::Paged);
+    resize(size().expandedTo(FromTwips(7015, 7005)));
 }
 
 void SlideshowForm::AddImagePage()

@@ -179,6 +179,18 @@ std::optional<Complaint> Check(const DigitalClock& clock)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const DigitalClock& clock)
+{
+    HintList hints;
+    hints.InScript("cboFont", clock.cboFont, bothQuotes)
+        .InScript("cboFontSize", clock.cboFontSize, bothQuotes)
+        .Number("cboFontSize", clock.cboFontSize)
+        .InScript("txtPadding", clock.txtPadding, bothQuotes);
+    if (!IsStyleLength(clock.txtPadding))
+        hints.Say("txtPadding", notANumber);
+    return hints.Hints();
+}
+
 EffectPayload Generate(const DigitalClock& clock)
 {
     const Text style = ClockStyle(clock);

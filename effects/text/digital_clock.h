@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
+#include "services/hints.h"
 
 #include <array>
 #include <cstdint>
@@ -102,6 +103,9 @@ ClockPosition PreviousPage(const DigitalClock& clock, ClockPosition at);
 
 /// The complaint about a missing date format, or nothing; pages 3 and 4 are not shown with it.
 std::optional<Complaint> Check(const DigitalClock& clock);
+
+/// The hints at quotes in the style that stands in the script, and at numbers that are none.
+std::vector<Hint> HintsOf(const DigitalClock& clock);
 
 /// The clock's page text; SavedHEAD is its script alone, SavedBODY its elements with sample words
 /// in place of the time. Expects a clock that passes Check().

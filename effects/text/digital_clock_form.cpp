@@ -70,7 +70,7 @@ void DigitalClockForm::AddPropertiesPage()
         AddPage({u": Set clock properties",
                  u"Set the font and background properties of your date/time special effect."});
     PageBuilder frame = page.Frame(u"Clock properties");
-    frame.FontRow();
+    frame.FontRow("cmdMoreFonts", {});
     frame.NumberBox("txtPadding", u"Padding:", 0, 50);
     frame.ColorSwatch("lblBGColor", u"Background color:");
     frame.ColorSwatch("lblFontColor", u"Font color:");

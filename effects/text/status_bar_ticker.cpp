@@ -62,6 +62,11 @@ std::optional<Complaint> Check(const StatusBarTicker& ticker)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const StatusBarTicker& ticker)
+{
+    return HintList().InScript("txtStatusBarText", ticker.txtStatusBarText, u"\"").Hints();
+}
+
 EffectPayload Generate(const StatusBarTicker& ticker)
 {
     // The text goes in as it is: a quote in it breaks the script, and always has.

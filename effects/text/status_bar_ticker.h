@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -30,6 +31,9 @@ void ForEachField(Ticker& ticker, Field&& field)
 
 /// The complaint about an empty text, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const StatusBarTicker& ticker);
+
+/// The hint at a quotation mark, which ends the text in the script.
+std::vector<Hint> HintsOf(const StatusBarTicker& ticker);
 
 /// The ticker's page text. Expects a ticker that passes Check().
 EffectPayload Generate(const StatusBarTicker& ticker);

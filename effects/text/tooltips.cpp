@@ -102,6 +102,15 @@ std::optional<Complaint> CheckPage(const Tooltips& tooltip, int page)
     return page == 2 ? CheckHoverObject(tooltip) : std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const Tooltips& tooltip)
+{
+    return HintList()
+        .Number("cboFontSize", tooltip.cboFontSize)
+        .Number("txtWidth", tooltip.txtWidth)
+        .Number("txtHeight", tooltip.txtHeight)
+        .Hints();
+}
+
 EffectPayload Generate(const Tooltips& tooltip)
 {
     const bool isAbove = tooltip.cboDisplayLocation == tooltipLocations[1];

@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
@@ -70,6 +71,9 @@ void ForEachField(Tooltip& tooltip, Field&& field)
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const Tooltips& tooltip, int page);
+
+/// The hints at sizes that are no numbers.
+std::vector<Hint> HintsOf(const Tooltips& tooltip);
 
 /// The tooltip's page text, with the image that must lie beside the page. Expects a tooltip that
 /// passes CheckPage() on every page.

@@ -24,8 +24,9 @@ VertScrollerAddForm::VertScrollerAddForm(Workbench& bench, const std::vector<Tex
                          u"item is clicked",
                          {.Button = "cmdBrowseURL",
                           .Caption = u"Browse for URL...",
-                          .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-                          .Then = [this](const Text&) { txtItemURL->setFocus(); }});
+                          .Request = BrowseRequest(pageFiles, FolderPurpose::Links)});
+    connect(txtItemURL, &QLineEdit::textChanged, this,
+            [this](const QString& link) { ShowHints(HintsOfScrollerItem(FromQt(link))); });
     AddButtons();
     if (row.empty())
         return;

@@ -130,6 +130,11 @@ std::optional<Complaint> CheckScrollerItem(TextView txtItem)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOfScrollerItem(TextView txtItemURL)
+{
+    return HintList().InScript("txtItemURL", txtItemURL, u"'").Hints();
+}
+
 std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page)
 {
     if (page == 0 && scroller.lstItems.empty())
@@ -145,6 +150,18 @@ void Tidy(VerticalScroller& scroller)
     TakeDefault(scroller.BGColor, u"#FFFFFF");
     TakeDefault(scroller.TextColor, u"#000000");
     TakeDefault(scroller.LinkColor, u"#0000FF");
+}
+
+std::vector<Hint> HintsOf(const VerticalScroller& scroller)
+{
+    HintList hints;
+    for (const Text& link : scroller.lstLinks)
+        hints.InScript("lstLinks", link, u"'");
+    return hints.Number("cboFontSize", scroller.cboFontSize)
+        .Number("txtWidth", scroller.txtWidth)
+        .Number("txtHeight", scroller.txtHeight)
+        .Seconds("txtPause", scroller.txtPause, longestTimer)
+        .Hints();
 }
 
 EffectPayload Generate(const VerticalScroller& scroller)

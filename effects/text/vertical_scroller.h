@@ -4,6 +4,7 @@
 #include "core/fields.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
+#include "services/hints.h"
 #include "services/row_list.h"
 
 #include <array>
@@ -67,11 +68,17 @@ inline constexpr RowListWords scrollerWords{
 /// The complaint about an empty text of a message, or nothing.
 std::optional<Complaint> CheckScrollerItem(TextView txtItem);
 
+/// The hint at an apostrophe in a message's link, which ends the text in the script.
+std::vector<Hint> HintsOfScrollerItem(TextView txtItemURL);
+
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page);
 
 /// Puts the default colours where none was picked.
 void Tidy(VerticalScroller& scroller);
+
+/// The hints at links whose apostrophe ends the text in the script, and at numbers that are none.
+std::vector<Hint> HintsOf(const VerticalScroller& scroller);
 
 /// The scroller's page text. Expects a scroller that passes CheckPage() on every page and went
 /// through Tidy().

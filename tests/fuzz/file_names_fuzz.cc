@@ -13,7 +13,9 @@ void CheckSplitting(TextView path)
     const std::size_t last = LastSeparator(path);
     const TextView name = GetFileName(path);
     Require(Join({FolderOf(path), name}) == path, "folder and name make up the path");
-    Require(name.find_first_of(u"/\\") == TextView::npos, "a name holds no separator");
+    Require(name.find(u'/') == TextView::npos, "a name holds no separator");
+    Require(path.starts_with(u'/') || name.find(u'\\') == TextView::npos,
+            "a name in a text of the author holds none of the other kind either");
     Require(FolderOf(path).size() == last, "a folder ends with its separator");
     if (last == 0)
         return;
@@ -26,6 +28,8 @@ void CheckJoining(TextView folder, TextView path)
     Require(LastSeparator(separated) == separated.size(), "a separator ends the folder");
     Require(WithSeparator(separated) == separated, "there is one separator");
     const TextView name = GetFileName(path);
+    if (!separated.starts_with(u'/') && name.find(u'\\') != TextView::npos)
+        return; // two kinds of paths
     Require(GetFileName(PathIn(folder, name)) == name, "a name comes back from its path");
     Require(FolderOf(PathIn(folder, name)) == separated, "a folder comes back from its path");
 }

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QTimer>
 
 #include <map>
@@ -199,6 +200,9 @@ void ExpectAccessible(QWidget& window)
 {
     std::set<QString> names;
     std::map<QChar, std::string> keys;
+    if (const auto* menus = window.findChild<QMenuBar*>())
+        for (const QAction* menu : menus->actions())
+            keys.emplace(AccessKeyIn(menu->text()), menu->text().toStdString());
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QString name = control->objectName();
         if (!control->isVisibleTo(&window) || IsInner(*control) ||

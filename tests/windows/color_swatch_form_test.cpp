@@ -4,6 +4,9 @@
 #include "tests/support/qt_controls.h"
 #include "windows/page_builder.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 
 namespace orvane::testing {
@@ -44,6 +47,41 @@ TEST_F(ColorSwatchTest, PaintsThePickedColorInPlaceOfItsCaptionAndCancelKeepsIt)
     }
     EXPECT_EQ(m_swatch->text(), QString());
     EXPECT_EQ(m_swatch->sizeHint(), before);
+}
+
+TEST_F(ColorSwatchTest, SaysItsColorAndGoesBackToTheDefaultOnDelete)
+{
+    const auto words = [](const QWidget& swatch) {
+        return (swatch.accessibleName() + ", " + swatch.toolTip()).toStdString();
+    };
+    auto* tooltip = PageBuilder(new QWidget(&m_window), &m_desk.Bench)
+                        .ColorSwatch("lblBack", u"Back:", ColorNotation::RgbFunction);
+    tooltip->SetValue(u"#FFFFFF");
+    const std::pair<ColorSwatch*, std::string> rows[] = {{m_swatch, "#BC0A30"},
+                                                         {tooltip, "rgb(188,10,48)"}};
+    for (const auto& [swatch, value] : rows) {
+        const std::string plain = words(*swatch);
+        const Text unset = swatch->Value();
+        int changes = 0;
+        QObject receiver;
+        QObject::connect(swatch, &ColorSwatch::WasUnset, &receiver, [&changes] { ++changes; });
+        for (int time = 0; time < 2; ++time) {
+            m_dialogs.AnswerColor(188 | 10 << 8 | 48 << 16);
+            swatch->click();
+        }
+        const std::string name = swatch == m_swatch ? "Text color, " : "Back, ";
+        EXPECT_EQ(words(*swatch), name + value + ", Click here to select a color (" + value + ")");
+        Press(*swatch, Qt::Key_Delete);
+        EXPECT_EQ(words(*swatch), plain);
+        EXPECT_EQ(swatch->Value(), unset);
+        EXPECT_EQ(swatch->Color(), std::nullopt);
+        EXPECT_EQ(changes, 1);
+    }
+    m_swatch->SetValue(u"#102030");
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, {}, m_swatch->mapToGlobal(QPoint()));
+    QApplication::sendEvent(m_swatch, &menu);
+    m_swatch->findChild<QAction*>("mnuUnsetColor")->trigger();
+    EXPECT_EQ(m_swatch->Value(), u"");
 }
 
 TEST_F(ColorSwatchTest, OpensTheDialogOnEnterAndOnABlank)

@@ -1,5 +1,6 @@
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
+#include "windows/hint_lines.h"
 #include "windows/number_box.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
@@ -113,17 +114,22 @@ TEST_F(VocabularyTest, BrowseFillsALockedFieldAndRefusesABlank)
                             .NoBlanks = FileRole::Image,
                             .Slot = 3});
     Show();
+    auto* box = Find<QWidget>(m_window, "txtImage");
     Type(m_window, "txtImage", u"x");
-    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-    Press(*m_window.focusWidget(), Qt::Key_Tab);
+    for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Left, Qt::Key_End})
+        Press(*box, key);
+    Press(*box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 4u);
+    Press(*box, Qt::Key_Tab);
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmdBrowse"));
 
-    m_desk.Dialogs.AnswerOpenFile(u"/my pics/a.gif");
-    Click(m_window, "cmdBrowse");
-    m_desk.Dialogs.AnswerOpenFile(std::nullopt);
-    Click(m_window, "cmdBrowse");
-    m_desk.Dialogs.AnswerOpenFile(u"/my pics/a b.gif");
-    Click(m_window, "cmdBrowse");
+    for (const std::optional<Text>& answer :
+         {std::optional<Text>(u"/my pics/a.gif"), {}, {u"/my pics/a b.gif"}}) {
+        Find<QWidget>(m_window, "cmdBrowse")->setFocus();
+        m_desk.Dialogs.AnswerOpenFile(answer);
+        Click(m_window, "cmdBrowse");
+        EXPECT_EQ(m_window.focusWidget(), box);
+    }
     EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
     EXPECT_EQ(TextIn("txtImage"), u"a.gif");
     EXPECT_EQ(m_desk.Core.Required.Sources[3], u"/my pics/a.gif");
@@ -140,6 +146,49 @@ TEST_F(VocabularyTest, AComplaintWithoutAControlLeavesTheFocusWhereItWas)
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmd"));
     ShowComplaint(m_window, m_desk.Dialogs, {.Words = u"No.", .Control = "txt"});
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("txt"));
+}
+
+TEST_F(VocabularyTest, ALetterWithAltIsTypedNowhere)
+{
+    static constexpr std::array<TextView, 1> items = {u""};
+    m_page.TextBox("txt", u"Text:");
+    m_page.MultiLineBox("txtLines", u"Lines:");
+    m_page.NumberBox("txtNumber", u"Number:", 0, 9);
+    m_page.ComboBox("cbo", u"Box:", items, true);
+    Show();
+    for (const char* name : {"txt", "txtLines", "txtNumber", "cbo"}) {
+        auto* field = Find<QWidget>(m_window, name);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_N, Qt::AltModifier, QStringLiteral("n"));
+        QApplication::sendEvent(field, &press);
+        EXPECT_EQ(TextIn(name), u"") << name;
+        Type(m_window, name, u"n");
+        EXPECT_EQ(TextIn(name), u"n") << name;
+    }
+}
+
+TEST_F(VocabularyTest, AHintStandsBelowItsFieldAsLongAsItHolds)
+{
+    QLineEdit* box = m_page.TextBox("txt", u"Text:");
+    QLineEdit* below = m_page.TextBox("txtBelow", u"Below:");
+    m_page.TextBox("txtHidden", u"Hidden:")->hide();
+    m_page.ListBox("lst", u"List:", {});
+    HintLines lines(m_window);
+    Show();
+    for (int time = 0; time < 2; ++time) {
+        lines.Show({{"txt", u"First"}, {"txtHidden", u"Second"}, {"lst", u"Third"}});
+        LetRun();
+        const auto* line = Find<QLabel>(m_window, "lblHint(txt)");
+        EXPECT_EQ(line->text(), QStringLiteral("First"));
+        EXPECT_GE(line->y(), box->geometry().bottom());
+        EXPECT_LE(line->geometry().bottom(), below->y());
+        EXPECT_EQ(box->accessibleDescription(), line->text());
+        EXPECT_EQ(m_window.findChild<QLabel*>("lblHint(txtHidden)"), nullptr);
+        EXPECT_TRUE(Find<QLabel>(m_window, "lblHint(lst)")->isVisible());
+        ExpectAccessible(m_window);
+        lines.Show({{"lst", u"Third"}});
+        EXPECT_FALSE(line->isVisible());
+        EXPECT_EQ(box->accessibleDescription(), QString());
+    }
 }
 
 TEST_F(VocabularyTest, AHiddenRowTakesItsLabelAlong)

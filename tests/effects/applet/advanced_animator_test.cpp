@@ -67,8 +67,8 @@ TEST(AdvancedAnimatorTest, ChecksRowsThenSizeThenNumbers)
 {
     AdvancedAnimator animator{.Rows = {{.FileName = u"a.gif"}}};
     EXPECT_EQ(Check(animator),
-              (Complaint{u"You must insert more than one image into the Animation Image List.", "",
-                         Tone::Exclamation}));
+              (Complaint{u"You must insert more than one image into the Animation Image List.",
+                         "List1", Tone::Exclamation}));
     animator.Rows.push_back({.FileName = u"b.gif"});
     EXPECT_EQ(Check(animator), (Complaint{Text(sizeMissing), "Text20"}));
     animator.AnimationWidth = u" ";

@@ -75,5 +75,33 @@ TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
     EXPECT_NE(Find(Generate(emptied).HEADHTML, u"opacity += 125;\r\n"), 0u);
 }
 
+TEST_F(ImageEffectsFormTest, ArrowsKeepTheFocusInThePickerAndAClickOrAMissingImageMovesIt)
+{
+    m_form.activateWindow();
+    auto* picker = Find<QComboBox>(m_form, "EffectPicker");
+    picker->setFocus();
+    const auto focused = [this] { return m_form.focusWidget()->objectName().toStdString(); };
+    for (const char* effect : {"Image Cube", "Image Ripple"}) {
+        Press(*picker, Qt::Key_Down);
+        EXPECT_EQ(picker->currentText().toStdString(), effect);
+        EXPECT_EQ(focused(), "EffectPicker");
+    }
+    Pick(m_form, "EffectPicker", "Image Cube");
+    EXPECT_EQ(focused(), "ImageFile");
+    m_desk.Dialogs.AnswerColor(0x030201);
+    Click(m_form, "ColorSwatch");
+    Press(*Find<QWidget>(m_form, "ColorSwatch"), Qt::Key_Delete);
+    Type(m_form, "ImageWidth", u"256");
+    Type(m_form, "ImageHeight", u"256");
+    EXPECT_EQ(m_form.Parameters(), (ImageEffects{.EffectPicker = u"Image Cube",
+                                                 .ImageWidth = u"256",
+                                                 .ImageHeight = u"256",
+                                                 .SizeSlider = 70}));
+    Find<QWidget>(m_form, "cmdDone")->setFocus();
+    Click(m_form, "cmdDone");
+    EXPECT_EQ(Said(), Texts{u"Please select an image."});
+    EXPECT_EQ(focused(), "ImageFile");
+}
+
 } // namespace
 } // namespace orvane::testing

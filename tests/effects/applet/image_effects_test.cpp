@@ -42,7 +42,7 @@ TEST(ImageEffectsTest, RefusesACubeOfAnotherSizeBeforeABlank)
     EXPECT_EQ(Check(effects),
               (Complaint{u"Please input the special effect width and height.", "ImageWidth"}));
     effects.ImageWidth = effects.ImageHeight = u"x";
-    EXPECT_EQ(Check(effects), (Complaint{u"Please select an image.", ""}));
+    EXPECT_EQ(Check(effects), (Complaint{u"Please select an image.", "ImageFile"}));
 }
 
 TEST(ImageEffectsTest, ReadsATagWithItsQuotes)

@@ -21,9 +21,9 @@ TEST(ImageFadeTest, NeedsTwoImagesAndNoTarget)
     EXPECT_EQ(Find(Generate(fade).BODYHTML, u"TARGET"), 0u);
     EXPECT_EQ(Check(fade), std::nullopt);
     fade.FadeImages.pop_back();
-    EXPECT_EQ(
-        Check(fade),
-        (Complaint{u"You must enter at least 2 images to create the image fade effect.", ""}));
+    EXPECT_EQ(Check(fade),
+              (Complaint{u"You must enter at least 2 images to create the image fade effect.",
+                         "FadeImages"}));
 }
 
 TEST(ImageFadeTest, TakesImagesOfTheFirstOnesSize)

@@ -24,11 +24,11 @@ TEST_F(TypewriterTextFormTest, ATextFileTakesThePlaceOfTheText)
     EXPECT_EQ(m_desk.Core.Required.Sources[typewriterTextFileSlot], u"/p/my words.txt");
 }
 
-TEST_F(TypewriterTextFormTest, LeavingASizeOfZeroSaysSoAndEmptiesTheFontSize)
+TEST_F(TypewriterTextFormTest, LeavingASizeOfZeroSaysSoEachTimeAndEmptiesTheFontSize)
 {
-    Find<QPlainTextEdit>(m_form, "TypedText")->setPlainText(QStringLiteral("a"));
-    Click(m_form, "cmdNext");
+    m_form.SetParameters({.TypedText = u"a", .AppletHeight = u"0"});
     m_form.activateWindow();
+    Click(m_form, "cmdNext");
     auto* size = Find<QComboBox>(m_form, "FontSize");
     for (const char* text : {"0.9", "x", "1", ""}) {
         size->setEditText(QString::fromUtf8(text));
@@ -39,6 +39,16 @@ TEST_F(TypewriterTextFormTest, LeavingASizeOfZeroSaysSoAndEmptiesTheFontSize)
         EXPECT_EQ(Said(), isRefused ? Texts{u"This must be a positive value."} : Texts{});
         EXPECT_EQ(size->currentText(), QString::fromUtf8(isRefused ? "" : text));
     }
+    Click(m_form, "cmdNext");
+    for (int time = 0; time < 2; ++time) {
+        Find<QWidget>(m_form, "AppletHeight")->setFocus();
+        Find<QWidget>(m_form, "LinkURL")->setFocus();
+        LetRun();
+        EXPECT_EQ(Said().size(), 1u) << "unchanged";
+    }
+    Click(m_form, "cmdNext");
+    EXPECT_EQ(Said().size(), 1u) << "the width";
+    EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("AppletWidth"));
 }
 
 } // namespace

@@ -44,13 +44,13 @@ TEST(TypewriterTextTest, ChecksTheTextFirstAndAllAtTheEnd)
     refused(2, u"Please enter the required width and height properties.", "AppletWidth");
     typewriter.AppletWidth = typewriter.AppletHeight = u"x";
     refused(2, u"You must type something in the text box or enter the filename of a text file.",
-            "");
+            "TypedText");
     typewriter.TextFile = u"a.txt";
-    refused(2, u"You must type something in the text box.", "");
+    refused(2, u"You must type something in the text box.", "TypedText");
     typewriter = {
         .ReadFromFile = true, .TypedText = u"x", .AppletWidth = u"1", .AppletHeight = u"1"};
     refused(0, u"Please enter a Typewriter text file for this special effect.", "TextFile");
-    refused(2, u"You must enter the filename of a text file.", "");
+    refused(2, u"You must enter the filename of a text file.", "TextFile");
     typewriter.TextFile = u" ";
     EXPECT_EQ(CheckPage(typewriter, 0), std::nullopt);
     EXPECT_EQ(CheckPage(typewriter, 2), std::nullopt);

@@ -14,7 +14,15 @@ TEST_F(PopupWindowFormTest, TheLinkFrameFollowsTheChoice)
     auto* item = Find<QLineEdit>(m_form, "txtLinkItem");
     auto* browse = Find<QPushButton>(m_form, "cmdBrowseForImage");
     EXPECT_FALSE(item->isEnabled());
+    auto* second = Find<QWidget>(m_form, "optWhenToAppear(1)");
+    Click(m_form, "optWhenToAppear(1)");
+    second->setFocus();
+    Press(*second, Qt::Key_Down);
+    EXPECT_TRUE(item->isEnabled());
+    EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("optWhenToAppear(2)"));
+    Click(m_form, "optWhenToAppear(1)");
     Click(m_form, "optWhenToAppear(2)");
+    EXPECT_EQ(m_form.focusWidget(), item);
     EXPECT_FALSE(browse->isEnabled());
     Type(m_form, "txtLinkItem", u"Help");
     Click(m_form, "optWhenToAppear(2)");

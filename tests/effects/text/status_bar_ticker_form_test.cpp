@@ -19,5 +19,20 @@ TEST_F(StatusBarTickerFormTest, EmptyTextKeepsTheWindowOpenWithTheFocusInIt)
     EXPECT_EQ(m_form.TakePayload(), std::nullopt);
 }
 
+TEST_F(StatusBarTickerFormTest, AHintComesAndGoesWithAQuotationMarkAndStopsNothing)
+{
+    auto* box = Find<QLineEdit>(m_form, "txtStatusBarText");
+    Type(m_form, "txtStatusBarText", u"\"");
+    LetRun();
+    EXPECT_TRUE(Find<QLabel>(m_form, "lblHint(txtStatusBarText)")->isVisible());
+    Press(*box, Qt::Key_Backspace);
+    LetRun();
+    EXPECT_FALSE(Find<QLabel>(m_form, "lblHint(txtStatusBarText)")->isVisible());
+    Type(m_form, "txtStatusBarText", u"\"");
+    Click(m_form, "cmdDone");
+    EXPECT_TRUE(m_form.TakePayload());
+    EXPECT_TRUE(m_desk.Dialogs.Said.empty());
+}
+
 } // namespace
 } // namespace orvane::testing

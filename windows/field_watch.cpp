@@ -1,0 +1,52 @@
+#include "windows/field_watch.h"
+
+#include "windows/color_swatch.h"
+#include "windows/controls.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QSlider>
+
+namespace orvane {
+
+FieldWatch::FieldWatch(QWidget& window) : m_window(window)
+{
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(0);
+    connect(&m_soon, &QTimer::timeout, this, &FieldWatch::Changed);
+}
+
+void FieldWatch::Add(ControlName field)
+{
+    const auto watch = [this](auto* control, auto signal) {
+        connect(control, signal, &m_soon, qOverload<>(&QTimer::start));
+    };
+    for (int i = 0; auto* option = m_window.findChild<QAbstractButton*>(MemberName(field, i)); ++i)
+        watch(option, &QAbstractButton::toggled);
+    auto* control = m_window.findChild<QWidget*>(ToQt(field));
+    if (auto* swatch = qobject_cast<ColorSwatch*>(control)) {
+        watch(swatch, &ColorSwatch::Picked);
+        watch(swatch, &ColorSwatch::WasUnset);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        watch(button, &QAbstractButton::toggled);
+    } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
+        watch(line, &QLineEdit::textChanged);
+    } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
+        watch(box, &QPlainTextEdit::textChanged);
+    } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        watch(combo, &QComboBox::currentTextChanged);
+    } else if (auto* slider = qobject_cast<QSlider*>(control)) {
+        watch(slider, &QSlider::valueChanged);
+    } else if (auto* list = qobject_cast<QListWidget*>(control)) {
+        watch(list, &QListWidget::itemSelectionChanged);
+        watch(list->model(), &QAbstractItemModel::rowsInserted);
+        watch(list->model(), &QAbstractItemModel::rowsRemoved);
+        watch(list->model(), &QAbstractItemModel::dataChanged);
+        watch(list->model(), &QAbstractItemModel::modelReset);
+    }
+}
+
+} // namespace orvane

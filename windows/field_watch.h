@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/complaint.h"
+
+#include <QObject>
+#include <QTimer>
+
+class QWidget;
+
+namespace orvane {
+
+/// One signal for all fields of a window, whatever their controls are.
+class FieldWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window must outlive the watch.
+    explicit FieldWatch(QWidget& window);
+
+    /// Watches the control of a field from now on, or its group of option buttons; does nothing for
+    /// a field without one.
+    void Add(ControlName field);
+
+signals:
+    /// Fields were changed, by the author or by the program. Comes from the event loop, once for
+    /// all changes since the last time.
+    void Changed();
+
+private:
+    QWidget& m_window;
+    QTimer m_soon;
+};
+
+} // namespace orvane
