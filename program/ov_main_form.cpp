@@ -1,6 +1,6 @@
 #include "program/ov_main_form.h"
 
-#include "program/catalogue_panel.h"
+#include "catalogue/catalogue_panel.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 #include "windows/remember_place.h"

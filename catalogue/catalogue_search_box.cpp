@@ -1,4 +1,4 @@
-#include "program/catalogue_search_box.h"
+#include "catalogue/catalogue_search_box.h"
 
 #include <QKeyEvent>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/effect_section.h"
+#include "catalogue/effect_section.h"
 
 namespace orvane {
 

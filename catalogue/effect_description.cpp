@@ -1,6 +1,6 @@
-#include "program/effect_description.h"
+#include "catalogue/effect_description.h"
 
-#include "program/effect_button.h"
+#include "catalogue/effect_button.h"
 #include "windows/qt_text.h"
 
 #include <QGridLayout>

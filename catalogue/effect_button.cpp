@@ -1,4 +1,4 @@
-#include "program/effect_button.h"
+#include "catalogue/effect_button.h"
 
 #include "windows/qt_text.h"
 

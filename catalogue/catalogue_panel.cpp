@@ -1,10 +1,10 @@
-#include "program/catalogue_panel.h"
+#include "catalogue/catalogue_panel.h"
 
+#include "catalogue/catalogue_head.h"
+#include "catalogue/catalogue_pages.h"
+#include "catalogue/effect_button.h"
+#include "catalogue/effect_description.h"
 #include "core/catalogue_search.h"
-#include "program/catalogue_head.h"
-#include "program/catalogue_pages.h"
-#include "program/effect_button.h"
-#include "program/effect_description.h"
 #include "windows/controls.h"
 #include "windows/qt_text.h"
 

@@ -1,7 +1,7 @@
-#include "program/catalogue_pages.h"
+#include "catalogue/catalogue_pages.h"
 
-#include "program/effect_button.h"
-#include "program/favorites_page.h"
+#include "catalogue/effect_button.h"
+#include "catalogue/favorites_page.h"
 #include "windows/controls.h"
 #include "windows/page_area.h"
 

@@ -1,6 +1,6 @@
-#include "program/catalogue_head.h"
+#include "catalogue/catalogue_head.h"
 
-#include "program/catalogue_search_box.h"
+#include "catalogue/catalogue_search_box.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>

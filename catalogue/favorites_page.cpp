@@ -1,4 +1,4 @@
-#include "program/favorites_page.h"
+#include "catalogue/favorites_page.h"
 
 #include <QVBoxLayout>
 

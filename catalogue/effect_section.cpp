@@ -1,6 +1,6 @@
-#include "program/effect_section.h"
+#include "catalogue/effect_section.h"
 
-#include "program/effect_button.h"
+#include "catalogue/effect_button.h"
 #include "windows/even_grid.h"
 #include "windows/qt_text.h"
 

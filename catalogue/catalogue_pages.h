@@ -1,7 +1,7 @@
 #pragma once
 
+#include "catalogue/effect_section.h"
 #include "core/complaint.h"
-#include "program/effect_section.h"
 
 #include <QStackedWidget>
 
