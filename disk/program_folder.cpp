@@ -52,7 +52,7 @@ std::optional<UserFolders> FindUserFolders(const Environment& environment)
 
 void ShutOthersOut(SystemCalls& calls, const UserFolders& folders)
 {
-    for (const Text& path : {folders.Settings, folders.State}) {
+    for (const Text& path : {folders.Program, folders.Settings, folders.State}) {
         FileHandle folder(calls);
         if (!folder.OpenFolder(ToUtf8(path)))
             std::ignore = folder.TakeFromOthers();

@@ -25,8 +25,7 @@ struct UserFolders
 /// starts at the current folder. Nothing when the variables give no place for one of the folders.
 std::optional<UserFolders> FindUserFolders(const Environment& environment);
 
-/// Shuts all others out of this user's settings and state, where these folders exist already; a
-/// failure is passed over.
+/// Shuts all others out of the folders that exist already; a failure is passed over.
 void ShutOthersOut(SystemCalls& calls, const UserFolders& folders);
 
 /// Makes the file hold these bytes; a file that holds them already is not written.

@@ -145,7 +145,7 @@ Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mod
              .Note = PreviewNote(payload, bench.Files, bench.Core.ProgramFolder),
              .RunsInStatus = RunsInStatus(payload)});
     bench.Pane.LeaveFile();
-    return bench.Files.Replace(path, bytes);
+    return bench.Files.PutPrivate(path, bytes);
 }
 
 } // namespace

@@ -185,7 +185,7 @@ Done QtPreviewPane::WritePage()
 {
     if (!m_fileGone)
         return {};
-    const Done done = m_files.Replace(m_page.Path, m_page.Bytes);
+    const Done done = m_files.PutPrivate(m_page.Path, m_page.Bytes);
     m_fileGone = FaultIn(done) != nullptr;
     return done;
 }

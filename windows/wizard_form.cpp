@@ -27,7 +27,7 @@ Done WriteMade(Workbench& bench, const MadeFile& file)
 WizardForm::WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent)
     : WizardFrame(name, bench, parent),
       m_keepTimer(new QTimer(this)),
-      lblTakeUp(AddOffer("lblTakeUp", u"Pick up where you left off"))
+      lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
 {
     SetEffect(kind);
     bench.Core.Required = {};
