@@ -32,15 +32,23 @@ Text WriteDraft(const Effect& effect)
     return draft;
 }
 
+/// Whether a draft's text may fill secret fields too. No draft that this program writes has one, and
+/// what a file says of one is not believed.
+enum class Secrets
+{
+    Skipped,
+    Taken,
+};
+
 /// Puts a draft's values into the effect; fields that the draft lacks stay as they are. Lines with
 /// names of no field are ignored.
 template <class Effect>
-void ReadDraft(Effect& effect, TextView draft)
+void ReadDraft(Effect& effect, TextView draft, Secrets secrets = Secrets::Skipped)
 {
     const DraftFields fields = ReadDraftFields(draft);
     ForEachField(effect, [&](FieldName name, auto& value) {
         const auto found = fields.find(name.Name);
-        if (found != fields.end())
+        if (found != fields.end() && (!name.IsSecret || secrets == Secrets::Taken))
             SetField(value, found->second);
     });
 }

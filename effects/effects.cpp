@@ -42,9 +42,9 @@ std::optional<AnyEffect> AnyEffect::Fresh(EffectKind kind)
     return FirstOfKind(kind);
 }
 
-void AnyEffect::ReadDraft(TextView draft)
+void AnyEffect::ReadDraft(TextView draft, Secrets secrets)
 {
-    std::visit([&](auto& effect) { orvane::ReadDraft(effect, draft); }, m_parameters);
+    std::visit([&](auto& effect) { orvane::ReadDraft(effect, draft, secrets); }, m_parameters);
 }
 
 Text AnyEffect::Draft() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/draft.h"
 #include "core/surroundings.h"
 #include "effects/applet/advanced_animator.h"
 #include "effects/applet/image_effects.h"
@@ -49,8 +50,8 @@ public:
 
     const EffectParameters& Parameters() const { return m_parameters; }
 
-    /// Takes over the values of a draft's text, secret ones too; fields that it lacks stay.
-    void ReadDraft(TextView draft);
+    /// Takes over the values of a draft's text; fields that it lacks stay.
+    void ReadDraft(TextView draft, Secrets secrets = Secrets::Skipped);
 
     /// The fields as a draft's text, without the secret ones.
     Text Draft() const;

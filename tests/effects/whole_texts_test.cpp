@@ -58,7 +58,7 @@ TEST_P(WholeTextTest, IsMadeOfTheFields)
     ASSERT_NE(command, nullptr);
     auto effect = AnyEffect::Fresh(command->Kind);
     ASSERT_TRUE(effect);
-    effect->ReadDraft(m_draft);
+    effect->ReadDraft(m_draft, Secrets::Taken);
     EXPECT_EQ(effect->Check(), std::nullopt);
     effect->Tidy();
     const EffectPayload payload = effect->Generate({.Clock = 37865.270585185123});
