@@ -18,6 +18,14 @@ TEST(EffectsTest, TheFirstComplaintOfAllPagesIsToldInTheirOrder)
     EXPECT_EQ(tooltip->Check()->Control, "optHoverObject(0)");
 }
 
+TEST(EffectsTest, WhatADraftSaysOfASecretIsNotBelieved)
+{
+    auto gate = AnyEffect::Fresh(EffectKind::PasswordScript);
+    gate->ReadDraft(u"GateUrl: a\nGatePassword: b\nLoginUsername: c\nLoginPassword: d");
+    EXPECT_EQ(std::get<PasswordProtection>(gate->Parameters()),
+              (PasswordProtection{.GateUrl = u"a"}));
+}
+
 TEST(EffectsTest, EveryEffectWithAWizardHasAWholeRow)
 {
     int count = 0;
