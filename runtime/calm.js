@@ -1,42 +1,65 @@
-/** Motion only where the visitor wants it, and a button that stops it. */
+/** Motion only where the visitor wants and sees it, and a button that stops it. */
 
 /** The least time between two changes of a picture, in milliseconds; two changes are one flash. */
 export const shortestFlash = 170;
 
-/** Whether the visitor asked for as little motion as possible. */
-export function calm() {
-    return matchMedia("(prefers-reduced-motion: reduce)").matches;
-}
+const motion = matchMedia("(prefers-reduced-motion: reduce)");
+
+/** Whether the visitor asks for as little motion as possible. */
+export const calm = () => motion.matches;
+
+/** Calls `run` when the visitor's wish changes. @param {() => void} run */
+export const onCalm = (run) => motion.addEventListener("change", run);
+
+/**
+ * Tells whether an element is on the screen, now and at each change.
+ * @param {Element} element @param {(seen: boolean) => void} tell
+ */
+export const onSeen = (element, tell) =>
+    new IntersectionObserver((all) => tell(all[all.length - 1].isIntersecting)).observe(element);
 
 const look = `
-  button { font: 700 11px/16px sans-serif; width: 20px; height: 20px; padding: 0; margin: 1px;
-    color: #000; background: #fff; border: 1px solid #555; border-radius: 3px; opacity: .55;
-    cursor: pointer; pointer-events: auto }
+  button { font: 700 12px/22px sans-serif; width: 24px; height: 24px; padding: 0; margin: 0;
+    box-sizing: border-box; flex: none; color: #000; background: #fff; border: 1px solid #555;
+    border-radius: 3px; opacity: .55; cursor: pointer; pointer-events: auto }
   button:hover, button:focus { opacity: 1; outline: 2px solid #06c }
+  .over > button { position: absolute; right: 0; top: 0 }
+  .small > button { right: auto; left: 100% }
+  .words { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%);
+    white-space: nowrap }
   @media print { button, .strip, .box { display: none !important } }`;
 
 /**
- * A small button that stops and starts what moves.
+ * A small button that stops and starts what moves; so does the visitor's wish for calm, unless the
+ * button was pressed.
  * @param {string} what what moves, in words for screen readers, such as "the moving text"
  * @param {boolean} moving whether it moves now
- * @param {(moving: boolean) => void} changed called at each press: whether it moves from now on
+ * @param {(moving: boolean, pressed: boolean) => void} changed called at each change: whether it
+ *     moves from now on, and whether the button was pressed
  */
 export function pauseButton(what, moving, changed) {
     const button = document.createElement("button");
+    let pressed = false;
     button.type = "button";
-    const show = () => {
+    const set = (/** @type {boolean} */ on) => {
+        moving = on;
         button.textContent = moving ? "\u275A\u275A" : "\u25B6\uFE0E";
-        button.setAttribute("aria-label", (moving ? "Pause " : "Play ") + what);
-        button.title = button.getAttribute("aria-label") ?? "";
+        button.title = (moving ? "Pause " : "Play ") + what;
+        button.setAttribute("aria-label", button.title);
     };
     button.addEventListener("click", (event) => {
         event.preventDefault();
         event.stopPropagation();
-        moving = !moving;
-        show();
-        changed(moving);
+        pressed = true;
+        set(!moving);
+        changed(moving, true);
     });
-    show();
+    onCalm(() => {
+        if (moving !== calm() || (pressed && !moving) || !button.isConnected) return;
+        set(!moving);
+        changed(moving, false);
+    });
+    set(moving);
     return button;
 }
 
@@ -48,7 +71,7 @@ export function pauseButton(what, moving, changed) {
  */
 export function ownPlace(hostStyle, css = "") {
     const host = document.createElement("div");
-    host.style.cssText = hostStyle;
+    host.style.cssText = "all:initial;" + hostStyle;
     const inside = host.attachShadow({ mode: "open" });
     try {
         // A Content Security Policy of the page does not forbid sheets that are made like this.
@@ -63,29 +86,53 @@ export function ownPlace(hostStyle, css = "") {
     return { host, inside };
 }
 
+/** Where a pause button stands on a picture of this size. @param {number} w @param {number} h */
+export const overClass = (w, h) => (Math.min(w, h) < 72 ? "over small" : "over");
+
 /**
- * The same, placed over an element; it follows the element's place and size, and moves nothing else
- * on the page. Its `remove` takes it away.
+ * The same, with an `inside` that lies over an element: it is at home right behind it, as an empty
+ * piece of the line, so that it goes where the element goes, and moves nothing else on the page.
+ * Its `remove` takes it away.
  * @param {Element} element
  */
 export function placeOver(element) {
-    const place = ownPlace(
-        "all:initial;position:absolute;left:0;top:0;pointer-events:none;z-index:9",
-        "button { position: absolute; right: 0; top: 0 }",
-    );
-    const { host } = place;
+    const shown = /** @type {HTMLElement} */ (element);
+    const { host, inside } = ownPlace("pointer-events:none;z-index:9", ".over{position:absolute}");
+    const over = document.createElement("div");
+    inside.append(over);
     element.after(host);
+    const { display } = getComputedStyle(/** @type {Element} */ (element.parentElement));
+    const position = /flex|grid/.test(display) ? "absolute" : "relative";
     const follow = () => {
-        const wanted = element.getBoundingClientRect();
-        const now = host.getBoundingClientRect();
-        host.style.left = parseFloat(host.style.left) + wanted.left - now.left + "px";
-        host.style.top = parseFloat(host.style.top) + wanted.top - now.top + "px";
-        host.style.width = wanted.width + "px";
-        host.style.height = wanted.height + "px";
+        const { offsetWidth: w, offsetHeight: h } = shown;
+        // Without a position its own offsets count from where those of the element do.
+        host.style.position = position === "relative" ? "static" : position;
+        const x = shown.offsetLeft - host.offsetLeft;
+        const y = shown.offsetTop - host.offsetTop;
+        host.style.position = position;
+        over.className = overClass(w, h);
+        over.style.cssText = `left:${x}px;top:${y}px;width:${w}px;height:${h}px`;
     };
     const watcher = new ResizeObserver(follow);
     watcher.observe(element);
     watcher.observe(document.documentElement);
     follow();
-    return { ...place, remove: () => (watcher.disconnect(), host.remove()) };
+    return { inside: over, remove: () => (watcher.disconnect(), host.remove()) };
+}
+
+/** @type {HTMLElement | undefined} */
+let announced;
+
+/** Says words to screen readers, politely; empty ones take back those before. @param {string} words */
+export function say(words) {
+    if (!announced && words) {
+        const { host, inside } = ownPlace("position:absolute");
+        announced = document.createElement("span");
+        announced.className = "words";
+        announced.setAttribute("aria-live", "polite");
+        inside.append(announced);
+        document.documentElement.append(host);
+    }
+    // Words are spoken that come into a place which is there already.
+    setTimeout(() => announced && (announced.textContent = words), 50);
 }

@@ -12,7 +12,7 @@ export function read(url) {
         request.responseType = "arraybuffer";
         // A file on the disk has no status; one that is not there has no bytes either.
         request.onload = () =>
-            done([0, 200].includes(request.status) && request.response ? request.response : null);
+            done([0, 200].includes(request.status) && request.response?.byteLength ? request.response : null);
         request.onerror = () => done(null);
         try {
             request.open("GET", url);

@@ -1,5 +1,5 @@
 /**
- * The `filters` that old scripts expect on every element: opacity, and the transition of slides.
+ * The `filters` that old scripts expect on elements: opacity, and the transition of slides.
  */
 import { Reveal } from "./reveal.js";
 
@@ -9,10 +9,16 @@ const opacities = new WeakMap();
 const reveals = new WeakMap();
 
 /**
- * Shows the opacity of an image's style attribute, `filter:alpha(opacity=50)`, which browsers drop.
+ * Shows the opacity of an image's style attribute, `filter:alpha(opacity=50)`, which browsers drop,
+ * and gives an image that brightens `filters`: its handlers pass the real element, no stand-in.
  * @param {HTMLElement} element
  */
 export function prepareFilter(element) {
+    if (/startHighlight\(/.test(element.getAttribute("onmouseover") ?? "") && !("filters" in element))
+        Object.defineProperty(element, "filters", {
+            configurable: true,
+            value: filtersOf(element),
+        });
     const found = /filter:\s*alpha\(opacity=(\d+)\)/i.exec(element.getAttribute("style") ?? "");
     if (found) setOpacity(element, Number(found[1]));
 }
@@ -49,15 +55,4 @@ export function filtersOf(element) {
         },
     };
     return { alpha, 0: reveals.get(element) ?? alpha, length: 1 };
-}
-
-/** Gives every element `filters`: the page's handlers pass real elements, no stand-ins. */
-export function addFilters() {
-    if ("filters" in HTMLElement.prototype) return;
-    Object.defineProperty(HTMLElement.prototype, "filters", {
-        configurable: true,
-        get() {
-            return filtersOf(this);
-        },
-    });
 }

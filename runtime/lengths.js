@@ -15,11 +15,31 @@ export function prepareLengths(element) {
         element.style.setProperty(name, number + "px");
 }
 
+/** The boxes of tooltips. @type {WeakSet<Element>} */
+const boxes = new WeakSet();
+
 /**
  * Lets a tooltip's box follow the pointer on scrolled pages too.
  * @param {HTMLElement} element
  */
 export function prepareTooltip(element) {
-    if (element.classList.contains("tooltip") && element.id === "box1")
-        element.style.position = "fixed";
+    if (!element.classList.contains("tooltip") || element.id !== "box1") return;
+    boxes.add(element);
+    element.style.position = "fixed";
+    // Where it is kept on the screen the pointer may be over it.
+    element.style.pointerEvents = "none";
+}
+
+/**
+ * Where a side of an element comes to stand: a tooltip's box stays on the screen.
+ * @param {HTMLElement} element @param {string} side @param {any} length as a script sets it
+ */
+export function placeOf(element, side, length) {
+    if (!boxes.has(element) || !/^(top|left)$/.test(side)) return length;
+    const screen = document.scrollingElement ?? document.documentElement;
+    const room =
+        side === "top"
+            ? screen.clientHeight - element.offsetHeight
+            : screen.clientWidth - element.offsetWidth;
+    return Math.max(Math.min(parseFloat(length), room), 0) + "px";
 }

@@ -5,10 +5,12 @@
  */
 import { addFavorite, closeWindow, openWindow } from "./windows.js";
 import { filtersOf, setFilter } from "./filters.js";
-import { note, timers } from "./timers.js";
+import { placeOf } from "./lengths.js";
+import { heightOf, setContent } from "./scroller.js";
+import { timers } from "./timers.js";
 import { listenLate } from "./starts.js";
 import { showStatus, status } from "./ticker.js";
-import { changed, currentEvent, onMouseMove } from "./trail.js";
+import { changed, currentEvent, onMouseMove, prepareTrail } from "./trail.js";
 
 /**
  * The properties of a stand-in that differ from those of the real object.
@@ -62,7 +64,13 @@ function elementStandIn(element) {
         known = standIn(element, {
             style: only(styleOf(element)),
             filters: { get: () => filtersOf(element) },
+            offsetHeight: { get: () => heightOf(element) },
+            innerHTML: {
+                get: () => element.innerHTML,
+                set: (value) => setContent(element, value),
+            },
         });
+        prepareTrail(element);
         elements.set(element, known);
     }
     return known;
@@ -77,7 +85,8 @@ function styleOf(element) {
     };
     for (const side of /** @type {const} */ (["top", "left", "width", "height"])) {
         const put = (/** @type {any} */ value) => {
-            const length = String(value).trim() !== "" && !isNaN(value) ? value + "px" : value;
+            const number = String(value).trim() !== "" && !isNaN(value);
+            const length = placeOf(element, side, number ? value + "px" : value);
             if (style[side] === length) return;
             style[side] = length;
             changed();
@@ -106,8 +115,8 @@ const documentStandIn = standIn(document, {
         get: () =>
             document.body &&
             standIn(document.body, {
-                scrollTop: { get: () => window.scrollY },
-                scrollLeft: { get: () => window.scrollX },
+                scrollTop: { get: () => document.scrollingElement?.scrollTop ?? 0 },
+                scrollLeft: { get: () => document.scrollingElement?.scrollLeft ?? 0 },
             }),
     },
     getElementById: only((/** @type {string} */ id) => elementStandIn(document.getElementById(id))),
@@ -134,7 +143,6 @@ const windowStandIn = standIn(window, {
 
 /** An image whose `readyState` tells whether it is loaded. */
 function ImageStandIn() {
-    note("loadImages");
     const image = new Image();
     Object.defineProperty(image, "readyState", {
         get: () => (image.complete && image.naturalWidth ? "complete" : "loading"),

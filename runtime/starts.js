@@ -14,16 +14,33 @@ const starts = ["scrollit_r2l(99)", "moveSpan()", "loadImages()"];
 
 /** @type {(() => void)[]} */
 const afterwards = [];
+let started = false;
 
 /** Calls `run` once the effects have started. @param {() => void} run */
-export const afterStart = (run) => afterwards.push(run);
+export const afterStart = (run) => void (started ? run() : afterwards.push(run));
+
+/** Orvane's scripts as they were written. @type {Map<Element, string>} */
+const texts = new Map();
+
+/** Notes a script of Orvane's. @param {Element} script @param {string} text */
+export const noteOwn = (script, text) => void texts.set(script, text);
+
+/** Whether the page's function of this name is Orvane's. @param {string} name */
+export function isOwn(name) {
+    const defined = /** @type {any} */ (window)[name];
+    const code = String(defined);
+    return typeof defined === "function" && [...texts.values()].some((text) => text.includes(code));
+}
+
+/** Whether the slideshow has made its images. */
+export const slidesHaveBegun = () => /** @type {any} */ (window).mypix?.length > 0;
 
 /**
  * Runs what a script puts into `window.onload` or `window.onunload` besides what is there.
  * @param {string} event @param {any} run
  */
 export function listenLate(event, run) {
-    if (typeof run === "function") window.addEventListener(event, (told) => run.call(window, told));
+    if (typeof run === "function") addEventListener(event, (told) => run.call(window, told));
 }
 
 /**
@@ -38,17 +55,20 @@ const opensWindow = (text) =>
  * page that was parsed to its end, since a second BODY tag adds attributes to the first.
  */
 export function takeBodyCalls() {
-    const { body } = document;
+    const body = /** @type {any} */ (document.body);
     for (const [handler, run] of /** @type {const} */ ([
         ["onload", open],
         ["onunload", leave],
     ])) {
         const text = body?.getAttribute(handler) ?? null;
         const call = opensWindow(text) && readCall(text ?? "");
-        if (!call) continue;
-        /** @type {any} */ (body)[handler] = null;
-        if (handler === "onload") window.addEventListener("load", () => run(call));
-        else run(call);
+        if (!call || document.readyState === "complete") continue;
+        const take = () => (body[handler] = null);
+        if (handler === "onunload") run(call, take);
+        else {
+            take();
+            addEventListener("load", () => run(call, take));
+        }
     }
 }
 
@@ -57,10 +77,20 @@ function open(call) {
     openWindow(.../** @type {[string, string, string]} */ (call.args()));
 }
 
-/** Offers the window of a call on leaving. @param {Call} call */
-function leave(call) {
-    openOnLeaving(.../** @type {[string, string, string]} */ (call.args()));
+/** Offers the window of a call on leaving. @param {Call} call @param {() => void} [done] */
+function leave(call, done = () => {}) {
+    const [url, name, features] = /** @type {[string, string, string]} */ (call.args());
+    openOnLeaving(url, name, features, done);
 }
+
+/** Whether the `onload` of the page makes a call to this function. @param {string} name */
+const isCalled = (name) =>
+    RegExp(`(^|[^\\w$.]|window\\.)${name.replace(/\W/g, "\\$&")}\\s*\\(`).test(
+        String(window.onload),
+    );
+
+/** Whether an effect runs. @param {string} name the function that starts it */
+const runs = (name) => (name === "loadImages" ? slidesHaveBegun() : hasRun(name));
 
 /**
  * Starts, once the page has loaded, the effects that nothing else has started: those whose
@@ -68,21 +98,23 @@ function leave(call) {
  * @param {DOMStringMap | undefined} carried the data of the page script's own tag
  */
 export function startLate(carried) {
-    window.addEventListener("load", () => {
-        const called = String(window.onload);
-        const late = [...starts.map(readCall), ...readCalls(carried?.onload)];
+    const start = () => {
         const made = new Set();
-        for (const call of /** @type {Call[]} */ (late)) {
-            if (hasRun(call.name) || made.has(call.name) || called.includes(call.name + "("))
-                continue;
+        const own = /** @type {Call[]} */ (starts.map(readCall)).filter(({ name }) => isOwn(name));
+        for (const call of [...own, ...readCalls(carried?.onload)]) {
+            if (runs(call.name) || made.has(call.name) || isCalled(call.name)) continue;
             made.add(call.name);
             if (call.name === "window.open") open(call);
             else make(call);
         }
+        started = true;
         for (const run of afterwards) run();
-    });
+    };
+    // Behind all that the page itself does then.
+    if (document.readyState === "complete") setTimeout(start);
+    else addEventListener("load", () => setTimeout(start));
     for (const call of readCalls(carried?.onunload)) {
         if (call.name === "window.open") leave(call);
-        else window.addEventListener("pagehide", () => make(call));
+        else addEventListener("pagehide", () => make(call));
     }
 }

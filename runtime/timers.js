@@ -3,6 +3,7 @@
  * has stopped their effect, and while it has nothing to do. Their ids are the browser's own.
  */
 import { make, readCall } from "./calls.js";
+import { onSeen } from "./calm.js";
 
 /** @typedef {import("./calls.js").Call} Call */
 
@@ -10,6 +11,8 @@ import { make, readCall } from "./calls.js";
 const waiting = new Map();
 /** Functions that the visitor has stopped. @type {Set<string>} */
 const stopped = new Set();
+/** Functions whose effect is off the screen. @type {Set<string>} */
+const away = new Set();
 /** The functions that running intervals call, by the interval's id. @type {Map<number, string>} */
 const intervals = new Map();
 /** Functions that timers or effects have named. @type {Set<string>} */
@@ -29,7 +32,7 @@ export const idle = new Map();
 export const onInterval = new Map();
 
 /** Whether the calls of a function rest now. @param {string} name */
-const rests = (name) => document.hidden || stopped.has(name);
+const rests = (name) => document.hidden || stopped.has(name) || away.has(name);
 
 /** Whether a timer was set for this function, or `note` was called with it. @param {string} name */
 export const hasRun = (name) => seen.has(name);
@@ -45,6 +48,14 @@ export function go(name) {
     stopped.delete(name);
     wake();
 }
+
+/** Lets them rest while an element is off the screen. @param {string} name @param {Element} element */
+export const restUnseen = (name, element) =>
+    onSeen(element, (seen) => {
+        if (seen) away.delete(name);
+        else away.add(name);
+        wake();
+    });
 
 /** Makes the calls that have waited and whose effect does not rest now. */
 function wake() {
@@ -66,10 +77,10 @@ export const timers = {
     /** @param {any} code @param {number} pause @param {any[]} rest */
     setTimeout(code, pause, ...rest) {
         const call = typeof code === "string" && readCall(code);
-        if (!call) return window.setTimeout(code, pause, ...rest);
+        if (!call) return setTimeout(code, pause, ...rest);
         seen.add(call.name);
         if (idle.get(call.name)?.()) stop(call.name);
-        const id = window.setTimeout(() => {
+        const id = setTimeout(() => {
             if (rests(call.name)) waiting.set(id, call);
             else make(call);
         }, pause);
@@ -78,9 +89,9 @@ export const timers = {
     /** @param {any} code @param {number} pause @param {any[]} rest */
     setInterval(code, pause, ...rest) {
         const call = typeof code === "string" && readCall(code);
-        if (!call) return window.setInterval(code, pause, ...rest);
+        if (!call) return setInterval(code, pause, ...rest);
         seen.add(call.name);
-        const id = window.setInterval(
+        const id = setInterval(
             () => {
                 if (!rests(call.name)) make(call);
             },
@@ -93,7 +104,7 @@ export const timers = {
     /** @param {number} id */
     clearTimeout(id) {
         waiting.delete(id);
-        window.clearTimeout(id);
+        clearTimeout(id);
         const name = intervals.get(id);
         if (name === undefined) return;
         intervals.delete(id);

@@ -17,7 +17,7 @@ const look = `
  * @param {{caption: string, run: () => void}} [action]
  */
 function showBox(words, action) {
-    const { host, inside } = ownPlace("all:initial", look);
+    const { host, inside } = ownPlace("", look);
     const box = document.createElement("div");
     box.className = "box";
     box.setAttribute("role", "status");
@@ -43,11 +43,12 @@ function showBox(words, action) {
 /**
  * Offers a window in a box.
  * @param {string} url @param {string} name @param {string} features
+ * @param {() => void} [done] called once it is opened
  */
-function offerWindow(url, name, features) {
+function offerWindow(url, name, features, done = () => {}) {
     showBox(`This page has a window to show: ${url}`, {
         caption: "Open it",
-        run: () => window.open(url, name, features),
+        run: () => (open(url, name, features), done()),
     });
 }
 
@@ -56,34 +57,61 @@ function offerWindow(url, name, features) {
  * @param {string} url @param {string} name @param {string} features
  */
 export function openWindow(url, name, features) {
-    const opened = window.open(url, name, features);
+    const opened = open(url, name, features);
     if (!opened) offerWindow(url, name, features);
     return opened;
 }
 
+/** An address without the place on the page. @param {string} url */
+const pageOf = (url) => url.replace(/#.*/, "");
+
+/** Whether a click leads from this page to another in its place. @param {MouseEvent} event */
+function leads({ target, defaultPrevented, button, ctrlKey, shiftKey, metaKey, altKey }) {
+    const link = /** @type {HTMLAnchorElement | null} */ (
+        /** @type {Element} */ (target).closest?.("a[href],area[href]")
+    );
+    const isOther = defaultPrevented || button || ctrlKey || shiftKey || metaKey || altKey;
+    return (
+        link &&
+        !isOther &&
+        !link.hasAttribute("download") &&
+        /^(_self|_top|_parent)?$/i.test(link.target) &&
+        /^(https?|file):/.test(link.protocol) &&
+        (pageOf(link.href) !== pageOf(location.href) || !link.href.includes("#"))
+    );
+}
+
 /**
- * Offers a window once the visitor seems about to leave: the pointer leaves the page at the top, a
- * key such as Ctrl or Alt is pressed, or the page is shown again after it was hidden. No browser
- * lets a page open a window while it is being left.
+ * Opens a window at the click on a link that leads away, which browsers let a page do, and offers
+ * it once the visitor seems about to leave: the pointer leaves the page at the top, a key such as
+ * Ctrl or Alt is pressed, or the page is shown again after it was hidden.
  * @param {string} url @param {string} name @param {string} features
+ * @param {() => void} done called once it is opened
  */
-export function openOnLeaving(url, name, features) {
-    const done = new AbortController();
-    const offer = () => (done.abort(), offerWindow(url, name, features));
+export function openOnLeaving(url, name, features, done) {
+    const ended = new AbortController();
+    const offer = () => (ended.abort(), offerWindow(url, name, features, done));
     /** @param {EventTarget} on @param {string} event @param {(event: any) => any} asks */
     const when = (on, event, asks) =>
-        on.addEventListener(event, (told) => asks(told) && offer(), { signal: done.signal });
+        on.addEventListener(event, (told) => asks(told) && offer(), { signal: ended.signal });
     when(document.documentElement, "mouseleave", (event) => event.clientY <= 0);
     when(document, "keydown", (event) => ["Control", "Alt", "Meta"].includes(event.key));
     when(document, "visibilitychange", () => !document.hidden);
-    when(window, "pageshow", (event) => event.persisted);
+    addEventListener("pageshow", (event) => event.persisted && offer(), { signal: ended.signal });
+    addEventListener(
+        "click",
+        (event) => {
+            if (leads(event) && open(url, name, features)) (ended.abort(), done());
+        },
+        { signal: ended.signal },
+    );
 }
 
 const mac = /Mac|iPhone|iPad/.test(navigator.platform);
 
 /** Closes the window; when the browser keeps it open, says how the visitor can close it. */
 export function closeWindow() {
-    window.close();
+    close();
     setTimeout(() => {
         const key = mac ? "\u2318W" : "Ctrl+W";
         if (!window.closed) showBox(`A page may not close this window. Press ${key} to close it.`);
@@ -96,8 +124,7 @@ export function closeWindow() {
  */
 export function addFavorite(url, title) {
     const key = mac ? "\u2318D" : "Ctrl+D";
-    const here = new URL(url, document.baseURI).href.replace(/#.*/, "");
-    if (here === location.href.replace(/#.*/, ""))
+    if (pageOf(new URL(url, document.baseURI).href) === pageOf(location.href))
         showBox(`Press ${key} to add "${title}" to your bookmarks.`);
     else
         showBox(`To bookmark "${title}", open it and press ${key}.`, {

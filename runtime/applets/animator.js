@@ -9,28 +9,39 @@ import { drawTransition, isWay, readTransition } from "./transitions.js";
 /** The image of one pixel that stands for an empty frame. */
 const blank = "invisi.gif";
 
-/**
- * The brightness of 64 parts of a picture, each 0 to 255; empty when its pixels cannot be read.
- * @param {HTMLCanvasElement} picture
- */
-function brightness(picture) {
-    const { canvas, pen } = sheet(8, 8, "white");
-    pen.imageSmoothingEnabled = true;
-    pen.drawImage(picture, 0, 0, 8, 8);
-    return Array.from(
-        pixelsOf(canvas) ?? [],
-        (pixel) =>
-            0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255),
-    );
-}
+/** How many parts of a picture are compared, along each side. */
+const parts = 16;
 
 /**
- * Whether the change between two pictures counts as half a flash: a quarter of the parts differ.
- * @param {number[]} from @param {number[]} to
+ * The light of each part of a picture, and how red and how blue it is beside the opposed colours;
+ * empty when its pixels cannot be read.
+ * @param {HTMLCanvasElement} picture
  */
-const differ = (from, to) =>
-    from.filter((light, i) => Math.abs(light - to[i]) > 25).length >= from.length / 4 &&
-    from.length > 0;
+function lightOf(picture) {
+    const { canvas, pen } = sheet(parts, parts, "white");
+    pen.imageSmoothingEnabled = true;
+    pen.imageSmoothingQuality = "high";
+    pen.drawImage(picture, 0, 0, parts, parts);
+    return Array.from(pixelsOf(canvas) ?? [], (pixel) => {
+        const [r, g, b] = [pixel & 255, (pixel >> 8) & 255, (pixel >> 16) & 255];
+        return [0.2126 * r + 0.7152 * g + 0.0722 * b, (r - g) / 4, (b - (r + g) / 2) / 4];
+    });
+}
+
+/** A quarter of 341 by 256 pixels, from which on a flash counts on pages. */
+const flashArea = 21824;
+
+/**
+ * Whether the change between two pictures counts as half a flash: so much of them differs in light,
+ * as from or to red, or as opposed colours do. Pictures that cannot be read may.
+ * @param {number[][]} from @param {number[][]} to @param {number} area that of the pictures
+ */
+function differ(from, to, area) {
+    const least = Math.min(area / 4, flashArea);
+    if (!from.length || !to.length) return area >= flashArea;
+    const other = from.filter((part, i) => part.some((sum, k) => Math.abs(sum - to[i][k]) > 25));
+    return (other.length * area) / parts ** 2 >= least;
+}
 
 /**
  * The frames: pictures of the area's size, each with an image in the middle or words if it is
@@ -88,7 +99,7 @@ export async function animator(tag, pen) {
     const pictures = n
         ? await frames(tag, names, ground)
         : [words(missing("IMAGE.0"), tag.W, tag.H)];
-    const lights = pictures.map(brightness);
+    const lights = pictures.map(lightOf);
     const steps = stepsOf(tag, n);
     const usual = tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20;
     const each = tag.number("TRANSITION.RATE.0", usual, 0) + 10;
@@ -111,7 +122,7 @@ export async function animator(tag, pen) {
         // A quick shutter, which closes and opens, is a flash by itself.
         const closes =
             /^\s*(shutter|random)/i.test(steps[frame]) && S * each < 2 * shortestFlash && !calm();
-        const changes = closes ? 2 : Number(differ(lights[frame], lights[next()]));
+        const changes = closes ? 2 : Number(differ(lights[frame], lights[next()], tag.W * tag.H));
         return Math.max(asked, changes * shortestFlash - way, 10);
     };
     const stand = (/** @type {number} */ t) => {
@@ -151,7 +162,7 @@ export async function animator(tag, pen) {
     };
     const waits = () => !under && !ends() && pause() < 0;
     return {
-        name: "Animation: " + names.join(", "),
+        name: "Animation",
         draw(t) {
             if (t < since) {
                 [frame, cycle, under] = [0, 1, null];

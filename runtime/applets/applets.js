@@ -1,5 +1,6 @@
 /** The applets: a canvas in place of each tag, drawn by the rules in applets/README.md. */
-import { calm, ownPlace, pauseButton } from "../calm.js";
+import { calm, onSeen, overClass, ownPlace, pauseButton } from "../calm.js";
+import { isOff } from "../watch.js";
 import { animator } from "./animator.js";
 import { cube } from "./cube.js";
 import { fade } from "./fade.js";
@@ -37,8 +38,7 @@ const kinds = new Map([
 /** No browser draws on a canvas with longer sides; such an applet stays as it is. */
 const longest = 32767;
 
-const look = `a { display: block; outline-offset: 2px } canvas { display: block }
-  button { position: absolute; right: 0; top: 0 }`;
+const look = "a { display: block; outline-offset: 2px } canvas { display: block }";
 
 const aligned = new Map([
     ["left", "float:left"],
@@ -61,22 +61,40 @@ class Stage {
             aligned.get((applet.getAttribute("align") ?? "").toLowerCase()) ??
             "vertical-align:baseline";
         const { host, inside } = ownPlace(
-            `all:initial;display:inline-block;position:relative;width:${W}px;` +
+            `display:inline-block;position:relative;width:${W}px;` +
                 `height:${H}px;margin:${px("vspace")} ${px("hspace")};${side}`,
             look,
         );
-        const { canvas, pen } = sheet(W, H, tag.color("BGCOLOR.0", tag.color("BGCOLOR", "white")));
+        // Letters are as sharp as the screen can show them.
+        const dense =
+            tag.code === "Typewriter9"
+                ? Math.min(Math.max(devicePixelRatio, 1), 4, longest / Math.max(W, H))
+                : 1;
+        const ground = tag.color("BGCOLOR.0", tag.color("BGCOLOR", "white"));
+        const { canvas, pen } = sheet(Math.round(W * dense), Math.round(H * dense), ground);
+        canvas.style.cssText = `width:${W}px;height:${H}px`;
+        pen.scale(canvas.width / W, canvas.height / H);
         canvas.setAttribute("role", "img");
         this.link = document.createElement("a");
         this.link.append(canvas);
-        inside.append(this.link);
+        this.over = document.createElement("div");
+        this.over.className = overClass(W, H);
+        this.over.append(this.link);
+        inside.append(this.over);
         for (const old of applet.children) /** @type {HTMLElement} */ (old).style.display = "none";
         applet.append(host);
         this.tag = tag;
         this.canvas = canvas;
         this.pen = pen;
-        this.inside = inside;
         this.t = 0;
+        /** When the picture changes next. */
+        this.due = 0;
+        this.seen = true;
+        onSeen(host, (seen) => {
+            this.seen = seen;
+            if (seen) this.go();
+            else this.pause();
+        });
         /** When the clock was last read; null while it is stopped. @type {number | null} */
         this.last = null;
         this.moves = !calm();
@@ -102,10 +120,7 @@ class Stage {
         document.addEventListener("visibilitychange", () =>
             document.hidden ? this.pause() : this.go(),
         );
-        window.addEventListener(
-            "pageshow",
-            (event) => event.persisted && ((this.t = 0), this.go()),
-        );
+        addEventListener("pageshow", (event) => event.persisted && ((this.t = 0), this.go()));
         if (!this.moves) show.drawStill();
         this.setButton(true);
         this.setLink();
@@ -132,7 +147,8 @@ class Stage {
 
     /** Goes on from the time at which the clock was stopped. */
     go() {
-        if (!this.moves || document.hidden) return;
+        if (!this.moves || document.hidden || !this.seen) return;
+        this.due = 0;
         this.step(++this.round);
     }
 
@@ -149,9 +165,13 @@ class Stage {
      */
     step(round) {
         if (round !== this.round || !this.show) return;
-        const wait = this.show.draw(this.time());
-        this.setLink();
-        this.setButton(wait < Infinity || !!this.show.waits?.());
+        const t = this.time();
+        if (t >= this.due) {
+            this.due = t + this.show.draw(t);
+            this.setLink();
+            this.setButton(this.due < Infinity || !!this.show.waits?.());
+        }
+        const wait = this.due - t;
         const again = () => requestAnimationFrame(() => this.step(round));
         if (wait < 20) again();
         else if (wait < Infinity) setTimeout(again, wait - 8);
@@ -169,7 +189,7 @@ class Stage {
             this.moves = on;
             this.go();
         });
-        this.inside.append(this.button);
+        this.over.append(this.button);
     }
 
     /** Gives the canvas the show's link, or makes it a button while the show waits for a click. */
@@ -188,15 +208,17 @@ class Stage {
     }
 }
 
-/** Shows every applet of the page that Orvane has made. */
-export function runApplets() {
-    for (const applet of document.querySelectorAll("applet")) {
-        const tag = new Tag(applet);
-        const kind = kinds.get(tag.code);
-        const [least, most] = [Math.min(tag.W, tag.H), Math.max(tag.W, tag.H)];
-        if (!kind || !/Orvane/.test(tag.text("WIZARD") ?? "") || least < 1 || most > longest)
-            continue;
-        const stage = new Stage(tag);
-        kind(tag, stage.pen).then((show) => stage.play(show));
-    }
+/** The tags that were looked at. */
+const met = new WeakSet();
+
+/** Shows an applet if Orvane has made it. @param {HTMLElement} applet */
+export function runApplet(applet) {
+    const tag = new Tag(applet);
+    const kind = kinds.get(tag.code);
+    const [least, most] = [Math.min(tag.W, tag.H), Math.max(tag.W, tag.H)];
+    const isOwn = kind && /Orvane/.test(tag.text("WIZARD") ?? "");
+    if (!isOwn || isOff(applet) || met.has(applet) || least < 1 || most > longest) return;
+    met.add(applet);
+    const stage = new Stage(tag);
+    kind(tag, stage.pen).then((show) => stage.play(show));
 }

@@ -167,11 +167,11 @@ export async function cube(tag, pen) {
     const name = tag.text("IMAGE");
     const image = name === null ? null : await load(name);
     const ground = `rgb(${["R", "G", "B"].map((part) => tag.number("BACK" + part, 192))})`;
-    const title = `Turning cube: ${name}`;
     if (!image) {
-        const picture = words(name === null ? missing("IMAGE") : notLoaded(name), W, H);
+        const wrong = name === null ? missing("IMAGE") : notLoaded(name);
+        const picture = words(wrong, W, H);
         const draw = () => (pen.drawImage(picture, 0, 0), Infinity);
-        return { name: title, draw, drawStill: draw };
+        return { name: wrong, draw, drawStill: draw };
     }
     const { canvas: picture, pen: own } = sheet(image.width, image.height, ground);
     own.drawImage(image, 0, 0);
@@ -199,5 +199,5 @@ export async function cube(tag, pen) {
         }
         return each - (t % each);
     };
-    return { name: title, draw, drawStill: () => void draw(0) };
+    return { name: "Turning cube", draw, drawStill: () => void draw(0) };
 }

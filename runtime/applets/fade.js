@@ -19,7 +19,7 @@ export async function fade(tag, pen) {
     const pause = Math.max(tag.number("PAUSE", 100, 0), shortestFlash - way);
     let shown = 0;
     return {
-        name: "Fading pictures: " + names.join(", "),
+        name: "Fading pictures",
         draw(t) {
             const u = n > 1 ? t % (n * (pause + way)) : 0;
             shown = Math.floor(u / (pause + way));

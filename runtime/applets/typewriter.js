@@ -40,7 +40,11 @@ async function textOf(tag) {
     if (text !== undefined) return text.split("\\");
     const file = tag.text("TEXTFILE");
     if (file === null) return missing("TEXT.0");
-    return (await linesOf(file)) ?? `The text file "${file}" could not be loaded.`;
+    const lines = await linesOf(file);
+    if (lines) return lines;
+    return location.protocol === "file:"
+        ? `Browsers let no page on the disk read the text file "${file}". On the Web it is shown.`
+        : `The text file "${file}" could not be loaded.`;
 }
 
 /** The font as CSS writes it. @param {Tag} tag */
@@ -104,7 +108,7 @@ export async function typewriter(tag, pen) {
         typed.forEach((line, j) => pen.fillText(line, 4, 4 + a + h * (j - up)));
     };
     return {
-        name: lines.join(" ") || "Typewriter text",
+        name: wrong ?? (lines.join(" ") || "Typewriter text"),
         draw(t) {
             if (picture) return (pen.drawImage(picture, 0, 0), Infinity);
             if (t >= tag.cycles() * whole) return (type(N), Infinity);
