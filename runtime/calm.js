@@ -1,5 +1,21 @@
 /** Motion only where the visitor wants and sees it, and a button that stops it. */
 
+/**
+ * A new element.
+ * @template {keyof HTMLElementTagNameMap} K
+ * @param {K} tag @param {string} look its class @param {...(string | Node)} content
+ * @returns {HTMLElementTagNameMap[K]}
+ */
+export function make(tag, look = "", ...content) {
+    const element = document.createElement(tag);
+    if (look) element.className = look;
+    element.append(...content);
+    return element;
+}
+
+/** An attribute's text; empty when it is missing. @param {Element} element @param {string} name */
+export const attribute = (element, name) => element.getAttribute(name) ?? "";
+
 /** The least time between two changes of a picture, in milliseconds; two changes are one flash. */
 export const shortestFlash = 170;
 
@@ -19,15 +35,15 @@ export const onSeen = (element, tell) =>
     new IntersectionObserver((all) => tell(all[all.length - 1].isIntersecting)).observe(element);
 
 const look = `
-  button { font: 700 12px/22px sans-serif; width: 24px; height: 24px; padding: 0; margin: 0;
-    box-sizing: border-box; flex: none; color: #000; background: #fff; border: 1px solid #555;
-    border-radius: 3px; opacity: .55; cursor: pointer; pointer-events: auto }
-  button:hover, button:focus { opacity: 1; outline: 2px solid #06c }
-  .over > button { position: absolute; right: 0; top: 0 }
-  .small > button { right: auto; left: 100% }
-  .words { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%);
-    white-space: nowrap }
-  @media print { button, .strip, .box { display: none !important } }`;
+button{font:700 12px/22px sans-serif;width:24px;height:24px;padding:0;margin:0;
+box-sizing:border-box;flex:none;color:#000;background:#fff;border:1px solid #555;
+border-radius:3px;opacity:.55;cursor:pointer;pointer-events:auto}
+button:hover,button:focus{opacity:1;outline:2px solid #06c}
+.over>button{position:absolute;right:0;top:0}
+.small>button{right:auto;left:100%}
+.words{position:absolute;width:1px;height:1px;overflow:hidden;clip-path:inset(50%);
+white-space:nowrap}
+@media print{button,.strip,.box{display:none!important}}`;
 
 /**
  * A small button that stops and starts what moves; so does the visitor's wish for calm, unless the
@@ -38,7 +54,7 @@ const look = `
  *     moves from now on, and whether the button was pressed
  */
 export function pauseButton(what, moving, changed) {
-    const button = document.createElement("button");
+    const button = make("button");
     let pressed = false;
     button.type = "button";
     const set = (/** @type {boolean} */ on) => {
@@ -70,7 +86,7 @@ export function pauseButton(what, moving, changed) {
  * @param {string} css
  */
 export function ownPlace(hostStyle, css = "") {
-    const host = document.createElement("div");
+    const host = make("div");
     host.style.cssText = "all:initial;" + hostStyle;
     const inside = host.attachShadow({ mode: "open" });
     try {
@@ -79,9 +95,7 @@ export function ownPlace(hostStyle, css = "") {
         sheet.replaceSync(look + css);
         inside.adoptedStyleSheets = [sheet];
     } catch {
-        const style = document.createElement("style");
-        style.textContent = look + css;
-        inside.append(style);
+        inside.append(make("style", "", look + css));
     }
     return { host, inside };
 }
@@ -98,7 +112,7 @@ export const overClass = (w, h) => (Math.min(w, h) < 72 ? "over small" : "over")
 export function placeOver(element) {
     const shown = /** @type {HTMLElement} */ (element);
     const { host, inside } = ownPlace("pointer-events:none;z-index:9", ".over{position:absolute}");
-    const over = document.createElement("div");
+    const over = make("div");
     inside.append(over);
     element.after(host);
     const { display } = getComputedStyle(/** @type {Element} */ (element.parentElement));
@@ -123,16 +137,15 @@ export function placeOver(element) {
 /** @type {HTMLElement | undefined} */
 let announced;
 
-/** Says words to screen readers, politely; empty ones take back those before. @param {string} words */
+/** Says words to screen readers, politely. @param {string} words */
 export function say(words) {
-    if (!announced && words) {
-        const { host, inside } = ownPlace("position:absolute");
-        announced = document.createElement("span");
-        announced.className = "words";
+    if (!announced) {
+        announced = make("span", "words");
         announced.setAttribute("aria-live", "polite");
+        const { host, inside } = ownPlace("position:absolute");
         inside.append(announced);
         document.documentElement.append(host);
     }
     // Words are spoken that come into a place which is there already.
-    setTimeout(() => announced && (announced.textContent = words), 50);
+    setTimeout(() => announced?.replaceChildren(words), 50);
 }

@@ -1,11 +1,12 @@
 /**
  * The `filters` that old scripts expect on elements: opacity, and the transition of slides.
  */
-import { Reveal } from "./reveal.js";
+import { attribute } from "./calm.js";
+import { makeReveal } from "./reveal.js";
 
 /** Opacities in per cent, from the tag or as set last. @type {WeakMap<Element, number>} */
 const opacities = new WeakMap();
-/** @type {WeakMap<Element, Reveal>} */
+/** @type {WeakMap<Element, ReturnType<typeof makeReveal>>} */
 const reveals = new WeakMap();
 
 /**
@@ -14,12 +15,12 @@ const reveals = new WeakMap();
  * @param {HTMLElement} element
  */
 export function prepareFilter(element) {
-    if (/startHighlight\(/.test(element.getAttribute("onmouseover") ?? "") && !("filters" in element))
+    if (/startHighlight\(/.test(attribute(element, "onmouseover")) && !("filters" in element))
         Object.defineProperty(element, "filters", {
             configurable: true,
             value: filtersOf(element),
         });
-    const found = /filter:\s*alpha\(opacity=(\d+)\)/i.exec(element.getAttribute("style") ?? "");
+    const found = /filter:\s*alpha\(opacity=(\d+)\)/i.exec(attribute(element, "style"));
     if (found) setOpacity(element, Number(found[1]));
 }
 
@@ -37,7 +38,7 @@ export function setFilter(element, text) {
     const found = /revealTrans\(transition=(\d+),duration=([\d.]+)\)/i.exec(text);
     if (found) {
         reveals.get(element)?.end();
-        reveals.set(element, new Reveal(element, Number(found[1]), Number(found[2])));
+        reveals.set(element, makeReveal(element, Number(found[1]), Number(found[2])));
     } else element.style.filter = text;
 }
 

@@ -1,4 +1,5 @@
 /** Lets what reacts to the mouse react to the keyboard's focus as well. */
+import { attribute } from "./calm.js";
 import { afterStart } from "./starts.js";
 
 const focusable = "a[href],button,input,select,textarea,[tabindex]";
@@ -36,7 +37,7 @@ export function prepareFocus(element) {
     element.addEventListener("mouseout", () => (told = false));
     on.addEventListener("focusout", leave);
     on.addEventListener("keydown", (event) => event.key === "Escape" && leave());
-    const [, box] = /showBox\(event, "(\w+)"\)/.exec(element.getAttribute("onmousemove") ?? "") ?? [];
+    const [, box] = /showBox\(event, "(\w+)"\)/.exec(attribute(element, "onmousemove")) ?? [];
     // An element with a link inside gets the focus by the link; any other gets it itself, if those
     // who cannot see it are told what it is.
     afterStart(() => {

@@ -1,16 +1,15 @@
 /** Lengths without a unit, which browsers drop in pages with a doctype. */
-
-const sizes = "top|left|width|height|padding";
+import { attribute } from "./calm.js";
 
 /**
  * Sets, in pixels, the lengths of an element's style attribute that the browser has dropped.
  * @param {HTMLElement} element
  */
 export function prepareLengths(element) {
-    const style = element.getAttribute("style");
+    const style = attribute(element, "style");
     if (!style || document.compatMode === "BackCompat") return;
     for (const [, name, number] of style.matchAll(
-        RegExp(`(?:^|;)\\s*(${sizes})\\s*:\\s*(\\d+)\\s*(?=;|$)`, "gi"),
+        /(?:^|;)\s*(top|left|width|height|padding)\s*:\s*(\d+)\s*(?=;|$)/gi,
     ))
         element.style.setProperty(name, number + "px");
 }
@@ -36,10 +35,8 @@ export function prepareTooltip(element) {
  */
 export function placeOf(element, side, length) {
     if (!boxes.has(element) || !/^(top|left)$/.test(side)) return length;
+    const size = side === "top" ? "Height" : "Width";
     const screen = document.scrollingElement ?? document.documentElement;
-    const room =
-        side === "top"
-            ? screen.clientHeight - element.offsetHeight
-            : screen.clientWidth - element.offsetWidth;
+    const room = screen[`client${size}`] - element[`offset${size}`];
     return Math.max(Math.min(parseFloat(length), room), 0) + "px";
 }

@@ -1,36 +1,27 @@
 /**
  * What the page script uses of the browser, taken before any script of the author's can put its own
- * in place of it. The bundler puts these in wherever a module uses such a name.
+ * in place of it; what no page could do without, such as `Array`, is not among it. The bundler puts
+ * these in wherever a module uses such a name.
  */
 export const {
-    AbortController,
-    Array,
     Audio,
     Blob,
     CSSStyleSheet,
-    DataView,
-    ArrayBuffer,
     HTMLButtonElement,
     HTMLElement,
     Image,
     ImageData,
     IntersectionObserver,
     Map,
-    Math,
     MouseEvent,
     MutationObserver,
-    Number,
-    Object,
     Promise,
     Proxy,
-    RegExp,
     ResizeObserver,
     Set,
-    String,
     Symbol,
     TextDecoder,
     URL,
-    Uint32Array,
     WeakMap,
     WeakSet,
     XMLHttpRequest,
@@ -39,15 +30,17 @@ export const {
     close,
     console,
     devicePixelRatio,
+    document,
     getComputedStyle,
-    isNaN,
     matchMedia,
     navigator,
     open,
-    parseFloat,
-    parseInt,
-    performance,
     requestAnimationFrame,
     setInterval,
     setTimeout,
 } = window;
+
+const { performance } = window;
+
+/** Milliseconds since the page began. */
+export const now = () => performance.now();

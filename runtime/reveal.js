@@ -1,5 +1,6 @@
 /** The transition from one picture to the next: the new one is uncovered piece by piece. */
-import { calm, placeOver } from "./calm.js";
+import { now } from "./platform.js";
+import { calm, make, placeOver } from "./calm.js";
 
 /** A rectangle of the unit square. @typedef {[x: number, y: number, w: number, h: number]} Piece */
 
@@ -136,49 +137,45 @@ function coverPath(kind, p, order, w, h) {
 
 /**
  * One transition, as old scripts ask for it: they call `apply`, set the new picture, call `play`.
+ * @param {HTMLElement} element @param {number} asked @param {number} seconds
  */
-export class Reveal {
-    /** @param {HTMLElement} element @param {number} kind @param {number} seconds */
-    constructor(element, kind, seconds) {
-        this.element = /** @type {HTMLImageElement} */ (element);
-        this.kind = kind === 23 ? Math.floor(Math.random() * 23) : kind;
-        this.seconds = seconds;
-        this.order = shuffled(this.kind === 12 ? 400 : bars);
-        /** @type {ReturnType<typeof placeOver> | null} */
-        this.place = null;
-        this.before = "";
-    }
-
-    /** Remembers the picture that is shown now. */
-    apply() {
-        this.before = this.element.src;
-        this.width = this.element.width;
-        this.height = this.element.height;
-    }
-
-    /** Uncovers the picture that was set in its place. */
-    play() {
-        if (calm() || (!uncovered[this.kind] && this.kind !== 2 && this.kind !== 3)) return;
-        this.place = placeOver(this.element);
-        const cover = document.createElement("img");
-        cover.alt = "";
-        cover.src = this.before;
-        const { width: w = 0, height: h = 0 } = this;
-        cover.style.cssText = `position:absolute;left:0;top:0;width:${w}px;height:${h}px`;
-        this.place.inside.append(cover);
-        const begin = performance.now();
-        const step = () => {
-            const p = Math.min((performance.now() - begin) / 1000 / this.seconds, 1);
-            if (!(p < 1) || !this.place) return this.end();
-            cover.style.clipPath = `path(evenodd,"${coverPath(this.kind, p, this.order, w, h)}")`;
-            requestAnimationFrame(step);
-        };
-        step();
-    }
-
-    /** Shows the new picture alone. */
-    end() {
-        this.place?.remove();
-        this.place = null;
-    }
+export function makeReveal(element, asked, seconds) {
+    const image = /** @type {HTMLImageElement} */ (element);
+    const kind = asked === 23 ? Math.floor(Math.random() * 23) : asked;
+    const order = shuffled(kind === 12 ? 400 : bars);
+    /** @type {ReturnType<typeof placeOver> | null} */
+    let place = null;
+    let before = "";
+    let [w, h] = [0, 0];
+    const reveal = {
+        /** Remembers the picture that is shown now. */
+        apply() {
+            before = image.src;
+            [w, h] = [image.width, image.height];
+        },
+        /** Uncovers the picture that was set in its place. */
+        play() {
+            if (calm() || kind > 23) return;
+            place = placeOver(image);
+            const cover = make("img");
+            cover.alt = "";
+            cover.src = before;
+            cover.style.cssText = `position:absolute;left:0;top:0;width:${w}px;height:${h}px`;
+            place.inside.append(cover);
+            const begin = now();
+            const step = () => {
+                const p = Math.min((now() - begin) / 1000 / seconds, 1);
+                if (!(p < 1) || !place) return reveal.end();
+                cover.style.clipPath = `path(evenodd,"${coverPath(kind, p, order, w, h)}")`;
+                requestAnimationFrame(step);
+            };
+            step();
+        },
+        /** Shows the new picture alone. */
+        end() {
+            place?.remove();
+            place = null;
+        },
+    };
+    return reveal;
 }

@@ -1,4 +1,5 @@
 /** The vertical scroller: a pause button, and a first message that stands still without motion. */
+import { now } from "./platform.js";
 import { calm, pauseButton, placeOver } from "./calm.js";
 import { afterStart } from "./starts.js";
 import { go, restUnseen, stop } from "./timers.js";
@@ -14,16 +15,10 @@ const heights = new WeakMap();
  * @param {HTMLElement} element
  */
 export function heightOf(element) {
-    const now = performance.now();
+    const t = now();
     let [height, since] = heights.get(element) ?? [0, -Infinity];
-    if (now - since > 500) heights.set(element, [(height = element.offsetHeight), now]);
+    if (t - since > 500) heights.set(element, [(height = element.offsetHeight), t]);
     return height;
-}
-
-/** Puts a text into an element. @param {HTMLElement} element @param {string} html */
-export function setContent(element, html) {
-    heights.delete(element);
-    element.innerHTML = html;
 }
 
 /**

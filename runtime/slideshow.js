@@ -1,5 +1,5 @@
 /** The slideshow: its buttons, a pause button, and a least time between slides against flashing. */
-import { calm, pauseButton, placeOver, say, shortestFlash } from "./calm.js";
+import { attribute, calm, pauseButton, placeOver, say, shortestFlash } from "./calm.js";
 import { go, onInterval, restUnseen, shortest, stop, timers } from "./timers.js";
 
 const turn = "doTrans";
@@ -8,12 +8,6 @@ shortest.set(turn, 2 * shortestFlash);
 
 /** Whether the visitor lets it run; undefined as long as nothing was pressed. @type {boolean | undefined} */
 let wanted;
-
-/** Lets slides change by themselves, or not. @param {boolean} on */
-function run(on) {
-    (on ? go : stop)(turn);
-    say("");
-}
 
 /** Puts a button over the picture while slides change by themselves. @param {Element} picture */
 function addPause(picture) {
@@ -24,12 +18,12 @@ function addPause(picture) {
     onInterval.set(turn, (runs) => {
         if (runs && !place) {
             const moves = wanted ?? !calm();
-            run(moves);
+            (moves ? go : stop)(turn);
             place = placeOver(picture);
             place.inside.append(
                 pauseButton("the slideshow", moves, (on, pressed) => {
                     if (pressed) wanted = on;
-                    run(on);
+                    (on ? go : stop)(turn);
                 }),
             );
         } else if (!runs) {
@@ -40,7 +34,7 @@ function addPause(picture) {
 }
 
 const press =
-    /^window\.clearInterval\(iTimer\);doTrans\((-?1)\)(?:;iTimer = setInterval\('doTrans\(1\)', (\d+)\);)?$/;
+    /^window\.clearInterval\(iTimer\);doTrans\((-?1)\)(?:;iTimer = setInterval\(.*, (\d+)\);)?$/;
 
 /**
  * Prepares the picture and the buttons.
@@ -48,7 +42,7 @@ const press =
  */
 export function prepareSlideshow(element) {
     if (element.id === "oImg") addPause(element);
-    const found = press.exec(element.getAttribute("onclick") ?? "");
+    const found = press.exec(attribute(element, "onclick"));
     if (!(element instanceof HTMLButtonElement) || !found) return;
     const [, way, pause] = found;
     const page = /** @type {any} */ (window);

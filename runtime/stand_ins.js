@@ -6,7 +6,7 @@
 import { addFavorite, closeWindow, openWindow } from "./windows.js";
 import { filtersOf, setFilter } from "./filters.js";
 import { placeOf } from "./lengths.js";
-import { heightOf, setContent } from "./scroller.js";
+import { heightOf } from "./scroller.js";
 import { timers } from "./timers.js";
 import { listenLate } from "./starts.js";
 import { showStatus, status } from "./ticker.js";
@@ -65,10 +65,6 @@ function elementStandIn(element) {
             style: only(styleOf(element)),
             filters: { get: () => filtersOf(element) },
             offsetHeight: { get: () => heightOf(element) },
-            innerHTML: {
-                get: () => element.innerHTML,
-                set: (value) => setContent(element, value),
-            },
         });
         prepareTrail(element);
         elements.set(element, known);
@@ -110,7 +106,6 @@ const all = new Proxy(
 
 const documentStandIn = standIn(document, {
     all: only(all),
-    layers: only(undefined),
     body: {
         get: () =>
             document.body &&

@@ -19,17 +19,13 @@ let started = false;
 /** Calls `run` once the effects have started. @param {() => void} run */
 export const afterStart = (run) => void (started ? run() : afterwards.push(run));
 
-/** Orvane's scripts as they were written. @type {Map<Element, string>} */
-const texts = new Map();
-
-/** Notes a script of Orvane's. @param {Element} script @param {string} text */
-export const noteOwn = (script, text) => void texts.set(script, text);
+/** Orvane's scripts. @type {Set<HTMLScriptElement>} */
+export const ownScripts = new Set();
 
 /** Whether the page's function of this name is Orvane's. @param {string} name */
 export function isOwn(name) {
     const defined = /** @type {any} */ (window)[name];
-    const code = String(defined);
-    return typeof defined === "function" && [...texts.values()].some((text) => text.includes(code));
+    return defined && [...ownScripts].some((script) => script.text.includes(String(defined)));
 }
 
 /** Whether the slideshow has made its images. */
@@ -43,12 +39,8 @@ export function listenLate(event, run) {
     if (typeof run === "function") addEventListener(event, (told) => run.call(window, told));
 }
 
-/**
- * Whether this is the window call that Orvane writes into a BODY tag.
- * @param {string | null} text
- */
-const opensWindow = (text) =>
-    /^\s*window\.open\([^]*,toolbar=(yes|no),status=[^]*\);?\s*$/.test(text ?? "");
+/** The window call that Orvane writes into a BODY tag. */
+const opensWindow = /^\s*window\.open\([^]*,toolbar=(yes|no),status=[^]*\);?\s*$/;
 
 /**
  * Takes over the calls of the BODY tag that browsers block: windows on load and on exit. Expects a
@@ -56,32 +48,21 @@ const opensWindow = (text) =>
  */
 export function takeBodyCalls() {
     const body = /** @type {any} */ (document.body);
-    for (const [handler, run] of /** @type {const} */ ([
-        ["onload", open],
-        ["onunload", leave],
-    ])) {
-        const text = body?.getAttribute(handler) ?? null;
-        const call = opensWindow(text) && readCall(text ?? "");
-        if (!call || document.readyState === "complete") continue;
-        const take = () => (body[handler] = null);
-        if (handler === "onunload") run(call, take);
-        else {
-            take();
-            addEventListener("load", () => run(call, take));
-        }
+    /** @param {string} handler @returns {any} */
+    const callOf = (handler) => {
+        const text = body?.getAttribute(handler) ?? "";
+        return opensWindow.test(text) && document.readyState !== "complete" && readCall(text);
+    };
+    const [load, unload] = [callOf("onload"), callOf("onunload")];
+    if (load) {
+        body.onload = null;
+        addEventListener("load", () => openWindow(...argsOf(load)));
     }
+    if (unload) openOnLeaving(argsOf(unload), () => (body.onunload = null));
 }
 
-/** Opens the window of a call. @param {Call} call */
-function open(call) {
-    openWindow(.../** @type {[string, string, string]} */ (call.args()));
-}
-
-/** Offers the window of a call on leaving. @param {Call} call @param {() => void} [done] */
-function leave(call, done = () => {}) {
-    const [url, name, features] = /** @type {[string, string, string]} */ (call.args());
-    openOnLeaving(url, name, features, done);
-}
+/** What a call opens a window by. @param {Call} call @returns {[string, string, string]} */
+const argsOf = (call) => /** @type {any} */ (call.args());
 
 /** Whether the `onload` of the page makes a call to this function. @param {string} name */
 const isCalled = (name) =>
@@ -104,7 +85,7 @@ export function startLate(carried) {
         for (const call of [...own, ...readCalls(carried?.onload)]) {
             if (runs(call.name) || made.has(call.name) || isCalled(call.name)) continue;
             made.add(call.name);
-            if (call.name === "window.open") open(call);
+            if (call.name === "window.open") openWindow(...argsOf(call));
             else make(call);
         }
         started = true;
@@ -114,7 +95,7 @@ export function startLate(carried) {
     if (document.readyState === "complete") setTimeout(start);
     else addEventListener("load", () => setTimeout(start));
     for (const call of readCalls(carried?.onunload)) {
-        if (call.name === "window.open") leave(call);
+        if (call.name === "window.open") openOnLeaving(argsOf(call));
         else addEventListener("pagehide", () => make(call));
     }
 }

@@ -1,14 +1,14 @@
 /** A strip at the foot of the window, in place of the status line that browsers no longer have. */
-import { calm, ownPlace, pauseButton } from "./calm.js";
+import { calm, make, ownPlace, pauseButton } from "./calm.js";
 import { go, note, stop } from "./timers.js";
 
 const look = `
-  .strip { position: fixed; left: 0; right: 0; bottom: 0; min-height: 24px; max-height: 50vh;
-    z-index: 2147483646; display: flex; overflow: hidden; background: #eee; color: #000;
-    border-top: 1px solid #888 }
-  .shown { font: 13px/24px sans-serif; white-space: pre; padding-left: 4px }
-  .still { overflow: auto; pointer-events: auto }
-  .still > .shown { white-space: pre-wrap; overflow-wrap: anywhere; min-width: 0 }`;
+.strip{position:fixed;left:0;right:0;bottom:0;min-height:24px;max-height:50vh;
+z-index:2147483646;display:flex;overflow:hidden;color:#000;background:#eee;
+border-top:1px solid #888}
+.shown{font:13px/24px sans-serif;white-space:pre;padding-left:4px}
+.still{overflow:auto;pointer-events:auto}
+.still>.shown{white-space:pre-wrap;overflow-wrap:anywhere;min-width:0}`;
 
 const ticker = "scrollit_r2l";
 let text = "";
@@ -23,19 +23,16 @@ export const status = () => text;
 /** Makes the strip. As much height is added to the end of the page, and clicks go through it. */
 function makeStrip() {
     const { host, inside } = ownPlace("display:block;clear:both;pointer-events:none", look);
-    const bar = document.createElement("div");
-    const shown = document.createElement("span");
-    shown.className = "shown";
+    const shown = make("span", "shown");
     shown.setAttribute("aria-hidden", "true");
-    const words = document.createElement("span");
-    words.className = "words";
+    const words = make("span", "words");
     const moves = !calm();
     if (!moves) stop(ticker);
     const button = pauseButton("the moving text", moves, (on) => {
         (on ? go : stop)(ticker);
         if (!on && calm()) show(whole);
     });
-    bar.append(button, words, shown);
+    const bar = make("div", "", button, words, shown);
     inside.append(bar);
     document.documentElement.append(host);
     return { host, bar, shown, words };

@@ -30,14 +30,7 @@ export function onMouseMove(run) {
     if (typeof run !== "function") return;
     /** @param {MouseEvent | Touch} at */
     const tell = (at) => {
-        told = {
-            x: at.clientX,
-            y: at.clientY,
-            clientX: at.clientX,
-            clientY: at.clientY,
-            pageX: at.pageX,
-            pageY: at.pageY,
-        };
+        told = { x: at.clientX, y: at.clientY };
         try {
             run.call(document, told);
         } finally {

@@ -2,16 +2,16 @@
  * Watches the page while the browser parses it: an inline script of Orvane's is put into the
  * stand-ins' scope before it runs, an element of Orvane's is prepared, and all else stays as it is.
  */
-import { isOwn, noteOwn, slidesHaveBegun } from "./starts.js";
+import { make } from "./calm.js";
+import { isOwn, ownScripts, slidesHaveBegun } from "./starts.js";
 
 const credit = /Script written by Varlo Software|Created by Orvane software/;
-const marker = /^ \*{5} (Begin|End):Varlo [^]* special effect \*{5} $/;
+const marker = /^ \*{5} (Begin|End):Varlo ([^]*) special effect \*{5} $/;
 /** The functions of the scripts that need the scope; scripts with other ones run as they are. */
 const needs =
     /\sfunction (scrollit_r2l|moveSpan|loadImages|initMouseTrail|startHighlight|showBox|DigitalClock|playSound|addBookmark|closeWindow)\(/;
-/** What stands in Orvane's texts beside the markers. */
-const ownTags =
-    /^(a|applet|bgsound|br|button|center|div|font|form|img|input|layer|script|select|span|style|table)$/;
+/** What never stands in Orvane's texts beside the markers. */
+const otherTags = /^(body|h\d|hr|p|[dou]l)$/;
 /** Whose elements are not the page script's: the author's wish, and effects that run by themselves. */
 const off = "[data-orvane-off],[data-orvane],[data-orvane-run]";
 const brightens = "img[onmouseover*='startHighlight(']";
@@ -25,18 +25,17 @@ export const isOff = (element) => !!element.closest(off);
 let scope;
 /** The own text of each script that was put into the scope. @type {WeakMap<Element, string>} */
 const wrapped = new WeakMap();
-/** Whether scripts with this nonce may be changed. @type {Map<string, boolean>} */
+/** Whether scripts with this nonce may be changed. @type {Map<string | undefined, boolean>} */
 const allowed = new Map();
-const between = new WeakSet();
-/** Effects for which the page script came too late. @type {string[]} */
-const late = [];
+/** The effect of each script between comments. @type {WeakMap<Element, string>} */
+const between = new WeakMap();
 
 /**
  * Runs a text as a script that can have the scope; does nothing where a policy forbids it.
- * @param {string} text @param {string} nonce
+ * @param {string} text @param {string} [nonce]
  */
 function run(text, nonce) {
-    const script = /** @type {any} */ (document.createElement("script"));
+    const script = /** @type {any} */ (make("script"));
     script.orvane = scope;
     script.nonce = nonce;
     try {
@@ -49,8 +48,11 @@ function run(text, nonce) {
     return script;
 }
 
-/** Whether a policy of the page lets the script run with another text. @param {Element} script */
-function mayChange({ nonce = "" }) {
+/**
+ * Whether a policy of the page lets the script run with another text.
+ * @param {HTMLScriptElement} script
+ */
+function mayChange({ nonce }) {
     if (!allowed.has(nonce))
         allowed.set(nonce, !run("document.currentScript.orvane=0", nonce).orvane);
     return allowed.get(nonce);
@@ -70,12 +72,15 @@ function wrap(script, hasRun) {
     const [, name] = needs.exec(text) ?? [];
     if (own === text || !name || !(own !== undefined || between.has(script) || credit.test(text)))
         return;
-    noteOwn(script, text);
+    ownScripts.add(script);
     if (!mayChange(script)) return;
     const whole = opening + text + closing;
     if (hasRun) {
-        if (name === "initMouseTrail") late.push("the mouse cursor trail");
-        else if (name === "loadImages" && slidesHaveBegun()) late.push("the slideshow");
+        if (name === "initMouseTrail" || (name === "loadImages" && slidesHaveBegun()))
+            console.warn(
+                `orvane.js came too late for ${between.get(script) ?? name}: ` +
+                    "its tag belongs right behind the HEAD tag, without defer or async.",
+            );
         else if (name !== "DigitalClock") run(whole, script.nonce);
         return;
     }
@@ -100,6 +105,7 @@ export function watch(orvane, prepare) {
     let last = document;
     /** The comment that an effect's text begins with. @type {Node | null} */
     let begin = null;
+    let effect = "";
     /** The script that was met last between comments. @type {HTMLScriptElement | null} */
     let script = null;
     let isFirst = true;
@@ -107,17 +113,19 @@ export function watch(orvane, prepare) {
     /** Whether an effect's text has ended before a node, although no comment says so. @param {any} node */
     const isBehind = (node) =>
         (script && !isOff(script) && !needs.test(script.text)) ||
-        (node.parentNode === begin?.parentNode && !ownTags.test(node.localName)) ||
-        node.localName === "body" ||
-        (node.localName === "script" && node.src);
+        (otherTags.test(node.localName) &&
+            (node.parentNode === begin?.parentNode || node.localName === "body"));
 
     /** @param {any} node */
     const meet = (node) => {
         if (node.nodeType === 8) {
             const found = marker.exec(node.data);
-            if (found) [begin, script] = [found[1] === "Begin" ? node : null, null];
+            if (found) {
+                [begin, script] = [found[1] === "Begin" ? node : null, null];
+                effect = found[2];
+            }
         } else if (isBehind(node)) begin = null;
-        else if (node.localName === "script") between.add((script = node));
+        else if (node.localName === "script") between.set((script = node), effect);
         else if (node instanceof HTMLElement && !isOff(node)) prepare(node);
     };
     const observer = new MutationObserver(() => look());
@@ -154,11 +162,6 @@ export function watch(orvane, prepare) {
             for (const image of document.querySelectorAll(brightens))
                 if (!met.has(image) && !isOff(image))
                     prepare(/** @type {HTMLElement} */ (image));
-        if (late.length)
-            console.warn(
-                `orvane.js came too late for ${late.join(", ")}. ` +
-                    "Its tag belongs right behind the HEAD tag, without defer and async.",
-            );
     };
 }
 

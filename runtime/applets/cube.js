@@ -106,55 +106,37 @@ function castRays(to, W, H, r, from, iw, ih, axes, D) {
 }
 
 /**
- * Draws the cube by small triangles, for pictures whose pixels the browser lets no script read.
+ * Draws the cube by small pieces, for pictures whose pixels the browser lets no script read.
  * @param {CanvasRenderingContext2D} pen @param {HTMLCanvasElement} picture
  * @param {Vector[]} axes @param {number} D
  */
-function drawTriangles(pen, picture, axes, D) {
+function drawPieces(pen, picture, axes, D) {
     const { width: W, height: H } = pen.canvas;
-    const { width: iw, height: ih } = picture;
+    const cells = 10;
+    const [w, h] = [picture.width / cells, picture.height / cells];
     const f = 0.6 * Math.min(W, H);
-    const cells = 6;
     for (const { axis, side, u, v } of faces) {
         if (side * -D * axes[axis][2] <= half) continue;
-        /** @param {number} a @param {number} b both 0 to 1, along the picture */
+        /** @param {number} a @param {number} b both 0 to `cells`, along the picture */
         const at = (a, b) => {
             const point = [0, 0, 0];
             point[axis] = side * half;
-            point[u[0]] = u[1] * (2 * a - 1) * half;
-            point[v[0]] = v[1] * (2 * b - 1) * half;
+            point[u[0]] = u[1] * ((2 * a) / cells - 1) * half;
+            point[v[0]] = v[1] * ((2 * b) / cells - 1) * half;
             const [x, y, z] = [0, 1, 2].map(
                 (k) => point[0] * axes[0][k] + point[1] * axes[1][k] + point[2] * axes[2][k],
             );
             return [W / 2 + (x * f) / (z + D), H / 2 + (y * f) / (z + D)];
         };
-        for (let i = 0; i < cells * cells * 2; i++) {
-            const [s, a, b] = [
-                i % 2 ? -1 : 1,
-                (((i >> 1) % cells) + (i % 2)) / cells,
-                (Math.floor(i / 2 / cells) + (i % 2)) / cells,
-            ];
-            const [p, q, o] = [at(a, b), at(a + s / cells, b), at(a, b + s / cells)];
-            const [w, h] = [(s * iw) / cells, (s * ih) / cells];
-            pen.save();
-            pen.beginPath();
-            // A little larger than it is, so that nothing shines through between two of them.
-            const [mx, my] = [0, 1].map((k) => (p[k] + q[k] + o[k]) / 3);
-            for (const [x, y] of [p, q, o])
-                pen.lineTo(x + 0.7 * Math.sign(x - mx), y + 0.7 * Math.sign(y - my));
-            pen.clip();
-            pen.transform(
-                (q[0] - p[0]) / w,
-                (q[1] - p[1]) / w,
-                (o[0] - p[0]) / h,
-                (o[1] - p[1]) / h,
-                p[0],
-                p[1],
-            );
-            pen.drawImage(picture, -a * iw, -b * ih);
-            pen.restore();
-        }
+        for (let a = 0; a < cells; a++)
+            for (let b = 0; b < cells; b++) {
+                const [[px, py], [qx, qy], [ox, oy]] = [at(a, b), at(a + 1, b), at(a, b + 1)];
+                pen.setTransform((qx - px) / w, (qy - py) / w, (ox - px) / h, (oy - py) / h, px, py);
+                // A little larger than it is, so that nothing shines through between two of them.
+                pen.drawImage(picture, a * w, b * h, w, h, 0, 0, 1.05 * w, 1.05 * h);
+            }
     }
+    pen.resetTransform();
 }
 
 /**
@@ -195,7 +177,7 @@ export async function cube(tag, pen) {
             pen.putImageData(data, 0, 0);
         } else {
             if (clears) clear();
-            drawTriangles(pen, picture, axes, D);
+            drawPieces(pen, picture, axes, D);
         }
         return each - (t % each);
     };

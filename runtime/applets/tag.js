@@ -1,66 +1,65 @@
 /** Reads an APPLET tag, and makes the pictures and words that it asks for. */
+import { attribute, make } from "../calm.js";
 
 /** Something that a canvas can draw. @typedef {HTMLImageElement | HTMLCanvasElement} Picture */
 
-/** An APPLET tag: its size in pixels, and its parameters, whose names ignore case. */
-export class Tag {
-    /** @param {Element} applet */
-    constructor(applet) {
-        this.applet = applet;
-        this.code = (applet.getAttribute("code") ?? "").replace(/\.class$/i, "");
-        this.W = parseInt(applet.getAttribute("width") ?? "") || 0;
-        this.H = parseInt(applet.getAttribute("height") ?? "") || 0;
-        /** @type {Map<string, string>} */
-        this.values = new Map();
-        for (const parameter of applet.querySelectorAll("param")) {
-            const name = (parameter.getAttribute("name") ?? "").toLowerCase();
-            const value = parameter.getAttribute("value") ?? "";
-            if (value.trim() && !this.values.has(name)) this.values.set(name, value);
-        }
-    }
+/** An APPLET tag. @typedef {ReturnType<typeof readTag>} Tag */
 
+/**
+ * Reads an APPLET tag: its size in pixels, and its parameters, whose names ignore case.
+ * @param {Element} applet
+ */
+export function readTag(applet) {
+    /** @type {Map<string, string>} */
+    const values = new Map();
+    for (const parameter of applet.querySelectorAll("param")) {
+        const name = attribute(parameter, "name").toLowerCase();
+        const value = attribute(parameter, "value");
+        if (value.trim() && !values.has(name)) values.set(name, value);
+    }
     /**
      * A parameter's value without blanks around it, or null when it is missing.
      * @param {string} name
      */
-    text(name) {
-        return this.values.get(name.toLowerCase())?.trim() ?? null;
-    }
-
+    const text = (name) => values.get(name.toLowerCase())?.trim() ?? null;
     /**
      * The number at the start of a parameter, at most a million up or down; `missing` when there is
      * none or it is below `least`.
      * @param {string} name @param {number} missing @param {number} least
      */
-    number(name, missing, least = -Infinity) {
-        const found = /^[+-]?\d+/.exec(this.text(name) ?? "");
+    const number = (name, missing, least = -Infinity) => {
+        const found = /^[+-]?\d+/.exec(text(name) ?? "");
         const number = Math.min(Math.max(Number(found?.[0]), -1e6), 1e6);
         return number >= least ? number : missing;
-    }
-
+    };
     /** A colour of three numbers, or `missing`. @param {string} name @param {string} missing */
-    color(name, missing) {
-        const parts = (this.text(name) ?? "").split(",").map((part) => parseInt(part));
-        return parts.length < 3 || parts.slice(0, 3).some(isNaN)
-            ? missing
-            : `rgb(${parts.slice(0, 3)})`;
-    }
-
+    const color = (name, missing) => {
+        const parts = (text(name) ?? "").split(",", 3).map((part) => parseInt(part));
+        return parts.length < 3 || parts.some(isNaN) ? missing : `rgb(${parts})`;
+    };
     /** How often the whole is shown; Infinity when no number above 0 is given. */
-    cycles() {
-        return this.number("CYCLES", Infinity, 1);
-    }
-
+    const cycles = () => number("CYCLES", Infinity, 1);
     /**
      * The values of `name.0`, `name.1`, ... up to the first that is missing.
      * @param {string} name
      */
-    list(name) {
-        const values = [];
-        for (let value; (value = this.text(`${name}.${values.length}`)) !== null;)
-            values.push(value);
-        return values;
-    }
+    const list = (name) => {
+        const found = [];
+        for (let value; (value = text(`${name}.${found.length}`)) !== null;) found.push(value);
+        return found;
+    };
+    return {
+        applet,
+        code: attribute(applet, "code").replace(/\.class$/i, ""),
+        W: parseInt(attribute(applet, "width")) || 0,
+        H: parseInt(attribute(applet, "height")) || 0,
+        values,
+        text,
+        number,
+        color,
+        cycles,
+        list,
+    };
 }
 
 /**
@@ -70,7 +69,7 @@ export class Tag {
  * @param {string} color
  */
 export function sheet(w, h, color) {
-    const canvas = document.createElement("canvas");
+    const canvas = make("canvas");
     canvas.width = w;
     canvas.height = h;
     const pen = /** @type {CanvasRenderingContext2D} */ (canvas.getContext("2d"));

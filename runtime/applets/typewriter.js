@@ -43,7 +43,7 @@ async function textOf(tag) {
     const lines = await linesOf(file);
     if (lines) return lines;
     return location.protocol === "file:"
-        ? `Browsers let no page on the disk read the text file "${file}". On the Web it is shown.`
+        ? `Browsers do not let pages on the disk read the text file "${file}".`
         : `The text file "${file}" could not be loaded.`;
 }
 
