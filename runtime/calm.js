@@ -46,19 +46,15 @@ white-space:nowrap}
 @media print{button,.strip,.box{display:none!important}}`;
 
 /**
- * A small button that stops and starts what moves; so does the visitor's wish for calm, unless the
- * button was pressed.
+ * A small button that stops and starts what moves; so does a change of the visitor's wish.
  * @param {string} what what moves, in words for screen readers, such as "the moving text"
  * @param {boolean} moving whether it moves now
- * @param {(moving: boolean, pressed: boolean) => void} changed called at each change: whether it
- *     moves from now on, and whether the button was pressed
+ * @param {(moving: boolean) => void} changed called at each change: whether it moves from now on
  */
 export function pauseButton(what, moving, changed) {
     const button = make("button");
-    let pressed = false;
     button.type = "button";
-    const set = (/** @type {boolean} */ on) => {
-        moving = on;
+    const show = () => {
         button.textContent = moving ? "\u275A\u275A" : "\u25B6\uFE0E";
         button.title = (moving ? "Pause " : "Play ") + what;
         button.setAttribute("aria-label", button.title);
@@ -66,16 +62,15 @@ export function pauseButton(what, moving, changed) {
     button.addEventListener("click", (event) => {
         event.preventDefault();
         event.stopPropagation();
-        pressed = true;
-        set(!moving);
-        changed(moving, true);
+        turn();
     });
-    onCalm(() => {
-        if (moving !== calm() || (pressed && !moving) || !button.isConnected) return;
-        set(!moving);
-        changed(moving, false);
-    });
-    set(moving);
+    const turn = () => {
+        moving = !moving;
+        show();
+        changed(moving);
+    };
+    onCalm(() => moving === calm() && button.isConnected && turn());
+    show();
     return button;
 }
 
@@ -129,7 +124,6 @@ export function placeOver(element) {
     };
     const watcher = new ResizeObserver(follow);
     watcher.observe(element);
-    watcher.observe(document.documentElement);
     follow();
     return { inside: over, remove: () => (watcher.disconnect(), host.remove()) };
 }

@@ -55,5 +55,5 @@ export function filtersOf(element) {
             setOpacity(element, percent);
         },
     };
-    return { alpha, 0: reveals.get(element) ?? alpha, length: 1 };
+    return { alpha, 0: reveals.get(element) ?? alpha };
 }

@@ -37,7 +37,7 @@ if (!page[mark] && !isOff(document.documentElement)) {
         takeBodyCalls();
         for (const applet of document.querySelectorAll("applet"))
             runApplet(/** @type {HTMLElement} */ (applet));
-        watchLater((element) => (element.localName === "img" ? prepare : runApplet)(element));
+        watchLater(runApplet);
     };
     if (document.readyState === "loading") document.addEventListener("DOMContentLoaded", read);
     else read();

@@ -13,14 +13,7 @@ const bars = 48;
 const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i));
 
 /** The numbers below `count` in random order. @param {number} count */
-function shuffled(count) {
-    const order = pieces(count, (i) => [i, 0, 0, 0]).map(([i]) => i);
-    for (let i = count - 1; i > 0; i--) {
-        const j = Math.floor(Math.random() * (i + 1));
-        [order[i], order[j]] = [order[j], order[i]];
-    }
-    return order;
-}
+const shuffled = (count) => [...Array(count).keys()].sort(() => Math.random() - 0.5);
 
 /** The frame along the edges, `p / 2` wide on each side. @param {number} p @returns {Piece[]} */
 const frame = (p) => [
@@ -66,19 +59,16 @@ const strips = (p, left, up) =>
         return [left ? 1 - long : 0, i / rows, long, 1 / rows];
     });
 
-/** Lines in random order. @param {number[]} order @param {number} p @returns {Piece[]} */
-const some = (order, p) =>
-    order
-        .slice(0, Math.round(p * order.length))
-        .map((i) => [0, i / order.length, 1, 1 / order.length]);
-
-/** Dots in random order. @param {number[]} order @param {number} p @returns {Piece[]} */
-const dots = (order, p) => {
-    const side = Math.sqrt(order.length);
+/**
+ * Dots in random order, in so many columns.
+ * @param {number[]} order @param {number} p @param {number} columns @returns {Piece[]}
+ */
+function dots(order, p, columns) {
+    const [w, h] = [1 / columns, columns / order.length];
     return order
         .slice(0, Math.round(p * order.length))
-        .map((i) => [(i % side) / side, Math.floor(i / side) / side, 1 / side, 1 / side]);
-};
+        .map((i) => [(i % columns) * w, Math.floor(i / columns) * h, w, h]);
+}
 
 /**
  * The parts of the new picture that are seen at the share `p` of the time, by the number of the
@@ -96,7 +86,7 @@ const uncovered = {
     9: (p) => pieces(blinds, (i) => [0, i / blinds, 1, p / blinds]),
     10: checkers,
     11: (p) => turned(checkers(p)),
-    12: (p, order) => dots(order, p),
+    12: (p, order) => dots(order, p, 20),
     13: (p) => [
         [0, 0, p / 2, 1],
         [1 - p / 2, 0, p / 2, 1],
@@ -111,8 +101,8 @@ const uncovered = {
     18: (p) => strips(p, true, true),
     19: (p) => strips(p, false, false),
     20: (p) => strips(p, false, true),
-    21: (p, order) => some(order, p),
-    22: (p, order) => turned(some(order, p)),
+    21: (p, order) => dots(order, p, 1),
+    22: (p, order) => dots(order, p, bars),
 };
 
 /**

@@ -21,10 +21,7 @@ function addPause(picture) {
             (moves ? go : stop)(turn);
             place = placeOver(picture);
             place.inside.append(
-                pauseButton("the slideshow", moves, (on, pressed) => {
-                    if (pressed) wanted = on;
-                    (on ? go : stop)(turn);
-                }),
+                pauseButton("the slideshow", moves, (on) => ((wanted = on) ? go : stop)(turn)),
             );
         } else if (!runs) {
             place?.remove();
@@ -43,10 +40,10 @@ const press =
 export function prepareSlideshow(element) {
     if (element.id === "oImg") addPause(element);
     const found = press.exec(attribute(element, "onclick"));
-    if (!(element instanceof HTMLButtonElement) || !found) return;
+    if (!found) return;
     const [, way, pause] = found;
     const page = /** @type {any} */ (window);
-    element.type = "button";
+    /** @type {HTMLButtonElement} */ (element).type = "button";
     // The same as its handler does, with timers that the pause button can stop.
     element.onclick = () => {
         timers.clearInterval(page.iTimer);

@@ -26,7 +26,6 @@ function standIn(real, changes) {
     return new Proxy(
         {},
         {
-            has: (_, key) => key in changes || key in real,
             get(_, key) {
                 const change = changes[/** @type {string} */ (key)];
                 if (change?.get) return change.get();
@@ -58,7 +57,7 @@ const elements = new WeakMap();
  * @param {any} element
  */
 function elementStandIn(element) {
-    if (!(element instanceof HTMLElement)) return element;
+    if (!element?.style) return element;
     let known = elements.get(element);
     if (!known) {
         known = standIn(element, {
@@ -97,10 +96,7 @@ function styleOf(element) {
 const all = new Proxy(
     {},
     {
-        get: (_, key) => {
-            const value = /** @type {any} */ (document.all)[key];
-            return typeof value === "function" ? value.bind(document.all) : elementStandIn(value);
-        },
+        get: (_, key) => elementStandIn(/** @type {any} */ (document.all)[key]),
     },
 );
 

@@ -66,9 +66,7 @@ const argsOf = (call) => /** @type {any} */ (call.args());
 
 /** Whether the `onload` of the page makes a call to this function. @param {string} name */
 const isCalled = (name) =>
-    RegExp(`(^|[^\\w$.]|window\\.)${name.replace(/\W/g, "\\$&")}\\s*\\(`).test(
-        String(window.onload),
-    );
+    RegExp(`(^|[^\\w$.]|window\\.)${name}\\(`).test(String(window.onload));
 
 /** Whether an effect runs. @param {string} name the function that starts it */
 const runs = (name) => (name === "loadImages" ? slidesHaveBegun() : hasRun(name));
@@ -80,11 +78,12 @@ const runs = (name) => (name === "loadImages" ? slidesHaveBegun() : hasRun(name)
  */
 export function startLate(carried) {
     const start = () => {
-        const made = new Set();
+        /** @type {string[]} */
+        const made = [];
         const own = /** @type {Call[]} */ (starts.map(readCall)).filter(({ name }) => isOwn(name));
         for (const call of [...own, ...readCalls(carried?.onload)]) {
-            if (runs(call.name) || made.has(call.name) || isCalled(call.name)) continue;
-            made.add(call.name);
+            if (runs(call.name) || made.includes(call.name) || isCalled(call.name)) continue;
+            made.push(call.name);
             if (call.name === "window.open") openWindow(...argsOf(call));
             else make(call);
         }

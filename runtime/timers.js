@@ -72,33 +72,38 @@ function tellInterval(name) {
     onInterval.get(name)?.([...intervals.values()].includes(name));
 }
 
+/**
+ * The call that the browser's timer is to make for a text: `run` for its call. What is no plain
+ * call is handed on.
+ * @param {any} code @param {(call: Call) => void} run
+ */
+function handler(code, run) {
+    const call = typeof code === "string" && readCall(code);
+    if (!call) return { code, name: "" };
+    seen.add(call.name);
+    return { code: () => run(call), name: call.name };
+}
+
 /** The timer functions that generated scripts see in place of the browser's. */
 export const timers = {
-    /** @param {any} code @param {number} pause @param {any[]} rest */
-    setTimeout(code, pause, ...rest) {
-        const call = typeof code === "string" && readCall(code);
-        if (!call) return setTimeout(code, pause, ...rest);
-        seen.add(call.name);
-        if (idle.get(call.name)?.()) stop(call.name);
-        const id = setTimeout(() => {
+    /** @param {any} text @param {number} pause @param {any[]} rest */
+    setTimeout(text, pause, ...rest) {
+        const { code, name } = handler(text, (call) => {
             if (rests(call.name)) waiting.set(id, call);
             else make(call);
-        }, pause);
+        });
+        if (idle.get(name)?.()) stop(name);
+        const id = setTimeout(code, pause, ...rest);
         return id;
     },
-    /** @param {any} code @param {number} pause @param {any[]} rest */
-    setInterval(code, pause, ...rest) {
-        const call = typeof code === "string" && readCall(code);
-        if (!call) return setInterval(code, pause, ...rest);
-        seen.add(call.name);
-        const id = setInterval(
-            () => {
-                if (!rests(call.name)) make(call);
-            },
-            Math.max(pause, shortest.get(call.name) ?? 0),
-        );
-        intervals.set(id, call.name);
-        tellInterval(call.name);
+    /** @param {any} text @param {number} pause @param {any[]} rest */
+    setInterval(text, pause, ...rest) {
+        const { code, name } = handler(text, (call) => {
+            if (!rests(call.name)) make(call);
+        });
+        const id = setInterval(code, Math.max(pause, shortest.get(name) ?? 0), ...rest);
+        intervals.set(id, name);
+        tellInterval(name);
         return id;
     },
     /** @param {number} id */

@@ -126,7 +126,7 @@ export function watch(orvane, prepare) {
             }
         } else if (isBehind(node)) begin = null;
         else if (node.localName === "script") between.set((script = node), effect);
-        else if (node instanceof HTMLElement && !isOff(node)) prepare(node);
+        else if (node.style && !isOff(node)) prepare(node);
     };
     const observer = new MutationObserver(() => look());
     const look = () => {
@@ -174,7 +174,7 @@ export function watchLater(found) {
     try {
         const sheet = new CSSStyleSheet();
         sheet.replaceSync(
-            `@keyframes orvane{to{order:0}}:where(applet,${brightens}){animation:orvane 1ms}`,
+            "@keyframes orvane{to{order:0}}:where(applet){animation:orvane 1ms}",
         );
         document.adoptedStyleSheets = [...document.adoptedStyleSheets, sheet];
     } catch {

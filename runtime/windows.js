@@ -62,13 +62,9 @@ const pageOf = (url) => url.replace(/#.*/, "");
 /** Whether a click leads from this page to another in its place. @param {MouseEvent} event */
 function leads(event) {
     const link = /** @type {Element} */ (event.target).closest?.("a[href],area[href]");
-    const { href, target, download } = /** @type {HTMLAnchorElement} */ (link ?? {});
-    const isOther = event.defaultPrevented || event.ctrlKey || event.shiftKey || event.metaKey;
-    return (
-        /^(http|file)/.test(href) &&
-        !(isOther || target || download) &&
-        pageOf(href) !== pageOf(location.href)
-    );
+    const { href, target } = /** @type {HTMLAnchorElement} */ (link ?? {});
+    const isOther = event.defaultPrevented || event.ctrlKey || event.shiftKey || target;
+    return /^(http|file)/.test(href) && !isOther && pageOf(href) !== pageOf(location.href);
 }
 
 /**

@@ -1,7 +1,7 @@
 /** Animations of several images, and the effects of one image that comes and goes. */
 import { calm, shortestFlash } from "../calm.js";
 import { play } from "../sounds.js";
-import { load, missing, notLoaded, pixelsOf, sheet, words } from "./tag.js";
+import { load, pixelsOf, sheet, words, wrongWords } from "./tag.js";
 import { drawTransition, isWay, readTransition } from "./transitions.js";
 
 /** @typedef {import("./tag.js").Tag} Tag */
@@ -53,7 +53,7 @@ function differ(from, to, area) {
 async function frames({ W, H }, names, ground) {
     const images = await Promise.all(names.map(load));
     return images.map((image, i) => {
-        if (!image) return words(notLoaded(names[i]), W, H);
+        if (!image) return words(wrongWords(names[i], ""), W, H);
         const { canvas, pen } = sheet(W, H, ground);
         pen.drawImage(image, Math.floor((W - image.width) / 2), Math.floor((H - image.height) / 2));
         return canvas;
@@ -62,12 +62,11 @@ async function frames({ W, H }, names, ground) {
 
 /**
  * The link of a frame: its own, or that of the nearest frame before it that has one.
- * @param {(string | null)[]} links @param {number} frame
+ * @param {string[]} links @param {number} frame
  */
 function linkOf(links, frame) {
-    while (frame > 0 && links[frame] === null) frame--;
-    const link = links[frame] ?? null;
-    return link?.toLowerCase() === "null" ? null : link;
+    while (frame > 0 && !links[frame]) frame--;
+    return (links[frame] ?? "").replace(/^null$/i, "");
 }
 
 /**
@@ -76,10 +75,10 @@ function linkOf(links, frame) {
  * @param {number} n
  */
 function stepsOf(tag, n) {
-    const type = (/** @type {number} */ i) => tag.text(`TRANSITION.TYPE.${i}`) ?? "";
+    const type = (/** @type {number} */ i) => tag.text(`TRANSITION.TYPE.${i}`);
     const leaves = (/** @type {number} */ i) => /^(slideout|shrink)/i.test(type(i));
     const step = (/** @type {number} */ i) => {
-        if (tag.text("TRANSITION.LIST") !== null) return type(i);
+        if (tag.text("TRANSITION.LIST")) return type(i);
         if (i === n - 1) return "";
         const into = type(i + 1) && (!leaves(i + 1) || i + 1 === n - 1);
         return into ? type(i + 1) : leaves(i) ? type(i) : "";
@@ -98,10 +97,10 @@ export async function animator(tag, pen) {
     const ground = tag.color("BGCOLOR.0", "white");
     const pictures = n
         ? await frames(tag, names, ground)
-        : [words(missing("IMAGE.0"), tag.W, tag.H)];
+        : [words(wrongWords("", "IMAGE.0"), tag.W, tag.H)];
     const lights = pictures.map(lightOf);
     const steps = stepsOf(tag, n);
-    const usual = tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20;
+    const usual = tag.text("TRANSITION.RATE.0").startsWith("-") ? 0 : 20;
     const each = tag.number("TRANSITION.RATE.0", usual, 0) + 10;
     const S = tag.number("TRANSITION.STEP.0", 20, 1);
     const links = names.map((_, i) => tag.text(`URL.${i}`));
@@ -128,7 +127,7 @@ export async function animator(tag, pen) {
     const stand = (/** @type {number} */ t) => {
         since = t;
         const sound = tag.text(`SOUND.${frame}`);
-        if (sound && /^auto$/i.test(tag.text("SOUND.ACTIVATION.0") ?? "")) play(sound);
+        if (sound && /^auto$/i.test(tag.text("SOUND.ACTIVATION.0"))) play(sound);
     };
     const arrive = (/** @type {number} */ t) => {
         under = null;
@@ -191,7 +190,7 @@ export async function animator(tag, pen) {
         },
         link: () => linkOf(links, frame),
         waits,
-        press: (t) => void (waits() && leave(t)),
-        over: (t) => void (waits() && pause() === -2 && leave(t)),
+        press: leave,
+        over: (t) => void (pause() === -2 && leave(t)),
     };
 }

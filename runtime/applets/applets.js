@@ -12,21 +12,24 @@ import { typewriter } from "./typewriter.js";
 
 /**
  * What an applet draws. `draw` draws the picture at a time in milliseconds and gives the time until
- * it changes; `drawStill` draws the one picture that is shown when nothing may move.
+ * it changes; `drawStill` draws the one picture that is shown when nothing may move, by default the
+ * first.
  * @typedef {object} Show
  * @property {string} name its name for screen readers
  * @property {(t: number) => number} draw
- * @property {() => void} drawStill
- * @property {() => string | null} [link] where a click leads now
+ * @property {() => void} [drawStill]
+ * @property {() => string} [link] where a click leads now; empty for nowhere
  * @property {() => boolean} [waits] whether it waits for a click or the pointer now
  * @property {(t: number) => void} [press] called at a click
  * @property {(t: number) => void} [over] called when the pointer moves over it
  */
 
 /**
- * The function that makes the show of each applet, by the name of its class.
- * @type {Map<string, (tag: import("./tag.js").Tag, pen: CanvasRenderingContext2D) => Promise<Show>>}
+ * Makes the show of an applet.
+ * @typedef {(tag: import("./tag.js").Tag, pen: CanvasRenderingContext2D) => Promise<Show>} Kind
  */
+
+/** The kinds of applets, by the name of the class. @type {Map<string, Kind>} */
 const kinds = new Map([
     ["Animate1", animator],
     ["Typewriter9", typewriter],
@@ -42,10 +45,12 @@ const longest = 32767;
 const look = "a { display: block; outline-offset: 2px } canvas { display: block }";
 
 /**
- * Puts a canvas into the tag's place.
- * @param {import("./tag.js").Tag} tag
+ * Puts a canvas into the tag's place and plays the show on it: keeps its clock, its link and its
+ * pause button.
+ * @param {import("./tag.js").Tag} tag @param {Kind} kind
  */
-function makeCanvas({ applet, code, W, H, color }) {
+async function play(tag, kind) {
+    const { applet, code, W, H, text, color } = tag;
     const px = (/** @type {string} */ name) => (parseInt(attribute(applet, name)) || 0) + "px";
     const side = attribute(applet, "align").toLowerCase().replace(/^bottom$|^abs|\W/g, "");
     const { host, inside } = ownPlace(
@@ -56,27 +61,18 @@ function makeCanvas({ applet, code, W, H, color }) {
         look,
     );
     // Letters are as sharp as the screen can show them.
-    const dense =
-        code === "Typewriter9"
-            ? Math.min(Math.max(devicePixelRatio, 1), 4, longest / Math.max(W, H))
-            : 1;
+    const dense = code === "Typewriter9" && W + H < 5000 ? devicePixelRatio : 1;
     const { canvas, pen } = sheet(W * dense, H * dense, color("BGCOLOR.0", color("BGCOLOR", "white")));
     canvas.style.cssText = `width:${W}px;height:${H}px`;
     canvas.setAttribute("role", "img");
     pen.scale(dense, dense);
     const link = make("a", "", canvas);
+    link.target = text("TARGET") || text("TARGET.0");
     const over = make("div", overClass(W, H), link);
     inside.append(over);
     for (const old of applet.children) /** @type {HTMLElement} */ (old).style.display = "none";
     applet.append(host);
-    return { host, canvas, pen, link, over };
-}
-
-/**
- * Plays a show: keeps its clock, its link and its pause button.
- * @param {import("./tag.js").Tag} tag @param {ReturnType<typeof makeCanvas>} stage @param {Show} show
- */
-function play({ applet, text }, { host, canvas, link, over }, show) {
+    const show = await kind(tag, pen);
     let t = 0;
     /** When the clock was last read; null while it is stopped. @type {number | null} */
     let last = null;
@@ -137,13 +133,11 @@ function play({ applet, text }, { host, canvas, link, over }, show) {
         const url = show.link?.() ?? "";
         const waits = !!show.waits?.();
         if (url === attribute(link, "href") && waits === link.hasAttribute("tabindex")) return;
-        if (url) link.href = url;
-        else link.removeAttribute("href");
-        link.target = text("TARGET") ?? text("TARGET.0") ?? "";
-        link.toggleAttribute("tabindex", waits);
-        if (waits) link.tabIndex = 0;
-        if (waits && !url) link.setAttribute("role", "button");
-        else link.removeAttribute("role");
+        const set = (/** @type {string} */ name, /** @type {string | false} */ value) =>
+            value ? link.setAttribute(name, value) : link.removeAttribute(name);
+        set("href", url);
+        set("tabindex", waits && "0");
+        set("role", waits && !url && "button");
     };
     /** Tells the show what the visitor did, unless it is stopped. @param {"press" | "over"} what */
     const tell = (what) => {
@@ -159,7 +153,7 @@ function play({ applet, text }, { host, canvas, link, over }, show) {
     document.addEventListener("visibilitychange", go);
     addEventListener("pageshow", ({ persisted }) => persisted && ((t = 0), go()));
     onSeen(host, (now) => ((seen = now), go()));
-    if (!moves) show.drawStill();
+    if (!moves) (show.drawStill ?? show.draw)(0);
     setButton(true);
     setLink();
     go();
@@ -173,9 +167,8 @@ export function runApplet(applet) {
     const tag = readTag(applet);
     const kind = kinds.get(tag.code);
     const [least, most] = [Math.min(tag.W, tag.H), Math.max(tag.W, tag.H)];
-    const isOwn = kind && /Orvane/.test(tag.text("WIZARD") ?? "");
+    const isOwn = kind && /Orvane/.test(tag.text("WIZARD"));
     if (!isOwn || isOff(applet) || met.has(applet) || least < 1 || most > longest) return;
     met.add(applet);
-    const stage = makeCanvas(tag);
-    kind(tag, stage.pen).then((show) => play(tag, stage, show));
+    play(tag, kind);
 }

@@ -25,7 +25,6 @@ export async function lake(tag, pen) {
     return {
         name: "Picture mirrored in water",
         draw,
-        drawStill: () => void draw(0),
         link: () => tag.text("HREF"),
     };
 }

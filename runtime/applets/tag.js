@@ -10,31 +10,31 @@ import { attribute, make } from "../calm.js";
  * @param {Element} applet
  */
 export function readTag(applet) {
-    /** @type {Map<string, string>} */
-    const values = new Map();
+    /** @type {Record<string, string>} */
+    const values = Object.create(null);
     for (const parameter of applet.querySelectorAll("param")) {
         const name = attribute(parameter, "name").toLowerCase();
         const value = attribute(parameter, "value");
-        if (value.trim() && !values.has(name)) values.set(name, value);
+        if (value.trim()) values[name] ??= value;
     }
     /**
-     * A parameter's value without blanks around it, or null when it is missing.
+     * A parameter's value without blanks around it; empty when it is missing.
      * @param {string} name
      */
-    const text = (name) => values.get(name.toLowerCase())?.trim() ?? null;
+    const text = (name) => (values[name.toLowerCase()] ?? "").trim();
     /**
      * The number at the start of a parameter, at most a million up or down; `missing` when there is
      * none or it is below `least`.
      * @param {string} name @param {number} missing @param {number} least
      */
     const number = (name, missing, least = -Infinity) => {
-        const found = /^[+-]?\d+/.exec(text(name) ?? "");
+        const found = /^[+-]?\d+/.exec(text(name));
         const number = Math.min(Math.max(Number(found?.[0]), -1e6), 1e6);
         return number >= least ? number : missing;
     };
     /** A colour of three numbers, or `missing`. @param {string} name @param {string} missing */
     const color = (name, missing) => {
-        const parts = (text(name) ?? "").split(",", 3).map((part) => parseInt(part));
+        const parts = text(name).split(",", 3).map((part) => parseInt(part));
         return parts.length < 3 || parts.some(isNaN) ? missing : `rgb(${parts})`;
     };
     /** How often the whole is shown; Infinity when no number above 0 is given. */
@@ -45,7 +45,7 @@ export function readTag(applet) {
      */
     const list = (name) => {
         const found = [];
-        for (let value; (value = text(`${name}.${found.length}`)) !== null;) found.push(value);
+        for (let value; (value = text(`${name}.${found.length}`));) found.push(value);
         return found;
     };
     return {
@@ -111,11 +111,8 @@ export function words(text, w, h) {
     return canvas;
 }
 
-/** The words for a missing parameter. @param {string} name */
-export const missing = (name) => `The parameter ${name} is missing.`;
-
 /**
- * An image file beside the page, or null when it cannot be loaded.
+ * An image file beside the page, or null when it cannot be loaded or has no name.
  * @param {string} name
  * @returns {Promise<HTMLImageElement | null>}
  */
@@ -124,24 +121,41 @@ export function load(name) {
         const image = new Image();
         image.onload = () => done(image.width && image.height ? image : null);
         image.onerror = () => done(null);
-        image.src = name;
+        if (name) image.src = name;
+        else done(null);
     });
 }
 
 /**
  * A picture stretched to a size on white; words in its place when it is missing.
- * @param {string | null} name @param {string} parameter @param {number} w @param {number} h
+ * @param {string} name @param {string} parameter @param {number} w @param {number} h
  */
 export async function stretched(name, parameter, w, h) {
-    const image = name === null ? null : await load(name);
-    if (!image) return words(name === null ? missing(parameter) : notLoaded(name), w, h);
+    const image = await load(name);
+    if (!image) return words(wrongWords(name, parameter), w, h);
     const { canvas, pen } = sheet(w, h, "white");
     pen.drawImage(image, 0, 0, w, h);
     return canvas;
 }
 
-/** The words for an image that cannot be loaded. @param {string} name */
-export const notLoaded = (name) => `The image "${name}" could not be loaded.`;
+/**
+ * A show of one picture that stands still.
+ * @param {string} name @param {CanvasRenderingContext2D} pen @param {Picture} picture
+ * @returns {import("./applets.js").Show}
+ */
+export const shown = (name, pen, picture) => ({
+    name,
+    draw: () => (pen.drawImage(picture, 0, 0), Infinity),
+});
+
+/**
+ * The words for a file that cannot be loaded, or for a parameter that does not name it.
+ * @param {string} name @param {string} parameter @param {string} kind
+ */
+export const wrongWords = (name, parameter, kind = "image") =>
+    name
+        ? `The ${kind} "${name}" could not be loaded.`
+        : `The parameter ${parameter} is missing.`;
 
 /**
  * The pixels of a canvas, or null where the browser lets no script read those of files.
