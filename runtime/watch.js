@@ -106,13 +106,13 @@ export function watch(orvane, prepare) {
     /** The comment that an effect's text begins with. @type {Node | null} */
     let begin = null;
     let effect = "";
-    /** The script that was met last between comments. @type {HTMLScriptElement | null} */
+    /** The one script of that text, once it was met. @type {HTMLScriptElement | null} */
     let script = null;
     let isFirst = true;
 
     /** Whether an effect's text has ended before a node, although no comment says so. @param {any} node */
     const isBehind = (node) =>
-        (script && !isOff(script) && !needs.test(script.text)) ||
+        (script && (node.localName === "script" || !needs.test(script.text))) ||
         (otherTags.test(node.localName) &&
             (node.parentNode === begin?.parentNode || node.localName === "body"));
 
@@ -124,9 +124,11 @@ export function watch(orvane, prepare) {
                 [begin, script] = [found[1] === "Begin" ? node : null, null];
                 effect = found[2];
             }
-        } else if (isBehind(node)) begin = null;
-        else if (node.localName === "script") between.set((script = node), effect);
-        else if (node.style && !isOff(node)) prepare(node);
+        } else if (!isOff(node)) {
+            if (isBehind(node)) begin = null;
+            else if (node.localName === "script") between.set((script = node), effect);
+            else prepare(node);
+        }
     };
     const observer = new MutationObserver(() => look());
     const look = () => {

@@ -41,10 +41,10 @@ export const ruleChecks = [
     }),
     check(null, "the author's names stop no effect", async (v) => {
         const own =
-            "let orvane = 1; const needed = /^(Array|Date|Error|Function|JSON|Map|Math|Number|" +
+            "let orvane = 1; const needed = /^(Array|Boolean|Date|Error|Function|JSON|Map|Math|Number|" +
             "Object|RegExp|Set|String|Symbol|Weak.*|.*Error|.*Array.*|DataView|Promise|Reflect|Proxy)$/;" +
             "for (const name of [...Object.getOwnPropertyNames(window), 'addEventListener'])" +
-            "  if (/^[A-Z][a-z]|^(add|set|clear|match|open|close|perf|nav|get|req|par|con)/.test(name)" +
+            "  if (/^[A-Z][a-z]|^(add|set|clear|match|open|close|perf|nav|get|req|con)/.test(name)" +
             "      && !needed.test(name)) try { window[name] = 1; } catch {}";
         await v.show([ticker, scroller, cube], {
             attributes: starts,

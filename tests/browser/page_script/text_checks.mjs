@@ -174,6 +174,7 @@ export const textChecks = [
     }),
     check("Tooltips", "come up by keyboard and touch", async (v) => {
         await v.show([tooltip]);
+        await wait(50);
         await v.tab.keyboard.press("Tab");
         assert.equal(await v.value(() => box1.style.visibility), "visible");
         if (!(await v.value(() => "TouchEvent" in window))) return;
