@@ -43,7 +43,7 @@ export function readCall(text) {
  * @returns {Call[]}
  */
 export function readCalls(text) {
-    const calls = (text ?? "").match(/[^;('"]+\((?:'[^']*'|"[^"]*"|[^'")])*\)/g) ?? [];
+    const calls = (text ?? "").split(/;(?=[\w.$]+\()/);
     return /** @type {Call[]} */ (calls.map(readCall).filter(Boolean));
 }
 
@@ -52,6 +52,5 @@ export function readCalls(text) {
  * @param {Call} call
  */
 export function make(call) {
-    const called = /** @type {any} */ (window)[call.name];
-    if (typeof called === "function") called(...call.args());
+    /** @type {any} */ (window)[call.name]?.(...call.args());
 }

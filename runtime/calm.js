@@ -32,17 +32,26 @@ export const onCalm = (run) => motion.addEventListener("change", run);
  * @param {Element} element @param {(seen: boolean) => void} tell
  */
 export const onSeen = (element, tell) =>
-    new IntersectionObserver((all) => tell(all[all.length - 1].isIntersecting)).observe(element);
+    new IntersectionObserver((all) => tell(!!all.pop()?.isIntersecting)).observe(element);
 
+/** The look of all that the page script shows. */
 const look = `
-button{font:700 12px/22px sans-serif;width:24px;height:24px;padding:0;margin:0;
-box-sizing:border-box;flex:none;color:#000;background:#fff;border:1px solid #555;
-border-radius:3px;opacity:.55;cursor:pointer;pointer-events:auto}
+button,.box,.strip{box-sizing:border-box;color:#000;background:#fff;border:1px solid #555}
+button{font:700 12px/22px sans-serif;width:24px;height:24px;padding:0;flex:none;
+opacity:.55;cursor:pointer;pointer-events:auto}
 button:hover,button:focus{opacity:1;outline:2px solid #06c}
-.over>button{position:absolute;right:0;top:0}
+a,canvas{display:block}
+.over,.over>button{position:absolute;right:0;top:0}
 .small>button{right:auto;left:100%}
 .words{position:absolute;width:1px;height:1px;overflow:hidden;clip-path:inset(50%);
 white-space:nowrap}
+.box,.strip{position:fixed;right:0;z-index:2147483647}
+.box{top:0;max-width:min(22em,80vw);font:14px/1.4 sans-serif;padding:12px;margin:12px}
+.box>button{width:auto;height:auto;padding:4px 10px;margin:6px 6px 0 0;opacity:1;font:inherit}
+.strip{left:0;bottom:0;max-height:50vh;display:flex;overflow:hidden}
+.shown{font:13px/24px sans-serif;white-space:pre;padding-left:4px}
+.still{overflow:auto;pointer-events:auto}
+.still>.shown{white-space:pre-wrap;overflow-wrap:anywhere;min-width:0}
 @media print{button,.strip,.box{display:none!important}}`;
 
 /**
@@ -75,22 +84,21 @@ export function pauseButton(what, moving, changed) {
 }
 
 /**
- * An element with a shadow root, which the page's styles do not reach, for `css` and the button's
- * look inside. The caller puts it into the page.
+ * An element with a shadow root, which the page's styles do not reach. The caller puts it into the
+ * page.
  * @param {string} hostStyle
- * @param {string} css
  */
-export function ownPlace(hostStyle, css = "") {
+export function ownPlace(hostStyle) {
     const host = make("div");
     host.style.cssText = "all:initial;" + hostStyle;
     const inside = host.attachShadow({ mode: "open" });
     try {
         // A Content Security Policy of the page does not forbid sheets that are made like this.
         const sheet = new CSSStyleSheet();
-        sheet.replaceSync(look + css);
+        sheet.replaceSync(look);
         inside.adoptedStyleSheets = [sheet];
     } catch {
-        inside.append(make("style", "", look + css));
+        inside.append(make("style", "", look));
     }
     return { host, inside };
 }
@@ -106,19 +114,17 @@ export const overClass = (w, h) => (Math.min(w, h) < 72 ? "over small" : "over")
  */
 export function placeOver(element) {
     const shown = /** @type {HTMLElement} */ (element);
-    const { host, inside } = ownPlace("pointer-events:none;z-index:9", ".over{position:absolute}");
+    const { host, inside } = ownPlace("pointer-events:none;z-index:9");
     const over = make("div");
     inside.append(over);
     element.after(host);
-    const { display } = getComputedStyle(/** @type {Element} */ (element.parentElement));
-    const position = /flex|grid/.test(display) ? "absolute" : "relative";
     const follow = () => {
         const { offsetWidth: w, offsetHeight: h } = shown;
         // Without a position its own offsets count from where those of the element do.
-        host.style.position = position === "relative" ? "static" : position;
+        host.style.position = "static";
         const x = shown.offsetLeft - host.offsetLeft;
         const y = shown.offsetTop - host.offsetTop;
-        host.style.position = position;
+        host.style.position = "relative";
         over.className = overClass(w, h);
         over.style.cssText = `left:${x}px;top:${y}px;width:${w}px;height:${h}px`;
     };

@@ -20,7 +20,7 @@ export function prepareFilter(element) {
             configurable: true,
             value: filtersOf(element),
         });
-    const found = /filter:\s*alpha\(opacity=(\d+)\)/i.exec(attribute(element, "style"));
+    const found = /alpha\(opacity=(\d+)/i.exec(attribute(element, "style"));
     if (found) setOpacity(element, Number(found[1]));
 }
 
@@ -35,7 +35,7 @@ function setOpacity(element, percent) {
  * @param {HTMLElement} element @param {string} text
  */
 export function setFilter(element, text) {
-    const found = /revealTrans\(transition=(\d+),duration=([\d.]+)\)/i.exec(text);
+    const found = /transition=(\d+),duration=(.+)\)/i.exec(text);
     if (found) {
         reveals.get(element)?.end();
         reveals.set(element, makeReveal(element, Number(found[1]), Number(found[2])));

@@ -22,7 +22,7 @@ const boxes = new WeakSet();
  * @param {HTMLElement} element
  */
 export function prepareTooltip(element) {
-    if (!element.classList.contains("tooltip") || element.id !== "box1") return;
+    if (!element.matches("#box1.tooltip")) return;
     boxes.add(element);
     element.style.position = "fixed";
     // Where it is kept on the screen the pointer may be over it.
@@ -34,8 +34,8 @@ export function prepareTooltip(element) {
  * @param {HTMLElement} element @param {string} side @param {any} length as a script sets it
  */
 export function placeOf(element, side, length) {
-    if (!boxes.has(element) || !/^(top|left)$/.test(side)) return length;
     const size = side === "top" ? "Height" : "Width";
+    if (!boxes.has(element) || side === size.toLowerCase()) return length;
     const screen = document.scrollingElement ?? document.documentElement;
     const room = screen[`client${size}`] - element[`offset${size}`];
     return Math.max(Math.min(parseFloat(length), room), 0) + "px";

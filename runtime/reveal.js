@@ -15,10 +15,15 @@ const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i
 /** The numbers below `count` in random order. @param {number} count */
 const shuffled = (count) => [...Array(count).keys()].sort(() => Math.random() - 0.5);
 
-/** The frame along the edges, `p / 2` wide on each side. @param {number} p @returns {Piece[]} */
-const frame = (p) => [
+/** A strip along the upper and the lower edge, each `p / 2` high. @param {number} p @returns {Piece[]} */
+const edges = (p) => [
     [0, 0, 1, p / 2],
     [0, 1 - p / 2, 1, p / 2],
+];
+
+/** The frame along the edges, `p / 2` wide on each side. @param {number} p @returns {Piece[]} */
+const frame = (p) => [
+    ...edges(p),
     [0, p / 2, p / 2, 1 - p],
     [1 - p / 2, p / 2, p / 2, 1 - p],
 ];
@@ -87,15 +92,9 @@ const uncovered = {
     10: checkers,
     11: (p) => turned(checkers(p)),
     12: (p, order) => dots(order, p, 20),
-    13: (p) => [
-        [0, 0, p / 2, 1],
-        [1 - p / 2, 0, p / 2, 1],
-    ],
+    13: (p) => turned(edges(p)),
     14: (p) => [[0.5 - p / 2, 0, p, 1]],
-    15: (p) => [
-        [0, 0, 1, p / 2],
-        [0, 1 - p / 2, 1, p / 2],
-    ],
+    15: edges,
     16: (p) => [[0, 0.5 - p / 2, 1, p]],
     17: (p) => strips(p, true, false),
     18: (p) => strips(p, true, true),

@@ -31,7 +31,7 @@ function addPause(picture) {
 }
 
 const press =
-    /^window\.clearInterval\(iTimer\);doTrans\((-?1)\)(?:;iTimer = setInterval\(.*, (\d+)\);)?$/;
+    /^window\.clearInterval\(iTimer\);doTrans\((.*?)\)(?:;.*, (\d+)\);)?$/;
 
 /**
  * Prepares the picture and the buttons.

@@ -36,11 +36,9 @@ export const slidesHaveBegun = () => /** @type {any} */ (window).mypix?.length >
  * @param {string} event @param {any} run
  */
 export function listenLate(event, run) {
-    if (typeof run === "function") addEventListener(event, (told) => run.call(window, told));
+    if (run) addEventListener(event, (told) => run.call(window, told));
 }
 
-/** The window call that Orvane writes into a BODY tag. */
-const opensWindow = /^\s*window\.open\([^]*,toolbar=(yes|no),status=[^]*\);?\s*$/;
 
 /**
  * Takes over the calls of the BODY tag that browsers block: windows on load and on exit. Expects a
@@ -51,7 +49,9 @@ export function takeBodyCalls() {
     /** @param {string} handler @returns {any} */
     const callOf = (handler) => {
         const text = body?.getAttribute(handler) ?? "";
-        return opensWindow.test(text) && document.readyState !== "complete" && readCall(text);
+        const call = document.readyState !== "complete" && readCall(text);
+        // Only such a window is Orvane's.
+        return call && call.name === "window.open" && /,toolbar=/.test(text) && call;
     };
     const [load, unload] = [callOf("onload"), callOf("onunload")];
     if (load) {

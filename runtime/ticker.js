@@ -2,14 +2,6 @@
 import { calm, make, ownPlace, pauseButton } from "./calm.js";
 import { go, note, stop } from "./timers.js";
 
-const look = `
-.strip{position:fixed;left:0;right:0;bottom:0;min-height:24px;max-height:50vh;
-z-index:2147483646;display:flex;overflow:hidden;color:#000;background:#eee;
-border-top:1px solid #888}
-.shown{font:13px/24px sans-serif;white-space:pre;padding-left:4px}
-.still{overflow:auto;pointer-events:auto}
-.still>.shown{white-space:pre-wrap;overflow-wrap:anywhere;min-width:0}`;
-
 const ticker = "scrollit_r2l";
 let text = "";
 /** @type {{host: HTMLElement, bar: HTMLElement, shown: HTMLElement, words: HTMLElement} | undefined} */
@@ -22,7 +14,7 @@ export const status = () => text;
 
 /** Makes the strip. As much height is added to the end of the page, and clicks go through it. */
 function makeStrip() {
-    const { host, inside } = ownPlace("display:block;clear:both;pointer-events:none", look);
+    const { host, inside } = ownPlace("display:block;clear:both;pointer-events:none");
     const shown = make("span", "shown");
     shown.setAttribute("aria-hidden", "true");
     const words = make("span", "words");

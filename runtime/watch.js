@@ -5,7 +5,7 @@
 import { make } from "./calm.js";
 import { isOwn, ownScripts, slidesHaveBegun } from "./starts.js";
 
-const credit = /Script written by Varlo Software|Created by Orvane software/;
+const credit = /(Varlo S|Orvane s)oftware/;
 const marker = /^ \*{5} (Begin|End):Varlo ([^]*) special effect \*{5} $/;
 /** The functions of the scripts that need the scope; scripts with other ones run as they are. */
 const needs =
@@ -79,7 +79,7 @@ function wrap(script, hasRun) {
         if (name === "initMouseTrail" || (name === "loadImages" && slidesHaveBegun()))
             console.warn(
                 `orvane.js came too late for ${between.get(script) ?? name}: ` +
-                    "its tag belongs right behind the HEAD tag, without defer or async.",
+                    "its tag belongs right behind HEAD, without defer or async.",
             );
         else if (name !== "DigitalClock") run(whole, script.nonce);
         return;

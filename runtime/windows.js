@@ -4,25 +4,19 @@
  */
 import { make, ownPlace } from "./calm.js";
 
-const look = `
-.box{position:fixed;top:12px;right:12px;max-width:min(22em,80vw);z-index:2147483647;
-font:14px/1.4 sans-serif;color:#000;background:#fff;border:1px solid #555;
-border-radius:6px;padding:10px 12px;box-shadow:0 2px 8px #0006}
-.choice{width:auto;height:auto;padding:4px 10px;margin:6px 6px 0 0;opacity:1;font:inherit}`;
-
 /**
  * Shows a box with words, a button for what can be opened and one that closes it.
  * @param {string} words
  * @param {() => void} [run]
  */
 function showBox(words, run) {
-    const { host, inside } = ownPlace("", look);
-    const text = make("span");
-    const box = make("div", "box", text, make("br"));
+    const { host, inside } = ownPlace("");
+    const text = make("div");
+    const box = make("div", "box", text);
     box.setAttribute("role", "status");
     /** @param {string} caption @param {() => void} [run] */
     const addButton = (caption, run) => {
-        const button = make("button", "choice", caption);
+        const button = make("button", "", caption);
         button.onclick = () => (host.remove(), run?.());
         box.append(button);
     };
@@ -85,7 +79,6 @@ export function openOnLeaving(asked, done) {
     document.documentElement.addEventListener("mouseleave", ({ clientY }) => offer(clientY <= 0));
     document.addEventListener("keydown", ({ key }) => offer(/^(Control|Alt|Meta)$/.test(key)));
     document.addEventListener("visibilitychange", () => offer(!document.hidden));
-    addEventListener("pageshow", ({ persisted }) => offer(persisted));
     addEventListener("click", (event) => {
         if (isOver || !leads(event) || !open(...asked)) return;
         isOver = true;

@@ -20,7 +20,6 @@ const parts = 16;
 function lightOf(picture) {
     const { canvas, pen } = sheet(parts, parts, "white");
     pen.imageSmoothingEnabled = true;
-    pen.imageSmoothingQuality = "high";
     pen.drawImage(picture, 0, 0, parts, parts);
     return Array.from(pixelsOf(canvas) ?? [], (pixel) => {
         const [r, g, b] = [pixel & 255, (pixel >> 8) & 255, (pixel >> 16) & 255];

@@ -42,8 +42,6 @@ const kinds = new Map([
 /** No browser draws on a canvas with longer sides; such an applet stays as it is. */
 const longest = 32767;
 
-const look = "a { display: block; outline-offset: 2px } canvas { display: block }";
-
 /**
  * Puts a canvas into the tag's place and plays the show on it: keeps its clock, its link and its
  * pause button.
@@ -58,7 +56,6 @@ async function play(tag, kind) {
             `height:${H}px;margin:${px("vspace")} ${px("hspace")};` +
             // Browsers take the one of the two that has such a value.
             `float:${side};vertical-align:${side.replace("ttop", "t-top")}`,
-        look,
     );
     // Letters are as sharp as the screen can show them.
     const dense = code === "Typewriter9" && W + H < 5000 ? devicePixelRatio : 1;
@@ -149,7 +146,7 @@ async function play(tag, kind) {
     canvas.setAttribute("aria-label", applet.getAttribute("alt") ?? show.name);
     link.onclick = () => tell("press");
     link.onkeydown = ({ key }) => void (key === "Enter" && !link.href && tell("press"));
-    link.onfocus = canvas.onpointermove = canvas.onpointerdown = () => tell("over");
+    link.onfocus = canvas.onpointermove = () => tell("over");
     document.addEventListener("visibilitychange", go);
     addEventListener("pageshow", ({ persisted }) => persisted && ((t = 0), go()));
     onSeen(host, (now) => ((seen = now), go()));

@@ -183,7 +183,7 @@ export const pageChecks = [
             await wait(100);
             assert.equal((await v.value(() => window.opened)).length, 1);
             assert.match(await v.words("[role=status]"), /news\.html/);
-            await v.own(".choice", (choice) => choice.click());
+            await v.own(".box > button", (choice) => choice.click());
             assert.equal((await v.value(() => window.opened)).length, 2);
             assert.equal(await v.words("[role=status]"), null);
         }
