@@ -10,8 +10,7 @@
  */
 
 /** One argument: a quoted text, a number or a global name, with the comma after it. */
-const argument =
-    /\s*(?:(['"])((?:(?!\1)[^\\]|\\.)*)\1|(-?[\d.]+)|([A-Za-z_$][\w$]*))\s*(,|$)/y;
+const argument = /\s*(?:(['"])((?:(?!\1)[^\\]|\\.)*)\1|(-?[\d.]+)|([A-Za-z_$][\w$]*))\s*(,|$)/y;
 
 /**
  * The call that a text holds, or null when it is anything else than one plain call.

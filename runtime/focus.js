@@ -41,7 +41,8 @@ export function prepareFocus(element) {
     // An element with a link inside gets the focus by the link; any other gets it itself, if those
     // who cannot see it are told what it is.
     afterStart(() => {
-        const name = element.textContent?.trim() || /** @type {any} */ (element).alt || element.title;
+        const name =
+            element.textContent?.trim() || /** @type {any} */ (element).alt || element.title;
         if (box) element.setAttribute(name ? "aria-describedby" : "aria-labelledby", box);
         if (!holder && (name || box) && !element.querySelector(focusable)) element.tabIndex = 0;
     });

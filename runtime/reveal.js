@@ -15,18 +15,14 @@ const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i
 /** The numbers below `count` in random order. @param {number} count */
 const shuffled = (count) => [...Array(count).keys()].sort(() => Math.random() - 0.5);
 
-/** A strip along the upper and the lower edge, each `p / 2` high. @param {number} p @returns {Piece[]} */
+/** Strips at the upper and lower edge, `p / 2` high. @param {number} p @returns {Piece[]} */
 const edges = (p) => [
     [0, 0, 1, p / 2],
     [0, 1 - p / 2, 1, p / 2],
 ];
 
 /** The frame along the edges, `p / 2` wide on each side. @param {number} p @returns {Piece[]} */
-const frame = (p) => [
-    ...edges(p),
-    [0, p / 2, p / 2, 1 - p],
-    [1 - p / 2, p / 2, p / 2, 1 - p],
-];
+const frame = (p) => [...edges(p), [0, p / 2, p / 2, 1 - p], [1 - p / 2, p / 2, p / 2, 1 - p]];
 
 /**
  * How far a row is uncovered.

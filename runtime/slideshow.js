@@ -6,7 +6,7 @@ const turn = "doTrans";
 
 shortest.set(turn, 2 * shortestFlash);
 
-/** Whether the visitor lets it run; undefined as long as nothing was pressed. @type {boolean | undefined} */
+/** Whether the visitor lets it run, once a button was pressed. @type {boolean | undefined} */
 let wanted;
 
 /** Puts a button over the picture while slides change by themselves. @param {Element} picture */
@@ -30,8 +30,7 @@ function addPause(picture) {
     });
 }
 
-const press =
-    /^window\.clearInterval\(iTimer\);doTrans\((.*?)\)(?:;.*, (\d+)\);)?$/;
+const press = /^window\.clearInterval\(iTimer\);doTrans\((.*?)\)(?:;.*, (\d+)\);)?$/;
 
 /**
  * Prepares the picture and the buttons.

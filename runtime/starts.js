@@ -39,7 +39,6 @@ export function listenLate(event, run) {
     if (run) addEventListener(event, (told) => run.call(window, told));
 }
 
-
 /**
  * Takes over the calls of the BODY tag that browsers block: windows on load and on exit. Expects a
  * page that was parsed to its end, since a second BODY tag adds attributes to the first.
@@ -65,8 +64,7 @@ export function takeBodyCalls() {
 const argsOf = (call) => /** @type {any} */ (call.args());
 
 /** Whether the `onload` of the page makes a call to this function. @param {string} name */
-const isCalled = (name) =>
-    RegExp(`(^|[^\\w$.]|window\\.)${name}\\(`).test(String(window.onload));
+const isCalled = (name) => RegExp(`(^|[^\\w$.]|window\\.)${name}\\(`).test(String(window.onload));
 
 /** Whether an effect runs. @param {string} name the function that starts it */
 const runs = (name) => (name === "loadImages" ? slidesHaveBegun() : hasRun(name));

@@ -4,7 +4,7 @@ import { go, note, stop } from "./timers.js";
 
 const ticker = "scrollit_r2l";
 let text = "";
-/** @type {{host: HTMLElement, bar: HTMLElement, shown: HTMLElement, words: HTMLElement} | undefined} */
+/** @type {ReturnType<typeof makeStrip> | undefined} */
 let strip;
 /** The message as a whole. */
 let whole = "";
@@ -30,7 +30,10 @@ function makeStrip() {
     return { host, bar, shown, words };
 }
 
-/** Shows a text; one that stands still is shown whole, in as many lines as it takes. @param {string} now */
+/**
+ * Shows a text; a message that stands still in as many lines as it takes.
+ * @param {string} now
+ */
 function show(now) {
     text = now;
     strip ??= makeStrip();

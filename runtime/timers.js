@@ -49,7 +49,10 @@ export function go(name) {
     wake();
 }
 
-/** Lets them rest while an element is off the screen. @param {string} name @param {Element} element */
+/**
+ * Lets them rest while an element is off the screen.
+ * @param {string} name @param {Element} element
+ */
 export const restUnseen = (name, element) =>
     onSeen(element, (seen) => {
         if (seen) away.delete(name);

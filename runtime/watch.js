@@ -12,7 +12,7 @@ const needs =
     /\sfunction (scrollit_r2l|moveSpan|loadImages|initMouseTrail|startHighlight|showBox|DigitalClock|playSound|addBookmark|closeWindow)\(/;
 /** What never stands in Orvane's texts beside the markers. */
 const otherTags = /^(body|h\d|hr|p|[dou]l)$/;
-/** Whose elements are not the page script's: the author's wish, and effects that run by themselves. */
+/** What the author wants left alone, and effects that run by themselves. */
 const off = "[data-orvane-off],[data-orvane],[data-orvane-run]";
 const brightens = "img[onmouseover*='startHighlight(']";
 const opening = "with(document.currentScript.orvane){";
@@ -110,7 +110,10 @@ export function watch(orvane, prepare) {
     let script = null;
     let isFirst = true;
 
-    /** Whether an effect's text has ended before a node, although no comment says so. @param {any} node */
+    /**
+     * Whether an effect's text has ended before a node, although no comment says so.
+     * @param {any} node
+     */
     const isBehind = (node) =>
         (script && (node.localName === "script" || !needs.test(script.text))) ||
         (otherTags.test(node.localName) &&
@@ -133,7 +136,7 @@ export function watch(orvane, prepare) {
     const observer = new MutationObserver(() => look());
     const look = () => {
         // Only what came since is walked through, element by element between comments alone.
-        for (let node = last.isConnected ? last : document; ; ) {
+        for (let node = last.isConnected ? last : document; ;) {
             const walker = begin ? nodes : comments;
             walker.currentNode = node;
             const next = walker.nextNode();
@@ -152,8 +155,7 @@ export function watch(orvane, prepare) {
             if (!last.lastChild) break;
         }
         // What stands in front of the page script's tag has run.
-        if (isFirst)
-            for (const old of document.scripts) if (!wrapped.has(old)) wrap(old, true);
+        if (isFirst) for (const old of document.scripts) if (!wrapped.has(old)) wrap(old, true);
         isFirst = false;
     };
     look();
@@ -162,8 +164,7 @@ export function watch(orvane, prepare) {
         observer.disconnect();
         if (isOwn("startHighlight"))
             for (const image of document.querySelectorAll(brightens))
-                if (!met.has(image) && !isOff(image))
-                    prepare(/** @type {HTMLElement} */ (image));
+                if (!met.has(image) && !isOff(image)) prepare(/** @type {HTMLElement} */ (image));
     };
 }
 
@@ -175,9 +176,7 @@ export function watch(orvane, prepare) {
 export function watchLater(found) {
     try {
         const sheet = new CSSStyleSheet();
-        sheet.replaceSync(
-            "@keyframes orvane{to{order:0}}:where(applet){animation:orvane 1ms}",
-        );
+        sheet.replaceSync("@keyframes orvane{to{order:0}}:where(applet){animation:orvane 1ms}");
         document.adoptedStyleSheets = [...document.adoptedStyleSheets, sheet];
     } catch {
         return;

@@ -50,7 +50,9 @@ const longest = 32767;
 async function play(tag, kind) {
     const { applet, code, W, H, text, color } = tag;
     const px = (/** @type {string} */ name) => (parseInt(attribute(applet, name)) || 0) + "px";
-    const side = attribute(applet, "align").toLowerCase().replace(/^bottom$|^abs|\W/g, "");
+    const side = attribute(applet, "align")
+        .toLowerCase()
+        .replace(/^bottom$|^abs|\W/g, "");
     const { host, inside } = ownPlace(
         `display:inline-block;position:relative;width:${W}px;` +
             `height:${H}px;margin:${px("vspace")} ${px("hspace")};` +
@@ -59,7 +61,11 @@ async function play(tag, kind) {
     );
     // Letters are as sharp as the screen can show them.
     const dense = code === "Typewriter9" && W + H < 5000 ? devicePixelRatio : 1;
-    const { canvas, pen } = sheet(W * dense, H * dense, color("BGCOLOR.0", color("BGCOLOR", "white")));
+    const { canvas, pen } = sheet(
+        W * dense,
+        H * dense,
+        color("BGCOLOR.0", color("BGCOLOR", "white")),
+    );
     canvas.style.cssText = `width:${W}px;height:${H}px`;
     canvas.setAttribute("role", "img");
     pen.scale(dense, dense);
@@ -99,7 +105,7 @@ async function play(tag, kind) {
         due = 0;
         if (moves) step(++round);
     };
-    /** Draws, and orders the next drawing for the time when something changes. @param {number} now */
+    /** Draws, and orders the drawing of the next change. @param {number} now */
     const step = (now) => {
         if (now !== round) return;
         if (time() >= due) {

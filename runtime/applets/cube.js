@@ -53,9 +53,7 @@ function axesAfter([alpha, beta, gamma]) {
  */
 function spotOf({ axis, side, u, v }, axes, D, f, a, b) {
     const [x, y, z] = [0, 1, 2].map(
-        (k) =>
-            half *
-            (side * axes[axis][k] + a * u[1] * axes[u[0]][k] + b * v[1] * axes[v[0]][k]),
+        (k) => half * (side * axes[axis][k] + a * u[1] * axes[u[0]][k] + b * v[1] * axes[v[0]][k]),
     );
     return [(x * f) / (z + D), (y * f) / (z + D)];
 }

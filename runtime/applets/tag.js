@@ -34,7 +34,9 @@ export function readTag(applet) {
     };
     /** A colour of three numbers, or `missing`. @param {string} name @param {string} missing */
     const color = (name, missing) => {
-        const parts = text(name).split(",", 3).map((part) => parseInt(part));
+        const parts = text(name)
+            .split(",", 3)
+            .map((part) => parseInt(part));
         return parts.length < 3 || parts.some(isNaN) ? missing : `rgb(${parts})`;
     };
     /** How often the whole is shown; Infinity when no number above 0 is given. */
@@ -153,9 +155,7 @@ export const shown = (name, pen, picture) => ({
  * @param {string} name @param {string} parameter @param {string} kind
  */
 export const wrongWords = (name, parameter, kind = "image") =>
-    name
-        ? `The ${kind} "${name}" could not be loaded.`
-        : `The parameter ${parameter} is missing.`;
+    name ? `The ${kind} "${name}" could not be loaded.` : `The parameter ${parameter} is missing.`;
 
 /**
  * The pixels of a canvas, or null where the browser lets no script read those of files.

@@ -66,7 +66,9 @@ for (const rate of [1, 4]) {
     const times = [];
     for (let i = 0; i < 31; i++) times.push(await start(rate));
     const sorted = times.sort((one, other) => one - other).map((time) => time.toFixed(1));
-    console.log(`start at 1/${rate} speed: median ${sorted[15]} ms, 90th percentile ${sorted[27]} ms`);
+    console.log(
+        `start at 1/${rate} speed: median ${sorted[15]} ms, 90th percentile ${sorted[27]} ms`,
+    );
 }
 console.log(
     "| Effect | ms a frame at 60 a second | hidden | ms a picture (lower quartile) |\n|---|---|---|---|",

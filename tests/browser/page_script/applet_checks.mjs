@@ -178,7 +178,14 @@ export const appletChecks = [
         ];
         for (const [code, values, colors = [black, white], size = 40] of [
             ["Animate1", "PAUSE.0=10 PAUSE.1=10"],
-            ["Animate1", "PAUSE.0=10 PAUSE.1=10", [[128, 0, 0], [0, 0, 128]]],
+            [
+                "Animate1",
+                "PAUSE.0=10 PAUSE.1=10",
+                [
+                    [128, 0, 0],
+                    [0, 0, 128],
+                ],
+            ],
             ["Animate1", "PAUSE.0=10 PAUSE.1=10", [black, white], 400],
             ["Animate1", `${short} TRANSITION.LIST=x TRANSITION.TYPE.0=slidein(2)`],
             ["Animate1", `${short} TRANSITION.TYPE.1=shutter(1) FGCOLOR.0=128,128,128`],
