@@ -46,7 +46,7 @@ a,canvas{display:block}
 .words{position:absolute;width:1px;height:1px;overflow:hidden;clip-path:inset(50%);
 white-space:nowrap}
 .box,.strip{position:fixed;right:0;z-index:2147483647}
-.box{top:0;max-width:min(22em,80vw);font:14px/1.4 sans-serif;padding:12px;margin:12px}
+.box{top:0;max-width:20em;font:14px/1.4 sans-serif;padding:12px;margin:12px}
 .box>button{width:auto;height:auto;padding:4px 10px;margin:6px 6px 0 0;opacity:1;font:inherit}
 .strip{left:0;bottom:0;max-height:50vh;display:flex;overflow:hidden}
 .shown{font:13px/24px sans-serif;white-space:pre;padding-left:4px}

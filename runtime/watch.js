@@ -174,18 +174,14 @@ export function watch(orvane, prepare) {
  * @param {(element: HTMLElement) => void} found
  */
 export function watchLater(found) {
-    try {
-        const sheet = new CSSStyleSheet();
-        sheet.replaceSync("@keyframes orvane{to{order:0}}:where(applet){animation:orvane 1ms}");
-        document.adoptedStyleSheets = [...document.adoptedStyleSheets, sheet];
-    } catch {
-        return;
-    }
+    if (!document.adoptedStyleSheets) return;
+    const sheet = new CSSStyleSheet();
+    sheet.replaceSync("@keyframes orvane{to{order:0}}:where(applet){animation:orvane 1ms}");
+    document.adoptedStyleSheets = [...document.adoptedStyleSheets, sheet];
     const tell = (/** @type {AnimationEvent} */ event) => {
-        const element = /** @type {HTMLElement} */ (event.target);
         if (event.animationName !== "orvane") return;
         event.stopImmediatePropagation();
-        if (!isOff(element)) found(element);
+        found(/** @type {HTMLElement} */ (event.target));
     };
     addEventListener("animationstart", tell, true);
 }

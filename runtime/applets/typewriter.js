@@ -103,7 +103,7 @@ export async function typewriter(tag, pen) {
         typed.forEach((line, j) => pen.fillText(line, 4, 4 + a + h * (j - up)));
     };
     return {
-        name: lines.join(" ") || "Typewriter text",
+        name: lines.join(" "),
         draw(t) {
             if (t >= tag.cycles() * whole) return (type(N), Infinity);
             const u = t % whole;
