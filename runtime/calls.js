@@ -10,8 +10,7 @@
  */
 
 /** One argument: a quoted text, a number or a global name, with the comma after it. */
-const argument =
-    /\s*(?:'((?:[^'\\]|\\.)*)'|"((?:[^"\\]|\\.)*)"|(-?[\d.]+)|([A-Za-z_$][\w$]*))\s*(,|$)/y;
+const argument = /\s*(?:(['"])((?:(?!\1)[^\\]|\\.)*)\1|(-?[\d.]+)|([A-Za-z_$][\w$]*))\s*(,|$)/y;
 
 /**
  * The call that a text holds, or null when it is anything else than one plain call.
@@ -28,8 +27,7 @@ export function readCall(text) {
     while (more) {
         const part = argument.exec(found[2]);
         if (!part) return null;
-        const [, single, double, number, name, comma] = part;
-        const quoted = single ?? double;
+        const [, , quoted, number, name, comma] = part;
         if (quoted !== undefined) values.push(() => quoted.replace(/\\(.)/g, "$1"));
         else if (number !== undefined) values.push(() => Number(number));
         else values.push(() => /** @type {any} */ (window)[name]);
@@ -44,7 +42,7 @@ export function readCall(text) {
  * @returns {Call[]}
  */
 export function readCalls(text) {
-    const calls = (text ?? "").match(/[^;('"]+\((?:'[^']*'|"[^"]*"|[^'")])*\)/g) ?? [];
+    const calls = (text ?? "").split(/;(?=[\w.$]+\()/);
     return /** @type {Call[]} */ (calls.map(readCall).filter(Boolean));
 }
 
@@ -53,6 +51,5 @@ export function readCalls(text) {
  * @param {Call} call
  */
 export function make(call) {
-    const called = /** @type {any} */ (window)[call.name];
-    if (typeof called === "function") called(...call.args());
+    /** @type {any} */ (window)[call.name]?.(...call.args());
 }

@@ -6,19 +6,14 @@
  * @param {string} url
  * @returns {Promise<ArrayBuffer | null>}
  */
-export function read(url) {
-    return new Promise((done) => {
+export const read = (url) =>
+    new Promise((done) => {
         const request = new XMLHttpRequest();
         request.responseType = "arraybuffer";
         // A file on the disk has no status; one that is not there has no bytes either.
         request.onload = () =>
-            done([0, 200].includes(request.status) && request.response ? request.response : null);
+            done(request.status < 300 && request.response?.byteLength ? request.response : null);
         request.onerror = () => done(null);
-        try {
-            request.open("GET", url);
-            request.send();
-        } catch {
-            done(null);
-        }
-    });
-}
+        request.open("GET", url);
+        request.send();
+    }).catch(() => null);

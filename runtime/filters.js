@@ -1,19 +1,26 @@
 /**
- * The `filters` that old scripts expect on every element: opacity, and the transition of slides.
+ * The `filters` that old scripts expect on elements: opacity, and the transition of slides.
  */
-import { Reveal } from "./reveal.js";
+import { attribute } from "./calm.js";
+import { makeReveal } from "./reveal.js";
 
 /** Opacities in per cent, from the tag or as set last. @type {WeakMap<Element, number>} */
 const opacities = new WeakMap();
-/** @type {WeakMap<Element, Reveal>} */
+/** @type {WeakMap<Element, ReturnType<typeof makeReveal>>} */
 const reveals = new WeakMap();
 
 /**
- * Shows the opacity of an image's style attribute, `filter:alpha(opacity=50)`, which browsers drop.
+ * Shows the opacity of an image's style attribute, `filter:alpha(opacity=50)`, which browsers drop,
+ * and gives an image that brightens `filters`: its handlers pass the real element, no stand-in.
  * @param {HTMLElement} element
  */
 export function prepareFilter(element) {
-    const found = /filter:\s*alpha\(opacity=(\d+)\)/i.exec(element.getAttribute("style") ?? "");
+    if (/startHighlight\(/.test(attribute(element, "onmouseover")) && !("filters" in element))
+        Object.defineProperty(element, "filters", {
+            configurable: true,
+            value: filtersOf(element),
+        });
+    const found = /alpha\(opacity=(\d+)/i.exec(attribute(element, "style"));
     if (found) setOpacity(element, Number(found[1]));
 }
 
@@ -28,10 +35,10 @@ function setOpacity(element, percent) {
  * @param {HTMLElement} element @param {string} text
  */
 export function setFilter(element, text) {
-    const found = /revealTrans\(transition=(\d+),duration=([\d.]+)\)/i.exec(text);
+    const found = /transition=(\d+),duration=(.+)\)/i.exec(text);
     if (found) {
         reveals.get(element)?.end();
-        reveals.set(element, new Reveal(element, Number(found[1]), Number(found[2])));
+        reveals.set(element, makeReveal(element, Number(found[1]), Number(found[2])));
     } else element.style.filter = text;
 }
 
@@ -48,16 +55,5 @@ export function filtersOf(element) {
             setOpacity(element, percent);
         },
     };
-    return { alpha, 0: reveals.get(element) ?? alpha, length: 1 };
-}
-
-/** Gives every element `filters`: the page's handlers pass real elements, no stand-ins. */
-export function addFilters() {
-    if ("filters" in HTMLElement.prototype) return;
-    Object.defineProperty(HTMLElement.prototype, "filters", {
-        configurable: true,
-        get() {
-            return filtersOf(this);
-        },
-    });
+    return { alpha, 0: reveals.get(element) ?? alpha };
 }

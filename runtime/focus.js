@@ -1,4 +1,6 @@
 /** Lets what reacts to the mouse react to the keyboard's focus as well. */
+import { attribute } from "./calm.js";
+import { afterStart } from "./starts.js";
 
 const focusable = "a[href],button,input,select,textarea,[tabindex]";
 
@@ -17,13 +19,17 @@ export function prepareFocus(element) {
         );
     };
     const on = holder ?? element;
+    // Whether the pointer is over it: `:hover` matches links alone on pages without a doctype.
+    let over = false;
+    element.addEventListener("mouseenter", () => (over = true));
+    element.addEventListener("mouseleave", () => (over = false));
     // An element that was told that the pointer came is told once that it went: by mouse or focus.
     let told = false;
     const leave = () => {
         if (told) tell("mouseout");
     };
     on.addEventListener("focusin", () => {
-        if (element.matches(":hover")) return;
+        if (over) return;
         tell("mouseover");
         tell("mousemove");
         told = true;
@@ -31,11 +37,13 @@ export function prepareFocus(element) {
     element.addEventListener("mouseout", () => (told = false));
     on.addEventListener("focusout", leave);
     on.addEventListener("keydown", (event) => event.key === "Escape" && leave());
-    // An element with a link inside gets the focus by the link; any other gets it itself.
-    if (!holder)
-        window.addEventListener("load", () => {
-            if (!element.querySelector(focusable)) element.tabIndex = 0;
-        });
-    const box = /showBox\(event, "(\w+)"\)/.exec(element.getAttribute("onmousemove") ?? "");
-    if (box) element.setAttribute("aria-describedby", box[1]);
+    const [, box] = /showBox\(event, "(\w+)"\)/.exec(attribute(element, "onmousemove")) ?? [];
+    // An element with a link inside gets the focus by the link; any other gets it itself, if those
+    // who cannot see it are told what it is.
+    afterStart(() => {
+        const name =
+            element.textContent?.trim() || /** @type {any} */ (element).alt || element.title;
+        if (box) element.setAttribute(name ? "aria-describedby" : "aria-labelledby", box);
+        if (!holder && (name || box) && !element.querySelector(focusable)) element.tabIndex = 0;
+    });
 }

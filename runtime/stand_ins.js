@@ -5,10 +5,12 @@
  */
 import { addFavorite, closeWindow, openWindow } from "./windows.js";
 import { filtersOf, setFilter } from "./filters.js";
-import { note, timers } from "./timers.js";
+import { placeOf } from "./lengths.js";
+import { heightOf } from "./scroller.js";
+import { timers } from "./timers.js";
 import { listenLate } from "./starts.js";
 import { showStatus, status } from "./ticker.js";
-import { changed, currentEvent, onMouseMove } from "./trail.js";
+import { changed, currentEvent, onMouseMove, prepareTrail } from "./trail.js";
 
 /**
  * The properties of a stand-in that differ from those of the real object.
@@ -24,7 +26,6 @@ function standIn(real, changes) {
     return new Proxy(
         {},
         {
-            has: (_, key) => key in changes || key in real,
             get(_, key) {
                 const change = changes[/** @type {string} */ (key)];
                 if (change?.get) return change.get();
@@ -56,13 +57,15 @@ const elements = new WeakMap();
  * @param {any} element
  */
 function elementStandIn(element) {
-    if (!(element instanceof HTMLElement)) return element;
+    if (!element?.style) return element;
     let known = elements.get(element);
     if (!known) {
         known = standIn(element, {
             style: only(styleOf(element)),
             filters: { get: () => filtersOf(element) },
+            offsetHeight: { get: () => heightOf(element) },
         });
+        prepareTrail(element);
         elements.set(element, known);
     }
     return known;
@@ -77,7 +80,8 @@ function styleOf(element) {
     };
     for (const side of /** @type {const} */ (["top", "left", "width", "height"])) {
         const put = (/** @type {any} */ value) => {
-            const length = String(value).trim() !== "" && !isNaN(value) ? value + "px" : value;
+            const number = String(value).trim() !== "" && !isNaN(value);
+            const length = placeOf(element, side, number ? value + "px" : value);
             if (style[side] === length) return;
             style[side] = length;
             changed();
@@ -92,22 +96,18 @@ function styleOf(element) {
 const all = new Proxy(
     {},
     {
-        get: (_, key) => {
-            const value = /** @type {any} */ (document.all)[key];
-            return typeof value === "function" ? value.bind(document.all) : elementStandIn(value);
-        },
+        get: (_, key) => elementStandIn(/** @type {any} */ (document.all)[key]),
     },
 );
 
 const documentStandIn = standIn(document, {
     all: only(all),
-    layers: only(undefined),
     body: {
         get: () =>
             document.body &&
             standIn(document.body, {
-                scrollTop: { get: () => window.scrollY },
-                scrollLeft: { get: () => window.scrollX },
+                scrollTop: { get: () => document.scrollingElement?.scrollTop ?? 0 },
+                scrollLeft: { get: () => document.scrollingElement?.scrollLeft ?? 0 },
             }),
     },
     getElementById: only((/** @type {string} */ id) => elementStandIn(document.getElementById(id))),
@@ -134,7 +134,6 @@ const windowStandIn = standIn(window, {
 
 /** An image whose `readyState` tells whether it is loaded. */
 function ImageStandIn() {
-    note("loadImages");
     const image = new Image();
     Object.defineProperty(image, "readyState", {
         get: () => (image.complete && image.naturalWidth ? "complete" : "loading"),

@@ -14,53 +14,60 @@ const starts = ["scrollit_r2l(99)", "moveSpan()", "loadImages()"];
 
 /** @type {(() => void)[]} */
 const afterwards = [];
+let started = false;
 
 /** Calls `run` once the effects have started. @param {() => void} run */
-export const afterStart = (run) => afterwards.push(run);
+export const afterStart = (run) => void (started ? run() : afterwards.push(run));
+
+/** Orvane's scripts. @type {Set<HTMLScriptElement>} */
+export const ownScripts = new Set();
+
+/** Whether the page's function of this name is Orvane's. @param {string} name */
+export function isOwn(name) {
+    const defined = /** @type {any} */ (window)[name];
+    return defined && [...ownScripts].some((script) => script.text.includes(String(defined)));
+}
+
+/** Whether the slideshow has made its images. */
+export const slidesHaveBegun = () => /** @type {any} */ (window).mypix?.length > 0;
 
 /**
  * Runs what a script puts into `window.onload` or `window.onunload` besides what is there.
  * @param {string} event @param {any} run
  */
 export function listenLate(event, run) {
-    if (typeof run === "function") window.addEventListener(event, (told) => run.call(window, told));
+    if (run) addEventListener(event, (told) => run.call(window, told));
 }
-
-/**
- * Whether this is the window call that Orvane writes into a BODY tag.
- * @param {string | null} text
- */
-const opensWindow = (text) =>
-    /^\s*window\.open\([^]*,toolbar=(yes|no),status=[^]*\);?\s*$/.test(text ?? "");
 
 /**
  * Takes over the calls of the BODY tag that browsers block: windows on load and on exit. Expects a
  * page that was parsed to its end, since a second BODY tag adds attributes to the first.
  */
 export function takeBodyCalls() {
-    const { body } = document;
-    for (const [handler, run] of /** @type {const} */ ([
-        ["onload", open],
-        ["onunload", leave],
-    ])) {
-        const text = body?.getAttribute(handler) ?? null;
-        const call = opensWindow(text) && readCall(text ?? "");
-        if (!call) continue;
-        /** @type {any} */ (body)[handler] = null;
-        if (handler === "onload") window.addEventListener("load", () => run(call));
-        else run(call);
+    const body = /** @type {any} */ (document.body);
+    /** @param {string} handler @returns {any} */
+    const callOf = (handler) => {
+        const text = body?.getAttribute(handler) ?? "";
+        const call = document.readyState !== "complete" && readCall(text);
+        // Only such a window is Orvane's.
+        return call && call.name === "window.open" && /,toolbar=/.test(text) && call;
+    };
+    const [load, unload] = [callOf("onload"), callOf("onunload")];
+    if (load) {
+        body.onload = null;
+        addEventListener("load", () => openWindow(...argsOf(load)));
     }
+    if (unload) openOnLeaving(argsOf(unload), () => (body.onunload = null));
 }
 
-/** Opens the window of a call. @param {Call} call */
-function open(call) {
-    openWindow(.../** @type {[string, string, string]} */ (call.args()));
-}
+/** What a call opens a window by. @param {Call} call @returns {[string, string, string]} */
+const argsOf = (call) => /** @type {any} */ (call.args());
 
-/** Offers the window of a call on leaving. @param {Call} call */
-function leave(call) {
-    openOnLeaving(.../** @type {[string, string, string]} */ (call.args()));
-}
+/** Whether the `onload` of the page makes a call to this function. @param {string} name */
+const isCalled = (name) => RegExp(`(^|[^\\w$.]|window\\.)${name}\\(`).test(String(window.onload));
+
+/** Whether an effect runs. @param {string} name the function that starts it */
+const runs = (name) => (name === "loadImages" ? slidesHaveBegun() : hasRun(name));
 
 /**
  * Starts, once the page has loaded, the effects that nothing else has started: those whose
@@ -68,21 +75,24 @@ function leave(call) {
  * @param {DOMStringMap | undefined} carried the data of the page script's own tag
  */
 export function startLate(carried) {
-    window.addEventListener("load", () => {
-        const called = String(window.onload);
-        const late = [...starts.map(readCall), ...readCalls(carried?.onload)];
-        const made = new Set();
-        for (const call of /** @type {Call[]} */ (late)) {
-            if (hasRun(call.name) || made.has(call.name) || called.includes(call.name + "("))
-                continue;
-            made.add(call.name);
-            if (call.name === "window.open") open(call);
+    const start = () => {
+        /** @type {string[]} */
+        const made = [];
+        const own = /** @type {Call[]} */ (starts.map(readCall)).filter(({ name }) => isOwn(name));
+        for (const call of [...own, ...readCalls(carried?.onload)]) {
+            if (runs(call.name) || made.includes(call.name) || isCalled(call.name)) continue;
+            made.push(call.name);
+            if (call.name === "window.open") openWindow(...argsOf(call));
             else make(call);
         }
+        started = true;
         for (const run of afterwards) run();
-    });
+    };
+    // Behind all that the page itself does then.
+    if (document.readyState === "complete") setTimeout(start);
+    else addEventListener("load", () => setTimeout(start));
     for (const call of readCalls(carried?.onunload)) {
-        if (call.name === "window.open") leave(call);
-        else window.addEventListener("pagehide", () => make(call));
+        if (call.name === "window.open") openOnLeaving(argsOf(call));
+        else addEventListener("pagehide", () => make(call));
     }
 }

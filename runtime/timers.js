@@ -3,6 +3,7 @@
  * has stopped their effect, and while it has nothing to do. Their ids are the browser's own.
  */
 import { make, readCall } from "./calls.js";
+import { onSeen } from "./calm.js";
 
 /** @typedef {import("./calls.js").Call} Call */
 
@@ -10,6 +11,8 @@ import { make, readCall } from "./calls.js";
 const waiting = new Map();
 /** Functions that the visitor has stopped. @type {Set<string>} */
 const stopped = new Set();
+/** Functions whose effect is off the screen. @type {Set<string>} */
+const away = new Set();
 /** The functions that running intervals call, by the interval's id. @type {Map<number, string>} */
 const intervals = new Map();
 /** Functions that timers or effects have named. @type {Set<string>} */
@@ -29,7 +32,7 @@ export const idle = new Map();
 export const onInterval = new Map();
 
 /** Whether the calls of a function rest now. @param {string} name */
-const rests = (name) => document.hidden || stopped.has(name);
+const rests = (name) => document.hidden || stopped.has(name) || away.has(name);
 
 /** Whether a timer was set for this function, or `note` was called with it. @param {string} name */
 export const hasRun = (name) => seen.has(name);
@@ -46,6 +49,17 @@ export function go(name) {
     wake();
 }
 
+/**
+ * Lets them rest while an element is off the screen.
+ * @param {string} name @param {Element} element
+ */
+export const restUnseen = (name, element) =>
+    onSeen(element, (seen) => {
+        if (seen) away.delete(name);
+        else away.add(name);
+        wake();
+    });
+
 /** Makes the calls that have waited and whose effect does not rest now. */
 function wake() {
     for (const [id, call] of [...waiting]) {
@@ -61,39 +75,44 @@ function tellInterval(name) {
     onInterval.get(name)?.([...intervals.values()].includes(name));
 }
 
+/**
+ * The call that the browser's timer is to make for a text: `run` for its call. What is no plain
+ * call is handed on.
+ * @param {any} code @param {(call: Call) => void} run
+ */
+function handler(code, run) {
+    const call = typeof code === "string" && readCall(code);
+    if (!call) return { code, name: "" };
+    seen.add(call.name);
+    return { code: () => run(call), name: call.name };
+}
+
 /** The timer functions that generated scripts see in place of the browser's. */
 export const timers = {
-    /** @param {any} code @param {number} pause @param {any[]} rest */
-    setTimeout(code, pause, ...rest) {
-        const call = typeof code === "string" && readCall(code);
-        if (!call) return window.setTimeout(code, pause, ...rest);
-        seen.add(call.name);
-        if (idle.get(call.name)?.()) stop(call.name);
-        const id = window.setTimeout(() => {
+    /** @param {any} text @param {number} pause @param {any[]} rest */
+    setTimeout(text, pause, ...rest) {
+        const { code, name } = handler(text, (call) => {
             if (rests(call.name)) waiting.set(id, call);
             else make(call);
-        }, pause);
+        });
+        if (idle.get(name)?.()) stop(name);
+        const id = setTimeout(code, pause, ...rest);
         return id;
     },
-    /** @param {any} code @param {number} pause @param {any[]} rest */
-    setInterval(code, pause, ...rest) {
-        const call = typeof code === "string" && readCall(code);
-        if (!call) return window.setInterval(code, pause, ...rest);
-        seen.add(call.name);
-        const id = window.setInterval(
-            () => {
-                if (!rests(call.name)) make(call);
-            },
-            Math.max(pause, shortest.get(call.name) ?? 0),
-        );
-        intervals.set(id, call.name);
-        tellInterval(call.name);
+    /** @param {any} text @param {number} pause @param {any[]} rest */
+    setInterval(text, pause, ...rest) {
+        const { code, name } = handler(text, (call) => {
+            if (!rests(call.name)) make(call);
+        });
+        const id = setInterval(code, Math.max(pause, shortest.get(name) ?? 0), ...rest);
+        intervals.set(id, name);
+        tellInterval(name);
         return id;
     },
     /** @param {number} id */
     clearTimeout(id) {
         waiting.delete(id);
-        window.clearTimeout(id);
+        clearTimeout(id);
         const name = intervals.get(id);
         if (name === undefined) return;
         intervals.delete(id);

@@ -1,5 +1,5 @@
 /** The pointer as old scripts read it, and the trail of images that follows mouse and finger. */
-import { calm } from "./calm.js";
+import { calm, onCalm } from "./calm.js";
 import { go, idle } from "./timers.js";
 
 /** @type {any} */
@@ -30,14 +30,7 @@ export function onMouseMove(run) {
     if (typeof run !== "function") return;
     /** @param {MouseEvent | Touch} at */
     const tell = (at) => {
-        told = {
-            x: at.clientX,
-            y: at.clientY,
-            clientX: at.clientX,
-            clientY: at.clientY,
-            pageX: at.pageX,
-            pageY: at.pageY,
-        };
+        told = { x: at.clientX, y: at.clientY };
         try {
             run.call(document, told);
         } finally {
@@ -58,5 +51,7 @@ export function prepareTrail(element) {
     const number = /^imgTrail(\d+)$/.exec(element.id);
     if (!number) return;
     element.style.pointerEvents = "none";
-    if (calm() && number[1] !== "0") element.style.display = "none";
+    const show = () => (element.style.display = calm() && number[1] !== "0" ? "none" : "");
+    show();
+    onCalm(show);
 }

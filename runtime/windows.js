@@ -2,91 +2,99 @@
  * What pages do with windows and today's browsers block: opening them on load and on exit, closing
  * them, adding favourites. A small box in the page says what the visitor can do instead.
  */
-import { ownPlace } from "./calm.js";
-
-const look = `
-  .box { position: fixed; top: 12px; right: 12px; max-width: min(22em, 80vw); z-index: 2147483647;
-    font: 14px/1.4 sans-serif; color: #000; background: #fff; border: 1px solid #555;
-    border-radius: 6px; padding: 10px 12px; box-shadow: 0 2px 8px #0006 }
-  .choice { width: auto; height: auto; padding: 4px 10px; margin: 6px 6px 0 0; opacity: 1;
-    font: inherit }`;
+import { make, ownPlace } from "./calm.js";
 
 /**
- * Shows a box with words, a button for what can be done and one that closes it.
+ * Shows a box with words, a button for what can be opened and one that closes it.
  * @param {string} words
- * @param {{caption: string, run: () => void}} [action]
+ * @param {() => void} [run]
  */
-function showBox(words, action) {
-    const { host, inside } = ownPlace("all:initial", look);
-    const box = document.createElement("div");
-    box.className = "box";
+function showBox(words, run) {
+    const { host, inside } = ownPlace("");
+    const text = make("div");
+    const box = make("div", "box", text);
     box.setAttribute("role", "status");
-    const text = document.createElement("span");
-    box.append(text, document.createElement("br"));
-    /** @param {string} caption @param {() => void} run */
+    /** @param {string} caption @param {() => void} [run] */
     const addButton = (caption, run) => {
-        const button = document.createElement("button");
-        button.className = "choice";
-        button.textContent = caption;
-        button.addEventListener("click", () => (host.remove(), run()));
+        const button = make("button", "", caption);
+        button.onclick = () => (host.remove(), run?.());
         box.append(button);
     };
-    if (action) addButton(action.caption, action.run);
-    addButton("Close", () => {});
-    box.addEventListener("keydown", (event) => event.key === "Escape" && host.remove());
+    if (run) addButton("Open it", run);
+    addButton("Close");
+    box.onkeydown = ({ key }) => void (key === "Escape" && host.remove());
     inside.append(box);
     document.documentElement.append(host);
     // Screen readers speak words that are put into a box which is there already.
-    setTimeout(() => (text.textContent = words));
+    setTimeout(() => text.append(words));
 }
+
+/** What `window.open` takes. @typedef {[url: string, name: string, features: string]} Asked */
 
 /**
  * Offers a window in a box.
- * @param {string} url @param {string} name @param {string} features
+ * @param {Asked} asked
+ * @param {() => void} [done] called once it is opened
  */
-function offerWindow(url, name, features) {
-    showBox(`This page has a window to show: ${url}`, {
-        caption: "Open it",
-        run: () => window.open(url, name, features),
-    });
+function offerWindow(asked, done) {
+    showBox(`This page has a window to show: ${asked[0]}`, () => (open(...asked), done?.()));
 }
 
 /**
  * Opens a window as `window.open` does; one that the browser blocks is offered in a box.
- * @param {string} url @param {string} name @param {string} features
+ * @param {Asked} asked
  */
-export function openWindow(url, name, features) {
-    const opened = window.open(url, name, features);
-    if (!opened) offerWindow(url, name, features);
+export function openWindow(...asked) {
+    const opened = open(...asked);
+    if (!opened) offerWindow(asked);
     return opened;
 }
 
-/**
- * Offers a window once the visitor seems about to leave: the pointer leaves the page at the top, a
- * key such as Ctrl or Alt is pressed, or the page is shown again after it was hidden. No browser
- * lets a page open a window while it is being left.
- * @param {string} url @param {string} name @param {string} features
- */
-export function openOnLeaving(url, name, features) {
-    const done = new AbortController();
-    const offer = () => (done.abort(), offerWindow(url, name, features));
-    /** @param {EventTarget} on @param {string} event @param {(event: any) => any} asks */
-    const when = (on, event, asks) =>
-        on.addEventListener(event, (told) => asks(told) && offer(), { signal: done.signal });
-    when(document.documentElement, "mouseleave", (event) => event.clientY <= 0);
-    when(document, "keydown", (event) => ["Control", "Alt", "Meta"].includes(event.key));
-    when(document, "visibilitychange", () => !document.hidden);
-    when(window, "pageshow", (event) => event.persisted);
+/** An address without the place on the page. @param {string} url */
+const pageOf = (url) => url.replace(/#.*/, "");
+
+/** Whether a click leads from this page to another in its place. @param {MouseEvent} event */
+function leads(event) {
+    const link = /** @type {Element} */ (event.target).closest?.("a[href],area[href]");
+    const { href, target } = /** @type {HTMLAnchorElement} */ (link ?? {});
+    const isOther = event.defaultPrevented || event.ctrlKey || event.shiftKey || target;
+    return /^(http|file)/.test(href) && !isOther && pageOf(href) !== pageOf(location.href);
 }
 
-const mac = /Mac|iPhone|iPad/.test(navigator.platform);
+/**
+ * Opens a window at the click on a link that leads away, which browsers let a page do, and offers
+ * it once the visitor seems about to leave: the pointer leaves the page at the top, a key such as
+ * Ctrl or Alt is pressed, or the page is shown again after it was hidden.
+ * @param {Asked} asked
+ * @param {() => void} [done] called once it is opened
+ */
+export function openOnLeaving(asked, done) {
+    let isOver = false;
+    /** @param {boolean} now */
+    const offer = (now) => {
+        if (!now || isOver) return;
+        isOver = true;
+        offerWindow(asked, done);
+    };
+    document.documentElement.addEventListener("mouseleave", ({ clientY }) => offer(clientY <= 0));
+    document.addEventListener("keydown", ({ key }) => offer(/^(Control|Alt|Meta)$/.test(key)));
+    document.addEventListener("visibilitychange", () => offer(!document.hidden));
+    addEventListener("click", (event) => {
+        if (isOver || !leads(event) || !open(...asked)) return;
+        isOver = true;
+        done?.();
+    });
+}
+
+/** What stands in front of the letter of a shortcut. */
+const command = /^(Mac|iP)/.test(navigator.platform) ? "\u2318" : "Ctrl+";
 
 /** Closes the window; when the browser keeps it open, says how the visitor can close it. */
 export function closeWindow() {
-    window.close();
+    close();
     setTimeout(() => {
-        const key = mac ? "\u2318W" : "Ctrl+W";
-        if (!window.closed) showBox(`A page may not close this window. Press ${key} to close it.`);
+        if (!window.closed)
+            showBox(`A page may not close this window. Press ${command}W to close it.`);
     }, 300);
 }
 
@@ -95,13 +103,12 @@ export function closeWindow() {
  * @param {string} url @param {string} title
  */
 export function addFavorite(url, title) {
-    const key = mac ? "\u2318D" : "Ctrl+D";
-    const here = new URL(url, document.baseURI).href.replace(/#.*/, "");
-    if (here === location.href.replace(/#.*/, ""))
+    const key = command + "D";
+    if (pageOf(new URL(url, document.baseURI).href) === pageOf(location.href))
         showBox(`Press ${key} to add "${title}" to your bookmarks.`);
     else
-        showBox(`To bookmark "${title}", open it and press ${key}.`, {
-            caption: "Open it",
-            run: () => void (location.href = url),
-        });
+        showBox(
+            `To bookmark "${title}", open it and press ${key}.`,
+            () => void (location.href = url),
+        );
 }

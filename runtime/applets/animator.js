@@ -1,7 +1,7 @@
 /** Animations of several images, and the effects of one image that comes and goes. */
 import { calm, shortestFlash } from "../calm.js";
 import { play } from "../sounds.js";
-import { load, missing, notLoaded, pixelsOf, sheet, words } from "./tag.js";
+import { load, pixelsOf, sheet, words, wrongWords } from "./tag.js";
 import { drawTransition, isWay, readTransition } from "./transitions.js";
 
 /** @typedef {import("./tag.js").Tag} Tag */
@@ -9,28 +9,38 @@ import { drawTransition, isWay, readTransition } from "./transitions.js";
 /** The image of one pixel that stands for an empty frame. */
 const blank = "invisi.gif";
 
-/**
- * The brightness of 64 parts of a picture, each 0 to 255; empty when its pixels cannot be read.
- * @param {HTMLCanvasElement} picture
- */
-function brightness(picture) {
-    const { canvas, pen } = sheet(8, 8, "white");
-    pen.imageSmoothingEnabled = true;
-    pen.drawImage(picture, 0, 0, 8, 8);
-    return Array.from(
-        pixelsOf(canvas) ?? [],
-        (pixel) =>
-            0.2126 * (pixel & 255) + 0.7152 * ((pixel >> 8) & 255) + 0.0722 * ((pixel >> 16) & 255),
-    );
-}
+/** How many parts of a picture are compared, along each side. */
+const parts = 16;
 
 /**
- * Whether the change between two pictures counts as half a flash: a quarter of the parts differ.
- * @param {number[]} from @param {number[]} to
+ * The light of each part of a picture, and how red and how blue it is beside the opposed colours;
+ * empty when its pixels cannot be read.
+ * @param {HTMLCanvasElement} picture
  */
-const differ = (from, to) =>
-    from.filter((light, i) => Math.abs(light - to[i]) > 25).length >= from.length / 4 &&
-    from.length > 0;
+function lightOf(picture) {
+    const { canvas, pen } = sheet(parts, parts, "white");
+    pen.imageSmoothingEnabled = true;
+    pen.drawImage(picture, 0, 0, parts, parts);
+    return Array.from(pixelsOf(canvas) ?? [], (pixel) => {
+        const [r, g, b] = [pixel & 255, (pixel >> 8) & 255, (pixel >> 16) & 255];
+        return [0.2126 * r + 0.7152 * g + 0.0722 * b, (r - g) / 4, (b - (r + g) / 2) / 4];
+    });
+}
+
+/** A quarter of 341 by 256 pixels, from which on a flash counts on pages. */
+const flashArea = 21824;
+
+/**
+ * Whether the change between two pictures counts as half a flash: so much of them differs in light,
+ * as from or to red, or as opposed colours do. Pictures that cannot be read may.
+ * @param {number[][]} from @param {number[][]} to @param {number} area that of the pictures
+ */
+function differ(from, to, area) {
+    const least = Math.min(area / 4, flashArea);
+    if (!from.length || !to.length) return area >= flashArea;
+    const other = from.filter((part, i) => part.some((sum, k) => Math.abs(sum - to[i][k]) > 25));
+    return (other.length * area) / parts ** 2 >= least;
+}
 
 /**
  * The frames: pictures of the area's size, each with an image in the middle or words if it is
@@ -42,7 +52,7 @@ const differ = (from, to) =>
 async function frames({ W, H }, names, ground) {
     const images = await Promise.all(names.map(load));
     return images.map((image, i) => {
-        if (!image) return words(notLoaded(names[i]), W, H);
+        if (!image) return words(wrongWords(names[i], ""), W, H);
         const { canvas, pen } = sheet(W, H, ground);
         pen.drawImage(image, Math.floor((W - image.width) / 2), Math.floor((H - image.height) / 2));
         return canvas;
@@ -51,12 +61,11 @@ async function frames({ W, H }, names, ground) {
 
 /**
  * The link of a frame: its own, or that of the nearest frame before it that has one.
- * @param {(string | null)[]} links @param {number} frame
+ * @param {string[]} links @param {number} frame
  */
 function linkOf(links, frame) {
-    while (frame > 0 && links[frame] === null) frame--;
-    const link = links[frame] ?? null;
-    return link?.toLowerCase() === "null" ? null : link;
+    while (frame > 0 && !links[frame]) frame--;
+    return (links[frame] ?? "").replace(/^null$/i, "");
 }
 
 /**
@@ -65,10 +74,10 @@ function linkOf(links, frame) {
  * @param {number} n
  */
 function stepsOf(tag, n) {
-    const type = (/** @type {number} */ i) => tag.text(`TRANSITION.TYPE.${i}`) ?? "";
+    const type = (/** @type {number} */ i) => tag.text(`TRANSITION.TYPE.${i}`);
     const leaves = (/** @type {number} */ i) => /^(slideout|shrink)/i.test(type(i));
     const step = (/** @type {number} */ i) => {
-        if (tag.text("TRANSITION.LIST") !== null) return type(i);
+        if (tag.text("TRANSITION.LIST")) return type(i);
         if (i === n - 1) return "";
         const into = type(i + 1) && (!leaves(i + 1) || i + 1 === n - 1);
         return into ? type(i + 1) : leaves(i) ? type(i) : "";
@@ -87,10 +96,10 @@ export async function animator(tag, pen) {
     const ground = tag.color("BGCOLOR.0", "white");
     const pictures = n
         ? await frames(tag, names, ground)
-        : [words(missing("IMAGE.0"), tag.W, tag.H)];
-    const lights = pictures.map(brightness);
+        : [words(wrongWords("", "IMAGE.0"), tag.W, tag.H)];
+    const lights = pictures.map(lightOf);
     const steps = stepsOf(tag, n);
-    const usual = tag.text("TRANSITION.RATE.0")?.startsWith("-") ? 0 : 20;
+    const usual = tag.text("TRANSITION.RATE.0").startsWith("-") ? 0 : 20;
     const each = tag.number("TRANSITION.RATE.0", usual, 0) + 10;
     const S = tag.number("TRANSITION.STEP.0", 20, 1);
     const links = names.map((_, i) => tag.text(`URL.${i}`));
@@ -111,13 +120,13 @@ export async function animator(tag, pen) {
         // A quick shutter, which closes and opens, is a flash by itself.
         const closes =
             /^\s*(shutter|random)/i.test(steps[frame]) && S * each < 2 * shortestFlash && !calm();
-        const changes = closes ? 2 : Number(differ(lights[frame], lights[next()]));
+        const changes = closes ? 2 : Number(differ(lights[frame], lights[next()], tag.W * tag.H));
         return Math.max(asked, changes * shortestFlash - way, 10);
     };
     const stand = (/** @type {number} */ t) => {
         since = t;
         const sound = tag.text(`SOUND.${frame}`);
-        if (sound && /^auto$/i.test(tag.text("SOUND.ACTIVATION.0") ?? "")) play(sound);
+        if (sound && /^auto$/i.test(tag.text("SOUND.ACTIVATION.0"))) play(sound);
     };
     const arrive = (/** @type {number} */ t) => {
         under = null;
@@ -151,7 +160,7 @@ export async function animator(tag, pen) {
     };
     const waits = () => !under && !ends() && pause() < 0;
     return {
-        name: "Animation: " + names.join(", "),
+        name: "Animation",
         draw(t) {
             if (t < since) {
                 [frame, cycle, under] = [0, 1, null];
@@ -180,7 +189,7 @@ export async function animator(tag, pen) {
         },
         link: () => linkOf(links, frame),
         waits,
-        press: (t) => void (waits() && leave(t)),
-        over: (t) => void (waits() && pause() === -2 && leave(t)),
+        press: leave,
+        over: (t) => void (pause() === -2 && leave(t)),
     };
 }

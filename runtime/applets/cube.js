@@ -1,5 +1,5 @@
 /** A cube that turns, with a picture on each face. */
-import { load, missing, notLoaded, pixelsOf, sheet, words } from "./tag.js";
+import { load, pixelsOf, sheet, shown, words, wrongWords } from "./tag.js";
 
 /** @typedef {[number, number, number]} Vector */
 
@@ -47,20 +47,15 @@ function axesAfter([alpha, beta, gamma]) {
 }
 
 /**
- * Where a face is on the canvas, from its middle: its left, top, right and bottom in pixels.
+ * Where a point of a face is seen, from the middle of the canvas.
  * @param {Face} face @param {Vector[]} axes @param {number} D @param {number} f
+ * @param {number} a @param {number} b where it is on the picture, both -1 to 1
  */
-function edgesOf({ axis, side, u, v }, axes, D, f) {
-    const corners = [-1, 1].flatMap((a) =>
-        [-1, 1].map((b) => {
-            const [x, y, z] = [0, 1, 2].map(
-                (k) => half * (side * axes[axis][k] + a * axes[u[0]][k] + b * axes[v[0]][k]),
-            );
-            return { x: (x * f) / (z + D), y: (y * f) / (z + D) };
-        }),
+function spotOf({ axis, side, u, v }, axes, D, f, a, b) {
+    const [x, y, z] = [0, 1, 2].map(
+        (k) => half * (side * axes[axis][k] + a * u[1] * axes[u[0]][k] + b * v[1] * axes[v[0]][k]),
     );
-    const [xs, ys] = [corners.map(({ x }) => x), corners.map(({ y }) => y)];
-    return [Math.min(...xs), Math.min(...ys), Math.max(...xs), Math.max(...ys)];
+    return [(x * f) / (z + D), (y * f) / (z + D)];
 }
 
 /**
@@ -77,13 +72,17 @@ function castRays(to, W, H, r, from, iw, ih, axes, D) {
         // The eye as the cube sees it; the faces that look at it do not overlap.
         const eye = side * -D * axes[axis][2];
         if (eye <= half) continue;
-        const edges = edgesOf(face, axes, D, f);
-        const [left, top] = [edges[0] + W / 2, edges[1] + H / 2].map((at) =>
-            Math.max(Math.floor(at) - 1, 0),
+        const corners = [0, 1, 2, 3].map((i) =>
+            spotOf(face, axes, D, f, i < 2 ? -1 : 1, i % 2 ? -1 : 1),
         );
         // The last dot that begins on the face reaches beyond it.
-        const right = Math.min(Math.ceil(edges[2] + W / 2) + r, W);
-        const bottom = Math.min(Math.ceil(edges[3] + H / 2) + r, H);
+        const [[left, right], [top, bottom]] = [W, H].map((size, k) => {
+            const at = corners.map((corner) => corner[k] + size / 2);
+            return [
+                Math.max(Math.floor(Math.min(...at)) - 1, 0),
+                Math.min(Math.ceil(Math.max(...at)) + r, size),
+            ];
+        });
         const [dx, dy, dz] = axes[axis].map((part) => side * part);
         const [ux, uy, uz] = axes[u[0]].map((part) => u[1] * part);
         const [vx, vy, vz] = axes[v[0]].map((part) => v[1] * part);
@@ -106,55 +105,35 @@ function castRays(to, W, H, r, from, iw, ih, axes, D) {
 }
 
 /**
- * Draws the cube by small triangles, for pictures whose pixels the browser lets no script read.
+ * Draws the cube by small pieces, for pictures whose pixels the browser lets no script read.
  * @param {CanvasRenderingContext2D} pen @param {HTMLCanvasElement} picture
  * @param {Vector[]} axes @param {number} D
  */
-function drawTriangles(pen, picture, axes, D) {
+function drawPieces(pen, picture, axes, D) {
     const { width: W, height: H } = pen.canvas;
-    const { width: iw, height: ih } = picture;
+    const cells = 10;
+    const [w, h] = [picture.width / cells, picture.height / cells];
     const f = 0.6 * Math.min(W, H);
-    const cells = 6;
-    for (const { axis, side, u, v } of faces) {
-        if (side * -D * axes[axis][2] <= half) continue;
-        /** @param {number} a @param {number} b both 0 to 1, along the picture */
-        const at = (a, b) => {
-            const point = [0, 0, 0];
-            point[axis] = side * half;
-            point[u[0]] = u[1] * (2 * a - 1) * half;
-            point[v[0]] = v[1] * (2 * b - 1) * half;
-            const [x, y, z] = [0, 1, 2].map(
-                (k) => point[0] * axes[0][k] + point[1] * axes[1][k] + point[2] * axes[2][k],
-            );
-            return [W / 2 + (x * f) / (z + D), H / 2 + (y * f) / (z + D)];
-        };
-        for (let i = 0; i < cells * cells * 2; i++) {
-            const [s, a, b] = [
-                i % 2 ? -1 : 1,
-                (((i >> 1) % cells) + (i % 2)) / cells,
-                (Math.floor(i / 2 / cells) + (i % 2)) / cells,
-            ];
-            const [p, q, o] = [at(a, b), at(a + s / cells, b), at(a, b + s / cells)];
-            const [w, h] = [(s * iw) / cells, (s * ih) / cells];
-            pen.save();
-            pen.beginPath();
-            // A little larger than it is, so that nothing shines through between two of them.
-            const [mx, my] = [0, 1].map((k) => (p[k] + q[k] + o[k]) / 3);
-            for (const [x, y] of [p, q, o])
-                pen.lineTo(x + 0.7 * Math.sign(x - mx), y + 0.7 * Math.sign(y - my));
-            pen.clip();
-            pen.transform(
-                (q[0] - p[0]) / w,
-                (q[1] - p[1]) / w,
-                (o[0] - p[0]) / h,
-                (o[1] - p[1]) / h,
-                p[0],
-                p[1],
-            );
-            pen.drawImage(picture, -a * iw, -b * ih);
-            pen.restore();
-        }
+    for (const face of faces) {
+        if (face.side * -D * axes[face.axis][2] <= half) continue;
+        const at = (/** @type {number} */ a, /** @type {number} */ b) =>
+            spotOf(face, axes, D, f, (2 * a) / cells - 1, (2 * b) / cells - 1);
+        for (let a = 0; a < cells; a++)
+            for (let b = 0; b < cells; b++) {
+                const [[px, py], [qx, qy], [ox, oy]] = [at(a, b), at(a + 1, b), at(a, b + 1)];
+                pen.setTransform(
+                    (qx - px) / w,
+                    (qy - py) / w,
+                    (ox - px) / h,
+                    (oy - py) / h,
+                    px + W / 2,
+                    py + H / 2,
+                );
+                // A little larger than it is, so that nothing shines through between two of them.
+                pen.drawImage(picture, a * w, b * h, w, h, 0, 0, 1.05 * w, 1.05 * h);
+            }
     }
+    pen.resetTransform();
 }
 
 /**
@@ -165,20 +144,18 @@ function drawTriangles(pen, picture, axes, D) {
 export async function cube(tag, pen) {
     const { W, H } = tag;
     const name = tag.text("IMAGE");
-    const image = name === null ? null : await load(name);
+    const image = await load(name);
     const ground = `rgb(${["R", "G", "B"].map((part) => tag.number("BACK" + part, 192))})`;
-    const title = `Turning cube: ${name}`;
     if (!image) {
-        const picture = words(name === null ? missing("IMAGE") : notLoaded(name), W, H);
-        const draw = () => (pen.drawImage(picture, 0, 0), Infinity);
-        return { name: title, draw, drawStill: draw };
+        const wrong = wrongWords(name, "IMAGE");
+        return shown(wrong, pen, words(wrong, W, H));
     }
     const { canvas: picture, pen: own } = sheet(image.width, image.height, ground);
     own.drawImage(image, 0, 0);
     const from = pixelsOf(picture);
     const D = Math.max(tag.number("DISTANCE", 70), 2 * half);
     const speeds = ["X", "Y", "Z"].map((axis) => tag.number("ROT" + axis, 10));
-    const clears = /^yes$/i.test(tag.text("CLEARBACK") ?? "YES");
+    const clears = /^(yes)?$/i.test(tag.text("CLEARBACK"));
     const clear = () => {
         pen.fillStyle = ground;
         pen.fillRect(0, 0, W, H);
@@ -195,9 +172,9 @@ export async function cube(tag, pen) {
             pen.putImageData(data, 0, 0);
         } else {
             if (clears) clear();
-            drawTriangles(pen, picture, axes, D);
+            drawPieces(pen, picture, axes, D);
         }
         return each - (t % each);
     };
-    return { name: title, draw, drawStill: () => void draw(0) };
+    return { name: "Turning cube", draw };
 }

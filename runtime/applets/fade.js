@@ -10,7 +10,7 @@ import { stretched } from "./tag.js";
 export async function fade(tag, pen) {
     const { W, H } = tag;
     const names = tag.list("IMAGE");
-    const asked = names.length ? names : [null];
+    const asked = names.length ? names : [""];
     const pictures = await Promise.all(asked.map((name) => stretched(name, "IMAGE.0", W, H)));
     const n = pictures.length;
     const S = tag.number("TRANSITION.STEPS", 15, 1);
@@ -19,7 +19,7 @@ export async function fade(tag, pen) {
     const pause = Math.max(tag.number("PAUSE", 100, 0), shortestFlash - way);
     let shown = 0;
     return {
-        name: "Fading pictures: " + names.join(", "),
+        name: "Fading pictures",
         draw(t) {
             const u = n > 1 ? t % (n * (pause + way)) : 0;
             shown = Math.floor(u / (pause + way));
@@ -33,10 +33,6 @@ export async function fade(tag, pen) {
             pen.globalAlpha = 1;
             return ((k + 1) * 1000) / V - e;
         },
-        drawStill: () => pen.drawImage(pictures[0], 0, 0),
-        link() {
-            const url = tag.text(`URL.${shown}`);
-            return url?.toLowerCase() === "null" ? null : url;
-        },
+        link: () => tag.text(`URL.${shown}`).replace(/^null$/i, ""),
     };
 }

@@ -12,8 +12,7 @@ const each = 50;
 export async function lake(tag, pen) {
     const { W, H } = tag;
     const h = Math.floor((H + 10) / 2);
-    const name = tag.text("IMAGE");
-    const picture = await stretched(name, "IMAGE", W, h);
+    const picture = await stretched(tag.text("IMAGE"), "IMAGE", W, h);
     const draw = (/** @type {number} */ t) => {
         pen.drawImage(picture, 0, 0);
         for (let r = 0; h + r < H; r++) {
@@ -24,9 +23,8 @@ export async function lake(tag, pen) {
         return each - (t % each);
     };
     return {
-        name: `Picture mirrored in water: ${name}`,
+        name: "Picture mirrored in water",
         draw,
-        drawStill: () => void draw(0),
         link: () => tag.text("HREF"),
     };
 }

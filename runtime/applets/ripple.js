@@ -68,8 +68,7 @@ function bentDiscs(from, W, H, bend) {
  */
 export async function ripple(tag, pen) {
     const { W, H } = tag;
-    const name = tag.text("IMAGE");
-    const picture = await stretched(name, "IMAGE", W, H);
+    const picture = await stretched(tag.text("IMAGE"), "IMAGE", W, H);
     const pixels = pixelsOf(picture);
     const P = Math.max(tag.number("PERIOD", 20), 1);
     const F = Math.min(tag.number("FRAMES", 15, 1), 100);
@@ -85,10 +84,10 @@ export async function ripple(tag, pen) {
                   rho;
         made[k] ??= pixels ? bentPixels(pixels, W, H, bend) : bentDiscs(picture, W, H, bend);
         pen.drawImage(made[k], 0, 0);
-        return each - (t % each);
+        return F > 1 ? each - (t % each) : Infinity;
     };
     return {
-        name: `Picture with waves: ${name}`,
+        name: "Picture with waves",
         draw,
         drawStill: () => pen.drawImage(picture, 0, 0),
     };

@@ -1,66 +1,67 @@
 /** Reads an APPLET tag, and makes the pictures and words that it asks for. */
+import { attribute, make } from "../calm.js";
 
 /** Something that a canvas can draw. @typedef {HTMLImageElement | HTMLCanvasElement} Picture */
 
-/** An APPLET tag: its size in pixels, and its parameters, whose names ignore case. */
-export class Tag {
-    /** @param {Element} applet */
-    constructor(applet) {
-        this.applet = applet;
-        this.code = (applet.getAttribute("code") ?? "").replace(/\.class$/i, "");
-        this.W = parseInt(applet.getAttribute("width") ?? "") || 0;
-        this.H = parseInt(applet.getAttribute("height") ?? "") || 0;
-        /** @type {Map<string, string>} */
-        this.values = new Map();
-        for (const parameter of applet.querySelectorAll("param")) {
-            const name = (parameter.getAttribute("name") ?? "").toLowerCase();
-            const value = parameter.getAttribute("value") ?? "";
-            if (value.trim() && !this.values.has(name)) this.values.set(name, value);
-        }
-    }
+/** An APPLET tag. @typedef {ReturnType<typeof readTag>} Tag */
 
+/**
+ * Reads an APPLET tag: its size in pixels, and its parameters, whose names ignore case.
+ * @param {Element} applet
+ */
+export function readTag(applet) {
+    /** @type {Record<string, string>} */
+    const values = Object.create(null);
+    for (const parameter of applet.querySelectorAll("param")) {
+        const name = attribute(parameter, "name").toLowerCase();
+        const value = attribute(parameter, "value");
+        if (value.trim()) values[name] ??= value;
+    }
     /**
-     * A parameter's value without blanks around it, or null when it is missing.
+     * A parameter's value without blanks around it; empty when it is missing.
      * @param {string} name
      */
-    text(name) {
-        return this.values.get(name.toLowerCase())?.trim() ?? null;
-    }
-
+    const text = (name) => (values[name.toLowerCase()] ?? "").trim();
     /**
      * The number at the start of a parameter, at most a million up or down; `missing` when there is
      * none or it is below `least`.
      * @param {string} name @param {number} missing @param {number} least
      */
-    number(name, missing, least = -Infinity) {
-        const found = /^[+-]?\d+/.exec(this.text(name) ?? "");
+    const number = (name, missing, least = -Infinity) => {
+        const found = /^[+-]?\d+/.exec(text(name));
         const number = Math.min(Math.max(Number(found?.[0]), -1e6), 1e6);
         return number >= least ? number : missing;
-    }
-
+    };
     /** A colour of three numbers, or `missing`. @param {string} name @param {string} missing */
-    color(name, missing) {
-        const parts = (this.text(name) ?? "").split(",").map((part) => parseInt(part));
-        return parts.length < 3 || parts.slice(0, 3).some(isNaN)
-            ? missing
-            : `rgb(${parts.slice(0, 3)})`;
-    }
-
+    const color = (name, missing) => {
+        const parts = text(name)
+            .split(",", 3)
+            .map((part) => parseInt(part));
+        return parts.length < 3 || parts.some(isNaN) ? missing : `rgb(${parts})`;
+    };
     /** How often the whole is shown; Infinity when no number above 0 is given. */
-    cycles() {
-        return this.number("CYCLES", Infinity, 1);
-    }
-
+    const cycles = () => number("CYCLES", Infinity, 1);
     /**
      * The values of `name.0`, `name.1`, ... up to the first that is missing.
      * @param {string} name
      */
-    list(name) {
-        const values = [];
-        for (let value; (value = this.text(`${name}.${values.length}`)) !== null;)
-            values.push(value);
-        return values;
-    }
+    const list = (name) => {
+        const found = [];
+        for (let value; (value = text(`${name}.${found.length}`));) found.push(value);
+        return found;
+    };
+    return {
+        applet,
+        code: attribute(applet, "code").replace(/\.class$/i, ""),
+        W: parseInt(attribute(applet, "width")) || 0,
+        H: parseInt(attribute(applet, "height")) || 0,
+        values,
+        text,
+        number,
+        color,
+        cycles,
+        list,
+    };
 }
 
 /**
@@ -70,7 +71,7 @@ export class Tag {
  * @param {string} color
  */
 export function sheet(w, h, color) {
-    const canvas = document.createElement("canvas");
+    const canvas = make("canvas");
     canvas.width = w;
     canvas.height = h;
     const pen = /** @type {CanvasRenderingContext2D} */ (canvas.getContext("2d"));
@@ -112,11 +113,8 @@ export function words(text, w, h) {
     return canvas;
 }
 
-/** The words for a missing parameter. @param {string} name */
-export const missing = (name) => `The parameter ${name} is missing.`;
-
 /**
- * An image file beside the page, or null when it cannot be loaded.
+ * An image file beside the page, or null when it cannot be loaded or has no name.
  * @param {string} name
  * @returns {Promise<HTMLImageElement | null>}
  */
@@ -125,24 +123,39 @@ export function load(name) {
         const image = new Image();
         image.onload = () => done(image.width && image.height ? image : null);
         image.onerror = () => done(null);
-        image.src = name;
+        if (name) image.src = name;
+        else done(null);
     });
 }
 
 /**
  * A picture stretched to a size on white; words in its place when it is missing.
- * @param {string | null} name @param {string} parameter @param {number} w @param {number} h
+ * @param {string} name @param {string} parameter @param {number} w @param {number} h
  */
 export async function stretched(name, parameter, w, h) {
-    const image = name === null ? null : await load(name);
-    if (!image) return words(name === null ? missing(parameter) : notLoaded(name), w, h);
+    const image = await load(name);
+    if (!image) return words(wrongWords(name, parameter), w, h);
     const { canvas, pen } = sheet(w, h, "white");
     pen.drawImage(image, 0, 0, w, h);
     return canvas;
 }
 
-/** The words for an image that cannot be loaded. @param {string} name */
-export const notLoaded = (name) => `The image "${name}" could not be loaded.`;
+/**
+ * A show of one picture that stands still.
+ * @param {string} name @param {CanvasRenderingContext2D} pen @param {Picture} picture
+ * @returns {import("./applets.js").Show}
+ */
+export const shown = (name, pen, picture) => ({
+    name,
+    draw: () => (pen.drawImage(picture, 0, 0), Infinity),
+});
+
+/**
+ * The words for a file that cannot be loaded, or for a parameter that does not name it.
+ * @param {string} name @param {string} parameter @param {string} kind
+ */
+export const wrongWords = (name, parameter, kind = "image") =>
+    name ? `The ${kind} "${name}" could not be loaded.` : `The parameter ${parameter} is missing.`;
 
 /**
  * The pixels of a canvas, or null where the browser lets no script read those of files.

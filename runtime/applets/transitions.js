@@ -57,15 +57,15 @@ function listed(text) {
 /**
  * The transition that a text such as `slidein(3)` names, chosen at random where the text leaves it
  * open; null for an overwrite, which takes no time.
- * @param {string | null} text @param {string | null} list what `random` chooses from
+ * @param {string} text @param {string} list what `random` chooses from
  * @returns {Transition | null}
  */
 export function readTransition(text, list) {
-    const [, name, wanted] = /^\s*(\w+)\s*(?:\(([^)]*)\))?/.exec((text ?? "").toLowerCase()) ?? [];
+    const [, name, wanted] = /^\s*(\w+)\s*(?:\(([^)]*)\))?/.exec(text.toLowerCase()) ?? [];
     if (name === "random")
         return readTransition(
-            any((list ?? usual).split("|").filter((entry) => !/random/i.test(entry))) ?? "",
-            null,
+            any((list || usual).split("|").filter((entry) => !/random/i.test(entry))) ?? "",
+            "",
         );
     const has = directions.get(name);
     if (!has) return null;

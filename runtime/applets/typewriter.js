@@ -1,7 +1,7 @@
 /** A text that is typed letter by letter. */
 import { read } from "../files.js";
 import { play } from "../sounds.js";
-import { brokenLines, load, missing, notLoaded, words } from "./tag.js";
+import { brokenLines, load, shown, words, wrongWords } from "./tag.js";
 
 /** @typedef {import("./tag.js").Tag} Tag */
 
@@ -36,17 +36,21 @@ async function linesOf(name) {
  * @returns {Promise<string[] | string>}
  */
 async function textOf(tag) {
-    const text = tag.values.get("text.0");
+    const text = tag.values["text.0"];
     if (text !== undefined) return text.split("\\");
     const file = tag.text("TEXTFILE");
-    if (file === null) return missing("TEXT.0");
-    return (await linesOf(file)) ?? `The text file "${file}" could not be loaded.`;
+    const lines = file && (await linesOf(file));
+    if (lines) return lines;
+    const wrong = wrongWords(file, "TEXT.0", "text file");
+    return file && location.protocol === "file:"
+        ? wrong + " Browsers let no page on the disk read it."
+        : wrong;
 }
 
 /** The font as CSS writes it. @param {Tag} tag */
 function fontOf(tag) {
-    const name = tag.text("FONTNAME") ?? "Dialog";
-    const style = (tag.text("FONTSTYLE") ?? "").toLowerCase();
+    const name = tag.text("FONTNAME") || "Dialog";
+    const style = tag.text("FONTSTYLE").toLowerCase();
     const words = ["italic", "bold"].filter((word) => style.includes(word));
     const family = families.get(name.toLowerCase()) ?? `"${name}", sans-serif`;
     return [...words, tag.number("FONTSIZE", 12, 1) + "px", family].join(" ");
@@ -61,10 +65,9 @@ export async function typewriter(tag, pen) {
     const { W, H } = tag;
     const text = await textOf(tag);
     const paper = tag.text("BACKGROUND");
-    const image = paper === null ? null : await load(paper);
-    const wrong =
-        paper !== null && !image ? notLoaded(paper) : typeof text === "string" ? text : null;
-    const picture = wrong === null ? null : words(wrong, W, H);
+    const image = await load(paper);
+    const wrong = paper && !image ? wrongWords(paper, "") : typeof text === "string" ? text : "";
+    if (wrong) return shown(wrong, pen, words(wrong, W, H));
 
     const ground = tag.color("BGCOLOR", "white");
     const tile = image && pen.createPattern(image, "repeat");
@@ -74,11 +77,7 @@ export async function typewriter(tag, pen) {
             ? []
             : text.flatMap((line) => brokenLines(pen, line.trimEnd(), W - 8));
     const N = lines.reduce((sum, line) => sum + line.length, 0);
-    const size = tag.number("FONTSIZE", 12, 1);
-    const {
-        fontBoundingBoxAscent: ascent = 0.9 * size,
-        fontBoundingBoxDescent: descent = 0.2 * size,
-    } = pen.measureText("x");
+    const { fontBoundingBoxAscent: ascent, fontBoundingBoxDescent: descent } = pen.measureText("x");
     const a = Math.round(ascent);
     const h = a + Math.round(descent);
     const speed = Math.max(tag.number("SPEED", 100), 1);
@@ -104,9 +103,8 @@ export async function typewriter(tag, pen) {
         typed.forEach((line, j) => pen.fillText(line, 4, 4 + a + h * (j - up)));
     };
     return {
-        name: lines.join(" ") || "Typewriter text",
+        name: lines.join(" "),
         draw(t) {
-            if (picture) return (pen.drawImage(picture, 0, 0), Infinity);
             if (t >= tag.cycles() * whole) return (type(N), Infinity);
             const u = t % whole;
             const count = Math.min(N, Math.floor(u / speed));
@@ -115,7 +113,7 @@ export async function typewriter(tag, pen) {
             type(count);
             return u < N * speed ? speed - (u % speed) : whole - u;
         },
-        drawStill: () => (picture ? pen.drawImage(picture, 0, 0) : type(N)),
+        drawStill: () => type(N),
         link: () => tag.text("URL"),
     };
 }

@@ -1,5 +1,5 @@
 /** The change from one item of a stage to another. */
-import { coverPath, orderOf } from "../reveal.js";
+import { coverPath, orderOf } from "../cover_path.js";
 
 /**
  * Shows how one item gives way to another, which is the one that is shown from now on.

@@ -1,5 +1,5 @@
 /** In which order the items of a block have their turns. */
-import { shuffled } from "../reveal.js";
+import { shuffled } from "../cover_path.js";
 
 /**
  * The items' numbers in the order of their turns, one round of them after the other. What is shown

@@ -1,5 +1,5 @@
 /** Which of several items is shown at this visit. */
-import { shuffled } from "../reveal.js";
+import { shuffled } from "../cover_path.js";
 import { store } from "./store.js";
 
 /**

@@ -1,6 +1,6 @@
 /** Banner/Billboard Wizard: linked pictures that take turns. */
 import { buttonCss, chipCss, motion, restUnder } from "../calm.js";
-import { shuffled } from "../../reveal.js";
+import { shuffled } from "../../cover_path.js";
 import { change } from "../change.js";
 import { fields, make, on, place, rows, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";

@@ -51,10 +51,18 @@ export const pageChecks = [
         await wait(900);
         assert.equal(await opacity(v), 1);
         await v.tab.mouse.move(600, 500);
+        await wait(100);
         assert.equal(await opacity(v), 0.3);
         await v.tab.keyboard.press("Tab");
         await wait(200);
         assert.ok((await opacity(v)) > 0.3, "by the keyboard");
+        await v.value(() => document.activeElement.blur());
+        await v.tab.mouse.move(30, 30);
+        await v.value(() => document.querySelector("a").focus()); // as a press does
+        await wait(100);
+        await v.tab.mouse.move(600, 500);
+        await wait(300);
+        assert.equal(await opacity(v), 0.3, "after a press");
     }),
     check("Slideshow", "uncovers the next picture; its buttons stay", async (v) => {
         await v.show([slides], { attributes: loads });
@@ -63,6 +71,7 @@ export const pageChecks = [
         await v.tab.click("#btnNext");
         await wait(400);
         assert.match(await v.value(() => oImg.src), /b\.gif$/);
+        assert.equal(await v.words("[aria-live]"), "Picture 2 of 3");
         assert.match(await v.own("img", (img) => img.style.clipPath), /^path\(/);
         await wait(1100);
         assert.equal(await v.own("img", () => true), null, "the old picture is gone");
@@ -95,8 +104,9 @@ export const pageChecks = [
     }),
     check("Slideshow", "starts beside an onload of the author's", async (v) => {
         const head = bare.head.replace(/5000/, "100");
-        await v.show([{ ...bare, head }, ticker], {
-            attributes: `onload="window.own = 1" ${loads}`,
+        await v.show([{ ...bare, head }, ticker, trail], {
+            authorHead: "<script>function MM_loadImages() { window.own = 1; }</script>",
+            attributes: `onload="MM_loadImages()" ${loads}`,
         });
         await wait(700);
         assert.equal(await v.value(() => window.own), 1);
@@ -135,6 +145,16 @@ export const pageChecks = [
         await v.tab.mouse.move(20, 15);
         await wait(100);
         assert.match(await v.value(() => document.images[0].src), /over\.gif$/);
+        const pressed = await v.value(() => {
+            document.images[0].dispatchEvent(new MouseEvent("mousedown", { bubbles: true }));
+            document.querySelector("a").focus();
+            return document.images[0].src;
+        });
+        assert.match(pressed, /down\.gif$/);
+        await v.show([{ ...button, body: button.body.replace(/<a [^>]*>/, "") }]);
+        await wait(50);
+        const stop = await v.value(() => document.images[0].tabIndex);
+        assert.equal(stop, -1, "a stop of Tab without a name");
     }),
     check("Dynamic Button", "plays its sounds", async (v) => {
         await v.show([button], { before: recorder });
@@ -163,15 +183,19 @@ export const pageChecks = [
             await wait(100);
             assert.equal((await v.value(() => window.opened)).length, 1);
             assert.match(await v.words("[role=status]"), /news\.html/);
-            await v.own(".choice", (choice) => choice.click());
+            await v.own(".box > button", (choice) => choice.click());
             assert.equal((await v.value(() => window.opened)).length, 2);
             assert.equal(await v.words("[role=status]"), null);
         }
     }),
     check("PopUp Window", "on exit: offered when the pointer leaves", async (v) => {
         const features = /window\.open[^"]*/.exec(popup("exit").body)[0];
+        const authorBody = "<a href=away.html>away</a>";
         const script = `<script src=orvane.js data-onunload="${features}"></script>`;
-        for (const options of [{}, { attributes: "onunload='own()'", script }]) {
+        for (const options of [{}, { attributes: "onunload='1'", script }]) {
+            await v.show([popup("exit")], { ...options, authorBody, before: recorder });
+            const opened = await v.value(() => (document.links[0].click(), window.opened.length));
+            assert.equal(opened, 1, "by a link that leads away");
             await v.show([popup("exit")], { ...options, before: recorder });
             await wait(50);
             assert.equal(await v.words("[role=status]"), null);

@@ -36,9 +36,18 @@ export const textChecks = [
         assert.equal(at, "low");
     }),
     check("Status Bar Text Ticker", "stands still and whole when motion is unwanted", async (v) => {
-        await v.show([ticker], { attributes: starts, before: calm });
+        const long = "Welcome to my page! ".repeat(20).trim();
+        const head = ticker.head.replace("Welcome to my page!", long);
+        await v.show([{ ...ticker, head }], { attributes: starts, before: calm });
         await wait(500);
-        assert.equal(await v.words(".shown"), "Welcome to my page!");
+        assert.equal(await v.words(".shown"), long);
+        const whole = await v.own(".strip", (strip) => {
+            const [button, , shown] = strip.children;
+            const { width, height } = button.getBoundingClientRect();
+            const { right, bottom } = shown.getBoundingClientRect();
+            return [width >= 24, height >= 24, right <= innerWidth, bottom <= innerHeight];
+        });
+        assert.equal(whole, [true, true, true, true]);
         await v.tab.keyboard.press("Tab");
         await v.tab.keyboard.press("Enter");
         await wait(600);
@@ -47,12 +56,23 @@ export const textChecks = [
     check("Vertical Scrolling Text", "has its size and moves up", async (v) => {
         await v.show([scroller], { attributes: 'onLoad="moveSpan()"' });
         const top = () => v.value(() => parseInt(spnOne.style.top));
+        await v.value(() => {
+            const real = Object.getOwnPropertyDescriptor(HTMLElement.prototype, "offsetHeight");
+            window.asked = 0;
+            Object.defineProperty(HTMLElement.prototype, "offsetHeight", {
+                get() {
+                    window.asked++;
+                    return real.get.call(this);
+                },
+            });
+        });
         const box = await v.value(() => [divContainer.offsetWidth, divContainer.offsetHeight]);
         const sizes = /width:(\d+); height:(\d+)/.exec(scroller.body);
         assert.equal(box, [Number(sizes[1]), Number(sizes[2])]);
         const first = await top();
         await wait(600);
         assert.ok((await top()) < first, "moves");
+        if (v.script) assert.ok((await v.value(() => asked)) < 10, "layouts");
     }),
     check("Vertical Scrolling Text", "can be stopped", async (v) => {
         await v.show([scroller], { attributes: 'onLoad="moveSpan()"' });
@@ -137,12 +157,24 @@ export const textChecks = [
             `${shown} at ${spot}`,
         );
         assert.ok(shown[3], "its width");
-        await v.tab.mouse.move(700, 500);
+        await v.tab.mouse.move(700, 300);
         await wait(50);
         assert.equal(await v.value(() => box1.style.visibility), "hidden");
+        await v.value(() => {
+            const words = document.querySelector("[onmousemove]");
+            words.style.cssText = "position:fixed;right:0;bottom:0";
+        });
+        await v.tab.mouse.move(...(await pointOnWords(v)));
+        await wait(50);
+        const inside = await v.value(() => {
+            const { left, top, right, bottom } = box1.getBoundingClientRect();
+            return left >= 0 && top >= 0 && right <= innerWidth && bottom <= innerHeight;
+        });
+        assert.ok(inside, "on the screen");
     }),
     check("Tooltips", "come up by keyboard and touch", async (v) => {
         await v.show([tooltip]);
+        await wait(50);
         await v.tab.keyboard.press("Tab");
         assert.equal(await v.value(() => box1.style.visibility), "visible");
         if (!(await v.value(() => "TouchEvent" in window))) return;

@@ -17,7 +17,9 @@ export const recorder = `window.played = []; window.opened = []; window.boxes = 
   HTMLMediaElement.prototype.play = async function () { played.push(this.src); };`;
 
 /** The visitor wants as little motion as possible. */
-export const calm = `window.matchMedia = (query) => ({ matches: /motion: reduce/.test(query) });`;
+export const calm = `window.motion = Object.assign(new EventTarget(), { matches: true });
+  window.matchMedia = () => motion;
+  window.wish = (less) => { motion.matches = less; motion.dispatchEvent(new Event("change")); };`;
 
 /** `leave` lets the visitor turn to another tab and back; `drawn` counts what is drawn. */
 export const tabs = `window.drawn = 0;
