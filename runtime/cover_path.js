@@ -12,9 +12,8 @@ const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i
 
 /** The numbers below `count` in random order. @param {number} count */
 export const shuffled = (count) =>
-    [...Array(count).keys()]
-        .map((i) => [Math.random(), i])
-        .sort(([a], [b]) => a - b)
+    Array.from({ length: count }, (_, i) => [Math.random(), i])
+        .sort()
         .map(([, i]) => i);
 
 /** Strips at the upper and lower edge, `p / 2` high. @param {number} p @returns {Piece[]} */

@@ -190,7 +190,8 @@ export const textChecks = [
             await wait(300);
             const boxOf = (name) => {
                 const { x, y, width, height } = window[name].getBoundingClientRect();
-                return [name, x, y, width, height].join(" ");
+                // How high a line is that words stand in depends on the page's font there.
+                return [name, x, name === "spnOne" ? "" : y, width, height].join(" ");
             };
             boxes.push(
                 await v.value(`["divContainer", "spnOne", "spnClock", "box1"].map(${boxOf})`),
