@@ -82,9 +82,9 @@ export const ruleChecks = [
             await wait(500);
             assert.match(await v.words(".shown"), /Welcome/);
             assert.ok(await v.own("canvas", () => true));
-            const said = await v.value(() => said);
-            if (tags.script.includes("async") && !said.length) continue; // it may come in time
-            assert.match(said.join("|"), /^[^|]*Mouse Cursor Trail[^|]*$/);
+            const lines = await v.value(() => said);
+            if (tags.script.includes("async") && !lines.length) continue; // it may come in time
+            assert.match(lines.join("|"), /^[^|]*Mouse Cursor Trail[^|]*$/);
         }
     }),
     check(null, "pause buttons stand on their pictures, or beside small ones", async (v) => {
