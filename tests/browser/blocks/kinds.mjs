@@ -408,3 +408,14 @@ export const kinds = [
         },
     },
 ];
+
+/** The style of Color Scrollbars for the page alone. */
+export const scrollbars = `<style data-orvane="scrollbars-1">
+html{scrollbar-color:#336699 #dde6ee;scrollbar-width:auto}
+body{scrollbar-color:auto}
+@supports not (scrollbar-color:auto){
+html::-webkit-scrollbar{width:16px;height:16px}
+html::-webkit-scrollbar-thumb{background:#336699}
+html::-webkit-scrollbar-track,html::-webkit-scrollbar-corner{background:#dde6ee}
+}
+</style>`;
