@@ -9,7 +9,7 @@ import { on } from "./start.js";
  */
 export function onLeaving(delay, run) {
     on(document, "click", (event) => {
-        const link = event.target.closest?.("a[href]");
+        const link = event.composedPath()[0].closest?.("a[href]");
         const { ctrlKey, shiftKey, metaKey, altKey, button, defaultPrevented } = event;
         if (!link || ctrlKey || shiftKey || metaKey || altKey || button || defaultPrevented) return;
         if ((link.target && link.target !== "_self") || link.hasAttribute("download")) return;

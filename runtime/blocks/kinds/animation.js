@@ -38,6 +38,8 @@ start("animation-1", (root) => {
     const length = field.change === "cut" ? 0 : Math.min(field.milliseconds / 2, 1000);
     decoded(frames).then((items) => {
         if (!items[1]) return;
+        // The first picture may be missing.
+        frames[0].className = "";
         const { run } = turns(
             items,
             { ...inOrder(items.length, field), pause: field.milliseconds - length },

@@ -5,7 +5,8 @@ import { dress, fields, look, make, place, rows, size, start } from "../start.js
 import { turns, turnsCss } from "../turns.js";
 
 const css =
-    ".box{display:flex;align-items:center;max-width:100%;box-sizing:border-box}.stage{flex:1;align-items:center}";
+    ".box{display:flex;align-items:center;max-width:100%;box-sizing:border-box}" +
+    ".stage{flex:1;align-items:center}@media print{.stage>li{grid-area:auto;opacity:1!important}}";
 
 start("message-1", (root) => {
     const field = fields(root, {

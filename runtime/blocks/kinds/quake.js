@@ -48,5 +48,5 @@ start("quake-1", (root) => {
     });
     if (field.when !== "click") shake();
     if (field.when !== "arrival")
-        on(document, "click", ({ target }) => target.closest?.("a") && shake());
+        on(document, "click", (event) => event.composedPath()[0].closest?.("a") && shake());
 });

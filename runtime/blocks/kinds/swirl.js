@@ -6,7 +6,7 @@ import { fields, look, start, words } from "../start.js";
 
 const css =
     lettersCss +
-    ".box{display:inline-flex;align-items:center}.text{display:inline-block}div.box{display:flex}" +
+    ".box{display:inline-flex;align-items:center}.text{display:inline-block}" +
     "@media screen and (forced-colors:none){@supports((-webkit-background-clip:text) and " +
     "(-webkit-text-fill-color:#0000)){.swirl{background:var(--swirl) 0 0/200% 100%;" +
     "-webkit-background-clip:text;background-clip:text;-webkit-text-fill-color:#0000}}}";
@@ -24,7 +24,10 @@ start("swirl-1", (root) => {
     });
     const colors = field.colors.split(/\s+/);
     const { text, box } = words(root, css + buttonCss, { ...field, textColor: colors[0] });
-    if (field.align) text.parentElement?.style.setProperty("justify-content", field.align);
+    if (field.align) {
+        box.style.display = "flex";
+        box.style.justifyContent = field.align;
+    }
     const timing = {
         duration: field.seconds * 1000,
         iterations: field.rounds || Infinity,

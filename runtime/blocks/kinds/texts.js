@@ -4,7 +4,9 @@ import { change } from "../change.js";
 import { dress, fields, look, make, place, rows, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
 
-const css = ".box{display:flex;align-items:center}.stage{flex:1}";
+const css =
+    ".box{display:flex;align-items:center}.stage{flex:1}" +
+    "@media print{.stage>li{grid-area:auto;opacity:1!important}}";
 
 start("texts-1", (root) => {
     const field = fields(root, {

@@ -1,17 +1,20 @@
 /**
- * Runs every scenario for every block in each browser, with and without a doctype. `CHECK` limits
- * the kinds and scenarios; the bundles and the page script are in the folder that is named first.
+ * Runs every scenario for every block in each browser, with and without a doctype; with `cost` it
+ * measures them in Chromium instead. `CHECK` limits the kinds and scenarios; the bundles and the
+ * page script are in the folder that is named first.
  */
 import { readFileSync } from "node:fs";
 import { launch, names } from "../page_script/browsers.mjs";
 import { serve } from "../page_script/server.mjs";
-import { kinds } from "./kinds.mjs";
-import { pageOf, scenarios, setUp } from "./scenarios.mjs";
+import { kinds, scrollbars } from "./kinds.mjs";
+import { cost, pageOf, scenarios, seesScrollbars, setUp } from "./scenarios.mjs";
 
 const place = process.argv[2];
-const asked = names.filter(
-    (name) => !names.some((n) => process.argv.includes(n)) || process.argv.includes(name),
-);
+const asked = process.argv.includes("cost")
+    ? ["chromium"]
+    : names.filter(
+          (name) => !names.some((n) => process.argv.includes(n)) || process.argv.includes(name),
+      );
 const only = new RegExp(process.env.CHECK ?? "");
 const axe = readFileSync(`${place}/node_modules/axe-core/axe.min.js`, "utf8");
 
@@ -37,7 +40,7 @@ async function faultOf(browser, row, scenario, doctype) {
         await tab.goto(`${server.at}page.html`, { waitUntil: "load", timeout: 30000 });
     };
     try {
-        await scenario.run({ open, row, tab, axe, requests });
+        await scenario.run({ open, row, tab, axe, requests, doctype });
         if (errors.length) throw errors[0];
         return null;
     } catch (error) {
@@ -47,18 +50,32 @@ async function faultOf(browser, row, scenario, doctype) {
     }
 }
 
+/** The scrollbars as a row with one scenario; it has no block. */
+const bars = { kind: "scroller", block: "" };
+const barsSeen = {
+    name: "color scrollbars",
+    run: ({ open, tab }) => open({ head: scrollbars }).then(() => seesScrollbars(tab)),
+};
+const all = kinds.flatMap((row) => scenarios.map((scenario) => [row, scenario]));
+
 for (const name of asked) {
     const browser = await launch(place, name);
-    for (const row of kinds)
-        for (const scenario of scenarios)
-            for (const doctype of [true, false]) {
-                const title = `${name}, ${doctype ? "with" : "without"} doctype, ${row.kind}: ${scenario.name}`;
-                if (!only.test(title)) continue;
-                const fault = await faultOf(browser, row, scenario, doctype);
-                if (!fault) continue;
-                failed++;
-                console.error(`FAILED ${title}\n${fault.stack}`);
-            }
+    const print = ({ kind }) => ({
+        run: async (told) => console.log(`${kind}: ${(await cost(told)).toFixed(1)} ms a second`),
+    });
+    const runs = process.argv.includes("cost")
+        ? kinds.map((row) => [row, print(row)])
+        : [...all, [bars, barsSeen]];
+    for (const [row, scenario] of runs)
+        for (const doctype of [true, false]) {
+            const form = doctype ? "with" : "without";
+            const title = `${name}, ${form} doctype, ${row.kind}: ${scenario.name}`;
+            if (!only.test(title)) continue;
+            const fault = await faultOf(browser, row, scenario, doctype);
+            if (!fault) continue;
+            failed++;
+            console.error(`FAILED ${title}\n${fault.stack}`);
+        }
     await browser.close();
 }
 server.close();

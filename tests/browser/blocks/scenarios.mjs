@@ -134,8 +134,8 @@ export const scenarios = [
         },
     },
     {
-        name: "as little motion as possible",
-        async run({ open, row, tab }) {
+        name: "as little motion as possible, until the visitor lets it play and stops it",
+        async run({ open, row, tab, doctype }) {
             await open({ before: reduced });
             await wait(1000);
             assert.equal(await quiet(tab, row), "0 animations, 0 timers");
@@ -150,7 +150,7 @@ export const scenarios = [
             await tab.evaluate(() => inside("button").click());
             await wait(200);
             assert.notEqual(await quiet(tab, row), "0 animations, 0 timers");
-            await tab.evaluate(() => wish(true));
+            await tab.evaluate((stops) => (stops ? inside("button").click() : wish(true)), doctype);
             await wait(1000);
             assert.equal(await quiet(tab, row), "0 animations, 0 timers");
         },
@@ -182,6 +182,23 @@ export const scenarios = [
         },
     },
 ];
+
+/** The page's scrollbars have their colours, and boxes on it have not. */
+export async function seesScrollbars(tab) {
+    const colors = await tab.evaluate(() =>
+        [document.documentElement, document.body].map((e) => getComputedStyle(e).scrollbarColor),
+    );
+    assert.equal(colors, ["rgb(51, 102, 153) rgb(221, 230, 238)", "auto"]);
+}
+
+/** How many milliseconds of a second the main thread is busy with a block. */
+export async function cost({ open, tab }) {
+    await open();
+    await wait(1500);
+    const before = (await tab.metrics()).TaskDuration;
+    await wait(3000);
+    return ((await tab.metrics()).TaskDuration - before) / 0.003;
+}
 
 /** The text of a page with a row's block. */
 export function pageOf(
