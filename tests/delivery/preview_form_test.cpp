@@ -357,7 +357,8 @@ TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndTheLoginsScriptAndEmpti
 {
     m_payload = {.Kind = EffectKind::PasswordServer,
                  .BODYHTML = u"password.cgi",
-                 .SupportFiles = {u"password.cgi"}};
+                 .SupportFiles = {u"password.cgi"},
+                 .MadeFiles = {{u"password.cgi", "secret", true}}};
     m_desk.Files.Contents[u"/program/password.cgi"] = "secret";
     Open();
     EXPECT_TRUE(m_desk.Files.Contents.contains(u"/program/password.cgi"));
