@@ -2,6 +2,8 @@
 
 #include "core/numbers.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
@@ -34,10 +36,11 @@ FieldTexts TextsOf(const std::vector<Text>& value)
 FieldTexts TextsOf(const RequiredFiles& value)
 {
     FieldTexts texts;
-    for (std::size_t slot = 0; slot < value.Names.size(); ++slot)
-        if (!value.Names[slot].empty() || !value.Sources[slot].empty())
-            texts.insert(texts.end(), {NumberToText(static_cast<int>(slot)), value.Names[slot],
-                                       value.Sources[slot]});
+    for (std::size_t slot = 0; slot < value.RequiredFileNames.size(); ++slot)
+        if (!value.RequiredFileNames[slot].empty() || !value.RequiredFileSources[slot].empty())
+            texts.insert(texts.end(),
+                         {NumberToText(static_cast<int>(slot)), value.RequiredFileNames[slot],
+                          value.RequiredFileSources[slot]});
     return texts;
 }
 
@@ -74,11 +77,14 @@ void SetField(RequiredFiles& value, const FieldTexts& texts)
     value = {};
     for (std::size_t i = 0; i + 2 < texts.size(); i += 3) {
         const double number = Val(texts[i]);
-        if (number < 0 || number >= static_cast<double>(value.Names.size()))
+        if (number < 0 || number >= static_cast<double>(value.RequiredFileNames.size()))
             continue;
         const auto slot = static_cast<std::size_t>(number);
-        value.Names[slot] = texts[i + 1];
-        value.Sources[slot] = texts[i + 2];
+        value.RequiredFileNames[slot] = texts[i + 1];
+        value.RequiredFileSources[slot] = texts[i + 2];
+        if (!texts[i + 1].empty())
+            value.RequiredFileCount =
+                std::max(value.RequiredFileCount, static_cast<std::int16_t>(slot + 1));
     }
 }
 

@@ -4,7 +4,9 @@
 #include "core/payload.h"
 #include "core/text.h"
 
+#include <array>
 #include <concepts>
+#include <cstddef>
 #include <type_traits>
 #include <vector>
 
@@ -15,6 +17,9 @@ struct FieldName
 {
     ControlName Name;
     bool IsSecret = false; ///< its value is never kept in a draft
+    /// Of rows: the names under which a draft keeps their second field and those that follow.
+    /// Empty: it keeps all fields under `Name`, one row after the other.
+    std::array<ControlName, 4> Others = {};
 
     constexpr FieldName(const char* name, bool isSecret = false) : Name(name), IsSecret(isSecret) {}
 };
@@ -25,16 +30,26 @@ constexpr FieldName Secret(const char* name)
     return {name, true};
 }
 
+/// Names rows whose fields a draft keeps apart: those of a row in their order, of which the first
+/// is that of the list box. At most five.
+template <class... Names>
+constexpr FieldName Lists(const char* first, Names... others)
+{
+    FieldName name(first);
+    name.Others = {others...};
+    return name;
+}
+
 /// Accepts `Effect` and `const Effect`, so that one `ForEachField` serves both.
 template <class Given, class Effect>
 concept ConstOr = std::same_as<std::remove_const_t<Given>, Effect>;
 
 /// A field's value as texts: one for a single value, one for each entry of a list. Each type that a
-/// field can have has a pair of functions: TextsOf() gives its texts, and SetField() sets the value
-/// from them.
+/// field can have, but for rows, has a pair of functions: TextsOf() gives its texts, and SetField()
+/// sets the value from them.
 /// Where the texts do not make a value, SetField() leaves a Text, bool or int as it is; an int
-/// takes -32768 to 32767. Lists are replaced by what the texts hold, and files without a valid slot
-/// are left out.
+/// takes -32768 to 32767. Lists are replaced by what the texts hold, files without a valid slot are
+/// left out, and their count is then behind the last one that has a name.
 using FieldTexts = std::vector<Text>;
 
 FieldTexts TextsOf(const Text& value);
@@ -66,5 +81,74 @@ void SetField(Choice& value, const FieldTexts& texts)
     SetField(number, texts);
     value = static_cast<Choice>(number);
 }
+
+/// Stands for whatever is called with the fields of a struct.
+struct AnyField
+{
+    void operator()(const FieldName&, const auto&) const {}
+};
+
+/// A struct beside which ForEachField stands, such as the row of a list. It names the fields of a
+/// row by the controls of the window that edits one. Each field of a row has one text.
+template <class Row>
+concept HasFields = requires(const Row& row)
+{
+    ForEachField(row, AnyField());
+};
+
+template <HasFields Row>
+FieldTexts TextsOf(const Row& row)
+{
+    FieldTexts texts;
+    ForEachField(
+        row, [&](const FieldName&, const auto& value) { texts.push_back(TextsOf(value).front()); });
+    return texts;
+}
+
+/// Sets the fields from one text each; those behind the last text stay as they are.
+template <HasFields Row>
+void SetField(Row& row, const FieldTexts& texts)
+{
+    std::size_t place = 0;
+    ForEachField(row, [&](const FieldName&, auto& value) {
+        if (place < texts.size())
+            SetField(value, FieldTexts{texts[place++]});
+    });
+}
+
+/// A list of rows, each with the texts of its fields.
+using RowTexts = std::vector<FieldTexts>;
+
+/// Whether a field is a list of rows.
+template <class Value>
+inline constexpr bool isRows = false;
+template <HasFields Row>
+inline constexpr bool isRows<std::vector<Row>> = true;
+
+template <HasFields Row>
+RowTexts RowTextsOf(const std::vector<Row>& rows)
+{
+    RowTexts texts;
+    for (const Row& row : rows)
+        texts.push_back(TextsOf(row));
+    return texts;
+}
+
+template <HasFields Row>
+void SetRows(std::vector<Row>& rows, const RowTexts& texts)
+{
+    rows.assign(texts.size(), {});
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        SetField(rows[i], texts[i]);
+}
+
+/// An effect that keeps what the author picked for it, as `Required`.
+template <class Effect>
+concept HasRequiredFiles = requires(Effect& effect)
+{
+    {
+        effect.Required
+        } -> std::same_as<RequiredFiles&>;
+};
 
 } // namespace orvane

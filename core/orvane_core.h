@@ -37,19 +37,17 @@ struct OrvaneCore
     Text DefaultPath;          ///< the folder in which lists of images begin
     RegistryVariant IEVersion; ///< browser version, later the default browser's command
     EffectPayload Payload;
-    Text WizardParam;                   ///< the line `wizardParamLine`
-    Text SavedHEAD;                     ///< the delivered effect's EffectPayload::SavedHEAD
-    Text SavedBODY;                     ///< the same of SavedBODY
-    RequiredFiles Required;             ///< files collected by the wizard that is open
-    std::int16_t RequiredFileCount = 0; ///< the next free slot of `Required`; may go past its end
-    bool EditMode = false;              ///< the next wizard fills itself from pasted code
-    Text AppletText;                    ///< eight characters behind CODE= of the pasted tag
-    Text AppletTextAfterCODE;           ///< the first five of them
-    Text PastedApplet;                  ///< the whole pasted tag
-    Text ImageFolderMemo;               ///< where Browse found an image last
-    Text LinkFolderMemo;                ///< where Browse found a page to link to last
-    Text LastSoundFolder;               ///< where Browse found a sound last
-    Text BrowserPathChoice;             ///< the program that BrowseDialog() picked last
+    Text WizardParam;         ///< the line `wizardParamLine`
+    Text SavedHEAD;           ///< the delivered effect's EffectPayload::SavedHEAD
+    Text SavedBODY;           ///< the same of SavedBODY
+    bool EditMode = false;    ///< the next wizard fills itself from pasted code
+    Text AppletText;          ///< eight characters behind CODE= of the pasted tag
+    Text AppletTextAfterCODE; ///< the first five of them
+    Text PastedApplet;        ///< the whole pasted tag
+    Text ImageFolderMemo;     ///< where Browse found an image last
+    Text LinkFolderMemo;      ///< where Browse found a page to link to last
+    Text LastSoundFolder;     ///< where Browse found a sound last
+    Text BrowserPathChoice;   ///< the program that BrowseDialog() picked last
     Text RandomMode;
     bool TransitionsImageMode = false;
     Text ProgramFolder; ///< without a separator at its end

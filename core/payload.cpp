@@ -22,7 +22,7 @@ Text Attribute(TextView name, TextView function, TextView arguments)
 
 bool HasListedFile(const RequiredFiles& files)
 {
-    return std::any_of(files.Names.begin(), files.Names.end(),
+    return std::any_of(files.RequiredFileNames.begin(), files.RequiredFileNames.end(),
                        [](const Text& name) { return !name.empty(); });
 }
 

@@ -79,8 +79,9 @@ inline constexpr TextView CreditBanner =
 /// one file, with at most 51 files; an empty name is an unused index.
 struct RequiredFiles
 {
-    std::array<Text, 51> Names;   ///< as the page refers to them
-    std::array<Text, 51> Sources; ///< full paths; empty where the source is not known
+    std::array<Text, 51> RequiredFileNames;   ///< as the page refers to them
+    std::array<Text, 51> RequiredFileSources; ///< full paths; empty where the source is not known
+    std::int16_t RequiredFileCount = 0; ///< the next free index of a list; may go past the last one
     bool operator==(const RequiredFiles&) const = default;
 };
 

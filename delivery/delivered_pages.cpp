@@ -21,7 +21,7 @@ std::vector<Text> FilesOf(const FinishedPayload& payload)
                                         u"<BODY", payload.BODYAttribute, u">"}),
                                   PageEncoding::Utf8),
                     PageEncoding::Utf8);
-    for (const Text& required : effect.Required.Names)
+    for (const Text& required : effect.Required.RequiredFileNames)
         if (const auto name = NameBesidePage(required))
             AddOnce(names, *name);
     for (const Text& name : effect.SupportFiles)

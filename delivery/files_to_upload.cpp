@@ -36,7 +36,7 @@ std::vector<Text> ListedFiles(const FinishedPayload& payload)
 {
     std::vector<Text> list;
     if (payload.NeedsFiles)
-        AddNonEmpty(list, payload.Effect.Required.Names);
+        AddNonEmpty(list, payload.Effect.Required.RequiredFileNames);
     return list;
 }
 

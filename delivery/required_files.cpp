@@ -128,9 +128,10 @@ struct PickedFile
 std::vector<PickedFile> PickedFiles(const RequiredFiles& required)
 {
     std::vector<PickedFile> files;
-    for (std::size_t i = 0; i < required.Names.size(); ++i)
-        if (!required.Names[i].empty())
-            AddOnce(files, PickedFile{required.Names[i], required.Sources[i]});
+    for (std::size_t i = 0; i < required.RequiredFileNames.size(); ++i)
+        if (!required.RequiredFileNames[i].empty())
+            AddOnce(files,
+                    PickedFile{required.RequiredFileNames[i], required.RequiredFileSources[i]});
     return files;
 }
 
@@ -189,9 +190,10 @@ MissingFiles CopyForPreview(const CopyDesk& desk)
 Text CopyDesk::SourceOf(TextView name) const
 {
     const EffectPayload& effect = Payload.Effect;
-    for (std::size_t i = 0; i < effect.Required.Names.size(); ++i)
-        if (effect.Required.Names[i] == name && !effect.Required.Sources[i].empty())
-            return effect.Required.Sources[i];
+    for (std::size_t i = 0; i < effect.Required.RequiredFileNames.size(); ++i)
+        if (effect.Required.RequiredFileNames[i] == name &&
+            !effect.Required.RequiredFileSources[i].empty())
+            return effect.Required.RequiredFileSources[i];
     if (name == pageScriptFile ||
         std::ranges::find(effect.SupportFiles, name) != effect.SupportFiles.end())
         return PathIn(ProgramFolder, name);

@@ -30,7 +30,7 @@ Text MissingNames(const EffectPayload& effect, const FileStore& files, TextView 
         if (name && !files.FileExists(PathIn(folder, *name)))
             names += (names.empty() ? u"" : u", ") + *name;
     };
-    std::ranges::for_each(effect.Required.Names, add);
+    std::ranges::for_each(effect.Required.RequiredFileNames, add);
     std::ranges::for_each(effect.SupportFiles, add);
     return names;
 }

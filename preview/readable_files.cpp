@@ -39,7 +39,7 @@ std::vector<Text> ReadableFiles(const FinishedPayload& payload, const FileStore&
     const Text text = Join({effect.HEADHTML, u"\n", effect.BODYHTML, u"\n", payload.BODYAttribute});
     const auto isOfEffect = [&](const Text& name) {
         const auto isThis = [&](TextView other) { return other == name; };
-        return std::ranges::any_of(effect.Required.Names, isThis) ||
+        return std::ranges::any_of(effect.Required.RequiredFileNames, isThis) ||
                std::ranges::any_of(effect.SupportFiles, isThis) || name == pageScriptFile ||
                Names(text, name);
     };

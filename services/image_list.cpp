@@ -2,50 +2,22 @@
 
 #include "core/file_names.h"
 #include "core/numbers.h"
-#include "services/move_row.h"
 #include "services/recorded_files.h"
 
-#include <array>
-
 namespace orvane {
-
-namespace {
-
-constexpr std::array rowFields = {&ImageRow::FileName, &ImageRow::Pause, &ImageRow::Transition,
-                                  &ImageRow::URL, &ImageRow::Sound};
-
-Complaint CannotMove(TextView listInMessages, TextView end)
-{
-    return {.Words = Join({u"Select an item in the ", listInMessages, u" image list.  ", end}),
-            .Control = {}};
-}
-
-} // namespace
-
-FieldTexts TextsOf(const std::vector<ImageRow>& rows)
-{
-    FieldTexts texts;
-    for (const ImageRow& row : rows)
-        for (const auto field : rowFields)
-            texts.push_back(row.*field);
-    return texts;
-}
-
-void SetField(std::vector<ImageRow>& rows, const FieldTexts& texts)
-{
-    rows.assign(texts.size() / rowFields.size(), {});
-    for (std::size_t i = 0; i < rows.size() * rowFields.size(); ++i)
-        rows[i / rowFields.size()].*rowFields[i % rowFields.size()] = texts[i];
-}
 
 ImageListVariation AnimatorImageList()
 {
     return {
-        .Columns = {{"List1", u"Animation Image List", &ImageRow::FileName},
-                    {"List3", u"Pause", &ImageRow::Pause},
-                    {"List4", u"Transistion", &ImageRow::Transition},
-                    {"List5", u"URL", &ImageRow::URL},
-                    {"List6", u"Sound", &ImageRow::Sound}},
+        .Columns = {{"List1", u"Animation Image List"},
+                    {"List3", u"Pause"},
+                    {"List4", u"Transistion"},
+                    {"List5", u"URL"},
+                    {"List6", u"Sound"}},
+        .Words = {.CannotMoveUp = u"Select an item in the Animation image list.  You cannot move "
+                                  u"the first image upward.",
+                  .CannotMoveDown = u"Select an item in the Animation image list.  You cannot move "
+                                    u"the last image downward."},
         .AddTip = u"Click here to add the selected image to the list",
         .FilesTip = u"Doubleclick to add an image to the Animation Image List",
         .RowTip = u"Double-click to set image properties",
@@ -56,58 +28,22 @@ ImageListVariation AnimatorImageList()
 ImageListVariation SlideshowImageList()
 {
     return {
-        .Columns = {{"List1", u"Slideshow Image List", &ImageRow::FileName}},
+        .Columns = {{"List1", u"Slideshow Image List"}},
+        .Words = {.CannotMoveUp = u"Select an item in the Slideshow image list.  You cannot move "
+                                  u"the first image upward.",
+                  .CannotMoveDown = u"Select an item in the Slideshow image list.  You cannot move "
+                                    u"the last image downward."},
         .AddButton = "cmdAddImageToList",
         .AddCaption = u"&Add Image to List  --->",
-        .ListInMessages = u"Slideshow",
         .PreviewFrame = u"Preview Image",
     };
 }
 
-std::size_t PlaceToAdd(const ImageList& list)
-{
-    const bool goesInFront = list.Selected && *list.Selected + 1 < list.Rows.size();
-    return goesInFront ? *list.Selected : list.Rows.size();
-}
-
-std::optional<Complaint> AddImageToList(ImageList& list, OrvaneCore& core, std::size_t place,
-                                        TextView folder, TextView fileName)
+std::optional<Complaint> RecordImage(RequiredFiles& files, TextView folder, TextView fileName)
 {
     if (auto complaint = CheckNoBlank(Trim(fileName), FileRole::Image))
         return complaint;
-    const bool isAtEnd = place == list.Rows.size();
-    list.Rows.insert(list.Rows.begin() + static_cast<std::ptrdiff_t>(place),
-                     ImageRow{.FileName = Text(fileName)});
-    if (isAtEnd)
-        list.Selected = place;
-    else if (list.Selected && *list.Selected >= place)
-        ++*list.Selected;
-    RecordRequiredFile(core, PathIn(folder, fileName), fileName);
-    return std::nullopt;
-}
-
-void DeleteRow(ImageList& list)
-{
-    if (!list.Selected)
-        return;
-    list.Rows.erase(list.Rows.begin() + static_cast<std::ptrdiff_t>(*list.Selected));
-    if (*list.Selected >= list.Rows.size())
-        list.Selected.reset();
-}
-
-std::optional<Complaint> MoveUp(ImageList& list, TextView listInMessages)
-{
-    if (!list.Selected || *list.Selected == 0)
-        return CannotMove(listInMessages, u"You cannot move the first image upward.");
-    MoveSelectedTo(list, *list.Selected - 1);
-    return std::nullopt;
-}
-
-std::optional<Complaint> MoveDown(ImageList& list, TextView listInMessages)
-{
-    if (!list.Selected || *list.Selected + 1 >= list.Rows.size())
-        return CannotMove(listInMessages, u"You cannot move the last image downward.");
-    MoveSelectedTo(list, *list.Selected + 1);
+    RecordRequiredFile(files, PathIn(folder, fileName), fileName);
     return std::nullopt;
 }
 

@@ -31,7 +31,7 @@ void TakeImage(Effect& effect, const PickedImage& image)
     effect.ImageFile = GetFileName(image.Path);
     effect.ImageWidth = NumberToText(image.Size->Width);
     effect.ImageHeight = NumberToText(image.Size->Height);
-    effect.Required.Sources[0] = image.Path;
+    effect.Required.RequiredFileSources[0] = image.Path;
 }
 
 } // namespace orvane

@@ -18,60 +18,45 @@ std::optional<Complaint> CheckNoBlank(TextView fileName, FileRole role)
                       {Text(fileName)});
 }
 
-void ClearRequiredFiles(OrvaneCore& core)
+void RecordRequiredFile(RequiredFiles& files, TextView source, TextView name)
 {
-    core.Required = {};
-    core.RequiredFileCount = 0;
-    core.Payload.SupportFiles = {};
-}
-
-void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name)
-{
-    const auto slot = static_cast<std::size_t>(core.RequiredFileCount);
-    if (slot < core.Required.Names.size()) {
-        core.Required.Sources[slot] = source;
-        core.Required.Names[slot] = name;
+    const auto slot = static_cast<std::size_t>(files.RequiredFileCount);
+    if (slot < files.RequiredFileNames.size()) {
+        files.RequiredFileSources[slot] = source;
+        files.RequiredFileNames[slot] = name;
     }
-    if (core.RequiredFileCount < std::numeric_limits<std::int16_t>::max())
-        ++core.RequiredFileCount;
+    if (files.RequiredFileCount < std::numeric_limits<std::int16_t>::max())
+        ++files.RequiredFileCount;
 }
 
-Text SourceOf(const OrvaneCore& core, TextView name)
+Text SourceOf(const RequiredFiles& files, TextView name)
 {
-    for (std::size_t slot = core.Required.Names.size(); slot-- > 0;)
-        if (!name.empty() && core.Required.Names[slot] == name)
-            return core.Required.Sources[slot];
+    for (std::size_t slot = files.RequiredFileNames.size(); slot-- > 0;)
+        if (!name.empty() && files.RequiredFileNames[slot] == name)
+            return files.RequiredFileSources[slot];
     return {};
-}
-
-void SetRequiredFileCount(OrvaneCore& core)
-{
-    std::size_t count = core.Required.Names.size();
-    while (count > 0 && core.Required.Names[count - 1].empty())
-        --count;
-    core.RequiredFileCount = static_cast<std::int16_t>(count);
 }
 
 void RequireFile(RequiredFiles& files, std::size_t slot, TextView name)
 {
-    files.Names.at(slot) = name;
-    Text& source = files.Sources.at(slot);
+    files.RequiredFileNames.at(slot) = name;
+    Text& source = files.RequiredFileSources.at(slot);
     if (name.empty() || GetFileName(source) != name)
         source.clear();
 }
 
 void RequireBrowsedFile(RequiredFiles& files, std::size_t slot, TextView name)
 {
-    files.Names.at(slot) = name;
+    files.RequiredFileNames.at(slot) = name;
     if (name.empty())
-        files.Sources.at(slot).clear();
+        files.RequiredFileSources.at(slot).clear();
 }
 
 Text RequirePath(RequiredFiles& files, std::size_t slot, TextView path)
 {
     const Text name(GetFileName(path));
-    files.Names.at(slot) = name;
-    files.Sources.at(slot) = name.empty() || name == path ? Text() : Text(path);
+    files.RequiredFileNames.at(slot) = name;
+    files.RequiredFileSources.at(slot) = name.empty() || name == path ? Text() : Text(path);
     return name;
 }
 

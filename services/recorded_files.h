@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
-#include "core/orvane_core.h"
+#include "core/payload.h"
 
 #include <cstddef>
 #include <optional>
@@ -19,19 +19,12 @@ enum class FileRole
 /// for effects whose tags allow no blank.
 std::optional<Complaint> CheckNoBlank(TextView fileName, FileRole role);
 
-/// Forgets all recorded files, and the support files of the payload.
-void ClearRequiredFiles(OrvaneCore& core);
-
-/// Records a file in the next free slot of the required files. When all slots are used it is not
-/// recorded, but still counted.
-void RecordRequiredFile(OrvaneCore& core, TextView source, TextView name);
+/// Records a file in the next free slot. When all slots are used it is not recorded, but still
+/// counted.
+void RecordRequiredFile(RequiredFiles& files, TextView source, TextView name);
 
 /// The source of the file of that name, as it was recorded last; empty when it was not.
-Text SourceOf(const OrvaneCore& core, TextView name);
-
-/// Counts the required files anew after they were filled in another way: the next free slot is the
-/// one behind the last that has a name.
-void SetRequiredFileCount(OrvaneCore& core);
+Text SourceOf(const RequiredFiles& files, TextView name);
 
 /// Puts the file name of a field into a slot. The source that Browse left in the slot stays only if
 /// it is the path of that file; a typed name, or an empty one, has no source. Throws

@@ -29,8 +29,10 @@ void Browse(Workbench& bench, QLineEdit& field, const BrowseRule& rule)
         bench.Core.*rule.Folder = FolderOf(*path);
     field.setText(ToQt(rule.KeepsPath ? TextView(*path) : name));
     RememberPicked(field, *path);
-    if (rule.Slot)
-        bench.Core.Required.Sources.at(*rule.Slot) = *path;
+    if (rule.Source != nullptr)
+        *rule.Source = *path;
+    if (rule.GivesFocus)
+        field.setFocus(Qt::OtherFocusReason);
     if (rule.Then)
         rule.Then(*path);
 }

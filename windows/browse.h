@@ -23,14 +23,16 @@ struct BrowseRule
     /// the dialog starts where the request says, and nothing is stored.
     Text OrvaneCore::*Folder = nullptr;
     std::optional<FileRole> NoBlanks = {}; ///< refuses a blank in the name of such a file
-    std::optional<std::size_t> Slot = {};  ///< index in `Required` at which the path is recorded
+    Text* Source =
+        nullptr; ///< takes the path; one of the window's RequiredFileSources. May be null
     /// Called first with the picked path; false refuses it. Null admits every path.
     std::function<bool(const Text& path)> Admits = {};
     /// Called with the path once the field holds the file's name. May be null.
     std::function<void(const Text& path)> Then = {};
     /// Called with an admitted path in place of all the steps below Admits. May be null.
     std::function<void(const Text& path)> Instead = {};
-    bool KeepsPath = false; ///< the field takes the full path instead of the bare name
+    bool KeepsPath = false;  ///< the field takes the full path instead of the bare name
+    bool GivesFocus = false; ///< the field gets the focus once it holds the file's name
 };
 
 /// The button that lets the author pick a file for the field, by the rule; it has no parent yet. A

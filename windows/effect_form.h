@@ -28,17 +28,21 @@ public:
     Effect Parameters() const
     {
         Effect effect;
-        ForEachField(effect, [this](FieldName name, auto& value) {
-            SetField(value, m_controls.Read(name.Name));
+        ForEachField(effect, [this](const FieldName& name, auto& value) {
+            m_controls.Read(name.Name, value);
         });
+        if constexpr (HasRequiredFiles<Effect>)
+            effect.Required = m_files;
         return effect;
     }
 
     /// Shows these values in the controls.
     void SetParameters(const Effect& effect)
     {
-        ForEachField(effect, [this](FieldName name, const auto& value) {
-            m_controls.Write(name.Name, TextsOf(value));
+        if constexpr (HasRequiredFiles<Effect>)
+            m_files = effect.Required;
+        ForEachField(effect, [this](const FieldName& name, const auto& value) {
+            m_controls.Write(name.Name, value);
         });
         UpdateForm();
     }
@@ -70,7 +74,7 @@ protected:
     /// `kind` is one of the effect's kinds.
     EffectForm(ControlName name, Workbench& bench, QWidget* parent,
                EffectKind kind = Effect::Kinds.front())
-        : PagedForm(name, kind, bench, parent), m_controls(*this, bench), m_freshKind(kind)
+        : PagedForm(name, kind, bench, parent), m_controls(*this), m_freshKind(kind)
     {
     }
 
@@ -127,6 +131,9 @@ protected:
             Remember(effect, m_bench.Settings);
         Deliver(PayloadOf(effect, SurroundingsOf(m_bench)));
     }
+
+    /// What Browse buttons and lists of images recorded: the effect's `Required`, where it has one.
+    RequiredFiles m_files;
 
     Text Draft() const override { return WriteDraft(Parameters()); }
 

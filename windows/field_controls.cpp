@@ -1,7 +1,6 @@
 #include "windows/field_controls.h"
 
 #include "windows/color_swatch.h"
-#include "windows/image_list_panel.h"
 #include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
@@ -14,12 +13,11 @@
 #include <QSlider>
 
 #include <stdexcept>
+#include <utility>
 
 namespace orvane {
 
 namespace {
-
-constexpr ControlName requiredFiles = "Required";
 
 QRadioButton* Member(const QWidget& window, ControlName group, int index)
 {
@@ -51,7 +49,7 @@ void ChooseOption(const QWidget& window, ControlName group, int chosen)
 RowListPanel* PanelOf(const QWidget& window, ControlName list)
 {
     for (auto* panel : window.findChildren<RowListPanel*>())
-        if (panel->HasColumn(list))
+        if (panel->Name() == list)
             return panel;
     return nullptr;
 }
@@ -98,24 +96,24 @@ void SetText(QWidget& control, TextView text)
 
 bool FieldControls::Has(ControlName name) const
 {
-    return name == requiredFiles || m_window.findChild<QWidget*>(ToQt(name)) != nullptr ||
+    return m_window.findChild<QWidget*>(ToQt(name)) != nullptr ||
            Member(m_window, name, 0) != nullptr;
 }
 
-FieldTexts FieldControls::Read(ControlName name) const
+RowTexts FieldControls::Rows(ControlName name) const
 {
-    if (name == requiredFiles)
-        return TextsOf(m_bench.Core.Required);
+    if (const auto* panel = PanelOf(m_window, name))
+        return panel->Rows();
+    throw std::logic_error("a field has no list");
+}
+
+FieldTexts FieldControls::Texts(ControlName name) const
+{
     if (Member(m_window, name, 0) != nullptr)
         return TextsOf(ChosenOption(m_window, name));
-    if (const auto* panel = PanelOf(m_window, name))
-        return panel->Column(name);
     const auto* control = m_window.findChild<QWidget*>(ToQt(name));
     if (control == nullptr)
         throw std::logic_error("a field has no control");
-    if (const auto* images = m_window.findChild<ImageListPanel*>();
-        images != nullptr && images->isAncestorOf(control))
-        return TextsOf(images->Rows());
     if (const auto* tick = qobject_cast<const QCheckBox*>(control))
         return TextsOf(tick->isChecked());
     if (const auto* slider = qobject_cast<const QSlider*>(control))
@@ -123,23 +121,19 @@ FieldTexts FieldControls::Read(ControlName name) const
     return {TextOf(*control)};
 }
 
-void FieldControls::Write(ControlName name, const FieldTexts& texts)
+void FieldControls::ShowRows(ControlName name, RowTexts rows)
+{
+    if (auto* panel = PanelOf(m_window, name))
+        panel->SetRows(std::move(rows));
+}
+
+void FieldControls::Show(ControlName name, const FieldTexts& texts)
 {
     auto* control = m_window.findChild<QWidget*>(ToQt(name));
-    auto* images = m_window.findChild<ImageListPanel*>();
-    if (name == requiredFiles) {
-        SetField(m_bench.Core.Required, texts);
-        SetRequiredFileCount(m_bench.Core);
-    } else if (Member(m_window, name, 0) != nullptr) {
+    if (Member(m_window, name, 0) != nullptr) {
         int chosen = -1;
         SetField(chosen, texts);
         ChooseOption(m_window, name, chosen);
-    } else if (auto* panel = PanelOf(m_window, name)) {
-        panel->SetColumn(name, texts);
-    } else if (control != nullptr && images != nullptr && images->isAncestorOf(control)) {
-        std::vector<ImageRow> rows;
-        SetField(rows, texts);
-        images->SetRows(std::move(rows));
     } else if (auto* tick = qobject_cast<QCheckBox*>(control)) {
         bool isOn = tick->isChecked();
         SetField(isOn, texts);

@@ -2,11 +2,9 @@
 
 #include "core/file_names.h"
 #include "services/file_complaints.h"
-#include "services/move_row.h"
 #include "services/recorded_files.h"
 #include "windows/file_drop.h"
 #include "windows/folder_boxes.h"
-#include "windows/parallel_lists.h"
 #include "windows/picture.h"
 #include "windows/qt_text.h"
 #include "windows/row_list_panel.h"
@@ -17,9 +15,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace orvane {
 
@@ -27,31 +26,30 @@ namespace {
 
 constexpr QSize previewRoom(150, 110);
 
-std::vector<ListColumn> ColumnsOf(const ImageListVariation& variation)
+RowListLook LookOf(const ImageListVariation& variation)
 {
-    std::vector<ListColumn> columns;
-    for (const ImageListColumn& column : variation.Columns)
-        columns.push_back({column.Name, column.Header});
-    return columns;
+    const bool areEnabled = !variation.EnablesButtonsOnAdd;
+    return {.Columns = variation.Columns,
+            .Words = variation.Words,
+            .Buttons = {{RowCommand::MoveUp, "cmdMoveUp", u"Move Up", {}, areEnabled},
+                        {RowCommand::MoveDown, "cmdMoveDown", u"Move Down", {}, areEnabled},
+                        {RowCommand::Remove, "cmdDelete", u"Delete", {}, areEnabled}},
+            .RowTip = variation.RowTip,
+            .HasButtonsBelow = true};
 }
 
 } // namespace
 
-ImageListPanel::ImageListPanel(Workbench& bench, const ImageListVariation& variation,
-                               QWidget* parent)
-    : QWidget(parent), m_bench(bench), m_variation(variation)
+ImageListPanel::ImageListPanel(Workbench& bench, RequiredFiles& files,
+                               const ImageListVariation& variation, QWidget* parent)
+    : QWidget(parent), m_bench(bench), m_files(files), m_variation(variation)
 {
-    ClearRequiredFiles(m_bench.Core);
     m_boxes = new FolderBoxes(m_bench.Files, {"Drive1", "Dir1", "File1"}, imageMasks);
     m_boxes->GoTo(m_bench.Core.DefaultPath);
     m_boxes->FileBox()->setToolTip(ToQt(variation.FilesTip));
     m_boxes->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     cmdAdd = MakeButton(variation.AddButton, variation.AddCaption, variation.AddTip);
-    m_lists = new ParallelLists(ColumnsOf(variation), variation.RowTip);
-    cmdMoveUp = MakeButton("cmdMoveUp", u"Move Up", TipOf(RowCommand::MoveUp));
-    cmdMoveDown = MakeButton("cmdMoveDown", u"Move Down", TipOf(RowCommand::MoveDown));
-    cmdDelete = MakeButton("cmdDelete", u"Delete", TipOf(RowCommand::Remove));
-    EnableListButtons(!variation.EnablesButtonsOnAdd);
+    m_list = new RowListPanel(LookOf(variation), bench.Dialogs);
     Arrange();
     Connect();
 }
@@ -77,18 +75,11 @@ void ImageListPanel::Arrange()
     middle->addStretch(1);
     if (!m_variation.PreviewFrame.empty())
         middle->addWidget(MakePreview());
-    auto* buttons = new QHBoxLayout;
-    for (QPushButton* button : {cmdMoveUp, cmdMoveDown, cmdDelete})
-        buttons->addWidget(button);
-    buttons->addStretch(1);
-    auto* right = new QVBoxLayout;
-    right->addWidget(m_lists, 1);
-    right->addLayout(buttons);
     auto* all = new QHBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(m_boxes, 2);
     all->addLayout(middle);
-    all->addLayout(right, m_variation.Columns.size() > 1 ? 5 : 2);
+    all->addWidget(m_list, m_variation.Columns.size() > 1 ? 5 : 2);
 }
 
 void ImageListPanel::Connect()
@@ -100,76 +91,29 @@ void ImageListPanel::Connect()
             LoadPictureOf(PathIn(m_boxes->Folder(), name));
     });
     connect(m_boxes, &FolderBoxes::FileActivated, this, &ImageListPanel::AddImageToList);
-    connect(new FileDrop(*m_lists, imageMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
+    connect(new FileDrop(*m_list, imageMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
             &ImageListPanel::AddFiles);
     connect(cmdAdd, &QPushButton::clicked, this, &ImageListPanel::AddSelectedFiles);
-    connect(cmdMoveUp, &QPushButton::clicked, this,
-            [this] { Tell(MoveUp(m_list, m_variation.ListInMessages)); });
-    connect(cmdMoveDown, &QPushButton::clicked, this,
-            [this] { Tell(MoveDown(m_list, m_variation.ListInMessages)); });
-    connect(cmdDelete, &QPushButton::clicked, this, &ImageListPanel::Remove);
-    connect(m_lists, &ParallelLists::RowDeleted, this, &ImageListPanel::Remove);
-    connect(m_lists, &ParallelLists::MoveWanted, this, [this](int place) {
-        MoveSelectedTo(m_list, static_cast<std::size_t>(place));
-        ShowList();
-    });
-    connect(m_lists, &ParallelLists::RowSelected, this, [this](int row) {
-        m_list.Selected = row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
-        ShowPictureOfRow();
-        emit RowSelected();
-    });
-    connect(m_lists, &ParallelLists::MenuRequested, this, [this](QPoint place) {
-        if (m_list.Selected)
-            emit MenuRequested(place);
-    });
-}
-
-void ImageListPanel::connectNotify(const QMetaMethod& signal)
-{
-    if (signal == QMetaMethod::fromSignal(&ImageListPanel::RowActivated))
-        connect(m_lists, &ParallelLists::RowActivated, this, &ImageListPanel::RowActivated,
-                Qt::UniqueConnection);
+    connect(m_list, &RowListPanel::RowSelected, this, &ImageListPanel::ShowPictureOfRow);
+    if (m_variation.EnablesButtonsOnAdd)
+        connect(m_list, &RowListPanel::RowsChanged, this, [this] {
+            if (!m_list->Rows().empty())
+                m_list->EnableButtons();
+        });
 }
 
 void ImageListPanel::keyPressEvent(QKeyEvent* event)
 {
-    if (!event->matches(QKeySequence::Undo))
-        return QWidget::keyPressEvent(event);
-    if (!m_removed.PutBack(m_list))
-        return;
-    ShowList();
-    ShowPictureOfRow();
-    emit RowSelected();
-}
-
-void ImageListPanel::Remove()
-{
-    if (m_list.Selected)
-        m_removed.Keep(*m_list.Selected, m_list.Rows[*m_list.Selected]);
-    DeleteRow(m_list);
-    ShowList();
+    if (event->matches(QKeySequence::Undo))
+        m_list->PutRowBack();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void ImageListPanel::SetSizeFields(QLineEdit* width, QLineEdit* height)
 {
     m_width = width;
     m_height = height;
-}
-
-void ImageListPanel::SetRows(std::vector<ImageRow> rows)
-{
-    m_list = {.Rows = std::move(rows), .Selected = {}};
-    m_removed.Forget();
-    if (!m_list.Rows.empty())
-        EnableListButtons(true);
-    ShowList();
-}
-
-void ImageListPanel::SetRow(std::size_t index, ImageRow row)
-{
-    m_list.Rows.at(index) = std::move(row);
-    m_list.Selected = index;
-    ShowList();
 }
 
 /// A file that is no picture leaves the one before it and its size.
@@ -188,7 +132,7 @@ void ImageListPanel::ShowPictureOfRow()
     if (m_preview == nullptr)
         return;
     const Text path =
-        m_list.Selected ? SourceOf(m_bench.Core, m_list.Rows[*m_list.Selected].FileName) : Text();
+        m_list->Selected() ? SourceOf(m_files, m_list->SelectedRow().front()) : Text();
     const auto picture = LoadPicture(ToQt(path), previewRoom);
     m_preview->setPixmap(picture ? QPixmap::fromImage(picture->Thumbnail) : QPixmap());
 }
@@ -214,29 +158,27 @@ void ImageListPanel::AddFiles(const std::vector<Text>& paths)
 {
     // The buttons come alive even if the name is refused.
     if (m_variation.EnablesButtonsOnAdd)
-        EnableListButtons(true);
+        m_list->EnableButtons();
     FileComplaints refused;
-    std::size_t place = PlaceToAdd(m_list);
+    RowTexts rows;
     for (const Text& path : paths) {
-        if (const auto complaint = AddFile(path, place))
+        if (const auto complaint = Take(path))
             refused.Add(*complaint, Trim(GetFileName(path)));
         else
-            ++place;
+            rows.push_back(TextsOf(ImageRow{.FileName = Text(GetFileName(path))}));
     }
-    ShowList();
+    m_list->InsertRows(std::move(rows));
     const std::vector<Complaint> complaints = refused.All();
     if (!complaints.empty())
         ShowPictureOfRow(); // in place of a refused one
-    if (m_list.Selected)
-        emit RowSelected();
     for (const Complaint& complaint : complaints)
         m_bench.Dialogs.Say(complaint.Words, complaint.Look);
 }
 
-std::optional<Complaint> ImageListPanel::AddFile(const Text& path, std::size_t place)
+/// Records the file of an image and lets the size fields grow to it, or gives what speaks against.
+std::optional<Complaint> ImageListPanel::Take(const Text& path)
 {
-    if (auto complaint =
-            orvane::AddImageToList(m_list, m_bench.Core, place, FolderOf(path), GetFileName(path)))
+    if (auto complaint = RecordImage(m_files, FolderOf(path), GetFileName(path)))
         return complaint;
     LoadPictureOf(path);
     if (m_width == nullptr)
@@ -244,33 +186,6 @@ std::optional<Complaint> ImageListPanel::AddFile(const Text& path, std::size_t p
     m_width->setText(ToQt(GrownField(FromQt(m_width->text()), m_pictureSize.width())));
     m_height->setText(ToQt(GrownField(FromQt(m_height->text()), m_pictureSize.height())));
     return std::nullopt;
-}
-
-void ImageListPanel::ShowList()
-{
-    RowList rows{.Rows = {}, .Selected = m_list.Selected};
-    for (const ImageRow& image : m_list.Rows) {
-        std::vector<Text>& row = rows.Rows.emplace_back();
-        for (const ImageListColumn& column : m_variation.Columns)
-            row.push_back(image.*column.Field);
-    }
-    m_lists->Show(rows);
-    emit RowsChanged();
-}
-
-void ImageListPanel::EnableListButtons(bool isOn)
-{
-    for (QPushButton* button : {cmdMoveUp, cmdMoveDown, cmdDelete})
-        button->setEnabled(isOn);
-}
-
-/// Ends a command on the list: shows what became of it, or why nothing did.
-void ImageListPanel::Tell(const std::optional<Complaint>& complaint)
-{
-    if (complaint)
-        m_bench.Dialogs.Say(complaint->Words, complaint->Look);
-    else
-        ShowList();
 }
 
 } // namespace orvane

@@ -12,13 +12,6 @@ namespace orvane {
 
 class MovableList;
 
-/// One of several lists that show the same rows, each list one text of every row.
-struct ListColumn
-{
-    ControlName Name;
-    TextView Header;
-};
-
 /// Lists of the same rows, side by side under their headers. They scroll together, a row that is
 /// selected or dragged in one of them is so in all, and Tab stops at the first one only.
 class ParallelLists : public QWidget

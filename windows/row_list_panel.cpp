@@ -1,16 +1,18 @@
 #include "windows/row_list_panel.h"
 
-#include "services/move_row.h"
+#include "windows/parallel_lists.h"
 #include "windows/qt_text.h"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QPushButton>
-#include <QVBoxLayout>
 
-#include <algorithm>
+#include <utility>
 
 namespace orvane {
+
+namespace {
 
 TextView TipOf(RowCommand command)
 {
@@ -28,74 +30,82 @@ TextView TipOf(RowCommand command)
     return {};
 }
 
-RowListPanel::RowListPanel(std::vector<ListColumn> columns, const RowListWords& words,
-                           std::span<const RowButton> buttons, Dialogs& dialogs, QWidget* parent)
+} // namespace
+
+RowListPanel::RowListPanel(const RowListLook& look, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent),
       m_dialogs(dialogs),
-      m_columns(columns),
-      m_words(words),
-      m_lists(new ParallelLists(std::move(columns), {}))
+      m_look(look),
+      m_lists(new ParallelLists(look.Columns, look.RowTip))
 {
-    auto* column = new QVBoxLayout;
-    int place = 0;
-    for (const RowButton& button : buttons) {
+    Arrange();
+    Connect();
+    Refresh();
+}
+
+void RowListPanel::Arrange()
+{
+    const bool isBelow = m_look.HasButtonsBelow;
+    auto* buttons = new QBoxLayout(isBelow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    for (int index = 0; const RowButton& button : m_look.Buttons) {
         QPushButton* control = MakeButton(button.Name, button.Caption,
                                           button.Tip.empty() ? TipOf(button.Command) : button.Tip);
         connect(control, &QPushButton::clicked, this,
-                [this, command = button.Command, index = place++] { Run(command, index); });
+                [this, button, index] { Run(button, index); });
         if (button.Command != RowCommand::Add && !button.StaysEnabled)
             m_rowButtons.push_back(control);
-        column->addWidget(control);
+        buttons->addWidget(control);
+        ++index;
     }
-    column->addStretch(1);
-    auto* all = new QHBoxLayout(this);
+    buttons->addStretch(1);
+    auto* all = new QBoxLayout(isBelow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(m_lists, 1);
-    all->addLayout(column);
+    all->addLayout(buttons);
+}
+
+void RowListPanel::Connect()
+{
     connect(m_lists, &ParallelLists::RowSelected, this, [this](int row) {
         m_list.Selected = row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
+        emit RowSelected();
     });
-    connect(m_lists, &ParallelLists::RowActivated, this, [this] { Run(RowCommand::Edit, -1); });
-    connect(m_lists, &ParallelLists::RowDeleted, this, [this] { Run(RowCommand::Remove, -1); });
-    connect(m_lists, &ParallelLists::MoveWanted, this,
-            [this](int row) { MoveTo(static_cast<std::size_t>(row)); });
-    Refresh();
+    connect(m_lists, &ParallelLists::RowDeleted, this, &RowListPanel::Remove);
+    connect(m_lists, &ParallelLists::MoveWanted, this, [this](int row) {
+        MoveSelectedTo(m_list, static_cast<std::size_t>(row));
+        Refresh();
+    });
+    connect(m_lists, &ParallelLists::MenuRequested, this, [this](QPoint place) {
+        if (m_list.Selected)
+            emit MenuRequested(place);
+    });
 }
 
-std::size_t RowListPanel::IndexOf(ControlName name) const
+void RowListPanel::connectNotify(const QMetaMethod& signal)
 {
-    return static_cast<std::size_t>(std::ranges::find(m_columns, name, &ListColumn::Name) -
-                                    m_columns.begin());
+    if (signal == QMetaMethod::fromSignal(&RowListPanel::EditWanted))
+        connect(m_lists, &ParallelLists::RowActivated, this, &RowListPanel::Edit,
+                Qt::UniqueConnection);
 }
 
-std::vector<Text> RowListPanel::Column(ControlName name) const
+void RowListPanel::SetRows(RowTexts rows)
 {
-    std::vector<Text> texts;
-    for (const auto& row : m_list.Rows)
-        texts.push_back(row.at(IndexOf(name)));
-    return texts;
-}
-
-void RowListPanel::SetColumn(ControlName name, const std::vector<Text>& texts)
-{
-    if (Column(name) == texts)
+    if (rows == m_list.Rows)
         return;
-    const std::size_t column = IndexOf(name);
-    m_list.Selected.reset();
-    m_removed.Forget();
-    if (m_list.Rows.size() < texts.size())
-        m_list.Rows.resize(texts.size(), std::vector<Text>(m_columns.size()));
-    for (std::size_t i = 0; i < m_list.Rows.size(); ++i)
-        m_list.Rows[i].at(column) = i < texts.size() ? texts[i] : Text();
-    while (!m_list.Rows.empty() && std::ranges::all_of(m_list.Rows.back(), &Text::empty))
-        m_list.Rows.pop_back();
+    m_list = {.Rows = std::move(rows), .Selected = {}};
     Refresh();
 }
 
-void RowListPanel::AddRow(std::vector<Text> row)
+void RowListPanel::AddRow(FieldTexts row)
 {
-    m_list.Rows.push_back(std::move(row));
-    Select(m_list.Rows.size() - 1);
+    orvane::InsertRows(m_list, m_list.Rows.size(), {std::move(row)});
+    Refresh();
+}
+
+void RowListPanel::InsertRows(RowTexts rows)
+{
+    orvane::InsertRows(m_list, PlaceToInsert(m_list), std::move(rows));
+    Refresh();
 }
 
 void RowListPanel::Select(std::size_t row)
@@ -104,68 +114,75 @@ void RowListPanel::Select(std::size_t row)
     Refresh();
 }
 
-void RowListPanel::ChangeSelectedRow(std::vector<Text> row)
+void RowListPanel::ChangeSelectedRow(FieldTexts row)
 {
     m_list.Rows.at(m_list.Selected.value()) = std::move(row);
     Refresh();
 }
 
-void RowListPanel::Run(RowCommand command, int button)
+void RowListPanel::PutRowBack()
 {
-    if (command == RowCommand::Add) {
-        emit AddWanted(button);
-    } else if (command == RowCommand::Edit) {
-        if (!Refused(CheckEdit(m_list, m_words)))
-            emit EditWanted();
-    } else if (command == RowCommand::Remove) {
+    if (!orvane::PutRowBack(m_list))
+        return;
+    Refresh();
+    emit RowSelected();
+}
+
+void RowListPanel::EnableButtons()
+{
+    for (QPushButton* button : std::exchange(m_rowButtons, {}))
+        button->setEnabled(true);
+}
+
+void RowListPanel::Run(const RowButton& button, int index)
+{
+    switch (button.Command) {
+    case RowCommand::Add:
+        emit AddWanted(index);
+        break;
+    case RowCommand::Edit:
+        Edit();
+        break;
+    case RowCommand::Remove:
         Remove();
-    } else {
-        Move(command);
+        break;
+    case RowCommand::MoveUp:
+        Move(MoveRowUp(m_list, m_look.Words));
+        break;
+    case RowCommand::MoveDown:
+        Move(MoveRowDown(m_list, m_look.Words));
+        break;
     }
+}
+
+void RowListPanel::Edit()
+{
+    if (!Refused(CheckEdit(m_list, m_look.Words)))
+        emit EditWanted();
 }
 
 void RowListPanel::Remove()
 {
-    RowList before = m_list;
-    if (Refused(RemoveRow(m_list, m_words)))
+    if (Refused(RemoveRow(m_list, m_look.Words)))
         return;
-    const std::size_t row = before.Selected.value();
-    m_removed.Keep(row, std::move(before.Rows[row]));
     // The button, which is disabled without rows, would hand the focus to another one.
-    if (m_list.Rows.empty())
+    if (m_list.Rows.empty() && !m_rowButtons.empty())
         m_lists->setFocus();
     Refresh();
-    emit RowRemoved(row);
+}
+
+void RowListPanel::Move(const std::optional<Complaint>& complaint)
+{
+    if (!Refused(complaint))
+        Refresh();
 }
 
 void RowListPanel::keyPressEvent(QKeyEvent* event)
 {
-    if (!event->matches(QKeySequence::Undo))
-        return QWidget::keyPressEvent(event);
-    if (const auto row = m_removed.PutBack(m_list)) {
-        Refresh();
-        emit RowPutBack(*row);
-    }
-}
-
-void RowListPanel::Move(RowCommand command)
-{
-    const bool isUp = command == RowCommand::MoveUp;
-    const std::size_t from = m_list.Selected.value_or(0);
-    if (Refused(isUp ? MoveRowUp(m_list, m_words) : MoveRowDown(m_list, m_words)))
-        return;
-    Refresh();
-    emit RowMoved(from, *m_list.Selected);
-}
-
-void RowListPanel::MoveTo(std::size_t place)
-{
-    const std::size_t from = m_list.Selected.value();
-    if (place == from)
-        return;
-    MoveSelectedTo(m_list, place);
-    Refresh();
-    emit RowMoved(from, place);
+    if (event->matches(QKeySequence::Undo))
+        PutRowBack();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void RowListPanel::Refresh()
@@ -173,11 +190,12 @@ void RowListPanel::Refresh()
     for (QPushButton* button : m_rowButtons)
         button->setEnabled(!m_list.Rows.empty());
     m_lists->Show(m_list);
+    emit RowsChanged();
 }
 
 bool RowListPanel::Refused(const std::optional<Complaint>& complaint)
 {
-    if (complaint)
+    if (complaint && !complaint->Words.empty())
         m_dialogs.Say(complaint->Words, complaint->Look);
     return complaint.has_value();
 }

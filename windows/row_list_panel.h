@@ -1,17 +1,21 @@
 #pragma once
 
 #include "core/dialogs.h"
-#include "services/removed_rows.h"
 #include "services/row_list.h"
-#include "windows/parallel_lists.h"
+#include "windows/controls.h"
+
+#include <QPoint>
+#include <QWidget>
 
 #include <optional>
-#include <span>
 #include <vector>
 
+class QMetaMethod;
 class QPushButton;
 
 namespace orvane {
+
+class ParallelLists;
 
 /// What a button beside a list of rows does.
 enum class RowCommand
@@ -23,17 +27,24 @@ enum class RowCommand
     MoveDown, ///< the panel moves the selected row
 };
 
-/// The tool tip of such a button, which names the key for the same; empty where there is none.
-TextView TipOf(RowCommand command);
-
 /// A button of the panel.
 struct RowButton
 {
     RowCommand Command;
     ControlName Name;
     TextView Caption;
-    TextView Tip = {};         ///< in place of TipOf()
+    TextView Tip = {};         ///< in place of one that names the key for the same
     bool StaysEnabled = false; ///< enabled in an empty list too; a click then tells the author so
+};
+
+/// What a list of rows looks like.
+struct RowListLook
+{
+    std::vector<ListColumn> Columns; ///< the first fields of a row; further ones are not shown
+    RowListWords Words;
+    std::vector<RowButton> Buttons;
+    TextView RowTip = {};
+    bool HasButtonsBelow = false; ///< below the lists, not to the right of them
 };
 
 /// Lists that show the same rows, with buttons that add, edit, remove and move them. Without rows
@@ -44,64 +55,74 @@ class RowListPanel : public QWidget
     Q_OBJECT
 
 public:
-    RowListPanel(std::vector<ListColumn> columns, const RowListWords& words,
-                 std::span<const RowButton> buttons, Dialogs& dialogs, QWidget* parent = nullptr);
+    /// The dialogs must outlive the panel.
+    RowListPanel(const RowListLook& look, Dialogs& dialogs, QWidget* parent = nullptr);
 
-    const RowList& Rows() const { return m_list; }
+    const RowTexts& Rows() const { return m_list.Rows; }
+    std::optional<std::size_t> Selected() const { return m_list.Selected; }
 
-    /// The texts of one list, row by row. Expects the name of a list of this panel.
-    std::vector<Text> Column(ControlName name) const;
+    /// The texts of the selected row. Throws std::bad_optional_access if none is selected.
+    const FieldTexts& SelectedRow() const { return m_list.Rows.at(m_list.Selected.value()); }
 
-    /// Puts other texts into one list. Rows are added when it becomes the longest list, and rows at
-    /// the end that are empty in all lists are removed. Nothing is selected then, unless the texts
-    /// are the same as before, and no removed row comes back. Expects the name of a list of this
-    /// panel.
-    void SetColumn(ControlName name, const std::vector<Text>& texts);
+    /// The name of the first list box, which is that of the field as well.
+    ControlName Name() const { return m_look.Columns.front().Name; }
 
-    /// Whether the panel has a list of that name.
-    bool HasColumn(ControlName name) const { return IndexOf(name) < m_columns.size(); }
+    /// Shows other rows, none of them selected; no removed row comes back then. The same rows as
+    /// before change nothing. Expects a text for each list box in each row.
+    void SetRows(RowTexts rows);
 
-    /// Adds a row at the end, one text for each list, and selects it.
-    void AddRow(std::vector<Text> row);
+    /// Adds a row at the end and selects it.
+    void AddRow(FieldTexts row);
+
+    /// Adds rows in front of the selected one, which stays selected; behind the others, and selects
+    /// the last of them, when no row or the last one is selected.
+    void InsertRows(RowTexts rows);
 
     /// Selects a row. Expects an existing one.
     void Select(std::size_t row);
 
-    /// Replaces the texts of the selected row, which stays selected. Expects that a row is
-    /// selected; throws std::bad_optional_access if none is.
-    void ChangeSelectedRow(std::vector<Text> row);
+    /// Replaces the selected row, which stays selected. Throws std::bad_optional_access if none is
+    /// selected.
+    void ChangeSelectedRow(FieldTexts row);
+
+    /// Puts the row that was removed last back, if there is one.
+    void PutRowBack();
+
+    /// Enables all buttons; from now on they stay so.
+    void EnableButtons();
 
 signals:
     /// A button of the command Add was clicked; `button` is its index among the panel's buttons.
     void AddWanted(int button);
-    /// The selected row is to be edited: by its button, a double click or Enter.
+    /// The selected row is to be edited: by its button, a double click or Enter. While nobody
+    /// listens, Enter goes on to the window's default button.
     void EditWanted();
-    /// A row was removed that had this index.
-    void RowRemoved(std::size_t row);
-    /// The row that was removed last was put back and has this index.
-    void RowPutBack(std::size_t row);
-    /// A row was moved from one index to another; the rows between moved on by one.
-    void RowMoved(std::size_t from, std::size_t to);
+    /// The rows were shown anew: the author or the program may have changed them.
+    void RowsChanged();
+    /// The author selected another row, or none, or put a removed one back, which is selected now.
+    void RowSelected();
+    /// A right press on a row, or the menu key, while a row is selected; a place on the screen.
+    void MenuRequested(QPoint globalPlace);
 
 protected:
+    void connectNotify(const QMetaMethod& signal) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    std::size_t IndexOf(ControlName name) const;
-    void Run(RowCommand command, int button);
+    void Arrange();
+    void Connect();
+    void Run(const RowButton& button, int index);
+    void Edit();
     void Remove();
-    void Move(RowCommand command);
-    void MoveTo(std::size_t place);
+    void Move(const std::optional<Complaint>& complaint);
     void Refresh();
     bool Refused(const std::optional<Complaint>& complaint);
 
     Dialogs& m_dialogs;
-    const std::vector<ListColumn> m_columns;
-    const RowListWords m_words;
+    const RowListLook m_look;
     RowList m_list;
-    RemovedRows<std::vector<Text>> m_removed;
     ParallelLists* m_lists;
-    std::vector<QPushButton*> m_rowButtons; ///< those that need a row
+    std::vector<QPushButton*> m_rowButtons; ///< those that are disabled without rows
 };
 
 } // namespace orvane

@@ -30,8 +30,6 @@ WizardForm::WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWid
       lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
 {
     SetEffect(kind);
-    bench.Core.Required = {};
-    bench.Core.RequiredFileCount = 0;
     m_keepTimer->setInterval(keepEveryMilliseconds);
     connect(m_keepTimer, &QTimer::timeout, this, &WizardForm::KeepDraft);
 }

@@ -18,8 +18,7 @@ class WizardForm : public WizardFrame
     Q_OBJECT
 
 public:
-    /// Empties the shared table of files to copy. The effect's row in the catalogue gives title and
-    /// help topic.
+    /// The effect's row in the catalogue gives title and help topic.
     WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent);
 
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.

@@ -39,7 +39,6 @@ void ForEachField(Animator& animator, Field&& field)
     field("Text21", animator.AnimationHeight);
     field("Combo3", animator.LoopCount);
     field("Label16", animator.BackgroundColor);
-    field("Required", animator.Required);
 }
 
 /// The first failing check in order, or nothing when the wizard may finish.

@@ -8,6 +8,7 @@
 #include "windows/image_list_panel.h"
 #include "windows/qt_text.h"
 #include "windows/recent_menu.h"
+#include "windows/row_form.h"
 
 #include <QComboBox>
 #include <QLayout>
@@ -25,22 +26,25 @@ constexpr TextView recentProjects = u"Projects";
 } // namespace
 
 AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
-    : EffectForm("Anim", bench, parent), m_images(new ImageListPanel(bench, AnimatorImageList()))
+    : EffectForm("Anim", bench, parent),
+      m_images(new ImageListPanel(bench, m_files, AnimatorImageList()))
 {
     AddMenus();
     const CatalogueRow* row = FindRow(EffectKind::AdvancedAnimator);
     PageBuilder page = AddPage({row->Title, row->Description});
     page.Fill(m_images);
     AddFields(page);
-    connect(m_images, &ImageListPanel::RowSelected, this, [this] {
-        SetPropsButton->setEnabled(SetPropsButton->isEnabled() || m_images->Selected());
-    });
-    connect(m_images, &ImageListPanel::RowActivated, this, &AdvancedAnimatorForm::SetProperties);
-    connect(m_images, &ImageListPanel::MenuRequested, this,
+    for (const auto signal : {&RowListPanel::RowSelected, &RowListPanel::RowsChanged})
+        connect(m_images->List(), signal, this, [this] {
+            SetPropsButton->setEnabled(SetPropsButton->isEnabled() || m_images->List()->Selected());
+        });
+    connect(m_images->List(), &RowListPanel::EditWanted, this,
+            &AdvancedAnimatorForm::SetProperties);
+    connect(m_images->List(), &RowListPanel::MenuRequested, this,
             [this](QPoint place) { mnuProperties->popup(place); });
     AddButtons(Buttons::OnePage, "cmdHelp");
     KeepProject(UnnamedProject(Parameters()));
-    connect(m_images, &ImageListPanel::RowsChanged, this, &AdvancedAnimatorForm::ShowTitle);
+    connect(m_images->List(), &RowListPanel::RowsChanged, this, &AdvancedAnimatorForm::ShowTitle);
 }
 
 void AdvancedAnimatorForm::ShowProject(TextView path)
@@ -138,12 +142,11 @@ void AdvancedAnimatorForm::ShowTitle()
 
 void AdvancedAnimatorForm::SetProperties()
 {
-    const auto selected = m_images->Selected();
-    if (!selected)
+    RowListPanel& list = *m_images->List();
+    if (!list.Selected())
         return;
-    auto* properties = new ImgPropsForm(m_bench, m_images->Rows()[*selected], this);
-    properties->Begin(
-        [this, properties, index = *selected] { m_images->SetRow(index, properties->Row()); });
+    auto* properties = new ImgPropsForm(m_bench, m_files, SelectedRowOf<ImageRow>(list), this);
+    properties->Begin([&list, properties] { list.ChangeSelectedRow(TextsOf(properties->Row())); });
 }
 
 } // namespace orvane

@@ -59,7 +59,6 @@ void ForEachField(Effects& effects, Field&& field)
     field("BackRed", effects.BackRed);
     field("BackGreen", effects.BackGreen);
     field("BackBlue", effects.BackBlue);
-    field("Required", effects.Required);
 }
 
 /// The size slider of a mode: its range, steps and start value, and the captions beside it and at

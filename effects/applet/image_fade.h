@@ -14,20 +14,43 @@
 
 namespace orvane {
 
+/// One image of the fade.
+struct FadeImage
+{
+    Text FileName; ///< without its folder
+    Text txtURL;   ///< where it leads; empty for no link
+    Text Source;   ///< full path; empty where it is not known
+    bool operator==(const FadeImage&) const = default;
+};
+
+/// Calls `field` with the name of each field and the field; the link alone has a control in the
+/// window of one image.
+template <ConstOr<FadeImage> Image, class Field>
+void ForEachField(Image& image, Field&& field)
+{
+    field("FileName", image.FileName);
+    field("txtURL", image.txtURL);
+    field("Source", image.Source);
+}
+
+/// The complaint about an empty link, or nothing.
+std::optional<Complaint> Check(const FadeImage& image);
+
+/// Puts "http://" in front of a link that begins with "www.".
+void Tidy(FadeImage& image);
+
 /// What the author enters on the Image Fade window; the defaults are those of a fresh window.
 struct ImageFade
 {
     static constexpr std::array Kinds = {EffectKind::ImageFade};
     static constexpr int Pages = 1;
 
-    std::vector<Text> FadeImages; ///< without their folders
-    std::vector<Text> FadeLinks;  ///< one for each image, empty for no link
-    Text FadePause = u"1";        ///< seconds, as typed
-    int FadeSpeed = 40;           ///< 10 for slow to 160 for fast
+    std::vector<FadeImage> Images;
+    Text FadePause = u"1"; ///< seconds, as typed
+    int FadeSpeed = 40;    ///< 10 for slow to 160 for fast
     Text FadeTarget;
     Text FadeWidth; ///< of the first image; empty while there is none
     Text FadeHeight;
-    RequiredFiles Required; ///< the source of each image at its row
     bool operator==(const ImageFade&) const = default;
 };
 
@@ -39,14 +62,12 @@ inline constexpr int fastestFade = 160;
 template <ConstOr<ImageFade> Fade, class Field>
 void ForEachField(Fade& fade, Field&& field)
 {
-    field("FadeImages", fade.FadeImages);
-    field("FadeLinks", fade.FadeLinks);
+    field(Lists("FadeImages", "FadeLinks", "FadeSources"), fade.Images);
     field("FadePause", fade.FadePause);
     field("FadeSpeed", fade.FadeSpeed);
     field("FadeTarget", fade.FadeTarget);
     field("FadeWidth", fade.FadeWidth);
     field("FadeHeight", fade.FadeHeight);
-    field("Required", fade.Required);
 }
 
 /// What the author is told when a command on the list finds no row to work on.
@@ -65,27 +86,6 @@ inline constexpr RowListWords fadeWords = {
 /// complaint.
 std::optional<Complaint> AddImage(ImageFade& fade, const PickedImage& image);
 
-/// What the fade knew of an image beside its two texts.
-struct ForgottenImage
-{
-    Text Source;
-    Text Width;
-    Text Height;
-};
-
-/// Removes the source of an image that was removed from both lists at `row`, and the size when no
-/// image is left; gives both.
-ForgottenImage ForgetImage(ImageFade& fade, std::size_t row);
-
-/// Takes back what ForgetImage() gave of an image that was put back into both lists at `row`.
-void RecallImage(ImageFade& fade, std::size_t row, const ForgottenImage& image);
-
-/// Moves the source of an image that was moved from row `from` to row `to`.
-void MoveSource(ImageFade& fade, std::size_t from, std::size_t to);
-
-/// The complaint about an empty link, or nothing.
-std::optional<Complaint> CheckFadeLink(TextView link);
-
 /// The complaint about too few images, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const ImageFade& fade);
 
@@ -95,8 +95,8 @@ std::vector<Hint> HintsOf(const ImageFade& fade);
 /// The fade's page text. Expects a fade that passes Check().
 EffectPayload Generate(const ImageFade& fade);
 
-/// Fills pause, speed and target from a tag whose parameter names have no quotes, and forgets the
-/// recorded files; images are not read. The tags that Generate() gives have quotes there, so that
+/// Fills pause, speed and target from a tag whose parameter names have no quotes, and forgets where
+/// the images lie; images are not read. The tags that Generate() gives have quotes there, so that
 /// they give a pause of 0, the slowest speed and no target.
 void ReadTag(ImageFade& fade, const PastedTag& tag);
 

@@ -2,38 +2,53 @@
 
 #include "core/file_names.h"
 #include "core/pick_lists.h"
-#include "effects/applet/image_fade_url_form.h"
 #include "services/file_complaints.h"
 #include "services/file_requests.h"
 #include "windows/file_drop.h"
 #include "windows/picture.h"
-#include "windows/row_list_panel.h"
+#include "windows/row_form.h"
 
 namespace orvane {
 
 namespace {
 
-constexpr RowButton buttons[] = {
-    {RowCommand::Add, "cmdAddImage", u"&Add Image...",
-     u"Click here to insert an image into the fading image list"},
-    {RowCommand::Remove, "cmdRemoveImage", u"&Remove Image",
-     u"Click here to remove an image from the list"},
-    {.Command = RowCommand::Edit,
-     .Name = "cmdLinkToURL",
-     .Caption = u"&Link to URL...",
-     .Tip = u"Click here to link the selected image to a Web page",
-     .StaysEnabled = true},
-    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
-    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"},
-};
+RowListLook ImageListLook()
+{
+    return {.Columns = {{"FadeImages", u"Images:"}, {"FadeLinks", u"Link to this Web page URL:"}},
+            .Words = fadeWords,
+            .Buttons = {{RowCommand::Add, "cmdAddImage", u"&Add Image...",
+                         u"Click here to insert an image into the fading image list"},
+                        {RowCommand::Remove, "cmdRemoveImage", u"&Remove Image",
+                         u"Click here to remove an image from the list"},
+                        {.Command = RowCommand::Edit,
+                         .Name = "cmdLinkToURL",
+                         .Caption = u"&Link to URL...",
+                         .Tip = u"Click here to link the selected image to a Web page",
+                         .StaysEnabled = true},
+                        {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+                        {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"}}};
+}
+
+void AddLinkField(PageBuilder& page)
+{
+    page.BrowseRow("txtURL", u"Link to this Web page URL:", {},
+                   {.Button = "cmdBrowseForImage",
+                    .Caption = u"Browse for image...",
+                    .Request = ImageRequest()});
+}
+
+constexpr RowLook linkWindow{.Name = "ImageFadeURL",
+                             .Title = u"Specify URL to link to ",
+                             .Kind = EffectKind::ImageFade,
+                             .Letters = 70,
+                             .AddFields = &AddLinkField,
+                             .Selected = "txtURL"};
 
 } // namespace
 
 ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
     : EffectForm("ImageFade", bench, parent),
-      m_images(new RowListPanel(
-          {{"FadeImages", u"Images:"}, {"FadeLinks", u"Link to this Web page URL:"}}, fadeWords,
-          buttons, bench.Dialogs))
+      m_images(new RowListPanel(ImageListLook(), bench.Dialogs))
 {
     PageBuilder page =
         AddPage({u"Image Fade effect",
@@ -42,23 +57,9 @@ ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
     page.Fill(m_images);
     AddFields(page);
     connect(m_images, &RowListPanel::AddWanted, this, &ImageFadeForm::AddImage);
-    connect(m_images, &RowListPanel::EditWanted, this, &ImageFadeForm::EditLink);
-    connect(m_images, &RowListPanel::RowRemoved, this, [this](std::size_t row) {
-        ImageFade fade = Parameters();
-        m_forgotten.push_back(ForgetImage(fade, row));
-        Show(fade);
-    });
-    connect(m_images, &RowListPanel::RowPutBack, this, [this](std::size_t row) {
-        ImageFade fade = Parameters();
-        RecallImage(fade, row, m_forgotten.back());
-        m_forgotten.pop_back();
-        Show(fade);
-    });
-    connect(m_images, &RowListPanel::RowMoved, this, [this](std::size_t from, std::size_t to) {
-        ImageFade fade = Parameters();
-        MoveSource(fade, from, to);
-        Show(fade);
-    });
+    connect(m_images, &RowListPanel::EditWanted, this,
+            [this] { EditRowByWindow<FadeImage>(*m_images, linkWindow, m_bench); });
+    connect(m_images, &RowListPanel::RowsChanged, this, &ImageFadeForm::KeepSize);
     connect(new FileDrop(*m_images, pictureMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
             &ImageFadeForm::AddImages);
     AddButtons(Buttons::OnePage, "cmdHelp");
@@ -79,16 +80,23 @@ void ImageFadeForm::AddFields(PageBuilder& page)
                 u"This specifies how quickly to fade from one image to the next");
     page.ComboBox("FadeTarget", u"Target frame (optional):", LinkTargets, true,
                   u"This is the name of the target frame where the Web page will be opened");
-    page.HiddenText("FadeWidth");
-    page.HiddenText("FadeHeight");
+    FadeWidth = page.HiddenText("FadeWidth");
+    FadeHeight = page.HiddenText("FadeHeight");
 }
 
-void ImageFadeForm::Show(const ImageFade& fade)
+/// Without images the first one that comes may have any size. One that is put back has the size of
+/// those that were removed: no other one was added since.
+void ImageFadeForm::KeepSize()
 {
-    const auto selected = m_images->Rows().Selected;
-    SetParameters(fade);
-    if (selected)
-        m_images->Select(*selected);
+    if (m_images->Rows().empty()) {
+        m_width = FadeWidth->text();
+        m_height = FadeHeight->text();
+        FadeWidth->clear();
+        FadeHeight->clear();
+    } else if (FadeWidth->text().isEmpty()) {
+        FadeWidth->setText(m_width);
+        FadeHeight->setText(m_height);
+    }
 }
 
 void ImageFadeForm::AddImage()
@@ -100,7 +108,7 @@ void ImageFadeForm::AddImage()
 void ImageFadeForm::AddImages(const std::vector<Text>& paths)
 {
     ImageFade fade = Parameters();
-    const std::size_t before = fade.FadeImages.size();
+    const std::size_t before = fade.Images.size();
     FileComplaints refused;
     for (const Text& path : paths) {
         const PickedImage image = Measured(path);
@@ -112,18 +120,11 @@ void ImageFadeForm::AddImages(const std::vector<Text>& paths)
         else if (!image.Size && paths.size() > 1)
             refused.Add({u"Orvane can't read this image:", {}}, GetFileName(path));
     }
-    Show(fade);
-    if (before < fade.FadeImages.size())
-        m_images->Select(fade.FadeImages.size() - 1);
+    SetParameters(fade);
+    if (before < fade.Images.size())
+        m_images->Select(fade.Images.size() - 1);
     for (const Complaint& complaint : refused.All())
         ShowComplaint(complaint);
-}
-
-void ImageFadeForm::EditLink()
-{
-    const std::vector<Text> row = m_images->Rows().Rows.at(m_images->Rows().Selected.value());
-    auto* form = new ImageFadeURLForm(m_bench, row[1], this);
-    form->Begin([this, form, name = row[0]] { m_images->ChangeSelectedRow({name, form->URL()}); });
 }
 
 } // namespace orvane

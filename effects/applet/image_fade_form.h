@@ -19,13 +19,13 @@ private:
     void AddFields(PageBuilder& page);
     void AddImage();
     void AddImages(const std::vector<Text>& paths);
-    void EditLink();
-
-    /// Shows the fade in the controls; the selected row stays selected.
-    void Show(const ImageFade& fade);
+    void KeepSize();
 
     RowListPanel* m_images;
-    std::vector<ForgottenImage> m_forgotten; ///< of the removed rows, the last one last
+    QLineEdit* FadeWidth;
+    QLineEdit* FadeHeight;
+    QString m_width; ///< of the images while none is left, for those that are put back
+    QString m_height;
 };
 
 } // namespace orvane

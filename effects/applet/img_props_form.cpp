@@ -8,10 +8,12 @@
 
 namespace orvane {
 
-ImgPropsForm::ImgPropsForm(Workbench& bench, const ImageRow& row, QWidget* parent)
+ImgPropsForm::ImgPropsForm(Workbench& bench, RequiredFiles& files, const ImageRow& row,
+                           QWidget* parent)
     : OkCancelForm("ImgProps", u"Image Properties",
                    help_topics::firstEffect + static_cast<int>(EffectKind::AdvancedAnimator), bench,
                    parent),
+      m_files(files),
       m_row(row)
 {
     setMinimumWidth(100 * fontMetrics().averageCharWidth());
@@ -48,7 +50,7 @@ void ImgPropsForm::AddSoundAndURL(PageBuilder& page)
                                               .Purpose = FolderPurpose::Sounds},
                                   .NoBlanks = FileRole::Sound,
                                   .Then = [this](const Text& path) {
-                                      RecordRequiredFile(m_bench.Core, path, FromQt(Text3->text()));
+                                      RecordRequiredFile(m_files, path, FromQt(Text3->text()));
                                   }});
     Text2 = page.BrowseRow("Text2", u"Type URL to link this image to:", {},
                            {.Button = "cmdBrowseURL",

@@ -14,7 +14,9 @@ class ImgPropsForm : public OkCancelForm
     Q_OBJECT
 
 public:
-    ImgPropsForm(Workbench& bench, const ImageRow& row, QWidget* parent = nullptr);
+    /// A sound that the author picks is recorded in `files`, which must outlive the window.
+    ImgPropsForm(Workbench& bench, RequiredFiles& files, const ImageRow& row,
+                 QWidget* parent = nullptr);
 
     /// The row with the properties that OK took over; after Cancel, the row that was handed in.
     const ImageRow& Row() const { return m_row; }
@@ -34,6 +36,7 @@ private:
     void Show(const DirectionChoice& choice);
     void WaitForClick(bool isOn);
 
+    RequiredFiles& m_files;
     ImageRow m_row;
     QLineEdit* Text1;
     QCheckBox* Check1;

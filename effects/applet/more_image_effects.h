@@ -66,7 +66,6 @@ void ForEachField(Effects& effects, Field&& field)
     field("LoopCount", effects.LoopCount);
     field("PauseSeconds", effects.PauseSeconds);
     field("StartEdge", effects.StartEdge);
-    field("Required", effects.Required);
 }
 
 /// Whether the chosen effect moves from or to an edge that the author chooses.

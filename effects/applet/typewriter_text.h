@@ -64,7 +64,6 @@ void ForEachField(Typewriter& typewriter, Field&& field)
     field("BackColor", typewriter.BackColor);
     field("BackImage", typewriter.BackImage);
     field("LinkURL", typewriter.LinkURL);
-    field("Required", typewriter.Required);
 }
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing; the second page has

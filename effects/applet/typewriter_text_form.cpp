@@ -39,7 +39,7 @@ void TypewriterTextForm::AddTextPage()
                                           .Filter = u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt",
                                           .FilterIndex = 2,
                                           .Purpose = FolderPurpose::Texts},
-                              .Slot = typewriterTextFileSlot});
+                              .Source = &m_files.RequiredFileSources[typewriterTextFileSlot]});
     page.Fill();
 }
 
@@ -76,7 +76,7 @@ void TypewriterTextForm::AddPropertiesPage()
                           .Caption = u"Browse for image...",
                           .Request = ImageRequest(),
                           .NoBlanks = FileRole::Image,
-                          .Slot = typewriterBackImageSlot});
+                          .Source = &m_files.RequiredFileSources[typewriterBackImageSlot]});
     page.TextBox("LinkURL", u"Link to this Web page URL:");
     page.Fill();
 }

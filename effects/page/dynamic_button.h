@@ -39,7 +39,6 @@ void ForEachField(Button& button, Field&& field)
     field("ClickSound", button.ClickSound);
     field("LinkUrl", button.LinkUrl);
     field("LinkTarget", button.LinkTarget);
-    field("Required", button.Required);
 }
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.

@@ -55,7 +55,7 @@ void DynamicButtonForm::AddImage(PageBuilder& frame, ControlName name, TextView 
                            .Request = BrowseRequest(imageFiles, FolderPurpose::Images),
                            .Folder = &OrvaneCore::ImageFolderMemo,
                            .NoBlanks = FileRole::Image,
-                           .Slot = slot,
+                           .Source = &m_files.RequiredFileSources.at(slot),
                            .Then = [preview](const Text& path) { preview->Load(path); }});
     frame.Row(u"Preview", {preview});
     m_previews.push_back({slot, preview});
@@ -70,7 +70,7 @@ void DynamicButtonForm::AddSound(PageBuilder& frame, ControlName name, TextView 
                            .Request = BrowseRequest(soundFiles, FolderPurpose::Sounds),
                            .Folder = &OrvaneCore::LastSoundFolder,
                            .NoBlanks = FileRole::Sound,
-                           .Slot = slot});
+                           .Source = &m_files.RequiredFileSources.at(slot)});
 }
 
 void DynamicButtonForm::AddLink(PageBuilder& frame)
@@ -90,7 +90,7 @@ void DynamicButtonForm::AddLink(PageBuilder& frame)
 void DynamicButtonForm::UpdateForm()
 {
     for (const auto& [slot, box] : m_previews)
-        box->Load(m_bench.Core.Required.Sources.at(slot));
+        box->Load(m_files.RequiredFileSources.at(slot));
 }
 
 } // namespace orvane

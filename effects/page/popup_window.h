@@ -63,7 +63,6 @@ void ForEachField(Window& window, Field&& field)
     field("chkShowDirectory", window.chkShowDirectory);
     field("chkShowScrollbars", window.chkShowScrollbars);
     field("chkResizable", window.chkResizable);
-    field("Required", window.Required);
 }
 
 /// What the link frame shows: how it asks for what is clicked.

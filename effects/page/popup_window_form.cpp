@@ -73,7 +73,7 @@ void PopupWindowForm::AddWindowPage()
                                 .Filter = Text(pageOrImageFilter),
                                 .FilterIndex = 2,
                                 .Purpose = FolderPurpose::Links},
-                    .Slot = 0,
+                    .Source = m_files.RequiredFileSources.data(),
                     .Then = [this](const Text& path) { TakeSize(path); }});
     txtWidth = page.Narrow(
         page.TextBox("txtWidth", u"PopUp Window width:",

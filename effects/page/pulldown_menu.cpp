@@ -49,11 +49,9 @@ Text JumpLine(const PulldownMenu& menu)
 Text OptionLines(const PulldownMenu& menu)
 {
     Text lines;
-    for (std::size_t i = 0; i < menu.List1.size(); ++i) {
-        const TextView item = menu.List1[i];
-        const TextView url = i < menu.List2.size() ? TextView(menu.List2[i]) : TextView();
-        lines += Fill(optionLine, {{u"URL", item == menuSeparator ? u"#" : url}, {u"Item", item}});
-    }
+    for (const auto& [item, url] : menu.Items)
+        lines += Fill(optionLine,
+                      {{u"URL", item == menuSeparator ? u"#" : TextView(url)}, {u"Item", item}});
     return lines;
 }
 
@@ -75,16 +73,16 @@ void Tidy(MenuItem& item)
     item.txtMenuItemURL = WithScheme(item.txtMenuItemURL);
 }
 
-std::optional<Complaint> CheckEdit(TextView item)
+std::optional<Complaint> CheckEdit(const MenuItem& item)
 {
-    if (item == menuSeparator)
+    if (item.txtMenuItem == menuSeparator)
         return Complaint{u"The separator can't be edited.  It can only be added or removed.", {}};
     return std::nullopt;
 }
 
 std::optional<Complaint> Check(const PulldownMenu& menu)
 {
-    if (menu.List1.empty())
+    if (menu.Items.empty())
         return Complaint{u"Please enter 1 or more menu items in the list below.", "List1"};
     return std::nullopt;
 }
@@ -98,7 +96,7 @@ EffectPayload Generate(const PulldownMenu& menu)
 {
     const bool showsAll = menu.optDisplay == MenuDisplay::AllItems;
     const Text size =
-        showsAll ? Fill(sizePart, {{u"Count", NumberToText(static_cast<int>(menu.List1.size()))}})
+        showsAll ? Fill(sizePart, {{u"Count", NumberToText(static_cast<int>(menu.Items.size()))}})
                  : Text();
     return {
         .Kind = EffectKind::PulldownMenu,

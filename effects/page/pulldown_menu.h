@@ -18,14 +18,36 @@ enum class MenuDisplay
     Dropdown = 1,
 };
 
+/// One item of a menu.
+struct MenuItem
+{
+    Text txtMenuItem;
+    Text txtMenuItemURL;
+    bool operator==(const MenuItem&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one item.
+template <ConstOr<MenuItem> Item, class Field>
+void ForEachField(Item& item, Field&& field)
+{
+    field("txtMenuItem", item.txtMenuItem);
+    field("txtMenuItemURL", item.txtMenuItemURL);
+}
+
+/// The complaint about an item without text or address, or nothing when it may go into the menu.
+std::optional<Complaint> Check(const MenuItem& item);
+
+/// Puts "http://" in front of an address that begins with "www.".
+void Tidy(MenuItem& item);
+
 /// What the author enters on the Pulldown Menu window; the defaults are those of a fresh window.
 struct PulldownMenu
 {
     static constexpr std::array Kinds = {EffectKind::PulldownMenu};
     static constexpr int Pages = 1;
 
-    std::vector<Text> List1; ///< item texts
-    std::vector<Text> List2; ///< the items' addresses, in step with the texts
+    std::vector<MenuItem> Items;
     MenuDisplay optDisplay = MenuDisplay::Dropdown;
     Text cboTarget = u"self";
     bool operator==(const PulldownMenu&) const = default;
@@ -35,8 +57,7 @@ struct PulldownMenu
 template <ConstOr<PulldownMenu> Menu, class Field>
 void ForEachField(Menu& menu, Field&& field)
 {
-    field("List1", menu.List1);
-    field("List2", menu.List2);
+    field(Lists("List1", "List2"), menu.Items);
     field("optDisplay", menu.optDisplay);
     field("cboTarget", menu.cboTarget);
 }
@@ -48,22 +69,8 @@ inline constexpr std::array<TextView, 4> menuTargets = {u"blank - Open in new wi
 /// The text of a separator in the menu. An item with this text is a separator and has no address.
 inline constexpr TextView menuSeparator = u"--------------------";
 
-/// What the author enters for one item.
-struct MenuItem
-{
-    Text txtMenuItem;
-    Text txtMenuItemURL;
-    bool operator==(const MenuItem&) const = default;
-};
-
-/// The complaint about an item without text or address, or nothing when it may go into the menu.
-std::optional<Complaint> Check(const MenuItem& item);
-
-/// Puts "http://" in front of an address that begins with "www.".
-void Tidy(MenuItem& item);
-
 /// The complaint that a separator cannot be edited, or nothing for any other item.
-std::optional<Complaint> CheckEdit(TextView item);
+std::optional<Complaint> CheckEdit(const MenuItem& item);
 
 /// The complaint about a menu without items, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const PulldownMenu& menu);

@@ -1,7 +1,7 @@
 #include "effects/page/pulldown_menu_form.h"
 
-#include "effects/page/pulldown_url_form.h"
-#include "windows/row_list_panel.h"
+#include "services/file_requests.h"
+#include "windows/row_form.h"
 
 namespace orvane {
 
@@ -20,21 +20,39 @@ constexpr RowListWords words{
 
 constexpr int addItemButton = 0; ///< its place among the buttons
 
-constexpr RowButton buttons[] = {
-    {RowCommand::Add, "cmdAddMenuItem", u"&Add Menu item..."},
-    {RowCommand::Add, "cmdAddSeparator", u"Add &separator"},
-    {RowCommand::Edit, "cmdEditMenuItem", u"&Edit Menu item..."},
-    {RowCommand::Remove, "cmdRemoveMenuItem", u"&Remove Menu item"},
-    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
-    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"},
-};
+RowListLook ItemList()
+{
+    return {.Columns = {{"List1", u"Menu items:"}, {"List2", u"Link to this URL:"}},
+            .Words = words,
+            .Buttons = {{RowCommand::Add, "cmdAddMenuItem", u"&Add Menu item..."},
+                        {RowCommand::Add, "cmdAddSeparator", u"Add &separator"},
+                        {RowCommand::Edit, "cmdEditMenuItem", u"&Edit Menu item..."},
+                        {RowCommand::Remove, "cmdRemoveMenuItem", u"&Remove Menu item"},
+                        {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+                        {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"}}};
+}
+
+void AddItemFields(PageBuilder& page)
+{
+    page.TextBox("txtMenuItem", u"Menu item text:");
+    page.BrowseRow("txtMenuItemURL", u"Link menu item to this Web page:", {},
+                   {.Button = "cmdBrowseForURL",
+                    .Caption = u"Browse for URL...",
+                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
+                    .GivesFocus = true});
+    page.Fill();
+}
+
+constexpr RowLook itemWindow{.Name = "PulldownURL",
+                             .Title = u"Specify Menu item and URL",
+                             .Kind = EffectKind::PulldownMenu,
+                             .Letters = 80,
+                             .AddFields = &AddItemFields};
 
 } // namespace
 
 PulldownMenuForm::PulldownMenuForm(Workbench& bench, QWidget* parent)
-    : EffectForm("Pulldown", bench, parent),
-      m_items(new RowListPanel({{"List1", u"Menu items:"}, {"List2", u"Link to this URL:"}}, words,
-                               buttons, bench.Dialogs))
+    : EffectForm("Pulldown", bench, parent), m_items(new RowListPanel(ItemList(), bench.Dialogs))
 {
     PageBuilder page =
         AddPage({u"Dropdown Menu",
@@ -51,26 +69,18 @@ PulldownMenuForm::PulldownMenuForm(Workbench& bench, QWidget* parent)
 
 void PulldownMenuForm::Add(int button)
 {
-    if (button != addItemButton)
-        return m_items->AddRow({Text(menuSeparator), {}});
-    auto* window = new PulldownURLForm(m_bench, {}, this);
-    window->Begin([this, window] {
-        const MenuItem item = window->Item();
-        m_items->AddRow({item.txtMenuItem, item.txtMenuItemURL});
-    });
+    if (button == addItemButton)
+        AddRowByWindow<MenuItem>(*m_items, itemWindow, m_bench);
+    else
+        m_items->AddRow(
+            TextsOf(MenuItem{.txtMenuItem = Text(menuSeparator), .txtMenuItemURL = {}}));
 }
 
 void PulldownMenuForm::EditItem()
 {
-    const RowList& rows = m_items->Rows();
-    const std::vector<Text>& row = rows.Rows.at(rows.Selected.value());
-    if (const auto complaint = CheckEdit(row[0]))
+    if (const auto complaint = CheckEdit(SelectedRowOf<MenuItem>(*m_items)))
         return ShowComplaint(*complaint);
-    auto* window = new PulldownURLForm(m_bench, {row[0], row[1]}, this);
-    window->Begin([this, window] {
-        const MenuItem item = window->Item();
-        m_items->ChangeSelectedRow({item.txtMenuItem, item.txtMenuItemURL});
-    });
+    EditRowByWindow<MenuItem>(*m_items, itemWindow, m_bench);
 }
 
 } // namespace orvane

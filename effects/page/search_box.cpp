@@ -107,8 +107,8 @@ EffectPayload Generate(const SearchBox& box, const Surroundings& surroundings)
         .Kind = WordsOfMode(box.Mode).Kind,
         .BODYHTML = box.Mode == searchMode ? SearchForm(box) : TranslateForm(box),
     };
-    payload.Required.Names[0] = searchLogo;
-    payload.Required.Sources[0] = PathIn(surroundings.ProgramFolder, searchLogo);
+    payload.Required.RequiredFileNames[0] = searchLogo;
+    payload.Required.RequiredFileSources[0] = PathIn(surroundings.ProgramFolder, searchLogo);
     return payload;
 }
 

@@ -39,7 +39,6 @@ void ForEachField(Show& show, Field&& field)
     field("chkAutoStart", show.chkAutoStart);
     field("chkRepeat", show.chkRepeat);
     field("cmbTransitions", show.cmbTransitions);
-    field("Required", show.Required);
 }
 
 /// The complaint when the slideshow would neither start by itself nor have buttons, with the check

@@ -30,7 +30,7 @@ void SlideshowForm::AddImagePage()
         AddPage({imagesHeading, u"Using the File/Folder boxes below, add the images to the "
                                 u"Slideshow Image list in the order you wish them to appear in "
                                 u"your slideshow."});
-    page.Fill(new ImageListPanel(m_bench, SlideshowImageList()));
+    page.Fill(new ImageListPanel(m_bench, m_files, SlideshowImageList()));
 }
 
 void SlideshowForm::AddPropertiesPage()

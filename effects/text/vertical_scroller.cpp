@@ -4,6 +4,7 @@
 #include "core/orvane_core.h"
 #include "core/template.h"
 #include "services/font_fields.h"
+#include "services/web_address.h"
 
 namespace orvane {
 
@@ -90,24 +91,19 @@ Text ConvertCRtoBR(TextView text)
     return ReplaceAll(text, lineEnd, u"<br>");
 }
 
-TextView LinkOf(const VerticalScroller& scroller, std::size_t row)
+Text FirstItem(const ScrollerItem& item)
 {
-    return row < scroller.lstLinks.size() ? TextView(scroller.lstLinks[row]) : TextView();
-}
-
-Text FirstItem(const VerticalScroller& scroller)
-{
-    const Text text = ConvertCRtoBR(scroller.lstItems.front());
-    return LinkOf(scroller, 0).empty() ? text : Fill(linkedFirstItem, {{u"RowText", text}});
+    const Text text = ConvertCRtoBR(item.txtItem);
+    return item.txtItemURL.empty() ? text : Fill(linkedFirstItem, {{u"RowText", text}});
 }
 
 Text ArrayLines(const VerticalScroller& scroller)
 {
     Text lines;
-    for (std::size_t row = 0; row < scroller.lstItems.size(); ++row) {
+    for (std::size_t row = 0; row < scroller.Items.size(); ++row) {
         const Text number = NumberToText(row);
-        const Text text = EscapeApostrophes(ConvertCRtoBR(scroller.lstItems[row]));
-        const TextView link = LinkOf(scroller, row);
+        const Text text = EscapeApostrophes(ConvertCRtoBR(scroller.Items[row].txtItem));
+        const Text& link = scroller.Items[row].txtItemURL;
         lines += link.empty()
                      ? Fill(plainRow, {{u"Row", number}, {u"RowText", text}})
                      : Fill(linkedRow, {{u"Row", number}, {u"RowLink", link}, {u"RowText", text}});
@@ -123,21 +119,26 @@ void TakeDefault(Text& color, TextView usual)
 
 } // namespace
 
-std::optional<Complaint> CheckScrollerItem(TextView txtItem)
+std::optional<Complaint> Check(const ScrollerItem& item)
 {
-    if (txtItem.empty())
+    if (item.txtItem.empty())
         return Complaint{u"Enter item text in the text input box below.", "txtItem"};
     return std::nullopt;
 }
 
-std::vector<Hint> HintsOfScrollerItem(TextView txtItemURL)
+std::vector<Hint> HintsOf(const ScrollerItem& item)
 {
-    return HintList().InScript("txtItemURL", txtItemURL, u"'").Hints();
+    return HintList().InScript("txtItemURL", item.txtItemURL, u"'").Hints();
+}
+
+void Tidy(ScrollerItem& item)
+{
+    item.txtItemURL = WithScheme(item.txtItemURL);
 }
 
 std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page)
 {
-    if (page == 0 && scroller.lstItems.empty())
+    if (page == 0 && scroller.Items.empty())
         return Complaint{u"Please add an item to the list.", "cmdAdd"};
     if (page == 2 && !(IsNumeric(scroller.txtWidth) && IsNumeric(scroller.txtHeight)))
         return Complaint{u"Please type a valid width and height for the Vertical Scroller.",
@@ -155,8 +156,8 @@ void Tidy(VerticalScroller& scroller)
 std::vector<Hint> HintsOf(const VerticalScroller& scroller)
 {
     HintList hints;
-    for (const Text& link : scroller.lstLinks)
-        hints.InScript("lstLinks", link, u"'");
+    for (const ScrollerItem& item : scroller.Items)
+        hints.InScript("lstLinks", item.txtItemURL, u"'");
     return hints.Number("cboFontSize", scroller.cboFontSize)
         .Number("txtWidth", scroller.txtWidth)
         .Number("txtHeight", scroller.txtHeight)
@@ -169,7 +170,7 @@ EffectPayload Generate(const VerticalScroller& scroller)
     EffectPayload payload{.Kind = EffectKind::VerticalScroller};
     payload.HEADHTML = Fill(
         head, {{u"Speed", NumberToText(slowestPixel - scroller.sldrSpeed)},
-               {u"ItemCount", NumberToText(scroller.lstItems.size())},
+               {u"ItemCount", NumberToText(scroller.Items.size())},
                {u"Pause", IsNumeric(scroller.txtPause) ? Trim(scroller.txtPause) : TextView(u"3")},
                {u"ArrayLines", ArrayLines(scroller)},
                {u"LinkColor", scroller.LinkColor}});
@@ -180,7 +181,7 @@ EffectPayload Generate(const VerticalScroller& scroller)
                                    {u"Font", scroller.cboFont},
                                    {u"FontSize", scroller.cboFontSize},
                                    {u"TextColor", scroller.TextColor},
-                                   {u"FirstItem", FirstItem(scroller)}});
+                                   {u"FirstItem", FirstItem(scroller.Items.front())}});
     payload.OnLoadFunc = u"moveSpan";
     payload.OnLoadArgs = u"()";
     payload.SavedHEAD = payload.BODYHTML;

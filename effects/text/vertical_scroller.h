@@ -13,6 +13,32 @@
 
 namespace orvane {
 
+/// One message of the scroller.
+struct ScrollerItem
+{
+    Text txtItem;    ///< lines end in CR LF
+    Text txtItemURL; ///< empty for no link
+    bool operator==(const ScrollerItem&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one message.
+template <ConstOr<ScrollerItem> Item, class Field>
+void ForEachField(Item& item, Field&& field)
+{
+    field("txtItem", item.txtItem);
+    field("txtItemURL", item.txtItemURL);
+}
+
+/// The complaint about a message without text, or nothing.
+std::optional<Complaint> Check(const ScrollerItem& item);
+
+/// The hint at an apostrophe in a message's link, which ends the text in the script.
+std::vector<Hint> HintsOf(const ScrollerItem& item);
+
+/// Puts "http://" in front of an address that begins with "www.".
+void Tidy(ScrollerItem& item);
+
 /// What the author enters on the Vertical Scroller window; the defaults are those of a fresh
 /// window.
 struct VerticalScroller
@@ -20,8 +46,7 @@ struct VerticalScroller
     static constexpr std::array Kinds = {EffectKind::VerticalScroller};
     static constexpr int Pages = 3;
 
-    std::vector<Text> lstItems; ///< the messages; lines of one end in CR LF
-    std::vector<Text> lstLinks; ///< the address of each message, or an empty text
+    std::vector<ScrollerItem> Items;
     Text cboFont = u"Arial";
     Text cboFontSize = Text(FontSizes[6]);
     Text cboFontStyle = u"Normal";
@@ -40,8 +65,7 @@ struct VerticalScroller
 template <ConstOr<VerticalScroller> Scroller, class Field>
 void ForEachField(Scroller& scroller, Field&& field)
 {
-    field("lstItems", scroller.lstItems);
-    field("lstLinks", scroller.lstLinks);
+    field(Lists("lstItems", "lstLinks"), scroller.Items);
     field("cboFont", scroller.cboFont);
     field("cboFontSize", scroller.cboFontSize);
     field("cboFontStyle", scroller.cboFontStyle);
@@ -64,12 +88,6 @@ inline constexpr RowListWords scrollerWords{
     .CannotMoveUp = u"Select an item in the list.  You cannot move the first item upward.",
     .CannotMoveDown = u"Select an item in the list.  You cannot move the last item downward.",
 };
-
-/// The complaint about an empty text of a message, or nothing.
-std::optional<Complaint> CheckScrollerItem(TextView txtItem);
-
-/// The hint at an apostrophe in a message's link, which ends the text in the script.
-std::vector<Hint> HintsOfScrollerItem(TextView txtItemURL);
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page);

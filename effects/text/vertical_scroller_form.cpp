@@ -1,7 +1,7 @@
 #include "effects/text/vertical_scroller_form.h"
 
-#include "effects/text/vert_scroller_add_form.h"
-#include "windows/row_list_panel.h"
+#include "services/file_requests.h"
+#include "windows/row_form.h"
 
 namespace orvane {
 
@@ -12,13 +12,36 @@ constexpr TextView subHeading =
     u"Scroll text vertically like a newsfeed and link each scrolling item to a Web page!  Hovering "
     u"over the text pauses the scroller.";
 
-constexpr RowButton buttons[] = {
-    {RowCommand::Add, "cmdAdd", u"&Add item..."},
-    {RowCommand::Edit, "cmdEdit", u"&Edit item..."},
-    {RowCommand::Remove, "cmdRemove", u"&Remove item"},
-    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
-    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"},
-};
+RowListLook ItemList()
+{
+    return {
+        .Columns = {{"lstItems", u"Vertical Scroller items:"}, {"lstLinks", u"Link to this URL:"}},
+        .Words = scrollerWords,
+        .Buttons = {{RowCommand::Add, "cmdAdd", u"&Add item..."},
+                    {RowCommand::Edit, "cmdEdit", u"&Edit item..."},
+                    {RowCommand::Remove, "cmdRemove", u"&Remove item"},
+                    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+                    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"}}};
+}
+
+void AddItemFields(PageBuilder& page)
+{
+    page.MultiLineBox("txtItem", u"Item text:",
+                      u"This is the text to be displayed in the vertical scrolling text box");
+    page.BrowseRow("txtItemURL", u"Link to Web page:",
+                   u"This is the Web page URL (address) to be displayed when the scrolling item is "
+                   u"clicked",
+                   {.Button = "cmdBrowseURL",
+                    .Caption = u"Browse for URL...",
+                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
+                    .GivesFocus = true});
+}
+
+constexpr RowLook itemWindow{.Name = "frmVertScrollerAdd",
+                             .Title = u"Specify Scroller text and links",
+                             .Kind = EffectKind::VerticalScroller,
+                             .Letters = 70,
+                             .AddFields = &AddItemFields};
 
 constexpr TextView alignments[] = {u"Left", u"Right", u"Center"};
 
@@ -27,10 +50,7 @@ constexpr int endOfWizard = 3;
 } // namespace
 
 VerticalScrollerForm::VerticalScrollerForm(Workbench& bench, QWidget* parent)
-    : EffectForm("frmVertScroller", bench, parent),
-      m_items(new RowListPanel(
-          {{"lstItems", u"Vertical Scroller items:"}, {"lstLinks", u"Link to this URL:"}},
-          scrollerWords, buttons, bench.Dialogs))
+    : EffectForm("frmVertScroller", bench, parent)
 {
     AddItemsPage();
     AddTextPage();
@@ -41,9 +61,12 @@ VerticalScrollerForm::VerticalScrollerForm(Workbench& bench, QWidget* parent)
 
 void VerticalScrollerForm::AddItemsPage()
 {
-    AddPage({heading, subHeading}).Fill(m_items);
-    connect(m_items, &RowListPanel::AddWanted, this, &VerticalScrollerForm::AddItem);
-    connect(m_items, &RowListPanel::EditWanted, this, &VerticalScrollerForm::EditItem);
+    auto* items = new RowListPanel(ItemList(), m_bench.Dialogs);
+    AddPage({heading, subHeading}).Fill(items);
+    connect(items, &RowListPanel::AddWanted, this,
+            [this, items] { AddRowByWindow<ScrollerItem>(*items, itemWindow, m_bench); });
+    connect(items, &RowListPanel::EditWanted, this,
+            [this, items] { EditRowByWindow<ScrollerItem>(*items, itemWindow, m_bench); });
 }
 
 void VerticalScrollerForm::AddTextPage()
@@ -68,19 +91,6 @@ void VerticalScrollerForm::AddScrollerPage()
     frame.Slider("sldrSpeed", u"Scrolling speed:", u"Slow", u"Fast", {});
     frame.Narrow(frame.TextBox("txtPause", u"Pause after each frame:", {}, u"seconds"));
     page.Fill();
-}
-
-void VerticalScrollerForm::AddItem()
-{
-    auto* form = new VertScrollerAddForm(m_bench, {}, this);
-    form->Begin([this, form] { m_items->AddRow(form->Row()); });
-}
-
-void VerticalScrollerForm::EditItem()
-{
-    const RowList& list = m_items->Rows();
-    auto* form = new VertScrollerAddForm(m_bench, list.Rows.at(list.Selected.value()), this);
-    form->Begin([this, form] { m_items->ChangeSelectedRow(form->Row()); });
 }
 
 void VerticalScrollerForm::Next()

@@ -5,8 +5,6 @@
 
 namespace orvane {
 
-class RowListPanel;
-
 /// The window of the Vertical Scroller.
 class VerticalScrollerForm : public EffectForm<VerticalScroller>
 {
@@ -21,11 +19,8 @@ private:
     void AddItemsPage();
     void AddTextPage();
     void AddScrollerPage();
-    void AddItem();
-    void EditItem();
     void ChangePage();
 
-    RowListPanel* m_items;
     int m_page = 0; ///< the wizard page on screen; from the third on the wizard has ended once
 };
 

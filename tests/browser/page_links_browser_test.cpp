@@ -21,8 +21,7 @@ TEST(PulldownMenuBrowserTest, TheButtonOpensTheChosenPageFromBothDisplays)
     for (const MenuDisplay display : {MenuDisplay::AllItems, MenuDisplay::Dropdown}) {
         BrowserPage page;
         page.AddFile("b.html", "<script>parent.postMessage('b is here', '*')</script>");
-        page.Load(PageOf(PulldownMenu{.List1 = {u"A", u"B"},
-                                      .List2 = {u"a.html", u"b.html"},
+        page.Load(PageOf(PulldownMenu{.Items = {{u"A", u"a.html"}, {u"B", u"b.html"}},
                                       .optDisplay = display,
                                       .cboTarget = u"main"}) +
                   "<iframe name='main'></iframe><script>addEventListener('message', "

@@ -33,8 +33,7 @@ const std::string rounds = "steps.filter((step, i) => i > 0 && step.words !== st
 
 TEST_F(VerticalScrollerBrowserTest, MovesByOnePixelAndWrapsFromTheLastMessageToTheFirst)
 {
-    Load({.lstItems = {u"It's <i>one</i>", u"Two\r\nlines"},
-          .lstLinks = {u"one.html", u""},
+    Load({.Items = {{u"It's <i>one</i>", u"one.html"}, {u"Two\r\nlines", u""}},
           .txtHeight = u"40",
           .sldrSpeed = 100,
           .txtPause = u"0"});
@@ -54,7 +53,7 @@ TEST_F(VerticalScrollerBrowserTest, MovesByOnePixelAndWrapsFromTheLastMessageToT
 
 TEST_F(VerticalScrollerBrowserTest, RestsAtTheTop)
 {
-    Load({.lstItems = {u"News"}, .sldrSpeed = 100, .txtPause = u"0.7"});
+    Load({.Items = {{.txtItem = u"News"}}, .sldrSpeed = 100, .txtPause = u"0.7"});
     m_page.WaitUntil("steps.some(step => step.top <= -2)", 30000);
     const auto gapAt = [&](const char* top) {
         return Value(std::string("(at => steps[at].when - steps[at - 1].when)"
@@ -69,7 +68,7 @@ TEST_F(VerticalScrollerBrowserTest, RestsAtTheTop)
 
 TEST_F(VerticalScrollerBrowserTest, StandsStillUnderTheMouse)
 {
-    Load({.lstItems = {u"News"}, .sldrSpeed = 100, .txtPause = u"2"});
+    Load({.Items = {{.txtItem = u"News"}}, .sldrSpeed = 100, .txtPause = u"2"});
     m_page.WaitUntil("steps.length > 0 && Math.round(steps[steps.length - 1].top) === -1", 30000);
     Value("spnOne.addEventListener('mouseover', () => document.title = 'over')");
     m_page.MoveTo("spnOne");

@@ -53,7 +53,7 @@ TEST(PayloadTest, TooltipsNeedFilesOnlyWhenOneIsListed)
 {
     EffectPayload effect{.Kind = EffectKind::Tooltips};
     EXPECT_FALSE(Finish(effect).NeedsFiles);
-    effect.Required.Names[0] = u"a.gif";
+    effect.Required.RequiredFileNames[0] = u"a.gif";
     EXPECT_TRUE(Finish(effect).NeedsFiles);
 }
 

@@ -26,7 +26,7 @@ TEST_F(DeliveredPagesTest, TellsOfEachPageWhatLiesOnTheDiskNow)
 {
     const std::string script = "<head><!-- Begin Orvane page script --><script src=orvane.js>"
                                "</script><!-- End Orvane page script --></head>";
-    m_payload.Effect.Required.Names = {u"http://h/there.html", u"go.gif"};
+    m_payload.Effect.Required.RequiredFileNames = {u"http://h/there.html", u"go.gif"};
     m_disk.Contents = {{u"/site/a.html", m_code},
                        {u"/site/go.gif", ""},
                        {u"/web/b.html", script + m_code},

@@ -30,10 +30,10 @@ FinishedPayload MakePayload(const TestFolder& folder)
                          .BODYHTML = u"<P>Hello</P>\r\n",
                          .OnLoadFunc = u"greet",
                          .OnLoadArgs = u"('you')"};
-    effect.Required.Names[0] = u"a.gif";
-    effect.Required.Sources[0] = folder.TextAt("pictures/a.gif");
-    effect.Required.Names[7] = u"b.gif";
-    effect.Required.Sources[7] = folder.TextAt("pictures/b.gif");
+    effect.Required.RequiredFileNames[0] = u"a.gif";
+    effect.Required.RequiredFileSources[0] = folder.TextAt("pictures/a.gif");
+    effect.Required.RequiredFileNames[7] = u"b.gif";
+    effect.Required.RequiredFileSources[7] = folder.TextAt("pictures/b.gif");
     effect.SupportFiles = {u"", u"Applet.class"};
     return Finish(effect);
 }

@@ -9,7 +9,7 @@ namespace {
 Text ListOf(EffectKind kind, const std::array<Text, 3>& supportFiles, TextView picture)
 {
     EffectPayload effect{.Kind = kind, .SupportFiles = supportFiles};
-    effect.Required.Names[7] = picture;
+    effect.Required.RequiredFileNames[7] = picture;
     Text list;
     for (const Text& name : FilesToUpload(Finish(effect)))
         list += name + u" ";

@@ -22,8 +22,8 @@ protected:
                                  {u"/program/Animate1.class", "class"}};
         m_payload.Kind = EffectKind::AdvancedAnimator;
         m_payload.BODYHTML = u"<B>moves</B>";
-        m_payload.Required.Names = {u"a.gif", u"b.gif"};
-        m_payload.Required.Sources = {u"/pics/a.gif", u"/pics/b.gif"};
+        m_payload.Required.RequiredFileNames = {u"a.gif", u"b.gif"};
+        m_payload.Required.RequiredFileSources = {u"/pics/a.gif", u"/pics/b.gif"};
         m_payload.SupportFiles = {u"Animate1.class"};
         m_windows.MakeFolder = [this](TextView folder) {
             m_askedFor.emplace_back(folder);
@@ -157,7 +157,7 @@ TEST_F(PublishPanelTest, MissingFilesAreCopiedByHandAndTheReportComesLast)
 
 TEST_F(PublishPanelTest, PreviewComesOnceItsMissingFilesWereCopied)
 {
-    m_payload.Required.Sources[1] = u"";
+    m_payload.Required.RequiredFileSources[1] = u"";
     Open();
     EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
     EXPECT_EQ(Heading(), u"Missing Required Files for Preview");

@@ -48,8 +48,8 @@ protected:
 
     void Require(std::size_t index, TextView name, TextView source)
     {
-        payload.Effect.Required.Names.at(index) = name;
-        payload.Effect.Required.Sources.at(index) = source;
+        payload.Effect.Required.RequiredFileNames.at(index) = name;
+        payload.Effect.Required.RequiredFileSources.at(index) = source;
     }
 
     MissingFiles Copy(TextView folder = u"/site/")

@@ -50,9 +50,8 @@ TEST(HintsTest, AreAtTheQuotesThatEndATextInTheScriptAndAtNoOthers)
               "txtWindowName: ', txtURL: \"");
     EXPECT_EQ(Shown(DigitalClock{.cboFont = u"'Arial'", .cboFontSize = u"\""}),
               "cboFont: ', cboFontSize: \"");
-    EXPECT_EQ(Shown(VerticalScroller{.lstItems = {u"it's \""}, .lstLinks = {u"\"", u"b'"}}),
-              "lstLinks: '");
-    EXPECT_EQ(HintsOfScrollerItem(u"a'b").size(), 1u);
+    EXPECT_EQ(Shown(VerticalScroller{.Items = {{u"it's \"", u"\""}, {u"", u"b'"}}}), "lstLinks: '");
+    EXPECT_EQ(HintsOf(ScrollerItem{u"it's", u"a'b"}).size(), 1u);
     EXPECT_EQ(Shown(PulldownMenu{.List1 = {u"'\""}, .List2 = {u"'"}, .cboTarget = u"\"it's"}),
               "cboTarget: '");
     EXPECT_EQ(Shown(AntiSpamLink{.Email = u"o'neil@a.b", .MailToText = u"'", .txtSubject = u"\""}),

@@ -47,7 +47,7 @@ Text NamesOf(const EffectPayload& payload)
         if (!name.empty())
             names += (names.empty() ? u"" : u", ") + name;
     };
-    std::ranges::for_each(payload.Required.Names, add);
+    std::ranges::for_each(payload.Required.RequiredFileNames, add);
     std::ranges::for_each(payload.SupportFiles, add);
     return names;
 }

@@ -31,8 +31,8 @@ protected:
 
 TEST_F(AutoInsertFormTest, ATypedPageGetsTheEffectAndEndsTheWizardThoughAFileIsMissing)
 {
-    m_payload.Required.Names[0] = u"a.gif";
-    m_payload.Required.Sources[0] = u"/gone/a.gif";
+    m_payload.Required.RequiredFileNames[0] = u"a.gif";
+    m_payload.Required.RequiredFileSources[0] = u"/gone/a.gif";
     m_payload.Kind = EffectKind::AdvancedAnimator;
     m_desk.Files.Folders = {u"/gone"};
     m_desk.Files.Contents[u"/program/a.gif"] = "shown by the preview";

@@ -139,7 +139,7 @@ TEST(ReadableFilesTest, AreTheOnesThatTheEffectNeedsOrNames)
           u"needed b.gif", u"password.cgi", u"settings/orvane.ini"})
         desk.Files.Contents[Join({u"/program/", name})] = "";
     FinishedPayload payload = PlainPayload(24);
-    payload.Effect.Required.Names = {u"needed b.gif", u"password.cgi"};
+    payload.Effect.Required.RequiredFileNames = {u"needed b.gif", u"password.cgi"};
     payload.Effect.SupportFiles[0] = u"A.class";
     payload.Effect.BODYHTML =
         u"<img src=max.gif><a href='password.cgi'>a/y.gif</a>|z.gif|settings/";
@@ -158,8 +158,8 @@ TEST(PreviewNoteTest, SaysWhatThePaneCannotShowAndWhatIsMissing)
     FakeDesk desk;
     FinishedPayload payload = PlainPayload(1);
     payload.Effect.BODYHTML = u"<b>x</b><applet code=A.class></applet>";
-    payload.Effect.Required.Names[2] = u"gone.gif";
-    payload.Effect.Required.Names[4] = u"there.gif";
+    payload.Effect.Required.RequiredFileNames[2] = u"gone.gif";
+    payload.Effect.Required.RequiredFileNames[4] = u"there.gif";
     payload.Effect.SupportFiles[0] = u"A.class";
     desk.Files.Contents[u"/program/there.gif"] = "GIF89a";
     std::ignore = LinkToBrowser(desk.Bench, payload, PreviewMode::Inline);

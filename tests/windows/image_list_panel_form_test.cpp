@@ -5,6 +5,7 @@
 #include "tests/support/qt_controls.h"
 #include "tests/support/qt_mouse.h"
 #include "windows/qt_text.h"
+#include "windows/row_list_panel.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -52,9 +53,9 @@ protected:
         m_desk.Files.Contents[Path(name)] = bytes;
     }
 
-    ImageListPanel& Open(const ImageListVariation& variation)
+    RowListPanel& Open(const ImageListVariation& variation)
     {
-        m_panel = new ImageListPanel(m_desk.Bench, variation);
+        m_panel = new ImageListPanel(m_desk.Bench, m_files, variation);
         auto* rows = new QVBoxLayout(&m_window);
         rows->addWidget(m_panel);
         for (QLineEdit* field : {&m_width, &m_height})
@@ -69,7 +70,7 @@ protected:
         m_window.show();
         m_window.activateWindow();
         LetRun();
-        return *m_panel;
+        return *m_panel->List();
     }
 
     void Choose(const char* name, TextView words)
@@ -81,20 +82,19 @@ protected:
 
     QTemporaryDir m_folder;
     FakeDesk m_desk;
+    RequiredFiles m_files;
     QDialog m_window;
     QLineEdit m_width;
     QLineEdit m_height;
     ImageListPanel* m_panel = nullptr;
 };
 
-TEST_F(ImageListPanelTest, OpensInTheFolderUsedLastWithNothingToCopy)
+TEST_F(ImageListPanelTest, OpensInTheFolderUsedLast)
 {
-    m_desk.Core.RequiredFileCount = 7;
-    Open({});
+    Open(SlideshowImageList());
     EXPECT_EQ(RowsOf(m_window, "File1"), (Texts{u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(SelectedRowOf(m_window, "Dir1"),
               RowWith(m_window, "Dir1", GetFileName(FromQt(m_folder.path()))));
-    EXPECT_EQ(m_desk.Core.RequiredFileCount, 0);
     EXPECT_TRUE(m_desk.Settings.Writes.empty());
     m_width.setObjectName(QStringLiteral("Text20"));
     m_height.setObjectName(QStringLiteral("Text21"));
@@ -108,7 +108,7 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
 {
     const std::array<const char*, 3> buttons = {"cmdDelete", "cmdMoveDown", "cmdMoveUp"};
     AddFile(u"my pic.gif", GifBytes(900, 900));
-    ImageListPanel& panel = Open(AnimatorImageList());
+    RowListPanel& panel = Open(AnimatorImageList());
     List("File1").setFocus();
     EXPECT_EQ(List("File1").currentRow(), -1) << "nothing is selected, nor looks so";
     Click(m_window, "cmdAddToImageList");
@@ -128,8 +128,8 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
     Press(List("File1"), Qt::Key_Enter);
     EXPECT_TRUE(m_window.isVisible());
     DoubleClickBeside(m_window, "File1");
-    EXPECT_EQ(panel.Rows(), std::vector<ImageRow>{{.FileName = u"wide.gif"}});
-    EXPECT_EQ(m_desk.Core.Required.Sources[0], Path(u"wide.gif"));
+    EXPECT_EQ(panel.Rows(), RowTextsOf<ImageRow>({{.FileName = u"wide.gif"}}));
+    EXPECT_EQ(m_files.RequiredFileSources[0], Path(u"wide.gif"));
     EXPECT_EQ(m_width.text() + u'x' + m_height.text(), QStringLiteral("120x40"));
 
     DoubleClickRow(m_window, "File1", RowWith(m_window, "File1", u"Tall.GIF"));
@@ -140,14 +140,14 @@ TEST_F(ImageListPanelTest, AddButtonAsksForAFileAndThenGrowsTheSizeFields)
 
 TEST_F(ImageListPanelTest, ListsSelectScrollAndMoveAsOne)
 {
-    ImageListPanel& panel = Open(AnimatorImageList());
-    std::vector<ImageRow> rows;
+    RowListPanel& panel = Open(AnimatorImageList());
+    RowTexts rows;
     for (int i = 0; i < 60; ++i) {
         const Text number = FromUtf8(std::to_string(i));
         rows.push_back({number, u"p" + number, u"t" + number, u"u" + number, u"s" + number});
     }
     int selections = 0;
-    QObject::connect(&panel, &ImageListPanel::RowSelected, [&] { ++selections; });
+    QObject::connect(&panel, &RowListPanel::RowSelected, [&] { ++selections; });
     panel.SetRows(rows);
     EXPECT_EQ(selections, 0);
     ClickRow(m_window, "List5", 50);
@@ -179,7 +179,8 @@ TEST_F(ImageListPanelTest, ListsSelectScrollAndMoveAsOne)
     EXPECT_EQ(panel.Rows()[50], rows[51]);
     EXPECT_EQ(panel.Selected(), 50u);
     Click(m_window, "cmdDelete");
-    panel.SetRow(3, {.FileName = u"3", .Pause = u"-1"});
+    panel.Select(3);
+    panel.ChangeSelectedRow({u"3", u"-1", {}, {}, {}});
     EXPECT_EQ(RowsOf(m_window, "List3")[3], u"-1");
     EXPECT_EQ(SelectedRowOf(m_window, "List4"), 3);
     panel.SetRows({});
@@ -191,9 +192,9 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
 {
     for (const TextView name : {u"a b.gif", u"c d.gif"})
         AddFile(name, GifBytes(900, 900));
-    ImageListPanel& panel = Open({});
+    RowListPanel& panel = Open(SlideshowImageList());
     List("File1").selectAll();
-    Click(m_window, "cmdAddToImageList");
+    Click(m_window, "cmdAddImageToList");
     EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
               Texts{u"This special effect does not allow image filenames containing space "
@@ -217,13 +218,13 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
     ClickRow(m_window, "List1", 3);
     DropFiles(place, {Path(u"blank name/x.jpg"), Path(u"Tall.GIF")});
     EXPECT_EQ(RowsOf(m_window, "List1")[5], u"Tall.GIF") << "both behind the last row";
-    EXPECT_EQ(m_desk.Core.Required.Sources[2], Path(u"blank name/x.jpg"));
+    EXPECT_EQ(m_files.RequiredFileSources[2], Path(u"blank name/x.jpg"));
     EXPECT_TRUE(m_desk.Dialogs.Said.empty());
 }
 
 TEST_F(ImageListPanelTest, DraggedRowTakesAllColumnsAlong)
 {
-    ImageListPanel& panel = Open(AnimatorImageList());
+    RowListPanel& panel = Open(AnimatorImageList());
     panel.SetRows({{u"a", u"1", {}, {}, {}}, {u"b", u"2", {}, {}, {}}, {u"c", u"3", {}, {}, {}}});
     EXPECT_TRUE(DragRow(m_window, "List4", 0, 2));
     EXPECT_EQ(RowsOf(m_window, "List3"), (Texts{u"2", u"3", u"1"}));
@@ -234,12 +235,12 @@ TEST_F(ImageListPanelTest, DraggedRowTakesAllColumnsAlong)
 
 TEST_F(ImageListPanelTest, RowsTellOfDoubleClicksAndMenus)
 {
-    ImageListPanel& panel = Open(AnimatorImageList());
-    panel.SetRows({{.FileName = u"a"}, {.FileName = u"b"}});
+    RowListPanel& panel = Open(AnimatorImageList());
+    panel.SetRows(RowTextsOf<ImageRow>({{.FileName = u"a"}, {.FileName = u"b"}}));
     int doubleClicks = 0;
     int menus = 0;
-    QObject::connect(&panel, &ImageListPanel::RowActivated, [&] { ++doubleClicks; });
-    QObject::connect(&panel, &ImageListPanel::MenuRequested, [&](QPoint) {
+    QObject::connect(&panel, &RowListPanel::EditWanted, [&] { ++doubleClicks; });
+    QObject::connect(&panel, &RowListPanel::MenuRequested, [&](QPoint) {
         ++menus;
         EXPECT_EQ(panel.Selected(), 1u);
     });
@@ -257,7 +258,7 @@ TEST_F(ImageListPanelTest, PreviewShowsTheSelectedPictureAndKeepsItOverABrokenOn
 {
     AddFile(u"bad.jpg", "Dear reader,\r\n");
     AddFile(u"a b.gif", GifBytes(30, 30));
-    Open(SlideshowImageList()).SetRows({{.FileName = u"unknown.gif"}});
+    Open(SlideshowImageList()).SetRows(RowTextsOf<ImageRow>({{.FileName = u"unknown.gif"}}));
     DoubleClickRow(m_window, "File1", RowWith(m_window, "File1", u"wide.gif"));
     const auto* preview = Find<QLabel>(m_window, "lblPreviewImage");
     const qint64 old = preview->pixmap().cacheKey();

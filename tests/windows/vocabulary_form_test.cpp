@@ -107,12 +107,13 @@ TEST_F(VocabularyTest, AClickOnADescriptionSelectsItsOption)
 
 TEST_F(VocabularyTest, BrowseFillsALockedFieldAndRefusesABlank)
 {
+    Text source;
     m_page.LockedBrowseRow("txtImage", u"Image:", {},
                            {.Button = "cmdBrowse",
                             .Caption = u"Browse...",
                             .Request = {.Title = u"Open", .Filter = u"All|*.*"},
                             .NoBlanks = FileRole::Image,
-                            .Slot = 3});
+                            .Source = &source});
     Show();
     auto* box = Find<QWidget>(m_window, "txtImage");
     Type(m_window, "txtImage", u"x");
@@ -132,7 +133,7 @@ TEST_F(VocabularyTest, BrowseFillsALockedFieldAndRefusesABlank)
     }
     EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
     EXPECT_EQ(TextIn("txtImage"), u"a.gif");
-    EXPECT_EQ(m_desk.Core.Required.Sources[3], u"/my pics/a.gif");
+    EXPECT_EQ(source, u"/my pics/a.gif");
     EXPECT_EQ(m_desk.Dialogs.Requests.at(0).Filter, u"All|*.*");
 }
 
@@ -202,11 +203,11 @@ TEST_F(VocabularyTest, AHiddenRowTakesItsLabelAlong)
     EXPECT_TRUE(LabelOf(box)->isVisible());
 }
 
-constexpr std::array<RowButton, 5> rowButtons = {{{RowCommand::Add, "cmdAdd", u"Add"},
-                                                  {RowCommand::Edit, "cmdEdit", u"Edit"},
-                                                  {RowCommand::Remove, "cmdRemove", u"Remove"},
-                                                  {RowCommand::MoveUp, "cmdUp", u"Up"},
-                                                  {RowCommand::MoveDown, "cmdDown", u"Down"}}};
+const std::vector<RowButton> rowButtons = {{RowCommand::Add, "cmdAdd", u"Add"},
+                                           {RowCommand::Edit, "cmdEdit", u"Edit"},
+                                           {RowCommand::Remove, "cmdRemove", u"Remove"},
+                                           {RowCommand::MoveUp, "cmdUp", u"Up"},
+                                           {RowCommand::MoveDown, "cmdDown", u"Down"}};
 constexpr RowListWords rowWords = {u"edit empty",  u"edit none", u"remove empty",
                                    u"remove none", u"cannot up", u"cannot down"};
 
@@ -220,8 +221,19 @@ protected:
         Show();
     }
 
-    RowListPanel& m_rows = *new RowListPanel({{"lstItems", u"Items:"}, {"lstLinks", u"Links:"}},
-                                             rowWords, rowButtons, m_desk.Dialogs);
+    Texts Column(std::size_t field) const
+    {
+        Texts texts;
+        for (const FieldTexts& row : m_rows.Rows())
+            texts.push_back(row.at(field));
+        return texts;
+    }
+
+    RowListPanel& m_rows =
+        *new RowListPanel({.Columns = {{"lstItems", u"Items:"}, {"lstLinks", u"Links:"}},
+                           .Words = rowWords,
+                           .Buttons = rowButtons},
+                          m_desk.Dialogs);
     int m_edits = 0;
 };
 
@@ -231,7 +243,7 @@ TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
     emit Find<ActingList>(m_window, "lstItems")->DoubleClicked();
     m_rows.AddRow({u"a", u""});
     m_rows.AddRow({u"b\r\nsecond line", u"b.html"});
-    EXPECT_EQ(m_rows.Rows().Selected, 1u);
+    EXPECT_EQ(m_rows.Selected(), 1u);
     Find<ActingList>(m_window, "lstItems")->clearSelection();
     for (const char* button : {"cmdEdit", "cmdRemove", "cmdUp", "cmdDown"})
         Click(m_window, button);
@@ -245,19 +257,19 @@ TEST_F(RowListPanelTest, CommandsFollowTheSelectedRowAndTellWhatTheyLack)
     Press(*links, Qt::Key_Return);
     EXPECT_EQ(m_edits, 2);
     Click(m_window, "cmdUp");
-    EXPECT_EQ(m_rows.Column("lstItems"), (Texts{u"b\r\nsecond line", u"a"}));
+    EXPECT_EQ(Column(0), (Texts{u"b\r\nsecond line", u"a"}));
     Click(m_window, "cmdUp");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"cannot up"});
     Press(*links, Qt::Key_Delete);
-    EXPECT_EQ(m_rows.Column("lstLinks"), Texts{u""});
-    EXPECT_EQ(m_rows.Rows().Selected, 0u);
+    EXPECT_EQ(Column(1), Texts{u""});
+    EXPECT_EQ(m_rows.Selected(), 0u);
     Find<QWidget>(m_window, "cmdRemove")->setFocus();
     Click(m_window, "cmdRemove");
     EXPECT_FALSE(Find<QWidget>(m_window, "cmdRemove")->isEnabled());
     for (int times = 0; times < 3; ++times)
         Press(*m_window.focusWidget(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(m_rows.Column("lstItems"), (Texts{u"b\r\nsecond line", u"a"}));
-    EXPECT_EQ(m_rows.Rows().Selected, 0u);
+    EXPECT_EQ(Column(0), (Texts{u"b\r\nsecond line", u"a"}));
+    EXPECT_EQ(m_rows.Selected(), 0u);
 }
 
 TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
@@ -269,15 +281,15 @@ TEST_F(RowListPanelTest, IsOneStopOfTabAndTheFirstArrowSelectsTheFirstRow)
     items->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(items->currentRow(), -1);
     Press(*items, Qt::Key_Down);
-    EXPECT_EQ(m_rows.Rows().Selected, 0u);
+    EXPECT_EQ(m_rows.Selected(), 0u);
     Press(*items, Qt::Key_Down);
-    EXPECT_EQ(m_rows.Rows().Selected, 1u);
+    EXPECT_EQ(m_rows.Selected(), 1u);
     EXPECT_EQ(Find<ActingList>(m_window, "lstLinks")->SelectedRow(), 1);
     Press(*items, Qt::Key_Tab);
     EXPECT_EQ(m_window.focusWidget()->objectName(), QStringLiteral("cmdAdd"));
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
         Press(*items, key, Qt::AltModifier);
-    EXPECT_EQ(m_rows.Column("lstItems"), (Texts{u"b", u"a"})) << "without a word at the ends";
+    EXPECT_EQ(Column(0), (Texts{u"b", u"a"})) << "without a word at the ends";
 }
 
 } // namespace

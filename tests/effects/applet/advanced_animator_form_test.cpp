@@ -127,7 +127,9 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnewAndTheTitleTe
     }
     EXPECT_EQ(m_desk.Dialogs.Titles.back(), u"Advanced Animation Wizard");
     // The picture of this run is delivered, whatever project is open.
-    const RequiredFiles required{.Names = {u"a.gif"}, .Sources = {u"/pics/a.gif"}};
+    const RequiredFiles required{.RequiredFileNames = {u"a.gif"},
+                                 .RequiredFileSources = {u"/pics/a.gif"},
+                                 .RequiredFileCount = 1};
     EXPECT_EQ(Form().Parameters(),
               (AdvancedAnimator{.LoopCount = u"3 times", .Required = required}));
 

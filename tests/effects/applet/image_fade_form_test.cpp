@@ -1,10 +1,10 @@
 #include "effects/applet/image_fade_form.h"
 
-#include "effects/applet/image_fade_url_form.h"
 #include "tests/support/form_test.h"
 #include "tests/support/picture_files.h"
 #include "tests/support/qt_mouse.h"
 #include "tests/support/test_folder.h"
+#include "windows/ok_cancel_form.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -29,6 +29,11 @@ protected:
         Click(m_form, "cmdAddImage");
     }
 
+    FadeImage Image(const char* name, TextView link = {}) const
+    {
+        return {FromUtf8(name), Text(link), m_folder.TextAt(name)};
+    }
+
     TestFolder m_folder;
 };
 
@@ -45,14 +50,12 @@ TEST_F(ImageFadeFormTest, DroppedImagesComeInTheirOrderAndDraggedOnesTakeLinkAnd
                      u"Orvane can't read this image:\r\nd.gif",
                      u"These files do not fit here and were left out:\r\ne.txt"}));
     Click(m_form, "cmdLinkToURL");
-    auto* link = m_form.findChild<ImageFadeURLForm*>();
+    auto* link = m_form.findChild<OkCancelForm*>();
     Type(*link, "txtURL", u"x");
     Click(*link, "cmdOK");
     EXPECT_TRUE(DragRow(m_form, "FadeImages", 1, 0));
-    const ImageFade fade = m_form.Parameters();
-    EXPECT_EQ(fade.FadeImages, (Texts{u"a.gif", u"b.gif"}));
-    EXPECT_EQ(fade.FadeLinks, (Texts{u"x", u""}));
-    EXPECT_EQ(fade.Required, (RequiredFiles{.Sources = {path("a.gif"), path("b.gif")}}));
+    EXPECT_EQ(m_form.Parameters().Images,
+              (std::vector<FadeImage>{Image("a.gif", u"x"), Image("b.gif")}));
 }
 
 TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
@@ -65,21 +68,21 @@ TEST_F(ImageFadeFormTest, RemovingTheLastImageLetsAnySizeInAgain)
     Add("b.gif");
     Find<QListWidget>(m_form, "FadeLinks")->setCurrentRow(0);
     Click(m_form, "cmdRemoveImage");
-    EXPECT_EQ(m_form.Parameters().Required.Sources[0], m_folder.TextAt("b.gif"));
+    EXPECT_EQ(m_form.Parameters().FadeHeight, u"80");
     Click(m_form, "cmdRemoveImage"); // the next row was selected
+    EXPECT_EQ(m_form.Parameters().FadeHeight, u"");
     EXPECT_FALSE(Find<QPushButton>(m_form, "cmdMoveUp")->isEnabled());
     auto* images = Find<QListWidget>(m_form, "FadeImages");
     for (int times = 0; times < 2; ++times)
         Press(*images, Qt::Key_Z, Qt::ControlModifier);
-    const RequiredFiles both{.Sources = {m_folder.TextAt("a.gif"), m_folder.TextAt("b.gif")}};
-    EXPECT_EQ(m_form.Parameters().Required, both);
+    EXPECT_EQ(m_form.Parameters().Images, (std::vector<FadeImage>{Image("a.gif"), Image("b.gif")}));
     EXPECT_EQ(m_form.Parameters().FadeHeight, u"80");
     for (int times = 0; times < 2; ++times)
         Press(*images, Qt::Key_Delete);
     Add("c.gif");
     Press(*images, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(m_form.Parameters().FadeHeight, u"81");
-    EXPECT_EQ(m_form.Parameters().Required, (RequiredFiles{.Sources = {m_folder.TextAt("c.gif")}}));
+    EXPECT_EQ(m_form.Parameters().Images, std::vector<FadeImage>{Image("c.gif")});
 }
 
 } // namespace

@@ -10,7 +10,7 @@ ImageFade TwoImages()
     ImageFade fade{.FadePause = u"2.5", .FadeSpeed = 55, .FadeTarget = u" _top "};
     EXPECT_EQ(AddImage(fade, {u"/p/a.gif", PixelSize{100, 80}}), std::nullopt);
     EXPECT_EQ(AddImage(fade, {u"/q/b.gif", PixelSize{100, 80}}), std::nullopt);
-    fade.FadeLinks[1] = u"http://www.example.com/b.html";
+    fade.Images[1].txtURL = u"http://www.example.com/b.html";
     return fade;
 }
 
@@ -20,7 +20,7 @@ TEST(ImageFadeTest, NeedsTwoImagesAndNoTarget)
     fade.FadeTarget = u"";
     EXPECT_EQ(Find(Generate(fade).BODYHTML, u"TARGET"), 0u);
     EXPECT_EQ(Check(fade), std::nullopt);
-    fade.FadeImages.pop_back();
+    fade.Images.pop_back();
     EXPECT_EQ(Check(fade),
               (Complaint{u"You must enter at least 2 images to create the image fade effect.",
                          "FadeImages"}));
@@ -39,12 +39,11 @@ TEST(ImageFadeTest, TakesImagesOfTheFirstOnesSize)
               u"The images must be exactly the same size.  If one image is 100 pixels by 100 "
               u"pixels, then this image must be 100 x 100.");
     EXPECT_EQ(fade, before);
-    fade.FadeImages.resize(60);
-    fade.FadeLinks.resize(60);
+    fade.Images.resize(60);
     EXPECT_EQ(AddImage(fade, {u"/p/late.gif", PixelSize{100, 80}}), std::nullopt);
-    MoveSource(fade, 50, 51); // the last that is recorded, and one that is not
-    ForgetImage(fade, 60);
-    EXPECT_NE(Find(Generate(fade).BODYHTML, u"\"IMAGE.60\" VALUE=\"late.gif\""), 0u);
+    const EffectPayload payload = Generate(fade);
+    EXPECT_EQ(payload.Required.RequiredFileSources[1], u"/q/b.gif");
+    EXPECT_NE(Find(payload.BODYHTML, u"\"IMAGE.60\" VALUE=\"late.gif\""), 0u);
 }
 
 TEST(ImageFadeTest, ReadsPauseSpeedAndTargetAlone)
@@ -53,7 +52,8 @@ TEST(ImageFadeTest, ReadsPauseSpeedAndTargetAlone)
     ReadTag(fade, {.Whole = u"PAUSE 3000 \"><PARAM TARGET VALUE=\"_top\"><PARAM "
                             u"TRANSITION.SPEED VALUE=170 \">"});
     ImageFade expected = TwoImages();
-    expected.Required = {};
+    for (FadeImage& image : expected.Images)
+        image.Source.clear();
     expected.FadePause = u"3";
     expected.FadeTarget = u"\"_top";
     expected.FadeSpeed = 160;

@@ -15,7 +15,7 @@ class ImgPropsFormTest : public ::testing::Test
 protected:
     ImgPropsForm& Open(const ImageRow& row)
     {
-        m_form = std::make_unique<ImgPropsForm>(m_desk.Bench, row);
+        m_form = std::make_unique<ImgPropsForm>(m_desk.Bench, m_files, row);
         m_form->show();
         m_form->activateWindow();
         return *m_form;
@@ -24,6 +24,7 @@ protected:
     QComboBox& Box(const char* name) { return *Find<QComboBox>(*m_form, name); }
 
     FakeDesk m_desk;
+    RequiredFiles m_files;
     std::unique_ptr<ImgPropsForm> m_form;
 };
 
@@ -83,7 +84,7 @@ TEST_F(ImgPropsFormTest, WaitingForAClickFillsAndLocksThePause)
 
 TEST_F(ImgPropsFormTest, ABrowsedSoundIsRecordedEvenIfTheWindowIsCancelled)
 {
-    m_desk.Core.RequiredFileCount = 2;
+    m_files.RequiredFileCount = 2;
     Open({.FileName = u"a.gif"});
     m_desk.Dialogs.AnswerOpenFile(u"/my sounds/ding.au");
     Click(*m_form, "Command8");
@@ -100,9 +101,9 @@ TEST_F(ImgPropsFormTest, ABrowsedSoundIsRecordedEvenIfTheWindowIsCancelled)
     EXPECT_EQ(WordsOf(*m_form, "Text3"), u"ding.au");
     Click(*m_form, "cmdCancel");
     EXPECT_EQ(m_form->Row().Sound, u"");
-    EXPECT_EQ(m_desk.Core.Required.Names[2], u"ding.au");
-    EXPECT_EQ(m_desk.Core.Required.Sources[2], u"/my sounds/ding.au");
-    EXPECT_EQ(m_desk.Core.RequiredFileCount, 3);
+    EXPECT_EQ(m_files.RequiredFileNames[2], u"ding.au");
+    EXPECT_EQ(m_files.RequiredFileSources[2], u"/my sounds/ding.au");
+    EXPECT_EQ(m_files.RequiredFileCount, 3);
 }
 
 TEST_F(ImgPropsFormTest, SoundIsLockedAndALinkedFileStandsUnderItsBareName)

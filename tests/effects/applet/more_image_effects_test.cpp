@@ -63,11 +63,11 @@ TEST(MoreImageEffectsTest, ChecksTheImageThenItsSize)
 TEST(MoreImageEffectsTest, ABrowsedSourceStaysBehindATypedNameUntilTheBoxIsEmpty)
 {
     MoreImageEffects effects{.ImageFile = u"typed.gif"};
-    effects.Required.Sources[0] = u"/p/browsed.gif";
-    EXPECT_EQ(Generate(effects).Required.Names[0], u"typed.gif");
-    EXPECT_EQ(Generate(effects).Required.Sources[0], u"/p/browsed.gif");
+    effects.Required.RequiredFileSources[0] = u"/p/browsed.gif";
+    EXPECT_EQ(Generate(effects).Required.RequiredFileNames[0], u"typed.gif");
+    EXPECT_EQ(Generate(effects).Required.RequiredFileSources[0], u"/p/browsed.gif");
     effects.ImageFile.clear();
-    EXPECT_EQ(Generate(effects).Required.Sources[0], u"");
+    EXPECT_EQ(Generate(effects).Required.RequiredFileSources[0], u"");
 }
 
 } // namespace

@@ -21,7 +21,8 @@ TEST_F(TypewriterTextFormTest, ATextFileTakesThePlaceOfTheText)
     Click(m_form, "cmdBrowseForTextFile");
     EXPECT_EQ(WordsOf(m_form, "TextFile"), u"my words.txt");
     EXPECT_EQ(m_desk.Dialogs.Requests[0].Filter, u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt");
-    EXPECT_EQ(m_desk.Core.Required.Sources[typewriterTextFileSlot], u"/p/my words.txt");
+    EXPECT_EQ(m_form.Parameters().Required.RequiredFileSources[typewriterTextFileSlot],
+              u"/p/my words.txt");
 }
 
 TEST_F(TypewriterTextFormTest, LeavingASizeOfZeroSaysSoEachTimeAndEmptiesTheFontSize)

@@ -26,10 +26,10 @@ TEST(TypewriterTextTest, NeedsATextFileThatItDoesNotRead)
 {
     TypewriterText typewriter = Full();
     typewriter.TextFile = u"my words.txt"; // stays required although it is not read
-    typewriter.Required.Sources = {u"/p/paper.gif", u"/p/other.txt"};
-    EXPECT_EQ(
-        Generate(typewriter).Required,
-        (RequiredFiles{.Names = {u"paper.gif", u"my words.txt"}, .Sources = {u"/p/paper.gif"}}));
+    typewriter.Required.RequiredFileSources = {u"/p/paper.gif", u"/p/other.txt"};
+    EXPECT_EQ(Generate(typewriter).Required,
+              (RequiredFiles{.RequiredFileNames = {u"paper.gif", u"my words.txt"},
+                             .RequiredFileSources = {u"/p/paper.gif"}}));
 }
 
 TEST(TypewriterTextTest, ChecksTheTextFirstAndAllAtTheEnd)

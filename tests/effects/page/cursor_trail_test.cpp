@@ -13,8 +13,8 @@ TEST(CursorTrailTest, CutsTheNameBehindEitherSeparator)
         {u"/pictures/", u"", u""}};
     for (const auto& [typed, name, source] : cases) {
         const EffectPayload payload = Generate({.txtImage = Text(typed)});
-        EXPECT_EQ(payload.Required.Names[0], name);
-        EXPECT_EQ(payload.Required.Sources[0], source);
+        EXPECT_EQ(payload.Required.RequiredFileNames[0], name);
+        EXPECT_EQ(payload.Required.RequiredFileSources[0], source);
         EXPECT_NE(Find(payload.HEADHTML, Join({u"strImgPathFilename = '", name, u"';\r\n"})), 0u);
     }
 }

@@ -52,8 +52,8 @@ TEST(DynamicButtonFormTest, ThreePagesFromFreshToPayload)
 
     const auto payload = form.TakePayload();
     ASSERT_TRUE(payload);
-    EXPECT_EQ(payload->Required.Names[2], u"a.wav");
-    EXPECT_EQ(payload->Required.Sources[0], u"/pics/broken.gif");
+    EXPECT_EQ(payload->Required.RequiredFileNames[2], u"a.wav");
+    EXPECT_EQ(payload->Required.RequiredFileSources[0], u"/pics/broken.gif");
     EXPECT_EQ(Left(payload->BODYHTML, 21), u"<bgsound id='bgs5443'"); // the desk's clock
     EXPECT_EQ(form.Parameters().LinkUrl, u"http://www.example.com");
 }

@@ -19,10 +19,12 @@ DynamicButton FullButton()
 TEST(DynamicButtonTest, KeepsTheSourcesOfTheFilesThatItStillNames)
 {
     DynamicButton button = FullButton();
-    button.Required.Sources = {u"/p/up.gif", u"/p/over.gif", u"/s/other.wav", {}, u"/s/click.wav"};
-    EXPECT_EQ(Generate(button, {}).Required.Sources,
-              (RequiredFiles{.Sources = {u"/p/up.gif", u"/p/over.gif", {}, {}, u"/s/click.wav"}}
-                   .Sources));
+    button.Required.RequiredFileSources = {
+        u"/p/up.gif", u"/p/over.gif", u"/s/other.wav", {}, u"/s/click.wav"};
+    EXPECT_EQ(Generate(button, {}).Required.RequiredFileSources,
+              (RequiredFiles{
+                  .RequiredFileSources = {u"/p/up.gif", u"/p/over.gif", {}, {}, u"/s/click.wav"}}
+                   .RequiredFileSources));
 }
 
 TEST(DynamicButtonTest, NamesTheSoundByAllDigitsOfTheClockAtMidnight)

@@ -7,10 +7,10 @@ namespace {
 
 TEST(PulldownMenuTest, PutsValuesInUnescapedAndKnowsBlankAndSeparatorExactly)
 {
-    const Text body = Generate({.List1 = {u"«URL» \"a\" é☃", u"---------------------"},
-                                .List2 = {u"o'neil.html", u"x"},
-                                .cboTarget = u"Blank «Item»'"})
-                          .BODYHTML;
+    const Text body =
+        Generate({.Items = {{u"«URL» \"a\" é☃", u"o'neil.html"}, {u"---------------------", u"x"}},
+                  .cboTarget = u"Blank «Item»'"})
+            .BODYHTML;
     EXPECT_NE(Find(body, u"          <OPTION VALUE=\"o'neil.html\">«URL» \"a\" é☃\r\n"
                          u"          <OPTION VALUE=\"x\">---------------------\r\n    </SELECT>"),
               0u);

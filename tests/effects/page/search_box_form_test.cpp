@@ -29,7 +29,7 @@ TEST(SearchBoxFormTest, TranslatesInTheOtherMode)
     EXPECT_EQ(payload,
               Generate({.Mode = Text(translateMode), .txtTranslateURL = u"http://a.example"},
                        SurroundingsOf(desk.Bench)));
-    EXPECT_EQ(payload->Required.Sources[0], u"/program/GoogleLogo.gif");
+    EXPECT_EQ(payload->Required.RequiredFileSources[0], u"/program/GoogleLogo.gif");
 }
 
 } // namespace

@@ -11,7 +11,7 @@ TEST(TooltipsTest, NeedsTheImageAlongOnlyWhenItIsPointedAt)
     EXPECT_EQ(Generate(tooltip).Required, RequiredFiles());
     tooltip.optHoverObject = HoverObject::Image;
     tooltip.txtImage = u"photo.gif";
-    EXPECT_EQ(Generate(tooltip).Required, (RequiredFiles{.Names = {u"photo.gif"}}));
+    EXPECT_EQ(Generate(tooltip).Required, (RequiredFiles{.RequiredFileNames = {u"photo.gif"}}));
 }
 
 TEST(TooltipsTest, TakesEveryValueAsTyped)

@@ -1,8 +1,8 @@
 #include "effects/text/vertical_scroller_form.h"
 
-#include "effects/text/vert_scroller_add_form.h"
 #include "tests/support/form_test.h"
 #include "tests/support/qt_mouse.h"
+#include "windows/ok_cancel_form.h"
 
 #include <QPlainTextEdit>
 
@@ -16,7 +16,7 @@ protected:
     void Add(const char* item, TextView link)
     {
         Click(m_form, "cmdAdd");
-        auto* add = m_form.findChild<VertScrollerAddForm*>();
+        auto* add = m_form.findChild<OkCancelForm*>();
         ASSERT_NE(add, nullptr);
         Find<QPlainTextEdit>(*add, "txtItem")->setPlainText(QString::fromUtf8(item));
         Type(*add, "txtItemURL", link);
@@ -41,8 +41,7 @@ TEST_F(VerticalScrollerFormTest, FromFreshToPayloadAndOnceMore)
     EXPECT_EQ(Said().size(), 1u);
     Find<QLineEdit>(m_form, "txtHeight")->setText(QStringLiteral("80"));
     Click(m_form, "cmdNext");
-    const VerticalScroller wanted{.lstItems = {u"First\r\nline"},
-                                  .lstLinks = {u"http://WWW.x"},
+    const VerticalScroller wanted{.Items = {{u"First\r\nline", u"http://WWW.x"}},
                                   .TextColor = u"#000000",
                                   .LinkColor = u"rgb(255,0,0)",
                                   .txtHeight = u"80",
@@ -72,7 +71,7 @@ TEST_F(VerticalScrollerFormTest, EditingStartsWithTheRowAndTakesAPickedPagesName
     Add("two", u"");
     EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), 1);
     DoubleClickRow(m_form, "lstLinks", 0);
-    auto* edit = m_form.findChild<VertScrollerAddForm*>();
+    auto* edit = m_form.findChild<OkCancelForm*>();
     ASSERT_NE(edit, nullptr);
     EXPECT_EQ(WordsOf(*edit, "txtItem"), u"one");
     EXPECT_EQ(WordsOf(*edit, "txtItemURL"), u"a.html");
@@ -85,8 +84,8 @@ TEST_F(VerticalScrollerFormTest, EditingStartsWithTheRowAndTakesAPickedPagesName
     Find<QPlainTextEdit>(*edit, "txtItem")->setPlainText(QStringLiteral("1"));
     Click(*edit, "cmdOK");
     EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), 0);
-    EXPECT_EQ(m_form.Parameters().lstItems, (Texts{u"1", u"two"}));
-    EXPECT_EQ(m_form.Parameters().lstLinks, (Texts{u"b c.html", u""}));
+    EXPECT_EQ(m_form.Parameters().Items,
+              (std::vector<ScrollerItem>{{u"1", u"b c.html"}, {u"two", u""}}));
     m_form.SetParameters(m_form.Parameters());
     EXPECT_EQ(SelectedRowOf(m_form, "lstItems"), 0);
 }

@@ -7,8 +7,7 @@ namespace {
 
 TEST(VerticalScrollerTest, TakesSizesAsTypedAndAPauseOnlyWhenItIsANumber)
 {
-    const VerticalScroller odd{.lstItems = {u"«Speed» \"ü☃\" \\", u"b"},
-                               .lstLinks = {u"", u"«Row»"},
+    const VerticalScroller odd{.Items = {{u"«Speed» \"ü☃\" \\", u""}, {u"b", u"«Row»"}},
                                .cboFontStyle = u"Oblique",
                                .txtWidth = u" 1e2",
                                .txtHeight = u"-5",
