@@ -121,7 +121,7 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
 
 void FormDesk::EditApplet()
 {
-    EditAppletForm form(m_bench, &FormDesk::IsBuilt, m_mainForm.get());
+    EditAppletForm form(m_bench, &HasWizard, m_mainForm.get());
     ShowModally(form);
     if (const CatalogueRow* row = FindRow(form.Wanted()))
         OpenEffect(*FindCommand(row->MenuCommand));
