@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
-#include "core/payload.h"
+#include "core/effect_kind.h"
 #include "core/text.h"
 
 #include <array>

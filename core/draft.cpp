@@ -76,9 +76,7 @@ DraftFields ReadDraftFields(TextView draft)
 {
     DraftFields fields;
     while (!draft.empty()) {
-        const std::size_t end = draft.find(u'\n');
-        const TextView line = draft.substr(0, end);
-        draft = end == TextView::npos ? TextView() : draft.substr(end + 1);
+        const TextView line = TakeUntil(draft, u'\n');
         if (const std::size_t place = line.find(between); place != TextView::npos)
             fields[ToUtf8(line.substr(0, place))].push_back(
                 Unescaped(line.substr(place + between.size())));

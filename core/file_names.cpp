@@ -70,12 +70,10 @@ Text PathIn(TextView folder, TextView name)
 bool MatchesMasks(TextView name, TextView masks)
 {
     while (!masks.empty()) {
-        const std::size_t end = masks.find(u';');
         // "*.*" is every name, one without a dot too.
-        const TextView mask = Trim(masks.substr(0, end));
+        const TextView mask = Trim(TakeUntil(masks, u';'));
         if (mask == u"*.*" || MatchesMask(name, mask))
             return true;
-        masks.remove_prefix(end == TextView::npos ? masks.size() : end + 1);
     }
     return false;
 }

@@ -26,6 +26,13 @@ RegistryVariant AfterRegistryRead(const RegistryVariant& current, const Registry
     return current;
 }
 
+void ReadClassesRootValue(OrvaneCore& core, Shell& shell)
+{
+    core.IEVersion = std::monostate();
+    if (auto command = shell.DefaultBrowser())
+        core.IEVersion = *std::move(command);
+}
+
 void BrowseDialog(OrvaneCore& core, Dialogs& dialogs, const FileRequest& request)
 {
     if (const auto path = dialogs.OpenFile(request))
@@ -34,13 +41,13 @@ void BrowseDialog(OrvaneCore& core, Dialogs& dialogs, const FileRequest& request
 
 void SaveDefaultPath(OrvaneCore& core, Settings& settings, TextView folder)
 {
-    settings.Put(u"Misc", u"DefaultPath", folder);
+    settings.Put(settingKeys::defaultPath, folder);
     core.DefaultPath = folder;
 }
 
 bool AreInputBoxesUnlocked(const Settings& settings)
 {
-    return settings.Get(u"Misc", u"UnlockInputBoxes", u"0") == u"1";
+    return settings.Get(settingKeys::unlockInputBoxes) == u"1";
 }
 
 void WarnInputBoxLocked(const Settings& settings, Dialogs& dialogs)

@@ -3,6 +3,7 @@
 #include "core/dialogs.h"
 #include "core/payload.h"
 #include "core/settings.h"
+#include "core/shell.h"
 #include "core/text.h"
 
 #include <cstdint>
@@ -31,6 +32,12 @@ struct RegistryAnswer
     bool ReadFailed = false; ///< type and size could be read, the value could not
 };
 
+/// What all CFile objects of a run have in common.
+struct frmCmnDlg
+{
+    Text LastFolder; ///< of the last picked file, with its separator; empty before the first
+};
+
 /// The state that the windows share; one instance lives for the whole run.
 struct OrvaneCore
 {
@@ -48,7 +55,12 @@ struct OrvaneCore
     Text LinkFolderMemo;      ///< where Browse found a page to link to last
     Text LastSoundFolder;     ///< where Browse found a sound last
     Text BrowserPathChoice;   ///< the program that BrowseDialog() picked last
+    frmCmnDlg CommonDialog;   ///< for every CFile
+    /// "image" or "quote". The command of Random Image or Random Quote will set it and their one
+    /// window, frmRandom, read it as soon as those effects are here.
     Text RandomMode;
+    /// The command of Image Transitions will set it and the window TextTransitions read it, as soon
+    /// as that effect is here: it then works on an image and not on text.
     bool TransitionsImageMode = false;
     Text ProgramFolder; ///< without a separator at its end
 };
@@ -65,6 +77,10 @@ Text EscapeApostrophes(TextView text);
 /// text that cannot be read empties it. Anything else that is missing, unreadable or of another
 /// type leaves it as it is.
 RegistryVariant AfterRegistryRead(const RegistryVariant& current, const RegistryAnswer& answer);
+
+/// Reads the command of the desktop's default browser into IEVersion, as if the classes root of a
+/// registry held it; empties it where the desktop names none.
+void ReadClassesRootValue(OrvaneCore& core, Shell& shell);
 
 /// Shows the Open dialog and stores the picked path in BrowserPathChoice; Cancel stores nothing.
 void BrowseDialog(OrvaneCore& core, Dialogs& dialogs, const FileRequest& request);

@@ -1,17 +1,14 @@
 #include "core/payload.h"
 
 #include "core/catalogue.h"
+#include "core/effect_markers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
 namespace {
-
-Text Marker(TextView beginOrEnd, TextView name)
-{
-    return Join({u"<!-- ***** ", beginOrEnd, u":Varlo ", name, u" special effect ***** -->"});
-}
 
 Text Attribute(TextView name, TextView function, TextView arguments)
 {
@@ -31,9 +28,9 @@ bool HasListedFile(const RequiredFiles& files)
 FinishedPayload Finish(const EffectPayload& effect)
 {
     FinishedPayload finished{.Effect = effect};
+    EffectMarkers markers;
     if (const CatalogueRow* row = FindRow(effect.Kind)) {
-        finished.BeginMarker = Marker(u"Begin", row->MarkerName);
-        finished.EndMarker = Marker(u"End", row->MarkerName);
+        markers = MarkersOf(row->MarkerName);
         finished.NeedsFiles =
             row->Files == FilesNeeded::Always ||
             (row->Files == FilesNeeded::WhenListed && HasListedFile(effect.Required));
@@ -41,8 +38,9 @@ FinishedPayload Finish(const EffectPayload& effect)
         finished.ReplaceInBody = row->ReplaceInBody;
     }
     for (Text* code : {&finished.Effect.HEADHTML, &finished.Effect.BODYHTML})
-        if (!code->empty())
-            *code = Join({finished.BeginMarker, lineEnd, *code, finished.EndMarker});
+        *code = Marked(markers, *code);
+    finished.BeginMarker = std::move(markers.Begin);
+    finished.EndMarker = std::move(markers.End);
     finished.BODYAttribute = Attribute(u"onLoad", effect.OnLoadFunc, effect.OnLoadArgs) +
                              Attribute(u"onUnload", effect.OnUnloadFunc, effect.OnUnloadArgs);
     finished.PreviewCode = Join({finished.Effect.HEADHTML, lineEnd, finished.Effect.BODYHTML});

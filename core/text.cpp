@@ -86,6 +86,14 @@ auto Joined(std::initializer_list<View> pieces)
     return joined;
 }
 
+template <class View>
+View TakeViewUntil(View& rest, typename View::value_type sign)
+{
+    const View taken = rest.substr(0, rest.find(sign));
+    rest.remove_prefix(std::min(taken.size() + 1, rest.size()));
+    return taken;
+}
+
 } // namespace
 
 std::size_t Find(TextView text, TextView sought, std::size_t from)
@@ -202,6 +210,24 @@ Text Join(std::initializer_list<TextView> pieces)
 std::string Join(std::initializer_list<std::string_view> pieces)
 {
     return Joined(pieces);
+}
+
+TextView TakeUntil(TextView& rest, char16_t sign)
+{
+    return TakeViewUntil(rest, sign);
+}
+
+std::string_view TakeUntil(std::string_view& rest, char sign)
+{
+    return TakeViewUntil(rest, sign);
+}
+
+Text Listed(std::span<const Text> texts, TextView between)
+{
+    Text list;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        list.append(i == 0 ? TextView() : between).append(texts[i]);
+    return list;
 }
 
 Text FromBytes(std::string_view bytes)

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -57,6 +58,12 @@ Text ReplaceAll(TextView text, TextView old, TextView replacement);
 /// The joined pieces, in one allocation.
 Text Join(std::initializer_list<TextView> pieces);
 
+/// What stands in front of the first `sign`, or all of it; taken off `rest` with that sign.
+TextView TakeUntil(TextView& rest, char16_t sign);
+
+/// The texts, with `between` between each two.
+Text Listed(std::span<const Text> texts, TextView between = u", ");
+
 /// Each byte as one character from 0 to 255.
 Text FromBytes(std::string_view bytes);
 
@@ -73,5 +80,6 @@ bool StartsWithIgnoringCase(std::string_view bytes, std::string_view start);
 bool EndsWithIgnoringCase(std::string_view bytes, std::string_view end);
 std::string ReplaceAll(std::string_view bytes, std::string_view old, std::string_view replacement);
 std::string Join(std::initializer_list<std::string_view> pieces);
+std::string_view TakeUntil(std::string_view& rest, char sign);
 
 } // namespace orvane

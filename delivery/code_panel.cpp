@@ -46,9 +46,9 @@ void CodePanel::AddPageScript()
     page.Note(u"Add these lines first, in front of all special effects; once is enough for a Web "
               u"page:");
     MultiLineBox* box = page.CodeBox("txtPageScript", u"Page script HTML code");
-    box->SetWords(pageScriptLines);
+    box->SetWords(LinesOfPageScript());
     box->setFixedHeight(box->fontMetrics().lineSpacing() * 5);
-    page.Buttons({CopyButton(page, "cmdCopyPageScript", u"Cop&y", box, Text(pageScriptLines),
+    page.Buttons({CopyButton(page, "cmdCopyPageScript", u"Cop&y", box, LinesOfPageScript(),
                              pageScriptPart)});
 }
 

@@ -62,12 +62,8 @@ DeliveredPage LookAt(const Text& path, const FinishedPayload& payload, const Fil
 /// One line with the names behind the words, if there are any.
 void AddLine(std::vector<Text>& lines, TextView words, const std::vector<Text>& names)
 {
-    if (names.empty())
-        return;
-    Text line(words);
-    for (const Text& name : names)
-        line += (&name == &names.front() ? Text(u": ") : Text(u", ")) + name;
-    lines.push_back(std::move(line));
+    if (!names.empty())
+        lines.push_back(Join({words, u": ", Listed(names)}));
 }
 
 /// The pages of which `isSo` is true, a line for each folder.

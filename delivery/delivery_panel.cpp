@@ -48,7 +48,7 @@ void DeliveryPanels::OfferEditorHelp(const Settings& settings, bool isScripted) 
     /// The own topic of the three pages that show code to copy.
     constexpr int manualPagesTopic = 50;
     const EditorHelp help =
-        setWebPageEditor(settings.Get(u"Misc", u"HTMLEditor", u""), isScripted, manualPagesTopic);
+        setWebPageEditor(settings.Get(settingKeys::webPageEditor), isScripted, manualPagesTopic);
     for (CodePanel* panel : Codes)
         panel->OfferHelp(help);
 }

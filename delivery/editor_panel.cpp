@@ -27,8 +27,8 @@ void EditorPanel::Keep(Settings& settings) const
 {
     // A row that only has the focus was not chosen.
     const int row = lstHTMLEditors->SelectedRow();
-    if (row >= 0 && settings.Get(u"Misc", u"HTMLEditor", u"").empty())
-        settings.Put(u"Misc", u"HTMLEditor", pageEditors[static_cast<std::size_t>(row)].Name);
+    if (row >= 0 && settings.Get(settingKeys::webPageEditor).empty())
+        settings.Put(settingKeys::webPageEditor, pageEditors[static_cast<std::size_t>(row)].Name);
 }
 
 } // namespace orvane

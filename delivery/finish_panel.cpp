@@ -81,9 +81,7 @@ void FinishPanel::PageShown()
 {
     const DeliveryReport& report = m_desk.Report;
     m_pages = LookAtPages(report, m_desk.Payload, m_bench.Files);
-    QString lines;
-    for (const Text& line : ReportLines(report, m_desk.Payload, m_pages))
-        lines += (lines.isEmpty() ? QString() : QStringLiteral("\n")) + ToQt(line);
+    QString lines = ToQt(Listed(ReportLines(report, m_desk.Payload, m_pages), u"\n"));
     // Long paths go on in the next line.
     lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
     cmdRunsToday->setVisible(!PagesWithoutScript(m_desk.Payload, m_pages).empty());

@@ -43,7 +43,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
       m_windows(std::move(windows))
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
-    const bool isWanted = bench.Settings.Get(u"Misc", u"RunsToday", u"0") == u"1";
+    const bool isWanted = bench.Settings.Get(settingKeys::runsToday) == u"1";
     m_payload.RunsToday = isWanted && !RowOf(effect.Kind).RunsByItself;
     m_preview = new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), isWanted});
     connect(m_preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
@@ -224,14 +224,14 @@ void PreviewForm::Preview(PreviewMode mode)
 void PreviewForm::ChooseRunsToday(bool isWanted)
 {
     m_payload.RunsToday = isWanted && !RowOf(m_payload.Effect.Kind).RunsByItself;
-    m_bench.Settings.Put(u"Misc", u"RunsToday", isWanted ? u"1" : u"0");
+    m_bench.Settings.Put(settingKeys::runsToday, isWanted ? u"1" : u"0");
     Preview(PreviewMode::Inline);
 }
 
 void PreviewForm::MakeRunToday(const std::vector<Text>& pages)
 {
     m_payload.RunsToday = true;
-    m_bench.Settings.Put(u"Misc", u"RunsToday", u"1");
+    m_bench.Settings.Put(settingKeys::runsToday, u"1");
     m_preview->CheckRunsToday();
     const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
     for (const Text& page : pages)
@@ -304,7 +304,7 @@ InsertMode PreviewForm::Mode() const
 
 DeliveryFacts PreviewForm::Facts() const
 {
-    return FactsOf(m_payload, !m_bench.Settings.Get(u"Misc", u"HTMLEditor", u"").empty());
+    return FactsOf(m_payload, !m_bench.Settings.Get(settingKeys::webPageEditor).empty());
 }
 
 } // namespace orvane

@@ -7,7 +7,6 @@ namespace orvane {
 namespace {
 
 constexpr int serverCount = 5;
-constexpr TextView section = u"FTP";
 
 Text ServerKey(int number)
 {
@@ -21,7 +20,12 @@ Text UsernameKey(int number)
 
 Text Stored(const Settings& settings, TextView key)
 {
-    return settings.Get(section, key, u"");
+    return settings.Get(InSection(settingSections::servers, key));
+}
+
+void Store(Settings& settings, TextView key, TextView value)
+{
+    settings.Put(InSection(settingSections::servers, key), value);
 }
 
 } // namespace
@@ -42,11 +46,11 @@ void PutRecentFTP(Settings& settings, TextView server, TextView username)
     if (UsernameFor(settings, server))
         return;
     for (int j = serverCount; j >= 2; --j) {
-        settings.Put(section, ServerKey(j), Stored(settings, ServerKey(j - 1)));
-        settings.Put(section, UsernameKey(j), Stored(settings, UsernameKey(j - 1)));
+        Store(settings, ServerKey(j), Stored(settings, ServerKey(j - 1)));
+        Store(settings, UsernameKey(j), Stored(settings, UsernameKey(j - 1)));
     }
-    settings.Put(section, ServerKey(1), server);
-    settings.Put(section, UsernameKey(1), username);
+    Store(settings, ServerKey(1), server);
+    Store(settings, UsernameKey(1), username);
 }
 
 std::optional<Text> UsernameFor(const Settings& settings, TextView server)

@@ -9,14 +9,6 @@ namespace orvane {
 
 namespace {
 
-Text Listed(const MissingFiles& names)
-{
-    Text list;
-    for (const Text& name : names)
-        list += (list.empty() ? Text() : Text(u", ")) + name;
-    return list;
-}
-
 Text Lines(TextView first, TextView second)
 {
     return Join({first, lineEnd, second});

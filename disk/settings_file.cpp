@@ -24,14 +24,6 @@ std::size_t FindSign(TextView line, char16_t sign)
     return TextView::npos;
 }
 
-TextView TakeLine(TextView& rest)
-{
-    const std::size_t end = rest.find(u'\n');
-    const TextView line = rest.substr(0, end);
-    rest.remove_prefix(end == TextView::npos ? rest.size() : end + 1);
-    return line;
-}
-
 } // namespace
 
 SettingsTable ReadSettings(std::string_view bytes)
@@ -40,7 +32,7 @@ SettingsTable ReadSettings(std::string_view bytes)
     SettingsTable settings;
     Text section;
     for (TextView rest = text; !rest.empty();) {
-        const TextView line = TakeLine(rest);
+        const TextView line = TakeUntil(rest, u'\n');
         if (line.starts_with(u'[')) {
             section = Unescaped(line.substr(1, FindSign(line.substr(1), u']')));
         } else if (const std::size_t sign = FindSign(line, u'='); sign != TextView::npos) {

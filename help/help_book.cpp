@@ -62,13 +62,11 @@ HelpBook ReadHelpBook(std::string_view bytes, TextView effectsOfTags)
     if (bytes.starts_with(byteOrderMark))
         bytes.remove_prefix(byteOrderMark.size());
     while (!bytes.empty()) {
-        const std::size_t end = bytes.find('\n');
-        const std::string_view line = WithoutReturn(bytes.substr(0, end));
+        const std::string_view line = WithoutReturn(TakeUntil(bytes, '\n'));
         if (auto topic = TopicBegunBy(line))
             book.push_back(std::move(*topic));
         else if (!book.empty())
             book.back().Body.append(FromUtf8(line)).push_back(u'\n');
-        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
     }
     for (HelpTopic& topic : book)
         topic.Body = ReplaceAll(topic.Body, effectsMark, effectsOfTags);

@@ -108,7 +108,7 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
     if (!WritePage(files, dialogs, page, bytes, edited))
         return AutoInsertion::NothingDone;
     if (payload.RunsToday && !HasPageScript(edited))
-        dialogs.Say(Join({noHeadWords, pageScriptLines}));
+        dialogs.Say(Join({noHeadWords, LinesOfPageScript()}));
     return AutoInsertion::Inserted;
 }
 
@@ -123,7 +123,7 @@ bool InsertPageScript(FileStore& files, Dialogs& dialogs, TextView page,
     const std::string& bytes = ValueIn(read);
     const std::string edited = WithPageScriptFor(bytes, payload);
     if (!HasPageScript(edited)) {
-        dialogs.Say(Join({noHeadWords, pageScriptLines}));
+        dialogs.Say(Join({noHeadWords, LinesOfPageScript()}));
         return false;
     }
     if (edited == bytes)

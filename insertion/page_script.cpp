@@ -1,8 +1,6 @@
 #include "insertion/page_script.h"
 
-#include "core/template.h"
 #include "insertion/page_encoding.h"
-#include "insertion/page_script_lines.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -11,13 +9,6 @@
 namespace orvane {
 
 namespace {
-
-constexpr Template linesWithCalls(uR"page(
-<!-- Begin Orvane page script -->
-<SCRIPT SRC="orvane.js"«Calls»></SCRIPT>
-<!-- End Orvane page script -->)page");
-
-constexpr Template callsOfTag(uR"page( «Name»="«Calls»")page");
 
 constexpr std::string_view fileBegin = "/*! Orvane page script ";
 constexpr std::string_view fileBeginEnd = " */\n";
@@ -93,24 +84,13 @@ std::string DroppedCalls(std::string_view bodyTag, std::string_view event, std::
     return dropped;
 }
 
-Text CallsOfTag(TextView name, std::string_view calls)
-{
-    if (calls.empty())
-        return {};
-    const Text value = ReplaceAll(FromBytes(calls), u"\"", u"&quot;");
-    return Fill(callsOfTag, {{u"Name", name}, {u"Calls", value}});
-}
-
 /// The lines for a page whose effects have these calls.
 std::string MakeLines(std::string_view code, const EventCalls& known)
 {
     const auto body = FindTag(code, "<body");
     const std::string_view tag = body ? CodeIn(code, *body) : std::string_view("<body>");
-    return ToBytes(
-        Fill(linesWithCalls,
-             {{u"Calls",
-               CallsOfTag(u"data-onload", DroppedCalls(tag, "onload", known.OnLoad)) +
-                   CallsOfTag(u"data-onunload", DroppedCalls(tag, "onunload", known.OnUnload))}}));
+    return ToBytes(LinesOfPageScript({DroppedCalls(tag, "onload", known.OnLoad),
+                                      DroppedCalls(tag, "onunload", known.OnUnload)}));
 }
 
 /// The calls of the payload, as the page's bytes will hold them, behind those that are known.
@@ -136,7 +116,7 @@ std::string WithPageScript(std::string_view page)
     std::string code(page);
     const auto head = HeadTag(page);
     if (head && !HasPageScript(page))
-        code.insert(head->End, ToBytes(pageScriptLines));
+        code.insert(head->End, ToBytes(LinesOfPageScript()));
     return code;
 }
 

@@ -1,20 +1,12 @@
 #pragma once
 
 #include "insertion/page_edit.h"
+#include "insertion/page_script_lines.h"
 
 #include <string>
 #include <string_view>
 
 namespace orvane {
-
-/// The name of the page script, the file beside a page that makes its effects run in today's
-/// browsers.
-inline constexpr TextView pageScriptFile = u"orvane.js";
-
-/// The lines by which a page loads the page script, as an author inserts them by hand.
-inline constexpr TextView pageScriptLines = u"<!-- Begin Orvane page script -->\r\n"
-                                            u"<SCRIPT SRC=\"orvane.js\"></SCRIPT>\r\n"
-                                            u"<!-- End Orvane page script -->";
 
 /// Whether the page has such lines, where a browser sees them.
 bool HasPageScript(std::string_view page);

@@ -1,7 +1,6 @@
 #include "insertion/page_script_lines.h"
 
-#include "core/text.h"
-#include "insertion/page_script.h"
+#include "core/template.h"
 
 #include <utility>
 
@@ -11,6 +10,23 @@ namespace {
 
 constexpr std::string_view beginLine = "<!-- Begin Orvane page script -->";
 constexpr std::string_view endLine = "<!-- End Orvane page script -->";
+constexpr std::string_view onLoadName = "data-onload";
+constexpr std::string_view onUnloadName = "data-onunload";
+
+constexpr Template writtenLines(uR"page(
+«BeginLine»
+<SCRIPT SRC="«File»"«Calls»></SCRIPT>
+«EndLine»)page");
+
+constexpr Template callsOfTag(uR"page( «Name»="«Calls»")page");
+
+Text CallsOfTag(std::string_view name, std::string_view calls)
+{
+    if (calls.empty())
+        return {};
+    const Text value = ReplaceAll(FromBytes(calls), u"\"", u"&quot;");
+    return Fill(callsOfTag, {{u"Name", FromBytes(name)}, {u"Calls", value}});
+}
 
 bool IsBlank(std::string_view code, std::size_t begin, std::size_t end)
 {
@@ -27,9 +43,9 @@ bool ReadTag(std::string_view tag, PageScriptLines& lines)
         if (EqualIgnoringCase(attribute->Name, "src")) {
             isOurs = EndsWithIgnoringCase(attribute->Value, file);
             lines.IsChanged = lines.IsChanged || attribute->Value != file;
-        } else if (attribute->Name == "data-onload") {
+        } else if (attribute->Name == onLoadName) {
             lines.Carried.OnLoad = attribute->Value;
-        } else if (attribute->Name == "data-onunload") {
+        } else if (attribute->Name == onUnloadName) {
             lines.Carried.OnUnload = attribute->Value;
         } else {
             lines.IsChanged = true;
@@ -60,6 +76,15 @@ std::optional<PageScriptLines> LinesAt(std::string_view code, const Markup& comm
 }
 
 } // namespace
+
+Text LinesOfPageScript(const EventCalls& calls)
+{
+    return Fill(writtenLines, {{u"BeginLine", FromBytes(beginLine)},
+                               {u"File", pageScriptFile},
+                               {u"Calls", CallsOfTag(onLoadName, calls.OnLoad) +
+                                              CallsOfTag(onUnloadName, calls.OnUnload)},
+                               {u"EndLine", FromBytes(endLine)}});
+}
 
 std::optional<PageScriptLines> FindPageScriptLines(std::string_view page, std::size_t from)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/text.h"
 #include "insertion/page_markup.h"
 
 #include <optional>
@@ -7,6 +8,10 @@
 #include <string_view>
 
 namespace orvane {
+
+/// The name of the page script, the file beside a page that makes its effects run in today's
+/// browsers.
+inline constexpr TextView pageScriptFile = u"orvane.js";
 
 /// Calls of effects in the two events of a BODY tag, with semicolons between them.
 struct EventCalls
@@ -23,6 +28,10 @@ struct PageScriptLines
     EventCalls Carried;     ///< the calls in the attributes of the SCRIPT tag
     bool IsChanged = false; ///< the SCRIPT tag has something that this program does not write
 };
+
+/// The lines as this program writes them, each byte of the calls one character; without calls they
+/// are those that an author inserts by hand.
+Text LinesOfPageScript(const EventCalls& calls = {});
 
 /// The first such lines at or behind `from`, outside of comments and scripts; nothing when there
 /// are none. Expects `from` outside of a tag.

@@ -12,9 +12,8 @@ namespace {
 bool SwitchOffSandbox(std::string_view flags)
 {
     while (!flags.empty()) {
-        std::string_view flag = flags.substr(0, flags.find(' '));
-        flags.remove_prefix(flag.size() < flags.size() ? flag.size() + 1 : flag.size());
-        flag = flag.substr(0, flag.find('='));
+        std::string_view flag = TakeUntil(flags, ' ');
+        flag = TakeUntil(flag, '=');
         if (flag == "--no-sandbox" || flag == "-no-sandbox")
             return true;
     }

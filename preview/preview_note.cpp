@@ -24,15 +24,15 @@ constexpr MarkNote markNotes[] = {
 /// The files that the effect needs beside its page and that do not lie there, with commas between.
 Text MissingNames(const EffectPayload& effect, const FileStore& files, TextView folder)
 {
-    Text names;
+    std::vector<Text> names;
     const auto add = [&](const Text& needed) {
         const auto name = NameBesidePage(needed);
         if (name && !files.FileExists(PathIn(folder, *name)))
-            names += (names.empty() ? u"" : u", ") + *name;
+            names.push_back(*name);
     };
     std::ranges::for_each(effect.Required.RequiredFileNames, add);
     std::ranges::for_each(effect.SupportFiles, add);
-    return names;
+    return Listed(names);
 }
 
 void AddSentence(Text& note, TextView words)

@@ -84,13 +84,13 @@ Text BrowserProgram(TextView command)
 /// author picked none.
 Text FindBrowser(Workbench& bench)
 {
-    const Text stored = bench.Settings.Get(u"Apps", u"Browser", u"c:\\");
+    const Text stored = bench.Settings.Get(settingKeys::browser);
     if (IsKnown(stored))
         return stored;
-    bench.Core.IEVersion = std::monostate();
+    ReadClassesRootValue(bench.Core, bench.Shell);
     Text browser;
-    if (const auto command = bench.Shell.DefaultBrowser(); command && !command->empty()) {
-        bench.Core.IEVersion = *command;
+    if (const auto* command = std::get_if<Text>(&bench.Core.IEVersion);
+        command && !command->empty()) {
         browser = BrowserProgram(*command);
     } else {
         bench.Dialogs.Say(u"Browser statement not found in Windows Registry.\r\n"
@@ -103,7 +103,7 @@ Text FindBrowser(Workbench& bench)
                       .value_or(Text());
     }
     if (!browser.empty())
-        bench.Settings.Put(u"Apps", u"Browser", browser);
+        bench.Settings.Put(settingKeys::browser, browser);
     return browser;
 }
 
@@ -112,7 +112,7 @@ bool ShowInBrowser(Workbench& bench)
 {
     const Text browser = FindBrowser(bench);
     const Text page = PreviewPagePath(bench.Core);
-    const bool isOverridden = bench.Settings.Get(u"Apps", u"Override", u"0") != u"0";
+    const bool isOverridden = bench.Settings.Get(settingKeys::overrideBrowser) != u"0";
     const bool hasDefault = !isOverridden && bench.Shell.DefaultBrowser().has_value();
     // A desktop without a browser opens nothing: there the one that the author chose is started.
     if (!isOverridden && (hasDefault || !IsProgram(browser))) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/dialogs.h"
 #include "core/text.h"
+#include "preview/web_view_owner.h"
 
 #include <QVariant>
 #include <QWidget>
@@ -11,40 +11,6 @@
 #include <vector>
 
 namespace orvane {
-
-/// Why a page ended without being left.
-enum class PageEnd
-{
-    Crashed,
-    Hung, ///< it did not answer and was stopped
-};
-
-/// What the web view asks of its owner, and tells it.
-class WebViewOwner
-{
-public:
-    virtual ~WebViewOwner() = default;
-
-    /// Shows a box of the page and gives the author's answer; the page waits meanwhile.
-    virtual PageBoxReply AnswerBox(const PageBox& box) = 0;
-
-    /// The page file is about to be read, for the first time or again, and must exist.
-    virtual void PageNeeded() = 0;
-
-    /// The page file has been read, or reading it has failed.
-    virtual void PageRead() = 0;
-
-    /// The page wrote this into its status line; empty when a page begins.
-    virtual void StatusWritten(TextView status) = 0;
-
-    /// The page wants to go to an address, which is given encoded and is empty when it is not
-    /// valid, or to a file (then `target` is its path) outside of the preview. `byAuthor`: the
-    /// author has clicked or typed in the page since the last such call.
-    virtual void OutsideWanted(TextView target, bool byAuthor) = 0;
-
-    /// The page no longer runs, and the view is empty.
-    virtual void PageEnded(PageEnd end) = 0;
-};
 
 /// The embedded browser. It loads the page file and files beside it that it is given, and nothing
 /// else from the disk or from any network.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "preview/page_folder.h"
-#include "preview/web_view.h"
+#include "preview/web_view_owner.h"
 #include "preview/web_view_watch.h"
 
 #include <QPointer>

@@ -1,18 +1,11 @@
-#include "disk/disk_file_store.h"
-#include "disk/program_folder.h"
-#include "disk/settings_file.h"
-#include "disk/system_calls.h"
-#include "help/help_form.h"
 #include "preview/preview_page.h"
-#include "preview/qt_preview_pane.h"
 #include "program/command_line.h"
-#include "program/form_desk.h"
+#include "program/composition.h"
 #include "program/qt_dialogs.h"
 #include "program/qt_resources.h"
 #include "program/qt_shell.h"
 #include "program/terminal.h"
 #include "windows/qt_text.h"
-#include "windows/remember_place.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -26,8 +19,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr int warmDelayMs = 400;
 
 /// The name of the desktop entry and of the icon that are installed with the program.
 constexpr orvane::TextView desktopId = u"example.varlo.orvane";
@@ -93,41 +84,25 @@ int main(int argc, char** argv)
 
     PosixCalls calls;
     ShutOthersOut(calls, *folders);
-    DiskFileStore files(calls, folders->State);
-    SettingsFile settings(files, folders->Settings);
-    QtDialogs dialogs(settings);
+    Disk disk(calls, *folders);
+    QtDialogs dialogs(disk.Settings);
     QtShell shell;
     QtClipboard clipboard;
-    OrvaneCore core;
-    core.ProgramFolder = folders->Program;
-    QtPreviewPane pane(dialogs, shell, files);
-    HelpForm help(files, shell, folders->Program, FormDesk::ListEffectsOfTags());
-    RememberPlace(help, settings);
-
-    Workbench bench{.Core = core,
-                    .Dialogs = dialogs,
-                    .Files = files,
-                    .Settings = settings,
-                    .Shell = shell,
-                    .Clipboard = clipboard,
-                    .Pane = pane,
-                    .Help = help,
-                    .Version = ORVANE_VERSION,
-                    .StateFolder = folders->State,
-                    .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); },
-                    .Clock = &DaysSince1900};
-    FormDesk desk(bench, &pane);
-    // An open wizard is the first sign of a preview to come; the author is still reading then.
-    QObject::connect(&desk, &FormDesk::WizardOpened, &pane,
-                     [&pane] { QTimer::singleShot(warmDelayMs, &pane, &QtPreviewPane::Warm); });
-    desk.Start();
+    Composition program(*folders, disk,
+                        {.Dialogs = dialogs,
+                         .Shell = shell,
+                         .Clipboard = clipboard,
+                         .Version = ORVANE_VERSION,
+                         .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); },
+                         .Clock = &DaysSince1900});
+    program.Desk.Start();
     // Behind the first paint of the window: the icon alone loads a library.
-    QTimer::singleShot(0, &desk, [&] {
+    QTimer::singleShot(0, &program.Desk, [&] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
-        RemovePreviewPages(files, core);
-        InstallResources(files, dialogs, folders->Program);
+        RemovePreviewPages(disk.Files, program.Core);
+        InstallResources(disk.Files, dialogs, folders->Program);
         if (const Text& path = std::get<Text>(project); !path.empty())
-            desk.OpenProject(path);
+            program.Desk.OpenProject(path);
     });
     return QApplication::exec();
 }

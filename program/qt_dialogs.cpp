@@ -89,12 +89,9 @@ QStringList QtNameFilters(TextView filter)
 {
     QStringList filters;
     while (!filter.empty()) {
-        const std::size_t bar = filter.find(u'|');
-        if (bar == TextView::npos)
-            break;
-        const std::size_t next = filter.find(u'|', bar + 1);
-        filters += QtNameFilter(filter.substr(0, bar), filter.substr(bar + 1, next - bar - 1));
-        filter = next == TextView::npos ? TextView() : filter.substr(next + 1);
+        const TextView label = TakeUntil(filter, u'|');
+        if (!filter.empty())
+            filters += QtNameFilter(label, TakeUntil(filter, u'|'));
     }
     return filters;
 }

@@ -14,7 +14,7 @@ bool PassesVersionGate(const RegistryVariant& version)
 
 FirstWindow StartUp(Workbench& bench)
 {
-    bench.Core.DefaultPath = bench.Settings.Get(u"Misc", u"DefaultPath", u"c:\\");
+    bench.Core.DefaultPath = bench.Settings.Get(settingKeys::defaultPath);
     if (!bench.PlatformBrowserVersion)
         return FirstWindow::OVMain;
     bench.Core.IEVersion = *bench.PlatformBrowserVersion;

@@ -13,10 +13,12 @@ constexpr std::int32_t ownFilterKind = 8;
 
 FileRequest CFile::Request(TextView title, TextView filter, TextView initDir) const
 {
+    const bool goesOn = initDir.empty() && Purpose == FolderPurpose::Other;
     return {.Title = Text(title),
             .Filter = Text(filter),
             .FilterIndex = FilterIndex,
-            .InitDir = Text(initDir.empty() ? TextView(m_shared.LastFolder) : initDir)};
+            .InitDir = Text(goesOn ? TextView(m_shared.LastFolder) : initDir),
+            .Purpose = Purpose};
 }
 
 Outcome<Text> CFile::Store(const Text& picked)

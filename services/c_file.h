@@ -2,17 +2,12 @@
 
 #include "core/dialogs.h"
 #include "core/fault.h"
+#include "core/orvane_core.h"
 #include "core/text.h"
 
 #include <cstdint>
 
 namespace orvane {
-
-/// What all CFile objects of a run have in common.
-struct frmCmnDlg
-{
-    Text LastFolder; ///< of the last picked file, with its separator; empty before the first
-};
 
 /// One use of the file dialogs: set the properties, browse, read the properties. When the picked
 /// name has no folder, an operation gives the fault InvalidProcedureCall and leaves Path as it was.
@@ -29,7 +24,10 @@ public:
     Text DialogTitle = u"Browse";
     std::int16_t FilterIndex = 1; ///< the pair selected first, counted from 1
     Text Filter = u"All Files (*.*)|*.*";
-    Text InitDir = u"C:\\"; ///< empty: the folder of the last file that any CFile picked
+    /// Empty: where the last file of this purpose was found; without a purpose, the folder of the
+    /// last file that any CFile picked.
+    Text InitDir = u"C:\\";
+    FolderPurpose Purpose = FolderPurpose::Other;
 
     /// The full path to save under, whose overwriting the author has confirmed if the file exists;
     /// empty on Cancel.

@@ -1,14 +1,13 @@
 #include "services/chosen_effects.h"
 
+#include "core/setting_keys.h"
+
 #include <algorithm>
 
 namespace orvane {
 
 namespace {
 
-constexpr TextView section = u"Catalogue";
-constexpr TextView favorites = u"Favorites";
-constexpr TextView recent = u"Recent";
 constexpr std::size_t mostRecent = 10;
 
 const CatalogueRow* RowOfCommand(TextView name)
@@ -21,33 +20,31 @@ const CatalogueRow* RowOfCommand(TextView name)
 }
 
 /// The effects of a stored list: names of menu commands with a blank between two.
-EffectRows Load(const Settings& settings, TextView key)
+EffectRows Load(const Settings& settings, const SettingKey& key)
 {
-    const Text stored = settings.Get(section, key, u"");
+    const Text stored = settings.Get(key);
     EffectRows effects;
     for (TextView left = stored; !left.empty();) {
-        const TextView name = left.substr(0, left.find(u' '));
-        left.remove_prefix(std::min(name.size() + 1, left.size()));
-        const CatalogueRow* row = RowOfCommand(name);
+        const CatalogueRow* row = RowOfCommand(TakeUntil(left, u' '));
         if (row != nullptr && std::ranges::find(effects, row) == effects.end())
             effects.push_back(row);
     }
     return effects;
 }
 
-void Store(Settings& settings, TextView key, const EffectRows& effects)
+void Store(Settings& settings, const SettingKey& key, const EffectRows& effects)
 {
-    Text names;
+    std::vector<Text> names;
     for (const CatalogueRow* row : effects)
-        names += Join({names.empty() ? u"" : u" ", FromUtf8(row->MenuCommand)});
-    settings.Put(section, key, names);
+        names.push_back(FromUtf8(row->MenuCommand));
+    settings.Put(key, Listed(names, u" "));
 }
 
 } // namespace
 
 EffectRows FavoriteEffects(const Settings& settings)
 {
-    return Load(settings, favorites);
+    return Load(settings, settingKeys::favorites);
 }
 
 void ToggleFavorite(Settings& settings, const CatalogueRow& effect)
@@ -55,12 +52,12 @@ void ToggleFavorite(Settings& settings, const CatalogueRow& effect)
     EffectRows effects = FavoriteEffects(settings);
     if (std::erase(effects, &effect) == 0)
         effects.push_back(&effect);
-    Store(settings, favorites, effects);
+    Store(settings, settingKeys::favorites, effects);
 }
 
 EffectRows RecentEffects(const Settings& settings)
 {
-    EffectRows effects = Load(settings, recent);
+    EffectRows effects = Load(settings, settingKeys::recentEffects);
     effects.resize(std::min(effects.size(), mostRecent));
     return effects;
 }
@@ -72,7 +69,7 @@ void RememberEffect(Settings& settings, EffectKind effect)
     std::erase(effects, row);
     effects.insert(effects.begin(), row);
     effects.resize(std::min(effects.size(), mostRecent));
-    Store(settings, recent, effects);
+    Store(settings, settingKeys::recentEffects, effects);
 }
 
 } // namespace orvane

@@ -121,9 +121,8 @@ std::optional<std::int32_t> PackedColor(TextView text)
         text.remove_prefix(bracket + 1);
     std::int32_t packed = 0;
     for (const int shift : {0, 8, 16}) {
-        packed |= static_cast<std::int32_t>(std::clamp(Val(text), 0.0, 255.0)) << shift;
-        const std::size_t comma = text.find(u',');
-        text = comma == TextView::npos ? TextView() : text.substr(comma + 1);
+        const double channel = std::clamp(Val(TakeUntil(text, u',')), 0.0, 255.0);
+        packed |= static_cast<std::int32_t>(channel) << shift;
     }
     return packed;
 }

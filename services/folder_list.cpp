@@ -26,11 +26,9 @@ std::vector<FolderRow> WayDown(TextView folder)
         return {};
     std::vector<FolderRow> way = {{root, root, 0}};
     while (!folder.empty()) {
-        const std::size_t end = folder.find(pathSeparator);
-        const TextView name = folder.substr(0, end);
+        const TextView name = TakeUntil(folder, pathSeparator);
         if (!name.empty() && name != u".")
             way.push_back({Text(name), PathIn(way.back().Path, name), way.size()});
-        folder.remove_prefix(end == TextView::npos ? folder.size() : end + 1);
     }
     return way;
 }

@@ -4,8 +4,6 @@ namespace orvane {
 
 namespace {
 
-constexpr TextView section = u"Folders";
-
 TextView KeyOf(FolderPurpose purpose)
 {
     switch (purpose) {
@@ -34,14 +32,15 @@ TextView KeyOf(FolderPurpose purpose)
 Text RememberedFolder(const Settings& settings, FolderPurpose purpose)
 {
     const TextView key = KeyOf(purpose);
-    return key.empty() ? Text() : settings.Get(section, key, u"");
+    return key.empty() ? Text() : settings.Get(InSection(settingSections::folders, key));
 }
 
 void RememberFolder(Settings& settings, FolderPurpose purpose, TextView folder)
 {
-    const TextView key = KeyOf(purpose);
-    if (!key.empty() && folder != settings.Get(section, key, u""))
-        settings.Put(section, key, folder);
+    const TextView name = KeyOf(purpose);
+    const SettingKey key = InSection(settingSections::folders, name);
+    if (!name.empty() && folder != settings.Get(key))
+        settings.Put(key, folder);
 }
 
 } // namespace orvane

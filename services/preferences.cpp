@@ -30,13 +30,13 @@ Preferences LoadPreferences(const Settings& settings)
 {
     Preferences preferences{
         // Stays as it is: Apps/Override is what gets stored, so the box opens unticked every time.
-        .chkOverride = settings.Get(u"Misc", u"Override", u"0") == u"1",
-        .txtDefaultPath = settings.Get(u"Misc", u"DefaultPath", u"c:\\"),
+        .chkOverride = settings.Get(settingKeys::overrideTick) == u"1",
+        .txtDefaultPath = settings.Get(settingKeys::defaultPath),
         .chkUnlock = AreInputBoxesUnlocked(settings),
-        .cboWebPageEditor = settings.Get(u"Misc", u"HTMLEditor", u""),
+        .cboWebPageEditor = settings.Get(settingKeys::webPageEditor),
     };
     if (preferences.chkOverride)
-        preferences.txtBrowser = settings.Get(u"Apps", u"Browser", u"c:\\");
+        preferences.txtBrowser = settings.Get(settingKeys::browser);
     return preferences;
 }
 
@@ -51,10 +51,10 @@ std::optional<Complaint> Check(const Preferences& preferences)
 
 void SavePreferences(const Preferences& preferences, OrvaneCore& core, Settings& settings)
 {
-    settings.Put(u"Apps", u"Browser", preferences.txtBrowser);
-    settings.Put(u"Apps", u"Override", Flag(preferences.chkOverride));
-    settings.Put(u"Misc", u"UnlockInputBoxes", Flag(preferences.chkUnlock));
-    settings.Put(u"Misc", u"HTMLEditor", preferences.cboWebPageEditor);
+    settings.Put(settingKeys::browser, preferences.txtBrowser);
+    settings.Put(settingKeys::overrideBrowser, Flag(preferences.chkOverride));
+    settings.Put(settingKeys::unlockInputBoxes, Flag(preferences.chkUnlock));
+    settings.Put(settingKeys::webPageEditor, preferences.cboWebPageEditor);
     const bool isChanged = preferences.txtDefaultPath != LoadPreferences(settings).txtDefaultPath;
     if (isChanged && !preferences.txtDefaultPath.empty())
         SaveDefaultPath(core, settings, preferences.txtDefaultPath);

@@ -1,10 +1,13 @@
 #include "services/recent_files.h"
 
+#include "core/setting_keys.h"
+
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
 
-constexpr TextView section = u"Recent";
 constexpr char16_t between = u'\n';
 constexpr std::size_t limit = 10;
 
@@ -12,13 +15,10 @@ constexpr std::size_t limit = 10;
 
 std::vector<Text> RecentFilesAndGone(const Settings& settings, TextView kind)
 {
-    const Text list = settings.Get(section, kind, u"");
+    const Text list = settings.Get(InSection(settingSections::recentFiles, kind));
     std::vector<Text> paths;
-    for (TextView rest = list; !rest.empty();) {
-        const std::size_t end = rest.find(between);
-        paths.emplace_back(rest.substr(0, end));
-        rest.remove_prefix(end == TextView::npos ? rest.size() : end + 1);
-    }
+    for (TextView rest = list; !rest.empty();)
+        paths.emplace_back(TakeUntil(rest, between));
     return paths;
 }
 
@@ -36,10 +36,9 @@ void PutRecentFile(Settings& settings, TextView kind, TextView path)
         return;
     std::vector<Text> paths = RecentFilesAndGone(settings, kind);
     std::erase(paths, path);
-    Text list(path);
-    for (std::size_t i = 0; i < paths.size() && i + 1 < limit; ++i)
-        list += between + paths[i];
-    settings.Put(section, kind, list);
+    paths.emplace(paths.begin(), path);
+    paths.resize(std::min(paths.size(), limit));
+    settings.Put(InSection(settingSections::recentFiles, kind), Listed(paths, Text(1, between)));
 }
 
 } // namespace orvane

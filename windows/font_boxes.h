@@ -1,17 +1,15 @@
 #pragma once
 
-#include "windows/controls.h"
-
 class QComboBox;
+class QPushButton;
 
 namespace orvane {
 
 class Dialogs;
-class PageBuilder;
 
-/// Adds the three rows in which an author chooses a font, `cboFont`, `cboFontSize` and
-/// `cboFontStyle`, and a button of the name `button` that opens the font dialog.
-/// `sizeUnit` stands to the right of the size.
-void AddFontRows(PageBuilder& page, Dialogs& dialogs, ControlName button, TextView sizeUnit);
+/// Lets the button open the font dialog and show the chosen font in the three boxes. The boxes and
+/// the dialogs must outlive the button.
+void PickFontBy(QPushButton& button, Dialogs& dialogs, QComboBox& font, QComboBox& size,
+                QComboBox& style);
 
 } // namespace orvane

@@ -154,7 +154,12 @@ orvane::ColorSwatch* PageBuilder::ColorSwatch(ControlName name, TextView label,
 
 void PageBuilder::FontRow(ControlName button, TextView sizeUnit)
 {
-    AddFontRows(*this, m_bench->Dialogs, button, sizeUnit);
+    QComboBox* font = ComboBox("cboFont", u"Font:", pageFonts, true);
+    QComboBox* size = Narrow(ComboBox("cboFontSize", u"Font size:", FontSizes, true, {}, sizeUnit));
+    QComboBox* style = ComboBox("cboFontStyle", u"Font style:", fontStyles, true);
+    QPushButton* more = Button(button, u"more...");
+    Buttons({more});
+    PickFontBy(*more, m_bench->Dialogs, *font, *size, *style);
 }
 
 ActingList* PageBuilder::ListBox(ControlName name, TextView label, std::span<const TextView> items)

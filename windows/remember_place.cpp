@@ -16,8 +16,6 @@ namespace orvane {
 
 namespace {
 
-constexpr TextView section = u"Places";
-
 /// Waits for the window to come up and to go.
 class PlaceKeeper : public QObject
 {
@@ -39,12 +37,11 @@ public:
     }
 
 private:
-    Text Key() const { return FromQt(m_window.objectName()); }
-
     void Restore()
     {
-        const auto stored =
-            QByteArray::fromBase64(ToQt(m_settings.Get(section, Key(), u"")).toLatin1());
+        const Text name = FromQt(m_window.objectName());
+        const Text place = m_settings.Get(InSection(settingSections::places, name));
+        const auto stored = QByteArray::fromBase64(ToQt(place).toLatin1());
         // A text that was cut short would be read as zeros behind its end.
         if (stored.size() != m_window.saveGeometry().size() || !m_window.restoreGeometry(stored))
             return FitInto(RoomInFrame());
@@ -85,8 +82,10 @@ private:
     void Save()
     {
         const Text place = FromQt(QString::fromLatin1(m_window.saveGeometry().toBase64()));
-        if (m_settings.Get(section, Key(), u"") != place)
-            m_settings.Put(section, Key(), place);
+        const Text name = FromQt(m_window.objectName());
+        const SettingKey key = InSection(settingSections::places, name);
+        if (m_settings.Get(key) != place)
+            m_settings.Put(key, place);
     }
 
     QWidget& m_window;

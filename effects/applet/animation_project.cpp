@@ -25,26 +25,23 @@ constexpr std::size_t sizeLimit = 4 << 20;
 /// The texts of one column, joined by bars.
 Text Joined(const std::vector<ImageRow>& rows, Text ImageRow::*field, TextView otherwise)
 {
-    Text joined;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const TextView value = rows[i].*field;
-        joined += Join({i == 0 ? u"" : u"|", value.empty() ? otherwise : value});
-    }
-    return joined;
+    std::vector<Text> values;
+    for (const ImageRow& row : rows)
+        values.emplace_back((row.*field).empty() ? otherwise : TextView(row.*field));
+    return Listed(values, u"|");
 }
 
 Text JoinedTransitions(const std::vector<ImageRow>& rows)
 {
     // Stays as it is: "Random" with a capital writes what the row before it wrote.
     Text before;
-    Text joined;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const TextView value = rows[i].Transition;
-        if (value != u"Random")
-            before = value.empty() ? TextView(u"null") : value;
-        joined += Join({i == 0 ? u"" : u"|", before});
+    std::vector<Text> values;
+    for (const ImageRow& row : rows) {
+        if (row.Transition != u"Random")
+            before = row.Transition.empty() ? Text(u"null") : row.Transition;
+        values.push_back(before);
     }
-    return joined;
+    return Listed(values, u"|");
 }
 
 std::string Encode(TextView record)
@@ -101,11 +98,8 @@ private:
 void Split(TextView joined, std::vector<ImageRow>& rows, Text ImageRow::*field)
 {
     const std::size_t count = std::min(rows.size(), filledRows);
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t bar = std::min(joined.find(u'|'), joined.size());
-        rows[i].*field = joined.substr(0, bar);
-        joined.remove_prefix(std::min(bar + 1, joined.size()));
-    }
+    for (std::size_t i = 0; i < count; ++i)
+        rows[i].*field = TakeUntil(joined, u'|');
 }
 
 FileRequest ProjectRequest(TextView title)
@@ -144,10 +138,7 @@ std::string ProjectBytes(const AdvancedAnimator& animator)
         JoinedTransitions(rows),
         Joined(rows, &ImageRow::URL, u"null"),
     };
-    Text record;
-    for (const Text& field : fields)
-        record += Join({record.empty() ? u"" : u",", u"\"", field, u"\""});
-    return Encode(record + Text(lineEnd));
+    return Encode(Join({u"\"", Listed(fields, u"\",\""), u"\"", lineEnd}));
 }
 
 AdvancedAnimator ReadProject(std::string_view bytes)

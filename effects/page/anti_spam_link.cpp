@@ -8,10 +8,6 @@ namespace orvane {
 
 namespace {
 
-constexpr TextView editorApplication = u"Page Loom";
-constexpr TextView editorSection = u"Miscellaneous";
-constexpr TextView emailKey = u"EmailAddress";
-
 // The word "mailto" is split as well, so that no harvester of addresses finds it.
 constexpr Template head(uR"page(
 <script type='text/javascript' language='javascript'>
@@ -78,12 +74,12 @@ Text PlainBody(const AntiSpamLink& link, TextView subject, TextView image)
 
 void Recall(AntiSpamLink& link, const Settings& settings)
 {
-    link.Email = settings.Get(editorSection, emailKey, {}, editorApplication);
+    link.Email = settings.Get(settingKeys::emailAddress);
 }
 
 void Remember(const AntiSpamLink& link, Settings& settings)
 {
-    settings.Put(editorSection, emailKey, link.Email, editorApplication);
+    settings.Put(settingKeys::emailAddress, link.Email);
 }
 
 std::optional<Complaint> Check(const AntiSpamLink& link)

@@ -142,10 +142,10 @@ Text TransFilter(TextView transition)
 
 Text ImageNames(const std::vector<ImageRow>& rows)
 {
-    Text names;
+    std::vector<Text> names;
     for (const ImageRow& row : rows)
-        names += Join({names.empty() ? u"\"" : u", \"", row.FileName, u"\""});
-    return names;
+        names.push_back(Join({u"\"", row.FileName, u"\""}));
+    return Listed(names);
 }
 
 TextView TrueOrFalse(bool value)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <vector>
 
 namespace orvane::testing {
 namespace {
@@ -26,6 +27,21 @@ TEST(TextTest, CutsStayInsideTheText)
     EXPECT_EQ(Mid(u"abc", 2), u"bc");
     EXPECT_EQ(Mid(u"abc", 4), u"");
     EXPECT_EQ(Mid(u"abc", 2, 1), u"b");
+}
+
+TEST(TextTest, WhatIsTakenPieceByPieceIsListedAgain)
+{
+    for (const TextView whole : {u"a;;b", u";a", u"a", u""}) {
+        std::vector<Text> pieces;
+        TextView rest = whole;
+        do
+            pieces.emplace_back(TakeUntil(rest, u';'));
+        while (!rest.empty());
+        EXPECT_EQ(Listed(pieces, u";"), whole);
+    }
+    TextView rest = u"a;";
+    EXPECT_EQ(TakeUntil(rest, u';'), u"a");
+    EXPECT_EQ(rest, u"");
 }
 
 TEST(TextTest, TrimTakesOffBlanksAlone)

@@ -229,8 +229,8 @@ TEST_F(PreviewFormTest, WhatWentInWithoutThePageScriptGetsItOnTheLastPage)
                                  u"only with Orvane's page script"));
     EXPECT_EQ(RowsOf(*m_form, "lstPageFiles"), (Texts{u"/site/a.html", u"img/new.gif: not there"}));
     Click(*m_form, "cmdRunsToday");
-    EXPECT_EQ(Bytes(u"/site/a.html"),
-              "<head>" + ToBytes(pageScriptLines) + before.substr(std::string("<head>").size()));
+    EXPECT_EQ(Bytes(u"/site/a.html"), "<head>" + ToBytes(LinesOfPageScript()) +
+                                          before.substr(std::string("<head>").size()));
     EXPECT_EQ(Bytes(u"/state/first-backups/2024-05-31 2/site/a.html"), before);
     EXPECT_EQ(Bytes(u"/site/Backup of a.html"), "<head>1</head><body>2</body>");
     EXPECT_FALSE(IsShown("cmdRunsToday"));

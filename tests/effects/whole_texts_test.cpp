@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace orvane::testing {
 namespace {
 
@@ -42,14 +40,11 @@ protected:
 
 Text NamesOf(const EffectPayload& payload)
 {
-    Text names;
-    const auto add = [&](const Text& name) {
-        if (!name.empty())
-            names += (names.empty() ? u"" : u", ") + name;
-    };
-    std::ranges::for_each(payload.Required.RequiredFileNames, add);
-    std::ranges::for_each(payload.SupportFiles, add);
-    return names;
+    std::vector<Text> names(payload.Required.RequiredFileNames.begin(),
+                            payload.Required.RequiredFileNames.end());
+    names.insert(names.end(), payload.SupportFiles.begin(), payload.SupportFiles.end());
+    std::erase(names, Text());
+    return Listed(names);
 }
 
 TEST_P(WholeTextTest, IsMadeOfTheFields)

@@ -67,21 +67,6 @@ BrowserPage::BrowserPage()
 
 BrowserPage::~BrowserPage() = default;
 
-void BrowserPage::FixClock(const std::string& localTime)
-{
-    m_clock = "<script>(function () {"
-              "const RealDate = Date;"
-              "const clock = {now: new RealDate('" +
-              localTime +
-              "').getTime()};"
-              "Object.defineProperty(window, 'pageClock', {value: clock});"
-              "window.Date = class Date extends RealDate {"
-              "constructor(...parts) { parts.length ? super(...parts) : super(clock.now); }"
-              "static now() { return clock.now; }"
-              "};"
-              "})();</script>";
-}
-
 void BrowserPage::AddFile(const std::string& name, std::string_view bytes)
 {
     m_files.push_back(FromUtf8(name));
@@ -90,9 +75,8 @@ void BrowserPage::AddFile(const std::string& name, std::string_view bytes)
 
 void BrowserPage::Open(std::string_view page)
 {
-    EXPECT_FALSE(FaultIn(Pane.Navigate({.Path = FromUtf8(Path("page.html")),
-                                        .Bytes = m_clock + std::string(page),
-                                        .Files = m_files})));
+    EXPECT_FALSE(FaultIn(Pane.Navigate(
+        {.Path = FromUtf8(Path("page.html")), .Bytes = std::string(page), .Files = m_files})));
 }
 
 void BrowserPage::Load(std::string_view page)
@@ -146,11 +130,6 @@ QVariantList BrowserPage::ColorsAt(const QVariantList& points)
         colors.push_back(QVariantList{color.red(), color.green(), color.blue()});
     }
     return colors;
-}
-
-void BrowserPage::MoveTo(const std::string& element)
-{
-    QTest::mouseMove(&Surface(), MiddleOf(element));
 }
 
 void BrowserPage::ClickOn(const std::string& element)

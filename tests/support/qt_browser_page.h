@@ -33,10 +33,6 @@ public:
     BrowserPage();
     ~BrowserPage();
 
-    /// Every page loaded from now on sees this local time, such as "2001-11-28T13:05:09". The clock
-    /// stands still until a script moves it by `pageClock.now += milliseconds`.
-    void FixClock(const std::string& localTime);
-
     /// Puts a file beside the page that pages opened from now on may read.
     void AddFile(const std::string& name, std::string_view bytes);
 
@@ -53,9 +49,8 @@ public:
     /// Waits until the expression is true in the page; fails the test after `timeoutMs`.
     void WaitUntil(const std::string& expression, int timeoutMs = 10000);
 
-    /// Moves the mouse to the middle of an element, which is given as a JavaScript expression, or
-    /// clicks there; fails the test when there is no such element.
-    void MoveTo(const std::string& element);
+    /// Clicks on the middle of an element, which is given as a JavaScript expression; fails the test
+    /// when there is no such element.
     void ClickOn(const std::string& element);
 
     /// The widget to which mouse, keyboard and touch events for the page are sent.
@@ -89,7 +84,6 @@ private:
     QPoint MiddleOf(const std::string& element);
 
     QTemporaryDir m_folder;
-    std::string m_clock;
     Texts m_files;
 };
 

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "disk/disk_file_store.h"
-#include "disk/settings_file.h"
-#include "disk/system_calls.h"
-#include "help/help_form.h"
-#include "preview/qt_preview_pane.h"
-#include "program/form_desk.h"
+#include "program/composition.h"
 #include "program/ov_main_form.h"
 #include "program/qt_resources.h"
 #include "tests/tour/guide.h"
@@ -37,40 +32,31 @@ struct Program
 {
     Program()
     {
-        Core.ProgramFolder = FromQt(tourFolder + QStringLiteral("/home"));
-        InstallResources(Files, Dialogs, Core.ProgramFolder);
-        Bench.Settings.Put(u"Misc", u"DefaultPath", FromQt(samplesFolder));
-        Desk.Start();
-        Guide.emplace(*Desk.MainForm(), Dialogs);
+        InstallResources(OnDisk.Files, Dialogs, Whole.Core.ProgramFolder);
+        Whole.Bench.Settings.Put(settingKeys::defaultPath, FromQt(samplesFolder));
+        Whole.Desk.Start();
+        Guide.emplace(*Whole.Desk.MainForm(), Dialogs);
         Guide->Passing = [this](const QWidget& front) {
             if (front.objectName() == QStringLiteral("Preview"))
-                Previewed = Core.Payload;
+                Previewed = Whole.Core.Payload;
         };
     }
 
+    const Text Home = FromQt(tourFolder + QStringLiteral("/home"));
+    const UserFolders Folders{Home, Home + u"/settings", Home + u"/state"};
     PosixCalls Calls;
-    DiskFileStore Files{Calls, FromQt(tourFolder + QStringLiteral("/home/state"))};
-    SettingsFile Settings{Files, FromQt(tourFolder + QStringLiteral("/home/settings"))};
+    Disk OnDisk{Calls, Folders};
     TourDialogs Dialogs;
     FakeShell Shell;
     FakeClipboard Clipboard;
-    OrvaneCore Core;
-    QtPreviewPane Pane{Dialogs, Shell, Files};
-    HelpForm Help{Files, Shell, FromQt(tourFolder + QStringLiteral("/home")),
-                  FormDesk::ListEffectsOfTags()};
-    Workbench Bench{.Core = Core,
-                    .Dialogs = Dialogs,
-                    .Files = Files,
-                    .Settings = Settings,
-                    .Shell = Shell,
-                    .Clipboard = Clipboard,
-                    .Pane = Pane,
-                    .Help = Help,
-                    .Version = u"1.0.0",
-                    .StateFolder = FromQt(tourFolder + QStringLiteral("/home/state")),
-                    .Today = [] { return Text(u"2024-05-31"); },
-                    .Clock = [] { return 37865.270585185123; }};
-    FormDesk Desk{Bench, &Pane};
+    Composition Whole{Folders,
+                      OnDisk,
+                      {.Dialogs = Dialogs,
+                       .Shell = Shell,
+                       .Clipboard = Clipboard,
+                       .Version = u"1.0.0",
+                       .Today = [] { return Text(u"2024-05-31"); },
+                       .Clock = [] { return 37865.270585185123; }}};
     EffectPayload Previewed; ///< the payload that was previewed last
     std::optional<testing::Guide> Guide;
 };

@@ -78,7 +78,7 @@ protected:
         std::vector<Step> steps = GetParam().Steps;
         const std::vector<Step>& delivery = DeliveryOf(kind).Steps;
         steps.insert(steps.end(), delivery.begin(), delivery.end());
-        program->Bench.Settings.Put(u"Misc", u"HTMLEditor", u"Other");
+        program->Whole.Bench.Settings.Put(settingKeys::webPageEditor, u"Other");
         program->Guide->Lead(GetParam().Name, steps, {samplesFolder, folder, picturesFolder});
         ExpectSaid({QStringLiteral("All files have been copied to the ")});
         return Finish(program->Previewed);
@@ -137,7 +137,7 @@ TEST_P(TourTest, LeavesPagesThatAreWhole)
     QDir(tourFolder + u'/' + QString::fromStdString(GetParam().Name)).removeRecursively();
     if (!GetParam().EndsInPages()) {
         QDir().mkpath(Folder({}));
-        program->Bench.Settings.Put(u"Misc", u"HTMLEditor", u"");
+        program->Whole.Bench.Settings.Put(settingKeys::webPageEditor, u"");
         program->Guide->Lead(GetParam().Name, GetParam().Steps,
                              {samplesFolder, Folder({}), picturesFolder});
         return ExpectSaid(GetParam().Says);

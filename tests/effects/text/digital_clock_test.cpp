@@ -27,15 +27,12 @@ TEST(DigitalClockTest, EachDateFormatHasItsLineWithAndWithoutTheDayOfWeek)
     TextView rows = table;
     int count = 0;
     for (; !rows.empty(); ++count) {
-        const TextView row = rows.substr(0, rows.find(u'\n'));
-        rows.remove_prefix(row.size() + 1);
-        const std::size_t tab = row.find(u'\t');
-        const Text item(row.substr(0, tab));
-        const bool withDay = row.at(tab + 1) == u'1';
+        TextView row = TakeUntil(rows, u'\n');
         SCOPED_TRACE(ToUtf8(row));
+        const Text item(TakeUntil(row, u'\t'));
+        const bool withDay = TakeUntil(row, u'\t') == u"1";
         EXPECT_EQ(ToUtf8(dateFormats.at(static_cast<std::size_t>(count / 2)).Item), ToUtf8(item));
-        ExpectSameText(row.substr(tab + 3),
-                       LineOf({.lstDateTimeFormat = item, .chkDayOfWeek = withDay}, 60));
+        ExpectSameText(row, LineOf({.lstDateTimeFormat = item, .chkDayOfWeek = withDay}, 60));
     }
     EXPECT_EQ(count, 24);
 }

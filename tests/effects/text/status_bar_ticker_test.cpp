@@ -1,8 +1,5 @@
 #include "effects/text/status_bar_ticker.h"
 
-#include "insertion/new_page.h"
-#include "tests/support/expect_text.h"
-
 #include <gtest/gtest.h>
 
 namespace orvane::testing {
@@ -12,12 +9,6 @@ TEST(StatusBarTickerTest, KeepsALineFeedInTheTextAsItIs)
 {
     const Text withLineEnd = Generate({u"a\nb"}).HEADHTML;
     EXPECT_NE(Find(withLineEnd, u"        var msg  =\"a\nb\";\r\n"), 0u);
-}
-
-TEST(StatusBarTickerTest, RunsInANewPage)
-{
-    ExpectSameBytes(ExpectedBytes("status_bar_ticker_new_page.html"),
-                    NewPageBytes(Finish(Generate({u"Welcome to my page!"}))));
 }
 
 TEST(StatusBarTickerTest, ComplainsAboutAnEmptyTextAndNotAboutABlankOne)
