@@ -8,9 +8,6 @@ namespace orvane {
 FileRequest NewPageRequest();
 FileRequest ExistingPageRequest();
 
-/// The kind under which the pages that the author worked on last are remembered.
-inline constexpr TextView recentPages = u"Pages";
-
 /// The masks of all kinds of files that those dialogs offer, and of others that Web servers treat
 /// as pages.
 inline constexpr TextView pageMasks =

@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
@@ -66,6 +67,9 @@ void ForEachField(Typewriter& typewriter, Field&& field)
     field("LinkURL", typewriter.LinkURL);
     field("Required", typewriter.Required);
 }
+
+/// The row of the text or of its file.
+Look LookOf(const TypewriterText& typewriter);
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing; the second page has
 /// none.

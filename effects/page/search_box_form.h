@@ -15,18 +15,10 @@ public:
     explicit SearchBoxForm(Workbench& bench, QWidget* parent = nullptr,
                            EffectKind kind = EffectKind::SearchBox);
 
-    void setVisible(bool isVisible) override;
-
     /// The cursor stands behind the "http://", which is not selected.
     void setVisible(bool isVisible) override;
 
-protected:
-    void UpdateForm() override;
-
 private:
-    QWidget* frameSearch;
-    QLineEdit* txtURL;
-    QWidget* frameTranslate;
     QLineEdit* txtTranslateURL;
 };
 

@@ -3,6 +3,7 @@
 #include "tests/support/form_test.h"
 
 #include <QPushButton>
+#include <QTest>
 
 namespace orvane::testing {
 namespace {
@@ -19,7 +20,7 @@ TEST_F(StatusBarTickerFormTest, EmptyTextKeepsTheWindowOpenWithTheFocusInIt)
     EXPECT_EQ(m_form.TakePayload(), std::nullopt);
 }
 
-TEST_F(StatusBarTickerFormTest, AHintComesAndGoesWithAQuotationMarkAndStopsNothing)
+TEST_F(StatusBarTickerFormTest, AHintComesAndGoesStopsNothingAndWhatIsTypedIsKept)
 {
     auto* box = Find<QLineEdit>(m_form, "txtStatusBarText");
     Type(m_form, "txtStatusBarText", u"\"");
@@ -29,6 +30,7 @@ TEST_F(StatusBarTickerFormTest, AHintComesAndGoesWithAQuotationMarkAndStopsNothi
     LetRun();
     EXPECT_FALSE(Find<QLabel>(m_form, "lblHint(txtStatusBarText)")->isVisible());
     Type(m_form, "txtStatusBarText", u"\"");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_desk.Files.Contents.empty(); })) << "a draft";
     Click(m_form, "cmdDone");
     EXPECT_TRUE(m_form.TakePayload());
     EXPECT_TRUE(m_desk.Dialogs.Said.empty());
