@@ -30,7 +30,7 @@ public:
 
 signals:
     /// The author wants to open the wizard of this effect, which has one.
-    void EffectWanted(const orvane::EffectCommand& command);
+    void EffectWanted(orvane::EffectKind kind);
 
 protected:
     void changeEvent(QEvent* event) override;

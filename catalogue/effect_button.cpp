@@ -150,7 +150,7 @@ void EffectButton::paintEvent(QPaintEvent*)
 void EffectButton::Open()
 {
     if (m_isBuilt)
-        emit EffectWanted(*FindCommand(m_row.MenuCommand));
+        emit EffectWanted(FindCommand(m_row.MenuCommand)->Kind);
     else
         QToolTip::showText(mapToGlobal(rect().center()), ToQt(notYetAvailable), this);
 }

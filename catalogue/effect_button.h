@@ -32,7 +32,7 @@ public:
 
 signals:
     /// The author clicked the button of an effect that has a wizard.
-    void EffectWanted(const orvane::EffectCommand& command);
+    void EffectWanted(orvane::EffectKind kind);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -19,6 +19,8 @@ namespace orvane {
 //   Tidy(effect)                     mends fields that passed the checks; the window shows them so
 //   Generate(effect, surroundings)   the payload of an effect that passed the checks and was
 //                                    tidied; Generate(effect) where it needs to know nothing else
+//   LookOf(effect)                   the rows, labels and tips that its values ask for
+//   HintsOf(effect)                  words on values that stop nothing
 //   ReadTag(effect, tag)             fills the fields from a pasted tag; without it, none is read
 //   ChooseKind(effect, kind)         makes a fresh effect one of that kind
 //   Recall(effect, settings)         fills a fresh effect with what earlier ones left

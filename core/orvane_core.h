@@ -50,7 +50,6 @@ struct OrvaneCore
     bool EditMode = false;    ///< the next wizard fills itself from pasted code
     Text AppletText;          ///< eight characters behind CODE= of the pasted tag
     Text AppletTextAfterCODE; ///< the first five of them
-    Text PastedApplet;        ///< the whole pasted tag
     Text ImageFolderMemo;     ///< where Browse found an image last
     Text LinkFolderMemo;      ///< where Browse found a page to link to last
     Text LastSoundFolder;     ///< where Browse found a sound last

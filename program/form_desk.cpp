@@ -4,7 +4,6 @@
 #include "delivery/bring_back_form.h"
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
-#include "effects/applet/advanced_animator_form.h"
 #include "effects/effect_windows.h"
 #include "effects/effects.h"
 #include "program/about_form.h"
@@ -41,7 +40,8 @@ void FormDesk::ShowMainForm()
 {
     m_mainForm = std::make_unique<OVMainForm>(m_bench, &HasWizard);
     PrepareMainWindow(m_bench.Core);
-    connect(m_mainForm.get(), &OVMainForm::EffectWanted, this, &FormDesk::OpenEffect);
+    connect(m_mainForm.get(), &OVMainForm::EffectWanted, this,
+            [this](EffectKind kind) { OpenEffect(kind); });
     connect(m_mainForm.get(), &OVMainForm::EditAppletWanted, this, &FormDesk::EditApplet);
     connect(m_mainForm.get(), &OVMainForm::PreferencesWanted, this,
             [this] { ShowOptions(m_mainForm.get()); });
@@ -65,12 +65,18 @@ Text FormDesk::ListEffectsOfTags()
     return list + u"</ul>";
 }
 
-void FormDesk::OpenEffect(const EffectCommand& command)
+void FormDesk::OpenEffect(EffectKind kind, Opening opening)
 {
-    const auto wizard = MakeWizard(command.Kind, m_bench, m_mainForm.get());
+    const auto wizard = MakeWizard(kind, m_bench, m_mainForm.get());
     if (wizard == nullptr)
         return;
-    RememberEffect(m_bench.Settings, command.Kind);
+    RememberEffect(m_bench.Settings, kind);
+    const OrvaneCore& core = m_bench.Core;
+    // Stays as it is: after a pasted tag that opened no wizard, the next one that reads tags finds
+    // an empty tag.
+    if (core.EditMode && std::holds_alternative<FreshStart>(opening))
+        opening = PastedTag{{}, core.AppletTextAfterCODE, core.AppletText};
+    wizard->Open(opening);
     LeadThrough(*wizard);
 }
 
@@ -78,10 +84,7 @@ void FormDesk::OpenProject(TextView path)
 {
     if (!m_bench.Files.FileExists(path))
         return m_bench.Dialogs.Say(Join({u"Orvane cannot find the file ", path, u"."}));
-    RememberEffect(m_bench.Settings, EffectKind::AdvancedAnimator);
-    AdvancedAnimatorForm animator(m_bench, m_mainForm.get());
-    animator.ShowProject(path);
-    LeadThrough(animator);
+    OpenEffect(EffectKind::AdvancedAnimator, ProjectFile{Text(path)});
 }
 
 void FormDesk::LeadThrough(WizardForm& wizard)
@@ -123,9 +126,8 @@ void FormDesk::EditApplet()
 {
     EditAppletForm form(m_bench, &HasWizard, m_mainForm.get());
     ShowModally(form);
-    if (const CatalogueRow* row = FindRow(form.Wanted()))
-        OpenEffect(*FindCommand(row->MenuCommand));
-    m_bench.Core.PastedApplet.clear();
+    if (const auto wanted = form.Wanted())
+        OpenEffect(wanted->Kind, wanted->Tag);
 }
 
 void FormDesk::ShowOptions(QWidget* parent)

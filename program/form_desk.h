@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/catalogue.h"
+#include "core/opening.h"
+#include "core/payload.h"
 #include "core/workbench.h"
 
 #include <QObject>
@@ -35,7 +36,7 @@ public:
 
     /// Leads the author through the effect's wizard and its delivery and returns when both are
     /// closed; does nothing for an effect without a wizard.
-    void OpenEffect(const EffectCommand& command);
+    void OpenEffect(EffectKind kind, Opening opening = FreshStart());
 
     /// The same with the animator's wizard, which opens with the project file of this full path.
     /// When the file does not exist, the author is told and no wizard opens.

@@ -65,7 +65,7 @@ void OVMainForm::AddEffects(QMenu& menu, CataloguePage page)
     for (const EffectCommand& command : EffectCommands())
         if (command.Page == page)
             connect(AddCommand(menu, command.Name, command.Caption), &QAction::triggered, this,
-                    [this, &command] { emit EffectWanted(command); });
+                    [this, kind = command.Kind] { emit EffectWanted(kind); });
 }
 
 void OVMainForm::closeEvent(QCloseEvent* event)

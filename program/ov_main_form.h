@@ -23,7 +23,7 @@ public:
 
 signals:
     /// The author chose an effect in the catalogue or in a menu.
-    void EffectWanted(const orvane::EffectCommand& command);
+    void EffectWanted(orvane::EffectKind kind);
     void EditAppletWanted();
     void PreferencesWanted();
     void BringBackWanted();

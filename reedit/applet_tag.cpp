@@ -40,11 +40,11 @@ constexpr std::array<AppletRow, 14> rows = {{
 
 } // namespace
 
-AppletLetters LettersBehindCode(TextView pasted)
+PastedTag TagOf(TextView pasted)
 {
     constexpr TextView key = u"CODE=";
     const std::size_t from = Find(pasted, key) + key.size();
-    return {Text(Mid(pasted, from, 5)), Text(Mid(pasted, from, 8))};
+    return {Text(pasted), Text(Mid(pasted, from, 5)), Text(Mid(pasted, from, 8))};
 }
 
 AppletDispatch RecognizeApplet(TextView appletTextAfterCODE)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "core/text.h"
 
@@ -8,18 +9,10 @@
 
 namespace orvane {
 
-/// The characters behind "CODE=" of a pasted tag, by which its applet is known; a quote is one of
-/// them.
-struct AppletLetters
-{
-    Text AppletTextAfterCODE; ///< five
-    Text AppletText;          ///< eight
-    bool operator==(const AppletLetters&) const = default;
-};
-
-/// The characters behind the first "CODE="; those from the fifth character of the text on when
-/// there is none.
-AppletLetters LettersBehindCode(TextView pasted);
+/// The tag that this text is. The characters behind "CODE=", by which its applet is known, are
+/// those behind the first one, a quote among them; those from the fifth character of the text on
+/// when there is none.
+PastedTag TagOf(TextView pasted);
 
 /// What becomes of a pasted tag.
 struct AppletDispatch

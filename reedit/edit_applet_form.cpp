@@ -106,10 +106,9 @@ void EditAppletForm::Edit()
 {
     OrvaneCore& core = m_bench.Core;
     core.EditMode = true;
-    core.PastedApplet = Text1->Words();
-    const AppletLetters letters = LettersBehindCode(core.PastedApplet);
-    core.AppletTextAfterCODE = letters.AppletTextAfterCODE;
-    core.AppletText = letters.AppletText;
+    m_tag = TagOf(Text1->Words());
+    core.AppletTextAfterCODE = m_tag.AppletTextAfterCODE;
+    core.AppletText = m_tag.AppletText;
     const AppletDispatch dispatch = RecognizeApplet(core.AppletTextAfterCODE);
     switch (dispatch.Next) {
     case AppletDispatch::Way::Choice:
@@ -142,7 +141,7 @@ void EditAppletForm::Open(EffectKind kind)
                   row == nullptr ? TextView() : row->Title,
                   u"\", so it cannot be edited here.  The code stays as you pasted it."}));
     }
-    m_wanted = kind;
+    m_wanted = {kind, m_tag};
     accept();
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "core/pasted_tag.h"
 #include "core/workbench.h"
 
 #include <QDialog>
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QRadioButton;
 class QStackedWidget;
@@ -14,6 +16,13 @@ namespace orvane {
 
 class MultiLineBox;
 class PageBuilder;
+
+/// A pasted tag, and the effect whose wizard reads it.
+struct PastedEffect
+{
+    EffectKind Kind;
+    PastedTag Tag;
+};
 
 /// The window into which the author pastes an applet tag to edit its effect again. It closes with
 /// the effect whose wizard is to open; where there is no such wizard it says so and stays.
@@ -26,8 +35,8 @@ public:
     EditAppletForm(Workbench& bench, std::function<bool(EffectKind)> isBuilt,
                    QWidget* parent = nullptr);
 
-    /// The effect whose wizard the author asked for; None when there is none to open.
-    EffectKind Wanted() const { return m_wanted; }
+    /// What the author wants to edit; nothing when there is no wizard to open.
+    const std::optional<PastedEffect>& Wanted() const { return m_wanted; }
 
 private:
     PageBuilder AddPanel();
@@ -39,7 +48,8 @@ private:
 
     Workbench& m_bench;
     const std::function<bool(EffectKind)> m_isBuilt;
-    EffectKind m_wanted = EffectKind::None;
+    PastedTag m_tag;
+    std::optional<PastedEffect> m_wanted;
     QStackedWidget* m_panels;
     MultiLineBox* Text1 = nullptr;
     std::array<QRadioButton*, 3> m_choices{};

@@ -22,6 +22,8 @@ namespace orvane {
 
 namespace {
 
+using ItemRole = QFormLayout::ItemRole;
+
 void CollectFrom(QLayout& layout, std::vector<QWidget*>& controls);
 
 void Collect(QWidget* control, std::vector<QWidget*>& controls)
@@ -63,12 +65,30 @@ bool Holds(QLayoutItem* item, const QWidget* control)
     return false;
 }
 
-void ShowAll(QLayoutItem& item, bool isShown)
+/// The layout in whose midst the control stands, among one and those in it; null when there is
+/// none.
+QLayout* LineWith(QWidget* control, QLayout* layout)
 {
-    if (item.widget() != nullptr)
-        item.widget()->setVisible(isShown);
-    for (int i = 0; item.layout() != nullptr && i < item.layout()->count(); ++i)
-        ShowAll(*item.layout()->itemAt(i), isShown);
+    if (layout == nullptr || layout->indexOf(control) >= 0)
+        return layout;
+    for (int i = 0; i < layout->count(); ++i)
+        if (QLayout* line = LineWith(control, layout->itemAt(i)->layout()))
+            return line;
+    return nullptr;
+}
+
+/// A form layout keeps the place of a hidden row's items, and takes the room of the row that has
+/// that place now when one with wrapped words comes. Items that were put in anew have no place.
+void ForgetPlace(QFormLayout& rows, int row, ItemRole role)
+{
+    QLayoutItem* item = rows.itemAt(row, role);
+    if (item == nullptr)
+        return;
+    rows.removeItem(item);
+    if (item->layout() != nullptr)
+        rows.setLayout(row, role, item->layout());
+    else
+        rows.setItem(row, role, item);
 }
 
 } // namespace
@@ -183,10 +203,16 @@ FormRow RowOf(const QWidget* control)
 {
     auto* rows = qobject_cast<QFormLayout*>(control->parentWidget()->layout());
     for (int row = 0; rows != nullptr && row < rows->rowCount(); ++row)
-        for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole})
-            if (QLayoutItem* item = rows->itemAt(row, role); item && Holds(item, control))
-                return {rows, row};
+        for (const int role : {QFormLayout::SpanningRole, QFormLayout::FieldRole})
+            if (QLayoutItem* item = rows->itemAt(row, ItemRole(role)); item && Holds(item, control))
+                return {rows, row, role};
     return {};
+}
+
+QLayoutItem* CellOf(const QWidget* control)
+{
+    const FormRow place = RowOf(control);
+    return place.Rows == nullptr ? nullptr : place.Rows->itemAt(place.Row, ItemRole(place.Role));
 }
 
 QLabel* LabelOf(QWidget* control)
@@ -199,27 +225,23 @@ QLabel* LabelOf(QWidget* control)
 
 QLabel* WordsBeside(QWidget* control, int place)
 {
-    const FormRow row = RowOf(control);
-    for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole}) {
-        QLayoutItem* item = row.Rows == nullptr ? nullptr : row.Rows->itemAt(row.Row, role);
-        QLayout* line = item == nullptr ? nullptr : item->layout();
-        const int at = line == nullptr ? -1 : line->indexOf(control);
-        if (QLayoutItem* beside = at < 0 ? nullptr : line->itemAt(at + place))
-            return qobject_cast<QLabel*>(beside->widget());
-    }
-    return nullptr;
+    QLayoutItem* cell = CellOf(control);
+    QLayout* line = cell == nullptr ? nullptr : LineWith(control, cell->layout());
+    const int at = line == nullptr ? 0 : line->indexOf(control) + place;
+    QLayoutItem* beside = line == nullptr ? nullptr : line->itemAt(at);
+    return beside == nullptr ? nullptr : qobject_cast<QLabel*>(beside->widget());
 }
 
 void ShowRow(QWidget* control, bool isShown)
 {
-    // Not by QFormLayout::setRowVisible(): it leaves a row without room that was hidden before the
-    // window was first shown.
     const FormRow place = RowOf(control);
-    for (const auto role :
-         {QFormLayout::LabelRole, QFormLayout::FieldRole, QFormLayout::SpanningRole})
-        if (QLayoutItem* item =
-                place.Rows == nullptr ? nullptr : place.Rows->itemAt(place.Row, role))
-            ShowAll(*item, isShown);
+    if (place.Rows == nullptr || place.Rows->isRowVisible(place.Row) == isShown)
+        return;
+    if (!isShown) {
+        ForgetPlace(*place.Rows, place.Row, QFormLayout::LabelRole);
+        ForgetPlace(*place.Rows, place.Row, ItemRole(place.Role));
+    }
+    place.Rows->setRowVisible(place.Row, isShown);
 }
 
 QSize FromTwips(int width, int height)

@@ -8,6 +8,7 @@
 class QAction;
 class QFormLayout;
 class QLabel;
+class QLayoutItem;
 class QMenu;
 class QMenuBar;
 class QPushButton;
@@ -59,11 +60,15 @@ struct FormRow
 {
     QFormLayout* Rows = nullptr;
     int Row = 0;
+    int Role = 0; ///< QFormLayout::FieldRole, or SpanningRole
 };
 
 /// The row in which the control stands, whose parent has the form layout; without a layout when the
 /// parent lays out otherwise.
 FormRow RowOf(const QWidget* control);
+
+/// What stands in the control's row beside the label; null outside of a form layout.
+QLayoutItem* CellOf(const QWidget* control);
 
 /// The label of the form row in which the control stands; null when there is no row or no label.
 QLabel* LabelOf(QWidget* control);

@@ -3,22 +3,25 @@
 #include "core/draft.h"
 #include "core/effect.h"
 #include "core/pasted_tag.h"
+#include "windows/control_looks.h"
 #include "windows/field_controls.h"
 #include "windows/field_watch.h"
 #include "windows/hint_lines.h"
-#include "windows/paged_form.h"
+#include "windows/wizard_form.h"
 
 #include <optional>
+#include <utility>
+#include <variant>
 
 namespace orvane {
 
 /// The base class of all effect windows, made of what stands beside the parameters (see
 /// core/effect.h). It binds each field that `ForEachField` names to its control, goes from page to
-/// page while the checks pass, shows the hints of `HintsOf` where there is one and the values that
-/// `Tidy` mended, delivers what `Generate` gives, keeps drafts, and fills the window from a pasted
-/// tag where the effect has a `ReadTag`.
+/// page while the checks pass, shows the look of `LookOf` and the hints of `HintsOf` where they are
+/// and the values that `Tidy` mended, delivers what `Generate` gives, keeps drafts, and fills the
+/// window from a pasted tag where the effect has a `ReadTag`.
 template <class Effect>
-class EffectForm : public PagedForm
+class EffectForm : public WizardForm
 {
 public:
     using EffectType = Effect;
@@ -39,23 +42,37 @@ public:
     /// Shows these values in the controls.
     void SetParameters(const Effect& effect)
     {
+        const bool wasFilling = std::exchange(m_isFilling, true);
         if constexpr (HasRequiredFiles<Effect>)
             m_files = effect.Required;
         ForEachField(effect, [this](const FieldName& name, const auto& value) {
             m_controls.Write(name.Name, value);
         });
-        UpdateForm();
+        m_isFilling = wasFilling;
+        ShowFields();
     }
 
-    /// Fills the window from the pasted tag, offers to take quotation marks off its values, and
-    /// clears the shared EditMode.
+    void Open(const Opening& opening) override
+    {
+        if (const auto* recipe = std::get_if<Recipe>(&opening)) {
+            TakeDraft(recipe->Draft);
+            BeginDrafts(false);
+        } else if constexpr (requires(Effect & effect) { ReadTag(effect, PastedTag()); }) {
+            if (const auto* tag = std::get_if<PastedTag>(&opening)) {
+                m_tag = *tag;
+                EditApplet();
+                BeginDrafts(false);
+            }
+        }
+    }
+
+    /// Fills the window from the pasted tag that it was opened with, offers to take quotation marks
+    /// off its values, and clears the shared EditMode.
     void EditApplet() requires requires(Effect& effect, const PastedTag& tag)
     {
         ReadTag(effect, tag);
     }
     {
-        const OrvaneCore& core = m_bench.Core;
-        m_tag = {core.PastedApplet, core.AppletTextAfterCODE, core.AppletText};
         FillFromTag();
         m_bench.Core.EditMode = false;
         if (m_tag.Whole.empty())
@@ -74,25 +91,19 @@ protected:
     /// `kind` is one of the effect's kinds.
     EffectForm(ControlName name, Workbench& bench, QWidget* parent,
                EffectKind kind = Effect::Kinds.front())
-        : PagedForm(name, kind, bench, parent), m_controls(*this), m_freshKind(kind)
+        : WizardForm(name, kind, bench, parent), m_controls(*this), m_freshKind(kind)
     {
     }
 
-    /// Adds the row of buttons, and shows a fresh effect or, in EditMode, the pasted one. Called
-    /// last in the constructor, after all pages.
+    /// Adds the row of buttons and shows a fresh effect. Called last in the constructor, after all
+    /// pages.
     void AddButtons(Buttons buttons, ControlName helpName = "cmdClickHereForHelp")
     {
-        PagedForm::AddButtons(buttons, helpName);
+        WizardForm::AddButtons(buttons, helpName);
         SetParameters(Fresh());
         GoTo(0);
-        bool isFresh = true;
-        if constexpr (requires(Effect & effect, const PastedTag& tag) { ReadTag(effect, tag); }) {
-            isFresh = !m_bench.Core.EditMode;
-            if (!isFresh)
-                EditApplet();
-        }
-        BeginDrafts(isFresh);
-        BeginHints();
+        BeginDrafts(true);
+        WatchFields();
     }
 
     /// What a fresh window shows.
@@ -104,9 +115,26 @@ protected:
         return effect;
     }
 
-    /// Shows what depends on the values of the fields. SetParameters() calls it; a window that
-    /// needs it when the author changes a field connects that itself.
+    /// Shows what depends on the values of the fields and stands in no `LookOf`. Called when a
+    /// field changed, and by SetParameters() once all of them did.
     virtual void UpdateForm() {}
+
+    /// Shows everything that depends on the values of the fields.
+    void ShowFields()
+    {
+        if (m_isFilling)
+            return;
+        if constexpr (requires(const Effect& effect) { LookOf(effect); })
+            if (Look look = LookOf(Parameters()); look != m_look) {
+                ShowLook(*this, look);
+                m_look = std::move(look);
+                ShowHints();
+            }
+        UpdateForm();
+    }
+
+    /// Whether the fields are being changed by SetParameters(), and not by the author.
+    bool IsFilling() const { return m_isFilling; }
 
     void Next() override
     {
@@ -145,16 +173,23 @@ protected:
     }
 
 private:
-    /// Keeps the hints below the fields true while the author changes them.
-    void BeginHints()
+    void WatchFields()
     {
-        if constexpr (requires(const Effect& effect) { HintsOf(effect); }) {
-            const auto show = [this] { m_hints.Show(HintsOf(Parameters())); };
-            connect(&m_watch, &FieldWatch::Changed, this, show);
-            const Effect fresh;
-            ForEachField(fresh, [this](FieldName name, const auto&) { m_watch.Add(name.Name); });
-            show();
-        }
+        const Effect fresh;
+        ForEachField(fresh, [this](FieldName name, const auto&) { m_watch.Add(name.Name); });
+        connect(&m_watch, &FieldWatch::Changed, this, [this] { ShowFields(); });
+        connect(&m_watch, &FieldWatch::Settled, this, [this] {
+            ShowFields();
+            ShowHints();
+            KeepDraftSoon();
+        });
+        ShowHints();
+    }
+
+    void ShowHints()
+    {
+        if constexpr (requires(const Effect& effect) { HintsOf(effect); })
+            m_hints.Show(HintsOf(Parameters()));
     }
 
     void FillFromTag()
@@ -168,6 +203,8 @@ private:
     const EffectKind m_freshKind;
     FieldWatch m_watch{*this};
     HintLines m_hints{*this};
+    Look m_look; ///< as it was shown last
+    bool m_isFilling = false;
     PastedTag m_tag;
 };
 

@@ -2,6 +2,7 @@
 
 #include "windows/color_swatch.h"
 #include "windows/controls.h"
+#include "windows/image_list_panel.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -16,18 +17,24 @@ FieldWatch::FieldWatch(QWidget& window) : m_window(window)
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(0);
-    connect(&m_soon, &QTimer::timeout, this, &FieldWatch::Changed);
+    connect(&m_soon, &QTimer::timeout, this, &FieldWatch::Settled);
 }
 
 void FieldWatch::Add(ControlName field)
 {
     const auto watch = [this](auto* control, auto signal) {
-        connect(control, signal, &m_soon, qOverload<>(&QTimer::start));
+        connect(control, signal, this, [this] {
+            m_soon.start();
+            emit Changed();
+        });
     };
     for (int i = 0; auto* option = m_window.findChild<QAbstractButton*>(MemberName(field, i)); ++i)
         watch(option, &QAbstractButton::toggled);
     auto* control = m_window.findChild<QWidget*>(ToQt(field));
-    if (auto* swatch = qobject_cast<ColorSwatch*>(control)) {
+    auto* images = m_window.findChild<ImageListPanel*>();
+    if (images != nullptr && images->isAncestorOf(control)) {
+        watch(images, &ImageListPanel::RowsChanged);
+    } else if (auto* swatch = qobject_cast<ColorSwatch*>(control)) {
         watch(swatch, &ColorSwatch::Picked);
         watch(swatch, &ColorSwatch::WasUnset);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {

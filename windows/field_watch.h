@@ -23,9 +23,11 @@ public:
     void Add(ControlName field);
 
 signals:
-    /// Fields were changed, by the author or by the program. Comes from the event loop, once for
-    /// all changes since the last time.
+    /// A field was changed, by the author or by the program. A list may not be whole yet.
     void Changed();
+
+    /// Fields were changed. Comes from the event loop, once for all changes since the last time.
+    void Settled();
 
 private:
     QWidget& m_window;

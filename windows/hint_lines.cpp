@@ -5,6 +5,7 @@
 
 #include <QFormLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -12,7 +13,9 @@ namespace orvane {
 
 namespace {
 
-/// A line in a new row below that of the field; null when no form layout holds the field.
+constexpr int gapAbove = 2; ///< less than that between two rows, so that the line is the field's
+
+/// A line below the field in the same row; null when no form layout holds the field.
 QLabel* AddLineBelow(QWidget* field)
 {
     FormRow place;
@@ -25,11 +28,17 @@ QLabel* AddLineBelow(QWidget* field)
     line->setObjectName(QStringLiteral("lblHint(%1)").arg(field->objectName()));
     line->setTextFormat(Qt::PlainText);
     line->setWordWrap(true);
-    const bool hasLabel = place.Rows->itemAt(place.Row, QFormLayout::LabelRole) != nullptr;
-    if (hasLabel)
-        place.Rows->insertRow(place.Row + 1, nullptr, line);
+    const auto role = static_cast<QFormLayout::ItemRole>(place.Role);
+    QLayoutItem* above = place.Rows->itemAt(place.Row, role);
+    place.Rows->removeItem(above);
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(gapAbove);
+    if (above->layout() != nullptr)
+        lines->addLayout(above->layout());
     else
-        place.Rows->insertRow(place.Row + 1, line);
+        lines->addItem(above);
+    lines->addWidget(line);
+    place.Rows->setLayout(place.Row, role, lines);
     return line;
 }
 

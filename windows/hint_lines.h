@@ -10,7 +10,7 @@ class QWidget;
 
 namespace orvane {
 
-/// The lines in which a window shows hints, each below the row of its field.
+/// The lines in which a window shows hints, each below its field in the same row.
 class HintLines
 {
 public:

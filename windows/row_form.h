@@ -76,7 +76,7 @@ private:
     {
         if constexpr (requires(const Row& row) { HintsOf(row); }) {
             const auto show = [this] { ShowHints(HintsOf(Entered())); };
-            connect(&m_watch, &FieldWatch::Changed, this, show);
+            connect(&m_watch, &FieldWatch::Settled, this, show);
             ForEachField(m_row,
                          [this](const FieldName& name, const auto&) { m_watch.Add(name.Name); });
             show();

@@ -4,6 +4,7 @@
 #include "services/drafts.h"
 #include "windows/qt_text.h"
 
+#include <QPushButton>
 #include <QTimer>
 
 #include <utility>
@@ -12,7 +13,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int keepEveryMilliseconds = 2000;
+constexpr int keepAfterMilliseconds = 500;
 
 /// Writes the file where support files lie.
 Done WriteMade(Workbench& bench, const MadeFile& file)
@@ -30,8 +31,33 @@ WizardForm::WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWid
       lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
 {
     SetEffect(kind);
-    m_keepTimer->setInterval(keepEveryMilliseconds);
+    m_keepTimer->setSingleShot(true);
+    m_keepTimer->setInterval(keepAfterMilliseconds);
     connect(m_keepTimer, &QTimer::timeout, this, &WizardForm::KeepDraft);
+}
+
+PageBuilder WizardForm::AddPage(const WizardPage& words)
+{
+    m_words.push_back(words);
+    if (m_words.size() == 1)
+        SetHeading(words.Heading, words.SubHeading);
+    return WizardFrame::AddPage();
+}
+
+void WizardForm::GoTo(int page)
+{
+    const WizardPage& words = WordsOf(page);
+    SetHeading(words.Heading, words.SubHeading);
+    if (cmdPrevious != nullptr) {
+        cmdPrevious->setEnabled(page > 0);
+        cmdNext->setText(PageAfter(page) < 0 ? QStringLiteral("&Done")
+                                             : QStringLiteral("&Next >>"));
+    }
+    ShowPanel(page);
+    auto* control =
+        words.Focus.empty() ? FirstControl(*PanelAt(page)) : findChild<QWidget*>(ToQt(words.Focus));
+    if (control != nullptr)
+        control->setFocus(Qt::OtherFocusReason);
 }
 
 void WizardForm::SetEffect(EffectKind kind)
@@ -63,6 +89,13 @@ void WizardForm::BeginDrafts(bool isFresh)
     });
 }
 
+/// A running timer goes on, so that an author who types without a stop is kept too.
+void WizardForm::KeepDraftSoon()
+{
+    if (isVisible() && !m_keepTimer->isActive())
+        m_keepTimer->start();
+}
+
 void WizardForm::KeepDraft()
 {
     if (m_kept.empty())
@@ -78,12 +111,6 @@ void WizardForm::DropDraft()
 {
     DropDraftFile(m_bench.Files, DraftPath());
     m_kept = Draft();
-}
-
-void WizardForm::showEvent(QShowEvent* event)
-{
-    WizardFrame::showEvent(event);
-    m_keepTimer->start();
 }
 
 void WizardForm::hideEvent(QHideEvent* event)

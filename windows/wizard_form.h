@@ -1,18 +1,28 @@
 #pragma once
 
 #include "core/catalogue.h"
+#include "core/opening.h"
 #include "windows/wizard_frame.h"
 
 #include <optional>
+#include <vector>
 
 class QTimer;
 
 namespace orvane {
 
-/// The window of one effect. Done hides it and keeps the fields as they are, Cancel closes it; what
-/// it produced is read with TakePayload(). Files that the effect makes are written before it hides.
-/// What the author entered is kept as a draft file until the effect was delivered, and is offered
-/// when the window opens the next time.
+/// The words above a wizard page, and where its focus goes.
+struct WizardPage
+{
+    TextView Heading;
+    TextView SubHeading;
+    ControlName Focus = {}; ///< gets the focus when the page is shown; empty: the first control
+};
+
+/// The window of one effect, a wizard of one or more pages. Done hides it and keeps the fields as
+/// they are, Cancel closes it; what it produced is read with TakePayload(). Files that the effect
+/// makes are written before it hides. What the author entered is kept as a draft file until the
+/// effect was delivered, and is offered when the window opens the next time.
 class WizardForm : public WizardFrame
 {
     Q_OBJECT
@@ -21,6 +31,9 @@ public:
     /// The effect's row in the catalogue gives title and help topic.
     WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent);
 
+    /// Shows what the window opens with; without a call it is fresh. Called before it is shown.
+    virtual void Open(const Opening& opening) = 0;
+
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
 
@@ -28,6 +41,23 @@ public:
     void DropDraft();
 
 protected:
+    /// Adds a wizard page; pages are counted from 0.
+    PageBuilder AddPage(const WizardPage& words);
+
+    /// Shows a page with its words; "Next" reads "&Done" on a last page. Expects an existing page;
+    /// throws std::out_of_range for any other.
+    void GoTo(int page);
+    int Page() const { return CurrentPanel(); }
+    const WizardPage& WordsOf(int page) const { return m_words.at(static_cast<std::size_t>(page)); }
+
+    /// The page that "Next" leads to from this one; -1 when the wizard ends with it.
+    virtual int PageAfter(int page) const = 0;
+
+    /// The page that "Previous" leads to from this one.
+    virtual int PageBefore(int page) const { return page - 1; }
+
+    void Previous() override { GoTo(PageBefore(Page())); }
+
     /// Writes the files that the effect made, keeps the payload for TakePayload() and closes the
     /// window by accept(). When a file cannot be written, tells the author why and does no more.
     void Deliver(EffectPayload payload);
@@ -36,9 +66,12 @@ protected:
     /// catalogue row.
     void SetEffect(EffectKind kind);
 
-    /// From now on the fields are stored as a draft every two seconds and when the window hides.
-    /// Offers an earlier draft when `isFresh`.
+    /// From now on the fields as they are need no draft. Offers an earlier draft when `isFresh`.
     void BeginDrafts(bool isFresh);
+
+    /// Stores the fields as a draft in a moment, and when the window hides. Called when a field
+    /// changed; does nothing while the window is hidden.
+    void KeepDraftSoon();
 
     /// The text that stores the fields as a draft.
     virtual Text Draft() const = 0;
@@ -46,13 +79,13 @@ protected:
     /// Fills the fields from such a text.
     virtual void TakeDraft(TextView draft) = 0;
 
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     Text DraftPath() const;
     void KeepDraft();
 
+    std::vector<WizardPage> m_words;
     std::optional<EffectPayload> m_payload;
     EffectKind m_kind = EffectKind::None;
     Text m_kept; ///< the draft as last stored, or the fields as the window opened with them

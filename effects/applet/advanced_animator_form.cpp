@@ -44,7 +44,14 @@ AdvancedAnimatorForm::AdvancedAnimatorForm(Workbench& bench, QWidget* parent)
             [this](QPoint place) { mnuProperties->popup(place); });
     AddButtons(Buttons::OnePage, "cmdHelp");
     KeepProject(UnnamedProject(Parameters()));
-    connect(m_images->List(), &RowListPanel::RowsChanged, this, &AdvancedAnimatorForm::ShowTitle);
+}
+
+void AdvancedAnimatorForm::Open(const Opening& opening)
+{
+    if (const auto* project = std::get_if<ProjectFile>(&opening))
+        return ShowProject(project->Path);
+    EffectForm::Open(opening);
+    KeepProject(UnnamedProject(Parameters()));
 }
 
 void AdvancedAnimatorForm::ShowProject(TextView path)
@@ -90,13 +97,8 @@ void AdvancedAnimatorForm::AddFields(PageBuilder& page)
     QLineEdit* width = page.Narrow(page.TextBox("Text20", u"Width (pixels):"));
     QLineEdit* height = page.Narrow(page.TextBox("Text21", u"Height (pixels):"));
     m_images->SetSizeFields(width, height);
-    QComboBox* loop = page.ComboBox("Combo3", u"Loop the animation:", CycleCounts, true);
+    page.ComboBox("Combo3", u"Loop the animation:", CycleCounts, true);
     Label16 = page.ColorSwatch("Label16", u"Background Color:", ColorNotation::Channels);
-    for (const QLineEdit* box : {width, height})
-        connect(box, &QLineEdit::textChanged, this, &AdvancedAnimatorForm::ShowTitle);
-    connect(loop, &QComboBox::currentTextChanged, this, &AdvancedAnimatorForm::ShowTitle);
-    connect(Label16, &ColorSwatch::Picked, this, &AdvancedAnimatorForm::ShowTitle);
-    connect(Label16, &ColorSwatch::WasUnset, this, &AdvancedAnimatorForm::ShowTitle);
 }
 
 /// Stays as it is: the swatch goes on showing what was picked last.

@@ -15,8 +15,11 @@ class AdvancedAnimatorForm : public EffectForm<AdvancedAnimator>
 public:
     explicit AdvancedAnimatorForm(Workbench& bench, QWidget* parent = nullptr);
 
-    /// Shows the animation of the project file at this full path, as LoadProject() opens it.
-    void ShowProject(TextView path);
+    /// Opens a project file as LoadProject() does; anything else is a project without a name.
+    void Open(const Opening& opening) override;
+
+protected:
+    void UpdateForm() override { ShowTitle(); }
 
 private:
     using SaveCommand = bool (*)(AnimationProject& project, Dialogs& dialogs, FileStore& files);
@@ -24,11 +27,11 @@ private:
     void AddMenus();
     void AddFields(PageBuilder& page);
     AnimationProject Project() const { return {Parameters(), m_path, m_saved}; }
+    void ShowProject(TextView path);
     void TakeProject(const AnimationProject& project);
     void Save(SaveCommand save);
     void KeepProject(const AnimationProject& project);
     void ShowTitle();
-    void UpdateForm() override { ShowTitle(); }
     void SetProperties();
 
     Text m_path;         ///< of the open project

@@ -217,6 +217,31 @@ std::optional<EffectSlider> SizeSliderOf(const ImageEffects& effects)
     return mode ? mode->Size : std::nullopt;
 }
 
+Look LookOf(const ImageEffects& effects)
+{
+    const ImageEffectsMode* mode = ModeOf(effects);
+    if (mode == nullptr)
+        return {{.Control = "frameProperties", .IsShown = false}};
+    const auto size = SizeSliderOf(effects);
+    ControlLook slider{.Control = "SizeSlider", .IsShown = size.has_value()};
+    if (size) {
+        slider.Words = size->Caption;
+        slider.Tip = size->Tip;
+        slider.WordsLeft = size->LeftEnd;
+        slider.WordsRight = size->RightEnd;
+    }
+    return {{.Control = "frameProperties", .IsShown = true},
+            {.Control = "ImageWidth", .Words = mode->WidthLabel},
+            {.Control = "ImageHeight", .Words = mode->HeightLabel},
+            {.Control = "LinkOrColor", .IsShown = mode->Second == SecondRow::Link},
+            {.Control = "ColorSwatch", .IsShown = mode->Second == SecondRow::Color},
+            {.Control = "TargetFrame", .IsShown = mode->Third == ThirdRow::TargetFrame},
+            {.Control = "FrameCount", .IsShown = mode->Third == ThirdRow::FrameCount},
+            {.Control = "chkGradual", .IsShown = mode->CanBrightenGradually},
+            slider,
+            {.Control = "RotationSlider", .IsShown = mode->HasRotation}};
+}
+
 void ChooseEffect(ImageEffects& effects)
 {
     for (Text* typed : {&effects.ImageFile, &effects.LinkOrColor, &effects.ImageWidth,

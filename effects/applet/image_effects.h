@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "services/hints.h"
@@ -115,6 +116,9 @@ const ImageEffectsMode* ModeOf(const ImageEffects& effects);
 /// `chkGradual` is ticked, unless its value lies above the range, as after a new choice of the
 /// effect.
 std::optional<EffectSlider> SizeSliderOf(const ImageEffects& effects);
+
+/// The rows and words of the chosen effect; without one its properties are hidden.
+Look LookOf(const ImageEffects& effects);
 
 /// Applies a choice in the pick-list: empties what was typed, forgets the source of the image and
 /// puts the size slider at its start. Target frame, rotation, `chkGradual` and picked color stay.

@@ -25,8 +25,7 @@ ImageEffectsForm::ImageEffectsForm(Workbench& bench, QWidget* parent)
     PageBuilder page =
         AddPage({u"Image special effects", u"Select an image special effect from the list below."});
     auto* picker = page.ComboBox("EffectPicker", u"Pick an effect:", imageEffectNames, false);
-    PageBuilder properties = page.Frame(u"Properties");
-    m_properties = properties.Page();
+    PageBuilder properties = page.Frame(u"Properties", "frameProperties");
     AddFields(properties);
     AddModeFields(properties);
     page.Fill();
@@ -40,6 +39,11 @@ ImageEffectsForm::ImageEffectsForm(Workbench& bench, QWidget* parent)
     });
     m_keys.Watch(*picker);
     AddButtons(Buttons::OnePage);
+}
+
+void ImageEffectsForm::Open(const Opening& opening)
+{
+    EffectForm::Open(opening);
     if (ModeOf(Parameters()) != nullptr)
         ImageFile->setFocus(Qt::OtherFocusReason);
 }
@@ -53,30 +57,30 @@ void ImageEffectsForm::AddFields(PageBuilder& page)
                               .Caption = u"Browse for image...",
                               .Request = ImageRequest(),
                               .Instead = [this](const Text& path) { TakeImage(path); }});
-    ImageWidth = page.Narrow(
-        page.TextBox("ImageWidth", u"Applet Width:",
-                     u"This is the width of the special effect, specified in pixels", u"pixels"));
-    ImageHeight = page.Narrow(
-        page.TextBox("ImageHeight", u"Applet Height:",
-                     u"This is the height of the special effect, specified in pixels", u"pixels"));
+    page.Narrow(page.TextBox("ImageWidth", u"Applet Width:",
+                             u"This is the width of the special effect, specified in pixels",
+                             u"pixels"));
+    page.Narrow(page.TextBox("ImageHeight", u"Applet Height:",
+                             u"This is the height of the special effect, specified in pixels",
+                             u"pixels"));
 }
 
 /// The rows that come and go with the effect stand below those that stay.
 void ImageEffectsForm::AddModeFields(PageBuilder& page)
 {
-    LinkOrColor = page.BrowseRow("LinkOrColor", u"URL to link to:", {},
-                                 {.Button = "cmdBrowseForURL",
-                                  .Caption = u"Browse for URL...",
-                                  .Request = WebPageRequest()});
-    ColorSwatch = page.ColorSwatch("ColorSwatch", u"Background Color:", ColorNotation::Channels);
-    TargetFrame = page.ComboBox("TargetFrame", u"Target Frame:", LinkTargets, true);
-    FrameCount = page.Narrow(page.TextBox("FrameCount", u"Number of frames:", {},
-                                          u"Large number (25) makes slow animation"));
-    chkGradual = page.CheckBox("chkGradual", u"Gradual brighten",
-                               u"This causes the brightening to occur gradually");
+    page.BrowseRow("LinkOrColor", u"URL to link to:", {},
+                   {.Button = "cmdBrowseForURL",
+                    .Caption = u"Browse for URL...",
+                    .Request = WebPageRequest()});
+    auto* swatch = page.ColorSwatch("ColorSwatch", u"Background Color:", ColorNotation::Channels);
+    page.ComboBox("TargetFrame", u"Target Frame:", LinkTargets, true);
+    page.Narrow(page.TextBox("FrameCount", u"Number of frames:", {},
+                             u"Large number (25) makes slow animation"));
+    auto* gradual = page.CheckBox("chkGradual", u"Gradual brighten",
+                                  u"This causes the brightening to occur gradually");
     SizeSlider = page.Slider("SizeSlider", u"Speed:", u"Slow", u"Fast", widestSize);
-    RotationSlider = page.Slider("RotationSlider", u"Rotation speed:", u"Slow", u"Fast",
-                                 {.Lowest = 1, .Highest = 75, .Tick = 5});
+    page.Slider("RotationSlider", u"Rotation speed:", u"Slow", u"Fast",
+                {.Lowest = 1, .Highest = 75, .Tick = 5});
     for (const ControlName hidden : {"BackRed", "BackGreen", "BackBlue"})
         page.HiddenText(hidden);
     const auto takeColor = [this] {
@@ -84,9 +88,9 @@ void ImageEffectsForm::AddModeFields(PageBuilder& page)
         ChooseColor(effects, effects.ColorSwatch);
         Show(effects);
     };
-    connect(ColorSwatch, &orvane::ColorSwatch::Picked, this, takeColor);
-    connect(ColorSwatch, &orvane::ColorSwatch::WasUnset, this, takeColor);
-    connect(chkGradual, &QCheckBox::clicked, this, [this] {
+    connect(swatch, &orvane::ColorSwatch::Picked, this, takeColor);
+    connect(swatch, &orvane::ColorSwatch::WasUnset, this, takeColor);
+    connect(gradual, &QCheckBox::clicked, this, [this] {
         ImageEffects effects = Parameters();
         ChooseGradual(effects);
         Show(effects);
@@ -117,40 +121,15 @@ void ImageEffectsForm::UpdateForm()
 {
     const ImageEffects effects = Parameters();
     const ImageEffectsMode* mode = ModeOf(effects);
-    m_properties->setVisible(mode != nullptr);
     if (mode == nullptr)
         return;
-    ShowMode(*mode);
-    ShowSizeSlider(SizeSliderOf(effects));
-}
-
-void ImageEffectsForm::ShowMode(const ImageEffectsMode& mode)
-{
-    SetHelpTopic(mode.HelpTopic);
-    SetHeading(WordsOf(0).Heading, mode.SubHeading);
-    LabelOf(ImageWidth)->setText(ToQt(mode.WidthLabel));
-    LabelOf(ImageHeight)->setText(ToQt(mode.HeightLabel));
-    ShowRow(LinkOrColor, mode.Second == SecondRow::Link);
-    ShowRow(ColorSwatch, mode.Second == SecondRow::Color);
-    ShowRow(TargetFrame, mode.Third == ThirdRow::TargetFrame);
-    ShowRow(FrameCount, mode.Third == ThirdRow::FrameCount);
-    ShowRow(chkGradual, mode.CanBrightenGradually);
-    ShowRow(RotationSlider, mode.HasRotation);
-}
-
-void ImageEffectsForm::ShowSizeSlider(const std::optional<EffectSlider>& slider)
-{
-    ShowRow(SizeSlider, slider.has_value());
-    if (!slider)
-        return;
-    SizeSlider->setRange(slider->Lowest, slider->Highest);
-    SizeSlider->setTickInterval(slider->Tick);
-    SizeSlider->setSingleStep(slider->SmallStep);
-    SizeSlider->setToolTip(ToQt(slider->Tip));
-    SizeSlider->setAccessibleName(SpokenName(slider->Caption));
-    LabelOf(SizeSlider)->setText(ToQt(slider->Caption));
-    WordsBeside(SizeSlider, -1)->setText(ToQt(slider->LeftEnd));
-    WordsBeside(SizeSlider, 1)->setText(ToQt(slider->RightEnd));
+    SetHelpTopic(mode->HelpTopic);
+    SetHeading(WordsOf(0).Heading, mode->SubHeading);
+    if (const auto slider = SizeSliderOf(effects)) {
+        SizeSlider->setRange(slider->Lowest, slider->Highest);
+        SizeSlider->setTickInterval(slider->Tick);
+        SizeSlider->setSingleStep(slider->SmallStep);
+    }
 }
 
 } // namespace orvane

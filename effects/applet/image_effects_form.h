@@ -4,8 +4,6 @@
 #include "windows/effect_form.h"
 #include "windows/key_choice.h"
 
-#include <optional>
-
 namespace orvane {
 
 /// The window of Image Effects.
@@ -13,6 +11,9 @@ class ImageEffectsForm : public EffectForm<ImageEffects>
 {
 public:
     explicit ImageEffectsForm(Workbench& bench, QWidget* parent = nullptr);
+
+    /// The focus stands on the image once an effect is chosen.
+    void Open(const Opening& opening) override;
 
 protected:
     void UpdateForm() override;
@@ -22,22 +23,11 @@ private:
     void AddModeFields(PageBuilder& page);
     void WidenSizeSlider();
     void Show(const ImageEffects& effects);
-    void ShowMode(const ImageEffectsMode& mode);
-    void ShowSizeSlider(const std::optional<EffectSlider>& slider);
     void TakeImage(const Text& path);
 
     KeyChoice m_keys;
-    QWidget* m_properties = nullptr;
     FileNameBox* ImageFile = nullptr;
-    QLineEdit* ImageWidth = nullptr;
-    QLineEdit* ImageHeight = nullptr;
-    QLineEdit* LinkOrColor = nullptr;
-    orvane::ColorSwatch* ColorSwatch = nullptr;
-    QComboBox* TargetFrame = nullptr;
-    QLineEdit* FrameCount = nullptr;
-    QCheckBox* chkGradual = nullptr;
     QSlider* SizeSlider = nullptr;
-    QSlider* RotationSlider = nullptr;
 };
 
 } // namespace orvane

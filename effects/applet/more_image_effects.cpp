@@ -89,26 +89,23 @@ TextView CyclesOf(TextView loopCount)
 
 } // namespace
 
-bool ShowsStartEdge(const MoreImageEffects& effects)
+Look LookOf(const MoreImageEffects& effects)
 {
-    return !effects.EffectPicker.starts_with(u"Shutter");
+    const bool isChosen = !effects.EffectPicker.empty();
+    // Stays as it is: of the two effects that come and go, only one keeps its pause at one loop.
+    const bool pauses = effects.LoopCount == endless || Val(effects.LoopCount) > 1 ||
+                        effects.EffectPicker == slideInAndOut;
+    return {{.Control = "spaceAbove", .IsShown = !isChosen},
+            {.Control = "frameProperties", .IsShown = isChosen},
+            {.Control = "frameBehavior", .IsShown = isChosen},
+            {.Control = "LoopCount", .WordsRight = effects.LoopCount == u"1" ? u"time" : u"times"},
+            {.Control = "PauseSeconds", .IsShown = pauses},
+            {.Control = "StartEdge", .IsShown = !effects.EffectPicker.starts_with(u"Shutter")}};
 }
 
-bool ShowsPauseOnChoice(const MoreImageEffects& effects)
+bool PausesOnChoice(const MoreImageEffects& effects)
 {
     return effects.EffectPicker == slideInAndOut || effects.EffectPicker == expandAndShrink;
-}
-
-bool ShowsPauseForLoops(const MoreImageEffects& effects)
-{
-    // Stays as it is: of the two effects that come and go, only one keeps its pause at one loop.
-    return effects.LoopCount == endless || Val(effects.LoopCount) > 1 ||
-           effects.EffectPicker == slideInAndOut;
-}
-
-TextView LoopUnit(TextView loopCount)
-{
-    return loopCount == u"1" ? u"time" : u"times";
 }
 
 std::optional<Complaint> ChooseImage(MoreImageEffects& effects, const PickedImage& image)

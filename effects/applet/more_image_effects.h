@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/payload.h"
 #include "services/hints.h"
 #include "services/picked_image.h"
@@ -68,17 +69,12 @@ void ForEachField(Effects& effects, Field&& field)
     field("StartEdge", effects.StartEdge);
 }
 
-/// Whether the chosen effect moves from or to an edge that the author chooses.
-bool ShowsStartEdge(const MoreImageEffects& effects);
+/// The rows of the chosen effect. That of the pause is shown as the loop count wants it; an effect
+/// that PausesOnChoice() shows it until the loop count changes.
+Look LookOf(const MoreImageEffects& effects);
 
 /// Whether the chosen effect shows the row of the pause when it is chosen, whatever the loop count.
-bool ShowsPauseOnChoice(const MoreImageEffects& effects);
-
-/// Whether the row of the pause is shown for the present loop count.
-bool ShowsPauseForLoops(const MoreImageEffects& effects);
-
-/// The word behind the loop count: "time" for "1", else "times".
-TextView LoopUnit(TextView loopCount);
+bool PausesOnChoice(const MoreImageEffects& effects);
 
 /// Puts a picked image into the fields, or gives the complaint about a name with a blank. A file
 /// that is not a picture changes nothing.

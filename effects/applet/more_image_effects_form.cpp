@@ -2,7 +2,6 @@
 
 #include "services/file_requests.h"
 #include "windows/picture.h"
-#include "windows/qt_text.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -14,24 +13,18 @@ MoreImageEffectsForm::MoreImageEffectsForm(Workbench& bench, QWidget* parent)
 {
     PageBuilder page =
         AddPage({u"More Image Special effects", u"Select an effect from the box below."});
-    m_above = page.Fill();
+    page.Fill()->setObjectName(QStringLiteral("spaceAbove"));
     auto* picker = page.ComboBox("EffectPicker", u"Pick an effect:", moreImageEffectNames, false);
-    AddProperties(page.Frame(u"Properties"));
-    AddBehavior(page.Frame(u"Behavior"));
+    AddProperties(page.Frame(u"Properties", "frameProperties"));
+    AddBehavior(page.Frame(u"Behavior", "frameBehavior"));
     page.Fill();
     connect(picker, &QComboBox::textActivated, this, &MoreImageEffectsForm::ChooseEffect);
     m_keys.Watch(*picker);
-    connect(LoopCount, &QComboBox::currentTextChanged, this, [this] {
-        const MoreImageEffects effects = Parameters();
-        ShowRow(PauseSeconds, ShowsPauseForLoops(effects));
-        WordsBeside(LoopCount, 1)->setText(ToQt(LoopUnit(effects.LoopCount)));
-    });
     AddButtons(Buttons::OnePage);
 }
 
 void MoreImageEffectsForm::AddProperties(PageBuilder page)
 {
-    m_properties = page.Page();
     ImageFile =
         page.LockedBrowseRow("ImageFile", u"Select an Image:",
                              u"Image filename (Click the 'Browse' button to select an image)",
@@ -50,14 +43,13 @@ void MoreImageEffectsForm::AddProperties(PageBuilder page)
 
 void MoreImageEffectsForm::AddBehavior(PageBuilder page)
 {
-    m_behavior = page.Page();
     page.Slider("SpeedSlider", u"Speed:", u"Slow", u"Fast", {.Lowest = 1, .Highest = 100});
-    LoopCount = page.Narrow(
+    page.Narrow(
         page.ComboBox("LoopCount", u"Loop/repeat the effect:", loopCounts, true, {}, u"times"));
     PauseSeconds = page.Narrow(page.ComboBox("PauseSeconds", u"Pause after each loop:",
                                              pauseLengths, true, {}, u"seconds"));
-    StartEdge = page.ComboBox("StartEdge", u"Image starts from the:", startEdges, true, {},
-                              u"of the special effect");
+    page.ComboBox("StartEdge", u"Image starts from the:", startEdges, true, {},
+                  u"of the special effect");
 }
 
 void MoreImageEffectsForm::ChooseEffect()
@@ -81,15 +73,15 @@ void MoreImageEffectsForm::TakeImage(const Text& path)
 void MoreImageEffectsForm::UpdateForm()
 {
     const MoreImageEffects effects = Parameters();
-    const bool isChosen = !effects.EffectPicker.empty();
-    m_above->setVisible(!isChosen);
-    m_properties->setVisible(isChosen);
-    m_behavior->setVisible(isChosen);
-    ShowRow(StartEdge, ShowsStartEdge(effects));
-    // Once it is shown, the pause row comes and goes with the loop count alone.
-    if (m_shownEffect != effects.EffectPicker)
-        ShowRow(PauseSeconds, ShowsPauseOnChoice(effects) || ShowsPauseForLoops(effects));
+    if (m_shownEffect != effects.EffectPicker) {
+        m_pausesFor = effects.LoopCount;
+    } else if (m_pausesFor && *m_pausesFor != effects.LoopCount) {
+        m_pausesFor.reset();
+        ShowLook(*this, LookOf(effects));
+    }
     m_shownEffect = effects.EffectPicker;
+    if (m_pausesFor && PausesOnChoice(effects))
+        ShowRow(PauseSeconds, true);
 }
 
 } // namespace orvane

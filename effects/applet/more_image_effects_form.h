@@ -22,14 +22,10 @@ private:
     void TakeImage(const Text& path);
 
     KeyChoice m_keys;
-    QWidget* m_above = nullptr; ///< holds the picker in the middle while nothing is chosen
-    QWidget* m_properties = nullptr;
-    QWidget* m_behavior = nullptr;
     FileNameBox* ImageFile = nullptr;
-    QComboBox* LoopCount = nullptr;
     QComboBox* PauseSeconds = nullptr;
-    QComboBox* StartEdge = nullptr;
-    Text m_shownEffect; ///< the effect whose rows were shown last
+    Text m_shownEffect;              ///< the effect whose rows were shown last
+    std::optional<Text> m_pausesFor; ///< the loop count of its choice, until that changes
 };
 
 } // namespace orvane

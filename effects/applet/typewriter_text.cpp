@@ -70,6 +70,12 @@ TextView SizeOf(TextView size)
 
 } // namespace
 
+Look LookOf(const TypewriterText& typewriter)
+{
+    return {{.Control = "TypedText", .IsShown = !typewriter.ReadFromFile},
+            {.Control = "TextFile", .IsShown = typewriter.ReadFromFile}};
+}
+
 std::optional<Complaint> CheckPage(const TypewriterText& typewriter, int page)
 {
     if (page == 0)

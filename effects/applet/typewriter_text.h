@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
@@ -65,6 +66,9 @@ void ForEachField(Typewriter& typewriter, Field&& field)
     field("BackImage", typewriter.BackImage);
     field("LinkURL", typewriter.LinkURL);
 }
+
+/// The row of the text or of its file.
+Look LookOf(const TypewriterText& typewriter);
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing; the second page has
 /// none.

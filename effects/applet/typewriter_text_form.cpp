@@ -1,11 +1,9 @@
 #include "effects/applet/typewriter_text_form.h"
 
 #include "services/file_requests.h"
-#include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QTimer>
 
@@ -26,20 +24,18 @@ void TypewriterTextForm::AddTextPage()
         AddPage({u"Step 1: Enter Typewriter Text",
                  u"In the box below, type the text you wish to display in the Typewriter Text "
                  u"effect.  You can also specify the name of a text file."});
-    auto* fromFile = page.CheckBox(
-        "ReadFromFile", u"Read Typewriter text from a text file (you must include the text file in "
-                        u"order for this special effect to work correctly");
-    connect(fromFile, &QCheckBox::toggled, this, [this] { UpdateForm(); });
-    TypedText = page.MultiLineBox("TypedText", u"Typewriter text:");
-    TextFile =
-        page.LockedBrowseRow("TextFile", u"Text filename:", {},
-                             {.Button = "cmdBrowseForTextFile",
-                              .Caption = u"Browse for text file...",
-                              .Request = {.Title = u"Browse...",
-                                          .Filter = u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt",
-                                          .FilterIndex = 2,
-                                          .Purpose = FolderPurpose::Texts},
-                              .Source = &m_files.RequiredFileSources[typewriterTextFileSlot]});
+    page.CheckBox("ReadFromFile",
+                  u"Read Typewriter text from a text file (you must include the text file in "
+                  u"order for this special effect to work correctly");
+    page.MultiLineBox("TypedText", u"Typewriter text:");
+    page.LockedBrowseRow("TextFile", u"Text filename:", {},
+                         {.Button = "cmdBrowseForTextFile",
+                          .Caption = u"Browse for text file...",
+                          .Request = {.Title = u"Browse...",
+                                      .Filter = u"All Files (*.*)|*.*|Text Files (*.txt)|*.txt",
+                                      .FilterIndex = 2,
+                                      .Purpose = FolderPurpose::Texts},
+                          .Source = &m_files.RequiredFileSources[typewriterTextFileSlot]});
     page.Fill();
 }
 
@@ -104,13 +100,6 @@ void TypewriterTextForm::TellSize(QWidget* box)
     m_bench.Dialogs.Say(complaint->Words);
     if (isFont)
         SetComboText(*FontSize, {});
-}
-
-void TypewriterTextForm::UpdateForm()
-{
-    const bool isFromFile = Parameters().ReadFromFile;
-    ShowRow(TypedText, !isFromFile);
-    ShowRow(TextFile, isFromFile);
 }
 
 } // namespace orvane

@@ -11,9 +11,6 @@ class TypewriterTextForm : public EffectForm<TypewriterText>
 public:
     explicit TypewriterTextForm(Workbench& bench, QWidget* parent = nullptr);
 
-protected:
-    void UpdateForm() override;
-
 private:
     void AddTextPage();
     void AddFontPage();
@@ -21,8 +18,6 @@ private:
     void WatchSize(QWidget* box);
     void TellSize(QWidget* box);
 
-    orvane::MultiLineBox* TypedText = nullptr;
-    FileNameBox* TextFile = nullptr;
     QComboBox* FontSize = nullptr;
 };
 

@@ -141,6 +141,27 @@ std::optional<Complaint> CheckAction(const AllInOneButton& button)
     return std::nullopt;
 }
 
+ControlLook TextBoxOf(ButtonType type)
+{
+    const auto look = [&](TextView words, TextView tip) {
+        return ControlLook{.Control = "txtButtonText",
+                           .HoldsFile = type == ButtonType::Image,
+                           .Words = words,
+                           .Tip = tip};
+    };
+    switch (type) {
+    case ButtonType::Hyperlink:
+        return look(u"Hyperlink text:",
+                    u"This is the text that will appear as a link on your Web page.");
+    case ButtonType::Image:
+        return look(u"Image filename:",
+                    u"This is the filename of the image to be used as a button.");
+    default:
+        return look(u"Button text:",
+                    u"This is the text that will appear on the face of the button.");
+    }
+}
+
 } // namespace
 
 ButtonAction ActionOf(TextView item)
@@ -150,30 +171,22 @@ ButtonAction ActionOf(TextView item)
                                         : static_cast<ButtonAction>(found - buttonActions.begin());
 }
 
-ButtonTextBox TextBoxOf(ButtonType type)
+Look LookOf(const AllInOneButton& button)
 {
-    switch (type) {
-    case ButtonType::Hyperlink:
-        return {u"Hyperlink text:",
-                u"This is the text that will appear as a link on your Web page."};
-    case ButtonType::Image:
-        return {u"Image filename:", u"This is the filename of the image to be used as a button.",
-                true};
-    default:
-        return {u"Button text:", u"This is the text that will appear on the face of the button."};
-    }
-}
-
-ButtonTargetBox TargetBoxOf(ButtonAction action)
-{
-    switch (action) {
-    case ButtonAction::Link:
-        return {u"Web page URL:"};
-    case ButtonAction::Sound:
-        return {u"Sound file:", true};
-    default:
-        return {};
-    }
+    const ButtonAction action = ActionOf(button.cboButtonAction);
+    const bool isSound = action == ButtonAction::Sound;
+    const bool isFavorites = action == ButtonAction::Favorites;
+    const bool isImage = button.optButtonType == ButtonType::Image;
+    ControlLook target{.Control = "txtURL",
+                       .IsShown = isSound || action == ButtonAction::Link,
+                       .HoldsFile = isSound};
+    if (*target.IsShown)
+        target.Words = isSound ? u"Sound file:" : u"Web page URL:";
+    return {TextBoxOf(button.optButtonType),
+            {.Control = "cmdBrowseForImage", .IsShown = isImage},
+            target,
+            {.Control = "txtBookmarkURL", .IsShown = isFavorites},
+            {.Control = "txtBookmarkTitle", .IsShown = isFavorites}};
 }
 
 std::optional<Complaint> CheckPage(const AllInOneButton& button, int page)

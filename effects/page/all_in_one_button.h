@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/payload.h"
 #include "services/hints.h"
 
@@ -65,25 +66,8 @@ inline constexpr std::array<TextView, 5> buttonActions = {
 /// The action of that item; None for any other text.
 ButtonAction ActionOf(TextView item);
 
-/// How the window asks for the text or image of the button.
-struct ButtonTextBox
-{
-    TextView Label;
-    TextView Tip;
-    bool IsFile = false; ///< filled by Browse
-};
-/// The box for a button of this type.
-ButtonTextBox TextBoxOf(ButtonType type);
-
-/// How the window asks for the target of the action; the label is empty when there is nothing to
-/// ask for.
-struct ButtonTargetBox
-{
-    TextView Label;
-    bool IsFile = false; ///< filled by Browse
-};
-/// The box for this action.
-ButtonTargetBox TargetBoxOf(ButtonAction action);
+/// The boxes that type and action need.
+Look LookOf(const AllInOneButton& button);
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const AllInOneButton& button, int page);

@@ -40,12 +40,12 @@ void AllInOneButtonForm::AddPropertiesPage()
     PageBuilder frame = page.Frame(u"Button properties");
     frame.OptionGroup("optButtonType", {u"Button", u"Hyperlink", u"Image"});
     for (int i = 0; i < 3; ++i)
-        connect(findChild<QRadioButton*>(MemberName("optButtonType", i)), &QRadioButton::clicked,
+        connect(findChild<QRadioButton*>(MemberName("optButtonType", i)), &QRadioButton::toggled,
                 this, &AllInOneButtonForm::ChooseType);
     AddTextRow(frame);
     AddTargetRow(frame);
-    txtBookmarkURL = frame.TextBox("txtBookmarkURL", u"URL to add to Favorites List:");
-    txtBookmarkTitle = frame.TextBox("txtBookmarkTitle", u"Title for Favorites List:");
+    frame.TextBox("txtBookmarkURL", u"URL to add to Favorites List:");
+    frame.TextBox("txtBookmarkTitle", u"Title for Favorites List:");
     page.Example(QStringLiteral("all_in_one_button_sample"), {320, 64});
     page.Fill();
 }
@@ -54,12 +54,12 @@ void AllInOneButtonForm::AddTextRow(PageBuilder& frame)
 {
     txtButtonText = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtButtonText->setObjectName(QStringLiteral("txtButtonText"));
-    cmdBrowseForImage = frame.BrowseButton(
+    QPushButton* browse = frame.BrowseButton(
         txtButtonText, {.Button = "cmdBrowseForImage",
                         .Caption = u"Browse for image...",
                         .Request = BrowseRequest(imageFiles, FolderPurpose::Images)});
-    lblButtonText = frame.Row(u"Button text:", {txtButtonText, cmdBrowseForImage});
-    lblButtonText->setObjectName(QStringLiteral("lblButtonText"));
+    frame.Row(u"Button text:", {txtButtonText, browse})
+        ->setObjectName(QStringLiteral("lblButtonText"));
 }
 
 void AllInOneButtonForm::AddTargetRow(PageBuilder& frame)
@@ -74,43 +74,27 @@ void AllInOneButtonForm::AddTargetRow(PageBuilder& frame)
         frame.BrowseButton(txtURL, {.Button = "cmdBrowse",
                                     .Caption = u"Browse...",
                                     .Request = BrowseRequest(soundFiles, FolderPurpose::Sounds)});
-    lblURL = frame.Row(u"Web page URL:", {txtURL, cmdBrowsePage, cmdBrowseSound});
-    lblURL->setObjectName(QStringLiteral("lblURL"));
+    frame.Row(u"Web page URL:", {txtURL, cmdBrowsePage, cmdBrowseSound})
+        ->setObjectName(QStringLiteral("lblURL"));
 }
 
+/// The two buttons have one name, so that no look can tell them apart.
 void AllInOneButtonForm::UpdateForm()
 {
-    const AllInOneButton button = Parameters();
-    m_type = button.optButtonType;
-    const ButtonTextBox text = TextBoxOf(m_type);
-    lblButtonText->setText(ToQt(text.Label));
-    txtButtonText->setAccessibleName(SpokenName(text.Label));
-    txtButtonText->setToolTip(ToQt(text.Tip));
-    txtButtonText->SetHoldsFile(text.IsFile);
-    cmdBrowseForImage->setVisible(text.IsFile);
-
-    const ButtonAction action = ActionOf(button.cboButtonAction);
-    const ButtonTargetBox target = TargetBoxOf(action);
-    ShowRow(txtURL, !target.Label.empty());
-    lblURL->setText(ToQt(target.Label));
-    txtURL->setAccessibleName(SpokenName(target.Label));
-    txtURL->SetHoldsFile(target.IsFile);
+    const ButtonAction action = ActionOf(Parameters().cboButtonAction);
     cmdBrowsePage->setVisible(action == ButtonAction::Link);
     cmdBrowseSound->setVisible(action == ButtonAction::Sound);
-    ShowRow(txtBookmarkURL, action == ButtonAction::Favorites);
-    ShowRow(txtBookmarkTitle, action == ButtonAction::Favorites);
 }
 
 void AllInOneButtonForm::ShowCorrectInputBoxes()
 {
     txtButtonText->clear();
     txtURL->clear();
-    UpdateForm();
 }
 
-void AllInOneButtonForm::ChooseType()
+void AllInOneButtonForm::ChooseType(bool isOn)
 {
-    if (Parameters().optButtonType != m_type)
+    if (isOn && !IsFilling())
         ShowCorrectInputBoxes();
 }
 
@@ -118,11 +102,7 @@ void AllInOneButtonForm::Next()
 {
     const int before = Page();
     EffectForm::Next();
-    if (Page() == before)
-        return;
-    if (std::exchange(m_keepsTexts, false))
-        UpdateForm();
-    else
+    if (Page() != before && !std::exchange(m_keepsTexts, false))
         ShowCorrectInputBoxes();
 }
 

@@ -13,8 +13,7 @@ class AllInOneButtonForm : public EffectForm<AllInOneButton>
 public:
     explicit AllInOneButtonForm(Workbench& bench, QWidget* parent = nullptr);
 
-    /// Empties the boxes for the button's text and for the target, and shows the boxes that type
-    /// and action need.
+    /// Empties the boxes for the button's text and for the target.
     void ShowCorrectInputBoxes();
 
 protected:
@@ -27,19 +26,13 @@ private:
     void AddPropertiesPage();
     void AddTextRow(PageBuilder& frame);
     void AddTargetRow(PageBuilder& frame);
-    void ChooseType();
+    void ChooseType(bool isOn);
 
-    ButtonType m_type = ButtonType::Button; ///< the type that the boxes are set for
-    bool m_keepsTexts = false;              ///< the next page keeps the texts of a draft
-    QLabel* lblButtonText;
+    bool m_keepsTexts = false; ///< the next page keeps the texts of a draft
     FileNameBox* txtButtonText;
-    QPushButton* cmdBrowseForImage;
-    QLabel* lblURL;
     FileNameBox* txtURL;
     QPushButton* cmdBrowsePage; ///< both are named `cmdBrowse`; one is shown
     QPushButton* cmdBrowseSound;
-    QLineEdit* txtBookmarkURL;
-    QLineEdit* txtBookmarkTitle;
 };
 
 } // namespace orvane

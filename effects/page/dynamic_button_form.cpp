@@ -58,7 +58,7 @@ void DynamicButtonForm::AddImage(PageBuilder& frame, ControlName name, TextView 
                            .Source = &m_files.RequiredFileSources.at(slot),
                            .Then = [preview](const Text& path) { preview->Load(path); }});
     frame.Row(u"Preview", {preview});
-    m_previews.push_back({slot, preview});
+    m_previews.push_back({slot, preview, {}});
 }
 
 void DynamicButtonForm::AddSound(PageBuilder& frame, ControlName name, TextView tip,
@@ -89,8 +89,9 @@ void DynamicButtonForm::AddLink(PageBuilder& frame)
 
 void DynamicButtonForm::UpdateForm()
 {
-    for (const auto& [slot, box] : m_previews)
-        box->Load(m_files.RequiredFileSources.at(slot));
+    for (auto& [slot, box, shown] : m_previews)
+        if (const Text& source = m_files.RequiredFileSources.at(slot); source != shown)
+            box->Load(shown = source);
 }
 
 } // namespace orvane

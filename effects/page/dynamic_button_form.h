@@ -33,6 +33,7 @@ private:
     {
         std::size_t Slot;
         PictureBox* Box;
+        Text Shown; ///< the file that was loaded last
     };
     std::vector<Preview> m_previews; ///< of the images, by their slots
 };

@@ -192,14 +192,6 @@ void TidyLogin(PasswordProtection& login)
         login.PerlPath = usualPerlPath;
 }
 
-} // namespace
-
-void ChooseKind(PasswordProtection& protection, EffectKind kind)
-{
-    if (kind == EffectKind::PasswordServer)
-        protection.optScheme = PasswordScheme::Server;
-}
-
 TextView DescriptionOf(PasswordScheme scheme)
 {
     constexpr TextView script =
@@ -219,17 +211,34 @@ TextView DescriptionOf(PasswordScheme scheme)
     }
 }
 
-GateWords GateWordsOf(PasswordType type)
+} // namespace
+
+void ChooseKind(PasswordProtection& protection, EffectKind kind)
 {
-    if (type == PasswordType::Many)
-        return {u"URL of Web page to display when user types in password:",
-                u"Example:  If you want the user typing \"bob\" to access bob.html at the address "
-                u"http://www.mysite.example/bob.html then type http://www.mysite.example/ into the "
-                u"input box above."};
-    return {u"URL of Web page to display when user types in correct password:",
-            u"Example:  Type http://www.mysite.example/secret.html if that's the Web page to be "
-            u"accessed by the password (or just secret.html if the HTML document containing this "
-            u"JavaScript code is in the same folder as secret.html)."};
+    if (kind == EffectKind::PasswordServer)
+        protection.optScheme = PasswordScheme::Server;
+}
+
+Look LookOf(const PasswordProtection& protection)
+{
+    const bool isOne = protection.optPasswordType != PasswordType::Many;
+    const TextView address =
+        isOne ? u"URL of Web page to display when user types in correct password:"
+              : u"URL of Web page to display when user types in password:";
+    const TextView example =
+        isOne
+            ? u"Example:  Type http://www.mysite.example/secret.html if that's the Web page to be "
+              u"accessed by the password (or just secret.html if the HTML document containing this "
+              u"JavaScript code is in the same folder as secret.html)."
+            : u"Example:  If you want the user typing \"bob\" to access bob.html at the address "
+              u"http://www.mysite.example/bob.html then type http://www.mysite.example/ into the "
+              u"input box above.";
+    return {{.Control = "lblDescription", .Words = DescriptionOf(protection.optScheme)},
+            {.Control = "GatePassword", .IsShown = isOne},
+            {.Control = "GateUrl", .Words = address},
+            {.Control = "lblExample", .Words = example},
+            {.Control = "CgiDirectory", .IsEnabled = protection.ChangeSettings},
+            {.Control = "PerlPath", .IsEnabled = protection.ChangeSettings}};
 }
 
 std::optional<Complaint> CheckPage(const PasswordProtection& protection, int page)

@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/pasted_tag.h"
 #include "core/payload.h"
 #include "services/hints.h"
@@ -75,17 +76,8 @@ inline constexpr int server = 2;
 /// window does not choose either.
 void ChooseKind(PasswordProtection& protection, EffectKind kind);
 
-/// What the window says about a scheme.
-TextView DescriptionOf(PasswordScheme scheme);
-
-/// How the window asks for `GateUrl`.
-struct GateWords
-{
-    TextView Label;
-    TextView Example;
-};
-/// The words for this type of password.
-GateWords GateWordsOf(PasswordType type);
+/// The words on the chosen scheme and type of password, and the rows that they need.
+Look LookOf(const PasswordProtection& protection);
 
 /// The complaint that keeps the author on a page, or nothing; the script page has none.
 std::optional<Complaint> CheckPage(const PasswordProtection& protection, int page);

@@ -2,7 +2,6 @@
 
 #include "windows/qt_text.h"
 
-#include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -24,8 +23,7 @@ PasswordProtectionForm::PasswordProtectionForm(Workbench& bench, QWidget* parent
     AddSchemePage();
     AddScriptPage();
     AddServerPage();
-    for (auto* option : findChildren<QRadioButton*>())
-        connect(option, &QRadioButton::toggled, this, [this] { UpdateForm(); });
+    ShowLook(*this, LookOf(PasswordProtection())); // so that the window has room for the words
     AddButtons(Buttons::Paged);
 }
 
@@ -35,7 +33,7 @@ void PasswordProtectionForm::AddSchemePage()
     PageBuilder frame = page.Frame(u"Select a password protection scheme");
     frame.OptionGroup("optScheme",
                       {u"JavaScript Password (medium security)", u"CGI Password (high security)"});
-    lblDescription = frame.Note(DescriptionOf(PasswordScheme::None), "lblDescription");
+    frame.Note({}, "lblDescription");
     page.Fill();
 }
 
@@ -50,15 +48,13 @@ void PasswordProtectionForm::AddScriptPage()
                  u"Use different passwords that allow access to different Web pages.  "
                  u"For example, typing the password \"bob\" accesses the bob.html Web page, and "
                  u"typing \"sam\" will access the sam.html Web page.");
-    const GateWords words = GateWordsOf(PasswordType::One);
-    GatePassword = page.TextBox("GatePassword", u"Password:",
-                                u"This is the password to be used in the password protection");
-    GateUrl = page.TextBox("GateUrl", words.Label,
-                           u"This i the Web page URL (address) to be displayed if the user logs "
-                           u"in successfully");
-    lblGateUrl = LabelOf(GateUrl);
-    lblGateUrl->setObjectName(QStringLiteral("lblGateUrl"));
-    lblExample = page.Note(words.Example, "lblExample");
+    page.TextBox("GatePassword", u"Password:",
+                 u"This is the password to be used in the password protection");
+    auto* address = page.TextBox("GateUrl", u"URL:",
+                                 u"This i the Web page URL (address) to be displayed if the user "
+                                 u"logs in successfully");
+    LabelOf(address)->setObjectName(QStringLiteral("lblGateUrl"));
+    page.Note({}, "lblExample");
     page.Fill();
 }
 
@@ -76,28 +72,14 @@ void PasswordProtectionForm::AddServerPage()
     PageBuilder optional = page.Frame(u"Optional settings");
     optional.Note(u"These settings may need to be specified if your Internet service provider's "
                   u"Web server requires them.  Click on the help button for more information.");
-    auto* change = optional.CheckBox("ChangeSettings", u"Change settings");
-    CgiDirectory = optional.TextBox(
+    optional.CheckBox("ChangeSettings", u"Change settings");
+    optional.TextBox(
         "CgiDirectory", u"Directory containing password.cgi file:",
         u"This is the directory (folder) that contains the password.cgi file on the Web server",
         u"(if different from default directory)");
-    PerlPath = optional.TextBox("PerlPath", u"Path to PERL compiler:",
-                                u"This is the pathname of the PERL compiler on your Web server");
-    connect(change, &QCheckBox::toggled, this, [this] { UpdateForm(); });
+    optional.TextBox("PerlPath", u"Path to PERL compiler:",
+                     u"This is the pathname of the PERL compiler on your Web server");
     page.Fill();
-}
-
-void PasswordProtectionForm::UpdateForm()
-{
-    const PasswordProtection fields = Parameters();
-    lblDescription->setText(ToQt(DescriptionOf(fields.optScheme)));
-    const GateWords words = GateWordsOf(fields.optPasswordType);
-    ShowRow(GatePassword, fields.optPasswordType == PasswordType::One);
-    lblGateUrl->setText(ToQt(words.Label));
-    GateUrl->setAccessibleName(SpokenName(words.Label));
-    lblExample->setText(ToQt(words.Example));
-    CgiDirectory->setEnabled(fields.ChangeSettings);
-    PerlPath->setEnabled(fields.ChangeSettings);
 }
 
 int PasswordProtectionForm::PageBefore(int) const

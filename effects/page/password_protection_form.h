@@ -17,7 +17,6 @@ public:
     explicit PasswordProtectionForm(Workbench& bench, QWidget* parent = nullptr);
 
 protected:
-    void UpdateForm() override;
     void Next() override;
     void Previous() override;
     int PageBefore(int page) const override;
@@ -29,14 +28,7 @@ private:
     void AddServerPage();
 
     bool m_keepsOption = false; ///< the next script page keeps the option of a draft
-    QLabel* lblDescription;
     QRadioButton* optOnePassword;
-    QLineEdit* GatePassword;
-    QLabel* lblGateUrl;
-    QLineEdit* GateUrl;
-    QLabel* lblExample;
-    QLineEdit* CgiDirectory;
-    QLineEdit* PerlPath;
 };
 
 } // namespace orvane

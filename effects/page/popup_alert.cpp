@@ -2,6 +2,8 @@
 
 #include "core/template.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
@@ -38,12 +40,11 @@ TemplateView LinesOf(TextView type)
 
 } // namespace
 
-TextView AlertTypeDescription(TextView type)
+Look LookOf(const PopupAlert& alert)
 {
-    for (const AlertType& known : alertTypes)
-        if (known.Item == type)
-            return known.Description;
-    return {};
+    const auto type = std::ranges::find(alertTypes, alert.cmboAlertType, &AlertType::Item);
+    return {{.Control = "lblAlertTypeDesc",
+             .Words = type == alertTypes.end() ? TextView() : type->Description}};
 }
 
 std::optional<Complaint> Check(const PopupAlert& alert)

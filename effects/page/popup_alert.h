@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/payload.h"
 #include "services/hints.h"
 
@@ -43,8 +44,8 @@ void ForEachField(Alert& alert, Field&& field)
     field("txtAlertText", alert.txtAlertText);
 }
 
-/// The description of a type of box; empty for any other text.
-TextView AlertTypeDescription(TextView type);
+/// The description of the chosen type.
+Look LookOf(const PopupAlert& alert);
 
 /// The complaint of the first check that fails, in the order of the fields, or nothing when the
 /// wizard may finish.

@@ -1,7 +1,6 @@
 #include "effects/page/popup_alert_form.h"
 
 #include "windows/multi_line_box.h"
-#include "windows/qt_text.h"
 
 #include <QComboBox>
 
@@ -16,27 +15,16 @@ PopupAlertForm::PopupAlertForm(Workbench& bench, QWidget* parent)
     std::array<TextView, alertTypes.size()> types;
     for (std::size_t i = 0; i < types.size(); ++i)
         types[i] = alertTypes[i].Item;
-    cmboAlertType = page.ComboBox("cmboAlertType", u"PopUp Alert box type:", types, false,
-                                  u"This specifies the type of Alert box to be displayed");
-    lblAlertTypeDesc = page.Note({}, "lblAlertTypeDesc");
-    txtAlertText =
+    auto* type = page.ComboBox("cmboAlertType", u"PopUp Alert box type:", types, false,
+                               u"This specifies the type of Alert box to be displayed");
+    page.Note({}, "lblAlertTypeDesc");
+    auto* text =
         page.MultiLineBox("txtAlertText", u"Popup Alert box text:",
                           u"This is the text that will be displayed in the Popup Alert box");
     page.Example(QStringLiteral("popup_alert_sample"), {320, 120});
-    connect(cmboAlertType, &QComboBox::currentIndexChanged, this,
-            &PopupAlertForm::ChangePopUpAlertType);
+    connect(type, &QComboBox::currentIndexChanged, this,
+            [text] { text->setFocus(Qt::OtherFocusReason); });
     AddButtons(Buttons::OnePage);
-}
-
-void PopupAlertForm::UpdateForm()
-{
-    lblAlertTypeDesc->setText(ToQt(AlertTypeDescription(FromQt(cmboAlertType->currentText()))));
-}
-
-void PopupAlertForm::ChangePopUpAlertType()
-{
-    UpdateForm();
-    txtAlertText->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace orvane

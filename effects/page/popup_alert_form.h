@@ -12,16 +12,6 @@ class PopupAlertForm : public EffectForm<PopupAlert>
 
 public:
     explicit PopupAlertForm(Workbench& bench, QWidget* parent = nullptr);
-
-protected:
-    void UpdateForm() override;
-
-private:
-    void ChangePopUpAlertType();
-
-    QComboBox* cmboAlertType;
-    orvane::MultiLineBox* txtAlertText;
-    QLabel* lblAlertTypeDesc;
 };
 
 } // namespace orvane

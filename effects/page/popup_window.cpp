@@ -108,24 +108,25 @@ Text Body(const PopupWindow& window, TextView call)
 
 } // namespace
 
-std::optional<LinkSettings> LinkSettingsFor(WhenToAppear choice)
+Look LookOf(const PopupWindow& window)
 {
-    if (choice == WhenToAppear::OnHyperlink)
-        return LinkSettings{
-            .Explanation = u"The Popup Window will appear when the hyperlink is clicked.  Specify "
-                           u"the link text below:",
-            .ItemLabel = u"Hyperlink text:",
-            .ItemTip = u"This text will be displayed and clickable on the Web page.",
-        };
-    if (choice == WhenToAppear::OnImage)
-        return LinkSettings{
-            .Explanation = u"The Popup Window will appear when the image is clicked.  Specify the "
-                           u"image filename below:",
-            .ItemLabel = u"Image name:",
-            .ItemTip = u"This image will be displayed and clickable on the Web page.",
-            .IsFile = true,
-        };
-    return std::nullopt;
+    const bool isImage = window.optWhenToAppear == WhenToAppear::OnImage;
+    if (!isImage && window.optWhenToAppear != WhenToAppear::OnHyperlink)
+        return {{.Control = "frameLinkSettings", .IsEnabled = false}};
+    const TextView explanation =
+        isImage ? u"The Popup Window will appear when the image is clicked.  Specify the image "
+                  u"filename below:"
+                : u"The Popup Window will appear when the hyperlink is clicked.  Specify the link "
+                  u"text below:";
+    const TextView tip = isImage ? u"This image will be displayed and clickable on the Web page."
+                                 : u"This text will be displayed and clickable on the Web page.";
+    return {{.Control = "frameLinkSettings", .IsEnabled = true},
+            {.Control = "lblLinkExplanation", .Words = explanation},
+            {.Control = "txtLinkItem",
+             .HoldsFile = isImage,
+             .Words = isImage ? u"Image name:" : u"Hyperlink text:",
+             .Tip = tip},
+            {.Control = "cmdBrowseForImage", .IsEnabled = isImage}};
 }
 
 bool IsPopupPicture(TextView fileName)

@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/payload.h"
 #include "services/hints.h"
 
@@ -65,17 +66,8 @@ void ForEachField(Window& window, Field&& field)
     field("chkResizable", window.chkResizable);
 }
 
-/// What the link frame shows: how it asks for what is clicked.
-struct LinkSettings
-{
-    TextView Explanation;
-    TextView ItemLabel;
-    TextView ItemTip;
-    bool IsFile = false; ///< the item is filled by Browse
-};
-
-/// The link frame for a choice; nothing when the choice needs no link.
-std::optional<LinkSettings> LinkSettingsFor(WhenToAppear choice);
+/// The frame of the link as the choice wants it; it keeps its words while it is not needed.
+Look LookOf(const PopupWindow& window);
 
 /// Whether the name ends like that of a picture (jpg, gif), whose size the popup window then takes.
 bool IsPopupPicture(TextView fileName);

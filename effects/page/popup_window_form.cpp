@@ -5,7 +5,6 @@
 #include "windows/picture.h"
 #include "windows/qt_text.h"
 
-#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -40,21 +39,20 @@ void PopupWindowForm::AddAppearPage()
                       u"when the user clicks a hyperlink", u"when the user clicks an image"});
     for (int i = 0; i < 4; ++i) {
         auto* option = findChild<QRadioButton*>(MemberName("optWhenToAppear", i));
-        connect(option, &QRadioButton::clicked, this, &PopupWindowForm::ChooseWhenToAppear);
+        connect(option, &QRadioButton::toggled, this, &PopupWindowForm::ChooseWhenToAppear);
         m_keys.Watch(*option);
     }
     PageBuilder link = page.Frame(u"Link settings", "frameLinkSettings");
-    frameLinkSettings = qobject_cast<QGroupBox*>(link.Page());
-    lblLinkExplanation = link.Note({}, "lblLinkExplanation");
+    link.Note({}, "lblLinkExplanation");
     txtLinkItem = new FileNameBox(m_bench.Settings, m_bench.Dialogs);
     txtLinkItem->setObjectName(QStringLiteral("txtLinkItem"));
-    cmdBrowseForImage = link.BrowseButton(
+    QPushButton* browse = link.BrowseButton(
         txtLinkItem, {.Button = "cmdBrowseForImage",
                       .Caption = u"Browse for image...",
                       .Request = BrowseRequest(imageFiles, FolderPurpose::Images)});
-    lblLinkItem = link.Row(u"Hyperlink text:", {txtLinkItem, cmdBrowseForImage});
-    lblLinkItem->setObjectName(QStringLiteral("lblLinkItem"));
-    ShowLink(*LinkSettingsFor(WhenToAppear::OnHyperlink));
+    link.Row(u"Hyperlink text:", {txtLinkItem, browse})
+        ->setObjectName(QStringLiteral("lblLinkItem"));
+    ShowLook(*this, LookOf(PopupWindow{.optWhenToAppear = WhenToAppear::OnHyperlink}));
     page.Fill();
 }
 
@@ -116,31 +114,13 @@ void PopupWindowForm::AddOtherProperties(PageBuilder& page)
                    u"This allows the PopUp Window to be resizable");
 }
 
-/// The frame of the link as the choice wants it; it keeps its words while it is not needed.
-void PopupWindowForm::UpdateForm()
+/// Another choice that needs a link asks for it anew.
+void PopupWindowForm::ChooseWhenToAppear(bool isOn)
 {
-    m_choice = Parameters().optWhenToAppear;
-    const auto settings = LinkSettingsFor(m_choice);
-    frameLinkSettings->setEnabled(settings.has_value());
-    if (settings)
-        ShowLink(*settings);
-}
-
-void PopupWindowForm::ShowLink(const LinkSettings& settings)
-{
-    lblLinkExplanation->setText(ToQt(settings.Explanation));
-    lblLinkItem->setText(ToQt(settings.ItemLabel));
-    txtLinkItem->setAccessibleName(SpokenName(settings.ItemLabel));
-    txtLinkItem->setToolTip(ToQt(settings.ItemTip));
-    txtLinkItem->SetHoldsFile(settings.IsFile);
-    cmdBrowseForImage->setEnabled(settings.IsFile);
-}
-
-void PopupWindowForm::ChooseWhenToAppear()
-{
-    const WhenToAppear before = m_choice;
-    UpdateForm();
-    if (m_choice == before || !frameLinkSettings->isEnabled())
+    if (!isOn || IsFilling())
+        return;
+    ShowFields();
+    if (!txtLinkItem->isEnabled())
         return;
     txtLinkItem->clear();
     // The arrow keys go through all options.

@@ -84,6 +84,14 @@ SearchModeWords WordsOfMode(TextView mode)
             u"the Web page you wish to translate in the input box below."};
 }
 
+Look LookOf(const SearchBox& box)
+{
+    const bool searches = box.Mode == searchMode;
+    return {{.Control = "frameSearch", .IsShown = searches},
+            {.Control = "frameTranslate", .IsShown = !searches},
+            {.Control = "txtURL", .IsEnabled = box.optSearch == SearchPlace::Site}};
+}
+
 std::optional<Complaint> Check(const SearchBox& box)
 {
     if (box.Mode == searchMode) {

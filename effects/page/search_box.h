@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/payload.h"
 #include "core/surroundings.h"
 
@@ -61,6 +62,9 @@ struct SearchModeWords
 };
 /// The words of this mode.
 SearchModeWords WordsOfMode(TextView mode);
+
+/// The frame of the mode; the site's box is enabled for a search of one site.
+Look LookOf(const SearchBox& box);
 
 /// The complaint about the address that the mode needs, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const SearchBox& box);

@@ -18,13 +18,7 @@ public:
     /// The cursor stands behind the "http://", which is not selected.
     void setVisible(bool isVisible) override;
 
-protected:
-    void UpdateForm() override;
-
 private:
-    QWidget* frameSearch;
-    QLineEdit* txtURL;
-    QWidget* frameTranslate;
     QLineEdit* txtTranslateURL;
 };
 

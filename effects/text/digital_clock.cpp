@@ -172,6 +172,12 @@ ClockPosition PreviousPage(const DigitalClock& clock, ClockPosition at)
     return at;
 }
 
+Look LookOf(const DigitalClock& clock)
+{
+    return {{.Control = "chkShowTimeBeforeDate",
+             .IsShown = clock.optDateTime == ClockContent::DateAndTime}};
+}
+
 std::optional<Complaint> Check(const DigitalClock& clock)
 {
     if (clock.lstDateTimeFormat.empty() && clock.optDateTime != ClockContent::Time)

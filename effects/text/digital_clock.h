@@ -2,6 +2,7 @@
 
 #include "core/complaint.h"
 #include "core/fields.h"
+#include "core/look.h"
 #include "core/payload.h"
 #include "core/pick_lists.h"
 #include "services/hints.h"
@@ -100,6 +101,9 @@ ClockPosition NextPage(const DigitalClock& clock, ClockPosition at);
 
 /// The position after Previous, with the same pages skipped; the step falls by one even then.
 ClockPosition PreviousPage(const DigitalClock& clock, ClockPosition at);
+
+/// The box for the order of the two, where both are shown.
+Look LookOf(const DigitalClock& clock);
 
 /// The complaint about a missing date format, or nothing; pages 3 and 4 are not shown with it.
 std::optional<Complaint> Check(const DigitalClock& clock);

@@ -109,8 +109,6 @@ void DigitalClockForm::ChangePage(int page)
     SetHeading(
         Join({u"Digital Clock - Step ", NumberToText(m_position.CurrentStep), words.Heading}),
         words.SubHeading);
-    findChild<QCheckBox*>(QStringLiteral("chkShowTimeBeforeDate"))
-        ->setVisible(clock.optDateTime == ClockContent::DateAndTime);
 }
 
 } // namespace orvane

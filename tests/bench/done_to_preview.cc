@@ -74,7 +74,7 @@ int Run(QApplication& application, bool isWarm)
             watch.start();
             wizard->findChild<QPushButton*>(QStringLiteral("cmdDone"))->click();
         });
-        desk.OpenEffect(*FindCommand(FindRow(EffectKind::StatusBarTicker)->MenuCommand));
+        desk.OpenEffect(EffectKind::StatusBarTicker);
     });
     return QApplication::exec();
 }

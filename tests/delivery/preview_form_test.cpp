@@ -393,7 +393,7 @@ TEST(FormDeskTest, LeadsBackToTheWizardWithItsFieldAndOutOfBoth)
         });
         Click(wizard, "cmdDone");
     });
-    road.OpenEffect(*FindCommand("mnuStatusBar"));
+    road.OpenEffect(EffectKind::StatusBarTicker);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(road.MainForm()->isVisible());
     EXPECT_EQ(desk.Core.Payload.HEADHTML, u"");

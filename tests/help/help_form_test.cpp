@@ -1,5 +1,6 @@
 #include "help/help_form.h"
 
+#include "core/catalogue.h"
 #include "effects/effects.h"
 #include "help/qt_topic_browser.h"
 #include "program/form_desk.h"

@@ -47,16 +47,16 @@ protected:
 TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
 {
     int all = 0;
-    std::vector<ControlName> wanted;
+    std::vector<EffectKind> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
-                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
+                     [&](EffectKind kind) { wanted.push_back(kind); });
     for (const CatalogueRow& row : Catalogue()) {
         ASSERT_NE(ButtonOf(row), nullptr) << ToUtf8(row.Title);
         ButtonOf(row)->click();
         ++all;
     }
     EXPECT_EQ(all, 50);
-    EXPECT_EQ(std::ranges::count(wanted, ControlName("mnuPassword")), 2);
+    EXPECT_EQ(std::ranges::count(wanted, EffectKind::PasswordScript), 2);
     for (const int tab : {0, 1, 2})
         Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
     int buttons = 0;
@@ -108,9 +108,9 @@ TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
 
 TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffectAndOneWithoutAWizardSaysSo)
 {
-    std::vector<ControlName> wanted;
+    std::vector<EffectKind> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
-                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
+                     [&](EffectKind kind) { wanted.push_back(kind); });
     Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(2);
     QToolButton* button = ButtonOf(*FindRow(EffectKind::Sound));
     button->setFocus();
@@ -123,7 +123,7 @@ TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffectAndOneWithoutAWizardSaysSo)
     EXPECT_EQ(WordsOf(m_form, "lblNotYet"), u"");
     Press(*m_form.focusWidget(), Qt::Key_Return);
     Command("mnuClock")->trigger();
-    EXPECT_EQ(wanted, std::vector<ControlName>(2, "mnuClock"));
+    EXPECT_EQ(wanted, std::vector<EffectKind>(2, EffectKind::DigitalClock));
 }
 
 TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)
@@ -161,9 +161,9 @@ TEST_F(OVMainFormTest, ArrowsFollowTheGridAsItIsShown)
 
 TEST_F(OVMainFormTest, TypedLettersSearchAllTabsAndEscapeGivesThemBack)
 {
-    std::vector<ControlName> wanted;
+    std::vector<EffectKind> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
-                     [&](const EffectCommand& command) { wanted.push_back(command.Name); });
+                     [&](EffectKind kind) { wanted.push_back(kind); });
     auto* start = ButtonOf(*FindRow(EffectKind::AdvancedAnimator));
     start->setFocus();
     for (const Qt::Key key : {Qt::Key_C, Qt::Key_L, Qt::Key_O})
@@ -176,7 +176,7 @@ TEST_F(OVMainFormTest, TypedLettersSearchAllTabsAndEscapeGivesThemBack)
     Press(*m_form.focusWidget(), Qt::Key_Down);
     EXPECT_EQ(WordsOf(m_form, "Label3"), u"Digital Clock");
     Press(*m_form.focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(wanted, std::vector<ControlName>(2, "mnuClock"));
+    EXPECT_EQ(wanted, std::vector<EffectKind>(2, EffectKind::DigitalClock));
     Press(*m_form.focusWidget(), Qt::Key_Escape);
     EXPECT_TRUE(Find<QTabBar>(m_form, "TabStrip1")->isVisible());
     EXPECT_EQ(m_form.focusWidget(), start);

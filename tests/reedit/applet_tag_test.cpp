@@ -27,8 +27,7 @@ TEST(AppletTagTest, IsRecognisedWithAndWithoutQuotes)
         for (const TextView quote : {u"", u"\""}) {
             const Text tag = Join({u"<APPLET ARCHIVE=\"x.jar\" CODE=", quote, name, quote,
                                    u" WIDTH=\"1\"></APPLET>"});
-            EXPECT_EQ(RecognizeApplet(LettersBehindCode(tag).AppletTextAfterCODE), goes)
-                << ToUtf8(tag);
+            EXPECT_EQ(RecognizeApplet(TagOf(tag).AppletTextAfterCODE), goes) << ToUtf8(tag);
         }
 }
 
@@ -52,16 +51,14 @@ TEST(AppletTagTest, AQuoteMustStandBeforeFourLetters)
 
 TEST(AppletTagTest, ReadsTheLettersBehindTheFirstCode)
 {
-    EXPECT_EQ(LettersBehindCode(u"<APPLET CODE=AnimatePLUS28 CODE=Lake>"),
+    EXPECT_EQ(TagOf(u"<APPLET CODE=AnimatePLUS28 CODE=Lake>"),
               (AppletLetters{u"Anima", u"AnimateP"}));
-    EXPECT_EQ(LettersBehindCode(u"<APPLET CODE=\"Animate1.class\">"),
-              (AppletLetters{u"\"Anim", u"\"Animate"}));
-    EXPECT_EQ(LettersBehindCode(u"x CODE=Li"), (AppletLetters{u"Li", u"Li"}));
+    EXPECT_EQ(TagOf(u"<APPLET CODE=\"Animate1.class\">"), (AppletLetters{u"\"Anim", u"\"Animate"}));
+    EXPECT_EQ(TagOf(u"x CODE=Li"), (AppletLetters{u"Li", u"Li"}));
     // Without the key the letters from the fifth on are taken.
-    EXPECT_EQ(LettersBehindCode(u"code=\"Animate1.class\""),
-              (AppletLetters{u"=\"Ani", u"=\"Animat"}));
-    EXPECT_EQ(LettersBehindCode(u"1234Animate1"), (AppletLetters{u"Anima", u"Animate1"}));
-    EXPECT_EQ(LettersBehindCode(u"123"), (AppletLetters{}));
+    EXPECT_EQ(TagOf(u"code=\"Animate1.class\""), (AppletLetters{u"=\"Ani", u"=\"Animat"}));
+    EXPECT_EQ(TagOf(u"1234Animate1"), (AppletLetters{u"Anima", u"Animate1"}));
+    EXPECT_EQ(TagOf(u"123"), (AppletLetters{}));
 }
 
 TEST(PipeParseTest, CutsAtTheBarsAndOffTheLastCharacter)

@@ -181,7 +181,7 @@ TEST_F(VocabularyTest, AHintStandsBelowItsFieldAsLongAsItHolds)
         const auto* line = Find<QLabel>(m_window, "lblHint(txt)");
         EXPECT_EQ(line->text(), QStringLiteral("First"));
         EXPECT_GE(line->y(), box->geometry().bottom());
-        EXPECT_LE(line->geometry().bottom(), below->y());
+        EXPECT_LT(line->y() - box->geometry().bottom(), below->y() - line->geometry().bottom());
         EXPECT_EQ(box->accessibleDescription(), line->text());
         EXPECT_EQ(m_window.findChild<QLabel*>("lblHint(txtHidden)"), nullptr);
         EXPECT_TRUE(Find<QLabel>(m_window, "lblHint(lst)")->isVisible());
@@ -192,15 +192,36 @@ TEST_F(VocabularyTest, AHintStandsBelowItsFieldAsLongAsItHolds)
     }
 }
 
-TEST_F(VocabularyTest, AHiddenRowTakesItsLabelAlong)
+TEST_F(VocabularyTest, AHiddenRowTakesItsLabelAndItsRoomAlongAndLeavesTheOthersTheirs)
 {
-    QLineEdit* box = m_page.TextBox("txt", u"Text:", {}, u"pixels");
+    QLineEdit* boxes[] = {m_page.TextBox("txt", u"Text:", {}, u"pixels"),
+                          m_page.TextBox("txt1", u"Text:"), m_page.TextBox("txt2", u"Text:"),
+                          m_page.TextBox("txt3", u"Text:")};
+    m_page.Fill();
+    HintLines lines(m_window);
     Show();
-    ShowRow(box, false);
-    EXPECT_FALSE(box->isVisible());
-    EXPECT_FALSE(LabelOf(box)->isVisible());
-    ShowRow(box, true);
-    EXPECT_TRUE(LabelOf(box)->isVisible());
+    const auto gap = [&](int from, int to) {
+        LetRun();
+        return boxes[to]->y() - boxes[from]->geometry().bottom();
+    };
+    const int usual = gap(0, 1);
+    for (int time = 0; time < 2; ++time) {
+        ShowRow(boxes[0], false);
+        ShowRow(boxes[2], false);
+        EXPECT_FALSE(boxes[0]->isVisible() || LabelOf(boxes[0])->isVisible());
+        EXPECT_EQ(gap(1, 3), usual);
+        lines.Show({{"txt1", u"Some words that wrap"}});
+        EXPECT_GT(gap(1, 3), usual);
+        ShowRow(boxes[0], true);
+        LetRun();
+        EXPECT_EQ(boxes[1]->height(), boxes[3]->height());
+        EXPECT_EQ(boxes[0]->height(), boxes[3]->height());
+        lines.Show({});
+        EXPECT_EQ(gap(1, 3), usual);
+        ShowRow(boxes[2], true);
+        EXPECT_EQ(gap(2, 3), usual);
+        EXPECT_TRUE(LabelOf(boxes[0])->isVisible());
+    }
 }
 
 const std::vector<RowButton> rowButtons = {{RowCommand::Add, "cmdAdd", u"Add"},

@@ -20,48 +20,33 @@ protected:
         Click(m_form, "cmdBrowseForImage");
     }
 
-    /// The visible ones of the rows that come and go.
-    std::string Rows()
-    {
-        std::string rows;
-        for (const char* name : {"LinkOrColor", "ColorSwatch", "TargetFrame", "FrameCount",
-                                 "chkGradual", "SizeSlider", "RotationSlider"})
-            if (m_form.findChild<QWidget*>(name)->isVisibleTo(&m_form))
-                rows += std::string(name) + " ";
-        return rows;
-    }
-
     TestFolder m_folder;
 };
 
-TEST_F(ImageEffectsFormTest, EachEffectShowsItsRowsAndAnswersF1WithItsTopic)
+TEST_F(ImageEffectsFormTest, EachEffectAnswersF1WithItsTopicAndANewChoiceEmptiesWhatWasTyped)
 {
     const QSize size = m_form.size();
-    const auto expectMode = [&](const char* effect, const std::string& rows, const char* label,
-                                int topic) {
+    const auto expectMode = [&](const char* effect, int topic) {
         Pick(m_form, "EffectPicker", effect);
-        EXPECT_EQ(Rows(), rows) << effect;
-        EXPECT_EQ(LabelOf(Find<QWidget>(m_form, "ImageWidth"))->text().toStdString(), label);
         Click(m_form, "cmdClickHereForHelp");
         EXPECT_EQ(m_desk.Help.Shown.back(), topic);
         EXPECT_EQ(m_form.size(), size);
     };
-    expectMode("Lake Reflection", "LinkOrColor TargetFrame ", "Image Width:", 15);
+    expectMode("Lake Reflection", 15);
     Find<QComboBox>(m_form, "TargetFrame")->setEditText(QStringLiteral("_top"));
-    expectMode("Image Cube", "ColorSwatch SizeSlider RotationSlider ", "Applet Width:", 13);
+    expectMode("Image Cube", 13);
     m_desk.Dialogs.AnswerColor(0x030201);
     Click(m_form, "ColorSwatch");
     Find<QSlider>(m_form, "RotationSlider")->setValue(60);
     EXPECT_EQ(WordsBeside(Find<QWidget>(m_form, "SizeSlider"), 1)->text(), QStringLiteral("Small"));
-    expectMode("Image Ripple", "FrameCount SizeSlider ", "Image Width:", 14);
-    EXPECT_EQ(LabelOf(Find<QWidget>(m_form, "SizeSlider"))->text(), QStringLiteral("Ripple size:"));
-    expectMode("Image Brighten", "LinkOrColor chkGradual ", "Image Width:", 40);
+    expectMode("Image Ripple", 14);
+    expectMode("Image Brighten", 40);
     Browse(7, 8);
     Click(m_form, "chkGradual");
-    EXPECT_EQ(Rows(), "LinkOrColor chkGradual SizeSlider ");
+    EXPECT_TRUE(Find<QWidget>(m_form, "SizeSlider")->isVisible());
     EXPECT_EQ(Find<QSlider>(m_form, "SizeSlider")->maximum(), 15);
     EXPECT_EQ(m_form.Parameters().SizeSlider, 5);
-    expectMode("Image Brighten", "LinkOrColor chkGradual ", "Image Width:", 40);
+    expectMode("Image Brighten", 40);
     const ImageEffects emptied{.EffectPicker = u"Image Brighten",
                                .ColorSwatch =
                                    u"32,48,0", // five digits are shifted by their padding

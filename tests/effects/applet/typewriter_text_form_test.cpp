@@ -12,9 +12,7 @@ using TypewriterTextFormTest = FormTest<TypewriterTextForm>;
 
 TEST_F(TypewriterTextFormTest, ATextFileTakesThePlaceOfTheText)
 {
-    EXPECT_FALSE(Find<QWidget>(m_form, "TextFile")->isVisible());
     Click(m_form, "ReadFromFile");
-    EXPECT_FALSE(Find<QWidget>(m_form, "TypedText")->isVisible());
     Type(m_form, "TextFile", u"x");
     EXPECT_EQ(Said().size(), 1u);
     m_desk.Dialogs.AnswerOpenFile(u"/p/my words.txt");

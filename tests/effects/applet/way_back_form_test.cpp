@@ -17,12 +17,10 @@ void ExpectSameTagAfterDone(const Effect& effect)
 {
     FakeDesk desk;
     const Text tag = Generate(effect).BODYHTML;
-    desk.Core.PastedApplet = tag;
-    desk.Core.AppletTextAfterCODE = LettersBehindCode(tag).AppletTextAfterCODE;
-    desk.Core.AppletText = LettersBehindCode(tag).AppletText;
-    desk.Core.EditMode = true;
     Form form(desk.Bench);
+    form.Open(TagOf(tag));
     form.show();
+    EXPECT_FALSE(form.isWindowModified());
     EXPECT_NE(Generate(form.Parameters()).BODYHTML, tag);
     auto* line = Find<QWidget>(form, "lblTakeQuotesOff");
     ASSERT_TRUE(line != nullptr && line->isVisible());

@@ -27,7 +27,6 @@ TEST_F(AllInOneButtonFormTest, AnotherTypeAndANewEntryEmptyTheTexts)
     EXPECT_EQ(m_form.Parameters().txtURL, u"a.html");
     Click(m_form, "optButtonType(2)");
     EXPECT_EQ(m_form.Parameters().txtURL, u"");
-    EXPECT_EQ(WordsOf(m_form, "lblButtonText"), u"Image filename:");
     Type(m_form, "txtButtonText", u"x");
     EXPECT_EQ(m_desk.Dialogs.Said.size(), 1u);
     Click(m_form, "optButtonType(1)");

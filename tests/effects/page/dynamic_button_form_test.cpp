@@ -16,6 +16,7 @@ TEST(DynamicButtonFormTest, ThreePagesFromFreshToPayload)
     desk.Core.ImageFolderMemo = desk.Core.LastSoundFolder = desk.Core.LinkFolderMemo = u"/program";
     desk.Core.EditMode = true; // a pasted button opens the window and fills nothing
     DynamicButtonForm form(desk.Bench);
+    form.Open(PastedTag{u"<APPLET CODE=Button.class>"});
     EXPECT_FALSE(desk.Core.EditMode);
     form.show();
     const auto browse = [&](const char* button, Text path) {

@@ -2,7 +2,6 @@
 
 #include "tests/support/form_test.h"
 
-#include <QCheckBox>
 #include <QListWidget>
 
 namespace orvane::testing {
@@ -85,21 +84,6 @@ TEST_F(DigitalClockFormTest, ComesBackToItsLastPageWithAStepTooManyBehindIt)
     m_form.show();
     Click(m_form, "cmdPrevious");
     EXPECT_EQ(Heading(), u"Digital Clock - Step 4: Set Time format");
-}
-
-TEST_F(DigitalClockFormTest, TimeBeforeDateIsHiddenForTheTimeAloneAndKeepsItsTick)
-{
-    m_form.SetParameters({.optDateTime = ClockContent::DateAndTime,
-                          .lstDateTimeFormat = u"November 28",
-                          .chkShowTimeBeforeDate = true});
-    auto* box = Find<QCheckBox>(m_form, "chkShowTimeBeforeDate");
-    m_form.ChangePage(3);
-    EXPECT_TRUE(box->isVisible());
-    m_form.ChangePage(1);
-    Click(m_form, "optDateTime(1)");
-    Click(m_form, "cmdNext");
-    EXPECT_FALSE(box->isVisible());
-    EXPECT_TRUE(box->isChecked());
 }
 
 } // namespace

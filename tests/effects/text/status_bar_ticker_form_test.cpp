@@ -3,13 +3,14 @@
 #include "tests/support/form_test.h"
 
 #include <QPushButton>
+#include <QTest>
 
 namespace orvane::testing {
 namespace {
 
 using StatusBarTickerFormTest = FormTest<StatusBarTickerForm>;
 
-TEST_F(StatusBarTickerFormTest, AHintComesAndGoesWithAQuotationMarkAndStopsNothing)
+TEST_F(StatusBarTickerFormTest, AHintComesAndGoesStopsNothingAndWhatIsTypedIsKept)
 {
     auto* box = Find<QLineEdit>(m_form, "txtStatusBarText");
     Type(m_form, "txtStatusBarText", u"\"");
@@ -19,6 +20,7 @@ TEST_F(StatusBarTickerFormTest, AHintComesAndGoesWithAQuotationMarkAndStopsNothi
     LetRun();
     EXPECT_FALSE(Find<QLabel>(m_form, "lblHint(txtStatusBarText)")->isVisible());
     Type(m_form, "txtStatusBarText", u"\"");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_desk.Files.Contents.empty(); })) << "a draft";
     Click(m_form, "cmdDone");
     EXPECT_TRUE(m_form.TakePayload());
     EXPECT_TRUE(m_desk.Dialogs.Said.empty());
