@@ -2,7 +2,7 @@
 
 #include "windows/color_swatch.h"
 #include "windows/controls.h"
-#include "windows/image_list_panel.h"
+#include "windows/row_list_panel.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -31,10 +31,10 @@ void FieldWatch::Add(ControlName field)
     for (int i = 0; auto* option = m_window.findChild<QAbstractButton*>(MemberName(field, i)); ++i)
         watch(option, &QAbstractButton::toggled);
     auto* control = m_window.findChild<QWidget*>(ToQt(field));
-    auto* images = m_window.findChild<ImageListPanel*>();
-    if (images != nullptr && images->isAncestorOf(control)) {
-        watch(images, &ImageListPanel::RowsChanged);
-    } else if (auto* swatch = qobject_cast<ColorSwatch*>(control)) {
+    for (auto* outer = control; outer != nullptr; outer = outer->parentWidget())
+        if (auto* rows = qobject_cast<RowListPanel*>(outer))
+            return watch(rows, &RowListPanel::RowsChanged);
+    if (auto* swatch = qobject_cast<ColorSwatch*>(control)) {
         watch(swatch, &ColorSwatch::Picked);
         watch(swatch, &ColorSwatch::WasUnset);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
@@ -49,10 +49,6 @@ void FieldWatch::Add(ControlName field)
         watch(slider, &QSlider::valueChanged);
     } else if (auto* list = qobject_cast<QListWidget*>(control)) {
         watch(list, &QListWidget::itemSelectionChanged);
-        watch(list->model(), &QAbstractItemModel::rowsInserted);
-        watch(list->model(), &QAbstractItemModel::rowsRemoved);
-        watch(list->model(), &QAbstractItemModel::dataChanged);
-        watch(list->model(), &QAbstractItemModel::modelReset);
     }
 }
 
