@@ -23,8 +23,8 @@ struct BrowseRule
     /// the dialog starts where the request says, and nothing is stored.
     Text OrvaneCore::*Folder = nullptr;
     std::optional<FileRole> NoBlanks = {}; ///< refuses a blank in the name of such a file
-    Text* Source =
-        nullptr; ///< takes the path; one of the window's RequiredFileSources. May be null
+    /// Takes the path, as one of the window's RequiredFileSources does. May be null.
+    Text* Source = nullptr;
     /// Called first with the picked path; false refuses it. Null admits every path.
     std::function<bool(const Text& path)> Admits = {};
     /// Called with the path once the field holds the file's name. May be null.

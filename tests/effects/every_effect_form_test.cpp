@@ -61,7 +61,8 @@ template <HasFields Row>
 void Change(QWidget&, FieldName, std::vector<Row>& value)
 {
     value.resize(2);
-    for (Text text = oddText; Row & row : value) {
+    Text text(oddText);
+    for (Row& row : value) {
         ForEachField(row, [&](FieldName, Text& field) { field = text; });
         text = u"two\r\nlines";
     }
