@@ -17,8 +17,8 @@
 
 namespace orvane {
 
-CataloguePanel::CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings& settings)
-    : m_isBuilt(std::move(isBuilt)),
+CataloguePanel::CataloguePanel(std::function<bool(EffectKind)> hasWizard, Settings& settings)
+    : m_hasWizard(std::move(hasWizard)),
       m_settings(settings),
       m_head(new CatalogueHead),
       m_pages(new CataloguePages([this](ControlName group) { return MakerFor(group); }, settings)),
@@ -63,7 +63,7 @@ void CataloguePanel::AddKeys()
 ButtonMaker CataloguePanel::MakerFor(ControlName group)
 {
     return [this, group](const CatalogueRow& row) {
-        auto* button = new EffectButton(row, m_isBuilt(FindCommand(row.MenuCommand)->Kind),
+        auto* button = new EffectButton(row, m_hasWizard(FindCommand(row.MenuCommand)->Kind),
                                         MemberName(group, static_cast<int>(row.Kind)));
         button->installEventFilter(this);
         connect(button, &EffectButton::EffectWanted, this, &CataloguePanel::EffectWanted);

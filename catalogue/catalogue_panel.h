@@ -24,9 +24,9 @@ class CataloguePanel : public QWidget
     Q_OBJECT
 
 public:
-    /// `isBuilt` tells which effects have a wizard; `settings` store the favorites and the effects
-    /// used last, and must outlive the panel.
-    CataloguePanel(std::function<bool(EffectKind)> isBuilt, Settings& settings);
+    /// `hasWizard` tells which effects have a wizard; `settings` store the favorites and the
+    /// effects used last, and must outlive the panel.
+    CataloguePanel(std::function<bool(EffectKind)> hasWizard, Settings& settings);
 
 signals:
     /// The author wants to open the wizard of this effect, which has one.
@@ -48,7 +48,7 @@ private:
     void ShowMenu(EffectButton& button, const QPoint& place);
     void ToggleFavoriteOf(const EffectButton* button);
 
-    std::function<bool(EffectKind)> m_isBuilt;
+    std::function<bool(EffectKind)> m_hasWizard;
     Settings& m_settings;
     CatalogueHead* m_head;
     CataloguePages* m_pages;

@@ -82,8 +82,8 @@ QPainterPath Star(QPointF middle, double radius)
 
 } // namespace
 
-EffectButton::EffectButton(const CatalogueRow& row, bool isBuilt, const QString& name)
-    : m_row(row), m_isBuilt(isBuilt)
+EffectButton::EffectButton(const CatalogueRow& row, bool hasWizard, const QString& name)
+    : m_row(row), m_hasWizard(hasWizard)
 {
     setObjectName(name);
     setAccessibleName(ToQt(row.Title));
@@ -130,7 +130,7 @@ void EffectButton::paintEvent(QPaintEvent*)
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    if (!m_isBuilt) {
+    if (!m_hasWizard) {
         option.icon = Dimmed(icon().pixmap(iconSize(), devicePixelRatioF()), palette());
         const QColor words =
             Mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.65);
@@ -149,7 +149,7 @@ void EffectButton::paintEvent(QPaintEvent*)
 
 void EffectButton::Open()
 {
-    if (m_isBuilt)
+    if (m_hasWizard)
         emit EffectWanted(FindCommand(m_row.MenuCommand)->Kind);
     else
         QToolTip::showText(mapToGlobal(rect().center()), ToQt(notYetAvailable), this);
@@ -158,7 +158,7 @@ void EffectButton::Open()
 void EffectButton::Describe()
 {
     const QString star = m_isFavorite ? QStringLiteral("Favorite. ") : QString();
-    const QString state = m_isBuilt ? QString() : ToQt(notYetAvailable) + u' ';
+    const QString state = m_hasWizard ? QString() : ToQt(notYetAvailable) + u' ';
     setAccessibleDescription(star + state + ToQt(m_row.Description));
 }
 

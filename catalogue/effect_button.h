@@ -17,10 +17,10 @@ class EffectButton : public QToolButton
 
 public:
     /// `name` is the object name; `row` must outlive the button.
-    EffectButton(const CatalogueRow& row, bool isBuilt, const QString& name);
+    EffectButton(const CatalogueRow& row, bool hasWizard, const QString& name);
 
     const CatalogueRow& Row() const { return m_row; }
-    bool IsBuilt() const { return m_isBuilt; }
+    bool HasWizard() const { return m_hasWizard; }
     bool IsFavorite() const { return m_isFavorite; }
     /// Shows or removes the star.
     void SetFavorite(bool isFavorite);
@@ -43,7 +43,7 @@ private:
     void Describe();
 
     const CatalogueRow& m_row;
-    bool m_isBuilt;
+    bool m_hasWizard;
     bool m_isFavorite = false;
 };
 

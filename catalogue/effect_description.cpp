@@ -54,7 +54,7 @@ EffectDescription::EffectDescription()
 
 void EffectDescription::Show(const EffectButton* button)
 {
-    const bool isMissing = button != nullptr && !button->IsBuilt();
+    const bool isMissing = button != nullptr && !button->HasWizard();
     Label3->setText(button == nullptr ? QString() : ToQt(button->Row().Title));
     m_notYet->setText(isMissing ? ToQt(notYetAvailable) : QString());
     Label2->setText(button == nullptr ? QString() : ToQt(button->Row().Description));

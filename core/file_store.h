@@ -102,7 +102,7 @@ public:
 
     /// Locks the folder until the result is destroyed: another program that calls this for the same
     /// folder waits until then, but a second at most. Null when the folder cannot be locked.
-    [[nodiscard]] virtual std::shared_ptr<const void> Hold(TextView folder) = 0;
+    [[nodiscard]] virtual std::shared_ptr<const void> LockFolder(TextView folder) = 0;
 
     /// The names of the files in a folder, links to files included, sorted ignoring case; empty
     /// when it cannot be read.

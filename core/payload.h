@@ -69,7 +69,8 @@ struct FinishedPayload
     bool NeedsFiles = false; ///< files must be published with the page
     bool ScriptedHelp = false;
     bool ReplaceInBody = false;
-    bool RunsToday = false; ///< the author wants the page script for today's browsers beside it
+    bool WantsPageScript =
+        false; ///< the author wants the page script for today's browsers beside it
     bool operator==(const FinishedPayload&) const = default;
 };
 

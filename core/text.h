@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/letters.h"
+#include "core/letter_case.h"
 #include "core/utf8.h"
 
 #include <cstddef>

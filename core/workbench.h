@@ -28,7 +28,7 @@ struct Workbench
     PreviewPane& Pane;
     HelpViewer& Help;
     Text Version;                               ///< of this program, such as "1.0.0"
-    Text StateFolder;                           ///< the user's folder for drafts and kept pages
+    Text StateFolder;                           ///< the user's folder for drafts and backups
     std::function<Text()> Today;                ///< gives the date, such as "2024-05-31"
     std::function<double()> Clock;              ///< gives the time, as in Surroundings
     std::optional<Text> PlatformBrowserVersion; ///< nothing where no registry can be asked

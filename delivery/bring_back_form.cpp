@@ -70,7 +70,7 @@ BringBackForm::BringBackForm(Workbench& bench, TextView page, QWidget* parent)
 void BringBackForm::BrowseForPage()
 {
     if (const auto path = m_bench.Dialogs.OpenFile(ExistingPageRequest())) {
-        m_page = PageOfBackup(m_bench.Files, Kept(), *path);
+        m_page = PageOfBackup(m_bench.Files, Place(), *path);
         ShowBackups();
     }
 }
@@ -79,7 +79,7 @@ void BringBackForm::ShowBackups()
 {
     txtPage->setText(ToQt(m_page));
     m_backups =
-        m_page.empty() ? std::vector<PageBackup>() : BackupsOf(m_bench.Files, Kept(), m_page);
+        m_page.empty() ? std::vector<PageBackup>() : BackupsOf(m_bench.Files, Place(), m_page);
     const auto page = m_bench.Files.Facts(m_page);
     lstBackups->clear();
     for (const PageBackup& backup : m_backups) {
@@ -111,7 +111,7 @@ void BringBackForm::ShowBackups()
     first->setFocus();
 }
 
-void BringBackForm::Take()
+void BringBackForm::Accept()
 {
     const int row = lstBackups->indexOfTopLevelItem(lstBackups->currentItem());
     if (row < 0)
@@ -122,7 +122,7 @@ void BringBackForm::Take()
     if (isThere && !m_bench.Dialogs.Ask(Join(
                        {u"Do you want to replace ", m_page, u" by its backup of ", date, u"?"})))
         return;
-    if (!orvane::BringBack(m_bench.Files, m_bench.Dialogs, m_page, backup.Path, Kept()))
+    if (!orvane::BringBack(m_bench.Files, m_bench.Dialogs, m_page, backup.Path, Place()))
         return ShowBackups();
     m_bench.Dialogs.Say(
         Join({u"Your Web page holds the backup of ", date, u" again.",
@@ -131,9 +131,9 @@ void BringBackForm::Take()
     accept();
 }
 
-KeptPagesPlace BringBackForm::Kept() const
+BackupsPlace BringBackForm::Place() const
 {
-    return KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    return BackupsPlaceIn(m_bench.StateFolder, m_bench.Today());
 }
 
 } // namespace orvane

@@ -25,12 +25,12 @@ public:
     const std::optional<Text>& BroughtBack() const { return m_broughtBack; }
 
 protected:
-    void Take() override;
+    void Accept() override;
 
 private:
     void BrowseForPage();
     void ShowBackups();
-    KeptPagesPlace Kept() const;
+    BackupsPlace Place() const;
 
     Text m_page;
     std::vector<PageBackup> m_backups;

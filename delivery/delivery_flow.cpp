@@ -73,11 +73,11 @@ PageWords WordsOf(std::int16_t page, InsertMode mode)
 DeliveryFacts FactsOf(const FinishedPayload& payload, bool isEditorKnown)
 {
     const EffectPayload& effect = payload.Effect;
-    return {.HasHead = !effect.HEADHTML.empty() || payload.RunsToday,
+    return {.HasHead = !effect.HEADHTML.empty() || payload.WantsPageScript,
             .HasBody = !effect.BODYHTML.empty(),
             .HasEvents = !effect.OnLoadFunc.empty() || !effect.OnUnloadFunc.empty(),
             .HasAttribute = !payload.BODYAttribute.empty(),
-            .NeedsFiles = payload.NeedsFiles || payload.RunsToday,
+            .NeedsFiles = payload.NeedsFiles || payload.WantsPageScript,
             .IsEditorKnown = isEditorKnown};
 }
 

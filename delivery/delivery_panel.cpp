@@ -11,30 +11,30 @@ namespace orvane {
 
 namespace {
 
-std::array<CodePanel*, 3> MakeCodePanels(Workbench& bench, const CopyDesk& desk)
+std::array<CodePanel*, 3> MakeCodePanels(Workbench& bench, const CopyJob& job)
 {
-    const FinishedPayload& payload = desk.Payload;
+    const FinishedPayload& payload = job.Payload;
     const CodePanel::Words head{"lblNeedHelp(0)", "txtHEADHTML", "cmdCopyHEADHTML", u"HEAD", {}};
     const CodePanel::Words body{"lblNeedHelp(1)", "txtBODYHTML", "cmdcopyBODYHTML", u"BODY", {}};
     const CodePanel::Words attribute{"lblNeedHelp(2)", "txtBODYAttribute", "cmdCopyBODYAttrib",
                                      u"BODY attribute",
                                      Join({u"For example:  <BODY", payload.BODYAttribute, u">"})};
-    return {new CodePanel(bench, head, payload.Effect.HEADHTML, desk.Report),
-            new CodePanel(bench, body, payload.Effect.BODYHTML, desk.Report),
-            new CodePanel(bench, attribute, payload.BODYAttribute, desk.Report)};
+    return {new CodePanel(bench, head, payload.Effect.HEADHTML, job.Report),
+            new CodePanel(bench, body, payload.Effect.BODYHTML, job.Report),
+            new CodePanel(bench, attribute, payload.BODYAttribute, job.Report)};
 }
 
 } // namespace
 
-DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder,
+DeliveryPanels::DeliveryPanels(Workbench& bench, const CopyJob& job, MakeFolderWindow makeFolder,
                                PickedFileFinder pickedFile)
     : Editor(new EditorPanel),
       Method(new MethodPanel),
-      Insert(new InsertPanel(bench, desk)),
-      Codes(MakeCodePanels(bench, desk)),
-      Publish(new PublishPanel(desk, bench.Settings, std::move(makeFolder))),
+      Insert(new InsertPanel(bench, job)),
+      Codes(MakeCodePanels(bench, job)),
+      Publish(new PublishPanel(job, bench.Settings, std::move(makeFolder))),
       Ftp(new FtpPanel(bench.Settings)),
-      Finish(new FinishPanel(bench, desk, std::move(pickedFile)))
+      Finish(new FinishPanel(bench, job, std::move(pickedFile)))
 {
 }
 

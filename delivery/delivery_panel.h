@@ -15,9 +15,9 @@ class MethodPanel;
 /// The panels of all pages of the delivery wizard that come after the preview.
 struct DeliveryPanels
 {
-    /// Makes the panels, each without a parent yet. Bench and what the desk refers to must outlive
+    /// Makes the panels, each without a parent yet. Bench and what the job refers to must outlive
     /// the panels.
-    DeliveryPanels(Workbench& bench, const CopyDesk& desk, MakeFolderWindow makeFolder,
+    DeliveryPanels(Workbench& bench, const CopyJob& job, MakeFolderWindow makeFolder,
                    PickedFileFinder pickedFile);
 
     /// All panels in the order of their indexes, which begin with 1: 0 is the preview.

@@ -25,7 +25,7 @@ std::vector<Text> FilesToUpload(const FinishedPayload& payload)
         AddNonEmpty(list, payload.Effect.SupportFiles);
     if (!payload.NeedsFiles)
         list.emplace_back(noRequiredFiles);
-    if (payload.RunsToday) {
+    if (payload.WantsPageScript) {
         std::erase(list, noRequiredFiles);
         list.emplace_back(pageScriptFile);
     }

@@ -22,24 +22,24 @@ constexpr int folderRole = Qt::UserRole + 1;
 
 } // namespace
 
-FinishPanel::FinishPanel(Workbench& bench, const CopyDesk& desk, PickedFileFinder pickedFile)
-    : m_bench(bench), m_desk(desk), m_pickedFile(std::move(pickedFile))
+FinishPanel::FinishPanel(Workbench& bench, const CopyJob& job, PickedFileFinder pickedFile)
+    : m_bench(bench), m_job(job), m_pickedFile(std::move(pickedFile))
 {
     PageBuilder page(this);
     lblReport = page.Note({}, "lblReport");
     cmdRunsToday = page.Button("cmdRunsToday", u"&Make it run in today's browsers",
                                u"Lets your Web page use Orvane's page script, orvane.js");
     connect(cmdRunsToday, &QPushButton::clicked, this,
-            [this] { emit RunsTodayWanted(PagesWithoutScript(m_desk.Payload, m_pages)); });
+            [this] { emit PageScriptWanted(PagesWithoutScript(m_job.Payload, m_pages)); });
     cmdOpenPage = page.Button("cmdOpenPage", u"&Open page");
     connect(cmdOpenPage, &QPushButton::clicked, this,
-            [this] { m_bench.Shell.OpenWithShell(m_desk.Report.Page()); });
+            [this] { m_bench.Shell.OpenWithShell(m_job.Report.Page()); });
     cmdOpenFolder = page.Button("cmdOpenFolder", u"Open &folder");
     connect(cmdOpenFolder, &QPushButton::clicked, this,
-            [this] { m_bench.Shell.OpenWithShell(m_desk.Report.Folder()); });
+            [this] { m_bench.Shell.OpenWithShell(m_job.Report.Folder()); });
     cmdBringBack = page.Button("cmdBringBack", u"&Bring back earlier version...");
     connect(cmdBringBack, &QPushButton::clicked, this,
-            [this] { emit BringBackWanted(m_desk.Report.Page()); });
+            [this] { emit BringBackWanted(m_job.Report.Page()); });
     page.Buttons({cmdRunsToday});
     page.Buttons({cmdOpenPage, cmdOpenFolder, cmdBringBack});
     AddPageFiles(page);
@@ -69,7 +69,7 @@ void FinishPanel::AddUploads(PageBuilder& page)
                      u"If you wish to upload your special effect to the Web, you must "
                      u"also upload the following files:",
                      {});
-    ListFiles(FilesToUpload(m_desk.Payload));
+    ListFiles(FilesToUpload(m_job.Payload));
     auto* link = new LinkLabel("lblClickHere", u"click here.");
     connect(link, &LinkLabel::Followed, this,
             [this] { m_bench.Help.ShowTopic(help_topics::transfer); });
@@ -79,23 +79,23 @@ void FinishPanel::AddUploads(PageBuilder& page)
 
 void FinishPanel::PageShown()
 {
-    const DeliveryReport& report = m_desk.Report;
-    m_pages = LookAtPages(report, m_desk.Payload, m_bench.Files);
-    QString lines = ToQt(Listed(ReportLines(report, m_desk.Payload, m_pages), u"\n"));
+    const DeliveryReport& report = m_job.Report;
+    m_pages = LookAtPages(report, m_job.Payload, m_bench.Files);
+    QString lines = ToQt(Listed(ReportLines(report, m_job.Payload, m_pages), u"\n"));
     // Long paths go on in the next line.
     lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
-    cmdRunsToday->setVisible(!PagesWithoutScript(m_desk.Payload, m_pages).empty());
+    cmdRunsToday->setVisible(!PagesWithoutScript(m_job.Payload, m_pages).empty());
     cmdOpenPage->setVisible(!report.Page().empty());
     cmdOpenFolder->setVisible(!report.Folder().empty());
-    const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    const BackupsPlace place = BackupsPlaceIn(m_bench.StateFolder, m_bench.Today());
     cmdBringBack->setVisible(!report.Page().empty() &&
-                             !BackupsOf(m_bench.Files, kept, report.Page()).empty());
+                             !BackupsOf(m_bench.Files, place, report.Page()).empty());
     ListPageFiles();
     // Who took the effect back has nothing to upload.
     m_uploads->setVisible(report.PagesBroughtBack().empty() || report.HasDelivered());
     lstFilesToUpload->clear();
-    ListFiles(FilesToUpload(m_desk.Payload));
-    ListFiles(ListedFiles(m_desk.Payload));
+    ListFiles(FilesToUpload(m_job.Payload));
+    ListFiles(ListedFiles(m_job.Payload));
 }
 
 void FinishPanel::ListPageFiles()
@@ -143,7 +143,7 @@ void FinishPanel::CopySelected()
         return;
     const Text name = FromQt(row->data(nameRole).toString());
     const Text folder = FromQt(row->data(folderRole).toString());
-    Text source = m_desk.SourceOf(name);
+    Text source = m_job.SourceOf(name);
     if (!m_bench.Files.FileExists(source))
         source = m_pickedFile ? m_pickedFile(Text(GetFileName(name))).value_or(Text()) : Text();
     if (!m_bench.Files.FileExists(source)) {
@@ -154,7 +154,7 @@ void FinishPanel::CopySelected()
             return;
         source = *picked;
     }
-    CopyHere(m_desk, source, folder, name);
+    CopyHere(m_job, source, folder, name);
     PageShown();
 }
 

@@ -28,8 +28,8 @@ class FinishPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// Bench and what the desk refers to must outlive the panel.
-    FinishPanel(Workbench& bench, const CopyDesk& desk, PickedFileFinder pickedFile);
+    /// Bench and what the job refers to must outlive the panel.
+    FinishPanel(Workbench& bench, const CopyJob& job, PickedFileFinder pickedFile);
 
     /// Called when the page is shown or something was done: looks at the disk, and shows what is
     /// so, the buttons that apply and the files to upload anew.
@@ -39,7 +39,7 @@ signals:
     /// The author wants an earlier version of the page with this full path.
     void BringBackWanted(const orvane::Text& page);
     /// The author wants the page script in the pages of these full paths.
-    void RunsTodayWanted(const std::vector<orvane::Text>& pages);
+    void PageScriptWanted(const std::vector<orvane::Text>& pages);
 
 private:
     void AddPageFiles(PageBuilder& page);
@@ -51,7 +51,7 @@ private:
     void CopySelected();
 
     Workbench& m_bench;
-    const CopyDesk m_desk;
+    const CopyJob m_job;
     const PickedFileFinder m_pickedFile;
     std::vector<DeliveredPage> m_pages; ///< as they were when the disk was looked at last
     QLabel* lblReport;

@@ -17,7 +17,7 @@
 
 namespace orvane {
 
-InsertPanel::InsertPanel(Workbench& bench, const CopyDesk& desk) : m_bench(bench), m_desk(desk)
+InsertPanel::InsertPanel(Workbench& bench, const CopyJob& job) : m_bench(bench), m_job(job)
 {
     PageBuilder page(this);
     lblAutoStep1 = page.Note({}, "lblAutoStep1");
@@ -96,9 +96,9 @@ void InsertPanel::TakePage(const Text& path)
     cmdAutoInsert->setFocus();
 }
 
-void InsertPanel::WriteDown(const Text& page)
+void InsertPanel::NotePage(const Text& page)
 {
-    m_desk.Report.PageWritten(page);
+    m_job.Report.PageWritten(page);
     PutRecentFile(m_bench.Settings, recentPages, page);
 }
 
@@ -108,15 +108,15 @@ void InsertPanel::InsertIntoPage()
     if (const auto complaint = CheckPageName(name))
         return emit Complained(*complaint);
     const Text page = PagePath(name, FromQt(QDir::currentPath()));
-    const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
-    switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_desk.Payload, kept)) {
+    const BackupsPlace place = BackupsPlaceIn(m_bench.StateFolder, m_bench.Today());
+    switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_job.Payload, place)) {
     case AutoInsertion::NothingDone:
         return;
     case AutoInsertion::Manual:
         return emit ManualWanted();
     case AutoInsertion::Inserted:
         m_insertedInto = page;
-        WriteDown(page);
+        NotePage(page);
         // What is missing was told; the last page comes all the same.
         if (CopyFiles(FolderOf(page)))
             emit Delivered();
@@ -130,12 +130,12 @@ void InsertPanel::SaveWebPage()
         return;
     const Done saved = [&] {
         const WaitCursor wait;
-        return SaveHTMLtoFile(m_bench.Files, *path, m_desk.Payload);
+        return SaveHTMLtoFile(m_bench.Files, *path, m_job.Payload);
     }();
     if (const Fault* fault = FaultIn(saved))
         return m_bench.Dialogs.Say(Words(*fault));
     m_savedAs = *path;
-    WriteDown(*path);
+    NotePage(*path);
     const Text folder(FolderOf(*path));
     const auto isAllThere = CopyFiles(folder);
     if (!isAllThere)
@@ -148,7 +148,7 @@ void InsertPanel::SaveWebPage()
 
 std::optional<bool> InsertPanel::CopyFiles(TextView folder)
 {
-    const auto copied = CopyRequiredFiles(m_desk, folder);
+    const auto copied = CopyRequiredFiles(m_job, folder);
     const Fault* fault = FaultIn(copied);
     if (fault == nullptr)
         return ValueIn(copied).empty();

@@ -20,8 +20,8 @@ class InsertPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// Bench and what the desk refers to must outlive the panel.
-    InsertPanel(Workbench& bench, const CopyDesk& desk);
+    /// Bench and what the job refers to must outlive the panel.
+    InsertPanel(Workbench& bench, const CopyJob& job);
 
     /// Called when the page is shown: shows the controls for a new page or for an existing one.
     void PageShown(bool isNewPage);
@@ -49,7 +49,7 @@ private:
     void BrowseForPage();
     void TakePage(const Text& path);
     /// Notes the written page in the report and among the recent pages.
-    void WriteDown(const Text& page);
+    void NotePage(const Text& page);
     void InsertIntoPage();
     void SaveWebPage();
     /// Copies the files that the page needs; true when all are there. Nothing when a fault ended
@@ -57,7 +57,7 @@ private:
     std::optional<bool> CopyFiles(TextView folder);
 
     Workbench& m_bench;
-    const CopyDesk m_desk;
+    const CopyJob m_job;
     Text m_insertedInto; ///< full path of the page, while `txtFileName` names it
     Text m_savedAs;      ///< full path of the new page
 

@@ -26,7 +26,7 @@ MakeDirForm::MakeDirForm(Workbench& bench, TextView folder, QWidget* parent)
     resize(440, 380);
 }
 
-void MakeDirForm::Take()
+void MakeDirForm::Accept()
 {
     const MakeDirEnd end = MakeDirEnter(m_boxes->MarkedFolder(), FromQt(txtFolder->text()),
                                         m_bench.Files, m_bench.Dialogs);

@@ -21,7 +21,7 @@ public:
     const std::optional<Text>& NewFolder() const { return m_newFolder; }
 
 private:
-    void Take() override;
+    void Accept() override;
 
     FolderBoxes* m_boxes;
     QLineEdit* txtFolder;

@@ -10,7 +10,7 @@ namespace orvane {
 /// the author which were copied; their names are taken off `missing`. With none selected the author
 /// is told to select one. Stops when the author cancels; any other fault of a file is told and
 /// skips it.
-void ManualCopy(const CopyDesk& desk, TextView fromFolder, TextView toFolder,
+void ManualCopy(const CopyJob& job, TextView fromFolder, TextView toFolder,
                 const std::vector<Text>& selected, MissingFiles& missing);
 
 } // namespace orvane

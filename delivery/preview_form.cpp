@@ -44,9 +44,9 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     const bool isWanted = bench.Settings.Get(settingKeys::runsToday) == u"1";
-    m_payload.RunsToday = isWanted && !RowOf(effect.Kind).RunsByItself;
+    m_payload.WantsPageScript = isWanted && !RowOf(effect.Kind).RunsByItself;
     m_preview = new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), isWanted});
-    connect(m_preview, &PreviewPanel::RunsTodayChosen, this, &PreviewForm::ChooseRunsToday);
+    connect(m_preview, &PreviewPanel::PageScriptChosen, this, &PreviewForm::ChoosePageScript);
     connect(m_preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
     AddPanelOf(0, m_preview);
     AddButtons(Buttons::Paged, "cmdHelp");
@@ -75,11 +75,11 @@ void PreviewForm::AddPanelOf(int index, QWidget* content)
     PageBuilder(AddPanel(MemberName("Picture1", index))).Fill(content);
 }
 
-void PreviewForm::NeedPanels()
+void PreviewForm::BuildPanels()
 {
     if (m_panels)
         return;
-    m_panels.emplace(m_bench, Desk(), m_windows.MakeFolder, m_windows.PickedFile);
+    m_panels.emplace(m_bench, Job(), m_windows.MakeFolder, m_windows.PickedFile);
     int index = 0;
     for (QWidget* panel : m_panels->InOrder())
         AddPanelOf(++index, panel);
@@ -107,14 +107,14 @@ void PreviewForm::ConnectPanels()
         }
         ShowFinishAnew();
     });
-    connect(m_panels->Finish, &FinishPanel::RunsTodayWanted, this, &PreviewForm::MakeRunToday);
+    connect(m_panels->Finish, &FinishPanel::PageScriptWanted, this, &PreviewForm::AddPageScript);
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);
                 cmdNext->setVisible(controls.cmdNext);
             });
     connect(m_panels->Publish, &PublishPanel::DefaultButtonChanged, this,
-            [this] { LeadEnterTo(m_panels->Publish->DefaultButton()); });
+            [this] { SetEnterButton(m_panels->Publish->DefaultButton()); });
     connect(m_panels->Publish, &PublishPanel::CopyingDone, this,
             [this] { FinishCopying(DoneCopying(Facts().HasHead)); });
     connect(m_panels->Publish, &PublishPanel::PreviewWanted, this,
@@ -132,7 +132,7 @@ void PreviewForm::showEvent(QShowEvent* event)
 
 void PreviewForm::Next()
 {
-    NeedPanels();
+    BuildPanels();
     if (Mode() == InsertMode::ManualCopy)
         m_panels->OfferEditorHelp(m_bench.Settings, m_payload.ScriptedHelp);
     ChangePage(NextStep(m_step, Mode(), Facts()));
@@ -155,7 +155,7 @@ void PreviewForm::ChangePage(DeliveryStep step)
     }
     const DeliveryPage page = DescribePage(step, Mode());
     ShowPage(page, page.Panel);
-    LeadEnterTo(nullptr);
+    SetEnterButton(nullptr);
     switch (step.PageStep) {
     case 2:
         m_panels->Editor->PageShown();
@@ -165,11 +165,11 @@ void PreviewForm::ChangePage(DeliveryStep step)
         m_panels->Method->PageShown();
         break;
     case 4:
-        LeadEnterTo(m_panels->Insert->DefaultButton(Mode() == InsertMode::NewPage));
+        SetEnterButton(m_panels->Insert->DefaultButton(Mode() == InsertMode::NewPage));
         m_panels->Insert->PageShown(Mode() == InsertMode::NewPage);
         break;
     case 5:
-        m_panels->Codes[0]->ShowPageScript(m_payload.RunsToday);
+        m_panels->Codes[0]->ShowPageScript(m_payload.WantsPageScript);
         cmdPrevious->setEnabled(true);
         break;
     case 8:
@@ -193,7 +193,7 @@ void PreviewForm::ShowPage(const DeliveryPage& page, int panel)
                                                : QStringLiteral("<< &Previous"));
 }
 
-void PreviewForm::LeadEnterTo(QPushButton* action)
+void PreviewForm::SetEnterButton(QPushButton* action)
 {
     const bool isOnTheWayBack = cmdPrevious->hasFocus() && action == nullptr;
     if (action == nullptr)
@@ -207,7 +207,7 @@ void PreviewForm::ShowFinish()
 {
     cmdNext->setEnabled(false);
     cmdCancel->setText(QStringLiteral("&Done"));
-    LeadEnterTo(cmdCancel);
+    SetEnterButton(cmdCancel);
     m_panels->Finish->PageShown();
 }
 
@@ -221,22 +221,22 @@ void PreviewForm::Preview(PreviewMode mode)
         m_windows.ShowOptions();
 }
 
-void PreviewForm::ChooseRunsToday(bool isWanted)
+void PreviewForm::ChoosePageScript(bool isWanted)
 {
-    m_payload.RunsToday = isWanted && !RowOf(m_payload.Effect.Kind).RunsByItself;
+    m_payload.WantsPageScript = isWanted && !RowOf(m_payload.Effect.Kind).RunsByItself;
     m_bench.Settings.Put(settingKeys::runsToday, isWanted ? u"1" : u"0");
     Preview(PreviewMode::Inline);
 }
 
-void PreviewForm::MakeRunToday(const std::vector<Text>& pages)
+void PreviewForm::AddPageScript(const std::vector<Text>& pages)
 {
-    m_payload.RunsToday = true;
+    m_payload.WantsPageScript = true;
     m_bench.Settings.Put(settingKeys::runsToday, u"1");
-    m_preview->CheckRunsToday();
-    const KeptPagesPlace kept = KeptPagesIn(m_bench.StateFolder, m_bench.Today());
+    m_preview->CheckPageScript();
+    const BackupsPlace place = BackupsPlaceIn(m_bench.StateFolder, m_bench.Today());
     for (const Text& page : pages)
-        if (InsertPageScript(m_bench.Files, m_bench.Dialogs, page, m_payload, kept))
-            CopyPageScriptTo(Desk(), FolderOf(page));
+        if (InsertPageScript(m_bench.Files, m_bench.Dialogs, page, m_payload, place))
+            CopyPageScriptTo(Job(), FolderOf(page));
     ShowFinishAnew();
 }
 
@@ -244,20 +244,20 @@ void PreviewForm::ShowFinishAnew()
 {
     m_panels->Finish->PageShown();
     // The control that had the focus may be gone.
-    LeadEnterTo(cmdCancel);
+    SetEnterButton(cmdCancel);
 }
 
 void PreviewForm::BeginPreview()
 {
-    const MissingFiles missing = CopyRequiredFilesForPreview(Desk());
+    const MissingFiles missing = CopyRequiredFilesForPreview(Job());
     if (missing.empty()) {
         Preview(PreviewMode::Inline);
         // While the engine loads the page there is time to build the others.
-        QTimer::singleShot(0, this, &PreviewForm::NeedPanels);
+        QTimer::singleShot(0, this, &PreviewForm::BuildPanels);
         return;
     }
     SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);
-    NeedPanels();
+    BuildPanels();
     ShowPanel(publishPanel);
     m_panels->Publish->FindMissing(PublishMode::MissingForPreview, missing,
                                    m_bench.Core.ProgramFolder);
@@ -273,7 +273,7 @@ void PreviewForm::FinishCopying(const AfterCopying& after)
     cmdPrevious->setEnabled(after.IsPreviousEnabled);
     cmdCancel->setText(ToQt(after.CancelCaption));
     m_panels->Finish->PageShown();
-    LeadEnterTo(after.IsNextEnabled ? cmdNext : cmdCancel);
+    SetEnterButton(after.IsNextEnabled ? cmdNext : cmdCancel);
     if (after.IsPreviewed)
         Preview(PreviewMode::Inline);
 }
@@ -292,7 +292,7 @@ void PreviewForm::GoOnTo(std::int16_t page)
     ChangePage(m_step);
 }
 
-CopyDesk PreviewForm::Desk()
+CopyJob PreviewForm::Job()
 {
     return {m_payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, m_report};
 }

@@ -60,25 +60,25 @@ protected:
 private:
     /// Adds the pages after the preview, unless they are there. They are built only after the
     /// preview was shown, so that it appears sooner.
-    void NeedPanels();
+    void BuildPanels();
     void ConnectPanels();
     void AddPanelOf(int index, QWidget* content);
 
     void ChangePage(DeliveryStep step);
     void ShowPage(const DeliveryPage& page, int panel);
     /// Makes this button the one that Enter presses, and gives it the focus; null means "Next".
-    void LeadEnterTo(QPushButton* action);
+    void SetEnterButton(QPushButton* action);
     void ShowFinish();
     void ShowFinishAnew();
-    void ChooseRunsToday(bool isWanted);
+    void ChoosePageScript(bool isWanted);
     /// Puts the page script into pages that were written without it.
-    void MakeRunToday(const std::vector<Text>& pages);
+    void AddPageScript(const std::vector<Text>& pages);
     void BeginPreview();
     void Preview(PreviewMode mode);
     void FinishCopying(const AfterCopying& after);
     void InsertByHand();
     void GoOnTo(std::int16_t page);
-    CopyDesk Desk();
+    CopyJob Job();
     InsertMode Mode() const;
     DeliveryFacts Facts() const;
 
@@ -90,7 +90,7 @@ private:
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;
     bool m_isPreviewed = false;
-    std::optional<DeliveryPanels> m_panels; ///< nothing until NeedPanels()
+    std::optional<DeliveryPanels> m_panels; ///< nothing until BuildPanels()
 };
 
 } // namespace orvane

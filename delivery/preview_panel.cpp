@@ -19,8 +19,8 @@ PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(
     page.Note(today.Sentence, "lblRunsToday")->setVisible(!today.Sentence.empty());
     chkRunsToday = page.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
                                  u"Lets your Web page use Orvane's page script, orvane.js");
-    chkRunsToday->setChecked(today.RunsToday);
-    connect(chkRunsToday, &QCheckBox::toggled, this, &PreviewPanel::RunsTodayChosen);
+    chkRunsToday->setChecked(today.WantsPageScript);
+    connect(chkRunsToday, &QCheckBox::toggled, this, &PreviewPanel::PageScriptChosen);
     QPushButton* preview = page.Button("cmdPreview1", u"Preview in &Browser");
     connect(preview, &QPushButton::clicked, this,
             [this] { emit PreviewWanted(PreviewMode::Browser1); });
@@ -30,7 +30,7 @@ PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(
     page.Buttons({preview, refresh});
 }
 
-void PreviewPanel::CheckRunsToday()
+void PreviewPanel::CheckPageScript()
 {
     const QSignalBlocker blocker(chkRunsToday);
     chkRunsToday->setChecked(true);

@@ -18,8 +18,8 @@ public:
     /// What the page tells about today's browsers, and its check box for the page script.
     struct TodaysBrowsers
     {
-        Text Sentence;  ///< empty for none
-        bool RunsToday; ///< whether the box is checked at first
+        Text Sentence;        ///< empty for none
+        bool WantsPageScript; ///< whether the box is checked at first
     };
     /// `pane` is the preview pane's widget, or null. The panel shows it while it exists, without
     /// owning it.
@@ -28,14 +28,14 @@ public:
     /// Hides the pane and takes it out of this panel, if it still exists.
     ~PreviewPanel() override;
 
-    /// Checks the box for the page script, without RunsTodayChosen().
-    void CheckRunsToday();
+    /// Checks the box for the page script, without PageScriptChosen().
+    void CheckPageScript();
 
 signals:
     /// The author wants to see the effect, in the pane or in a browser.
     void PreviewWanted(orvane::PreviewMode mode);
     /// The author checked the box for the page script, or unchecked it.
-    void RunsTodayChosen(bool isWanted);
+    void PageScriptChosen(bool isWanted);
 
 private:
     QPointer<QWidget> m_pane;

@@ -46,8 +46,8 @@ void AddBoxes(QVBoxLayout* column, TextView words, FolderBoxes* boxes)
 
 } // namespace
 
-PublishPanel::PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderWindow makeFolder)
-    : m_desk(desk), m_settings(settings), m_makeFolder(std::move(makeFolder))
+PublishPanel::PublishPanel(const CopyJob& job, Settings& settings, MakeFolderWindow makeFolder)
+    : m_job(job), m_settings(settings), m_makeFolder(std::move(makeFolder))
 {
     PageBuilder page(this);
     auto* all = new QWidget(this);
@@ -78,7 +78,7 @@ PublishPanel::PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderW
 QWidget* PublishPanel::MakeFromSide(QWidget* all)
 {
     auto* side = new QWidget(all);
-    m_from = new FolderBoxes(m_desk.Files, {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"}, u"*.*",
+    m_from = new FolderBoxes(m_job.Files, {"driveCopyFrom", "dirCopyFrom", "fileCopyFrom"}, u"*.*",
                              side);
     m_from->GoTo(RememberedFolder(m_settings, FolderPurpose::Images));
     m_from->FileBox()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -89,8 +89,8 @@ QWidget* PublishPanel::MakeFromSide(QWidget* all)
 QWidget* PublishPanel::MakeToSide(QWidget* all)
 {
     auto* side = new QWidget(all);
-    m_to = new FolderBoxes(m_desk.Files, {"driveCopyTo", "dirCopyTo", "fileCopyTo"}, u"*.*", side);
-    GoTo(m_desk.ProgramFolder);
+    m_to = new FolderBoxes(m_job.Files, {"driveCopyTo", "dirCopyTo", "fileCopyTo"}, u"*.*", side);
+    GoTo(m_job.ProgramFolder);
     // Without the focus, which stays with the author among the folders.
     connect(m_to, &FolderBoxes::FolderMarked, this, [this] {
         m_hasStarted = true;
@@ -133,7 +133,7 @@ void PublishPanel::PageShown()
     m_to->Refresh();
     StartBesideThePage();
     const Text last = RememberedFolder(m_settings, FolderPurpose::Publishing);
-    cmdLastFolder->setVisible(m_desk.Files.FolderExists(last));
+    cmdLastFolder->setVisible(m_job.Files.FolderExists(last));
     cmdLastFolder->setToolTip(PlainTip(last));
     Show(PublishMode::Publish);
 }
@@ -143,9 +143,9 @@ void PublishPanel::StartBesideThePage()
 {
     if (m_hasStarted)
         return;
-    std::vector<Text> pages = RecentFiles(m_settings, m_desk.Files, recentPages);
-    if (!m_desk.Report.Page().empty())
-        pages = {m_desk.Report.Page()};
+    std::vector<Text> pages = RecentFiles(m_settings, m_job.Files, recentPages);
+    if (!m_job.Report.Page().empty())
+        pages = {m_job.Report.Page()};
     m_hasStarted = !pages.empty() && m_to->GoTo(FolderOf(pages.front()));
 }
 
@@ -203,7 +203,7 @@ void PublishPanel::Show(PublishMode mode)
 void PublishPanel::PublishFiles()
 {
     const Text folder = m_to->MarkedFolder();
-    const auto copied = Publish(m_desk, folder);
+    const auto copied = Publish(m_job, folder);
     m_to->GoTo(folder);
     const Fault* fault = FaultIn(copied);
     if (fault == nullptr)
@@ -211,7 +211,7 @@ void PublishPanel::PublishFiles()
     if (fault != nullptr) {
         // An author who ended the copying has been told, and can publish once more.
         if (*fault != Fault::Cancelled)
-            m_desk.Dialogs.Say(Words(*fault));
+            m_job.Dialogs.Say(Words(*fault));
         return;
     }
     if (!ValueIn(copied).empty())
@@ -226,9 +226,9 @@ void PublishPanel::CopyByHand()
     const Text folder = isForPreview ? m_toFolder : m_to->MarkedFolder();
     // What the preview needs is delivered to nobody, and no report of it is shown.
     DeliveryReport unseen;
-    const CopyDesk desk{m_desk.Payload, m_desk.ProgramFolder, m_desk.Files, m_desk.Dialogs,
-                        isForPreview ? unseen : m_desk.Report};
-    ManualCopy(desk, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
+    const CopyJob job{m_job.Payload, m_job.ProgramFolder, m_job.Files, m_job.Dialogs,
+                      isForPreview ? unseen : m_job.Report};
+    ManualCopy(job, m_from->Folder(), folder, m_from->SelectedFiles(), m_missing);
     m_to->GoTo(folder);
     ShowMissing();
 }

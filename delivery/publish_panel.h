@@ -29,8 +29,8 @@ class PublishPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// What the desk refers to, and the settings, must outlive the panel.
-    PublishPanel(const CopyDesk& desk, Settings& settings, MakeFolderWindow makeFolder);
+    /// What the job refers to, and the settings, must outlive the panel.
+    PublishPanel(const CopyJob& job, Settings& settings, MakeFolderWindow makeFolder);
 
     /// Called when the page is shown: shows the publishing controls, with no file missing.
     void PageShown();
@@ -70,7 +70,7 @@ private:
     void GoToLastFolder();
     void StartBesideThePage();
 
-    const CopyDesk m_desk;
+    const CopyJob m_job;
     Settings& m_settings;
     MakeFolderWindow m_makeFolder;
     PublishMode m_mode = PublishMode::Publish;

@@ -28,13 +28,13 @@ bool IsMissing(Fault fault)
 }
 
 /// Copies a file; one that cannot be copied goes to the missing ones, any other fault comes back.
-Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView source,
-                MissingFiles& missing)
+Done CopyOrNoteMissing(const CopyJob& job, TextView folder, TextView name, TextView source,
+                       MissingFiles& missing)
 {
-    const Done done = desk.Copies->Copy(source, Join({folder, name}));
+    const Done done = job.Copies->Copy(source, Join({folder, name}));
     const Fault* fault = FaultIn(done);
     if (!fault) {
-        desk.Report.FileCopied(folder);
+        job.Report.FileCopied(folder);
     } else if (IsMissing(*fault)) {
         missing.emplace_back(name);
         return {};
@@ -42,7 +42,7 @@ Done CopyOrMiss(const CopyDesk& desk, TextView folder, TextView name, TextView s
     return done;
 }
 
-Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextView source,
+Done CopyListedFile(const CopyJob& job, TextView folder, TextView name, TextView source,
                     MissingFiles& missing)
 {
     if (source.empty()) {
@@ -50,23 +50,24 @@ Done CopyListedFile(const CopyDesk& desk, TextView folder, TextView name, TextVi
         return {};
     }
     const Text destination = Join({folder, name});
-    if (desk.Files.IsTaken(destination)) {
+    if (job.Files.IsTaken(destination)) {
         // Stays as it is: names that differ in case alone count as the same file.
-        if (EqualIgnoringCase(destination, source) || desk.Copies->IsCancelled() ||
-            !desk.MayOverwrite(name))
+        if (EqualIgnoringCase(destination, source) || job.Copies->IsCancelled() ||
+            !job.MayOverwrite(name))
             return {};
     }
-    return CopyOrMiss(desk, folder, name, source, missing);
+    return CopyOrNoteMissing(job, folder, name, source, missing);
 }
 
-Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing)
+Done CopyClassFiles(const CopyJob& job, TextView folder, MissingFiles& missing)
 {
-    if (folder == WithSeparator(desk.ProgramFolder))
+    if (folder == WithSeparator(job.ProgramFolder))
         return {};
-    for (const Text& name : desk.Payload.Effect.SupportFiles) {
+    for (const Text& name : job.Payload.Effect.SupportFiles) {
         if (name.empty())
             continue;
-        const Done done = CopyOrMiss(desk, folder, name, PathIn(desk.ProgramFolder, name), missing);
+        const Done done =
+            CopyOrNoteMissing(job, folder, name, PathIn(job.ProgramFolder, name), missing);
         if (FaultIn(done))
             return done;
     }
@@ -76,7 +77,7 @@ Done CopyClassFiles(const CopyDesk& desk, TextView folder, MissingFiles& missing
 /// Whether the page script may take the place of the file of its name: an earlier version of it is
 /// replaced and a later one stays; about any other file, and a version that was changed, the author
 /// is asked.
-bool MayReplace(const CopyDesk& desk, const Outcome<std::string>& present, const std::string& own)
+bool MayReplace(const CopyJob& job, const Outcome<std::string>& present, const std::string& own)
 {
     if (!FaultIn(present)) {
         const std::string& file = ValueIn(present);
@@ -85,27 +86,27 @@ bool MayReplace(const CopyDesk& desk, const Outcome<std::string>& present, const
         if (file == own || IsPageScriptUnchanged(file))
             return true;
     }
-    return desk.MayOverwrite(pageScriptFile);
+    return job.MayOverwrite(pageScriptFile);
 }
 
-Done CopyPageScript(const CopyDesk& desk, TextView folder, MissingFiles& missing)
+Done CopyPageScript(const CopyJob& job, TextView folder, MissingFiles& missing)
 {
-    if (!desk.Payload.RunsToday || folder == WithSeparator(desk.ProgramFolder))
+    if (!job.Payload.WantsPageScript || folder == WithSeparator(job.ProgramFolder))
         return {};
-    const Text source = PathIn(desk.ProgramFolder, pageScriptFile);
+    const Text source = PathIn(job.ProgramFolder, pageScriptFile);
     const Text destination = Join({folder, pageScriptFile});
-    if (desk.Files.IsTaken(destination)) {
-        if (desk.Copies->IsCancelled())
+    if (job.Files.IsTaken(destination)) {
+        if (job.Copies->IsCancelled())
             return {};
-        const auto own = desk.Files.Read(source);
+        const auto own = job.Files.Read(source);
         if (FaultIn(own)) {
             missing.emplace_back(pageScriptFile);
             return {};
         }
-        if (!MayReplace(desk, desk.Files.Read(destination), ValueIn(own)))
+        if (!MayReplace(job, job.Files.Read(destination), ValueIn(own)))
             return {};
     }
-    return CopyOrMiss(desk, folder, pageScriptFile, source, missing);
+    return CopyOrNoteMissing(job, folder, pageScriptFile, source, missing);
 }
 
 /// A file that the author picked, under the name that the page knows it by.
@@ -128,29 +129,29 @@ std::vector<PickedFile> PickedFiles(const RequiredFiles& required)
 }
 
 /// The sources of all files that the payload names.
-std::vector<Text> SourcesOf(const CopyDesk& desk)
+std::vector<Text> SourcesOf(const CopyJob& job)
 {
     std::vector<Text> sources;
-    for (const PickedFile& file : PickedFiles(desk.Payload.Effect.Required))
+    for (const PickedFile& file : PickedFiles(job.Payload.Effect.Required))
         if (!file.Source.empty())
             sources.push_back(file.Source);
-    for (const Text& name : desk.Payload.Effect.SupportFiles)
-        sources.push_back(PathIn(desk.ProgramFolder, name));
+    for (const Text& name : job.Payload.Effect.SupportFiles)
+        sources.push_back(PathIn(job.ProgramFolder, name));
     return sources;
 }
 
 /// Copies whatever a page needs; gives Cancelled when the author ended it.
-Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
+Done CopyAll(CopyJob job, TextView folder, MissingFiles& missing)
 {
-    FollowedCopies copies(desk.Files, desk.Dialogs, folder, SourcesOf(desk));
-    desk.Copies = &copies;
-    for (const auto& [name, source] : PickedFiles(desk.Payload.Effect.Required)) {
-        const Done done = CopyListedFile(desk, folder, name, source, missing);
+    FollowedCopies copies(job.Files, job.Dialogs, folder, SourcesOf(job));
+    job.Copies = &copies;
+    for (const auto& [name, source] : PickedFiles(job.Payload.Effect.Required)) {
+        const Done done = CopyListedFile(job, folder, name, source, missing);
         if (FaultIn(done))
             return done;
     }
     for (const auto copy : {CopyClassFiles, CopyPageScript}) {
-        const Done done = copy(desk, folder, missing);
+        const Done done = copy(job, folder, missing);
         if (FaultIn(done))
             return done;
     }
@@ -160,16 +161,16 @@ Done CopyAll(CopyDesk desk, TextView folder, MissingFiles& missing)
 }
 
 /// Brings the author's files to the preview page; gives those that are missing there.
-MissingFiles CopyForPreview(const CopyDesk& desk)
+MissingFiles CopyForPreview(const CopyJob& job)
 {
-    FollowedCopies copies(desk.Files, desk.Dialogs, desk.ProgramFolder, SourcesOf(desk));
-    const std::vector<Text> present = desk.Files.Files(desk.ProgramFolder);
+    FollowedCopies copies(job.Files, job.Dialogs, job.ProgramFolder, SourcesOf(job));
+    const std::vector<Text> present = job.Files.Files(job.ProgramFolder);
     MissingFiles missing;
-    for (const auto& [name, source] : PickedFiles(desk.Payload.Effect.Required)) {
+    for (const auto& [name, source] : PickedFiles(job.Payload.Effect.Required)) {
         if (source.empty()) {
             missing.push_back(name);
         } else if (!IsListed(present, name)) {
-            const Done done = copies.Copy(source, PathIn(desk.ProgramFolder, name));
+            const Done done = copies.Copy(source, PathIn(job.ProgramFolder, name));
             if (FaultIn(done) && !copies.IsCancelled())
                 missing.push_back(name);
         }
@@ -179,7 +180,7 @@ MissingFiles CopyForPreview(const CopyDesk& desk)
 
 } // namespace
 
-Text CopyDesk::SourceOf(TextView name) const
+Text CopyJob::SourceOf(TextView name) const
 {
     const EffectPayload& effect = Payload.Effect;
     for (std::size_t i = 0; i < effect.Required.RequiredFileNames.size(); ++i)
@@ -192,56 +193,56 @@ Text CopyDesk::SourceOf(TextView name) const
     return {};
 }
 
-bool CopyDesk::MayOverwrite(TextView name) const
+bool CopyJob::MayOverwrite(TextView name) const
 {
     return Dialogs.Ask(Join({name, u" already exists in this folder.  Do you wish to overwrite?"}));
 }
 
-bool CopyPageScriptTo(CopyDesk desk, TextView folder)
+bool CopyPageScriptTo(CopyJob job, TextView folder)
 {
     MissingFiles missing;
     const Done done = [&] {
-        FollowedCopies copies(desk.Files, desk.Dialogs, folder, {});
-        desk.Copies = &copies;
-        return CopyPageScript(desk, folder, missing);
+        FollowedCopies copies(job.Files, job.Dialogs, folder, {});
+        job.Copies = &copies;
+        return CopyPageScript(job, folder, missing);
     }();
     if (const Fault* fault = FaultIn(done))
-        desk.Dialogs.Say(Words(*fault));
+        job.Dialogs.Say(Words(*fault));
     return !FaultIn(done) && missing.empty();
 }
 
-void CopyHere(const CopyDesk& desk, TextView source, TextView folder, TextView name)
+void CopyHere(const CopyJob& job, TextView source, TextView folder, TextView name)
 {
     const Text destination = Join({folder, name});
-    if (desk.Files.IsTaken(destination) && !desk.MayOverwrite(name))
+    if (job.Files.IsTaken(destination) && !job.MayOverwrite(name))
         return;
     const TextView into = FolderOf(destination);
-    Done done = into == folder ? Done() : MakeFolders(desk.Files, Left(into, into.size() - 1));
+    Done done = into == folder ? Done() : MakeFolders(job.Files, Left(into, into.size() - 1));
     if (!FaultIn(done)) {
-        FollowedCopies copies(desk.Files, desk.Dialogs, into, {Text(source)});
+        FollowedCopies copies(job.Files, job.Dialogs, into, {Text(source)});
         done = copies.Copy(source, destination);
     }
     if (const Fault* fault = FaultIn(done); fault && *fault != Fault::Cancelled)
-        desk.Dialogs.Say(Join({name, u": ", Words(*fault)}));
+        job.Dialogs.Say(Join({name, u": ", Words(*fault)}));
 }
 
-Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
+Outcome<MissingFiles> CopyRequiredFiles(const CopyJob& job, TextView folder)
 {
     MissingFiles missing;
-    const Done done = CopyAll(desk, folder, missing);
+    const Done done = CopyAll(job, folder, missing);
     if (const Fault* fault = FaultIn(done); fault && *fault != Fault::Cancelled)
         return *fault;
     if (missing.empty()) {
-        desk.Dialogs.Say(
+        job.Dialogs.Say(
             Join({u"All files have been copied to the ", folder,
                   u" folder.  Now you can easily upload these files to the Internet."}));
     } else if (FaultIn(done)) {
-        desk.Dialogs.Say(Join({u"You ended the copying.  These files were not copied to the ",
-                               folder, u" folder: ", Listed(missing)}),
-                         Tone::Exclamation);
+        job.Dialogs.Say(Join({u"You ended the copying.  These files were not copied to the ",
+                              folder, u" folder: ", Listed(missing)}),
+                        Tone::Exclamation);
         return Fault::Cancelled;
     } else {
-        desk.Dialogs.Say(
+        job.Dialogs.Say(
             Lines(u"Orvane couldn't copy all the necessary files to the specified folder.",
                   u"Use the file list on the left to find the missing files and click the 'Copy' "
                   u"button to copy them."),
@@ -250,11 +251,11 @@ Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder)
     return missing;
 }
 
-MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
+MissingFiles CopyRequiredFilesForPreview(const CopyJob& job)
 {
-    const MissingFiles missing = CopyForPreview(desk);
+    const MissingFiles missing = CopyForPreview(job);
     if (!missing.empty())
-        desk.Dialogs.Say(
+        job.Dialogs.Say(
             Lines(u"Orvane can't preview the special effect because it could not find the "
                   u"necessary files.",
                   u"Use the file list below to find the missing files and click the 'Copy' button "
@@ -263,7 +264,7 @@ MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk)
     return missing;
 }
 
-Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
+Outcome<MissingFiles> Publish(const CopyJob& job, TextView folder)
 {
     const Text target = WithSeparator(folder);
     const Text page = target + u"ovtemp.html";
@@ -272,13 +273,13 @@ Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder)
         u"Orvane special effect that you previously created.",
         u"Do you wish to overwrite this with the new ovtemp.html file that controls the current "
         u"special effect?");
-    if (!desk.Files.IsTaken(page) || desk.Dialogs.Ask(question)) {
-        const Done done = desk.Files.PutNew(page, NewPageBytes(desk.Payload));
+    if (!job.Files.IsTaken(page) || job.Dialogs.Ask(question)) {
+        const Done done = job.Files.PutNew(page, NewPageBytes(job.Payload));
         if (const Fault* fault = FaultIn(done))
             return *fault;
     }
-    desk.Report.PagePublished(page);
-    return CopyRequiredFiles(desk, target);
+    job.Report.PagePublished(page);
+    return CopyRequiredFiles(job, target);
 }
 
 } // namespace orvane

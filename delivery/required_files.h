@@ -16,7 +16,7 @@ namespace orvane {
 using MissingFiles = std::vector<Text>;
 
 /// One effect, and the services that copying its files needs.
-struct CopyDesk
+struct CopyJob
 {
     const FinishedPayload& Payload;
     TextView ProgramFolder;
@@ -41,25 +41,25 @@ struct CopyDesk
 /// that concerns more than one file, such as a full disk, ends the copying; it is given back
 /// without a word to the author, for the caller to show. When the author cancels and files are
 /// missing, a message lists them and Cancelled is given. No file is ever copied in part.
-[[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyDesk& desk, TextView folder);
+[[nodiscard]] Outcome<MissingFiles> CopyRequiredFiles(const CopyJob& job, TextView folder);
 
 /// Copies a wanted page script to the folder, as CopyRequiredFiles() does. The author is told of a
 /// fault; false when the script could not be copied.
-bool CopyPageScriptTo(CopyDesk desk, TextView folder);
+bool CopyPageScriptTo(CopyJob job, TextView folder);
 
 /// Copies one file to a page's folder, under a name relative to that; folders in the name are made.
 /// Asks before it overwrites a file, and tells the author of a fault.
-void CopyHere(const CopyDesk& desk, TextView source, TextView folder, TextView name);
+void CopyHere(const CopyJob& job, TextView source, TextView folder, TextView name);
 
 /// Copies the author's files to the program's folder, in which the preview page is; a name that is
 /// there already is not copied again. Gives the names that could not be copied, and tells the
 /// author if there are any. When the author cancels, the files not copied yet do not count as
 /// missing.
-[[nodiscard]] MissingFiles CopyRequiredFilesForPreview(const CopyDesk& desk);
+[[nodiscard]] MissingFiles CopyRequiredFilesForPreview(const CopyJob& job);
 
 /// What `cmdCopyFiles` does: writes the page ovtemp.html with the effect to the folder, asking
 /// before it overwrites one, and copies the required files there by CopyRequiredFiles(), whose
 /// result it gives. A fault in writing the page is given back before any file is copied.
-[[nodiscard]] Outcome<MissingFiles> Publish(const CopyDesk& desk, TextView folder);
+[[nodiscard]] Outcome<MissingFiles> Publish(const CopyJob& job, TextView folder);
 
 } // namespace orvane

@@ -171,7 +171,7 @@ Done DiskFileStore::MakeFolder(TextView path, Access access)
     return DoneAt(name, orvane::MakeFolder(m_calls, name, mode));
 }
 
-std::shared_ptr<const void> DiskFileStore::Hold(TextView folder)
+std::shared_ptr<const void> DiskFileStore::LockFolder(TextView folder)
 {
     // The folder itself is locked: it stays when the files in it are replaced.
     auto held = std::make_shared<FileHandle>(m_calls);

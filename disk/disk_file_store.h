@@ -36,7 +36,7 @@ public:
     Done Copy(TextView from, TextView to, Progress* progress) override;
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;
-    std::shared_ptr<const void> Hold(TextView folder) override;
+    std::shared_ptr<const void> LockFolder(TextView folder) override;
     std::vector<Text> Files(TextView folder) const override;
     Outcome<std::vector<Text>> SubFolders(TextView folder) const override;
     bool FolderExists(TextView path) const override;

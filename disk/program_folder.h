@@ -17,7 +17,7 @@ struct UserFolders
 {
     Text Program;  ///< applet classes, effect images, help, the preview page
     Text Settings; ///< one file per application
-    Text State;    ///< kept pages, drafts, recovery copies
+    Text State;    ///< backups, drafts, recovery copies
 };
 
 /// The folders where the conventions of the desktop (the XDG variables and HOME) put them.

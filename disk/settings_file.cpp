@@ -77,7 +77,7 @@ void SettingsFile::Put(TextView section, TextView key, TextView value, TextView 
     if (FaultIn(folder))
         return;
     const Text path = PathOf(application);
-    const auto hold = m_files.Hold(m_folder);
+    const auto lock = m_files.LockFolder(m_folder);
     const auto bytes = m_files.Read(path);
     const Fault* fault = FaultIn(bytes);
     // A file that is there but cannot be read is left alone: writing would drop its other settings.

@@ -85,7 +85,7 @@ Text PagePath(TextView txtFileName, TextView currentFolder)
 }
 
 AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
-                         const FinishedPayload& payload, const KeptPagesPlace& kept)
+                         const FinishedPayload& payload, const BackupsPlace& place)
 {
     const auto read = files.Read(page);
     if (const Fault* fault = FaultIn(read))
@@ -94,7 +94,7 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
     const Done backedUp = BackUp(files, BackupPath(page), page, bytes);
     if (const Fault* fault = FaultIn(backedUp))
         return Tell(dialogs, *fault);
-    KeepFirstBackup(files, kept, page, bytes);
+    KeepFirstBackup(files, place, page, bytes);
 
     const PageEdit edit =
         EditPageAndScript(bytes, payload, [&] { return dialogs.Ask(replaceQuestion); });
@@ -107,13 +107,13 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
     const std::string& edited = std::get<EditedPage>(edit).Bytes;
     if (!WritePage(files, dialogs, page, bytes, edited))
         return AutoInsertion::NothingDone;
-    if (payload.RunsToday && !HasPageScript(edited))
+    if (payload.WantsPageScript && !HasPageScript(edited))
         dialogs.Say(Join({noHeadWords, LinesOfPageScript()}));
     return AutoInsertion::Inserted;
 }
 
 bool InsertPageScript(FileStore& files, Dialogs& dialogs, TextView page,
-                      const FinishedPayload& payload, const KeptPagesPlace& kept)
+                      const FinishedPayload& payload, const BackupsPlace& place)
 {
     const auto read = files.Read(page);
     if (const Fault* fault = FaultIn(read)) {
@@ -128,7 +128,7 @@ bool InsertPageScript(FileStore& files, Dialogs& dialogs, TextView page,
     }
     if (edited == bytes)
         return true;
-    const Done isKept = KeepPage(files, kept, page, bytes);
+    const Done isKept = KeepBackup(files, place, page, bytes);
     if (const Fault* fault = FaultIn(isKept)) {
         dialogs.Say(Words(*fault));
         return false;

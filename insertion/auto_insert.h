@@ -27,16 +27,16 @@ Text PagePath(TextView txtFileName, TextView currentFolder);
 /// that does not work, or the page has no place for the page script, the author is told so.
 /// Whatever fails, the page holds its old bytes or the new ones, and the backup the old ones. A
 /// page that another program changes meanwhile stays as that program left it.
-/// The day's first backup of the page is also put among the kept pages, where it is never
+/// The day's first backup of the page is also put in the place of the backups, where it is never
 /// overwritten; when that fails, the work goes on without a message. Expects a full path.
 AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
-                         const FinishedPayload& payload, const KeptPagesPlace& kept);
+                         const FinishedPayload& payload, const BackupsPlace& place);
 
 /// Puts the page script's lines into a page that holds the payload's effect already, and gives true
 /// when they stand there; otherwise the author is told why not. The page as it is before is put
-/// among the kept pages first. Whatever fails, the page holds its old bytes or the new ones; one
-/// that another program changes meanwhile stays as that program left it. Expects a full path.
+/// in the place of the backups first. Whatever fails, the page holds its old bytes or the new ones;
+/// one that another program changes meanwhile stays as that program left it. Expects a full path.
 bool InsertPageScript(FileStore& files, Dialogs& dialogs, TextView page,
-                      const FinishedPayload& payload, const KeptPagesPlace& kept);
+                      const FinishedPayload& payload, const BackupsPlace& place);
 
 } // namespace orvane

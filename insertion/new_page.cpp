@@ -30,7 +30,7 @@ Text NewPageText(const FinishedPayload& payload)
 std::string NewPageBytes(const FinishedPayload& payload)
 {
     const std::string page = EncodeForPage(NewPageText(payload), PageEncoding::Windows1252);
-    return payload.RunsToday ? WithPageScript(page) : page;
+    return payload.WantsPageScript ? WithPageScript(page) : page;
 }
 
 Done SaveHTMLtoFile(FileStore& files, TextView path, const FinishedPayload& payload)

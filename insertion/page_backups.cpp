@@ -66,7 +66,8 @@ Outcome<bool> PutGonePage(FileStore& files, TextView page, TextView backup, std:
     const Done made = MakeFoldersFor(files, page, Access::AsUsual);
     if (const Fault* fault = FaultIn(made))
         return *fault;
-    // A kept page is its owner's alone; the backup beside the page has the rights of the page.
+    // A backup in that place is its owner's alone; the backup beside the page has the rights of the
+    // page.
     const Text beside = BackupPath(page);
     return files.PutIfFree(page, bytes, files.FileExists(beside) ? TextView(beside) : backup);
 }
@@ -83,49 +84,49 @@ Done BackUp(FileStore& files, TextView backup, TextView page, std::string_view b
     return Checked(files, files.PutNew(backup, bytes, page), backup, page, bytes);
 }
 
-void KeepFirstBackup(FileStore& files, const KeptPagesPlace& kept, TextView page,
+void KeepFirstBackup(FileStore& files, const BackupsPlace& place, TextView page,
                      std::string_view bytes)
 {
-    const Text path = KeptPagePath(kept, page);
+    const Text path = BackupPathIn(place, page);
     if (files.IsTaken(path))
         return;
     if (!FaultIn(MakeFoldersFor(files, path, Access::OwnerAlone)))
         std::ignore = files.PutPrivate(path, bytes);
 }
 
-Done KeepPage(FileStore& files, const KeptPagesPlace& kept, TextView page, std::string_view bytes)
+Done KeepBackup(FileStore& files, const BackupsPlace& place, TextView page, std::string_view bytes)
 {
-    Done made = MakeFolders(files, kept.Folder, Access::OwnerAlone);
+    Done made = MakeFolders(files, place.Folder, Access::OwnerAlone);
     if (FaultIn(made))
         return made;
     // A folder that is new holds nothing that could be written over.
-    KeptPagesPlace place = kept;
+    BackupsPlace ofItsOwn = place;
     int number = 2;
     do {
-        place.Day = Join({kept.Day, u" ", NumberToText(number)});
-        made = files.MakeFolder(PathIn(kept.Folder, place.Day), Access::OwnerAlone);
+        ofItsOwn.Day = Join({place.Day, u" ", NumberToText(number)});
+        made = files.MakeFolder(PathIn(place.Folder, ofItsOwn.Day), Access::OwnerAlone);
     } while (made == Done(Fault::PathFileAccess) && ++number < 10000);
     if (FaultIn(made))
         return made;
-    const Text path = KeptPagePath(place, page);
+    const Text path = BackupPathIn(ofItsOwn, page);
     made = MakeFoldersFor(files, path, Access::OwnerAlone);
     return FaultIn(made) ? made : Checked(files, files.PutPrivate(path, bytes), path, page, bytes);
 }
 
-Text KeptPagePath(const KeptPagesPlace& kept, TextView page)
+Text BackupPathIn(const BackupsPlace& place, TextView page)
 {
     // Without this, ".." in a page's path would lead out of the folder.
     const auto plain = std::filesystem::path(ToUtf8(page)).lexically_normal();
-    return PathIn(kept.Folder, kept.Day) + FromUtf8(plain.string());
+    return PathIn(place.Folder, place.Day) + FromUtf8(plain.string());
 }
 
-std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPagesPlace& kept, TextView page)
+std::vector<PageBackup> BackupsOf(const FileStore& files, const BackupsPlace& place, TextView page)
 {
     std::vector<Text> paths = {BackupPath(page)};
-    const auto days = files.SubFolders(kept.Folder);
+    const auto days = files.SubFolders(place.Folder);
     if (!FaultIn(days))
         for (const Text& day : ValueIn(days))
-            paths.push_back(KeptPagePath({kept.Folder, day}, page));
+            paths.push_back(BackupPathIn({place.Folder, day}, page));
     std::vector<PageBackup> backups;
     for (Text& path : paths)
         if (const auto facts = files.Facts(path); facts && !facts->IsLink)
@@ -136,10 +137,10 @@ std::vector<PageBackup> BackupsOf(const FileStore& files, const KeptPagesPlace& 
     return backups;
 }
 
-Text PageOfBackup(const FileStore& files, const KeptPagesPlace& kept, TextView path)
+Text PageOfBackup(const FileStore& files, const BackupsPlace& place, TextView path)
 {
     constexpr TextView beside = u"Backup of ";
-    const Text folder = WithSeparator(kept.Folder);
+    const Text folder = WithSeparator(place.Folder);
     Text page;
     if (path.starts_with(folder)) {
         const std::size_t behindDay = path.find(pathSeparator, folder.size());
@@ -159,7 +160,7 @@ Text CompareSizes(std::uint64_t backup, std::uint64_t page)
 }
 
 bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backup,
-               const KeptPagesPlace& kept)
+               const BackupsPlace& place)
 {
     const auto earlier = files.ReadItself(backup);
     if (const Fault* fault = FaultIn(earlier))
@@ -170,7 +171,7 @@ bool BringBack(FileStore& files, Dialogs& dialogs, TextView page, TextView backu
         return Tell(dialogs, Words(*fault));
     if (now == earlier)
         return Tell(dialogs, sameWords);
-    const Done isKept = isGone ? Done() : KeepPage(files, kept, page, ValueIn(now));
+    const Done isKept = isGone ? Done() : KeepBackup(files, place, page, ValueIn(now));
     if (const Fault* fault = FaultIn(isKept))
         return Tell(dialogs, Words(*fault));
     const auto written = isGone ? PutGonePage(files, page, backup, ValueIn(earlier))

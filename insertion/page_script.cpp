@@ -134,7 +134,7 @@ PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload
     std::string rest(HasPageScript(page) ? page : std::string_view());
     const auto lines = TakePageScriptLines(rest);
     const std::string_view code = lines ? rest : page;
-    if (!HeadTag(code) || (!lines && !payload.RunsToday))
+    if (!HeadTag(code) || (!lines && !payload.WantsPageScript))
         return EditPage(page, payload, askToReplace);
     PageEdit edit = EditPage(code, payload, askToReplace);
     auto* edited = std::get_if<EditedPage>(&edit);

@@ -49,7 +49,7 @@ Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextVie
     const EffectPayload& effect = payload.Effect;
     Text note;
     for (const auto& [mark, words] : markNotes)
-        if (!payload.RunsToday && FindIgnoringCase(effect.BODYHTML, mark) != 0)
+        if (!payload.WantsPageScript && FindIgnoringCase(effect.BODYHTML, mark) != 0)
             AddSentence(note, words);
     if (const Text missing = MissingNames(effect, files, folder); !missing.empty())
         AddSentence(note, Join({u"Not found in ", folder, u": ", missing, u"."}));
@@ -58,7 +58,7 @@ Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextVie
 
 bool RunsInStatus(const FinishedPayload& payload)
 {
-    return !payload.RunsToday && RowOf(payload.Effect.Kind).ShowsInStatusLine;
+    return !payload.WantsPageScript && RowOf(payload.Effect.Kind).ShowsInStatusLine;
 }
 
 } // namespace orvane

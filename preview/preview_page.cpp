@@ -135,7 +135,7 @@ Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mod
 {
     const Text path = PreviewPagePath(bench.Core);
     std::string bytes = EncodeForPage(PreviewPageText(payload, mode), PageEncoding::Windows1252);
-    if (payload.RunsToday)
+    if (payload.WantsPageScript)
         bytes = WithPageScript(bytes);
     if (mode == PreviewMode::Inline)
         return bench.Pane.Navigate(

@@ -226,7 +226,7 @@ extern "C" Q_DECL_EXPORT orvane::WebView* OrvaneMakeWebView(orvane::WebViewOwner
         refusal = u"The built-in preview could not be cut off from the network.";
         return nullptr;
     }
-    // Without this, a view in a module loaded behind the application's start crashes.
+    // Without this, a view in a module loaded after the application's start crashes.
     QtWebEngineQuick::initialize();
     return new orvane::EngineView(owner, parent);
 }

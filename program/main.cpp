@@ -96,7 +96,7 @@ int main(int argc, char** argv)
                          .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); },
                          .Clock = &DaysSince1900});
     program.Desk.Start();
-    // Behind the first paint of the window: the icon alone loads a library.
+    // After the first paint of the window: the icon alone loads a library.
     QTimer::singleShot(0, &program.Desk, [&] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
         RemovePreviewPages(disk.Files, program.Core);

@@ -94,7 +94,7 @@ void OptionsForm::BrowseForDefaultPath()
     txtDefaultPath->setFocus(Qt::OtherFocusReason);
 }
 
-void OptionsForm::Take()
+void OptionsForm::Accept()
 {
     const Preferences preferences{
         .txtBrowser = FromQt(txtBrowser->text()),

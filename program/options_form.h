@@ -18,7 +18,7 @@ public:
     explicit OptionsForm(Workbench& bench, QWidget* parent = nullptr);
 
 protected:
-    void Take() override;
+    void Accept() override;
 
 private:
     void AddViewerFrame(PageBuilder& page);

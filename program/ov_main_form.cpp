@@ -13,15 +13,15 @@
 
 namespace orvane {
 
-OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& isBuilt)
+OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& hasWizard)
     : m_bench(bench)
 {
     setObjectName(QStringLiteral("OVMain"));
     setWindowTitle(QStringLiteral("Orvane"));
     AddMenus();
     for (const EffectCommand& command : EffectCommands())
-        findChild<QAction*>(ToQt(command.Name))->setEnabled(isBuilt(command.Kind));
-    auto* catalogue = new CataloguePanel(isBuilt, bench.Settings);
+        findChild<QAction*>(ToQt(command.Name))->setEnabled(hasWizard(command.Kind));
+    auto* catalogue = new CataloguePanel(hasWizard, bench.Settings);
     connect(catalogue, &CataloguePanel::EffectWanted, this, &OVMainForm::EffectWanted);
     setCentralWidget(catalogue);
     resize(sizeHint().boundedTo(screen()->availableSize()));

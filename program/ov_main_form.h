@@ -18,8 +18,8 @@ class OVMainForm : public QMainWindow
     Q_OBJECT
 
 public:
-    /// `isBuilt` tells which effects have a wizard; the commands of the others are disabled.
-    OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& isBuilt);
+    /// `hasWizard` tells which effects have a wizard; the commands of the others are disabled.
+    OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& hasWizard);
 
 signals:
     /// The author chose an effect in the catalogue or in a menu.

@@ -24,7 +24,7 @@ void GiveFocusBack(const QDialog& dialog)
     QWidget* owner = dialog.parentWidget();
     if (owner == nullptr)
         return;
-    // Later: the next window may come up directly behind this one.
+    // Later: the next window may come up directly after this one.
     QObject::connect(
         &dialog, &QDialog::finished, owner,
         [owner] { QTimer::singleShot(0, owner, [owner] { ActivateFront(*owner); }); },

@@ -46,7 +46,7 @@ void MovableList::keyPressEvent(QKeyEvent* event)
         emit MoveWanted(place);
 }
 
-/// The owner of the rows moves them; what the list itself would take out behind a drag stays.
+/// The owner of the rows moves them; what the list itself would take out after a drag stays.
 void MovableList::startDrag(Qt::DropActions actions)
 {
     if (SelectedRow() < 0)

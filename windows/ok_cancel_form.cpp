@@ -28,7 +28,7 @@ void OkCancelForm::AddButtons(TextView okCaption)
 {
     QPushButton* ok = MakeButton("cmdOK", okCaption);
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, [this] { Take(); });
+    connect(ok, &QPushButton::clicked, this, [this] { Accept(); });
     QPushButton* cancel = MakeButton("cmdCancel", u"&Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* line = new QHBoxLayout;

@@ -42,7 +42,7 @@ protected:
     void ShowHints(const std::vector<Hint>& hints) { m_hints.Show(hints); }
 
     /// Called when OK is pressed: closes the window by accept(), or reports what is wrong.
-    virtual void Take() = 0;
+    virtual void Accept() = 0;
 
     Workbench& m_bench;
 

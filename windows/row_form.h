@@ -49,7 +49,7 @@ public:
     const Row& Result() const { return m_row; }
 
 protected:
-    void Take() override
+    void Accept() override
     {
         Row row = Entered();
         if (const auto complaint = Check(row))

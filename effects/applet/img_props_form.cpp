@@ -119,7 +119,7 @@ void ImgPropsForm::WaitForClick(bool isOn)
     Text1->setEnabled(!isOn);
 }
 
-void ImgPropsForm::Take()
+void ImgPropsForm::Accept()
 {
     const ImageProperties properties = Properties();
     if (const auto complaint = Check(properties))

@@ -25,7 +25,7 @@ public:
     ImageProperties Properties() const;
 
 protected:
-    void Take() override;
+    void Accept() override;
 
 private:
     void AddPause(PageBuilder& page);

@@ -106,7 +106,7 @@ void VerticalScrollerForm::Previous()
 }
 
 /// Stays as it is: when the author comes back from the delivery, Done counts on and does nothing,
-/// and Previous behind it ends the wizard once more.
+/// and Previous after it ends the wizard once more.
 void VerticalScrollerForm::ChangePage()
 {
     if (m_page > endOfWizard)

@@ -98,7 +98,7 @@ public:
 
     void Insert()
     {
-        if (AutoInsert(m_files, m_dialogs, FromUtf8(Page()), ticker, m_kept) !=
+        if (AutoInsert(m_files, m_dialogs, FromUtf8(Page()), ticker, m_place) !=
             AutoInsertion::Inserted)
             throw std::runtime_error("the ticker did not get into the page");
     }
@@ -108,7 +108,7 @@ public:
         const std::string backup = (m_folder / "Backup of page.html").string();
         const std::string bytes = ReadBare(Page());
         PutBare(m_folder, backup, bytes);
-        benchmark::DoNotOptimize(ReadBare(ToUtf8(KeptPagePath(m_kept, FromUtf8(Page())))));
+        benchmark::DoNotOptimize(ReadBare(ToUtf8(BackupPathIn(m_place, FromUtf8(Page())))));
         PutBare(m_folder, Page(), Inserted);
     }
 
@@ -128,7 +128,7 @@ private:
     PosixCalls m_calls;
     NoDialogs m_dialogs;
     DiskFileStore m_files{m_calls, FromUtf8((m_folder / "state").string())};
-    KeptPagesPlace m_kept{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
+    BackupsPlace m_place{FromUtf8((m_folder / "state/first-backups").string()), u"2024-05-31"};
 };
 
 /// What the system says of this program's memory under that name, in kB.

@@ -56,7 +56,7 @@ struct Delivery
     DeliveryReport Written = {};
     Text Program = Folder.TextAt("program");
 
-    CopyDesk Desk() { return {Payload, Program, Files, Author, Written}; }
+    CopyJob Job() { return {Payload, Program, Files, Author, Written}; }
 
     void Fail(Fault fault) { Author.Say(Words(fault), Tone::Plain); }
 
@@ -74,20 +74,20 @@ const char* const pageName = "page/index.html";
 /// With the page script, which goes wherever the effect goes.
 void InsertForToday(Delivery& delivery)
 {
-    delivery.Payload.RunsToday = true;
+    delivery.Payload.WantsPageScript = true;
     const Text page = delivery.Folder.TextAt(pageName);
-    const KeptPagesPlace kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
-    if (AutoInsert(delivery.Files, delivery.Author, page, delivery.Payload, kept) ==
+    const BackupsPlace place{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    if (AutoInsert(delivery.Files, delivery.Author, page, delivery.Payload, place) ==
         AutoInsertion::Inserted)
-        delivery.End(CopyRequiredFiles(delivery.Desk(), FolderOf(page)));
+        delivery.End(CopyRequiredFiles(delivery.Job(), FolderOf(page)));
 }
 
 void BringBackup(Delivery& delivery)
 {
     const Text page = delivery.Folder.TextAt(pageName);
-    const KeptPagesPlace kept{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    const BackupsPlace place{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
     delivery.Heard.IsComplete =
-        BringBack(delivery.Files, delivery.Author, page, BackupPath(page), kept);
+        BringBack(delivery.Files, delivery.Author, page, BackupPath(page), place);
 }
 
 void SaveNewPage(Delivery& delivery)
@@ -96,23 +96,23 @@ void SaveNewPage(Delivery& delivery)
     const Done saved = SaveHTMLtoFile(delivery.Files, page, delivery.Payload);
     if (const Fault* fault = FaultIn(saved))
         return delivery.Fail(*fault);
-    delivery.End(CopyRequiredFiles(delivery.Desk(), FolderOf(page)));
+    delivery.End(CopyRequiredFiles(delivery.Job(), FolderOf(page)));
 }
 
 void PublishFiles(Delivery& delivery)
 {
-    delivery.End(Publish(delivery.Desk(), delivery.Folder.TextAt("page")));
+    delivery.End(Publish(delivery.Job(), delivery.Folder.TextAt("page")));
 }
 
 void BringToPreview(Delivery& delivery)
 {
-    delivery.End(CopyRequiredFilesForPreview(delivery.Desk()));
+    delivery.End(CopyRequiredFilesForPreview(delivery.Job()));
 }
 
 void CopyByHand(Delivery& delivery)
 {
     MissingFiles missing = {u"a.gif", u"b.gif"};
-    ManualCopy(delivery.Desk(), delivery.Folder.TextAt("pictures"), delivery.Folder.TextAt("page"),
+    ManualCopy(delivery.Job(), delivery.Folder.TextAt("pictures"), delivery.Folder.TextAt("page"),
                {u"a.gif", u"b.gif"}, missing);
     delivery.End(missing);
 }

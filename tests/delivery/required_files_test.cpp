@@ -54,10 +54,10 @@ protected:
 
     MissingFiles Copy(TextView folder = u"/site/")
     {
-        return ValueIn(CopyRequiredFiles(Desk(), folder));
+        return ValueIn(CopyRequiredFiles(Job(), folder));
     }
 
-    CopyDesk Desk() { return {payload, u"/program", disk, dialogs, report}; }
+    CopyJob Job() { return {payload, u"/program", disk, dialogs, report}; }
 
     FakeDialogs dialogs;
     FakeFileStore disk;
@@ -132,7 +132,7 @@ TEST_F(RequiredFilesTest, AFaultOfOneFileMakesItMissingAndAnyOtherEndsTheCopying
     }
     dialogs.TakeSaid();
     disk.FailAt(disk.Calls() + 4, Fault::DiskFull);
-    const Outcome<MissingFiles> outcome = CopyRequiredFiles(Desk(), u"/site/");
+    const Outcome<MissingFiles> outcome = CopyRequiredFiles(Job(), u"/site/");
     ASSERT_NE(FaultIn(outcome), nullptr);
     EXPECT_EQ(*FaultIn(outcome), Fault::DiskFull);
     EXPECT_FALSE(disk.FileExists(u"/site/X.class"));
@@ -145,13 +145,13 @@ TEST_F(RequiredFilesTest, AnAuthorWhoEndsTheCopyingKeepsWhatIsThereAndIsToldTheR
     disk.Contents[u"/site/X.class"] = "old";
     Require(10, u"c.gif", u"/pics/b.gif");
     dialogs.WorkGoesOn = 1;
-    EXPECT_EQ(CopyRequiredFiles(Desk(), u"/site/"), Outcome<MissingFiles>(Fault::Cancelled));
+    EXPECT_EQ(CopyRequiredFiles(Job(), u"/site/"), Outcome<MissingFiles>(Fault::Cancelled));
     EXPECT_EQ(dialogs.TakeSaid(), Texts{u"You ended the copying.  These files were not copied to "
                                         u"the /site/ folder: c.gif, X.class, Y.class"});
     EXPECT_EQ(disk.Contents[u"/site/b.gif"], "old") << "nobody asks about it any more";
     EXPECT_EQ(disk.Contents[u"/site/X.class"], "old");
 
-    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles()) << "seen without its pictures";
+    EXPECT_EQ(CopyRequiredFilesForPreview(Job()), MissingFiles()) << "seen without its pictures";
     EXPECT_EQ(dialogs.Said, Texts());
 }
 
@@ -172,7 +172,7 @@ TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItA
                           {own.c_str(), {}, own},     {"mine", false, "mine"},
                           {"mine", true, own},        {"", false, ""}};
     disk.Contents[u"/program/orvane.js"] = own;
-    payload = {.RunsToday = true};
+    payload = {.WantsPageScript = true};
     for (const Case& test : cases) {
         SCOPED_TRACE(test.Present ? test.Present : "no file");
         disk.Contents.erase(u"/site/orvane.js");
@@ -185,7 +185,7 @@ TEST_F(RequiredFilesTest, BringsAWantedPageScriptAndReplacesEarlierVersionsOfItA
         EXPECT_EQ(dialogs.TakeSaid(), Texts{Text(allCopied)});
     }
     EXPECT_EQ(FilesToUpload(payload), Texts{u"orvane.js"});
-    payload.RunsToday = false;
+    payload.WantsPageScript = false;
     disk.Contents.erase(u"/site/orvane.js");
     Copy();
     EXPECT_FALSE(disk.Contents.contains(u"/site/orvane.js"));
@@ -197,23 +197,23 @@ TEST_F(RequiredFilesTest, ReplacesABackupPageOnYesAloneAndStillCopies)
     disk.Contents[u"/site/a.gif"] = "old";
     dialogs.ExpectAsk(Text(overwritePage), false);
     dialogs.ExpectAsk(OverwriteQuestion(u"a.gif"), true);
-    EXPECT_EQ(ValueIn(Publish(Desk(), u"/site/")), MissingFiles());
+    EXPECT_EQ(ValueIn(Publish(Job(), u"/site/")), MissingFiles());
     EXPECT_EQ(disk.Contents[u"/site/ovtemp.html"], "old");
     EXPECT_EQ(disk.Contents[u"/site/a.gif"], "a");
     for (const Text& question :
          {Text(overwritePage), OverwriteQuestion(u"a.gif"), OverwriteQuestion(u"b.gif")})
         dialogs.ExpectAsk(question, true);
-    EXPECT_EQ(ValueIn(Publish(Desk(), u"/site/")), MissingFiles());
+    EXPECT_EQ(ValueIn(Publish(Job(), u"/site/")), MissingFiles());
     EXPECT_EQ(disk.Contents[u"/site/ovtemp.html"], NewPageBytes(payload));
 }
 
 TEST_F(RequiredFilesTest, BringsToThePreviewWithoutAWordWhatDoesNotLieThereInAnyCase)
 {
     disk.Contents[u"/program/A.GIF"] = "there";
-    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
+    EXPECT_EQ(CopyRequiredFilesForPreview(Job()), MissingFiles());
     EXPECT_EQ(disk.Writes, Texts{u"/program/b.gif"});
     Require(50, u"b.gif", u"/program/b.gif");
-    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), MissingFiles());
+    EXPECT_EQ(CopyRequiredFilesForPreview(Job()), MissingFiles());
     EXPECT_EQ(disk.Writes.size(), 1u);
     EXPECT_EQ(dialogs.Said, Texts());
     EXPECT_EQ(report.Folder(), u"") << "nothing is delivered by that";
@@ -223,7 +223,7 @@ TEST_F(RequiredFilesTest, TellsWhichFilesThePreviewLacks)
 {
     Require(1, u"c.gif", u"");
     Require(2, u"d.gif", u"/gone/d.gif");
-    EXPECT_EQ(CopyRequiredFilesForPreview(Desk()), (MissingFiles{u"c.gif", u"d.gif"}));
+    EXPECT_EQ(CopyRequiredFilesForPreview(Job()), (MissingFiles{u"c.gif", u"d.gif"}));
     EXPECT_EQ(disk.Contents[u"/program/b.gif"], "b");
     EXPECT_EQ(dialogs.Said, Texts{Text(noPreview)});
     EXPECT_EQ(dialogs.LastTone, Tone::Exclamation);

@@ -68,9 +68,9 @@ void CheckKeptPage(TextView path)
 {
     const Text page = PagePath(path, u"/home/jo");
     Require(page.starts_with(u'/'), "a page's path is full");
-    const Text kept = KeptPagePath({.Folder = u"/state", .Day = u"day"}, page);
-    Require(kept.starts_with(u"/state/day/"), "a kept page lies below its day");
-    Require(Find(Join({kept, u"/"}), u"/../") == 0, "a kept page stays below its day");
+    const Text kept = BackupPathIn({.Folder = u"/state", .Day = u"day"}, page);
+    Require(kept.starts_with(u"/state/day/"), "a backup lies below its day");
+    Require(Find(Join({kept, u"/"}), u"/../") == 0, "a backup stays below its day");
 }
 
 void Check(FuzzInput input)

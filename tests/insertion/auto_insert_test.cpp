@@ -13,8 +13,8 @@ namespace {
 
 const Text pagePath = u"/home/jo/site/index.html";
 const Text backupPath = u"/home/jo/site/Backup of index.html";
-const Text keptPath = u"/state/pages/2001-11-28/home/jo/site/index.html";
-const KeptPagesPlace kept{.Folder = u"/state/pages", .Day = u"2001-11-28"};
+const Text placedPath = u"/state/pages/2001-11-28/home/jo/site/index.html";
+const BackupsPlace place{.Folder = u"/state/pages", .Day = u"2001-11-28"};
 
 const std::string oldBytes = "\xEF\xBB\xBF<head>\r\n</head><body>\xC3\xA9</body>";
 const std::string newBytes =
@@ -46,7 +46,7 @@ protected:
         m_payload.Effect.HEADHTML = u"<!--B-->h<!--E-->";
     }
 
-    AutoInsertion Run() { return AutoInsert(m_files, m_dialogs, pagePath, m_payload, kept); }
+    AutoInsertion Run() { return AutoInsert(m_files, m_dialogs, pagePath, m_payload, place); }
     std::string Bytes(const Text& path) { return m_files.Contents[path]; }
 
     /// The author was told these words and no others.
@@ -66,7 +66,7 @@ TEST_F(AutoInsertTest, BacksThePageUpBeforeItWritesIt)
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     EXPECT_EQ(Bytes(pagePath), newBytes);
     EXPECT_EQ(Bytes(backupPath), oldBytes);
-    EXPECT_EQ(m_files.Writes, (Texts{backupPath, keptPath, pagePath}));
+    EXPECT_EQ(m_files.Writes, (Texts{backupPath, placedPath, pagePath}));
     EXPECT_TRUE(m_dialogs.Said.empty());
 }
 
@@ -84,7 +84,7 @@ TEST_F(AutoInsertTest, LeavesThePageWhenItsBackupDoesNotHoldIt)
 {
     CuttingFileStore files;
     files.Contents[pagePath] = oldBytes;
-    EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::NothingDone);
+    EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, place), AutoInsertion::NothingDone);
     EXPECT_EQ(files.Contents[pagePath], oldBytes);
     EXPECT_EQ(m_dialogs.TakeSaid().size(), 1u);
 }
@@ -106,7 +106,7 @@ TEST_F(AutoInsertTest, TellsWhichLinesToAddWhenThePageHasNoPlaceForThePageScript
 {
     m_files.Contents[pagePath] = "<body></body>";
     m_payload.Effect.BODYHTML = std::exchange(m_payload.Effect.HEADHTML, Text());
-    m_payload.RunsToday = true;
+    m_payload.WantsPageScript = true;
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     EXPECT_EQ(Bytes(pagePath), "<body><\r\n<!--B-->h<!--E-->\r\n</body>");
     const Texts said = m_dialogs.TakeSaid();
@@ -121,7 +121,7 @@ TEST_F(AutoInsertTest, AddsThePageScriptAfterwardsAndKeepsThePageAsItWas)
     m_payload.Effect.OnLoadFunc = u"go";
     m_payload.Effect.OnLoadArgs = u"(1)";
     const auto add = [&] {
-        return InsertPageScript(m_files, m_dialogs, pagePath, m_payload, kept);
+        return InsertPageScript(m_files, m_dialogs, pagePath, m_payload, place);
     };
     m_files.FailOn(u"/state/pages/2001-11-28 2/home/jo/site/index.html", Fault::DiskFull);
     EXPECT_FALSE(add());
@@ -172,7 +172,7 @@ TEST_F(AutoInsertTest, KeepsWhatAnEditorSavedMeanwhileThoughNothingWasAsked)
 {
     BusyFileStore files;
     files.Contents[pagePath] = oldBytes;
-    EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept), AutoInsertion::NothingDone);
+    EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, place), AutoInsertion::NothingDone);
     ExpectSaid(u"Another application has changed your Web page file in the meantime.  The file "
                u"stays as that application saved it, without the special effect.\r\n\r\n"
                u"Please try to AutoInsert the special effect again.");
@@ -191,7 +191,7 @@ TEST_F(AutoInsertTest, LeavesThePageOnAFaultAndTellsItsWords)
         for (const Text& path : {pagePath, backupPath}) {
             FakeFileStore files = m_files;
             files.FailOn(path, fault);
-            EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, kept),
+            EXPECT_EQ(AutoInsert(files, m_dialogs, pagePath, m_payload, place),
                       AutoInsertion::NothingDone);
             ExpectSaid(words);
             EXPECT_EQ(files.Contents, m_files.Contents);
@@ -204,16 +204,16 @@ TEST_F(AutoInsertTest, KeepsTheFirstBackupOfEachDay)
     m_dialogs.ExpectAsk(Text(question), true);
     Run();
     EXPECT_EQ(Bytes(backupPath), newBytes);
-    EXPECT_EQ(Bytes(keptPath), oldBytes);
+    EXPECT_EQ(Bytes(placedPath), oldBytes);
     m_dialogs.ExpectAsk(Text(question), true);
     const std::string second = Bytes(pagePath);
-    AutoInsert(m_files, m_dialogs, pagePath, m_payload, {kept.Folder, u"2001-11-29"});
-    EXPECT_EQ(Bytes(keptPath), oldBytes);
+    AutoInsert(m_files, m_dialogs, pagePath, m_payload, {place.Folder, u"2001-11-29"});
+    EXPECT_EQ(Bytes(placedPath), oldBytes);
     EXPECT_EQ(Bytes(u"/state/pages/2001-11-29/home/jo/site/index.html"), second);
-    m_files.FailOn(keptPath, Fault::PermissionDenied);
+    m_files.FailOn(placedPath, Fault::PermissionDenied);
     m_dialogs.ExpectAsk(Text(question), true);
-    EXPECT_EQ(Run(), AutoInsertion::Inserted) << "a kept page that cannot be read stays";
-    EXPECT_EQ(Bytes(keptPath), oldBytes);
+    EXPECT_EQ(Run(), AutoInsertion::Inserted) << "a backup that cannot be read stays";
+    EXPECT_EQ(Bytes(placedPath), oldBytes);
 }
 
 /// The same on the real disk, where a downloaded folder may hold anything.
@@ -230,7 +230,7 @@ protected:
     AutoInsertion Run()
     {
         return AutoInsert(m_store, m_dialogs, Folder.TextAt("site/index.html"), m_payload,
-                          {Folder.TextAt("state"), kept.Day});
+                          {Folder.TextAt("state"), place.Day});
     }
 
     TestFolder Folder;
@@ -268,7 +268,7 @@ TEST_F(AutoInsertIntoFolderTest, PageThatIsALinkToItsOwnBackupIsLeft)
     EXPECT_EQ(Folder.Get("site/index.html"), oldBytes);
 }
 
-TEST_F(AutoInsertIntoFolderTest, KeptPageAndItsFoldersAreTheirOwnersAlone)
+TEST_F(AutoInsertIntoFolderTest, PlacedBackupAndItsFoldersAreTheirOwnersAlone)
 {
     EXPECT_EQ(Run(), AutoInsertion::Inserted);
     const std::string page = "state/2001-11-28" + Folder.At("site/index.html");

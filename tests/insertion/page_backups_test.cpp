@@ -29,7 +29,7 @@ protected:
                             fs::file_time_type::clock::now() - std::chrono::hours(24 * days));
     }
 
-    std::string KeptName(const std::string& day) const
+    std::string NameInPlace(const std::string& day) const
     {
         return "state/first-backups/" + day + Folder.At("site/index.html");
     }
@@ -37,7 +37,7 @@ protected:
     std::vector<std::string> Backups() const
     {
         std::vector<std::string> contents;
-        for (const PageBackup& backup : BackupsOf(Store, Kept, Page))
+        for (const PageBackup& backup : BackupsOf(Store, Place, Page))
             contents.push_back(ValueIn(Store.Read(backup.Path)));
         return contents;
     }
@@ -46,7 +46,7 @@ protected:
     PosixCalls Calls;
     DiskFileStore Store{Calls, Folder.TextAt("state")};
     const Text Page = Folder.TextAt("site/index.html");
-    const KeptPagesPlace Kept = KeptPagesIn(Folder.TextAt("state"), u"2024-05-31");
+    const BackupsPlace Place = BackupsPlaceIn(Folder.TextAt("state"), u"2024-05-31");
     FakeDialogs Dialogs;
 };
 
@@ -55,12 +55,12 @@ using Contents = std::vector<std::string>;
 TEST_F(PageBackupsTest, AreListedNewestFirstWithoutLinksAndOtherPages)
 {
     EXPECT_EQ(Backups(), Contents{"2"});
-    Put(KeptName("2024-05-01"), "30", 30);
-    Put(KeptName("2024-05-30"), "1", 1);
-    Put(KeptName("2024-05-29") + "l", "another page", 1);
-    Put(KeptName("2024-05-28"), "", 3);
-    fs::remove(Folder.At(KeptName("2024-05-28")));
-    Folder.Link(Folder.At("site/index.html"), KeptName("2024-05-28"));
+    Put(NameInPlace("2024-05-01"), "30", 30);
+    Put(NameInPlace("2024-05-30"), "1", 1);
+    Put(NameInPlace("2024-05-29") + "l", "another page", 1);
+    Put(NameInPlace("2024-05-28"), "", 3);
+    fs::remove(Folder.At(NameInPlace("2024-05-28")));
+    Folder.Link(Folder.At("site/index.html"), NameInPlace("2024-05-28"));
     EXPECT_EQ(Backups(), (Contents{"1", "2", "30"}));
     EXPECT_EQ(CompareSizes(12, 12), u"same size");
     EXPECT_EQ(CompareSizes(13, 12), u"1 byte more");
@@ -70,14 +70,14 @@ TEST_F(PageBackupsTest, AreListedNewestFirstWithoutLinksAndOtherPages)
 TEST_F(PageBackupsTest, ABroughtBackPageCanBeTakenBackAndNoBackupIsEverLost)
 {
     const Text beside = BackupPath(Page);
-    EXPECT_TRUE(BringBack(Store, Dialogs, Page, beside, Kept));
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, beside, Place));
     EXPECT_EQ(Folder.Get("site/index.html"), "2");
     EXPECT_EQ(Backups(), (Contents{"the page now", "2"}));
-    EXPECT_FALSE(BringBack(Store, Dialogs, Page, beside, Kept)) << "it is there already";
+    EXPECT_FALSE(BringBack(Store, Dialogs, Page, beside, Place)) << "it is there already";
     EXPECT_EQ(Dialogs.TakeSaid().size(), 1u);
-    const Text now = BackupsOf(Store, Kept, Page).at(0).Path;
+    const Text now = BackupsOf(Store, Place, Page).at(0).Path;
     Folder.Put("site/index.html", "edited since");
-    EXPECT_TRUE(BringBack(Store, Dialogs, Page, now, Kept));
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, now, Place));
     EXPECT_EQ(Folder.Get("site/index.html"), "the page now");
     const Contents left = Backups();
     EXPECT_EQ(std::set<std::string>(left.begin(), left.end()),
@@ -87,23 +87,23 @@ TEST_F(PageBackupsTest, ABroughtBackPageCanBeTakenBackAndNoBackupIsEverLost)
 TEST_F(PageBackupsTest, APageThatIsGoneComesBackAndNoLinkInTheBackupsPlaceIsFollowed)
 {
     fs::permissions(Folder.At("site/Backup of index.html"), fs::perms(0640));
-    Put(KeptName("2024-05-30"), "1", 1);
+    Put(NameInPlace("2024-05-30"), "1", 1);
     const Text beside = BackupPath(Page);
-    const Text aside = Folder.TextAt(KeptName("2024-05-30"));
-    EXPECT_EQ(PageOfBackup(Store, Kept, beside), beside);
+    const Text aside = Folder.TextAt(NameInPlace("2024-05-30"));
+    EXPECT_EQ(PageOfBackup(Store, Place, beside), beside);
     fs::remove(Folder.At("site/index.html"));
     for (const Text& backup : {beside, aside})
-        EXPECT_EQ(PageOfBackup(Store, Kept, backup), Page);
-    EXPECT_TRUE(BringBack(Store, Dialogs, Page, beside, Kept));
+        EXPECT_EQ(PageOfBackup(Store, Place, backup), Page);
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, beside, Place));
     EXPECT_EQ(Folder.Get("site/index.html"), "2");
     EXPECT_EQ(Folder.Status("site/index.html").st_mode & 07777, 0640u);
     fs::remove_all(Folder.At("site"));
-    EXPECT_TRUE(BringBack(Store, Dialogs, Page, aside, Kept));
+    EXPECT_TRUE(BringBack(Store, Dialogs, Page, aside, Place));
     EXPECT_EQ(Folder.Get("site/index.html"), "1");
     EXPECT_EQ(Backups(), Contents{"1"}) << "nothing was there to be kept";
     Folder.Put("private", "mine");
     Folder.Link("../private", "site/Backup of index.html");
-    EXPECT_FALSE(BringBack(Store, Dialogs, Page, beside, Kept));
+    EXPECT_FALSE(BringBack(Store, Dialogs, Page, beside, Place));
     EXPECT_EQ(Folder.Get("site/index.html"), "1");
     EXPECT_EQ(Dialogs.TakeSaid(),
               Texts{u"A link has taken the place of this backup.  Orvane does not follow it."});
@@ -128,13 +128,13 @@ TEST(BringBackTest, APageThatAnotherProgramSavesMeanwhileStaysAsItIs)
     EXPECT_TRUE(dialogs.Said[0].starts_with(u"Another application has changed your Web page"));
 }
 
-TEST(KeptPagePathTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)
+TEST(BackupPathInTest, IsAnotherForEveryPageAndNeverLeavesItsFolder)
 {
-    const KeptPagesPlace kept{.Folder = u"/state/pages", .Day = u"2001-11-28"};
-    EXPECT_EQ(KeptPagePath(kept, u"/a/index.html"), u"/state/pages/2001-11-28/a/index.html");
-    EXPECT_EQ(KeptPagePath(kept, u"/b/index.html"), u"/state/pages/2001-11-28/b/index.html");
-    EXPECT_EQ(KeptPagePath(kept, u"/a/./b/../index.html"), KeptPagePath(kept, u"/a/index.html"));
-    EXPECT_EQ(KeptPagePath(kept, u"/../../etc/\u0142"), u"/state/pages/2001-11-28/etc/\u0142");
+    const BackupsPlace place{.Folder = u"/state/pages", .Day = u"2001-11-28"};
+    EXPECT_EQ(BackupPathIn(place, u"/a/index.html"), u"/state/pages/2001-11-28/a/index.html");
+    EXPECT_EQ(BackupPathIn(place, u"/b/index.html"), u"/state/pages/2001-11-28/b/index.html");
+    EXPECT_EQ(BackupPathIn(place, u"/a/./b/../index.html"), BackupPathIn(place, u"/a/index.html"));
+    EXPECT_EQ(BackupPathIn(place, u"/../../etc/\u0142"), u"/state/pages/2001-11-28/etc/\u0142");
 }
 
 } // namespace

@@ -83,7 +83,7 @@ FinishedPayload Ticker(bool runsToday)
                                       .BODYHTML = u"<P>Hello</P>\r\n",
                                       .OnLoadFunc = u"go",
                                       .OnLoadArgs = u"('é;x')"});
-    payload.RunsToday = runsToday;
+    payload.WantsPageScript = runsToday;
     return payload;
 }
 

@@ -125,7 +125,7 @@ public:
     Done Copy(TextView from, TextView to, Progress* progress) override;
     Done Remove(TextView path) override;
     Done MakeFolder(TextView path, Access access) override;
-    std::shared_ptr<const void> Hold(TextView) override { return nullptr; }
+    std::shared_ptr<const void> LockFolder(TextView) override { return nullptr; }
     Texts Files(TextView folder) const override;
     Outcome<Texts> SubFolders(TextView folder) const override;
     bool FolderExists(TextView path) const override { return Folders.contains(Text(path)); }

@@ -49,8 +49,8 @@ public:
     /// Waits until the expression is true in the page; fails the test after `timeoutMs`.
     void WaitUntil(const std::string& expression, int timeoutMs = 10000);
 
-    /// Clicks on the middle of an element, which is given as a JavaScript expression; fails the test
-    /// when there is no such element.
+    /// Clicks on the middle of an element, which is given as a JavaScript expression; fails the
+    /// test when there is no such element.
     void ClickOn(const std::string& element);
 
     /// The widget to which mouse, keyboard and touch events for the page are sent.

@@ -1,6 +1,6 @@
 /**
  * Opens every page of the tour from its folder in the system's browsers, and lists the files that they miss
- * and the errors of scripts: `node tests/tour/in_browsers.mjs [chromium] [firefox]`, behind orvane_tour and
+ * and the errors of scripts: `node tests/tour/in_browsers.mjs [chromium] [firefox]`, after orvane_tour and
  * tests/browser/other_browsers, which installs what is needed.
  */
 import { existsSync, readdirSync } from "node:fs";

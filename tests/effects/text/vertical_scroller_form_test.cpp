@@ -49,7 +49,7 @@ TEST_F(VerticalScrollerFormTest, FromFreshToPayloadAndOnceMore)
     EXPECT_EQ(m_form.TakePayload(), Generate(wanted));
     EXPECT_EQ(m_form.Parameters(), wanted);
 
-    // Back from the delivery: Done does nothing, Previous behind it ends the wizard again, and
+    // Back from the delivery: Done does nothing, Previous after it ends the wizard again, and
     // Previous at once shows the page, from which Done ends it.
     m_form.show();
     EXPECT_EQ(WordsOf(m_form, "cmdBGColor"), u"Select Color");

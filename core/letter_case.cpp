@@ -1,4 +1,4 @@
-#include "core/letters.h"
+#include "core/letter_case.h"
 
 namespace orvane {
 
