@@ -52,7 +52,7 @@ TEST(HintsTest, AreAtTheQuotesThatEndATextInTheScriptAndAtNoOthers)
               "cboFont: ', cboFontSize: \"");
     EXPECT_EQ(Shown(VerticalScroller{.Items = {{u"it's \"", u"\""}, {u"", u"b'"}}}), "lstLinks: '");
     EXPECT_EQ(HintsOf(ScrollerItem{u"it's", u"a'b"}).size(), 1u);
-    EXPECT_EQ(Shown(PulldownMenu{.List1 = {u"'\""}, .List2 = {u"'"}, .cboTarget = u"\"it's"}),
+    EXPECT_EQ(Shown(PulldownMenu{.Items = {{u"'\"", u"'"}}, .cboTarget = u"\"it's"}),
               "cboTarget: '");
     EXPECT_EQ(Shown(AntiSpamLink{.Email = u"o'neil@a.b", .MailToText = u"'", .txtSubject = u"\""}),
               "Email: ', txtSubject: \"");
