@@ -51,14 +51,18 @@ TEST(AppletTagTest, AQuoteMustStandBeforeFourLetters)
 
 TEST(AppletTagTest, ReadsTheLettersBehindTheFirstCode)
 {
-    EXPECT_EQ(TagOf(u"<APPLET CODE=AnimatePLUS28 CODE=Lake>"),
-              (AppletLetters{u"Anima", u"AnimateP"}));
-    EXPECT_EQ(TagOf(u"<APPLET CODE=\"Animate1.class\">"), (AppletLetters{u"\"Anim", u"\"Animate"}));
-    EXPECT_EQ(TagOf(u"x CODE=Li"), (AppletLetters{u"Li", u"Li"}));
+    const auto letters = [](TextView pasted) {
+        const PastedTag tag = TagOf(pasted);
+        return std::pair(tag.AppletTextAfterCODE, tag.AppletText);
+    };
+    using Letters = std::pair<Text, Text>;
+    EXPECT_EQ(letters(u"<APPLET CODE=AnimatePLUS28 CODE=Lake>"), Letters(u"Anima", u"AnimateP"));
+    EXPECT_EQ(letters(u"<APPLET CODE=\"Animate1.class\">"), Letters(u"\"Anim", u"\"Animate"));
+    EXPECT_EQ(letters(u"x CODE=Li"), Letters(u"Li", u"Li"));
     // Without the key the letters from the fifth on are taken.
-    EXPECT_EQ(TagOf(u"code=\"Animate1.class\""), (AppletLetters{u"=\"Ani", u"=\"Animat"}));
-    EXPECT_EQ(TagOf(u"1234Animate1"), (AppletLetters{u"Anima", u"Animate1"}));
-    EXPECT_EQ(TagOf(u"123"), (AppletLetters{}));
+    EXPECT_EQ(letters(u"code=\"Animate1.class\""), Letters(u"=\"Ani", u"=\"Animat"));
+    EXPECT_EQ(letters(u"1234Animate1"), Letters(u"Anima", u"Animate1"));
+    EXPECT_EQ(letters(u"123"), Letters());
 }
 
 TEST(PipeParseTest, CutsAtTheBarsAndOffTheLastCharacter)
