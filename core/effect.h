@@ -26,7 +26,8 @@ namespace orvane {
 //   Recall(effect, settings)         fills a fresh effect with what earlier ones left
 //   Remember(effect, settings)       leaves that for later ones
 //
-// Pages are counted from 0.
+// Pages are counted from 0. What an effect has besides that is made for today's browsers is said
+// in services/block_fields.h, and reedit/block_reader.h reads it back from a page.
 
 /// A fresh effect of one of its kinds.
 template <class Effect>

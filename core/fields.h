@@ -7,16 +7,31 @@
 #include <array>
 #include <concepts>
 #include <cstddef>
+#include <optional>
+#include <span>
 #include <type_traits>
 #include <vector>
 
 namespace orvane {
 
-/// The name of a field of an effect, which is the object name of its control as well.
+/// The least and the greatest value of a number.
+struct NumberBounds
+{
+    double Least;
+    double Most;
+    bool operator==(const NumberBounds&) const = default;
+};
+
+/// The name of a field of an effect, which is the object name of its control as well, and what else
+/// is known of the field whatever its value is.
 struct FieldName
 {
     ControlName Name;
-    bool IsSecret = false; ///< its value is never kept in a draft
+    bool IsSecret = false;               ///< its value is never kept in a draft
+    bool IsContent = false;              ///< stands in a block's content, not in an attribute
+    bool IsColor = false;                ///< what CSS takes; empty or "-": as on the page
+    std::optional<NumberBounds> Bounds;  ///< of a number, also of one that is kept as typed
+    std::span<const TextView> Choices{}; ///< the words that it may hold; empty: any
     /// Of rows: the names under which a draft keeps their second field and those that follow.
     /// Empty: it keeps all fields under `Name`, one row after the other.
     std::array<ControlName, 4> Others = {};
@@ -38,6 +53,38 @@ constexpr FieldName Lists(const char* first, Names... others)
     FieldName name(first);
     name.Others = {others...};
     return name;
+}
+
+/// The name of a field that stands in a block's content: a text, rows or pictures.
+constexpr FieldName ContentField(const char* name)
+{
+    FieldName field(name);
+    field.IsContent = true;
+    return field;
+}
+
+/// The name of a number with its bounds.
+constexpr FieldName NumberField(const char* name, double least, double most)
+{
+    FieldName field(name);
+    field.Bounds = NumberBounds{least, most};
+    return field;
+}
+
+/// The name of a colour that may be as on the page.
+constexpr FieldName ColorField(const char* name)
+{
+    FieldName field(name);
+    field.IsColor = true;
+    return field;
+}
+
+/// The name of a text that is one of these words, which live as long as the program.
+constexpr FieldName ChoiceField(const char* name, std::span<const TextView> choices)
+{
+    FieldName field(name);
+    field.Choices = choices;
+    return field;
 }
 
 /// Accepts `Effect` and `const Effect`, so that one `ForEachField` serves both.

@@ -54,6 +54,8 @@ struct EffectPayload
     std::vector<MadeFile> MadeFiles;  ///< those of them that the effect makes
     Text SavedHEAD; ///< a copy of the effect's script or BODY code, kept in OrvaneCore
     Text SavedBODY; ///< a copy of its BODY code, or that code with sample words
+    bool IsBlock =
+        false; ///< made for today's browsers; its files are those that it names, no others
     bool operator==(const EffectPayload&) const = default;
 };
 

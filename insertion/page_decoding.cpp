@@ -1,9 +1,11 @@
 #include "insertion/page_decoding.h"
 
+#include "insertion/character_names.h"
+#include "insertion/page_encoding.h"
+
 #include <charconv>
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace orvane {
 
@@ -17,6 +19,9 @@ std::optional<Text> CharacterOf(std::string_view digits, int base)
     if (read.ec != std::errc() || read.ptr != digits.data() + digits.size() || number == 0 ||
         number > 0x10FFFF)
         return std::nullopt;
+    // Pages mean the characters that Windows-1252 has at these places, and browsers know.
+    if (number >= 0x80 && number < 0xA0)
+        return FromWindows1252(std::string(1, static_cast<char>(number)));
     if (number < 0x10000)
         return Text(1, static_cast<char16_t>(number));
     return Text{static_cast<char16_t>(0xD7C0 + (number >> 10)),
@@ -26,11 +31,8 @@ std::optional<Text> CharacterOf(std::string_view digits, int base)
 /// The character that a reference such as "&amp;" stands for, given without "&" and ";".
 std::optional<Text> CharacterReferred(std::string_view name)
 {
-    constexpr std::pair<std::string_view, char16_t> named[] = {
-        {"amp", u'&'}, {"quot", u'"'}, {"lt", u'<'}, {"gt", u'>'}};
-    for (const auto& [word, character] : named)
-        if (name == word)
-            return Text(1, character);
+    if (const char16_t character = CharacterNamed(name))
+        return Text(1, character);
     if (!name.starts_with('#'))
         return std::nullopt;
     name.remove_prefix(1);
@@ -71,24 +73,6 @@ Text WithoutBackslashes(TextView quoted)
             plain += quoted[at];
     }
     return plain;
-}
-
-Text WithoutPercents(TextView address)
-{
-    const std::string bytes = ToUtf8(address);
-    std::string plain;
-    for (std::size_t at = 0; at < bytes.size(); ++at) {
-        unsigned char byte = 0;
-        const char* digits = bytes.data() + at + 1;
-        if (bytes[at] == '%' && at + 2 < bytes.size() &&
-            std::from_chars(digits, digits + 2, byte, 16).ptr == digits + 2) {
-            plain += static_cast<char>(byte);
-            at += 2;
-        } else {
-            plain += bytes[at];
-        }
-    }
-    return FromUtf8(plain);
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "insertion/page_files.h"
 
 #include "core/file_names.h"
+#include "core/percents.h"
 #include "insertion/page_decoding.h"
 #include "insertion/page_markup.h"
 

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "core/fields.h"
+#include "core/payload.h"
+#include "core/text.h"
+
+#include <variant>
+#include <vector>
+
+namespace orvane {
+
+/// A message of a block, and the address that it leads to; empty for none.
+struct BlockRow
+{
+    Text Words; ///< lines of them end in CR LF
+    Text Link;
+    bool operator==(const BlockRow&) const = default;
+};
+
+/// A picture of a block.
+struct BlockPicture
+{
+    Text Address;     ///< as the page refers to it
+    Text Source;      ///< full path; empty where it is not known
+    Text Description; ///< for those who do not see it; empty for a mere ornament
+    Text Link;        ///< empty for none
+    int Width = 0;    ///< of the file, in pixels; 0 where it is not known
+    int Height = 0;
+    bool operator==(const BlockPicture&) const = default;
+};
+
+/// An attribute of a block's root, as it is meant: without quotes and references.
+struct BlockAttribute
+{
+    Text Name;
+    Text Value;
+    bool operator==(const BlockAttribute&) const = default;
+};
+
+using BlockRows = std::vector<BlockRow>;
+using BlockPictures = std::vector<BlockPicture>;
+using BlockAttributes = std::vector<BlockAttribute>;
+
+/// What a block shows, which the page has as ordinary HTML: a text whose lines end in CR LF, rows,
+/// pictures, or nothing.
+using BlockContent = std::variant<std::monostate, Text, BlockRows, BlockPictures>;
+
+/// Which pictures of a block are seen, and loaded, without its script.
+enum class PicturesSeen
+{
+    All,
+    First,
+    None,
+};
+
+/// One stretch of a page that is made for today's browsers: a root element with the author's
+/// content inside it, the options as its attributes, and the script of its kind, which never
+/// changes with them.
+struct Block
+{
+    Text Kind; ///< with the number of its format, such as "scroller-1"
+    BlockAttributes Attributes;
+    BlockContent Content;
+    PicturesSeen Seen = PicturesSeen::All;
+};
+
+/// The page text of a block. Whatever the values are, none ends an attribute, an element, a comment
+/// or the script, and none begins one; characters that no page can hold are left out. Attributes
+/// whose names no tag can hold are left out too.
+Text WriteBlock(const Block& block);
+
+/// The open tag of a block's root, for a block that is no DIV or SPAN.
+Text OpenTagOf(const Block& block, TextView element);
+
+/// The files beside the page that the pictures name. Those at another place are left out, and so is
+/// what goes beyond the slots.
+RequiredFiles FilesOf(const BlockContent& content);
+
+/// The text as a page shows it on one line: without control characters, with a blank in place of a
+/// line end, and without blanks at both ends.
+Text OneLine(TextView text);
+
+/// The lines of a text as a page shows them: without control characters, with one blank where
+/// several stand, without blanks at both ends of a line and without empty lines at both ends of the
+/// text. They end in CR LF.
+Text TidyLines(TextView text);
+
+/// The texts of rows, pictures and attributes, one behind the other, and those of such texts; what
+/// is incomplete at their end is left out.
+FieldTexts TextsOf(const BlockRows& rows);
+FieldTexts TextsOf(const BlockPictures& pictures);
+FieldTexts TextsOf(const BlockAttributes& attributes);
+void SetField(BlockRows& rows, const FieldTexts& texts);
+void SetField(BlockPictures& pictures, const FieldTexts& texts);
+void SetField(BlockAttributes& attributes, const FieldTexts& texts);
+
+} // namespace orvane

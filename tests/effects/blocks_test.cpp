@@ -1,0 +1,303 @@
+#include "core/block_scripts.h"
+#include "core/draft.h"
+#include "core/effect.h"
+#include "core/numbers.h"
+#include "core/percents.h"
+#include "effects/page/animation_wizard.h"
+#include "effects/page/color_scrollbars.h"
+#include "effects/page/falling_images.h"
+#include "effects/text/fading_message.h"
+#include "effects/text/flying_text.h"
+#include "effects/text/smooth_scroll.h"
+#include "reedit/block_reader.h"
+#include "tests/support/expect_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+namespace orvane::testing {
+namespace {
+
+/// Values that a page could take for its own code; what a wizard mends is not among them.
+class Chance
+{
+public:
+    explicit Chance(unsigned seed) : m_source(seed) {}
+
+    int Number(int least, int most) { return std::uniform_int_distribution(least, most)(m_source); }
+
+    Text Hostile(TextView between = u" ")
+    {
+        constexpr TextView pieces[] = {
+            u"</script>",
+            u"-->",
+            u"<!--",
+            u"\"",
+            u"'",
+            u"&",
+            u"&amp;",
+            u"&nbsp;",
+            u"&#10;",
+            u"<",
+            u"<br>",
+            u"</span></div>",
+            u"</li><li>",
+            u"</style>",
+            u"<%= 1 %>",
+            u"=\"",
+            u"\\",
+            u"x",
+            u"<!-- ***** End:Varlo Smooth Scroller special effect ***** -->",
+            u"é",
+            u"€",
+            u"😀",
+            u"\u00A0",
+            u"data-orvane=\"scroller-1\"",
+            u"`",
+            u"%20",
+            u"no",
+            u"yes",
+            u"-",
+            u"5",
+            u"®"};
+        Text text;
+        for (int count = Number(1, 5); count > 0; --count) {
+            if (!text.empty())
+                text += Number(0, 1) == 0 ? TextView() : between;
+            text += pieces[Number(0, std::size(pieces) - 1)];
+        }
+        return text;
+    }
+
+    void Fill(const FieldName& name, Text& value)
+    {
+        constexpr TextView colors[] = {u"", u"red", u"#aB3", u"rgb(1, 2, 3)"};
+        if (name.Bounds)
+            value = NumberToText(Number(static_cast<int>(name.Bounds->Least * 10),
+                                        static_cast<int>(name.Bounds->Most * 10)) /
+                                 10.0);
+        else if (!name.Choices.empty())
+            value = name.Choices[static_cast<std::size_t>(
+                Number(0, static_cast<int>(name.Choices.size()) - 1))];
+        else if (name.IsColor)
+            value = colors[Number(0, 3)];
+        else
+            value = Hostile(name.Name == "txtText" ? lineEnd : u" ");
+    }
+    void Fill(const FieldName& name, int& value)
+    {
+        value = Number(static_cast<int>(name.Bounds->Least), static_cast<int>(name.Bounds->Most));
+    }
+    void Fill(const FieldName&, bool& value) { value = Number(0, 1) == 1; }
+    void Fill(const FieldName&, BlockRows& rows)
+    {
+        for (int count = Number(1, 4); count > 0; --count)
+            rows.push_back({Hostile(lineEnd), Number(0, 1) == 0 ? Text() : Hostile()});
+    }
+    void Fill(const FieldName&, BlockPictures& pictures)
+    {
+        for (int count = Number(1, 4); count > 0; --count)
+            pictures.push_back(
+                {Hostile(), u"", Hostile(), Hostile(), Number(0, 32767), Number(0, 9)});
+    }
+    void Fill(const FieldName&, BlockAttributes& others)
+    {
+        others = {{u"class", Hostile(u"\n")}, {u"onclick", Hostile(u"\t")}, {u"data-x", u""}};
+    }
+
+private:
+    std::mt19937 m_source;
+};
+
+template <class Effect>
+class BlockTest : public ::testing::Test
+{
+};
+using BlockEffects = ::testing::Types<SmoothScroll, FadingMessage, FlyingText, FallingImages,
+                                      AnimationWizard, ColorScrollbars>;
+TYPED_TEST_SUITE(BlockTest, BlockEffects);
+
+template <class Effect>
+Text ScriptElementOf()
+{
+    const TextView kind = Effect::Block;
+    return Join({u"<script data-orvane-run=\"", kind, u"\">",
+                 BlockScript(kind.substr(0, kind.size() - 2)), u"</script>"});
+}
+
+TYPED_TEST(BlockTest, WhateverTheValuesAreTheyAreReadAsTheyWereWritten)
+{
+    const char* given = std::getenv("ORVANE_SEED");
+    const unsigned seed = given ? static_cast<unsigned>(std::atoi(given)) : std::random_device()();
+    SCOPED_TRACE(::testing::Message() << "ORVANE_SEED=" << seed);
+    Chance chance(seed);
+    for (int round = 0; round < 300 && !this->HasFailure(); ++round) {
+        TypeParam effect;
+        ForEachField(effect, [&](const FieldName& name, auto& value) { chance.Fill(name, value); });
+        if constexpr (std::same_as<TypeParam, AnimationWizard>)
+            for (BlockPicture& picture : effect.lstPictures)
+                picture.Description = picture.Link = u"";
+        TypeParam tidied = effect;
+        Tidy(tidied);
+        ASSERT_EQ(tidied, effect) << ToUtf8(WriteDraft(effect)) << ToUtf8(WriteDraft(tidied));
+
+        const EffectPayload payload = Generate(effect);
+        const Text text = payload.HEADHTML + payload.BODYHTML;
+        TypeParam read;
+        ASSERT_TRUE(ReadBlock(read, Join({u"<p title='>'><!-- <b> -->", text, u"<li>more"})));
+        ASSERT_EQ(read, effect) << ToUtf8(WriteDraft(effect)) << ToUtf8(WriteDraft(read))
+                                << ToUtf8(text);
+        const Text values = ReplaceAll(text, ScriptElementOf<TypeParam>(), u"");
+        for (const TextView end : {u"-->", u"<!", u"<%", u"</script", u"<script"})
+            ASSERT_EQ(Find(values, end), 0u) << ToUtf8(values);
+    }
+}
+
+TYPED_TEST(BlockTest, IsWrittenAsItsContractSays)
+{
+    const std::string kind(ToUtf8(Left(TypeParam::Block, TypeParam::Block.size() - 2)));
+    int count = 0;
+    for (const std::string& fields : ExpectedNames(".fields")) {
+        if (!fields.starts_with("block_" + kind + ".") &&
+            !fields.starts_with("block_" + kind + "_"))
+            continue;
+        ++count;
+        TypeParam effect;
+        ReadDraft(effect, ExpectedText(fields), Secrets::Taken);
+        EXPECT_EQ(FirstComplaint(effect), std::nullopt);
+        TidyFields(effect);
+        const EffectPayload payload = PayloadOf(effect, {});
+        EXPECT_TRUE(payload.IsBlock);
+        EXPECT_EQ(payload.HEADHTML.empty(), kind != "scrollbars");
+        const Text expected = ExpectedText(fields.substr(0, fields.find('.')) + ".html");
+        ExpectSameText(ReplaceAll(expected, u"§", ScriptElementOf<TypeParam>()),
+                       payload.HEADHTML + payload.BODYHTML);
+    }
+    EXPECT_NE(count, 0);
+    EXPECT_EQ(BlockScript(Left(TypeParam::Block, kind.size())).empty(), kind == "scrollbars");
+}
+
+/// Expects that the text shows the effect that these lines of a draft make of a fresh one.
+template <class Effect>
+void ExpectRead(TextView text, TextView draft)
+{
+    Effect expected;
+    ReadDraft(expected, draft, Secrets::Taken);
+    Effect read;
+    ForEachField(read, [](const FieldName&, auto& value) { value = {}; });
+    EXPECT_TRUE(ReadBlock(read, text));
+    EXPECT_EQ(read, expected) << ToUtf8(WriteDraft(read));
+}
+
+TEST(BlockReaderTest, ReadsWhatWasEditedByHand)
+{
+    ExpectRead<SmoothScroll>(
+        u"<DIV DATA-SPEED=80 class='news box' Data-Orvane='scroller-1'\n"
+        u"data-back-color=\"#002244\" DATA-speed=90><UL>\n<LI>Caf&eacute; "
+        u"&amp; b&#228;r&#146;s\r\n<li><A HREF=a.html?b=1&amp;c=2>\nPlums &ndash;"
+        u"\n  now</A><li><br></UL></DIV><li>Later",
+        u"lstMessages: Café & bär’s\nlstMessages: \nlstMessages: Plums – now\n"
+        u"lstMessages: a.html?b=1&c=2\nsldrSpeed: 80\ncmdBackColor: #002244\n"
+        u"Others: class\nOthers: news box");
+    ExpectRead<SmoothScroll>(
+        u"<p><div data-orvane=scroller-27 data-speed=9999 data-gap=wide data-width=12.5px "
+        u"data-faded-edges data-pause-on-hover=no data-direction=up data-text-color=- "
+        u"data-font-size=-3 data-back-color='red;}'><div><ul><li><p>One</p><p>Two</p></div></div>"
+        u"<ul><li>Three</ul>",
+        u"lstMessages: One Two\nlstMessages: \nsldrSpeed: 500\ntxtWidth: 12.5\n"
+        u"chkFadedEdges: yes\nchkPauseOnHover: no");
+    ExpectRead<FlyingText>(
+        u"<p>New: <span data-orvane='flying-1' data-again-after=1e1> Plums <BR/>\n"
+        u"<b>from</b>   <a href=a.html>Monday</a><script>\"</span>\"</script>"
+        u"<!-- </span> --> ! </span> tail",
+        u"txtText: Plums\\r\\nfrom Monday !\ntxtAgainAfter: 10");
+    ExpectRead<AnimationWizard>(
+        u"<div data-orvane=animation-1 data-change=23><a href=www.x.example><img alt=\"A cat\" "
+        u"WIDTH=100 src='a%20b.gif'></a><img src=b.gif height=80%><img alt=none>",
+        u"lstPictures: a%20b.gif\nlstPictures: \nlstPictures: \nlstPictures: \nlstPictures: 100\n"
+        u"lstPictures: 0\nlstPictures: b.gif\nlstPictures: \nlstPictures: \nlstPictures: \n"
+        u"lstPictures: 0\nlstPictures: 80\ntxtDescription: A cat\ntxtLink: http://www.x.example\n"
+        u"cboChange: 23");
+    ExpectRead<ColorScrollbars>(u"<style DATA-ORVANE=scrollbars-1 data-track-color=-></style>",
+                                u"cmdTrackColor: ");
+    SmoothScroll other{.sldrSpeed = 7};
+    EXPECT_FALSE(
+        ReadBlock(other, u"<!-- <div data-orvane=scroller-1> --><p data-orvane=message-1>"));
+    EXPECT_EQ(other, SmoothScroll{.sldrSpeed = 7});
+}
+
+TEST(BlockCheckTest, TellsWhatKeepsTheAuthorOnAPage)
+{
+    const BlockPictures two = {{u"a.gif"}, {u"b.gif"}};
+    const BlockRows rows = {{u"Now"}};
+    const std::pair<std::optional<Complaint>, Complaint> complaints[] = {
+        {FirstComplaint(SmoothScroll{.lstMessages = {{u" \r\n"}}}),
+         {u"Please add a message to the list.", "lstMessages"}},
+        {FirstComplaint(SmoothScroll{.lstMessages = rows, .txtGap = u"1001"}),
+         {u"Please enter a number from 0 to 1000.", "txtGap"}},
+        {FirstComplaint(FadingMessage{.lstMessages = rows, .txtFadeSeconds = u"1 s"}),
+         {u"Please enter a number from 0.2 to 10.", "txtFadeSeconds"}},
+        {CheckPage(FadingMessage{.txtFadeSeconds = u"x", .Look = {.cboFontSize = u"big"}}, 2),
+         {u"Please enter a number from 0 to 4000.", "cboFontSize"}},
+        {FirstComplaint(FlyingText()), {u"Please enter the text that is to fly.", "txtText"}},
+        {FirstComplaint(FallingImages{.lstPictures = {6, {u"a.gif"}}}),
+         {u"Please add 5 pictures at most to the list.", "lstPictures"}},
+        {FirstComplaint(FallingImages{.lstPictures = two, .txtSmallest = u"41", .txtLargest = u""}),
+         {u"The smallest pictures are larger than the largest.  Please enter other widths.",
+          "txtSmallest"}},
+        {FirstComplaint(AnimationWizard()), {u"Please add a picture to the list.", "lstPictures"}},
+        {FirstComplaint(AnimationWizard{.lstPictures = {{u"a.gif"}}}),
+         {u"Please add a second picture to the list.", "lstPictures"}},
+        {FirstComplaint(AnimationWizard{.lstPictures = {{u"a.gif", u"/x/a.gif"}, {u"a.gif"}}}),
+         {u"Two different pictures of the list are called \"a.gif\".  Please give one of the files "
+          u"another name.",
+          "lstPictures"}},
+        {FirstComplaint(ColorScrollbars{.TrackColor = u" - "}),
+         {u"Please choose a color for the track.", "cmdTrackColor"}},
+    };
+    for (const auto& [complaint, expected] : complaints) {
+        ASSERT_TRUE(complaint) << ToUtf8(expected.Words);
+        ExpectSameText(expected.Words, complaint->Words);
+        EXPECT_EQ(complaint->Control, expected.Control);
+    }
+}
+
+TEST(BlockTidyTest, MendsWhatNoPageCanHold)
+{
+    FlyingText flying{.txtText = u"\n a \t b\u0001 \r\n\r\n c\xD800 \r\n",
+                      .txtLetterPause = u" +07"};
+    Tidy(flying);
+    EXPECT_EQ(flying, (FlyingText{.txtText = u"a b\r\n\r\nc\uFFFD", .txtLetterPause = u"7"}));
+    SmoothScroll scroll{.lstMessages = {{u" "}, {u"a", u" WWW.x.example\n"}},
+                        .cboDirection = u"up",
+                        .sldrSpeed = 1,
+                        .BackColor = u"red}",
+                        .cboTarget = u"a\u0085\r\nb"};
+    Tidy(scroll);
+    EXPECT_EQ(scroll, (SmoothScroll{.lstMessages = {{u"a", u"http://WWW.x.example"}},
+                                    .sldrSpeed = 5,
+                                    .cboTarget = u"a  b"}));
+    scroll.Others = {{u"x onclick", u"1"}, {u"", u"2"}, {u"title", u"3"}};
+    EXPECT_EQ(
+        OpenTagOf(BlockOf(scroll), u"div"),
+        u"<div data-orvane=\"scroller-1\" data-speed=\"5\" data-target=\"a  b\" title=\"3\">");
+}
+
+TEST(BlockFilesTest, AreThoseBesideThePage)
+{
+    RequiredFiles expected;
+    expected.Names = {u"a b#.gif", u"sub/c.gif"};
+    expected.Sources = {u"/home/a b#.gif"};
+    EXPECT_EQ(FilesOf(BlockPictures{{WithPercents(u"a b#.gif"), u"/home/a b#.gif"},
+                                    {u"http://x.example/d.gif"},
+                                    {u"/root.gif"},
+                                    {u"make.php?n=1"},
+                                    {u"a%20b%23.gif"},
+                                    {u"sub/c.gif#part"}}),
+              expected);
+}
+
+} // namespace
+} // namespace orvane::testing
