@@ -52,10 +52,9 @@ struct EffectPayload
     RequiredFiles Required;
     std::array<Text, 3> SupportFiles; ///< names of the effect's files in the program's folder
     std::vector<MadeFile> MadeFiles;  ///< those of them that the effect makes
-    Text SavedHEAD; ///< a copy of the effect's script or BODY code, kept in OrvaneCore
-    Text SavedBODY; ///< a copy of its BODY code, or that code with sample words
-    bool IsBlock =
-        false; ///< made for today's browsers; its files are those that it names, no others
+    Text SavedHEAD;       ///< a copy of the effect's script or BODY code, kept in OrvaneCore
+    Text SavedBODY;       ///< a copy of its BODY code, or that code with sample words
+    bool IsBlock = false; ///< for today's browsers; needs the required files and no others
     bool operator==(const EffectPayload&) const = default;
 };
 

@@ -123,10 +123,17 @@ private:
         BlockPicture picture{.Address = ValueOf(attributes, u"src"),
                              .Description = ValueOf(attributes, u"alt"),
                              .Link = m_link};
-        constexpr NumberBounds pixels{0, std::numeric_limits<std::int16_t>::max()};
-        SetField(picture.Width, {MendedNumber(ValueOf(attributes, u"width"), pixels, u"0")});
-        SetField(picture.Height, {MendedNumber(ValueOf(attributes, u"height"), pixels, u"0")});
+        SetPixels(picture.Width, ValueOf(attributes, u"width"));
+        SetPixels(picture.Height, ValueOf(attributes, u"height"));
         m_pictures.push_back(std::move(picture));
+    }
+
+    /// Takes no size in percent, which is none of the file.
+    static void SetPixels(int& size, const Text& text)
+    {
+        constexpr NumberBounds pixels{0, std::numeric_limits<std::int16_t>::max()};
+        if (IsNumeric(text))
+            SetField(size, {MendedNumber(text, pixels, u"0")});
     }
 
     Text m_words;

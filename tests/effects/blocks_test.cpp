@@ -218,7 +218,7 @@ TEST(BlockReaderTest, ReadsWhatWasEditedByHand)
         u"WIDTH=100 src='a%20b.gif'></a><img src=b.gif height=80%><img alt=none>",
         u"lstPictures: a%20b.gif\nlstPictures: \nlstPictures: \nlstPictures: \nlstPictures: 100\n"
         u"lstPictures: 0\nlstPictures: b.gif\nlstPictures: \nlstPictures: \nlstPictures: \n"
-        u"lstPictures: 0\nlstPictures: 80\ntxtDescription: A cat\ntxtLink: http://www.x.example\n"
+        u"lstPictures: 0\nlstPictures: 0\ntxtDescription: A cat\ntxtLink: http://www.x.example\n"
         u"cboChange: 23");
     ExpectRead<ColorScrollbars>(u"<style DATA-ORVANE=scrollbars-1 data-track-color=-></style>",
                                 u"cmdTrackColor: ");
