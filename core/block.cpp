@@ -138,11 +138,11 @@ RequiredFiles FilesOf(const BlockContent& content)
     std::size_t slot = 0;
     for (const BlockPicture& picture : pictures ? *pictures : BlockPictures()) {
         const Text name = FileBesidePage(picture.Address);
-        if (slot == files.Names.size() || name.empty() ||
-            std::ranges::find(files.Names, name) != files.Names.end())
+        if (slot == files.RequiredFileNames.size() || name.empty() ||
+            std::ranges::find(files.RequiredFileNames, name) != files.RequiredFileNames.end())
             continue;
-        files.Names[slot] = name;
-        files.Sources[slot++] = picture.Source;
+        files.RequiredFileNames[slot] = name;
+        files.RequiredFileSources[slot++] = picture.Source;
     }
     return files;
 }

@@ -29,7 +29,7 @@ std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page)
         return CheckNumbers(animation, page);
     if (animation.lstPictures.size() == 1)
         return Complaint{u"Please add a second picture to the list.", "lstPictures"};
-    constexpr std::size_t most = std::tuple_size_v<decltype(RequiredFiles::Names)>;
+    constexpr std::size_t most = std::tuple_size_v<decltype(RequiredFiles::RequiredFileNames)>;
     return CheckPictures(animation.lstPictures, "lstPictures", most);
 }
 

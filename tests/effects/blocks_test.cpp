@@ -288,8 +288,8 @@ TEST(BlockTidyTest, MendsWhatNoPageCanHold)
 TEST(BlockFilesTest, AreThoseBesideThePage)
 {
     RequiredFiles expected;
-    expected.Names = {u"a b#.gif", u"sub/c.gif"};
-    expected.Sources = {u"/home/a b#.gif"};
+    expected.RequiredFileNames = {u"a b#.gif", u"sub/c.gif"};
+    expected.RequiredFileSources = {u"/home/a b#.gif"};
     EXPECT_EQ(FilesOf(BlockPictures{{WithPercents(u"a b#.gif"), u"/home/a b#.gif"},
                                     {u"http://x.example/d.gif"},
                                     {u"/root.gif"},
