@@ -88,7 +88,8 @@ protected:
         m_pane.resize(640, 480);
         m_pane.show();
         ASSERT_FALSE(FaultIn(m_pane.Navigate({.Path = FromUtf8(m_page.Path("page.html")),
-                                              .Bytes = "<script>open('popup.html')</script>"})));
+                                              .Bytes = "<script>open('popup.html')</script>",
+                                              .Files = {u"popup.html"}})));
         ASSERT_TRUE(WaitFor([&] { return Popup() != nullptr; }));
         Popup()->activateWindow();
         ASSERT_TRUE(WaitFor([&] { return QApplication::activeWindow() == Popup(); }));
