@@ -89,8 +89,7 @@ void AddTextLook(PageBuilder& page)
 {
     page.OpenChoiceBox("cboFont", u"&Font:", fonts,
                        u"The font of the text, or several with commas between them");
-    page.Narrow(page.OpenChoiceBox("cboFontSize", u"Font si&ze:", sizes, u"The size of the text",
-                                   u"pixels"));
+    page.OpenChoiceBox("cboFontSize", u"Font si&ze:", sizes, u"The size of the text", u"pixels");
     page.ChoiceBox("cboFontStyle", u"Font st&yle:", styles);
     AddPageColor(page, "cmdTextColor", u"Te&xt color:");
 }
@@ -115,8 +114,8 @@ void AddTarget(PageBuilder& page)
 
 void AddWidth(PageBuilder& page)
 {
-    page.NumberBox("txtWidth", u"&Width:", u"The width of the effect; 0 is as wide as its place",
-                   u"pixels");
+    page.NumberBox("txtWidth", u"&Width:", u"The width of the effect",
+                   u"pixels; 0 is as wide as its place");
 }
 
 } // namespace orvane

@@ -29,9 +29,7 @@ FlyingTextForm::FlyingTextForm(Workbench& bench, QWidget* parent)
     flight.ChoiceBox("cboPath", u"Their &way:", paths);
     flight.NumberBox("txtLetterPause", u"Pause &between letters:", {}, u"milliseconds");
     flight.NumberBox("txtFlightSeconds", u"&Each letter flies for:", {}, u"seconds");
-    flight.NumberBox("txtAgainAfter", u"Fly &again after:", u"0: the text stays as it is",
-                     u"seconds; 0 is never");
-    flight.Fill();
+    flight.NumberBox("txtAgainAfter", u"Fly &again after:", {}, u"seconds; 0 is never");
 
     PageBuilder look = AddPage({heading, u"Choose what the text looks like."});
     AddTextLook(look);

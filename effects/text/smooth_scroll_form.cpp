@@ -27,7 +27,7 @@ SmoothScrollForm::SmoothScrollForm(Workbench& bench, QWidget* parent)
     movement.Slider("sldrSpeed", u"&Speed:", u"Slow", u"Fast", {});
     movement.NumberBox("txtGap", u"&Gap behind each message:", {}, u"pixels");
     AddWidth(movement);
-    movement.NumberBox("txtHeight", u"&Height:", u"0 is as high as the text", u"pixels");
+    movement.NumberBox("txtHeight", u"&Height:", {}, u"pixels; 0 is as high as the text");
     movement.Fill();
 
     PageBuilder look = AddPage({heading, u"Choose what the messages look like."});
