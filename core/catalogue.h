@@ -37,9 +37,6 @@ struct PreviewWords
     TextView PaneAfter;   ///< behind the BODY code, in the pane alone
 };
 
-/// How a block runs in today's browsers.
-inline constexpr TextView runsByItself = u"Runs in today's browsers by itself.";
-
 /// The row that the list to upload shows for an effect without files.
 inline constexpr TextView noRequiredFiles = u"No Required Files.";
 

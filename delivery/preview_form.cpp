@@ -24,11 +24,9 @@ namespace {
 constexpr int publishPanel = 7;
 
 /// The one note of the preview's page on how the effect runs.
-Text WordsOnBrowsers(const EffectPayload& effect)
+Text WordsOnBrowsers(EffectKind kind)
 {
-    if (effect.IsBlock)
-        return Text(runsByItself);
-    const CatalogueRow& row = RowOf(effect.Kind);
+    const CatalogueRow& row = RowOf(kind);
     Text words(row.InTodaysBrowsers);
     if (row.ShowsInStatusLine)
         words += u"  Without it, the framed line below the preview shows the effect here.";
@@ -47,7 +45,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
     setWindowTitle(QStringLiteral("Preview Wizard"));
     const bool isWanted = bench.Settings.Get(settingKeys::runsToday) == u"1";
     m_payload.WantsPageScript = isWanted && !RunsByItself(effect);
-    m_preview = new PreviewPanel(m_pane, {.Sentence = WordsOnBrowsers(effect),
+    m_preview = new PreviewPanel(m_pane, {.Sentence = WordsOnBrowsers(effect.Kind),
                                           .WantsPageScript = isWanted,
                                           .OffersScript = !effect.IsBlock});
     connect(m_preview, &PreviewPanel::PageScriptChosen, this, &PreviewForm::ChoosePageScript);
