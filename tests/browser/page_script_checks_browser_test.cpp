@@ -1,3 +1,4 @@
+#include "core/block_scripts.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_browser_page.h"
 
@@ -62,11 +63,13 @@ private:
         const QString what = asked["what"].toString();
         const QPoint at = QPointF(asked["x"].toDouble(), asked["y"].toDouble()).toPoint();
         if (what == "begin")
-            Begin();
+            Begin(asked["height"].toInt());
         else if (what == "open")
             Open(asked);
         else if (what == "value")
             return Value(asked["code"].toString().toStdString());
+        else if (what == "script")
+            return QStringView(BlockScript(asked["kind"].toString().toStdU16String())).toString();
         else if (what == "pixels")
             return m_page->ColorsAt(asked["points"].toList());
         else if (what == "mouse")
@@ -76,8 +79,9 @@ private:
         else if (what == "touch")
             Tap(at);
         else
-            QTest::keyClick(&m_page->Surface(),
-                            asked["key"] == "Tab" ? Qt::Key_Tab : Qt::Key_Return);
+            QTest::keyClick(&m_page->Surface(), asked["key"] == "Tab"   ? Qt::Key_Tab
+                                                : asked["key"] == "Esc" ? Qt::Key_Escape
+                                                                        : Qt::Key_Return);
         return {};
     }
 
@@ -94,10 +98,10 @@ private:
         QTest::touchEvent(&m_page->Surface(), m_finger.get()).release(0, at);
     }
 
-    void Begin()
+    void Begin(int height)
     {
         m_page = std::make_unique<BrowserPage>();
-        m_page->Pane.resize(800, 630);
+        m_page->Pane.resize(800, height);
         m_page->AddFile("orvane.js", BytesOf(":/runtime/orvane.js"));
     }
 

@@ -18,9 +18,16 @@ const turn = { straight: 0, arc: 1.5, spiral: 9 };
  * @param {string} path
  */
 function way(letter, from, path) {
-    const { left, top, right, bottom } = letter.getBoundingClientRect();
-    const { clientWidth } = document.documentElement;
-    const room = [-left, clientWidth - right, -top, innerHeight - bottom - 2];
+    const { left, top, width, height } = letter.getBoundingClientRect();
+    // A letter that turns needs a circle.
+    const radius = Math.hypot(width, height) / 2;
+    const [x0, y0] = [left + width / 2, top + height / 2];
+    const room = [
+        Math.min(0, radius - x0),
+        Math.max(0, document.documentElement.clientWidth - radius - x0),
+        Math.min(0, radius - y0),
+        Math.max(0, innerHeight - radius - y0),
+    ];
     let side = ["left", "right", "above", "below"].indexOf(from);
     if (side < 0) side = Math.floor(Math.random() * 4);
     const [x, y] = side < 2 ? [room[side], 0] : [0, room[side]];
