@@ -143,7 +143,8 @@ TEST_P(PageScriptChecksBrowserTest, Pass)
     EXPECT_TRUE(faults.empty()) << faults.join("\n").toStdString();
 }
 INSTANTIATE_TEST_SUITE_P(, PageScriptChecksBrowserTest,
-                         ::testing::Combine(::testing::Values("texts", "pages", "applets", "rules"),
+                         ::testing::Combine(::testing::Values("texts", "pages", "applets", "rules",
+                                                              "blocks"),
                                             ::testing::Values("WithDoctype", "WithoutDoctype")),
                          [](const auto& test) {
                              return std::string(std::get<0>(test.param)) + std::get<1>(test.param);

@@ -22,17 +22,14 @@ function way(letter, from, path) {
     // A letter that turns needs a circle.
     const radius = Math.hypot(width, height) / 2;
     const [x0, y0] = [left + width / 2, top + height / 2];
-    const room = [
-        Math.min(0, radius - x0),
-        Math.max(0, document.documentElement.clientWidth - radius - x0),
-        Math.min(0, radius - y0),
-        Math.max(0, innerHeight - radius - y0),
-    ];
+    const [x1, y1] = [document.documentElement.clientWidth - x0, innerHeight - y0];
+    const room = [radius - x0, x1 - radius, radius - y0, y1 - radius];
     let side = ["left", "right", "above", "below"].indexOf(from);
     if (side < 0) side = Math.floor(Math.random() * 4);
     const [x, y] = side < 2 ? [room[side], 0] : [0, room[side]];
     const within = (/** @type {number} */ n, /** @type {number} */ at) =>
-        Math.max(room[at], Math.min(room[at + 1], n)) + "px";
+        // Its place may be nearer to the edge.
+        (n && Math.max(room[at], Math.min(room[at + 1], n))) + "px";
     return Array.from({ length: steps + 1 }, (_, i) => {
         const rest = 1 - i / steps;
         const angle = rest * turn[path];

@@ -24,7 +24,7 @@ let opened = 0;
 /** What keeps a block from passing in a fresh tab, or null. */
 async function faultOf(browser, row, scenario, doctype) {
     const tab = await browser.newPage();
-    const height = row.parts ? 3600 : 600;
+    const height = row.parts ? 2400 : 600;
     await tab.setViewport({ width: 800, height, hasTouch: true });
     const errors = [];
     // Firefox counts a policy's refusals as errors of the page.

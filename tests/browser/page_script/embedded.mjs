@@ -96,7 +96,7 @@ async function run(group, doctype) {
     const faults = [];
     for (const check of groups[group]) {
         const tab = new EmbeddedTab();
-        await ask("begin", { height: group === "blocks" ? 3600 : 630 });
+        await ask("begin", { height: group === "blocks" ? 2400 : 630 });
         try {
             await check.run(new EmbeddedVisit(tab, (...page) => tab.open(...page), { doctype }));
             const errors = await evaluate("window.scriptErrors ?? []");
