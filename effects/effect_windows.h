@@ -16,6 +16,9 @@
 #include "effects/page/search_box_form.h"
 #include "effects/page/slideshow_form.h"
 #include "effects/text/digital_clock_form.h"
+#include "effects/text/fading_message_form.h"
+#include "effects/text/flying_text_form.h"
+#include "effects/text/smooth_scroll_form.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "effects/text/tooltips_form.h"
 #include "effects/text/vertical_scroller_form.h"
@@ -28,10 +31,11 @@ namespace orvane {
 /// The windows of all effects, each named once.
 using EffectWindows =
     std::tuple<AdvancedAnimatorForm, AllInOneButtonForm, AntiSpamLinkForm, CursorTrailForm,
-               DigitalClockForm, DynamicButtonForm, ImageEffectsForm, ImageFadeForm,
-               MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm, PopupWindowForm,
-               PulldownMenuForm, SearchBoxForm, SlideshowForm, StatusBarTickerForm, TooltipsForm,
-               TypewriterTextForm, VerticalScrollerForm>;
+               DigitalClockForm, DynamicButtonForm, FadingMessageForm, FlyingTextForm,
+               ImageEffectsForm, ImageFadeForm, MoreImageEffectsForm, PasswordProtectionForm,
+               PopupAlertForm, PopupWindowForm, PulldownMenuForm, SearchBoxForm, SlideshowForm,
+               SmoothScrollForm, StatusBarTickerForm, TooltipsForm, TypewriterTextForm,
+               VerticalScrollerForm>;
 
 /// A fresh window of that kind of effect; null where HasWizard() is false.
 std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,

@@ -18,6 +18,9 @@
 #include "effects/page/search_box.h"
 #include "effects/page/slideshow.h"
 #include "effects/text/digital_clock.h"
+#include "effects/text/fading_message.h"
+#include "effects/text/flying_text.h"
+#include "effects/text/smooth_scroll.h"
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/tooltips.h"
 #include "effects/text/vertical_scroller.h"
@@ -31,9 +34,10 @@ namespace orvane {
 /// The parameters of all effects, each named once.
 using EffectParameters =
     std::variant<AdvancedAnimator, AllInOneButton, AntiSpamLink, CursorTrail, DigitalClock,
-                 DynamicButton, ImageEffects, ImageFade, MoreImageEffects, PasswordProtection,
-                 PopupAlert, PopupWindow, PulldownMenu, SearchBox, Slideshow, StatusBarTicker,
-                 Tooltips, TypewriterText, VerticalScroller>;
+                 DynamicButton, FadingMessage, FlyingText, ImageEffects, ImageFade,
+                 MoreImageEffects, PasswordProtection, PopupAlert, PopupWindow, PulldownMenu,
+                 SearchBox, Slideshow, SmoothScroll, StatusBarTicker, Tooltips, TypewriterText,
+                 VerticalScroller>;
 
 /// Whether there is an effect of that kind, and so a wizard for it.
 bool HasWizard(EffectKind kind);

@@ -77,9 +77,21 @@ std::optional<Complaint> CheckNumber(const FieldName& field, TextView text)
                      field.Name};
 }
 
+std::optional<Complaint> Check(const BlockRow& row)
+{
+    if (TidyLines(row.Words).empty())
+        return Complaint{u"Please enter the text of the message.", "txtWords"};
+    return std::nullopt;
+}
+
+void Tidy(BlockRow& row)
+{
+    row = {TidyLines(row.Words), MendedLink(row.Link)};
+}
+
 std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control)
 {
-    if (std::ranges::all_of(rows, [](const auto& row) { return TidyLines(row.Words).empty(); }))
+    if (std::ranges::all_of(rows, [](const auto& row) { return Check(row).has_value(); }))
         return Complaint{u"Please add a message to the list.", control};
     return std::nullopt;
 }
@@ -150,7 +162,7 @@ void MendField(const FieldName& field, int& value, const Text&)
 void MendField(const FieldName&, BlockRows& rows, const Text&)
 {
     for (BlockRow& row : rows)
-        row = {TidyLines(row.Words), MendedLink(row.Link)};
+        Tidy(row);
     std::erase_if(rows, [](const BlockRow& row) { return row.Words.empty(); });
 }
 

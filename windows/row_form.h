@@ -122,4 +122,26 @@ void EditRowByWindow(RowListPanel& panel, const RowLook& look, Workbench& bench)
     form->Begin([&panel, form] { panel.ChangeSelectedRow(TextsOf(form->Result())); });
 }
 
+/// Adds a list of rows that takes the height that is left, with buttons that add, edit, remove and
+/// move them; a window that looks like `look` edits one.
+template <HasFields Row>
+void AddRowList(PageBuilder& page, std::vector<ListColumn> columns, const RowLook& look,
+                Workbench& bench)
+{
+    auto* rows =
+        new RowListPanel({.Columns = std::move(columns),
+                          .Words = itemWords,
+                          .Buttons = {{RowCommand::Add, "cmdAdd", u"&Add item..."},
+                                      {RowCommand::Edit, "cmdEdit", u"&Edit item..."},
+                                      {RowCommand::Remove, "cmdRemove", u"&Remove item"},
+                                      {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+                                      {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"}}},
+                         bench.Dialogs);
+    page.Fill(rows);
+    QObject::connect(rows, &RowListPanel::AddWanted, rows,
+                     [=, &bench] { AddRowByWindow<Row>(*rows, look, bench); });
+    QObject::connect(rows, &RowListPanel::EditWanted, rows,
+                     [=, &bench] { EditRowByWindow<Row>(*rows, look, bench); });
+}
+
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/pasted_tag.h"
 #include "services/block_fields.h"
 #include "services/text_look.h"
 
@@ -55,5 +56,9 @@ void ForEachField(Scroll& scroll, Field&& field)
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const SmoothScroll& scroll, int page);
+
+/// Fills the ticker from the tag of an earlier applet: message, direction, font, size, speed,
+/// colours, width and height.
+void ReadTag(SmoothScroll& scroll, const PastedTag& tag);
 
 } // namespace orvane
