@@ -5,6 +5,7 @@
 #include "core/text.h"
 
 #include <array>
+#include <optional>
 #include <span>
 
 namespace orvane {
@@ -36,6 +37,9 @@ struct PreviewWords
     TextView PaneAfter;   ///< behind the BODY code, in the pane alone
 };
 
+/// How a block runs in today's browsers.
+inline constexpr TextView runsByItself = u"Runs in today's browsers by itself.";
+
 /// The row that the list to upload shows for an effect without files.
 inline constexpr TextView noRequiredFiles = u"No Required Files.";
 
@@ -59,6 +63,7 @@ struct CatalogueRow
     bool ReplaceInBody = false;           ///< an earlier copy in the BODY is found and replaced
     bool ShowsInStatusLine = false;       ///< of the browser alone, without the page script
     PreviewWords Preview = {};
+    std::optional<PreviewWords> BlockPreview = {}; ///< takes the place of Preview for a block
     bool HasButton = true; ///< false for the second of two rows that open the same wizard
 };
 
