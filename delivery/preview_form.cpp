@@ -24,9 +24,11 @@ namespace {
 constexpr int publishPanel = 7;
 
 /// The one note of the preview's page on how the effect runs.
-Text WordsOnBrowsers(EffectKind kind)
+Text WordsOnBrowsers(const EffectPayload& effect)
 {
-    const CatalogueRow& row = RowOf(kind);
+    if (effect.IsBlock)
+        return Text(runsByItself);
+    const CatalogueRow& row = RowOf(effect.Kind);
     Text words(row.InTodaysBrowsers);
     if (row.ShowsInStatusLine)
         words += u"  Without it, the framed line below the preview shows the effect here.";
@@ -44,8 +46,10 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     const bool isWanted = bench.Settings.Get(settingKeys::runsToday) == u"1";
-    m_payload.WantsPageScript = isWanted && !RowOf(effect.Kind).RunsByItself;
-    m_preview = new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), isWanted});
+    m_payload.WantsPageScript = isWanted && !RunsByItself(effect);
+    m_preview = new PreviewPanel(m_pane, {.Sentence = WordsOnBrowsers(effect),
+                                          .WantsPageScript = isWanted,
+                                          .OffersScript = !effect.IsBlock});
     connect(m_preview, &PreviewPanel::PageScriptChosen, this, &PreviewForm::ChoosePageScript);
     connect(m_preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
     AddPanelOf(0, m_preview);
@@ -223,7 +227,7 @@ void PreviewForm::Preview(PreviewMode mode)
 
 void PreviewForm::ChoosePageScript(bool isWanted)
 {
-    m_payload.WantsPageScript = isWanted && !RowOf(m_payload.Effect.Kind).RunsByItself;
+    m_payload.WantsPageScript = isWanted && !RunsByItself(m_payload.Effect);
     m_bench.Settings.Put(settingKeys::runsToday, isWanted ? u"1" : u"0");
     Preview(PreviewMode::Inline);
 }
