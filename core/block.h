@@ -43,10 +43,10 @@ struct BlockPicture
 template <ConstOr<BlockPicture> Picture, class Field>
 void ForEachField(Picture& picture, Field&& field)
 {
-    field("txtAddress", picture.Address);
-    field("Source", picture.Source);
+    field("Address", picture.Address);
     field("txtDescription", picture.Description);
     field("txtLink", picture.Link);
+    field("Source", picture.Source);
     field("Width", picture.Width);
     field("Height", picture.Height);
 }

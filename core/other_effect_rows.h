@@ -258,7 +258,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .Title = u"Color Scrollbars",
         .Description =
             u"Create colorful browser scrollbars that match the colors or theme of your Web pages.",
-        .OtherWords = u"colour, scroll bar",
+        .OtherWords = u"colour, scroll bar, slider, handle, thumb, track",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmColorScrollbar",
         .MarkerName = u"Color Scrollbars",
         .Preview =

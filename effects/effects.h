@@ -8,9 +8,12 @@
 #include "effects/applet/more_image_effects.h"
 #include "effects/applet/typewriter_text.h"
 #include "effects/page/all_in_one_button.h"
+#include "effects/page/animation_wizard.h"
 #include "effects/page/anti_spam_link.h"
+#include "effects/page/color_scrollbars.h"
 #include "effects/page/cursor_trail.h"
 #include "effects/page/dynamic_button.h"
+#include "effects/page/falling_images.h"
 #include "effects/page/password_protection.h"
 #include "effects/page/popup_alert.h"
 #include "effects/page/popup_window.h"
@@ -33,11 +36,11 @@ namespace orvane {
 
 /// The parameters of all effects, each named once.
 using EffectParameters =
-    std::variant<AdvancedAnimator, AllInOneButton, AntiSpamLink, CursorTrail, DigitalClock,
-                 DynamicButton, FadingMessage, FlyingText, ImageEffects, ImageFade,
-                 MoreImageEffects, PasswordProtection, PopupAlert, PopupWindow, PulldownMenu,
-                 SearchBox, Slideshow, SmoothScroll, StatusBarTicker, Tooltips, TypewriterText,
-                 VerticalScroller>;
+    std::variant<AdvancedAnimator, AllInOneButton, AnimationWizard, AntiSpamLink, ColorScrollbars,
+                 CursorTrail, DigitalClock, DynamicButton, FadingMessage, FallingImages, FlyingText,
+                 ImageEffects, ImageFade, MoreImageEffects, PasswordProtection, PopupAlert,
+                 PopupWindow, PulldownMenu, SearchBox, Slideshow, SmoothScroll, StatusBarTicker,
+                 Tooltips, TypewriterText, VerticalScroller>;
 
 /// Whether there is an effect of that kind, and so a wizard for it.
 bool HasWizard(EffectKind kind);

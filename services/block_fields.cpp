@@ -1,7 +1,9 @@
 #include "services/block_fields.h"
 
 #include "core/numbers.h"
+#include "core/percents.h"
 #include "core/utf8.h"
+#include "services/block_pictures.h"
 #include "services/web_address.h"
 
 #include <algorithm>
@@ -107,10 +109,10 @@ std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlNam
     for (const BlockPicture& picture : pictures)
         for (const BlockPicture& other : pictures)
             if (picture.Address == other.Address && picture.Source != other.Source)
-                return Complaint{
-                    Join({u"Two different pictures of the list are called \"", picture.Address,
-                          u"\".  Please give one of the files another name."}),
-                    control};
+                return Complaint{Join({u"Two different pictures of the list are called \"",
+                                       WithoutPercents(picture.Address),
+                                       u"\".  Please give one of the files another name."}),
+                                 control};
     return std::nullopt;
 }
 
@@ -168,13 +170,8 @@ void MendField(const FieldName&, BlockRows& rows, const Text&)
 
 void MendField(const FieldName&, BlockPictures& pictures, const Text&)
 {
-    for (BlockPicture& picture : pictures) {
-        picture.Address = OneLine(picture.Address);
-        picture.Description = OneLine(picture.Description);
-        picture.Link = MendedLink(picture.Link);
-        for (int* size : {&picture.Width, &picture.Height})
-            *size = std::max(*size, 0);
-    }
+    for (BlockPicture& picture : pictures)
+        Tidy(picture);
     std::erase_if(pictures, [](const BlockPicture& picture) { return picture.Address.empty(); });
 }
 

@@ -16,6 +16,7 @@ struct ListColumn
 {
     ControlName Name;
     TextView Header;
+    Text (*Shown)(TextView text) = nullptr; ///< what the author sees of a text; null: the text
 };
 
 /// The rows of a window's list, the selected one, and those removed from it that can come back.

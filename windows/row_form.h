@@ -22,9 +22,9 @@ struct RowLook
     ControlName Selected = {}; ///< the box whose text is selected at first; empty for none
 };
 
-/// The small window in which the author edits one row of a list: the row's fields, `Check`, and
-/// `Tidy` and `HintsOf` where there are any stand beside the row's struct. A field without a
-/// control stays as it is.
+/// The small window in which the author edits one row of a list: the row's fields stand beside its
+/// struct, and `Check`, `Tidy` and `HintsOf` where there are any. A field without a control stays
+/// as it is.
 template <HasFields Row>
 class RowForm : public OkCancelForm
 {
@@ -52,8 +52,9 @@ protected:
     void Accept() override
     {
         Row row = Entered();
-        if (const auto complaint = Check(row))
-            return ShowComplaint(*complaint);
+        if constexpr (requires { Check(row); })
+            if (const auto complaint = Check(row))
+                return ShowComplaint(*complaint);
         TidyFields(row);
         m_row = std::move(row);
         ShowRow();

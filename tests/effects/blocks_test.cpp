@@ -9,6 +9,7 @@
 #include "effects/text/fading_message.h"
 #include "effects/text/flying_text.h"
 #include "effects/text/smooth_scroll.h"
+#include "reedit/applet_tag.h"
 #include "reedit/block_reader.h"
 #include "tests/support/expect_text.h"
 
@@ -308,6 +309,18 @@ TEST(BlockTagTest, TagsOfEarlierAppletsFillTheFields)
                                u"NAME=URL.0 VALUE=\"www.x\"><PARAM NAME=TEXT.2 VALUE=\"Two\">"});
     EXPECT_EQ(message, (FadingMessage{.lstMessages = {{u"One", u"http://www.x"}, {u"Two"}},
                                       .cboAlign = u"left"}));
+    AnimationWizard animation;
+    ReadTag(animation, TagOf(ExpectedText("advanced_animator_full.html")));
+    EXPECT_EQ(animation, (AnimationWizard{.lstPictures = {{u"a.gif"}, {u"b.gif"}, {u"c.gif"}},
+                                          .cboTimes = u"10",
+                                          .txtWidth = u"320",
+                                          .txtLink = u"http://www.example.com/x.html"}));
+    ReadTag(animation, TagOf(u"<APPLET CODE=\"AnimatePLUS28.class\" WIDTH=9999>"
+                             u"<PARAM NAME=IMAGE.0 VALUE=\"a b.gif\"><PARAM NAME=PAUSE.0 "
+                             u"VALUE=\"100\"><PARAM NAME=URL.0 VALUE=\"null\">"));
+    EXPECT_EQ(animation, (AnimationWizard{.lstPictures = {{u"a%20b.gif"}},
+                                          .txtMilliseconds = u"170",
+                                          .txtWidth = u"4000"}));
 }
 
 TEST(BlockFilesTest, AreThoseBesideThePage)

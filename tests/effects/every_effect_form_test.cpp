@@ -43,7 +43,9 @@ void Change(QWidget& window, FieldName name, int& value)
 {
     // A number without a slider stands in a text that the author does not see.
     const auto* slider = window.findChild<QSlider*>(ToQt(name.Name));
-    if (slider == nullptr)
+    if (name.Bounds)
+        value = static_cast<int>(name.Bounds->Most);
+    else if (slider == nullptr)
         value += 7;
     else
         value = slider->value() == slider->maximum() ? slider->minimum() : slider->maximum();
