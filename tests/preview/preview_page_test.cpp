@@ -42,7 +42,7 @@ TEST(PreviewPageTest, SpeaksOfABlockAsItRunsToday)
         for (const TextView old : {u"does not display it", u"varlo_quake", u"cannot", u"Explorer"})
             EXPECT_EQ(Find(page, old), 0u) << kind;
         EXPECT_NE(Find(page, payload.Effect.HEADHTML), 0u);
-        EXPECT_NE(Find(page, Join({payload.Effect.BODYHTML, u"<p>"})), 0u);
+        EXPECT_NE(Find(page, Join({payload.Effect.BODYHTML, u"<p"})), 0u);
     }
 }
 
