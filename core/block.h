@@ -17,6 +17,15 @@ struct BlockRow
     bool operator==(const BlockRow&) const = default;
 };
 
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one message.
+template <ConstOr<BlockRow> Row, class Field>
+void ForEachField(Row& row, Field&& field)
+{
+    field("txtWords", row.Words);
+    field("txtLink", row.Link);
+}
+
 /// A picture of a block.
 struct BlockPicture
 {
@@ -29,6 +38,19 @@ struct BlockPicture
     bool operator==(const BlockPicture&) const = default;
 };
 
+/// Calls `field` with the name of each field, which is that of its control in the window of one
+/// picture where it has one there.
+template <ConstOr<BlockPicture> Picture, class Field>
+void ForEachField(Picture& picture, Field&& field)
+{
+    field("Address", picture.Address);
+    field("txtDescription", picture.Description);
+    field("txtLink", picture.Link);
+    field("Source", picture.Source);
+    field("Width", picture.Width);
+    field("Height", picture.Height);
+}
+
 /// An attribute of a block's root, as it is meant: without quotes and references.
 struct BlockAttribute
 {
@@ -36,6 +58,14 @@ struct BlockAttribute
     Text Value;
     bool operator==(const BlockAttribute&) const = default;
 };
+
+/// Calls `field` with the name of each field.
+template <ConstOr<BlockAttribute> Attribute, class Field>
+void ForEachField(Attribute& attribute, Field&& field)
+{
+    field("Name", attribute.Name);
+    field("Value", attribute.Value);
+}
 
 using BlockRows = std::vector<BlockRow>;
 using BlockPictures = std::vector<BlockPicture>;
@@ -84,14 +114,5 @@ Text OneLine(TextView text);
 /// several stand, without blanks at both ends of a line and without empty lines at both ends of the
 /// text. They end in CR LF.
 Text TidyLines(TextView text);
-
-/// The texts of rows, pictures and attributes, one behind the other, and those of such texts; what
-/// is incomplete at their end is left out.
-FieldTexts TextsOf(const BlockRows& rows);
-FieldTexts TextsOf(const BlockPictures& pictures);
-FieldTexts TextsOf(const BlockAttributes& attributes);
-void SetField(BlockRows& rows, const FieldTexts& texts);
-void SetField(BlockPictures& pictures, const FieldTexts& texts);
-void SetField(BlockAttributes& attributes, const FieldTexts& texts);
 
 } // namespace orvane

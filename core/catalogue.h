@@ -5,6 +5,7 @@
 #include "core/text.h"
 
 #include <array>
+#include <optional>
 #include <span>
 
 namespace orvane {
@@ -59,6 +60,7 @@ struct CatalogueRow
     bool ReplaceInBody = false;           ///< an earlier copy in the BODY is found and replaced
     bool ShowsInStatusLine = false;       ///< of the browser alone, without the page script
     PreviewWords Preview = {};
+    std::optional<PreviewWords> BlockPreview = {}; ///< takes the place of Preview for a block
     bool HasButton = true; ///< false for the second of two rows that open the same wizard
 };
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace orvane {
 
@@ -87,6 +88,10 @@ public:
 
     /// The full path of an existing file that the author picked.
     virtual std::optional<Text> OpenFile(const FileRequest& request) = 0;
+
+    /// The full paths of existing files that the author picked, in the order of their names; empty
+    /// on Cancel.
+    virtual std::vector<Text> OpenFiles(const FileRequest& request) = 0;
 
     /// The full path to save under; when the file exists, the author has agreed to overwrite it.
     virtual std::optional<Text> SaveFile(const FileRequest& request) = 0;

@@ -36,6 +36,23 @@ bool MatchesMask(TextView name, TextView mask)
     return mask.find_first_not_of(u'*', m) == TextView::npos;
 }
 
+bool IsDigit(char16_t c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+/// Takes the number at the start of a text off it, and gives it without zeros in front.
+TextView TakeNumber(TextView& text)
+{
+    std::size_t end = 0;
+    while (end < text.size() && IsDigit(text[end]))
+        ++end;
+    TextView number = text.substr(0, end);
+    text.remove_prefix(end);
+    number.remove_prefix(std::min(number.find_first_not_of(u'0'), number.size()));
+    return number;
+}
+
 } // namespace
 
 std::size_t LastSeparator(TextView path)
@@ -82,6 +99,28 @@ bool IsListed(const std::vector<Text>& names, TextView name)
 {
     return std::any_of(names.begin(), names.end(),
                        [&](const Text& listed) { return EqualIgnoringCase(listed, name); });
+}
+
+bool ComesBefore(TextView name, TextView other)
+{
+    TextView left = name;
+    TextView right = other;
+    while (!left.empty() && !right.empty()) {
+        if (IsDigit(left.front()) && IsDigit(right.front())) {
+            const TextView number = TakeNumber(left);
+            const TextView otherNumber = TakeNumber(right);
+            if (number.size() != otherNumber.size())
+                return number.size() < otherNumber.size();
+            if (number != otherNumber)
+                return number < otherNumber;
+        } else if (ToLower(left.front()) != ToLower(right.front())) {
+            return ToLower(left.front()) < ToLower(right.front());
+        } else {
+            left.remove_prefix(1);
+            right.remove_prefix(1);
+        }
+    }
+    return left.empty() && right.empty() ? name < other : left.empty();
 }
 
 } // namespace orvane

@@ -29,6 +29,10 @@ Text PathIn(TextView folder, TextView name);
 /// equal. "*" stands for any characters, "?" for one; "*.*" fits every name.
 bool MatchesMasks(TextView name, TextView masks);
 
+/// Whether a name or path comes before another one in a list that an author reads: upper and lower
+/// case are equal, and numbers count by their value, so that "frame 2" comes before "frame 10".
+bool ComesBefore(TextView name, TextView other);
+
 /// Whether `name` is among `names`, upper and lower case taken as equal.
 bool IsListed(const std::vector<Text>& names, TextView name);
 

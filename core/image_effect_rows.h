@@ -30,7 +30,9 @@ inline constexpr CatalogueRow imageEffectRows[] = {
         .Picture = u"anim_wiz",
         .Title = u"Animation Wizard",
         .Description = u"This wizard helps you to make exciting animations step by step.",
-        .OtherWords = u"animated gif, frames, movie, cartoon, applet",
+        .OtherWords = u"animated gif, frames, movie, cartoon, flip book, sequence, applet",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "AnimWizard",
         .MarkerName = u"Animation",
         .Files = FilesNeeded::Always,
@@ -161,7 +163,10 @@ inline constexpr CatalogueRow imageEffectRows[] = {
         .Description =
             u"Create falling or floating images (like snowflakes) on your Web page using this "
             u"special effect.",
-        .OtherWords = u"snow, rain, leaves, christmas, winter, hearts, balloons, picture",
+        .OtherWords =
+            u"snow, flakes, rain, leaves, confetti, christmas, winter, hearts, balloons, bubbles, picture",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmFallingSnow",
         .MarkerName = u"Falling/Floating",
         .Files = FilesNeeded::Always,

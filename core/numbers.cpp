@@ -125,10 +125,10 @@ Outcome<std::int16_t> ToInteger16(TextView text)
     return static_cast<std::int16_t>(whole);
 }
 
-int StepNumber(TextView text, int step, int lowest, int highest)
+double StepNumber(TextView text, double step, double lowest, double highest)
 {
-    const double stepped = std::trunc(Val(text)) + step;
-    return static_cast<int>(std::clamp<double>(stepped, lowest, highest));
+    const double from = step == std::trunc(step) ? std::trunc(Val(text)) : Val(text);
+    return std::clamp(from + step, lowest, highest);
 }
 
 Text NumberToText(double number)

@@ -20,9 +20,9 @@ bool IsNumeric(TextView text);
 /// Overflow when it lies outside -32768 to 32767.
 Outcome<std::int16_t> ToInteger16(TextView text);
 
-/// What a number field holds after a press of its up or down button: the whole part of Val(`text`)
-/// plus `step`, kept within `lowest` to `highest`.
-int StepNumber(TextView text, int step, int lowest, int highest);
+/// What a number field holds after a press of its up or down button: Val(`text`), or the whole part
+/// of it when `step` is whole, plus `step`, kept within `lowest` to `highest`.
+double StepNumber(TextView text, double step, double lowest, double highest);
 
 /// The number with at most 15 significant digits and no trailing zeros, such as "0.5".
 Text NumberToText(double number);

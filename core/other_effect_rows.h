@@ -163,6 +163,10 @@ inline constexpr CatalogueRow otherEffectRows[] = {
                  u"<li>Open any Web page in your Web browser."
                  u"<li>Hit the browser's back button to see the Page Transition special effect "
                  u"properly.</ol>"},
+        .BlockPreview =
+            PreviewWords{
+                .After = u"<p>A page transition shows when a visitor goes from one page to another "
+                         u"and both have it, so this page alone does not show it.</p>"},
     },
     {
         .Kind = EffectKind::PopupWindow,
@@ -229,6 +233,11 @@ inline constexpr CatalogueRow otherEffectRows[] = {
              .PaneAfter =
                  u"\r\nThis special effect cannot be previewed in Orvane's built-in "
                  u"Previewer.  Click the 'Preview in Browser' button to preview it correctly."},
+        .BlockPreview =
+            PreviewWords{
+                .After =
+                    u"<p>Click the <b>Refresh</b> button to see an earthquake on arrival again.  "
+                    u"(This text will not appear in your special effect).</p>"},
     },
     {
         .Kind = EffectKind::DayCalendar,
@@ -249,7 +258,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .Title = u"Color Scrollbars",
         .Description =
             u"Create colorful browser scrollbars that match the colors or theme of your Web pages.",
-        .OtherWords = u"colour, scroll bar",
+        .OtherWords = u"colour, scroll bar, slider, handle, thumb, track",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmColorScrollbar",
         .MarkerName = u"Color Scrollbars",
         .Preview =
@@ -257,6 +268,12 @@ inline constexpr CatalogueRow otherEffectRows[] = {
                  u"<img src='' width=600 height=1><br>This is a preview of the Color "
                  u"Scrollbars.  Color scrollbars will only appear in Internet Explorer 5.5 and "
                  u"above."},
+        .BlockPreview =
+            PreviewWords{
+                .After =
+                    u"<p>This page is larger than its window, so that its scrollbars show.  "
+                    u"Browsers that show scrollbars only while the page moves have no colors for "
+                    u"them.</p><div style=\"width:200vw;height:200vh\"></div>"},
     },
     {
         .Kind = EffectKind::SlidingMessage,

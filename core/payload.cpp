@@ -23,7 +23,20 @@ bool HasListedFile(const RequiredFiles& files)
                        [](const Text& name) { return !name.empty(); });
 }
 
+bool NeedsFiles(const EffectPayload& effect, FilesNeeded needed)
+{
+    if (effect.IsBlock)
+        return HasListedFile(effect.Required);
+    return needed == FilesNeeded::Always ||
+           (needed == FilesNeeded::WhenListed && HasListedFile(effect.Required));
+}
+
 } // namespace
+
+bool RunsByItself(const EffectPayload& effect)
+{
+    return effect.IsBlock || RowOf(effect.Kind).RunsByItself;
+}
 
 FinishedPayload Finish(const EffectPayload& effect)
 {
@@ -31,9 +44,7 @@ FinishedPayload Finish(const EffectPayload& effect)
     EffectMarkers markers;
     if (const CatalogueRow* row = FindRow(effect.Kind)) {
         markers = MarkersOf(row->MarkerName);
-        finished.NeedsFiles =
-            row->Files == FilesNeeded::Always ||
-            (row->Files == FilesNeeded::WhenListed && HasListedFile(effect.Required));
+        finished.NeedsFiles = NeedsFiles(effect, row->Files);
         finished.ScriptedHelp = row->ScriptedHelp;
         finished.ReplaceInBody = row->ReplaceInBody;
     }

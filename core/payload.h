@@ -75,6 +75,9 @@ struct FinishedPayload
     bool operator==(const FinishedPayload&) const = default;
 };
 
+/// Whether the effect needs no page script in today's browsers.
+bool RunsByItself(const EffectPayload& effect);
+
 /// The payload with the markers, BODY attributes and flags that the catalogue has for its kind;
 /// without markers and flags for a kind that is not in the catalogue.
 FinishedPayload Finish(const EffectPayload& effect);

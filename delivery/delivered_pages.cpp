@@ -87,9 +87,8 @@ void AddPages(std::vector<Text>& lines, TextView words, const std::vector<Delive
 void AddScriptLine(std::vector<Text>& lines, const DeliveryReport& report,
                    const FinishedPayload& payload, const std::vector<DeliveredPage>& pages)
 {
-    const CatalogueRow& row = RowOf(payload.Effect.Kind);
-    const TextView sentence = row.InTodaysBrowsers;
-    if (sentence.empty() || row.RunsByItself)
+    const TextView sentence = RowOf(payload.Effect.Kind).InTodaysBrowsers;
+    if (sentence.empty() || RunsByItself(payload.Effect))
         return;
     AddLine(lines, Join({sentence, u"  The page script is not in"}),
             PagesWithoutScript(payload, pages));
@@ -130,7 +129,7 @@ std::vector<Text> PagesWithoutScript(const FinishedPayload& payload,
                                      const std::vector<DeliveredPage>& pages)
 {
     std::vector<Text> paths;
-    if (RowOf(payload.Effect.Kind).RunsByItself)
+    if (RunsByItself(payload.Effect))
         return paths;
     for (const DeliveredPage& page : pages)
         if (!page.IsPublished && page.HoldsEffect.value_or(false) && !page.HasPageScript)

@@ -19,10 +19,12 @@ void AddNonEmpty(std::vector<Text>& list, const auto& names)
 std::vector<Text> FilesToUpload(const FinishedPayload& payload)
 {
     std::vector<Text> list;
-    const CatalogueRow& row = RowOf(payload.Effect.Kind);
-    AddNonEmpty(list, row.Uploads);
-    if (row.UploadsSupportFiles)
-        AddNonEmpty(list, payload.Effect.SupportFiles);
+    if (!payload.Effect.IsBlock) {
+        const CatalogueRow& row = RowOf(payload.Effect.Kind);
+        AddNonEmpty(list, row.Uploads);
+        if (row.UploadsSupportFiles)
+            AddNonEmpty(list, payload.Effect.SupportFiles);
+    }
     if (!payload.NeedsFiles)
         list.emplace_back(noRequiredFiles);
     if (payload.WantsPageScript) {

@@ -46,7 +46,7 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyJob& job) : m_bench(bench),
     page.Fill();
     // Else the box would take a page's address as a text.
     txtFileName->setAcceptDrops(false);
-    connect(new FileDrop(*this, pageMasks, m_bench.Dialogs, 1), &FileDrop::Dropped, this,
+    connect(new FileDrop(*this, pageMasks, m_bench, 1), &FileDrop::Dropped, this,
             [this](const std::vector<Text>& pages) { TakePage(pages.front()); });
 }
 

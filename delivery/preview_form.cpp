@@ -44,8 +44,10 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 {
     setWindowTitle(QStringLiteral("Preview Wizard"));
     const bool isWanted = bench.Settings.Get(settingKeys::runsToday) == u"1";
-    m_payload.WantsPageScript = isWanted && !RowOf(effect.Kind).RunsByItself;
-    m_preview = new PreviewPanel(m_pane, {WordsOnBrowsers(effect.Kind), isWanted});
+    m_payload.WantsPageScript = isWanted && !RunsByItself(effect);
+    m_preview = new PreviewPanel(m_pane, {.Sentence = WordsOnBrowsers(effect.Kind),
+                                          .WantsPageScript = isWanted,
+                                          .OffersScript = !effect.IsBlock});
     connect(m_preview, &PreviewPanel::PageScriptChosen, this, &PreviewForm::ChoosePageScript);
     connect(m_preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
     AddPanelOf(0, m_preview);
@@ -223,7 +225,7 @@ void PreviewForm::Preview(PreviewMode mode)
 
 void PreviewForm::ChoosePageScript(bool isWanted)
 {
-    m_payload.WantsPageScript = isWanted && !RowOf(m_payload.Effect.Kind).RunsByItself;
+    m_payload.WantsPageScript = isWanted && !RunsByItself(m_payload.Effect);
     m_bench.Settings.Put(settingKeys::runsToday, isWanted ? u"1" : u"0");
     Preview(PreviewMode::Inline);
 }

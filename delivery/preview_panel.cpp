@@ -20,6 +20,7 @@ PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(
     chkRunsToday = page.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
                                  u"Lets your Web page use Orvane's page script, orvane.js");
     chkRunsToday->setChecked(today.WantsPageScript);
+    chkRunsToday->setVisible(today.OffersScript);
     connect(chkRunsToday, &QCheckBox::toggled, this, &PreviewPanel::PageScriptChosen);
     QPushButton* preview = page.Button("cmdPreview1", u"Preview in &Browser");
     connect(preview, &QPushButton::clicked, this,

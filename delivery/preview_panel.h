@@ -20,6 +20,7 @@ public:
     {
         Text Sentence;        ///< empty for none
         bool WantsPageScript; ///< whether the box is checked at first
+        bool OffersScript;    ///< whether the box is there
     };
     /// `pane` is the preview pane's widget, or null. The panel shows it while it exists, without
     /// owning it.

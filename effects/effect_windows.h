@@ -6,9 +6,12 @@
 #include "effects/applet/more_image_effects_form.h"
 #include "effects/applet/typewriter_text_form.h"
 #include "effects/page/all_in_one_button_form.h"
+#include "effects/page/animation_wizard_form.h"
 #include "effects/page/anti_spam_link_form.h"
+#include "effects/page/color_scrollbars_form.h"
 #include "effects/page/cursor_trail_form.h"
 #include "effects/page/dynamic_button_form.h"
+#include "effects/page/falling_images_form.h"
 #include "effects/page/password_protection_form.h"
 #include "effects/page/popup_alert_form.h"
 #include "effects/page/popup_window_form.h"
@@ -16,6 +19,9 @@
 #include "effects/page/search_box_form.h"
 #include "effects/page/slideshow_form.h"
 #include "effects/text/digital_clock_form.h"
+#include "effects/text/fading_message_form.h"
+#include "effects/text/flying_text_form.h"
+#include "effects/text/smooth_scroll_form.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "effects/text/tooltips_form.h"
 #include "effects/text/vertical_scroller_form.h"
@@ -27,11 +33,12 @@ namespace orvane {
 
 /// The windows of all effects, each named once.
 using EffectWindows =
-    std::tuple<AdvancedAnimatorForm, AllInOneButtonForm, AntiSpamLinkForm, CursorTrailForm,
-               DigitalClockForm, DynamicButtonForm, ImageEffectsForm, ImageFadeForm,
-               MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm, PopupWindowForm,
-               PulldownMenuForm, SearchBoxForm, SlideshowForm, StatusBarTickerForm, TooltipsForm,
-               TypewriterTextForm, VerticalScrollerForm>;
+    std::tuple<AdvancedAnimatorForm, AllInOneButtonForm, AnimationWizardForm, AntiSpamLinkForm,
+               ColorScrollbarsForm, CursorTrailForm, DigitalClockForm, DynamicButtonForm,
+               FadingMessageForm, FallingImagesForm, FlyingTextForm, ImageEffectsForm,
+               ImageFadeForm, MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm,
+               PopupWindowForm, PulldownMenuForm, SearchBoxForm, SlideshowForm, SmoothScrollForm,
+               StatusBarTickerForm, TooltipsForm, TypewriterTextForm, VerticalScrollerForm>;
 
 /// A fresh window of that kind of effect; null where HasWizard() is false.
 std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,

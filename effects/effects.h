@@ -8,9 +8,12 @@
 #include "effects/applet/more_image_effects.h"
 #include "effects/applet/typewriter_text.h"
 #include "effects/page/all_in_one_button.h"
+#include "effects/page/animation_wizard.h"
 #include "effects/page/anti_spam_link.h"
+#include "effects/page/color_scrollbars.h"
 #include "effects/page/cursor_trail.h"
 #include "effects/page/dynamic_button.h"
+#include "effects/page/falling_images.h"
 #include "effects/page/password_protection.h"
 #include "effects/page/popup_alert.h"
 #include "effects/page/popup_window.h"
@@ -18,6 +21,9 @@
 #include "effects/page/search_box.h"
 #include "effects/page/slideshow.h"
 #include "effects/text/digital_clock.h"
+#include "effects/text/fading_message.h"
+#include "effects/text/flying_text.h"
+#include "effects/text/smooth_scroll.h"
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/tooltips.h"
 #include "effects/text/vertical_scroller.h"
@@ -30,9 +36,10 @@ namespace orvane {
 
 /// The parameters of all effects, each named once.
 using EffectParameters =
-    std::variant<AdvancedAnimator, AllInOneButton, AntiSpamLink, CursorTrail, DigitalClock,
-                 DynamicButton, ImageEffects, ImageFade, MoreImageEffects, PasswordProtection,
-                 PopupAlert, PopupWindow, PulldownMenu, SearchBox, Slideshow, StatusBarTicker,
+    std::variant<AdvancedAnimator, AllInOneButton, AnimationWizard, AntiSpamLink, ColorScrollbars,
+                 CursorTrail, DigitalClock, DynamicButton, FadingMessage, FallingImages, FlyingText,
+                 ImageEffects, ImageFade, MoreImageEffects, PasswordProtection, PopupAlert,
+                 PopupWindow, PulldownMenu, SearchBox, Slideshow, SmoothScroll, StatusBarTicker,
                  Tooltips, TypewriterText, VerticalScroller>;
 
 /// Whether there is an effect of that kind, and so a wizard for it.

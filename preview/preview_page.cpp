@@ -41,24 +41,29 @@ constexpr Template previewPage(uR"page(
 </BODY></HTML>
 )page");
 
-Text BrowserPreviewBanner(EffectKind kind, PreviewMode mode)
+const PreviewWords& WordsFor(const EffectPayload& effect)
 {
-    return mode == PreviewMode::Inline ? Text() : Join({RowOf(kind).Preview.AboveBanner, banner});
+    const CatalogueRow& row = RowOf(effect.Kind);
+    return effect.IsBlock && row.BlockPreview ? *row.BlockPreview : row.Preview;
+}
+
+Text BrowserPreviewBanner(const EffectPayload& effect, PreviewMode mode)
+{
+    return mode == PreviewMode::Inline ? Text() : Join({WordsFor(effect).AboveBanner, banner});
 }
 
 /// The code with a word to the author where a plain preview cannot show the effect.
 Text PreviewBodyPart(const FinishedPayload& payload, PreviewMode mode)
 {
-    const CatalogueRow& row = RowOf(payload.Effect.Kind);
-    const bool isSeen = row.ShowsInStatusLine && !RunsInStatus(payload);
-    return Join({row.Preview.Before, payload.Effect.BODYHTML,
-                 isSeen ? TextView() : row.Preview.After,
-                 mode == PreviewMode::Inline ? row.Preview.PaneAfter : TextView()});
+    const PreviewWords& words = WordsFor(payload.Effect);
+    const bool isSeen = RowOf(payload.Effect.Kind).ShowsInStatusLine && !RunsInStatus(payload);
+    return Join({words.Before, payload.Effect.BODYHTML, isSeen ? TextView() : words.After,
+                 mode == PreviewMode::Inline ? words.PaneAfter : TextView()});
 }
 
 TextView PreviewHeadPart(const EffectPayload& effect, PreviewMode mode)
 {
-    const TextView inPane = RowOf(effect.Kind).Preview.PaneHead;
+    const TextView inPane = WordsFor(effect).PaneHead;
     return mode == PreviewMode::Inline && !inPane.empty() ? inPane : TextView(effect.HEADHTML);
 }
 
@@ -153,7 +158,7 @@ Done WritePage(Workbench& bench, const FinishedPayload& payload, PreviewMode mod
 Text PreviewPageText(const FinishedPayload& payload, PreviewMode mode)
 {
     const EffectPayload& effect = payload.Effect;
-    const Text bannerText = BrowserPreviewBanner(effect.Kind, mode);
+    const Text bannerText = BrowserPreviewBanner(effect, mode);
     if (FindIgnoringCase(effect.BODYHTML, u"password.cgi") != 0)
         return Fill(serverScriptPage,
                     {{u"BrowserPreviewBanner", bannerText}, {u"PreviewCode", payload.PreviewCode}});

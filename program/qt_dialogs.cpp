@@ -1,5 +1,6 @@
 #include "program/qt_dialogs.h"
 
+#include "core/file_names.h"
 #include "program/progress_box.h"
 #include "program/words_box.h"
 #include "services/folder_memory.h"
@@ -11,12 +12,12 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <vector>
 
 namespace orvane {
@@ -72,6 +73,11 @@ QString FirstExtension(const QString& nameFilter)
     return masks.section(u' ', 0, 0);
 }
 
+std::optional<Text> FirstOf(const QStringList& paths)
+{
+    return paths.isEmpty() ? std::nullopt : std::optional(FromQt(paths.constFirst()));
+}
+
 } // namespace
 
 QString QtNameFilter(TextView label, TextView masks)
@@ -117,12 +123,21 @@ std::optional<bool> QtDialogs::AskOrCancel(TextView words, TextView title)
 
 std::optional<Text> QtDialogs::OpenFile(const FileRequest& request)
 {
-    return PickFile(request, false);
+    return FirstOf(PickFiles(request, QFileDialog::ExistingFile));
+}
+
+std::vector<Text> QtDialogs::OpenFiles(const FileRequest& request)
+{
+    std::vector<Text> paths;
+    for (const QString& path : PickFiles(request, QFileDialog::ExistingFiles))
+        paths.push_back(FromQt(path));
+    std::ranges::sort(paths, ComesBefore);
+    return paths;
 }
 
 std::optional<Text> QtDialogs::SaveFile(const FileRequest& request)
 {
-    return PickFile(request, true);
+    return FirstOf(PickFiles(request, QFileDialog::AnyFile));
 }
 
 QString QtDialogs::StartFolder(const FileRequest& request) const
@@ -134,11 +149,14 @@ QString QtDialogs::StartFolder(const FileRequest& request) const
     return QDir::homePath();
 }
 
-std::optional<Text> QtDialogs::PickFile(const FileRequest& request, bool isSave)
+/// Asks for a file to save under in the mode AnyFile, for files to open in any other; empty on
+/// Cancel.
+QStringList QtDialogs::PickFiles(const FileRequest& request, QFileDialog::FileMode mode)
 {
+    const bool isSave = mode == QFileDialog::AnyFile;
     QFileDialog dialog(WindowInFront(), ToQt(request.Title), StartFolder(request));
     dialog.setAcceptMode(isSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(isSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setFileMode(mode);
     const QStringList filters = QtNameFilters(request.Filter);
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
@@ -153,11 +171,11 @@ std::optional<Text> QtDialogs::PickFile(const FileRequest& request, bool isSave)
     if (!request.FileName.empty())
         dialog.selectFile(ToQt(request.FileName));
     if (!Run(dialog) || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    const QString path = dialog.selectedFiles().constFirst();
-    m_lastFolder = QFileInfo(path).absolutePath();
+        return {};
+    const QStringList paths = dialog.selectedFiles();
+    m_lastFolder = QFileInfo(paths.constFirst()).absolutePath();
     RememberFolder(m_settings, request.Purpose, FromQt(m_lastFolder));
-    return FromQt(path);
+    return paths;
 }
 
 std::optional<Text> QtDialogs::PickFolder(TextView title, TextView start)

@@ -3,6 +3,7 @@
 #include "core/dialogs.h"
 #include "core/settings.h"
 
+#include <QFileDialog>
 #include <QString>
 #include <QStringList>
 
@@ -29,6 +30,7 @@ public:
     bool Ask(TextView words, TextView title) override;
     std::optional<bool> AskOrCancel(TextView words, TextView title) override;
     std::optional<Text> OpenFile(const FileRequest& request) override;
+    std::vector<Text> OpenFiles(const FileRequest& request) override;
     std::optional<Text> SaveFile(const FileRequest& request) override;
     std::optional<Text> PickFolder(TextView title, TextView start) override;
     std::optional<std::int32_t> PickColor() override;
@@ -37,7 +39,7 @@ public:
     PageBoxReply Answer(const PageBox& box) override;
 
 private:
-    std::optional<Text> PickFile(const FileRequest& request, bool isSave);
+    QStringList PickFiles(const FileRequest& request, QFileDialog::FileMode mode);
     QString StartFolder(const FileRequest& request) const;
 
     Settings& m_settings;

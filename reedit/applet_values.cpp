@@ -1,6 +1,7 @@
 #include "reedit/applet_values.h"
 
 #include "core/numbers.h"
+#include "services/color.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,6 +59,19 @@ int TagNumber(const PastedTag& tag, TextView key, int lowest, int highest)
 {
     const double number = std::clamp<double>(Val(TagValue(tag, key)), lowest, highest);
     return static_cast<int>(std::nearbyint(number));
+}
+
+PastedTag WithoutQuotes(PastedTag tag)
+{
+    tag.Reading = Quotes::TakenOff;
+    return tag;
+}
+
+Text TagColor(const PastedTag& tag, TextView key)
+{
+    const Text value = TagValue(tag, key);
+    const auto packed = Find(value, u",") == 0 ? std::nullopt : PackedColor(value);
+    return packed ? ColorText(*packed, ColorNotation::Hash) : value;
 }
 
 PipeValues PipeParse(TextView text)

@@ -21,6 +21,13 @@ Text TagValue(const PastedTag& tag, TextView key);
 /// without one, or with a kept opening quote, counts as 0.
 int TagNumber(const PastedTag& tag, TextView key, int lowest, int highest);
 
+/// The tag, to be read without the quotes of its values.
+PastedTag WithoutQuotes(PastedTag tag);
+
+/// The colour that follows `key` as CSS takes it, such as "#FF8000" for "255,128,0"; empty when the
+/// key is missing.
+Text TagColor(const PastedTag& tag, TextView key);
+
 /// The pieces of a value of the earlier applet, which joins the entries of a list by "|".
 using PipeValues = std::array<Text, 3>;
 

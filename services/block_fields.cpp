@@ -1,7 +1,9 @@
 #include "services/block_fields.h"
 
 #include "core/numbers.h"
+#include "core/percents.h"
 #include "core/utf8.h"
+#include "services/block_pictures.h"
 #include "services/web_address.h"
 
 #include <algorithm>
@@ -77,9 +79,21 @@ std::optional<Complaint> CheckNumber(const FieldName& field, TextView text)
                      field.Name};
 }
 
+std::optional<Complaint> Check(const BlockRow& row)
+{
+    if (TidyLines(row.Words).empty())
+        return Complaint{u"Please enter the text of the message.", "txtWords"};
+    return std::nullopt;
+}
+
+void Tidy(BlockRow& row)
+{
+    row = {TidyLines(row.Words), MendedLink(row.Link)};
+}
+
 std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control)
 {
-    if (std::ranges::all_of(rows, [](const auto& row) { return TidyLines(row.Words).empty(); }))
+    if (std::ranges::all_of(rows, [](const auto& row) { return Check(row).has_value(); }))
         return Complaint{u"Please add a message to the list.", control};
     return std::nullopt;
 }
@@ -95,10 +109,10 @@ std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlNam
     for (const BlockPicture& picture : pictures)
         for (const BlockPicture& other : pictures)
             if (picture.Address == other.Address && picture.Source != other.Source)
-                return Complaint{
-                    Join({u"Two different pictures of the list are called \"", picture.Address,
-                          u"\".  Please give one of the files another name."}),
-                    control};
+                return Complaint{Join({u"Two different pictures of the list are called \"",
+                                       WithoutPercents(picture.Address),
+                                       u"\".  Please give one of the files another name."}),
+                                 control};
     return std::nullopt;
 }
 
@@ -150,19 +164,14 @@ void MendField(const FieldName& field, int& value, const Text&)
 void MendField(const FieldName&, BlockRows& rows, const Text&)
 {
     for (BlockRow& row : rows)
-        row = {TidyLines(row.Words), MendedLink(row.Link)};
+        Tidy(row);
     std::erase_if(rows, [](const BlockRow& row) { return row.Words.empty(); });
 }
 
 void MendField(const FieldName&, BlockPictures& pictures, const Text&)
 {
-    for (BlockPicture& picture : pictures) {
-        picture.Address = OneLine(picture.Address);
-        picture.Description = OneLine(picture.Description);
-        picture.Link = MendedLink(picture.Link);
-        for (int* size : {&picture.Width, &picture.Height})
-            *size = std::max(*size, 0);
-    }
+    for (BlockPicture& picture : pictures)
+        Tidy(picture);
     std::erase_if(pictures, [](const BlockPicture& picture) { return picture.Address.empty(); });
 }
 

@@ -40,6 +40,12 @@ Text MendedNumber(TextView text, const NumberBounds& bounds, TextView fresh);
 /// nothing.
 std::optional<Complaint> CheckNumber(const FieldName& field, TextView text);
 
+/// The complaint about a message without words, or nothing.
+std::optional<Complaint> Check(const BlockRow& row);
+
+/// Mends a message as a wizard does: its words in order, its link with what it begins with.
+void Tidy(BlockRow& row);
+
 /// The complaint about a list without messages, or nothing.
 std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control);
 
@@ -153,8 +159,10 @@ void TidyBlock(Effect& effect)
     const Effect freshEffect;
     std::vector<Text> fresh;
     ForEachField(freshEffect, [&](const FieldName&, const auto& value) {
-        const FieldTexts texts = TextsOf(value);
-        fresh.push_back(texts.empty() ? Text() : texts.front());
+        if constexpr (AttributeValue<std::remove_cvref_t<decltype(value)>>)
+            fresh.push_back(TextsOf(value).front());
+        else
+            fresh.emplace_back();
     });
     auto next = fresh.begin();
     ForEachField(effect,

@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvane {
 
@@ -49,6 +50,18 @@ std::int16_t ChannelAt(TextView digits, std::size_t position)
 {
     return static_cast<std::int16_t>(16 * DigitAt(digits, position) +
                                      DigitAt(digits, position + 1));
+}
+
+/// The light that a channel of 0 to 255 gives, from 0 to 1.
+double LightOf(std::int32_t channel)
+{
+    const double part = (channel & 0xFF) / 255.0;
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double LuminanceOf(std::int32_t color)
+{
+    return 0.2126 * LightOf(color) + 0.7152 * LightOf(color >> 8) + 0.0722 * LightOf(color >> 16);
 }
 
 } // namespace
@@ -125,6 +138,32 @@ std::optional<std::int32_t> PackedColor(TextView text)
         packed |= static_cast<std::int32_t>(channel) << shift;
     }
     return packed;
+}
+
+std::optional<std::int32_t> WholeColor(TextView text)
+{
+    if (text.starts_with(u'#')) {
+        const Text digits = ToUpper(text.substr(1));
+        if (digits.find_first_not_of(hexDigits) != Text::npos)
+            return std::nullopt;
+        if (digits.size() == 3)
+            return PackedColor(
+                Text{digits[0], digits[0], digits[1], digits[1], digits[2], digits[2]});
+        return digits.size() == 6 ? PackedColor(digits) : std::nullopt;
+    }
+    const auto colors = CColor().WebColors();
+    constexpr std::size_t names = 16;
+    for (std::size_t i = 0; i < names; ++i)
+        if (EqualIgnoringCase(text, colors[i]))
+            return PackedColor(colors[names + i]);
+    return std::nullopt;
+}
+
+double ContrastOf(std::int32_t color, std::int32_t other)
+{
+    constexpr double flare = 0.05; // that a screen gives even where it is black
+    const auto [less, more] = std::minmax({LuminanceOf(color), LuminanceOf(other)});
+    return (more + flare) / (less + flare);
 }
 
 } // namespace orvane

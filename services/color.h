@@ -59,4 +59,12 @@ Text ColorText(std::int32_t packed, ColorNotation notation);
 /// unreadable parts count as 0.
 std::optional<std::int32_t> PackedColor(TextView text);
 
+/// The packed colour of a text that is whole: "#FF8000", "#f80", or one of the sixteen names of
+/// CColor::WebColors(); nothing for any other.
+std::optional<std::int32_t> WholeColor(TextView text);
+
+/// How far two packed colours differ in lightness, as the rules for readable pages count it: from 1
+/// for one and the same to 21 for black and white.
+double ContrastOf(std::int32_t color, std::int32_t other);
+
 } // namespace orvane

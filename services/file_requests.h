@@ -23,6 +23,9 @@ inline constexpr TextView imageFilter =
     u"All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg";
 inline constexpr TextView pictureMasks = u"*.gif;*.jpg;*.jpeg";
 
+/// The masks of the files of images that today's browsers show and that Orvane can measure.
+inline constexpr TextView blockPictureMasks = u"*.gif;*.jpg;*.jpeg;*.png";
+
 /// What the wizards of applets open for an image, and for a Web page to link to.
 FileRequest ImageRequest();
 FileRequest WebPageRequest();

@@ -1,6 +1,7 @@
 #include "services/hints.h"
 
 #include "core/numbers.h"
+#include "services/color.h"
 
 #include <algorithm>
 #include <cmath>
@@ -46,6 +47,20 @@ HintList& HintList::Seconds(ControlName control, TextView value, int most)
         return Number(control, value);
     return Say(control,
                Join({u"The page's text carries ", NumberToText(most), u" seconds at most."}));
+}
+
+HintList& HintList::Contrast(ControlName control, TextView color, TextView ground, double least)
+{
+    const auto above = WholeColor(color);
+    const auto below = WholeColor(ground);
+    const double contrast = above && below ? ContrastOf(*above, *below) : least;
+    if (contrast >= least)
+        return *this;
+    // Rounded up, a contrast that is too low could read as one that is high enough.
+    const double shown = std::floor(contrast * 100) / 100;
+    return Say(control,
+               Join({u"The contrast of these two colors is ", NumberToText(shown), u" to 1.  From ",
+                     NumberToText(least), u" to 1 on, everybody can tell them apart well."}));
 }
 
 HintList& HintList::Say(ControlName control, TextView words)

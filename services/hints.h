@@ -14,6 +14,11 @@ struct Hint
     bool operator==(const Hint&) const = default;
 };
 
+/// The least contrasts of a text with its ground, and of what is no text, at which nobody misses
+/// them.
+inline constexpr double textContrast = 4.5;
+inline constexpr double shapeContrast = 3;
+
 /// Collects the hints on the fields of an effect, in the order of the calls. Each field has one
 /// hint at most, the first that fits its value; an empty value has none unless a comment says so.
 class HintList
@@ -28,6 +33,11 @@ public:
 
     /// For a number of seconds of which the page's text carries `most` at most.
     HintList& Seconds(ControlName control, TextView value, int most);
+
+    /// For two colours of which one is shown on the other: the contrast between them, where that is
+    /// below `least` to 1. Colours that are not known, such as those of the page, give no hint.
+    HintList& Contrast(ControlName control, TextView color, TextView ground,
+                       double least = textContrast);
 
     /// Gives these words for the field, whatever its value is.
     HintList& Say(ControlName control, TextView words);

@@ -16,6 +16,7 @@ struct ListColumn
 {
     ControlName Name;
     TextView Header;
+    Text (*Shown)(TextView text) = nullptr; ///< what the author sees of a text; null: the text
 };
 
 /// The rows of a window's list, the selected one, and those removed from it that can come back.
@@ -38,6 +39,16 @@ struct RowListWords
     TextView RemoveNone = {};
     TextView CannotMoveUp = {};
     TextView CannotMoveDown = {};
+};
+
+/// The words of a list whose rows are called items.
+inline constexpr RowListWords itemWords{
+    .EditEmpty = u"The list of items is empty.  Please add an item before editing it.",
+    .EditNone = u"Select an item from the list in order to edit it.",
+    .RemoveEmpty = u"The list of items is empty.  Please add an item before removing it.",
+    .RemoveNone = u"Select an item from the list in order to remove it.",
+    .CannotMoveUp = u"Select an item in the list.  You cannot move the first item upward.",
+    .CannotMoveDown = u"Select an item in the list.  You cannot move the last item downward.",
 };
 
 /// The complaint when the list is empty or no row is selected, or nothing when the selected row can

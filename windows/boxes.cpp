@@ -14,11 +14,14 @@
 #include <QRadioButton>
 #include <QSlider>
 
+#include <algorithm>
 #include <limits>
 
 namespace orvane {
 
 namespace {
+
+constexpr auto exactly = Qt::MatchExactly | Qt::MatchCaseSensitive;
 
 class OptionText : public QLabel
 {
@@ -87,11 +90,27 @@ QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidge
     return box;
 }
 
+QComboBox* MakeChoiceBox(std::span<const ChoiceItem> items, bool isEditable, QWidget* parent)
+{
+    QComboBox* box = MakeComboBox({}, isEditable, parent);
+    for (const ChoiceItem& item : items)
+        box->addItem(ToQt(item.Caption.empty() ? item.Value : item.Caption), ToQt(item.Value));
+    return box;
+}
+
+Text ComboText(const QComboBox& box)
+{
+    // An editable box may show another text than that of its current item.
+    const QVariant value = box.itemData(box.findText(box.currentText(), exactly));
+    return FromQt(value.isValid() ? value.toString() : box.currentText());
+}
+
 void SetComboText(QComboBox& box, TextView text)
 {
     // With an item of that text current, the arrow keys go on from there.
-    box.setCurrentIndex(box.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    if (box.isEditable())
+    const int valued = box.findData(ToQt(text), Qt::UserRole, exactly);
+    box.setCurrentIndex(valued >= 0 ? valued : box.findText(ToQt(text), exactly));
+    if (box.isEditable() && valued < 0)
         box.setEditText(ToQt(text));
 }
 
@@ -104,6 +123,15 @@ QSlider* MakeSlider(const SliderRange& range, QWidget* parent)
     slider->setPageStep(range.LargeStep);
     slider->setSingleStep(range.SmallStep);
     return slider;
+}
+
+void SetSliderRange(QSlider& slider, const NumberBounds& bounds)
+{
+    slider.setRange(static_cast<int>(bounds.Least), static_cast<int>(bounds.Most));
+    const int way = slider.maximum() - slider.minimum();
+    slider.setTickInterval(way / 10);
+    slider.setPageStep(way / 10);
+    slider.setSingleStep(std::max(1, way / 100));
 }
 
 MultiLineBox* MakeCodeBox(QWidget* parent)

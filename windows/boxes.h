@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/text.h"
+#include "core/fields.h"
 
 #include <QSize>
 
@@ -29,6 +29,13 @@ struct SliderRange
     int SmallStep = 1; ///< by the arrow keys
 };
 
+/// An item of a combo box whose value is not what the author sees.
+struct ChoiceItem
+{
+    TextView Value;
+    TextView Caption = {}; ///< empty: the value itself
+};
+
 /// A text box for one line of any length.
 QLineEdit* MakeTextBox(QWidget* parent);
 
@@ -41,12 +48,21 @@ QRadioButton* MakeOption(TextView caption, QWidget* parent);
 /// A combo box; what is typed into an editable one stays as it is, without completion.
 QComboBox* MakeComboBox(std::span<const TextView> items, bool isEditable, QWidget* parent);
 
-/// Makes the item with this text current. Without such an item an editable box shows the text all
-/// the same, and any other box has no current item.
+/// A combo box like that of MakeComboBox(), with a value behind each item.
+QComboBox* MakeChoiceBox(std::span<const ChoiceItem> items, bool isEditable, QWidget* parent);
+
+/// The value of the item whose text the box shows; the text itself where no value stands behind it.
+Text ComboText(const QComboBox& box);
+
+/// Makes the item with this value current, or else that with this text. Without such an item an
+/// editable box shows the text all the same, and any other box has no current item.
 void SetComboText(QComboBox& box, TextView text);
 
 /// A horizontal slider with ticks below it.
 QSlider* MakeSlider(const SliderRange& range, QWidget* parent);
+
+/// Gives a slider these bounds, ten ticks, and steps to match.
+void SetSliderRange(QSlider& slider, const NumberBounds& bounds);
 
 /// A read-only box for page code, which can be selected by mouse and keyboard; Tab leaves it.
 MultiLineBox* MakeCodeBox(QWidget* parent);

@@ -48,7 +48,8 @@ void ColorSwatch::SetValue(TextView value)
     const bool isDefault = m_notation == ColorNotation::RgbFunction && value.starts_with(u'#');
     if (isDefault || value.empty())
         m_unset = value;
-    Show(isDefault ? std::nullopt : PackedColor(value));
+    const auto whole = WholeColor(value);
+    Show(isDefault ? std::nullopt : whole ? whole : PackedColor(value));
 }
 
 void ColorSwatch::Unset()

@@ -6,6 +6,7 @@
 #include "windows/control_looks.h"
 #include "windows/field_controls.h"
 #include "windows/field_watch.h"
+#include "windows/hidden_rows.h"
 #include "windows/hint_lines.h"
 #include "windows/wizard_form.h"
 
@@ -73,16 +74,17 @@ public:
         ReadTag(effect, tag);
     }
     {
-        FillFromTag();
+        const Effect read = FromTag();
+        SetParameters(read);
         m_bench.Core.EditMode = false;
-        if (m_tag.Whole.empty())
+        m_tag.Reading = Quotes::TakenOff;
+        if (m_tag.Whole.empty() || FromTag() == read)
             return;
         auto* offer = AddOffer("lblTakeQuotesOff",
                                u"The values came with their quotation marks. Take them off.");
         offer->show();
         connect(offer, &LinkLabel::Followed, this, [this, offer] {
-            m_tag.Reading = Quotes::TakenOff;
-            FillFromTag();
+            SetParameters(FromTag());
             offer->hide();
         });
     }
@@ -100,6 +102,11 @@ protected:
     void AddButtons(Buttons buttons, ControlName helpName = "cmdClickHereForHelp")
     {
         WizardForm::AddButtons(buttons, helpName);
+        if constexpr (requires(const Effect& effect) { effect.Others; })
+            new HiddenRows("Others", this);
+        const Effect fresh;
+        ForEachField(fresh,
+                     [this](const FieldName& name, const auto&) { m_controls.TakeBounds(name); });
         SetParameters(Fresh());
         GoTo(0);
         BeginDrafts(true);
@@ -192,11 +199,11 @@ private:
             m_hints.Show(HintsOf(Parameters()));
     }
 
-    void FillFromTag()
+    Effect FromTag() const
     {
         Effect effect;
         ReadTag(effect, m_tag);
-        SetParameters(effect);
+        return effect;
     }
 
     FieldControls m_controls;

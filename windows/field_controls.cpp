@@ -1,7 +1,9 @@
 #include "windows/field_controls.h"
 
 #include "windows/color_swatch.h"
+#include "windows/hidden_rows.h"
 #include "windows/multi_line_box.h"
+#include "windows/number_box.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 #include "windows/row_list_panel.h"
@@ -54,6 +56,11 @@ RowListPanel* PanelOf(const QWidget& window, ControlName list)
     return nullptr;
 }
 
+HiddenRows* HiddenRowsOf(const QWidget& window, ControlName list)
+{
+    return dynamic_cast<HiddenRows*>(window.findChild<QWidget*>(ToQt(list)));
+}
+
 void SelectText(QListWidget& list, TextView text)
 {
     const auto items = list.findItems(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
@@ -69,7 +76,7 @@ Text TextOf(const QWidget& control)
     if (const auto* box = qobject_cast<const MultiLineBox*>(&control))
         return box->Words();
     if (const auto* combo = qobject_cast<const QComboBox*>(&control))
-        return FromQt(combo->currentText());
+        return ComboText(*combo);
     if (const auto* list = qobject_cast<const QListWidget*>(&control)) {
         // The row that the keyboard stands on need not be selected.
         const auto selected = list->selectedItems();
@@ -100,10 +107,23 @@ bool FieldControls::Has(ControlName name) const
            Member(m_window, name, 0) != nullptr;
 }
 
+void FieldControls::TakeBounds(const FieldName& name)
+{
+    auto* control = m_window.findChild<QWidget*>(ToQt(name.Name));
+    if (!name.Bounds)
+        return;
+    if (auto* number = qobject_cast<NumberBox*>(control))
+        number->SetBounds(*name.Bounds);
+    if (auto* slider = qobject_cast<QSlider*>(control))
+        SetSliderRange(*slider, *name.Bounds);
+}
+
 RowTexts FieldControls::Rows(ControlName name) const
 {
     if (const auto* panel = PanelOf(m_window, name))
         return panel->Rows();
+    if (const auto* hidden = HiddenRowsOf(m_window, name))
+        return hidden->Rows;
     throw std::logic_error("a field has no list");
 }
 
@@ -125,6 +145,8 @@ void FieldControls::ShowRows(ControlName name, RowTexts rows)
 {
     if (auto* panel = PanelOf(m_window, name))
         panel->SetRows(std::move(rows));
+    else if (auto* hidden = HiddenRowsOf(m_window, name))
+        hidden->Rows = std::move(rows);
 }
 
 void FieldControls::Show(ControlName name, const FieldTexts& texts)

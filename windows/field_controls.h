@@ -9,6 +9,7 @@ namespace orvane {
 /// Reads and writes the controls of a window by the names of the fields that they show. A field's
 /// value is the text of a box, the selected text of a list, the state of a check box, the number of
 /// a slider, the index of the chosen option button, the colour of a swatch or the rows of a list.
+/// Of an item of a combo box that has a value behind its text, the value counts.
 class FieldControls
 {
 public:
@@ -35,6 +36,9 @@ public:
         else
             Show(name, TextsOf(value));
     }
+
+    /// Gives the number box or the slider of the field its bounds; does nothing without either.
+    void TakeBounds(const FieldName& name);
 
     /// Whether the window has a control for the field.
     bool Has(ControlName name) const;

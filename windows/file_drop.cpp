@@ -2,6 +2,7 @@
 
 #include "core/file_names.h"
 #include "services/file_complaints.h"
+#include "services/folder_list.h"
 #include "windows/qt_text.h"
 
 #include <QDropEvent>
@@ -9,16 +10,13 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
 
-/// What was dropped: the paths of the files that are wanted, and the names of all else.
-struct DroppedFiles
-{
-    std::vector<Text> Paths;
-    std::vector<Text> LeftOut;
-};
+using Files = FileDrop::Files;
 
 /// The name of a file or folder; an address without one is shown whole.
 Text NameOf(const QUrl& url)
@@ -27,23 +25,44 @@ Text NameOf(const QUrl& url)
     return FromQt(name.isEmpty() ? url.toDisplayString() : name);
 }
 
-DroppedFiles FilesIn(const QMimeData& dropped, TextView masks)
+Files FilesIn(const QMimeData& dropped, TextView masks, bool areFoldersWanted)
 {
-    DroppedFiles files;
+    Files files;
     for (const QUrl& url : dropped.urls()) {
-        const QString path = url.toLocalFile();
-        if (QFileInfo(path).isFile() && MatchesMasks(GetFileName(FromQt(path)), masks))
-            files.Paths.push_back(FromQt(path));
+        const QFileInfo file(url.toLocalFile());
+        const Text path = FromQt(file.filePath());
+        if (file.isDir() ? areFoldersWanted
+                         : file.isFile() && MatchesMasks(GetFileName(path), masks))
+            files.Paths.push_back(path);
         else
             files.LeftOut.push_back(NameOf(url));
     }
     return files;
 }
 
+/// The same with the files of each folder in its place.
+Files WithFoldersOpened(const Files& dropped, TextView masks, const FileStore& store)
+{
+    Files files{.LeftOut = dropped.LeftOut};
+    for (const Text& path : dropped.Paths) {
+        if (!QFileInfo(ToQt(path)).isDir()) {
+            files.Paths.push_back(path);
+            continue;
+        }
+        std::vector<Text> names = ListFiles(store, path, masks);
+        if (names.empty())
+            files.LeftOut.push_back(NameOf(QUrl::fromLocalFile(ToQt(path))));
+        std::ranges::sort(names, ComesBefore);
+        for (const Text& name : names)
+            files.Paths.push_back(PathIn(path, name));
+    }
+    return files;
+}
+
 } // namespace
 
-FileDrop::FileDrop(QWidget& target, TextView masks, Dialogs& dialogs, std::size_t most)
-    : QObject(&target), m_masks(masks), m_dialogs(dialogs), m_most(most)
+FileDrop::FileDrop(QWidget& target, TextView masks, Workbench& bench, std::size_t most)
+    : QObject(&target), m_masks(masks), m_bench(bench), m_most(most)
 {
     target.setAcceptDrops(true);
     target.installEventFilter(this);
@@ -55,7 +74,7 @@ bool FileDrop::eventFilter(QObject* target, QEvent* event)
     if (!isDrop && event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove)
         return QObject::eventFilter(target, event);
     auto* drop = static_cast<QDropEvent*>(event);
-    const DroppedFiles files = FilesIn(*drop->mimeData(), m_masks);
+    const Files files = FilesIn(*drop->mimeData(), m_masks, m_most > 1);
     if (files.Paths.empty() || files.Paths.size() + files.LeftOut.size() > m_most ||
         !(drop->possibleActions() & Qt::CopyAction)) {
         drop->ignore();
@@ -65,15 +84,20 @@ bool FileDrop::eventFilter(QObject* target, QEvent* event)
     drop->setDropAction(Qt::CopyAction);
     drop->accept();
     // The sender waits until the drop is over, and taking the files may ask the author.
-    const auto take = [this, files] {
-        emit Dropped(files.Paths);
-        if (!files.LeftOut.empty())
-            m_dialogs.Say(
-                AboutFiles(u"These files do not fit here and were left out:", files.LeftOut).Words);
-    };
     if (isDrop)
-        QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, files] { Take(WithFoldersOpened(files, m_masks, m_bench.Files)); },
+            Qt::QueuedConnection);
     return true;
+}
+
+void FileDrop::Take(const Files& files)
+{
+    if (!files.Paths.empty())
+        emit Dropped(files.Paths);
+    if (!files.LeftOut.empty())
+        m_bench.Dialogs.Say(
+            AboutFiles(u"These files do not fit here and were left out:", files.LeftOut).Words);
 }
 
 } // namespace orvane

@@ -91,7 +91,7 @@ void ImageListPanel::Connect()
             LoadPictureOf(PathIn(m_boxes->Folder(), name));
     });
     connect(m_boxes, &FolderBoxes::FileActivated, this, &ImageListPanel::AddImageToList);
-    connect(new FileDrop(*m_list, imageMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
+    connect(new FileDrop(*m_list, imageMasks, m_bench), &FileDrop::Dropped, this,
             &ImageListPanel::AddFiles);
     connect(cmdAdd, &QPushButton::clicked, this, &ImageListPanel::AddSelectedFiles);
     connect(m_list, &RowListPanel::RowSelected, this, &ImageListPanel::ShowPictureOfRow);

@@ -7,27 +7,41 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace orvane {
 
-NumberBox::NumberBox(ControlName name, int lowest, int highest, QWidget* parent)
-    : QLineEdit(parent), m_lowest(lowest), m_highest(highest), m_upDown(new QWidget(parent))
+namespace {
+
+/// Long ways are gone in larger steps, and bounds such as 0.2 ask for tenths.
+double StepOf(const NumberBounds& bounds)
+{
+    if (bounds.Least != std::trunc(bounds.Least))
+        return 0.1;
+    return bounds.Most > 500 ? 10 : 1;
+}
+
+} // namespace
+
+NumberBox::NumberBox(ControlName name, const NumberBounds& bounds, QWidget* parent)
+    : QLineEdit(parent), m_bounds(bounds), m_upDown(new QWidget(parent))
 {
     setObjectName(ToQt(name));
     LeaveAltToAccessKeys(*this);
     auto* buttons = new QVBoxLayout(m_upDown);
     buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(0);
-    for (const int step : {1, -1}) {
-        const QString direction = step > 0 ? QStringLiteral("Up") : QStringLiteral("Down");
+    for (const int direction : {1, -1}) {
+        const QString word = direction > 0 ? QStringLiteral("Up") : QStringLiteral("Down");
         auto* button = new QToolButton(m_upDown);
-        button->setObjectName(ToQt(name) + direction);
-        button->setAccessibleName(direction);
-        button->setArrowType(step > 0 ? Qt::UpArrow : Qt::DownArrow);
+        button->setObjectName(ToQt(name) + word);
+        button->setAccessibleName(word);
+        button->setArrowType(direction > 0 ? Qt::UpArrow : Qt::DownArrow);
         button->setFixedHeight(sizeHint().height() / 2);
         button->setAutoRepeat(true);
         // The arrow keys do the same from within the box.
         button->setFocusPolicy(Qt::NoFocus);
-        connect(button, &QToolButton::clicked, this, [this, step] { Step(step); });
+        connect(button, &QToolButton::clicked, this, [this, direction] { Step(direction); });
         buttons->addWidget(button);
     }
 }
@@ -42,9 +56,10 @@ void NumberBox::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
-void NumberBox::Step(int step)
+void NumberBox::Step(int direction)
 {
-    setText(QString::number(StepNumber(FromQt(text()), step, m_lowest, m_highest)));
+    setText(ToQt(NumberToText(
+        StepNumber(FromQt(text()), direction * StepOf(m_bounds), m_bounds.Least, m_bounds.Most))));
 }
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/fields.h"
 #include "windows/controls.h"
 
 #include <QLineEdit>
@@ -15,7 +16,10 @@ class NumberBox : public QLineEdit
     Q_OBJECT
 
 public:
-    NumberBox(ControlName name, int lowest, int highest, QWidget* parent);
+    NumberBox(ControlName name, const NumberBounds& bounds, QWidget* parent);
+
+    /// From now on the number is stepped within these bounds.
+    void SetBounds(const NumberBounds& bounds) { m_bounds = bounds; }
 
     /// The pair of buttons, to be put beside the box; their object names are the box's name with
     /// "Up" or "Down" appended.
@@ -25,10 +29,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void Step(int step);
+    void Step(int direction);
 
-    int m_lowest;
-    int m_highest;
+    NumberBounds m_bounds;
     QWidget* m_upDown;
 };
 

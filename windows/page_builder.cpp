@@ -17,6 +17,8 @@
 #include <QRadioButton>
 #include <QSlider>
 
+#include <limits>
+
 namespace orvane {
 
 namespace {
@@ -101,6 +103,23 @@ QComboBox* PageBuilder::ComboBox(ControlName name, TextView label, std::span<con
     return box;
 }
 
+QComboBox* PageBuilder::ChoiceBox(ControlName name, TextView label,
+                                  std::span<const ChoiceItem> items, TextView tip, TextView unit)
+{
+    QComboBox* box = MakeChoiceBox(items, false, Page());
+    FieldRow(box, name, label, tip, Words(unit));
+    return box;
+}
+
+QComboBox* PageBuilder::OpenChoiceBox(ControlName name, TextView label,
+                                      std::span<const ChoiceItem> items, TextView tip,
+                                      TextView unit)
+{
+    QComboBox* box = MakeChoiceBox(items, true, Page());
+    FieldRow(box, name, label, tip, Words(unit));
+    return box;
+}
+
 QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName swatch)
 {
     QComboBox* box = ComboBox(name, label, BasicColors, true);
@@ -120,13 +139,20 @@ QComboBox* PageBuilder::ColorBox(ControlName name, TextView label, ControlName s
 orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, int lowest, int highest,
                                           TextView tip, TextView unit)
 {
-    auto* box = new orvane::NumberBox(name, lowest, highest, Page());
+    auto* box = new orvane::NumberBox(
+        name, {static_cast<double>(lowest), static_cast<double>(highest)}, Page());
     box->setToolTip(ToQt(tip));
     if (unit.empty())
         Row(label, {box, box->UpDown()});
     else
         Row(label, {box, box->UpDown(), Words(unit)});
     return Narrow(box);
+}
+
+orvane::NumberBox* PageBuilder::NumberBox(ControlName name, TextView label, TextView tip,
+                                          TextView unit)
+{
+    return NumberBox(name, label, 0, std::numeric_limits<int>::max(), tip, unit);
 }
 
 QSlider* PageBuilder::Slider(ControlName name, TextView label, TextView low, TextView high,

@@ -65,6 +65,13 @@ public:
     QComboBox* ComboBox(ControlName name, TextView label, std::span<const TextView> items,
                         bool isEditable, TextView tip = {}, TextView unit = {});
 
+    /// A combo box whose items have a value each, which is that of the field; it takes no other.
+    QComboBox* ChoiceBox(ControlName name, TextView label, std::span<const ChoiceItem> items,
+                         TextView tip = {}, TextView unit = {});
+    /// The same, which takes any other text too.
+    QComboBox* OpenChoiceBox(ControlName name, TextView label, std::span<const ChoiceItem> items,
+                             TextView tip = {}, TextView unit = {});
+
     /// A combo box with the basic colours, and a swatch beside it that writes a picked colour into
     /// the box, as "255,128,0".
     QComboBox* ColorBox(ControlName name, TextView label, ControlName swatch);
@@ -72,6 +79,9 @@ public:
     /// A text box with up-down buttons that step a number between the two bounds.
     orvane::NumberBox* NumberBox(ControlName name, TextView label, int lowest, int highest,
                                  TextView tip = {}, TextView unit = {});
+    /// The same; the bounds are those of the field, where the window's effect has such a field.
+    orvane::NumberBox* NumberBox(ControlName name, TextView label, TextView tip = {},
+                                 TextView unit = {});
 
     /// A slider, with the words `low` at its left end and `high` at its right end.
     QSlider* Slider(ControlName name, TextView label, TextView low, TextView high,

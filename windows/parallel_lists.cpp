@@ -15,9 +15,10 @@ namespace orvane {
 
 namespace {
 
-QString FirstLine(TextView text)
+QString FirstLine(const ListColumn& column, const Text& text)
 {
-    return ToQt(text.substr(0, text.find_first_of(u"\r\n")));
+    const Text shown = column.Shown != nullptr ? column.Shown(text) : text;
+    return ToQt(shown.substr(0, shown.find_first_of(u"\r\n")));
 }
 
 } // namespace
@@ -61,7 +62,7 @@ MovableList* ParallelLists::MakeList(const ListColumn& column)
 {
     auto* list = new MovableList(m_family);
     list->setObjectName(ToQt(column.Name));
-    list->setAccessibleName(ToQt(column.Header));
+    list->setAccessibleName(SpokenName(column.Header));
     list->setContextMenuPolicy(Qt::CustomContextMenu);
     const bool isFirst = m_lists.empty();
     if (!isFirst)
@@ -128,7 +129,7 @@ void ParallelLists::Show(const RowList& rows)
             list->AddRow();
         for (int row = 0; row < count; ++row)
             list->item(row)->setText(
-                FirstLine(rows.Rows[static_cast<std::size_t>(row)].at(column)));
+                FirstLine(m_columns[column], rows.Rows[static_cast<std::size_t>(row)].at(column)));
     }
     SelectInAll(rows.Selected ? static_cast<int>(*rows.Selected) : -1);
 }

@@ -22,9 +22,9 @@ struct RowLook
     ControlName Selected = {}; ///< the box whose text is selected at first; empty for none
 };
 
-/// The small window in which the author edits one row of a list: the row's fields, `Check`, and
-/// `Tidy` and `HintsOf` where there are any stand beside the row's struct. A field without a
-/// control stays as it is.
+/// The small window in which the author edits one row of a list: the row's fields stand beside its
+/// struct, and `Check`, `Tidy` and `HintsOf` where there are any. A field without a control stays
+/// as it is.
 template <HasFields Row>
 class RowForm : public OkCancelForm
 {
@@ -52,8 +52,9 @@ protected:
     void Accept() override
     {
         Row row = Entered();
-        if (const auto complaint = Check(row))
-            return ShowComplaint(*complaint);
+        if constexpr (requires { Check(row); })
+            if (const auto complaint = Check(row))
+                return ShowComplaint(*complaint);
         TidyFields(row);
         m_row = std::move(row);
         ShowRow();
@@ -120,6 +121,28 @@ void EditRowByWindow(RowListPanel& panel, const RowLook& look, Workbench& bench)
 {
     auto* form = new RowForm<Row>(look, bench, SelectedRowOf<Row>(panel), panel.window());
     form->Begin([&panel, form] { panel.ChangeSelectedRow(TextsOf(form->Result())); });
+}
+
+/// Adds a list of rows that takes the height that is left, with buttons that add, edit, remove and
+/// move them; a window that looks like `look` edits one.
+template <HasFields Row>
+void AddRowList(PageBuilder& page, std::vector<ListColumn> columns, const RowLook& look,
+                Workbench& bench)
+{
+    auto* rows =
+        new RowListPanel({.Columns = std::move(columns),
+                          .Words = itemWords,
+                          .Buttons = {{RowCommand::Add, "cmdAdd", u"&Add item..."},
+                                      {RowCommand::Edit, "cmdEdit", u"&Edit item..."},
+                                      {RowCommand::Remove, "cmdRemove", u"&Remove item"},
+                                      {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
+                                      {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"}}},
+                         bench.Dialogs);
+    page.Fill(rows);
+    QObject::connect(rows, &RowListPanel::AddWanted, rows,
+                     [=, &bench] { AddRowByWindow<Row>(*rows, look, bench); });
+    QObject::connect(rows, &RowListPanel::EditWanted, rows,
+                     [=, &bench] { EditRowByWindow<Row>(*rows, look, bench); });
 }
 
 } // namespace orvane

@@ -60,7 +60,7 @@ ImageFadeForm::ImageFadeForm(Workbench& bench, QWidget* parent)
     connect(m_images, &RowListPanel::EditWanted, this,
             [this] { EditRowByWindow<FadeImage>(*m_images, linkWindow, m_bench); });
     connect(m_images, &RowListPanel::RowsChanged, this, &ImageFadeForm::KeepSize);
-    connect(new FileDrop(*m_images, pictureMasks, m_bench.Dialogs), &FileDrop::Dropped, this,
+    connect(new FileDrop(*m_images, pictureMasks, m_bench), &FileDrop::Dropped, this,
             &ImageFadeForm::AddImages);
     AddButtons(Buttons::OnePage, "cmdHelp");
 }

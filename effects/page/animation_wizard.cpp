@@ -1,5 +1,9 @@
 #include "effects/page/animation_wizard.h"
 
+#include "core/numbers.h"
+#include "reedit/applet_values.h"
+#include "services/block_pictures.h"
+
 #include <utility>
 
 namespace orvane {
@@ -33,6 +37,11 @@ std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page)
     return CheckPictures(animation.lstPictures, "lstPictures", most);
 }
 
+std::vector<Hint> HintsOf(const AnimationWizard& animation)
+{
+    return HintsOfLink(animation.txtDescription, animation.txtLink);
+}
+
 void Tidy(AnimationWizard& animation)
 {
     TidyBlock(animation);
@@ -42,6 +51,29 @@ void Tidy(AnimationWizard& animation)
         picture.Description.clear();
         picture.Link.clear();
     }
+}
+
+void ReadTag(AnimationWizard& animation, const PastedTag& pasted)
+{
+    const PastedTag tag = WithoutQuotes(pasted);
+    const auto value = [&](TextView name) { return TagValue(tag, Join({name, u" VALUE="})); };
+    animation = {};
+    constexpr int mostImages = 31; // that the applet takes
+    for (int i = 0; i < mostImages; ++i) {
+        const Text image = value(Join({u"IMAGE.", NumberToText(i)}));
+        if (image.empty())
+            break;
+        animation.lstPictures.push_back(PictureNamed(image));
+    }
+    animation.cboTarget = value(u"TARGET.0");
+    if (const Text link = value(u"URL.0"); link != u"null")
+        animation.txtLink = link;
+    // Less than nothing waits for a click or the mouse.
+    if (const Text pause = value(u"PAUSE.0"); Val(pause) > 0)
+        animation.txtMilliseconds = pause;
+    animation.txtWidth = TagValue(tag, u"WIDTH=");
+    animation.cboTimes = value(u"CYCLES");
+    TidyBlock(animation);
 }
 
 } // namespace orvane

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/pasted_tag.h"
 #include "services/block_fields.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace orvane {
 
@@ -64,7 +67,14 @@ void TakeContent(AnimationWizard& animation, BlockContent content);
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page);
 
+/// The hint at a link without a name.
+std::vector<Hint> HintsOf(const AnimationWizard& animation);
+
 /// Mends each field as MendField() does.
 void Tidy(AnimationWizard& animation);
+
+/// Fills pictures, time, rounds, width and link from the tag of an animation applet, whose quotes
+/// are no part of them; of the earlier applet's tag rounds and width alone.
+void ReadTag(AnimationWizard& animation, const PastedTag& pasted);
 
 } // namespace orvane

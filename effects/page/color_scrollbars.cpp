@@ -41,6 +41,14 @@ std::optional<Complaint> Check(const ColorScrollbars& bars)
     return std::nullopt;
 }
 
+std::vector<Hint> HintsOf(const ColorScrollbars& bars)
+{
+    return HintList()
+        .Contrast("cmdTrackColor", bars.HandleColor, bars.TrackColor, shapeContrast)
+        .Contrast("cmdHoverColor", bars.HoverColor, bars.TrackColor, shapeContrast)
+        .Hints();
+}
+
 EffectPayload Generate(const ColorScrollbars& bars)
 {
     const bool isPageAlone = bars.cboWhere == u"page";

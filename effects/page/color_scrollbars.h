@@ -3,9 +3,11 @@
 #include "core/complaint.h"
 #include "core/payload.h"
 #include "services/block_fields.h"
+#include "services/hints.h"
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace orvane {
 
@@ -42,6 +44,9 @@ void ForEachField(Bars& bars, Field&& field)
 
 /// The complaint about a colour that is missing, or nothing when the wizard may finish.
 std::optional<Complaint> Check(const ColorScrollbars& bars);
+
+/// The hints at colours of the handle that are hard to tell from the track.
+std::vector<Hint> HintsOf(const ColorScrollbars& bars);
 
 /// The style for the HEAD, whose root has the fields as a block's has. Expects scrollbars that pass
 /// Check() and went through Tidy().

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/pasted_tag.h"
 #include "services/block_fields.h"
 #include "services/text_look.h"
 
@@ -51,5 +52,9 @@ void ForEachField(Message& message, Field&& field)
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const FadingMessage& message, int page);
+
+/// Fills the effect from the tag of an earlier applet: messages and their links, alignment, font
+/// and width.
+void ReadTag(FadingMessage& message, const PastedTag& tag);
 
 } // namespace orvane

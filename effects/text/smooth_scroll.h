@@ -1,11 +1,14 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/pasted_tag.h"
 #include "services/block_fields.h"
+#include "services/hints.h"
 #include "services/text_look.h"
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace orvane {
 
@@ -55,5 +58,12 @@ void ForEachField(Scroll& scroll, Field&& field)
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const SmoothScroll& scroll, int page);
+
+/// The hint at colours that make the text hard to read.
+std::vector<Hint> HintsOf(const SmoothScroll& scroll);
+
+/// Fills the ticker from the tag of an earlier applet: message, direction, font, size, speed,
+/// colours, width and height.
+void ReadTag(SmoothScroll& scroll, const PastedTag& tag);
 
 } // namespace orvane

@@ -79,16 +79,6 @@ void ForEachField(Scroller& scroller, Field&& field)
     field("txtPause", scroller.txtPause);
 }
 
-/// What an author is told when a command finds no message to work on.
-inline constexpr RowListWords scrollerWords{
-    .EditEmpty = u"The list of items is empty.  Please add an item before editing it.",
-    .EditNone = u"Select an item from the list in order to edit it.",
-    .RemoveEmpty = u"The list of items is empty.  Please add an item before removing it.",
-    .RemoveNone = u"Select an item from the list in order to remove it.",
-    .CannotMoveUp = u"Select an item in the list.  You cannot move the first item upward.",
-    .CannotMoveDown = u"Select an item in the list.  You cannot move the last item downward.",
-};
-
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const VerticalScroller& scroller, int page);
 

@@ -12,18 +12,6 @@ constexpr TextView subHeading =
     u"Scroll text vertically like a newsfeed and link each scrolling item to a Web page!  Hovering "
     u"over the text pauses the scroller.";
 
-RowListLook ItemList()
-{
-    return {
-        .Columns = {{"lstItems", u"Vertical Scroller items:"}, {"lstLinks", u"Link to this URL:"}},
-        .Words = scrollerWords,
-        .Buttons = {{RowCommand::Add, "cmdAdd", u"&Add item..."},
-                    {RowCommand::Edit, "cmdEdit", u"&Edit item..."},
-                    {RowCommand::Remove, "cmdRemove", u"&Remove item"},
-                    {RowCommand::MoveUp, "cmdMoveUp", u"Move Up"},
-                    {RowCommand::MoveDown, "cmdMoveDown", u"Move Down"}}};
-}
-
 void AddItemFields(PageBuilder& page)
 {
     page.MultiLineBox("txtItem", u"Item text:",
@@ -61,12 +49,10 @@ VerticalScrollerForm::VerticalScrollerForm(Workbench& bench, QWidget* parent)
 
 void VerticalScrollerForm::AddItemsPage()
 {
-    auto* items = new RowListPanel(ItemList(), m_bench.Dialogs);
-    AddPage({heading, subHeading}).Fill(items);
-    connect(items, &RowListPanel::AddWanted, this,
-            [this, items] { AddRowByWindow<ScrollerItem>(*items, itemWindow, m_bench); });
-    connect(items, &RowListPanel::EditWanted, this,
-            [this, items] { EditRowByWindow<ScrollerItem>(*items, itemWindow, m_bench); });
+    PageBuilder page = AddPage({heading, subHeading});
+    AddRowList<ScrollerItem>(
+        page, {{"lstItems", u"Vertical Scroller items:"}, {"lstLinks", u"Link to this URL:"}},
+        itemWindow, m_bench);
 }
 
 void VerticalScrollerForm::AddTextPage()

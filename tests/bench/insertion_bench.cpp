@@ -38,6 +38,7 @@ public:
     bool Ask(TextView words, TextView) override { throw std::runtime_error(ToUtf8(words)); }
     std::optional<bool> AskOrCancel(TextView, TextView) override { return std::nullopt; }
     std::optional<Text> OpenFile(const FileRequest&) override { return std::nullopt; }
+    std::vector<Text> OpenFiles(const FileRequest&) override { return {}; }
     std::optional<Text> SaveFile(const FileRequest&) override { return std::nullopt; }
     std::optional<Text> PickFolder(TextView, TextView) override { return std::nullopt; }
     std::optional<std::int32_t> PickColor() override { return std::nullopt; }

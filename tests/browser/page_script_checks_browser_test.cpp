@@ -41,13 +41,17 @@ protected:
         m_checks.Load("<meta charset=utf-8><script src=texts.js></script>"
                       "<script src=checks.js></script>");
         m_checks.Value(call + "; 0");
-        for (;;) {
-            const QVariantMap asked = m_checks.Value("request()").toMap();
+        QVariantMap asked;
+        const auto isAsked = [&] {
+            asked = m_checks.Value("request()").toMap();
+            return !asked.empty();
+        };
+        while (WaitFor(isAsked, 30000)) {
             if (asked["what"] == "end" || ::testing::Test::HasFailure())
                 return asked["faults"].toStringList();
-            if (!asked.empty())
-                m_checks.Value("answer(" + ToJson(Answer(asked)) + "); 0");
+            m_checks.Value("answer(" + ToJson(Answer(asked)) + "); 0");
         }
+        return {QString("the page that runs the checks does not ask any more")};
     }
 
 private:

@@ -26,5 +26,22 @@ TEST(FileNamesTest, ABackslashPartsFoldersEverywhereButInAFullPath)
     EXPECT_EQ(PathIn(u"", u"b.gif"), u"/b.gif");
 }
 
+TEST(FileNamesTest, AnAuthorReadsThemInTheOrderOfTheirNumbers)
+{
+    const TextView inOrder[] = {u"",
+                                u"A.gif",
+                                u"a.png",
+                                u"b.gif",
+                                u"b0.gif",
+                                u"b2.gif",
+                                u"B02.gif2",
+                                u"b10.gif",
+                                u"b99999999999.gif",
+                                u"b100000000000.gif"};
+    for (const TextView& name : inOrder)
+        for (const TextView& other : inOrder)
+            EXPECT_EQ(ComesBefore(name, other), &name < &other) << ToUtf8(name) << ToUtf8(other);
+}
+
 } // namespace
 } // namespace orvane::testing

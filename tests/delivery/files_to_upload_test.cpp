@@ -6,9 +6,10 @@ namespace orvane::testing {
 namespace {
 
 /// What the list to upload says on the last page, the author's own files behind a bar.
-Text ListOf(EffectKind kind, const std::array<Text, 3>& supportFiles, TextView picture)
+Text ListOf(EffectKind kind, const std::array<Text, 3>& supportFiles, TextView picture,
+            bool isBlock = false)
 {
-    EffectPayload effect{.Kind = kind, .SupportFiles = supportFiles};
+    EffectPayload effect{.Kind = kind, .SupportFiles = supportFiles, .IsBlock = isBlock};
     effect.Required.RequiredFileNames[7] = picture;
     Text list;
     for (const Text& name : FilesToUpload(Finish(effect)))
@@ -31,6 +32,9 @@ TEST(FilesToUploadTest, ListsFixedFilesThenTheAuthors)
     EXPECT_EQ(ListOf(EffectKind::PopupWindow, {}, u"p.html"), u"No Required Files. | p.html");
     EXPECT_EQ(ListOf(EffectKind::StatusBarTicker, {}, u"stray.gif"), u"No Required Files. |");
     EXPECT_EQ(ListOf(EffectKind::Tooltips, {}, u""), u"No Required Files. |");
+    EXPECT_EQ(ListOf(EffectKind::AnimationWizard, {}, u"p.gif", true), u"| p.gif");
+    EXPECT_EQ(ListOf(EffectKind::AnimationWizard, {}, u"", true), u"No Required Files. |");
+    EXPECT_EQ(ListOf(EffectKind::FadingMessage, {}, u"", true), u"No Required Files. |");
 }
 
 } // namespace

@@ -206,6 +206,12 @@ TEST_F(PreviewFormTest, ThePageScriptGoesWhereverTheEffectGoesOnceItIsWanted)
     Click(*m_form, "chkRunsToday");
     Click(*m_form, "chkRunsToday");
     EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+
+    m_payload = {.Kind = EffectKind::SmoothScroll, .BODYHTML = u"<div></div>", .IsBlock = true};
+    Open();
+    EXPECT_FALSE(holdsLines(m_desk.Pane.Pages.back().Bytes));
+    EXPECT_FALSE(Find<QWidget>(*m_form, "chkRunsToday")->isVisible());
+    EXPECT_EQ(WordsOf(*m_form, "lblRunsToday"), u"Runs in today's browsers by itself.");
 }
 
 TEST_F(PreviewFormTest, WhatWentInWithoutThePageScriptGetsItOnTheLastPage)

@@ -60,8 +60,11 @@ TEST(SettingsFileTest, TwoProgramsThatStoreAtTheSameTimeKeepBoth)
         PosixCalls calls;
         DiskFileStore files(calls, u"");
         SettingsFile settings(files, folder.TextAt("settings"));
-        for (char16_t key = u'a'; key <= u'z'; ++key)
+        for (char16_t key = u'a'; key <= u'z'; ++key) {
             settings.Put(section, Text(1, key), u"stored", orvane);
+            // No program stores without a pause, in which the other one gets the lock.
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
     };
     std::thread other(store, u"other");
     store(u"one");

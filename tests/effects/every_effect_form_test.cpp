@@ -23,7 +23,10 @@ constexpr TextView oddText = u"a \"b\" 'c' «Id» \\ é☃";
 void Change(QWidget& window, FieldName name, Text& value)
 {
     const QString control = ToQt(name.Name);
-    if (const auto* combo = window.findChild<QComboBox*>(control); combo && !combo->isEditable())
+    if (!name.Choices.empty())
+        value = name.Choices.back();
+    else if (const auto* combo = window.findChild<QComboBox*>(control);
+             combo && !combo->isEditable())
         value = FromQt(combo->itemText(combo->count() - 1));
     else if (const auto* list = window.findChild<QListWidget*>(control))
         value = FromQt(list->item(list->count() - 1)->text());
@@ -40,7 +43,9 @@ void Change(QWidget& window, FieldName name, int& value)
 {
     // A number without a slider stands in a text that the author does not see.
     const auto* slider = window.findChild<QSlider*>(ToQt(name.Name));
-    if (slider == nullptr)
+    if (name.Bounds)
+        value = static_cast<int>(name.Bounds->Most);
+    else if (slider == nullptr)
         value += 7;
     else
         value = slider->value() == slider->maximum() ? slider->minimum() : slider->maximum();
@@ -63,7 +68,7 @@ void Change(QWidget&, FieldName, std::vector<Row>& value)
     value.resize(2);
     Text text(oddText);
     for (Row& row : value) {
-        ForEachField(row, [&](FieldName, Text& field) { field = text; });
+        ForEachField(row, [&](FieldName, auto& field) { SetField(field, FieldTexts{text}); });
         text = u"two\r\nlines";
     }
 }
@@ -141,6 +146,10 @@ TYPED_TEST(EveryEffectTest, AFreshWindowShowsTheDefaultsInControlsOfTheFieldsNam
     const auto shown = this->m_form.Parameters();
     ForEachField(shown, [&](FieldName name, const auto&) {
         EXPECT_TRUE(controls.Has(name.Name)) << name.Name;
+        const auto* words = this->m_form.template findChild<QComboBox*>(
+            ToQt(name.Choices.empty() ? "" : name.Name));
+        for (std::size_t i = 0; i < name.Choices.size(); ++i)
+            EXPECT_EQ(words->itemData(static_cast<int>(i)).toString(), ToQt(name.Choices[i]));
     });
 }
 

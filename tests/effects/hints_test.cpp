@@ -5,7 +5,9 @@
 #include "effects/applet/more_image_effects.h"
 #include "effects/applet/typewriter_text.h"
 #include "effects/page/all_in_one_button.h"
+#include "effects/page/animation_wizard.h"
 #include "effects/page/anti_spam_link.h"
+#include "effects/page/color_scrollbars.h"
 #include "effects/page/cursor_trail.h"
 #include "effects/page/dynamic_button.h"
 #include "effects/page/password_protection.h"
@@ -14,6 +16,7 @@
 #include "effects/page/pulldown_menu.h"
 #include "effects/page/slideshow.h"
 #include "effects/text/digital_clock.h"
+#include "effects/text/smooth_scroll.h"
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/tooltips.h"
 #include "effects/text/vertical_scroller.h"
@@ -132,6 +135,23 @@ TEST(HintsTest, AreAtSecondsThatThePageCannotCarry)
     EXPECT_NE(Shown(MoreImageEffects{.PauseSeconds = endless}), "");
     EXPECT_NE(Shown(VerticalScroller{.txtPause = endless}), "");
     EXPECT_EQ(Shown(VerticalScroller{.txtPause = u"2147483"}), "");
+}
+
+TEST(HintsTest, AreAtColorsThatAreHardToTellApart)
+{
+    const auto words = [](const std::string& contrast, const std::string& least) {
+        return "The contrast of these two colors is " + contrast + " to 1.  From " + least +
+               " to 1 on, everybody can tell them apart well.";
+    };
+    EXPECT_EQ(Shown(SmoothScroll{.Look = {.TextColor = u"#777"}, .BackColor = u"white"}),
+              "cmdTextColor: " + words("4.47", "4.5"));
+    EXPECT_EQ(Shown(SmoothScroll{.Look = {.TextColor = u"#777"}}), "");
+    EXPECT_EQ(Shown(ColorScrollbars()), "");
+    EXPECT_EQ(Shown(ColorScrollbars{.HandleColor = u"#949494", .TrackColor = u"#fff"}), "");
+    EXPECT_EQ(Shown(ColorScrollbars{.HandleColor = u"#959595", .TrackColor = u"#fff"}),
+              "cmdTrackColor: " + words("2.99", "3"));
+    EXPECT_EQ(Shown(ColorScrollbars{.HoverColor = u"#dde6ee"}),
+              "cmdHoverColor: " + words("1", "3"));
 }
 
 } // namespace

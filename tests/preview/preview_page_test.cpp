@@ -33,6 +33,19 @@ TEST(PreviewPageTest, ShowsTheEffectInBothBrowsers)
     }
 }
 
+TEST(PreviewPageTest, SpeaksOfABlockAsItRunsToday)
+{
+    for (const int kind : {25, 35, 37}) {
+        FinishedPayload payload = PlainPayload(kind);
+        payload.Effect.IsBlock = true;
+        const Text page = PreviewPageText(payload, PreviewMode::Inline);
+        for (const TextView old : {u"does not display it", u"varlo_quake", u"cannot", u"Explorer"})
+            EXPECT_EQ(Find(page, old), 0u) << kind;
+        EXPECT_NE(Find(page, payload.Effect.HEADHTML), 0u);
+        EXPECT_NE(Find(page, Join({payload.Effect.BODYHTML, u"<p>"})), 0u);
+    }
+}
+
 TEST(PreviewPageTest, SaysThatAServerScriptCannotBeTestedHere)
 {
     FinishedPayload payload = PlainPayload(24);

@@ -1,6 +1,7 @@
 #include "program/qt_dialogs.h"
 
 #include "tests/support/doubles.h"
+#include "tests/support/picture_files.h"
 #include "tests/support/qt_controls.h"
 
 #include <QApplication>
@@ -134,6 +135,14 @@ TEST(QtDialogsTest, FileDialogsHaveTheAskedKindsAndRememberTheirFolder)
         dialog.reject();
     });
     EXPECT_EQ(dialogs.OpenFile({}), std::nullopt);
+    for (const char* name : {"/p10.gif", "/p9.gif", "/p8.gif"})
+        WriteFile(folder.path().toStdString() + name, "");
+    WhenInFront<QFileDialog>([](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"p10.gif\" \"p9.gif\"");
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(dialogs.OpenFiles({.Purpose = FolderPurpose::Images}),
+              (Texts{path + u"/p9.gif", path + u"/p10.gif"}));
     // In the next run the folder is that of images alone.
     QtDialogs later(settings);
     for (const auto& [purpose, isSame] :

@@ -95,5 +95,22 @@ TEST(ColorTest, PacksATextForTheScreen)
     EXPECT_EQ(PackedColor(u""), std::nullopt);
 }
 
+TEST(ColorTest, TellsHowWellTwoColorsDiffer)
+{
+    const std::tuple<TextView, TextView, double> cases[] = {{u"#777777", u"white", 4.478},
+                                                            {u"#767676", u"#FfFfFf", 4.542},
+                                                            {u"#000", u"#ffffff", 21},
+                                                            {u"#ff0000", u"Blue", 2.149},
+                                                            {u"#abc", u"#AABBCC", 1}};
+    for (const auto& [color, other, contrast] : cases) {
+        EXPECT_NEAR(ContrastOf(*WholeColor(color), *WholeColor(other)), contrast, 0.001);
+        EXPECT_EQ(ContrastOf(*WholeColor(other), *WholeColor(color)),
+                  ContrastOf(*WholeColor(color), *WholeColor(other)));
+    }
+    for (const TextView none :
+         {u"", u"-", u"#", u"#12", u"#12345g", u"#1234567", u"teals", u"1,2,3"})
+        EXPECT_EQ(WholeColor(none), std::nullopt) << ToUtf8(none);
+}
+
 } // namespace
 } // namespace orvane::testing

@@ -51,6 +51,16 @@ std::optional<Text> FakeDialogs::OpenFile(const FileRequest& request)
     return Next(m_openFiles, "open file", std::optional<Text>());
 }
 
+std::vector<Text> FakeDialogs::OpenFiles(const FileRequest& request)
+{
+    Texts paths;
+    do {
+        if (const auto path = OpenFile(request))
+            paths.push_back(*path);
+    } while (!m_openFiles.empty());
+    return paths;
+}
+
 std::optional<Text> FakeDialogs::SaveFile(const FileRequest& request)
 {
     Requests.push_back(request);

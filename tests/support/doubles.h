@@ -38,7 +38,8 @@ public:
     /// What was said since the last call; empties `Said`.
     Texts TakeSaid() { return std::exchange(Said, {}); }
 
-    /// These prepare the answer to the next dialog of their kind; nothing is Cancel.
+    /// These prepare the answer to the next dialog of their kind; nothing is Cancel. OpenFiles()
+    /// takes all paths that are prepared for OpenFile().
     void AnswerOpenFile(std::optional<Text> path) { m_openFiles.push_back(std::move(path)); }
     void AnswerSaveFile(std::optional<Text> path) { m_saveFiles.push_back(std::move(path)); }
     void AnswerFolder(std::optional<Text> path) { m_folders.push_back(std::move(path)); }
@@ -58,6 +59,7 @@ public:
     bool Ask(TextView words, TextView title) override;
     std::optional<bool> AskOrCancel(TextView words, TextView title) override;
     std::optional<Text> OpenFile(const FileRequest& request) override;
+    std::vector<Text> OpenFiles(const FileRequest& request) override;
     std::optional<Text> SaveFile(const FileRequest& request) override;
     std::optional<Text> PickFolder(TextView title, TextView start) override;
     std::optional<std::int32_t> PickColor() override;

@@ -1,5 +1,7 @@
 #include "tests/support/expect_text.h"
 
+#include "core/block_scripts.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -34,6 +36,23 @@ std::string_view LineFrom(std::string_view bytes, std::size_t start)
                         end == std::string_view::npos ? end : end + 1 - start);
 }
 
+/// The text of a block with its script, for which "§" stands.
+std::string WithScript(std::string bytes)
+{
+    constexpr std::string_view mark = "\xC2\xA7";
+    constexpr std::string_view attribute = "data-orvane=\"";
+    const std::size_t place = bytes.find(mark);
+    if (place == std::string::npos)
+        return bytes;
+    const std::size_t from = bytes.find(attribute) + attribute.size();
+    const std::string kind = bytes.substr(from, bytes.find('"', from) - from);
+    const TextView script = BlockScript(FromUtf8(kind.substr(0, kind.rfind('-'))));
+    EXPECT_FALSE(script.empty()) << kind;
+    return bytes.replace(place, mark.size(),
+                         "<script data-orvane-run=\"" + kind + "\">" + ToUtf8(script) +
+                             "</script>");
+}
+
 } // namespace
 
 void ExpectSameBytes(std::string_view expected, std::string_view actual)
@@ -66,7 +85,7 @@ std::string ExpectedBytes(const std::string& name)
     EXPECT_TRUE(file.is_open()) << name;
     std::ostringstream bytes;
     bytes << file.rdbuf();
-    return bytes.str();
+    return WithScript(bytes.str());
 }
 
 Text ExpectedText(const std::string& name)

@@ -13,7 +13,8 @@ namespace orvane::testing {
 void ExpectSameText(TextView expected, TextView actual);
 void ExpectSameBytes(std::string_view expected, std::string_view actual);
 
-/// The bytes of a file of tests/expected; fails the test and gives none when it is missing.
+/// The bytes of a file of tests/expected, with the script of a block where "§" stands for it; fails
+/// the test and gives none when it is missing.
 std::string ExpectedBytes(const std::string& name);
 
 /// The same, read as UTF-8.

@@ -78,7 +78,9 @@ protected:
         std::vector<Step> steps = GetParam().Steps;
         const std::vector<Step>& delivery = DeliveryOf(kind).Steps;
         steps.insert(steps.end(), delivery.begin(), delivery.end());
-        program->Whole.Bench.Settings.Put(settingKeys::webPageEditor, u"Other");
+        Settings& settings = program->Whole.Bench.Settings;
+        settings.Put(settingKeys::webPageEditor, u"Other");
+        settings.Put(settingKeys::runsToday, kind == "new" ? u"1" : u"0");
         program->Guide->Lead(GetParam().Name, steps, {samplesFolder, folder, picturesFolder});
         ExpectSaid({QStringLiteral("All files have been copied to the ")});
         return Finish(program->Previewed);
@@ -144,7 +146,7 @@ TEST_P(TourTest, LeavesPagesThatAreWhole)
     }
     const FinishedPayload created = Deliver("new");
     ExpectWholePage(QStringLiteral("new"), created);
-    const bool gains = !RowOf(created.Effect.Kind).RunsByItself;
+    const bool gains = !RunsByItself(created.Effect);
     EXPECT_EQ(HasPageScript(BytesOf(Folder(QStringLiteral("new/page.html")))), gains);
     EXPECT_EQ(QFile::exists(Folder(QStringLiteral("new/orvane.js"))), gains);
     const FinishedPayload inserted = Deliver("existing");

@@ -208,11 +208,12 @@ TEST_F(ImageListPanelTest, SeveralFilesAreAddedInTheirOrderAndRefusedOnce)
     for (const std::vector<Text>& refused :
          {{Path(u"page.html"), u"http://x/wide.gif"}, {Path(u"gone.gif")}, std::vector<Text>()})
         EXPECT_FALSE(DropFiles(place, refused));
-    EXPECT_TRUE(DropFiles(place, {Path(u"page.html"), Path(u"blank name/x.jpg"), Path(u""),
+    AddFolder(u"empty");
+    EXPECT_TRUE(DropFiles(place, {Path(u"page.html"), Path(u"blank name"), Path(u"empty"),
                                   Path(u"wide.gif"), u"http://x/y.gif"}));
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(),
-              Texts{Join({u"These files do not fit here and were left out:\r\npage.html\r\n",
-                          GetFileName(FromQt(m_folder.path())), u"\r\ny.gif"})});
+              Texts{u"These files do not fit here and were left out:\r\npage.html\r\ny.gif\r\n"
+                    u"empty"});
     EXPECT_EQ(RowsOf(m_window, "List1"), (Texts{u"x.jpg", u"wide.gif", u"Tall.GIF", u"wide.gif"}));
     EXPECT_EQ(panel.Selected(), 2u);
     ClickRow(m_window, "List1", 3);

@@ -1,5 +1,6 @@
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
+#include "windows/field_controls.h"
 #include "windows/hint_lines.h"
 #include "windows/number_box.h"
 #include "windows/page_builder.h"
@@ -70,6 +71,31 @@ TEST_F(VocabularyTest, AComboBoxGoesOnFromTheItemOfItsText)
     EXPECT_EQ(TextIn("cbo"), u"TWO");
 }
 
+TEST_F(VocabularyTest, AChoiceIsReadByTheValueBehindItsCaption)
+{
+    static constexpr ChoiceItem items[] = {{u"0", u"For ever"}, {u"1"}, {u"all", u"2"}};
+    m_page.ChoiceBox("cbo", u"Closed:", items);
+    m_page.OpenChoiceBox("cboOpen", u"Open:", items);
+    Show();
+    FieldControls controls(m_window);
+    const std::tuple<const char*, TextView, TextView, TextView> rows[] = {
+        {"cbo", u"all", u"2", u"all"},        {"cbo", u"other", u"", u""},
+        {"cboOpen", u"0", u"For ever", u"0"}, {"cboOpen", u"2", u"2", u"all"},
+        {"cboOpen", u"x", u"x", u"x"},        {"cboOpen", u"", u"", u""},
+    };
+    for (const auto& [name, value, shown, expected] : rows) {
+        controls.Write(name, Text(value));
+        EXPECT_EQ(TextIn(name), shown);
+        Text read;
+        controls.Read(name, read);
+        EXPECT_EQ(read, expected);
+    }
+    Type(m_window, "cboOpen", u"For ever");
+    Text typed;
+    controls.Read("cboOpen", typed);
+    EXPECT_EQ(typed, u"0");
+}
+
 TEST_F(VocabularyTest, NumbersStepWithinTheirBoundsAndTakeAnyText)
 {
     m_page.NumberBox("txt", u"Padding:", 0, 50)->setText(QStringLiteral("2"));
@@ -81,6 +107,13 @@ TEST_F(VocabularyTest, NumbersStepWithinTheirBoundsAndTakeAnyText)
     Find<QLineEdit>(m_window, "txt")->setText(QStringLiteral("50em"));
     Click(m_window, "txtUp");
     EXPECT_EQ(TextIn("txt"), u"50");
+    for (const auto& [least, most, up] :
+         {std::tuple(0.2, 10.0, u"1.4"), std::tuple(0.0, 4000.0, u"11")}) {
+        Find<QLineEdit>(m_window, "txt")->setText(QStringLiteral("1.3"));
+        FieldControls(m_window).TakeBounds(NumberField("txt", least, most));
+        Click(m_window, "txtUp");
+        EXPECT_EQ(TextIn("txt"), up);
+    }
 }
 
 TEST_F(VocabularyTest, ATextBoxTakesWhateverLength)

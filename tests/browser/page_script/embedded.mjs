@@ -56,7 +56,9 @@ class EmbeddedTab {
         this.before += before;
         const page = html.replace(/<head>/i, () => `<HEAD><script>${this.before}</script>`);
         const all = { ...files };
-        for (const [name] of html.matchAll(/[\w-]+\.(gif|jpg)/g))
+        // No name begins amid a word: the long words of data addresses would be gone over again
+        // and again.
+        for (const [name] of html.matchAll(/(?<![\w-])[\w-]+\.(gif|jpg)/g))
             if (image(name)) all[name] = latin1(image(name));
         await ask("open", { page, files: all });
     }

@@ -1,0 +1,61 @@
+#include "effects/page/animation_wizard_form.h"
+
+#include "core/pick_lists.h"
+#include "services/file_requests.h"
+#include "windows/block_rows.h"
+#include "windows/picture_list_panel.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr ChoiceItem orders[] = {{u"forward", u"One after the other"},
+                                 {u"back", u"There and back"},
+                                 {u"random", u"In random order"}};
+constexpr ChoiceItem starts[] = {{u"seen", u"When it is seen"},
+                                 {u"click", u"When the visitor clicks"}};
+
+constexpr auto changes = [] {
+    std::array<ChoiceItem, AnimationWizard::Changes.size()> items;
+    items[0] = {u"cut", u"At once"};
+    items[1] = {u"fade", u"Fade"};
+    for (std::size_t i = 0; i < RevealTransitions.size(); ++i)
+        items[i + 2] = {AnimationWizard::Changes[i + 2], RevealTransitions[i]};
+    return items;
+}();
+
+} // namespace
+
+AnimationWizardForm::AnimationWizardForm(Workbench& bench, QWidget* parent)
+    : EffectForm("AnimWizard", bench, parent)
+{
+    PageBuilder pictures =
+        AddPage({u"Pictures of the animation",
+                 u"Add the pictures in the order in which they are shown.  Pictures of one size "
+                 u"look best.",
+                 "cmdAddPictures"});
+    pictures.Fill(new PictureListPanel(EffectKind::AnimationWizard, PictureWords::None, bench));
+    pictures.TextBox("txtDescription", u"&Description:",
+                     u"What the animation shows, for those who do not see it");
+    PageBuilder movement = AddPage(
+        {u"How it moves", u"Say how the pictures follow each other, and where a click leads to."});
+    movement.NumberBox("txtMilliseconds", u"Each picture is sho&wn for:",
+                       u"The time from one picture to the next; 1000 milliseconds are a second",
+                       u"milliseconds");
+    AddTimes(movement);
+    movement.ChoiceBox("cboOrder", u"O&rder:", orders);
+    movement.ChoiceBox("cboChange", u"Chan&ge:", changes, u"How a picture gives way to the next");
+    movement.ChoiceBox("cboStart", u"&Starts:", starts);
+    movement.NumberBox("txtWidth", u"W&idth:", u"0 is as wide as the pictures", u"pixels");
+    movement.BrowseRow("txtLink", u"&Link to Web page:",
+                       u"The address that a click on the animation leads to; empty for no link",
+                       {.Button = "cmdBrowseForURL",
+                        .Caption = u"&Browse for URL...",
+                        .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
+                        .GivesFocus = true});
+    AddTarget(movement);
+    movement.Fill();
+    AddButtons(Buttons::Paged);
+}
+
+} // namespace orvane

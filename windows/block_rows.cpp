@@ -1,0 +1,121 @@
+#include "windows/block_rows.h"
+
+#include "core/block.h"
+#include "services/block_fields.h"
+#include "services/file_requests.h"
+#include "windows/row_form.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView asOnPage = u"As on the page";
+
+constexpr ChoiceItem fonts[] = {{u"", asOnPage},
+                                {u"Arial, sans-serif", u"Arial"},
+                                {u"Verdana, sans-serif", u"Verdana"},
+                                {u"Tahoma, sans-serif", u"Tahoma"},
+                                {u"Trebuchet MS, sans-serif", u"Trebuchet MS"},
+                                {u"Impact, sans-serif", u"Impact"},
+                                {u"Georgia, serif", u"Georgia"},
+                                {u"Times New Roman, serif", u"Times New Roman"},
+                                {u"Courier New, monospace", u"Courier New"},
+                                {u"Comic Sans MS, cursive", u"Comic Sans MS"}};
+
+constexpr ChoiceItem sizes[] = {{u"0", asOnPage}, {u"12"}, {u"14"}, {u"16"}, {u"18"},
+                                {u"20"},          {u"24"}, {u"28"}, {u"32"}, {u"40"},
+                                {u"48"},          {u"64"}, {u"80"}};
+
+constexpr ChoiceItem styles[] = {{u"", asOnPage},
+                                 {u"plain", u"Plain"},
+                                 {u"bold", u"Bold"},
+                                 {u"italic", u"Italic"},
+                                 {u"bold italic", u"Bold italic"}};
+
+constexpr ChoiceItem times[] = {{u"0", u"For ever"},
+                                {u"1"},
+                                {u"2"},
+                                {u"3"},
+                                {u"4"},
+                                {u"5"},
+                                {u"6"},
+                                {u"7"},
+                                {u"8"},
+                                {u"9"},
+                                {u"10"}};
+
+constexpr ChoiceItem targets[] = {{u"", u"The same window"},
+                                  {u"_blank", u"A new window"},
+                                  {u"_parent", u"The frame around"},
+                                  {u"_top", u"The whole window"}};
+
+void AddLink(PageBuilder& page)
+{
+    page.BrowseRow("txtLink", u"&Link to Web page:",
+                   u"The address that a click on the text leads to; empty for no link",
+                   {.Button = "cmdBrowseForURL",
+                    .Caption = u"Browse for URL...",
+                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
+                    .GivesFocus = true});
+}
+
+void AddLineFields(PageBuilder& page)
+{
+    page.TextBox("txtWords", u"&Text:", u"The text of this item");
+    AddLink(page);
+}
+
+void AddLinesFields(PageBuilder& page)
+{
+    page.MultiLineBox("txtWords", u"&Text:", u"The text of this item, of one or more lines");
+    AddLink(page);
+}
+
+} // namespace
+
+void AddMessageList(PageBuilder& page, EffectKind kind, MessageText text, Workbench& bench)
+{
+    AddRowList<BlockRow>(
+        page, {{"lstMessages", u"Messages:"}, {"lstLinks", u"Link to this URL:"}},
+        {.Name = "frmMessage",
+         .Title = u"Message and its link",
+         .Kind = kind,
+         .Letters = 70,
+         .AddFields = text == MessageText::OneLine ? &AddLineFields : &AddLinesFields},
+        bench);
+}
+
+void AddTextLook(PageBuilder& page)
+{
+    page.OpenChoiceBox("cboFont", u"&Font:", fonts,
+                       u"The font of the text, or several with commas between them");
+    page.OpenChoiceBox("cboFontSize", u"Font si&ze:", sizes, u"The size of the text", u"pixels");
+    page.ChoiceBox("cboFontStyle", u"Font st&yle:", styles);
+    AddPageColor(page, "cmdTextColor", u"Te&xt color:");
+}
+
+void AddPageColor(PageBuilder& page, ControlName name, TextView label)
+{
+    page.ColorSwatch(name, label, ColorNotation::Hash, asOnPage,
+                     u"Click here to select a color; Delete takes it away");
+}
+
+void AddTimes(PageBuilder& page)
+{
+    page.Narrow(page.OpenChoiceBox("cboTimes", u"&How often:", times,
+                                   u"How many times all of it is shown"));
+}
+
+void AddTarget(PageBuilder& page)
+{
+    page.OpenChoiceBox("cboTarget", u"Links &open in:", targets,
+                       u"The window or frame in which a link opens");
+}
+
+void AddWidth(PageBuilder& page)
+{
+    page.NumberBox("txtWidth", u"&Width:", u"The width of the effect",
+                   u"pixels; 0 is as wide as its place");
+}
+
+} // namespace orvane
