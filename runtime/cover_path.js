@@ -26,23 +26,16 @@ const edges = (p) => [
 const frame = (p) => [...edges(p), [0, p / 2, p / 2, 1 - p], [1 - p / 2, p / 2, p / 2, 1 - p]];
 
 /**
- * How far a row is uncovered.
- * @param {number} p @param {number} x its place, 0 for the first to 1 for the last
- * @returns {number}
- */
-const stair = (p, x) => Math.min(Math.max(2 * p - x, 0), 1);
-
-/**
  * Squares that open from their left edge, every second row shifted to the right by half a square.
  * @param {number} p
  * @returns {Piece[]}
  */
 function checkers(p) {
     const w = 1 / blinds;
-    return pieces(blinds * blinds, (i) => {
-        const row = Math.floor(i / blinds);
-        return [((i % blinds) + (row % 2) / 2) * w, row * w, p * w, w];
-    }).concat(pieces(blinds / 2, (i) => [0, (2 * i + 1) * w, Math.max(p - 0.5, 0) * w, w]));
+    return pieces(blinds * (blinds + 1), (i) => {
+        const row = i % blinds;
+        return [(Math.floor(i / blinds) - (row % 2) / 2) * w, row * w, p * w, w];
+    });
 }
 
 /** The same with rows and columns exchanged. @param {Piece[]} from @returns {Piece[]} */
@@ -57,7 +50,9 @@ const turned = (from) => from.map(([x, y, w, h]) => [y, x, h, w]);
  */
 const strips = (p, left, up) =>
     pieces(rows, (i) => {
-        const long = stair(p, (up ? rows - 1 - i : i) / (rows - 1));
+        // Each begins a little later than the one before it.
+        const late = (up ? rows - 1 - i : i) / (rows - 1);
+        const long = Math.min(Math.max(2 * p - late, 0), 1);
         return [left ? 1 - long : 0, i / rows, long, 1 / rows];
     });
 

@@ -8,7 +8,7 @@ export const buttonCss =
     "cursor:pointer}" +
     "button::before{content:'';display:block;height:12px;background:currentColor;" +
     "forced-color-adjust:none;clip-path:polygon(0 0,100% 50%,0 100%)}" +
-    ".on::before{clip-path:polygon(0 0,30% 0,30% 100%,70% 100%,70% 0,100% 0,100% 100%,0 100%)}" +
+    ".on::before{clip-path:none;background:none;border:solid;border-width:0 3px}" +
     "@media print{button{display:none}}";
 
 /** The pause button as a chip in the lower right corner, for pictures. */

@@ -10,19 +10,21 @@ import { coverPath, orderOf } from "../cover_path.js";
  * @returns {Promise<any> | void}
  */
 export function change(from, to, how, duration) {
-    const number = Number(how);
+    if (how === "cut" || from === to) return;
+    /** @param {HTMLElement} item @param {number} opacity at first @param {number} z its layer */
+    const show = (item, opacity, z) =>
+        item.animate({ opacity: [opacity, 1], zIndex: [z, z] }, duration);
     if (how === "fade") {
-        from.animate({ opacity: [1, 1] }, duration);
-        return to.animate({ opacity: [0, 1], zIndex: [1, 1] }, duration).finished;
+        show(from, 1, 0);
+        return show(to, 0, 1).finished;
     }
-    if (!(number < 24) || from === to) return;
-    const kind = number === 23 ? Math.floor(Math.random() * 23) : number;
+    const old = show(from, 1, 1);
+    const kind = Number(how) < 23 ? Number(how) : Math.floor(Math.random() * 23);
     const order = orderOf(kind);
     const { offsetWidth: w, offsetHeight: h } = from;
-    const cover = from.animate({ opacity: [1, 1], zIndex: [1, 1] }, duration);
     return new Promise((done) => {
         const step = () => {
-            const p = Number(cover.currentTime ?? duration) / duration;
+            const p = Number(old.currentTime ?? duration) / duration;
             const path = p < 1 && coverPath(kind, p, order, w, h);
             // Both are clipped, since what is behind a text is seen through it.
             from.style.clipPath = path ? `path(evenodd,"${path}")` : "";

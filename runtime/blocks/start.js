@@ -42,9 +42,7 @@ export function fields(root, defaults) {
             const [value, least, most] = standard;
             const number = parseFloat(text ?? "");
             values[name] = isNaN(number) ? value : Math.min(Math.max(number, least), most);
-        } else if (typeof standard === "boolean") {
-            values[name] = text === undefined ? standard : text !== "no";
-        } else values[name] = text || standard;
+        } else values[name] = typeof standard === "boolean" && text != null ? text !== "no" : text || standard;
     }
     return values;
 }
@@ -134,15 +132,10 @@ const base =
  * @param {Node[]} inside
  */
 export function place(root, css, ...inside) {
+    // A Content Security Policy of the page does not forbid sheets that are made like this.
+    const sheet = new CSSStyleSheet();
+    sheet.replaceSync(base + (root.localName === "div" ? ":host{display:block!important}" : "") + css);
     const shadow = root.attachShadow({ mode: "open" });
-    css = base + (root.localName === "div" ? ":host{display:block!important}" : "") + css;
-    try {
-        // A Content Security Policy of the page does not forbid sheets that are made like this.
-        const sheet = new CSSStyleSheet();
-        sheet.replaceSync(css);
-        shadow.adoptedStyleSheets = [sheet];
-    } catch {
-        shadow.append(make("style", "", css));
-    }
+    shadow.adoptedStyleSheets = [sheet];
     shadow.append(...inside);
 }

@@ -1,10 +1,11 @@
 /** One of several items at a time, in turn. */
 import { on } from "./start.js";
 
-/** All items lie in one cell, so that the largest gives the size. */
+/** All items lie in one cell, so that the largest gives the size; those of a list are all printed. */
 export const turnsCss =
     ".stage{display:grid;min-width:0}.stage>*{grid-area:1/1;min-width:0}" +
-    ".stage>:not(.shown){opacity:0;pointer-events:none}";
+    ".stage>:not(.shown){opacity:0;pointer-events:none}" +
+    "@media print{.stage>li{grid-area:auto;opacity:1!important;clip-path:none!important}}";
 
 /**
  * Lets items that are in one stage take turns; the first is shown now. An item that gets the focus
@@ -41,9 +42,9 @@ export function turns(items, { pause, changes = 0, turn }, change, end) {
         wait();
     };
     const show = (/** @type {HTMLElement} */ item) => {
-        for (const { classList } of items) classList.remove("shown");
+        shown.classList.remove("shown");
         shown = item;
-        item.classList.add("shown");
+        shown.classList.add("shown");
     };
     const jump = (/** @type {HTMLElement} */ item) => {
         for (const one of items) for (const run of one.getAnimations()) run.finish();

@@ -1,3 +1,4 @@
+#include "core/block_scripts.h"
 #include "tests/support/expect_text.h"
 #include "tests/support/qt_browser_page.h"
 
@@ -66,11 +67,13 @@ private:
         const QString what = asked["what"].toString();
         const QPoint at = QPointF(asked["x"].toDouble(), asked["y"].toDouble()).toPoint();
         if (what == "begin")
-            Begin();
+            Begin(asked["height"].toInt());
         else if (what == "open")
             Open(asked);
         else if (what == "value")
             return Value(asked["code"].toString().toStdString());
+        else if (what == "script")
+            return QStringView(BlockScript(asked["kind"].toString().toStdU16String())).toString();
         else if (what == "pixels")
             return m_page->ColorsAt(asked["points"].toList());
         else if (what == "mouse")
@@ -80,8 +83,9 @@ private:
         else if (what == "touch")
             Tap(at);
         else
-            QTest::keyClick(&m_page->Surface(),
-                            asked["key"] == "Tab" ? Qt::Key_Tab : Qt::Key_Return);
+            QTest::keyClick(&m_page->Surface(), asked["key"] == "Tab"   ? Qt::Key_Tab
+                                                : asked["key"] == "Esc" ? Qt::Key_Escape
+                                                                        : Qt::Key_Return);
         return {};
     }
 
@@ -98,10 +102,10 @@ private:
         QTest::touchEvent(&m_page->Surface(), m_finger.get()).release(0, at);
     }
 
-    void Begin()
+    void Begin(int height)
     {
         m_page = std::make_unique<BrowserPage>();
-        m_page->Pane.resize(800, 630);
+        m_page->Pane.resize(800, height);
         m_page->AddFile("orvane.js", BytesOf(":/runtime/orvane.js"));
     }
 
@@ -143,7 +147,8 @@ TEST_P(PageScriptChecksBrowserTest, Pass)
     EXPECT_TRUE(faults.empty()) << faults.join("\n").toStdString();
 }
 INSTANTIATE_TEST_SUITE_P(, PageScriptChecksBrowserTest,
-                         ::testing::Combine(::testing::Values("texts", "pages", "applets", "rules"),
+                         ::testing::Combine(::testing::Values("texts", "pages", "applets", "rules",
+                                                              "blocks"),
                                             ::testing::Values("WithDoctype", "WithoutDoctype")),
                          [](const auto& test) {
                              return std::string(std::get<0>(test.param)) + std::get<1>(test.param);

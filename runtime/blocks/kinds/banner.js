@@ -1,14 +1,13 @@
 /** Banner/Billboard Wizard: linked pictures that take turns. */
 import { buttonCss, chipCss, motion, restUnder } from "../calm.js";
-import { shuffled } from "../../cover_path.js";
 import { change } from "../change.js";
 import { fields, make, on, place, rows, size, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
 import { framesCss, sized } from "../pictures.js";
 
 const css =
-    ".arrow{right:0;top:50%;bottom:auto;margin:-16px 4px;padding:0;text-align:center;" +
-    "font:24px/22px sans-serif}.arrow::before{content:none}.back{right:auto}";
+    ".arrow{top:50%;bottom:auto;margin-top:-12px}.back{right:auto;left:4px;transform:scaleX(-1)}" +
+    ".arrow::before{clip-path:polygon(0 0,100% 50%,0 100%,0 70%,50% 50%,0 30%)}";
 
 start("banner-1", (root) => {
     const field = fields(root, {
@@ -24,7 +23,7 @@ start("banner-1", (root) => {
         target: "",
     });
     const items = rows(root, field.target);
-    if (field.randomFirst) items.push(...items.splice(0, shuffled(items.length)[0]));
+    if (field.randomFirst) items.push(...items.splice(0, Math.floor(Math.random() * items.length)));
     const stage = make("ul", "stage", ...items);
     const box = make("div", "box");
     for (const item of items) sized(item, field);
@@ -34,9 +33,9 @@ start("banner-1", (root) => {
     );
     const { button, play, rest } = motion(root, "the banners", run);
     if (field.pauseOnHover) restUnder(stage, rest);
-    /** @param {string} name @param {string} sign @param {number} step */
-    const arrow = (name, sign, step) => {
-        const made = make("button", step < 0 ? "arrow back" : "arrow", sign);
+    /** @param {string} name @param {string} look @param {number} step */
+    const arrow = (name, look, step) => {
+        const made = make("button", "arrow" + look);
         made.title = name;
         on(made, "click", () => {
             play(false);
@@ -47,6 +46,6 @@ start("banner-1", (root) => {
     // Readers meet the buttons before what they change.
     if (items[1]) box.append(button);
     if (items[1] && field.arrows)
-        box.append(arrow("Previous", "\u2039", -1), arrow("Next", "\u203a", 1));
+        box.append(arrow("Previous", " back", -1), arrow("Next", "", 1));
     box.append(stage);
 });

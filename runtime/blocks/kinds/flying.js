@@ -18,14 +18,18 @@ const turn = { straight: 0, arc: 1.5, spiral: 9 };
  * @param {string} path
  */
 function way(letter, from, path) {
-    const { left, top, right, bottom } = letter.getBoundingClientRect();
-    const { clientWidth } = document.documentElement;
-    const room = [-left, clientWidth - right, -top, innerHeight - bottom - 2];
+    const { left, top, width, height } = letter.getBoundingClientRect();
+    // A letter that turns needs a circle.
+    const radius = Math.hypot(width, height) / 2;
+    const [x0, y0] = [left + width / 2, top + height / 2];
+    const [x1, y1] = [document.documentElement.clientWidth - x0, innerHeight - y0];
+    const room = [radius - x0, x1 - radius, radius - y0, y1 - radius];
     let side = ["left", "right", "above", "below"].indexOf(from);
     if (side < 0) side = Math.floor(Math.random() * 4);
     const [x, y] = side < 2 ? [room[side], 0] : [0, room[side]];
     const within = (/** @type {number} */ n, /** @type {number} */ at) =>
-        Math.max(room[at], Math.min(room[at + 1], n)) + "px";
+        // Its place may be nearer to the edge.
+        (n && Math.max(room[at], Math.min(room[at + 1], n))) + "px";
     return Array.from({ length: steps + 1 }, (_, i) => {
         const rest = 1 - i / steps;
         const angle = rest * turn[path];

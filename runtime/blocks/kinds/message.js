@@ -6,7 +6,7 @@ import { turns, turnsCss } from "../turns.js";
 
 const css =
     ".box{display:flex;align-items:center;max-width:100%;box-sizing:border-box}" +
-    ".stage{flex:1;align-items:center}@media print{.stage>li{grid-area:auto;opacity:1!important}}";
+    ".stage{flex:1;align-items:center}";
 
 start("message-1", (root) => {
     const field = fields(root, {

@@ -2,14 +2,13 @@
 import { buttonCss, motion, restUnder } from "../calm.js";
 import { pick } from "../pick.js";
 import { dress, fields, look, make, place, rows, size, start } from "../start.js";
-import { turnsCss } from "../turns.js";
 
 const css =
-    ".box{display:flex;align-items:center;max-width:100%}.stage{flex:1;align-items:center}" +
+    ".box{display:flex;align-items:center;max-width:100%}.stage{flex:1;display:grid;align-items:center}" +
     "blockquote{margin:0}.marks blockquote::before{content:open-quote}" +
     ".marks blockquote::after{content:close-quote}" +
     "cite{display:block;font-size:.85em;margin-top:.3em}cite::before{content:'\\2014\\a0'}" +
-    ".stage>:not(.shown){visibility:hidden}";
+    ".stage>*{grid-area:1/1;min-width:0}.stage>:not(.shown){visibility:hidden}";
 
 start("quote-1", (root) => {
     const field = fields(root, {
@@ -27,7 +26,7 @@ start("quote-1", (root) => {
     dress(box, field);
     box.style.textAlign = field.align;
     if (field.backColor) box.style.padding = ".6em .8em";
-    place(root, css + turnsCss + buttonCss, box);
+    place(root, css + buttonCss, box);
     let shown = pick(root, items.length, field.rule === "seconds" ? "chance" : field.rule);
     const show = (/** @type {number} */ n) => {
         items[shown].classList.remove("shown");

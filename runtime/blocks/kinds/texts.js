@@ -4,9 +4,7 @@ import { change } from "../change.js";
 import { dress, fields, look, make, place, rows, start } from "../start.js";
 import { turns, turnsCss } from "../turns.js";
 
-const css =
-    ".box{display:flex;align-items:center}.stage{flex:1}" +
-    "@media print{.stage>li{grid-area:auto;opacity:1!important}}";
+const css = ".box{display:flex;align-items:center}.stage{flex:1}";
 
 start("texts-1", (root) => {
     const field = fields(root, {

@@ -6,41 +6,41 @@
 import { readFileSync } from "node:fs";
 import { launch, names } from "../page_script/browsers.mjs";
 import { serve } from "../page_script/server.mjs";
-import { kinds, scrollbars } from "./kinds.mjs";
-import { cost, pageOf, scenarios, seesScrollbars, setUp } from "./scenarios.mjs";
+import { kinds, scrollbars, together } from "./kinds.mjs";
+import { cost, pageOf, scenarios, seesScrollbars } from "./scenarios.mjs";
 
 const place = process.argv[2];
-const asked = process.argv.includes("cost")
-    ? ["chromium"]
-    : names.filter(
-          (name) => !names.some((n) => process.argv.includes(n)) || process.argv.includes(name),
-      );
+const costs = process.argv.includes("cost");
+const asked = names.filter((name) => process.argv.includes(name));
+const browsers = costs ? ["chromium"] : asked.length ? asked : names;
 const only = new RegExp(process.env.CHECK ?? "");
 const axe = readFileSync(`${place}/node_modules/axe-core/axe.min.js`, "utf8");
+const code = (kind) => readFileSync(`${place}/blocks/${kind}.js`, "latin1").trim();
 
 const pages = new Map();
 const server = await serve(pages, readFileSync(`${place}/orvane.js`));
-let failed = 0;
+let opened = 0;
 
 /** What keeps a block from passing in a fresh tab, or null. */
 async function faultOf(browser, row, scenario, doctype) {
     const tab = await browser.newPage();
-    await tab.setViewport({ width: 800, height: 600 });
+    const height = row.parts ? 2400 : 600;
+    await tab.setViewport({ width: 800, height, hasTouch: true });
     const errors = [];
-    tab.on("pageerror", (error) => errors.push(error));
-    const requests = [];
+    // Firefox counts a policy's refusals as errors of the page.
+    tab.on("pageerror", (error) => /^Content-Security/.test(error.message) || errors.push(error));
+    let requests = [];
     tab.on("request", (request) => requests.push(request.url()));
-    const code = readFileSync(`${place}/blocks/${row.kind}.js`, "latin1");
     const open = async (options = {}) => {
         await tab.goto("about:blank");
-        requests.length = 0;
-        const before = `<head><script>${options.before ?? ""}${setUp}</script>`;
-        const html = pageOf(row, code, { doctype, ...options }).replace("<head>", () => before);
-        pages.set("page.html", { html });
-        await tab.goto(`${server.at}page.html`, { waitUntil: "load", timeout: 30000 });
+        requests = [];
+        const name = `${opened++}.html`;
+        pages.set(name, { html: await pageOf(row, code, { doctype, ...options }) });
+        await tab.goto(server.at + name, { waitUntil: "load", timeout: 30000 });
     };
+    const prints = (await browser.version()).startsWith("Chrome");
     try {
-        await scenario.run({ open, row, tab, axe, requests, doctype });
+        await scenario.run({ open, row, tab, axe, prints, doctype, requests: () => requests });
         if (errors.length) throw errors[0];
         return null;
     } catch (error) {
@@ -56,27 +56,40 @@ const barsSeen = {
     name: "color scrollbars",
     run: ({ open, tab }) => open({ head: scrollbars }).then(() => seesScrollbars(tab)),
 };
-const all = kinds.flatMap((row) => scenarios.map((scenario) => [row, scenario]));
+const print = ({ kind }) => ({
+    name: kind,
+    run: async (told) => console.log(`${kind}: ${(await cost(told)).toFixed(1)} ms a second`),
+});
+const runs = costs
+    ? kinds.map((row) => [row, print(row)])
+    : [
+          ...kinds.flatMap((row) => scenarios.map((scenario) => [row, scenario])),
+          ...scenarios.filter(({ alone }) => !alone).map((one) => [together, one]),
+          [bars, barsSeen],
+      ];
 
-for (const name of asked) {
-    const browser = await launch(place, name);
-    const print = ({ kind }) => ({
-        run: async (told) => console.log(`${kind}: ${(await cost(told)).toFixed(1)} ms a second`),
-    });
-    const runs = process.argv.includes("cost")
-        ? kinds.map((row) => [row, print(row)])
-        : [...all, [bars, barsSeen]];
-    for (const [row, scenario] of runs)
-        for (const doctype of [true, false]) {
+let failed = 0;
+for (const name of browsers) {
+    const left = runs
+        .flatMap((run) => [true, false].map((doctype) => [...run, doctype]))
+        .map(([row, scenario, doctype]) => {
             const form = doctype ? "with" : "without";
             const title = `${name}, ${form} doctype, ${row.kind}: ${scenario.name}`;
-            if (!only.test(title)) continue;
-            const fault = await faultOf(browser, row, scenario, doctype);
+            return { row, scenario, doctype, title };
+        })
+        .filter(({ title }) => only.test(title));
+    // Blocks wait more than they work, so several browsers look at them at a time.
+    const work = async () => {
+        const browser = await launch(place, name);
+        for (let next; (next = left.shift());) {
+            const fault = await faultOf(browser, next.row, next.scenario, next.doctype);
             if (!fault) continue;
             failed++;
-            console.error(`FAILED ${title}\n${fault.stack}`);
+            console.error(`FAILED ${next.title}\n${fault.stack}`);
         }
-    await browser.close();
+        await browser.close();
+    };
+    await Promise.all(Array.from({ length: costs ? 1 : 3 }, work));
 }
 server.close();
 console.log(failed ? `${failed} failed` : "all passed");

@@ -3,28 +3,54 @@ import assert from "../page_script/assert.mjs";
 import { tabs, wait } from "../page_script/tools.mjs";
 
 /**
- * Runs before the page: `inside` finds an element in the n-th block, `wish` tells how much motion
- * the visitor wants, `pending` are the timers that wait, `moving` how many animations run.
+ * Runs before the page: `inside` finds an element in the n-th block, `said` tells the words and
+ * links of the n-th block as they are heard, or those that are seen; `wide` is how much wider than
+ * the window the page ever was when asked, unless it shakes; `wish` tells how much motion
+ * the visitor wants, `pending` are the timers and frames that wait, `moving` which animations
+ * run, by their blocks.
  */
-const before = `${tabs}
-  window.inside = (css, n = 0) => {
-    const [root] = [...document.querySelectorAll("[data-orvane]")].slice(n);
-    return root.shadowRoot?.querySelector(css) ?? root.querySelector(css);
+export const setUp = `${tabs}
+  window.block = (n) => document.querySelectorAll("[data-orvane]")[n];
+  window.inside = (css, n = 0) =>
+    block(n).shadowRoot?.querySelector(css) ?? block(n).querySelector(css);
+  window.said = (n = 0, seen = false) => {
+    const links = [];
+    const words = (node, frame) => {
+      const of = (nodes) => [...nodes].map((one) => words(one, frame)).join("");
+      if (node instanceof Text) return node.data;
+      if (!node.localName || /^(style|script)$/.test(node.localName)) return "";
+      const { display, visibility, opacity, overflowX } = getComputedStyle(node);
+      if (display === "none" || visibility === "hidden" || node.inert) return "";
+      const place = node.getBoundingClientRect();
+      if (!seen && node.ariaHidden === "true") return "";
+      if (seen && (opacity < 0.1 || node.closest("button"))) return "";
+      const cut = frame && (place.right > frame.right + 2 || place.bottom > frame.bottom + 2);
+      if (seen && cut && !node.children.length) return "";
+      if (overflowX !== "visible") frame = place;
+      if (node.href && node.tabIndex >= 0) links.push(node.getAttribute("href"));
+      if (node.localName === "slot") return of(node.assignedNodes());
+      return (node.alt ?? "") + of((node.shadowRoot ?? node).childNodes) +
+        (display === "inline" ? "" : " ");
+    };
+    return { words: words(block(n)).replace(/\\s+/g, " "), links };
   };
+  window.wide = (page = document.documentElement) => wide.most = Math.max(wide.most ?? 0,
+    document.body.getAnimations()[0] ? 0 : page.scrollWidth - innerWidth);
   window.pending = new Set();
-  const { setTimeout: set, clearTimeout: clear } = window;
-  window.setTimeout = (run, ...rest) => {
-    const id = set(() => { pending.delete(id); run(); }, ...rest);
-    return pending.add(id), id;
-  };
-  window.clearTimeout = (id) => { pending.delete(id); clear(id); };
-  const { setInterval: every, clearInterval: stop } = window;
-  window.setInterval = (...all) => { const id = every(...all); return pending.add(id), id; };
-  window.clearInterval = (id) => { pending.delete(id); stop(id); };
+  for (const [start, end] of [["setTimeout", "clearTimeout"], ["setInterval", "clearInterval"],
+      ["requestAnimationFrame", "cancelAnimationFrame"]]) {
+    const { [start]: set, [end]: clear } = window;
+    window[start] = (run, ...rest) => {
+      const id = set((...all) => { if (start !== "setInterval") pending.delete(id); run(...all); }, ...rest);
+      return pending.add(id), id;
+    };
+    window[end] = (id) => { pending.delete(id); clear(id); };
+  }
   window.moving = () => [...document.querySelectorAll("[data-orvane]")]
     .flatMap(({ shadowRoot }) => [document, shadowRoot ?? document])
     .flatMap((one) => one.getAnimations())
-    .filter((one) => one.playState === "running").length;
+    .filter((one) => one.playState === "running")
+    .map(({ effect }) => effect.target.getRootNode().host?.dataset.orvane);
   window.motions = [];
   const { matchMedia: media } = window;
   window.matchMedia = (query) => {
@@ -36,12 +62,40 @@ const before = `${tabs}
     one.matches = reduced;
     one.dispatchEvent(new Event("change"));
   });`;
-const reduced = `window.reduced = true;`;
-const quiet = (tab, row = {}) =>
+
+/** Chance has no say; besides that the visitor wants as little motion as possible. */
+const sure = `Math.random = () => 0.3;`;
+const reduced = `window.reduced = true; ${sure}`;
+
+const asked = (row) => row.parts ?? [row];
+const rest = " animations, 0 timers";
+/** What still goes on; the clock of a kind that tells the time is not counted. */
+const quiet = (tab, row) =>
     tab.evaluate(
-        (ticks) => `${moving()} animations, ${ticks ? 0 : pending.size} timers`,
-        Boolean(row.ticks),
+        (ticks) => {
+            const timers = pending.size - (document.hidden ? 0 : ticks);
+            return `${moving().join()} animations, ${Math.max(0, timers)} timers`;
+        },
+        asked(row).filter(({ ticks }) => ticks).length,
     );
+
+/** Nothing goes on any more, within so many milliseconds. */
+async function rests(tab, row, ms = 1000) {
+    for (const begin = Date.now(); Date.now() - begin < ms; await wait(50))
+        if ((await quiet(tab, row)) === rest) return;
+    assert.equal(await quiet(tab, row), rest);
+}
+
+/** Every word stands there once, and every link, of each kind of a row. */
+async function says(tab, row, { seen = false, built = true } = {}) {
+    for (const [n, { kind, words = [], links = [], heard, printed }] of asked(row).entries()) {
+        const wanted = (built && !seen && heard) || { words: (seen && printed) || words, links };
+        const found = await tab.evaluate((n, seen) => said(n, seen), n, seen);
+        for (const word of wanted.words)
+            assert.equal(found.words.split(word).length - 1, 1, `${kind}: "${word}" in "${found.words}"`);
+        if (!seen) assert.equal(found.links, wanted.links, `${kind}: links ${found.links}`);
+    }
+}
 
 /** A page style that changes everything but what the block's place is, which blocks take over. */
 const hostile = `<style>body :not(p), body :not(p)::before { color: red !important;
@@ -51,11 +105,11 @@ const hostile = `<style>body :not(p), body :not(p)::before { color: red !importa
   width: 33px !important; float: left !important; letter-spacing: 5px !important;
   text-transform: uppercase !important; visibility: hidden !important }</style>`;
 
-/** Every computed value inside the first block. */
+/** Every computed value inside the blocks. */
 const values = () => {
-    const [root] = document.querySelectorAll("[data-orvane]");
     const changing = /^(transform|perspective-origin|transform-origin)$/;
-    return [...root.shadowRoot.querySelectorAll("*")]
+    return [...document.querySelectorAll("[data-orvane]")]
+        .flatMap(({ shadowRoot }) => [...shadowRoot.querySelectorAll("*")])
         .filter((e) => e.localName !== "style")
         .map((e) => [e.localName + "." + e.className, getComputedStyle(e)])
         .map(([name, style]) => [
@@ -66,24 +120,38 @@ const values = () => {
         ]);
 };
 
-/** Each scenario: its name, the page's options, and what must hold. */
+/** The page but for its blocks, and all names that scripts could have added or changed. */
+const around = () => {
+    const copy = document.documentElement.cloneNode(true);
+    for (const one of copy.querySelectorAll("[data-orvane],script")) one.remove();
+    const shared = [Object, Array, Promise, EventTarget, Node, Element, HTMLElement, Document];
+    const places = [window, document, ...shared.map(({ prototype }) => prototype)];
+    return [copy.outerHTML, places.flatMap((one) => Object.getOwnPropertyNames(one)).join()];
+};
+
+/** The middle of an element of the first block; null where it has none. */
+const middle = (css) => {
+    const place = inside(css)?.getBoundingClientRect();
+    return place?.width ? [place.x + place.width / 2, place.y + place.height / 2] : null;
+};
+
+/** Each scenario: its name, whether its block must be `alone` on the page, and what must hold. */
 export const scenarios = [
     {
         name: "does what it says",
         async run({ open, row, tab, requests }) {
             await open({ script: "none" });
-            const names = await tab.evaluate(() => Object.getOwnPropertyNames(window));
+            await says(tab, row, { built: false });
+            const [page, names] = await tab.evaluate(around);
             await open();
             await row.sees(tab, 0);
-            const now = await tab.evaluate(() => Object.getOwnPropertyNames(window));
-            assert.equal(
-                now.filter((name) => !names.includes(name)),
-                [],
-            );
+            const now = await tab.evaluate(around);
+            assert.equal(now[1], names);
+            if (!row.outside) assert.equal(now[0], page);
             const files = row.block.match(/[\w-]+\.(gif|jpg|wav)/g) ?? [];
-            const own = ["about:blank", "page.html", "favicon.ico", ...files];
+            const own = ["about:blank", "html", "favicon.ico", ...files];
             assert.equal(
-                requests.filter((url) => !own.some((file) => url.endsWith(file))),
+                (await requests()).filter((url) => !own.some((file) => url.endsWith(file))),
                 [],
             );
         },
@@ -92,93 +160,126 @@ export const scenarios = [
         name: "two copies, beside the page script",
         async run({ open, row, tab }) {
             await open({ copies: 2, pageScript: true });
-            if (row.once) return void (await Promise.all([row.sees(tab, 0), row.sees(tab, 1)]));
-            await row.sees(tab, 0);
-            await row.sees(tab, 1);
+            await Promise.all(row.once ? [0, 1].map((n) => row.sees(tab, n)) : []);
+            if (!row.once) for (const n of [0, 1]) await row.sees(tab, n, n === 1);
         },
     },
     {
-        name: "its script stands in the head and twice at the end, or is lost",
+        name: "from right to left, its script in the head and twice at the end",
         async run({ open, row, tab }) {
-            await open({ script: "head" });
+            await open({ script: "head", attributes: 'dir="rtl"' });
             await row.sees(tab, 0);
-            await open({ script: "none" });
-            const [words, links] = await tab.evaluate(() => {
-                const [root] = document.querySelectorAll("[data-orvane]");
-                return [
-                    root.innerText,
-                    [...root.querySelectorAll("a")].map((a) => a.getAttribute("href")),
-                ];
-            });
-            for (const word of row.words)
-                assert.ok(words.replace(/\s+/g, " ").includes(word), `${word} in ${words}`);
-            assert.equal(links, row.links);
+            assert.ok((await tab.evaluate(() => wide())) < 4, "the page grows wider");
         },
     },
     {
-        name: "hostile page style",
-        async run({ open, tab }) {
-            await open({ before: reduced });
-            await wait(300);
-            const own = await tab.evaluate(values);
-            await open({ head: hostile, before: reduced });
-            await wait(300);
-            const kept = await tab.evaluate(values);
-            own.forEach(([name, list], i) =>
-                assert.equal(
-                    kept[i][1].filter((value) => !list.includes(value)),
-                    [],
-                    `${name} of ${kept[i][0]} is ${kept[i][1].filter((value) => !list.includes(value))}`,
-                ),
-            );
+        name: "under a policy that allows nothing but its script",
+        async run({ open, row, tab }) {
+            await open({ policy: true });
+            await row.sees(tab, 0);
         },
     },
     {
         name: "as little motion as possible, until the visitor lets it play and stops it",
-        async run({ open, row, tab, doctype }) {
+        async run({ open, row, tab, doctype, axe }) {
             await open({ before: reduced });
             await wait(1000);
-            assert.equal(await quiet(tab, row), "0 animations, 0 timers");
-            if (row.words.length && !row.elsewhere) {
-                const seen = await tab.evaluate(
-                    () => document.querySelector("[data-orvane]").getBoundingClientRect().height,
+            assert.equal(await quiet(tab, row), rest);
+            await says(tab, row);
+            for (const [n, { kind, words }] of asked(row).entries()) {
+                const { words: seen } = await tab.evaluate((n) => said(n, true), n);
+                if (words) assert.ok(seen.includes(words[0]) || kind === "bubble", `${kind}: ${seen}`);
+            }
+            const own = await tab.evaluate(values);
+            if (axe) {
+                await tab.evaluate(axe);
+                const found = await tab.evaluate(async () =>
+                    (await axe.run("[data-orvane]")).violations.map(
+                        ({ id, nodes }) => `${id}: ${nodes[0].html} ${nodes[0].failureSummary}`,
+                    ),
                 );
-                assert.ok(seen > 10, "nothing is seen");
+                assert.equal(found, []);
             }
             const play = await tab.evaluate(() => inside("button")?.title ?? "");
-            if (!play.startsWith("Play")) return;
-            await tab.evaluate(() => inside("button").click());
-            await wait(200);
-            assert.notEqual(await quiet(tab, row), "0 animations, 0 timers");
-            await tab.evaluate((stops) => (stops ? inside("button").click() : wish(true)), doctype);
-            await wait(1000);
-            assert.equal(await quiet(tab, row), "0 animations, 0 timers");
+            if (play.startsWith("Play")) {
+                await tab.evaluate(() => inside("button").click());
+                await wait(200);
+                assert.notEqual(await quiet(tab, row), rest);
+                const stop = (stops) => (stops ? inside("button").click() : wish(true));
+                await tab.evaluate(stop, doctype);
+                await rests(tab, row, 1500);
+            }
+            await open({ head: hostile, before: reduced });
+            await wait(300);
+            const kept = await tab.evaluate(values);
+            for (const [i, [name, list]] of own.entries()) {
+                const other = kept[i][1].filter((value) => !list.includes(value));
+                assert.equal(other, [], `${name} of ${kept[i][0]} is ${other}`);
+            }
         },
     },
     {
-        name: "hidden, and seen again",
+        name: "hidden or far down the page, and seen again",
         async run({ open, row, tab }) {
             await open();
             await wait(150);
             await tab.evaluate(() => leave(true));
-            await wait(row.settles ?? 700);
-            assert.equal(await quiet(tab, row), "0 animations, 0 timers");
+            // A change that has begun ends.
+            await rests(tab, row, 1500);
             await tab.evaluate(() => leave(false));
-            if (!row.once) await row.sees(tab, 0);
+            if (!row.once) await row.sees(tab, 0, true);
+            if (row.anywhere || row.parts) return;
+            await open({ head: "<style>body{padding:2000px 0}</style>" });
+            await wait(500);
+            assert.equal(await quiet(tab, row), rest, "far down it goes on");
+            await tab.evaluate(() => block(0).scrollIntoView({ block: "center" }));
+            await row.sees(tab, 0);
         },
     },
     {
-        name: "axe",
-        async run({ open, row, tab, axe }) {
-            await open({ before: reduced });
+        name: "by keyboard and touch, and in print",
+        alone: true,
+        async run({ open, row, tab, prints }) {
+            await open({ before: `${sure} onclick = (event) => event.preventDefault();` });
+            await wait(300);
+            await says(tab, row);
+            const { links } = await tab.evaluate(() => said());
+            const reached = [];
+            for (let i = 0; i < 8; i++) {
+                await tab.keyboard.press("Tab");
+                reached.push(
+                    await tab.evaluate(() => {
+                        const { activeElement: at } = document.activeElement.shadowRoot ?? document;
+                        if (at.closest("[aria-hidden=true]")) return "a copy";
+                        return at.getAttribute("href") ?? at.title;
+                    }),
+                );
+            }
+            const button = await tab.evaluate(() => inside("button")?.title ?? "");
+            for (const one of [...links, button])
+                assert.ok(reached.includes(one), `${one} in ${reached}`);
+            assert.ok(!reached.includes("a copy"), "the focus comes to what is hidden from readers");
+            await tab.evaluate(() => document.activeElement.blur());
             await wait(400);
-            await tab.evaluate(axe);
-            const found = await tab.evaluate(async () =>
-                (await axe.run("[data-orvane]")).violations.map(
-                    ({ id, nodes }) => `${id}: ${nodes[0].html} ${nodes[0].failureSummary}`,
-                ),
-            );
-            assert.equal(found, []);
+            const at = button && (await tab.evaluate(middle, "button"));
+            if (at) {
+                const state = () =>
+                    [inside("button")].map((e) => `${e?.title} ${e?.ariaExpanded} ${e?.offsetWidth}`);
+                const before = await tab.evaluate(state);
+                await tab.touchscreen.tap(...at);
+                await wait(600);
+                assert.notEqual(await tab.evaluate(state), before);
+                if (/^Pause/.test(button)) {
+                    await rests(tab, row);
+                    await tab.touchscreen.tap(...at);
+                    await row.sees(tab, 0);
+                }
+            }
+            if (!prints || row.outside) return;
+            await tab.emulateMediaType("print");
+            await wait(100);
+            if (!row.anywhere) await says(tab, row, { seen: true });
+            assert.equal(await tab.evaluate(middle, "button[title^=P]"), null, "a button is printed");
         },
     },
 ];
@@ -191,29 +292,48 @@ export async function seesScrollbars(tab) {
     assert.equal(colors, ["rgb(51, 102, 153) rgb(221, 230, 238)", "auto"]);
 }
 
-/** How many milliseconds of a second the main thread is busy with a block. */
+/** How many milliseconds of a second the main thread works for a block. */
 export async function cost({ open, tab }) {
     await open();
+    const session = await tab.createCDPSession();
+    await session.send("Performance.enable", { timeDomain: "threadTicks" });
+    const worked = async () =>
+        (await session.send("Performance.getMetrics")).metrics.find(
+            ({ name }) => name === "TaskDuration",
+        ).value;
     await wait(1500);
-    const before = (await tab.metrics()).TaskDuration;
-    await wait(3000);
-    return ((await tab.metrics()).TaskDuration - before) / 0.003;
+    const before = await worked();
+    await wait(4000);
+    return ((await worked()) - before) / 0.004;
 }
 
-/** The text of a page with a row's block. */
-export function pageOf(
-    row,
-    code,
-    { doctype, copies = 1, pageScript = false, head = "", script = "place" },
-) {
-    const element = `<script data-orvane-run="${row.kind}-1">${code}</script>`;
-    const block = row.block.replace("§", () => (script === "place" ? element : ""));
-    return `${doctype ? "<!DOCTYPE html>" : ""}<html lang="en"><head><title>Page</title>${
-        pageScript ? '<script src="orvane.js"></script>' : ""
-    }${head}${script === "head" ? element : ""}</head><body><p>Before it.</p>${`<!-- ***** Begin:Varlo ${row.kind} special effect ***** -->\r\n${block}<!-- ***** End:Varlo ${row.kind} special effect ***** -->`.repeat(
-        copies,
-    )}<p>Behind it.</p>${script === "head" ? element.repeat(2) : ""}</body></html>`;
+/** The text of a page with a row's block; `code` gives the script of a kind. */
+export async function pageOf(row, code, options) {
+    const { doctype, copies = 1, pageScript = false, policy = false, head = "" } = options;
+    const { script = "place", before = "", attributes = "" } = options;
+    const elements = asked(row).map(
+        ({ kind }) => `<script data-orvane-run="${kind}-1">${code(kind)}</script>`,
+    );
+    let kinds = 0;
+    const block = row.block.replace(/§/g, () => (script === "place" ? elements[kinds++] : ""));
+    const headed = script === "head" ? elements.join("") : "";
+    const hashes = await Promise.all(asked(row).map(({ kind }) => hashOf(code(kind))));
+    const rule = `script-src ${hashes.join(" ")}; style-src 'self'; require-trusted-types-for 'script'`;
+    return [
+        doctype ? "<!DOCTYPE html>" : "",
+        `<html lang="en" ${attributes}><head><title>Page</title><script>${before}${setUp}</script>`,
+        policy ? `<meta http-equiv="Content-Security-Policy" content="${rule}">` : "",
+        pageScript ? '<script src="orvane.js"></script>' : "",
+        `${head}${headed}</head><body><p>Before it.</p>`,
+        `<!-- ***** Begin:Varlo ${row.kind} special effect ***** -->\r\n${block}<!-- ***** End:Varlo ${row.kind} special effect ***** -->`.repeat(
+            copies,
+        ),
+        `<p>Behind it.</p>${headed}${headed}</body></html>`,
+    ].join("");
 }
 
-/** All that a page is opened with. */
-export const setUp = before;
+/** What a policy calls a script. */
+async function hashOf(code) {
+    const hash = await crypto.subtle.digest("SHA-256", new TextEncoder().encode(code));
+    return `'sha256-${btoa(String.fromCharCode(...new Uint8Array(hash)))}'`;
+}

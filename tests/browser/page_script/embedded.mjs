@@ -2,6 +2,8 @@
  * The checks in the embedded engine: a page of its own runs them, and whoever shows that page does
  * to another what is asked here, one request after the other.
  */
+import { together } from "../blocks/kinds.mjs";
+import { pageOf, scenarios } from "../blocks/scenarios.mjs";
 import { appletChecks } from "./applet_checks.mjs";
 import { image } from "./pages.mjs";
 import { pageChecks } from "./page_checks.mjs";
@@ -11,10 +13,10 @@ import { Visit } from "./tools.mjs";
 
 const groups = { texts: textChecks, pages: pageChecks, applets: appletChecks, rules: ruleChecks };
 
-/** What is asked for now, and whom to tell the answer. */
-let asked = null;
+/** What is asked for, the first of it now, and whom to tell the answer. */
+const asked = [];
 const ask = (what, values = {}) =>
-    new Promise((done) => (asked = { request: { what, ...values }, done }));
+    new Promise((done) => asked.push({ request: { what, ...values }, done }));
 
 /** Evaluates in the page, a function with its values or a text. */
 async function evaluate(take, ...values) {
@@ -34,7 +36,7 @@ class EmbeddedTab {
             "window.addEventListener('error', (e) => e.message && scriptErrors.push(e.message));";
         this.evaluate = evaluate;
         this.mouse = { move: (x, y) => ask("mouse", { x, y }) };
-        this.keyboard = { press: (key) => ask("key", { key }) };
+        this.keyboard = { press: (key) => ask("key", { key: key.slice(0, 3) }) };
         this.touchscreen = { tap: (x, y) => ask("touch", { x, y }) };
     }
 
@@ -52,7 +54,7 @@ class EmbeddedTab {
 
     async open(html, { before = "", files = {} } = {}) {
         this.before += before;
-        const page = html.replace(/<HEAD>/, () => `<HEAD><script>${this.before}</script>`);
+        const page = html.replace(/<head>/i, () => `<HEAD><script>${this.before}</script>`);
         const all = { ...files };
         // No name begins amid a word: the long words of data addresses would be gone over again
         // and again.
@@ -73,11 +75,30 @@ class EmbeddedVisit extends Visit {
     }
 }
 
+/** The scenarios of blocks as checks, of all kinds on one page. */
+async function blockChecks() {
+    const codes = {};
+    for (const { kind } of together.parts) codes[kind] = await ask("script", { kind });
+    const loaded = () => performance.getEntriesByType("resource").map(({ name }) => name);
+    const told = { row: together, requests: () => evaluate(loaded) };
+    const check = ({ name, run }) => ({
+        effect: "Blocks",
+        name,
+        run: ({ tab, doctype }) => {
+            const page = (options) => pageOf(together, (kind) => codes[kind], options);
+            const open = async (options) => tab.open(await page({ doctype, ...options }));
+            return run({ ...told, open, tab, doctype });
+        },
+    });
+    return scenarios.filter(({ alone }) => !alone).map(check);
+}
+
 async function run(group, doctype) {
+    groups.blocks ??= await blockChecks();
     const faults = [];
     for (const check of groups[group]) {
         const tab = new EmbeddedTab();
-        await ask("begin");
+        await ask("begin", { height: group === "blocks" ? 2400 : 630 });
         try {
             await check.run(new EmbeddedVisit(tab, (...page) => tab.open(...page), { doctype }));
             const errors = await evaluate("window.scriptErrors ?? []");
@@ -91,10 +112,6 @@ async function run(group, doctype) {
 
 Object.assign(globalThis, {
     run,
-    request: () => asked && asked.request,
-    answer(value) {
-        const { done } = asked;
-        asked = null;
-        done(value);
-    },
+    request: () => asked[0]?.request,
+    answer: (value) => asked.shift().done(value),
 });
