@@ -26,9 +26,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <iterator>
 #include <random>
 
 namespace orvane::testing {
@@ -200,34 +198,6 @@ TYPED_TEST(BlockTest, WhateverTheValuesAreTheyAreReadAsTheyWereWritten)
         const Text values = ReplaceAll(text, ScriptElementOf(BlockKindOf(effect)), u"");
         for (const TextView end : {u"-->", u"<!", u"<%", u"</script", u"<script"})
             ASSERT_EQ(Find(values, end), 0u) << ToUtf8(values);
-    }
-}
-
-TYPED_TEST(BlockTest, IsWrittenAsItsContractSays)
-{
-    for (const TypeParam& face : FacesOf<TypeParam>()) {
-        const TextView block = BlockKindOf(face);
-        const std::string kind(ToUtf8(Left(block, block.size() - 2)));
-        int count = 0;
-        std::vector<std::string> names = ExpectedNames(".fields");
-        std::ranges::copy(ExpectedNames(".draft"), std::back_inserter(names));
-        for (const std::string& fields : names) {
-            if (!fields.starts_with("block_" + kind + ".") &&
-                !fields.starts_with("block_" + kind + "_"))
-                continue;
-            ++count;
-            TypeParam effect;
-            ReadDraft(effect, ExpectedText(fields), Secrets::Taken);
-            EXPECT_EQ(FirstComplaint(effect), std::nullopt);
-            TidyFields(effect);
-            const EffectPayload payload = PayloadOf(effect, {});
-            EXPECT_TRUE(payload.IsBlock);
-            EXPECT_EQ(payload.HEADHTML.empty(), kind != "scrollbars");
-            ExpectSameText(ExpectedText(fields.substr(0, fields.find('.')) + ".html"),
-                           payload.HEADHTML + payload.BODYHTML);
-        }
-        EXPECT_NE(count, 0) << kind;
-        EXPECT_EQ(BlockScript(Left(block, kind.size())).empty(), kind == "scrollbars");
     }
 }
 
