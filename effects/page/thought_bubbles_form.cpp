@@ -4,6 +4,7 @@
 #include "services/block_pictures.h"
 #include "services/file_requests.h"
 #include "windows/block_rows.h"
+#include "windows/multi_line_box.h"
 #include "windows/picture.h"
 #include "windows/place_picture.h"
 #include "windows/qt_text.h"
@@ -74,9 +75,11 @@ void ThoughtBubblesForm::AddWordsPage()
         page.NumberBox(y, above, u"How far the spot is from the upper edge of the picture",
                        u"percent of the picture");
     };
-    page.MultiLineBox("txtBubble", u"&Bubble:", u"What is thought");
+    const int threeLines = 4 * fontMetrics().lineSpacing();
+    page.MultiLineBox("txtBubble", u"&Bubble:", u"What is thought")->setFixedHeight(threeLines);
     addPlace("txtPlaceX", u"Spot 1 from the &left:", "txtPlaceY", u"Spot 1 from &above:");
-    page.MultiLineBox("txtSecondBubble", u"&Second bubble:", u"Empty for none");
+    page.MultiLineBox("txtSecondBubble", u"&Second bubble:", u"Empty for none")
+        ->setFixedHeight(threeLines);
     addPlace("txtSecondPlaceX", u"Spot 2 from the l&eft:", "txtSecondPlaceY",
              u"Spot 2 from ab&ove:");
     connect(m_places, &PlacePicture::Pointed, this, &ThoughtBubblesForm::TakePlace);
