@@ -26,6 +26,44 @@ void ForEachField(Row& row, Field&& field)
     field("txtLink", row.Link);
 }
 
+/// A message of a band whose messages have colours of their own.
+struct ColoredRow
+{
+    Text Words;
+    Text Link;  ///< empty for none
+    Text Color; ///< of its text; empty: as the others
+    bool operator==(const ColoredRow&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one message.
+template <ConstOr<ColoredRow> Row, class Field>
+void ForEachField(Row& row, Field&& field)
+{
+    field("txtWords", row.Words);
+    field("txtLink", row.Link);
+    field(ColorField("cmdColor"), row.Color);
+}
+
+/// A quotation of a block.
+struct QuoteRow
+{
+    Text Words;  ///< lines of them end in CR LF
+    Text Author; ///< empty for none
+    Text Link;   ///< of the words; empty for none
+    bool operator==(const QuoteRow&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one quotation.
+template <ConstOr<QuoteRow> Row, class Field>
+void ForEachField(Row& row, Field&& field)
+{
+    field("txtWords", row.Words);
+    field("txtAuthor", row.Author);
+    field("txtLink", row.Link);
+}
+
 /// A picture of a block.
 struct BlockPicture
 {
@@ -68,12 +106,30 @@ void ForEachField(Attribute& attribute, Field&& field)
 }
 
 using BlockRows = std::vector<BlockRow>;
+using ColoredRows = std::vector<ColoredRow>;
+using QuoteRows = std::vector<QuoteRow>;
 using BlockPictures = std::vector<BlockPicture>;
 using BlockAttributes = std::vector<BlockAttribute>;
 
-/// What a block shows, which the page has as ordinary HTML: a text whose lines end in CR LF, rows,
-/// pictures, or nothing.
-using BlockContent = std::variant<std::monostate, Text, BlockRows, BlockPictures>;
+/// A text in paragraphs, with an empty line between each two; its lines end in CR LF.
+struct BlockParagraphs
+{
+    Text Words;
+    bool operator==(const BlockParagraphs&) const = default;
+};
+
+/// A picture with texts that belong to it, whose lines end in CR LF.
+struct BlockFigure
+{
+    BlockPicture Picture; ///< its link does not count
+    std::vector<Text> Words;
+    bool operator==(const BlockFigure&) const = default;
+};
+
+/// What a block shows, which the page has as ordinary HTML: a text whose lines end in CR LF, in a
+/// line of the page or in paragraphs of its own, a link, rows, pictures, a figure, or nothing.
+using BlockContent = std::variant<std::monostate, Text, BlockParagraphs, BlockRow, BlockRows,
+                                  ColoredRows, QuoteRows, BlockPictures, BlockFigure>;
 
 /// Which pictures of a block are seen, and loaded, without its script.
 enum class PicturesSeen
@@ -114,5 +170,11 @@ Text OneLine(TextView text);
 /// several stand, without blanks at both ends of a line and without empty lines at both ends of the
 /// text. They end in CR LF.
 Text TidyLines(TextView text);
+
+/// The same, with one empty line where several stand.
+Text TidyParagraphs(TextView text);
+
+FieldTexts TextsOf(const BlockParagraphs& paragraphs);
+void SetField(BlockParagraphs& paragraphs, const FieldTexts& texts);
 
 } // namespace orvane

@@ -208,7 +208,9 @@ inline constexpr CatalogueRow imageEffectRows[] = {
         .Description =
             u"Show what people or pets in your photos are thinking with these pop-up Thought "
             u"Bubbles.",
-        .OtherWords = u"speech, comic, balloon, cartoon, hover",
+        .OtherWords = u"speech, comic, balloon, cartoon, hover, photo, pets",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmBubbleText",
         .MarkerName = u"Thought Bubbles",
         .Files = FilesNeeded::Always,

@@ -115,7 +115,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .Picture = u"scrolling_credits",
         .Title = u"Scrolling Credits",
         .Description = u"Create a Web page that scrolls like the credits at the end of a movie.",
-        .OtherWords = u"film, end titles, marquee, roll",
+        .OtherWords = u"film, movie, end titles, marquee, roll, scroll up",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "Credits",
         .MarkerName = u"Scrolling Credits",
         .ScriptedHelp = true,
@@ -195,7 +197,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Make your Web page greet visitors with their names or personalized greetings like "
             u"'Hello, Jim!', display how many times the user has visited and the date/time of "
             u"their last visit.",
-        .OtherWords = u"visitor, counter, cookie, welcome, greeting, hello",
+        .OtherWords = u"visitor, counter, cookie, welcome, greeting, hello, name",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmPersonalize",
         .MarkerName = u"Personalize",
         .ScriptedHelp = true,

@@ -13,16 +13,26 @@
 #include "effects/page/dynamic_button_form.h"
 #include "effects/page/falling_images_form.h"
 #include "effects/page/password_protection_form.h"
+#include "effects/page/personalize_form.h"
 #include "effects/page/popup_alert_form.h"
 #include "effects/page/popup_window_form.h"
 #include "effects/page/pulldown_menu_form.h"
+#include "effects/page/scrolling_credits_form.h"
 #include "effects/page/search_box_form.h"
 #include "effects/page/slideshow_form.h"
+#include "effects/page/thought_bubbles_form.h"
 #include "effects/text/digital_clock_form.h"
 #include "effects/text/fading_message_form.h"
+#include "effects/text/flash_text_form.h"
 #include "effects/text/flying_text_form.h"
+#include "effects/text/navigator_ticker_form.h"
+#include "effects/text/random_quote_form.h"
 #include "effects/text/smooth_scroll_form.h"
 #include "effects/text/status_bar_ticker_form.h"
+#include "effects/text/swirly_text_form.h"
+#include "effects/text/text_button_form.h"
+#include "effects/text/text_effects_form.h"
+#include "effects/text/text_transitions_form.h"
 #include "effects/text/tooltips_form.h"
 #include "effects/text/vertical_scroller_form.h"
 
@@ -35,10 +45,13 @@ namespace orvane {
 using EffectWindows =
     std::tuple<AdvancedAnimatorForm, AllInOneButtonForm, AnimationWizardForm, AntiSpamLinkForm,
                ColorScrollbarsForm, CursorTrailForm, DigitalClockForm, DynamicButtonForm,
-               FadingMessageForm, FallingImagesForm, FlyingTextForm, ImageEffectsForm,
-               ImageFadeForm, MoreImageEffectsForm, PasswordProtectionForm, PopupAlertForm,
-               PopupWindowForm, PulldownMenuForm, SearchBoxForm, SlideshowForm, SmoothScrollForm,
-               StatusBarTickerForm, TooltipsForm, TypewriterTextForm, VerticalScrollerForm>;
+               FadingMessageForm, FallingImagesForm, FlashingTextForm, FlyingTextForm,
+               ImageEffectsForm, ImageFadeForm, MoreImageEffectsForm, NavigatorTickerForm,
+               PasswordProtectionForm, PersonalizeForm, PopupAlertForm, PopupWindowForm,
+               PulldownMenuForm, RandomQuoteForm, ScrollingCreditsForm, SearchBoxForm,
+               ShakingTextForm, SlideshowForm, SmoothScrollForm, StatusBarTickerForm,
+               SwirlyTextForm, TextButtonForm, TextEffectsForm, TextTransitionsForm,
+               ThoughtBubblesForm, TooltipsForm, TypewriterTextForm, VerticalScrollerForm>;
 
 /// A fresh window of that kind of effect; null where HasWizard() is false.
 std::unique_ptr<WizardForm> MakeWizard(EffectKind kind, Workbench& bench,

@@ -15,16 +15,27 @@
 #include "effects/page/dynamic_button.h"
 #include "effects/page/falling_images.h"
 #include "effects/page/password_protection.h"
+#include "effects/page/personalize.h"
 #include "effects/page/popup_alert.h"
 #include "effects/page/popup_window.h"
 #include "effects/page/pulldown_menu.h"
+#include "effects/page/scrolling_credits.h"
 #include "effects/page/search_box.h"
 #include "effects/page/slideshow.h"
+#include "effects/page/thought_bubbles.h"
 #include "effects/text/digital_clock.h"
 #include "effects/text/fading_message.h"
+#include "effects/text/flashing_text.h"
 #include "effects/text/flying_text.h"
+#include "effects/text/navigator_ticker.h"
+#include "effects/text/random_quote.h"
+#include "effects/text/shaking_text.h"
 #include "effects/text/smooth_scroll.h"
 #include "effects/text/status_bar_ticker.h"
+#include "effects/text/swirly_text.h"
+#include "effects/text/text_button.h"
+#include "effects/text/text_effects.h"
+#include "effects/text/text_transitions.h"
 #include "effects/text/tooltips.h"
 #include "effects/text/vertical_scroller.h"
 
@@ -37,10 +48,12 @@ namespace orvane {
 /// The parameters of all effects, each named once.
 using EffectParameters =
     std::variant<AdvancedAnimator, AllInOneButton, AnimationWizard, AntiSpamLink, ColorScrollbars,
-                 CursorTrail, DigitalClock, DynamicButton, FadingMessage, FallingImages, FlyingText,
-                 ImageEffects, ImageFade, MoreImageEffects, PasswordProtection, PopupAlert,
-                 PopupWindow, PulldownMenu, SearchBox, Slideshow, SmoothScroll, StatusBarTicker,
-                 Tooltips, TypewriterText, VerticalScroller>;
+                 CursorTrail, DigitalClock, DynamicButton, FadingMessage, FallingImages,
+                 FlashingText, FlyingText, ImageEffects, ImageFade, MoreImageEffects,
+                 NavigatorTicker, PasswordProtection, Personalize, PopupAlert, PopupWindow,
+                 PulldownMenu, RandomQuote, ScrollingCredits, SearchBox, ShakingText, Slideshow,
+                 SmoothScroll, StatusBarTicker, SwirlyText, TextButton, TextEffects,
+                 TextTransitions, ThoughtBubbles, Tooltips, TypewriterText, VerticalScroller>;
 
 /// Whether there is an effect of that kind, and so a wizard for it.
 bool HasWizard(EffectKind kind);

@@ -35,6 +35,7 @@ protected:
 private:
     void AddMenus();
     void AddEffects(QMenu& menu, CataloguePage page);
+    void OpenBy(const EffectCommand& command);
     void CheckForUpdate();
 
     Workbench& m_bench;

@@ -74,6 +74,15 @@ Text TagColor(const PastedTag& tag, TextView key)
     return packed ? ColorText(*packed, ColorNotation::Hash) : value;
 }
 
+Text NumberedTagValue(const PastedTag& tag, TextView first, TextView second, int number)
+{
+    const auto value = [&](TextView key) {
+        return TagValue(tag, Join({key, u".", NumberToText(number), u" VALUE="}));
+    };
+    const Text found = value(first);
+    return found.empty() ? value(second) : found;
+}
+
 PipeValues PipeParse(TextView text)
 {
     // Stays as it is: whatever the last piece is, its final character is cut off.

@@ -28,6 +28,12 @@ PastedTag WithoutQuotes(PastedTag tag);
 /// key is missing.
 Text TagColor(const PastedTag& tag, TextView key);
 
+/// The highest number that a value has of which an applet takes several.
+inline constexpr int lastNumberOfTag = 30;
+
+/// The value of that number, whose key is one of two; empty when both are missing.
+Text NumberedTagValue(const PastedTag& tag, TextView first, TextView second, int number);
+
 /// The pieces of a value of the earlier applet, which joins the entries of a list by "|".
 using PipeValues = std::array<Text, 3>;
 

@@ -5,12 +5,11 @@
 #include "insertion/page_markup.h"
 
 #include <algorithm>
-#include <concepts>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
 namespace orvane {
 
@@ -57,6 +56,16 @@ bool IsSameKind(TextView left, TextView right)
            EqualIgnoringCase(Left(left, FindLast(left, u"-")), Left(right, FindLast(right, u"-")));
 }
 
+/// What stands in one item of a list.
+struct ItemRead
+{
+    Text Words;
+    Text Quote; ///< the words without the author
+    Text Author;
+    Text Link;
+    Text Color;
+};
+
 /// Collects what stands inside a block's root, in each of the shapes that content can have.
 class ContentReader
 {
@@ -73,21 +82,27 @@ public:
     {
         const Text name = ToLower(FromUtf8(NameOf(tag)));
         if (name == u"li") {
-            m_isInRow = true;
+            m_isInItem = true;
+            m_isInAuthor = false;
             m_link.clear();
-            m_rows.emplace_back();
+            m_items.push_back({.Color = ValueOf(AttributesOf(tag), u"data-color")});
         } else if (name == u"/li" || name == u"/ul") {
-            m_isInRow = false;
+            m_isInItem = false;
+        } else if (name == u"cite" || name == u"/cite") {
+            m_isInAuthor = name == u"cite";
+        } else if (name == u"figcaption" || name == u"/figcaption") {
+            m_isInCaption = name == u"figcaption";
         } else if (name == u"a") {
-            m_link = ValueOf(AttributesOf(tag), u"href");
-            if (m_isInRow && m_rows.back().Link.empty())
-                m_rows.back().Link = m_link;
+            TakeLink(ValueOf(AttributesOf(tag), u"href"));
         } else if (name == u"/a") {
             m_link.clear();
         } else if (name == u"br") {
             Add(u"\n");
         } else if (name == u"p" || name == u"/p" || name == u"div" || name == u"/div") {
             Add(u" ");
+            m_paragraphs += u"\n\n";
+            if (m_isInCaption && !name.starts_with(u'/'))
+                m_figure.Words.emplace_back();
         } else if (name == u"img") {
             TakePicture(AttributesOf(tag));
         }
@@ -95,27 +110,68 @@ public:
 
     BlockContent Content(const BlockContent& shape) const
     {
-        return std::visit(
-            [this](const auto& alternative) -> BlockContent {
-                using Shape = std::remove_cvref_t<decltype(alternative)>;
-                if constexpr (std::same_as<Shape, Text>)
-                    return m_words;
-                else if constexpr (std::same_as<Shape, BlockRows>)
-                    return m_rows;
-                else if constexpr (std::same_as<Shape, BlockPictures>)
-                    return m_pictures;
-                else
-                    return {};
-            },
-            shape);
+        return std::visit([this](const auto& alternative) { return BlockContent(In(alternative)); },
+                          shape);
     }
 
 private:
+    std::monostate In(std::monostate) const { return {}; }
+    Text In(const Text&) const { return m_words; }
+    BlockParagraphs In(const BlockParagraphs&) const { return {m_paragraphs}; }
+    BlockRow In(const BlockRow&) const { return {m_words, m_firstLink}; }
+    BlockPictures In(const BlockPictures&) const { return m_pictures; }
+    BlockRows In(const BlockRows&) const
+    {
+        return Items<BlockRow>([](const auto& item) { return BlockRow{item.Words, item.Link}; });
+    }
+    ColoredRows In(const ColoredRows&) const
+    {
+        return Items<ColoredRow>([](const auto& item) {
+            return ColoredRow{item.Words, item.Link, item.Color};
+        });
+    }
+    QuoteRows In(const QuoteRows&) const
+    {
+        return Items<QuoteRow>([](const auto& item) {
+            return QuoteRow{item.Quote, item.Author, item.Link};
+        });
+    }
+    BlockFigure In(const BlockFigure&) const
+    {
+        BlockFigure figure = m_figure;
+        if (!m_pictures.empty())
+            figure.Picture = m_pictures.front();
+        return figure;
+    }
+
+    template <class Row, class Make>
+    std::vector<Row> Items(Make make) const
+    {
+        std::vector<Row> rows;
+        std::ranges::transform(m_items, std::back_inserter(rows), make);
+        return rows;
+    }
+
     void Add(TextView text)
     {
         m_words += text;
-        if (m_isInRow)
-            m_rows.back().Words += text;
+        m_paragraphs += text;
+        if (m_isInItem) {
+            ItemRead& item = m_items.back();
+            item.Words += text;
+            (m_isInAuthor ? item.Author : item.Quote) += text;
+        }
+        if (m_isInCaption && !m_figure.Words.empty())
+            m_figure.Words.back() += text;
+    }
+
+    void TakeLink(const Text& link)
+    {
+        m_link = link;
+        if (m_firstLink.empty())
+            m_firstLink = link;
+        if (m_isInItem && m_items.back().Link.empty())
+            m_items.back().Link = link;
     }
 
     void TakePicture(const BlockAttributes& attributes)
@@ -137,10 +193,15 @@ private:
     }
 
     Text m_words;
-    BlockRows m_rows;
+    Text m_paragraphs;
+    std::vector<ItemRead> m_items;
     BlockPictures m_pictures;
-    Text m_link; ///< of the link that is open
-    bool m_isInRow = false;
+    BlockFigure m_figure; ///< its words alone
+    Text m_link;          ///< of the link that is open
+    Text m_firstLink;
+    bool m_isInItem = false;
+    bool m_isInAuthor = false;
+    bool m_isInCaption = false;
 };
 
 /// Reads from behind the root's open tag to its close tag, or to the end of the code.

@@ -5,6 +5,9 @@
 #include "services/file_requests.h"
 #include "windows/row_form.h"
 
+#include <array>
+#include <span>
+
 namespace orvane {
 
 namespace {
@@ -32,6 +35,12 @@ constexpr ChoiceItem styles[] = {{u"", asOnPage},
                                  {u"italic", u"Italic"},
                                  {u"bold italic", u"Bold italic"}};
 
+constexpr std::array<ChoiceItem, 4> alignments = {
+    {{u"", asOnPage}, {u"left", u"Left"}, {u"center", u"Center"}, {u"right", u"Right"}}};
+
+constexpr ChoiceItem directions[] = {{u"left", u"From right to left"},
+                                     {u"right", u"From left to right"}};
+
 constexpr ChoiceItem times[] = {{u"0", u"For ever"},
                                 {u"1"},
                                 {u"2"},
@@ -49,16 +58,6 @@ constexpr ChoiceItem targets[] = {{u"", u"The same window"},
                                   {u"_parent", u"The frame around"},
                                   {u"_top", u"The whole window"}};
 
-void AddLink(PageBuilder& page)
-{
-    page.BrowseRow("txtLink", u"&Link to Web page:",
-                   u"The address that a click on the text leads to; empty for no link",
-                   {.Button = "cmdBrowseForURL",
-                    .Caption = u"Browse for URL...",
-                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-                    .GivesFocus = true});
-}
-
 void AddLineFields(PageBuilder& page)
 {
     page.TextBox("txtWords", u"&Text:", u"The text of this item");
@@ -73,9 +72,9 @@ void AddLinesFields(PageBuilder& page)
 
 } // namespace
 
-void AddMessageList(PageBuilder& page, EffectKind kind, MessageText text, Workbench& bench)
+RowListPanel* AddMessageList(PageBuilder& page, EffectKind kind, MessageText text, Workbench& bench)
 {
-    AddRowList<BlockRow>(
+    return AddRowList<BlockRow>(
         page, {{"lstMessages", u"Messages:"}, {"lstLinks", u"Link to this URL:"}},
         {.Name = "frmMessage",
          .Title = u"Message and its link",
@@ -85,12 +84,26 @@ void AddMessageList(PageBuilder& page, EffectKind kind, MessageText text, Workbe
         bench);
 }
 
-void AddTextLook(PageBuilder& page)
+void AddLink(PageBuilder& page, TextView tip)
+{
+    page.BrowseRow("txtLink", u"&Link to Web page:", tip,
+                   {.Button = "cmdBrowseForURL",
+                    .Caption = u"Browse for URL...",
+                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
+                    .GivesFocus = true});
+}
+
+void AddFont(PageBuilder& page)
 {
     page.OpenChoiceBox("cboFont", u"&Font:", fonts,
                        u"The font of the text, or several with commas between them");
     page.OpenChoiceBox("cboFontSize", u"Font si&ze:", sizes, u"The size of the text", u"pixels");
     page.ChoiceBox("cboFontStyle", u"Font st&yle:", styles);
+}
+
+void AddTextLook(PageBuilder& page)
+{
+    AddFont(page);
     AddPageColor(page, "cmdTextColor", u"Te&xt color:");
 }
 
@@ -98,6 +111,18 @@ void AddPageColor(PageBuilder& page, ControlName name, TextView label)
 {
     page.ColorSwatch(name, label, ColorNotation::Hash, asOnPage,
                      u"Click here to select a color; Delete takes it away");
+}
+
+void AddAlignment(PageBuilder& page, PageAlignment ofPage)
+{
+    const std::span all(alignments);
+    page.ChoiceBox("cboAlign", u"&Align text:",
+                   ofPage == PageAlignment::Offered ? all : all.subspan(1));
+}
+
+void AddDirection(PageBuilder& page, TextView label)
+{
+    page.ChoiceBox("cboDirection", label, directions);
 }
 
 void AddTimes(PageBuilder& page)

@@ -4,6 +4,8 @@
 #include "reedit/applet_values.h"
 #include "services/block_pictures.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace orvane {
@@ -31,17 +33,17 @@ std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page)
 {
     if (page != 0)
         return CheckNumbers(animation, page);
-    AnimationWizard tidied = animation;
-    Tidy(tidied);
-    if (tidied.lstPictures.size() == 1)
+    if (animation.lstPictures.size() == 1)
         return Complaint{u"Please add a second picture to the list.", "lstPictures"};
-    constexpr std::size_t most = std::tuple_size_v<decltype(RequiredFiles::RequiredFileNames)>;
-    return CheckPictures(animation.lstPictures, "lstPictures", most);
+    return CheckPictures(animation.lstPictures, "lstPictures");
 }
 
 std::vector<Hint> HintsOf(const AnimationWizard& animation)
 {
-    return HintsOfLink(animation.txtDescription, animation.txtLink);
+    std::vector<Hint> hints = BlockHints(animation).Hints();
+    std::ranges::copy(HintsOfLink(animation.txtDescription, animation.txtLink),
+                      std::back_inserter(hints));
+    return hints;
 }
 
 void Tidy(AnimationWizard& animation)

@@ -47,7 +47,7 @@ void ForEachField(Animation& animation, Field&& field)
 {
     field(ContentField("lstPictures"), animation.lstPictures);
     field(ContentField("txtDescription"), animation.txtDescription);
-    field(NumberField("txtMilliseconds", 170, 60000), animation.txtMilliseconds);
+    field(CalmField("txtMilliseconds", 170, 60000), animation.txtMilliseconds);
     field(NumberField("cboTimes", 0, 10), animation.cboTimes);
     field(ChoiceField("cboOrder", AnimationWizard::Orders), animation.cboOrder);
     field(ChoiceField("cboChange", AnimationWizard::Changes), animation.cboChange);

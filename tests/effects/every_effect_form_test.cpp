@@ -61,6 +61,16 @@ void Change(QWidget& window, FieldName name, Choice& value)
     value = static_cast<Choice>(last);
 }
 
+void Change(QWidget&, FieldName, BlockParagraphs& value)
+{
+    value.Words = oddText;
+}
+
+void Change(QWidget&, FieldName name, std::vector<Text>& colors)
+{
+    colors.assign(static_cast<std::size_t>(name.Bounds->Most), u"#0000ff");
+}
+
 /// Two rows with other texts in each field.
 template <HasFields Row>
 void Change(QWidget&, FieldName, std::vector<Row>& value)

@@ -124,6 +124,12 @@ TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffectAndOneWithoutAWizardSaysSo)
     Press(*m_form.focusWidget(), Qt::Key_Return);
     Command("mnuClock")->trigger();
     EXPECT_EQ(wanted, std::vector<EffectKind>(2, EffectKind::DigitalClock));
+    Command("mnuImageTransitions")->trigger();
+    EXPECT_TRUE(m_desk.Core.TransitionsImageMode);
+    ButtonOf(*FindRow(EffectKind::TextTransitions))->click();
+    EXPECT_FALSE(m_desk.Core.TransitionsImageMode);
+    Command("mnuRandomQuote")->trigger();
+    EXPECT_EQ(m_desk.Core.RandomMode, u"quote");
 }
 
 TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)

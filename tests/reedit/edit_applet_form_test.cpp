@@ -125,10 +125,10 @@ TEST(EditAppletRoadTest, AnAppletWithoutAWizardOpensNothing)
     FormDesk road(desk.Bench, nullptr);
     road.Start();
     WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
-        Paste(form, "CODE=NavigatorTicker20.class");
+        Paste(form, "CODE=SimpleSound.class");
         Click(form, "cmdEdit");
         EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u);
-        EXPECT_EQ(WordsOf(form, "Text1"), u"CODE=NavigatorTicker20.class");
+        EXPECT_EQ(WordsOf(form, "Text1"), u"CODE=SimpleSound.class");
         EXPECT_TRUE(form.isVisible());
         Press(*Find<QWidget>(form, "Text1"), Qt::Key_A, Qt::ControlModifier);
         Paste(form, "CODE=Clock.class");
