@@ -164,7 +164,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
             u"Create falling or floating images (like snowflakes) on your Web page using this "
             u"special effect.",
         .OtherWords =
-            u"snow, flakes, rain, leaves, confetti, christmas, winter, hearts, balloons, bubbles, picture",
+            u"snow, flakes, rain, leaves, confetti, christmas, winter, hearts, balloons, bubbles, "
+            u"picture",
         .InTodaysBrowsers = byItself,
         .RunsByItself = true,
         .Form = "frmFallingSnow",

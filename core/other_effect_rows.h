@@ -275,9 +275,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .BlockPreview =
             PreviewWords{
                 .After =
-                    u"<p align=left>This page is larger than its window, so that its scrollbars show.  "
-                    u"Browsers that show scrollbars only while the page moves have no colors for "
-                    u"them.</p><div style=\"width:200vw;height:200vh\"></div>"},
+                    u"<p align=left>This page is larger than its window, so that its scrollbars "
+                    u"show.  Browsers that show scrollbars only while the page moves have no "
+                    u"colors for them.</p><div style=\"width:200vw;height:200vh\"></div>"},
     },
     {
         .Kind = EffectKind::SlidingMessage,

@@ -94,13 +94,19 @@ std::optional<Text> CalmWords(const FieldName& field, TextView text)
 }
 
 std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlName control,
-                                       std::size_t most)
+                                       const PictureCount& count)
 {
-    if (pictures.empty())
+    // A picture without an address goes when the wizard ends.
+    const auto shown = static_cast<std::size_t>(std::ranges::count_if(
+        pictures, [](const BlockPicture& picture) { return !OneLine(picture.Address).empty(); }));
+    if (shown == 0)
         return Complaint{u"Please add a picture to the list.", control};
-    if (pictures.size() > most)
+    if (shown < count.Least)
+        return Complaint{u"Please add a second picture to the list.", control};
+    if (shown > count.Most)
         return Complaint{
-            Join({u"Please add ", NumberToText(most), u" pictures at most to the list."}), control};
+            Join({u"Please add ", NumberToText(count.Most), u" pictures at most to the list."}),
+            control};
     for (const BlockPicture& picture : pictures)
         for (const BlockPicture& other : pictures)
             if (picture.Address == other.Address && picture.Source != other.Source)

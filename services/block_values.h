@@ -31,10 +31,17 @@ std::optional<Complaint> CheckNumber(const FieldName& field, TextView text);
 /// What the author is told about a number beyond the bound that keeps the page calm, or nothing.
 std::optional<Text> CalmWords(const FieldName& field, TextView text);
 
-/// The complaint about no pictures, more than `most`, or two files of one name, or nothing.
-std::optional<Complaint>
-CheckPictures(const BlockPictures& pictures, ControlName control,
-              std::size_t most = std::tuple_size_v<decltype(RequiredFiles::RequiredFileNames)>);
+/// How many pictures an effect can show; the upload list has room for as many.
+struct PictureCount
+{
+    std::size_t Least = 1; ///< one or two
+    std::size_t Most = std::tuple_size_v<decltype(RequiredFiles::RequiredFileNames)>;
+};
+
+/// The complaint about too few pictures, too many, or two files of one name, or nothing; those
+/// without an address do not count.
+std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlName control,
+                                       const PictureCount& count = {});
 
 /// Mends the value of a field as a wizard does when it ends: texts are put in order, numbers, words
 /// and colours that it cannot hold give way to `fresh`, its value in a fresh window, links that

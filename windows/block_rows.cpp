@@ -88,7 +88,7 @@ void AddLink(PageBuilder& page, TextView tip)
 {
     page.BrowseRow("txtLink", u"&Link to Web page:", tip,
                    {.Button = "cmdBrowseForURL",
-                    .Caption = u"Browse for URL...",
+                    .Caption = u"&Browse for URL...",
                     .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
                     .GivesFocus = true});
 }

@@ -6,6 +6,7 @@
 #include "services/block_pictures.h"
 #include "services/file_complaints.h"
 #include "services/file_requests.h"
+#include "windows/block_rows.h"
 #include "windows/file_drop.h"
 #include "windows/picture.h"
 #include "windows/picture_box.h"
@@ -54,12 +55,7 @@ void AddPictureFields(PageBuilder& page)
 {
     page.TextBox("txtDescription", u"&Description:",
                  u"What the picture shows, for those who do not see it");
-    page.BrowseRow("txtLink", u"&Link to Web page:",
-                   u"The address that a click on the picture leads to; empty for no link",
-                   {.Button = "cmdBrowseForURL",
-                    .Caption = u"&Browse for URL...",
-                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-                    .GivesFocus = true});
+    AddLink(page, u"The address that a click on the picture leads to; empty for no link");
 }
 
 } // namespace

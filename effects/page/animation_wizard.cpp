@@ -33,9 +33,7 @@ std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page)
 {
     if (page != 0)
         return CheckNumbers(animation, page);
-    if (animation.lstPictures.size() == 1)
-        return Complaint{u"Please add a second picture to the list.", "lstPictures"};
-    return CheckPictures(animation.lstPictures, "lstPictures");
+    return CheckPictures(animation.lstPictures, "lstPictures", {.Least = 2});
 }
 
 std::vector<Hint> HintsOf(const AnimationWizard& animation)

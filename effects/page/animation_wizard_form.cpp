@@ -1,7 +1,6 @@
 #include "effects/page/animation_wizard_form.h"
 
 #include "core/pick_lists.h"
-#include "services/file_requests.h"
 #include "windows/block_rows.h"
 #include "windows/picture_list_panel.h"
 
@@ -47,12 +46,7 @@ AnimationWizardForm::AnimationWizardForm(Workbench& bench, QWidget* parent)
     movement.ChoiceBox("cboChange", u"Chan&ge:", changes, u"How a picture gives way to the next");
     movement.ChoiceBox("cboStart", u"&Starts:", starts);
     movement.NumberBox("txtWidth", u"W&idth:", u"0 is as wide as the pictures", u"pixels");
-    movement.BrowseRow("txtLink", u"&Link to Web page:",
-                       u"The address that a click on the animation leads to; empty for no link",
-                       {.Button = "cmdBrowseForURL",
-                        .Caption = u"&Browse for URL...",
-                        .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-                        .GivesFocus = true});
+    AddLink(movement, u"The address that a click on the animation leads to; empty for no link");
     AddTarget(movement);
     movement.Fill();
     AddButtons(Buttons::Paged);
