@@ -68,9 +68,6 @@ using EffectParameters =
                  SoundEffect, StatusBarTicker, SwirlyText, TextButton, TextEffects, TextTransitions,
                  ThoughtBubbles, Tooltips, TypewriterText, VerticalScroller>;
 
-/// Whether there is an effect of that kind, and so a wizard for it.
-bool HasWizard(EffectKind kind);
-
 /// One effect, whichever it is, with everything that can be done with it without its window.
 class AnyEffect
 {
