@@ -15,6 +15,8 @@ namespace {
 constexpr TextView textHeading = u"Text Transitions";
 constexpr TextView imageHeading = u"Image Transitions";
 
+constexpr ChoiceItem modes[] = {{u"0", u"Texts"}, {u"1", u"Pictures"}};
+
 constexpr ChoiceItem fits[] = {{u"contain", u"Show all of each picture"},
                                {u"cover", u"Fill the size, cut what is over"},
                                {u"fill", u"Stretch to the size"}};
@@ -46,10 +48,11 @@ TextTransitionsForm::TextTransitionsForm(Workbench& bench, QWidget* parent)
 
 void TextTransitionsForm::AddItemsPage()
 {
-    PageBuilder page =
-        AddPage({m_heading, u"Enter what is shown, in its order.  Each item can lead "
-                            u"to a Web page."});
-    page.HiddenText("TransitionsImageMode");
+    PageBuilder page = AddPage({m_heading,
+                                u"Enter what is shown, in its order.  Each item can lead "
+                                u"to a Web page.",
+                                m_bench.Core.TransitionsImageMode ? "lstPictures" : "lstMessages"});
+    page.ChoiceBox("TransitionsImageMode", u"&What changes:", modes);
     AddMessageList(page, EffectKind::TextTransitions, MessageText::Lines, m_bench)
         ->setObjectName(QStringLiteral("panMessages"));
     auto* pictures = new PictureListPanel(EffectKind::TextTransitions, PictureWords::Own, m_bench);
