@@ -46,11 +46,13 @@ ThoughtBubblesForm::ThoughtBubblesForm(Workbench& bench, QWidget* parent)
 
 void ThoughtBubblesForm::AddPicturePage()
 {
-    PageBuilder page = AddPage({heading, u"Choose a picture of people or pets, and describe it for "
-                                         u"those who cannot see it."});
+    PageBuilder page = AddPage({heading,
+                                u"Choose a picture of people or pets, and describe it for "
+                                u"those who cannot see it.",
+                                "cmdBrowseForImage"});
     page.LockedBrowseRow("txtPicture", u"P&icture:", u"The picture on which somebody thinks",
                          {.Button = "cmdBrowseForImage",
-                          .Caption = u"Browse for image...",
+                          .Caption = u"&Browse for image...",
                           .Request = BrowseRequest(imageFiles, FolderPurpose::Images),
                           .Instead = [this](const Text& path) { TakePicture(path); }});
     for (const ControlName hidden : {"PictureSource", "PictureWidth", "PictureHeight"})
