@@ -2,6 +2,7 @@
 
 #include "core/file_names.h"
 #include "preview/preview_page.h"
+#include "preview/qt_quiet_line.h"
 #include "preview/qt_status_line.h"
 #include "preview/qt_web_view_module.h"
 #include "windows/controls.h"
@@ -39,6 +40,7 @@ QtPreviewPane::QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, Q
       m_viewPage(new QWidget),
       lblPreviewNote(new QLabel),
       lblCannotShow(new QLabel),
+      m_quietLine(new QtQuietLine),
       lblPageStatus(new QtStatusLine),
       cmdTryAgain(new QPushButton("&Try again"))
 {
@@ -81,16 +83,20 @@ void QtPreviewPane::BuildViewPage()
     lblCannotShow->setMargin(4);
     lblCannotShow->setFrameStyle(QFrame::StyledPanel);
     lblCannotShow->hide();
+    connect(m_quietLine, &QtQuietLine::RunWanted, this, [this] { RunLive(false); });
     auto* rows = new QVBoxLayout(m_viewPage);
     rows->setContentsMargins({});
     rows->addWidget(lblCannotShow);
     rows->addStretch();
+    rows->addWidget(m_quietLine);
     rows->addWidget(lblPageStatus);
 }
 
 Done QtPreviewPane::Navigate(const PanePage& page)
 {
     PageRead();
+    m_live.reset();
+    m_isQuiet = false;
     PanePage former = std::exchange(m_page, page);
     if (m_isFileLeft)
         m_page.Path = OwnPath(page.Path);
@@ -101,6 +107,23 @@ Done QtPreviewPane::Navigate(const PanePage& page)
     }
     ShowPage();
     return {};
+}
+
+void QtPreviewPane::ShowLive(const LivePage& page)
+{
+    m_live = page;
+    RunLive(true);
+}
+
+/// Shows the live page, from its beginning.
+void QtPreviewPane::RunLive(bool isQuiet)
+{
+    if (!m_live)
+        return;
+    m_isQuiet = isQuiet;
+    ShowNotes(m_live->Note, m_live->RunsInStatus);
+    if (CanShow())
+        m_view->ShowLive(*m_live, isQuiet);
 }
 
 void QtPreviewPane::LeaveFile()
@@ -118,6 +141,8 @@ void QtPreviewPane::Clear()
     if (m_view)
         m_view->Clear();
     lblPageStatus->clear();
+    m_quietLine->hide();
+    m_live.reset();
     PageRead();
     m_isFileLeft = false;
 }
@@ -129,19 +154,34 @@ void QtPreviewPane::Warm()
 
 void QtPreviewPane::ShowPage()
 {
+    lblPageStatus->clear();
+    ShowNotes(m_page.Note, m_page.RunsInStatus);
+    if (CanShow())
+        m_view->ShowPage(m_page.Path, m_page.Files);
+    else
+        PageRead();
+}
+
+/// Begins a new page, with what is told beside it.
+void QtPreviewPane::ShowNotes(const Text& note, bool runsInStatus)
+{
     m_boxes.StartPage();
     m_outside.StartPage();
-    lblPageStatus->clear();
-    lblPageStatus->setFrameStyle(m_page.RunsInStatus ? QFrame::Box | QFrame::Plain
-                                                     : QFrame::NoFrame);
-    lblCannotShow->setText(ToQtLines(m_page.Note));
-    lblCannotShow->setVisible(!m_page.Note.empty());
+    m_quietLine->hide();
+    lblPageStatus->setFrameStyle(runsInStatus ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+    lblCannotShow->setText(ToQtLines(note));
+    lblCannotShow->setVisible(!note.empty());
+}
+
+/// Whether there is a view, which is in sight then; otherwise a note says why not.
+bool QtPreviewPane::CanShow()
+{
     if (const auto refusal = LoadView()) {
-        PageRead();
-        return ShowNote(Join({*refusal, instead}), false);
+        ShowNote(Join({*refusal, instead}), false);
+        return false;
     }
     m_stack->setCurrentWidget(m_viewPage);
-    m_view->ShowPage(m_page.Path, m_page.Files);
+    return true;
 }
 
 /// Loads the module and makes its view, once; what stands against it otherwise.
@@ -173,6 +213,8 @@ void QtPreviewPane::ShowNote(const Text& words, bool canTryAgain)
 
 void QtPreviewPane::TryAgain()
 {
+    if (m_live)
+        return RunLive(true);
     const Done written = WritePage();
     if (const Fault* fault = FaultIn(written))
         return ShowNote(Join({u"The preview page could not be written: ", Words(*fault), u"."}),
@@ -192,7 +234,23 @@ Done QtPreviewPane::WritePage()
 
 PageBoxReply QtPreviewPane::AnswerBox(const PageBox& box)
 {
-    return m_boxes.Answer(box);
+    if (!m_isQuiet)
+        return m_boxes.Answer(box);
+    m_quietLine->Tell(Join({u"The page shows a box: ", box.Words}));
+    return {};
+}
+
+bool QtPreviewPane::MayOpenWindow()
+{
+    if (m_isQuiet)
+        m_quietLine->Tell(u"The page opens a window.");
+    return !m_isQuiet;
+}
+
+void QtPreviewPane::LivePageShown()
+{
+    SetReadingOrder(*window());
+    emit LiveShown();
 }
 
 void QtPreviewPane::PageNeeded()
@@ -216,7 +274,11 @@ void QtPreviewPane::StatusWritten(TextView status)
 
 void QtPreviewPane::OutsideWanted(TextView target, bool byAuthor)
 {
-    m_outside.Offer(target, byAuthor);
+    // What the author did not click on is no reason for a box.
+    if (m_isQuiet && !byAuthor)
+        m_quietLine->Tell(Join({u"The page leads out of the preview, to: ", target}), false);
+    else
+        m_outside.Offer(target, byAuthor);
 }
 
 void QtPreviewPane::PageEnded(PageEnd end)

@@ -101,7 +101,8 @@ std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control)
 std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlName control,
                                        std::size_t most)
 {
-    if (pictures.empty())
+    // A picture without an address goes when the wizard ends.
+    if (std::ranges::all_of(pictures, [](const auto& one) { return OneLine(one.Address).empty(); }))
         return Complaint{u"Please add a picture to the list.", control};
     if (pictures.size() > most)
         return Complaint{

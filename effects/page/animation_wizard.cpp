@@ -31,7 +31,9 @@ std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page)
 {
     if (page != 0)
         return CheckNumbers(animation, page);
-    if (animation.lstPictures.size() == 1)
+    AnimationWizard tidied = animation;
+    Tidy(tidied);
+    if (tidied.lstPictures.size() == 1)
         return Complaint{u"Please add a second picture to the list.", "lstPictures"};
     constexpr std::size_t most = std::tuple_size_v<decltype(RequiredFiles::RequiredFileNames)>;
     return CheckPictures(animation.lstPictures, "lstPictures", most);
