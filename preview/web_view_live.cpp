@@ -134,6 +134,7 @@ void LiveView::Load(const Wanted& wanted)
     sheet.Page->setAudioMuted(wanted.IsQuiet);
     sheet.Page->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled,
                                          wanted.Page.View.RunsScript);
+    FitWidth();
     sheet.Page->load(url);
 }
 
@@ -141,7 +142,6 @@ void LiveView::Loaded(const Sheet& sheet, const QUrl& url)
 {
     if (&sheet != &Back() || !m_isLoading || url == LiveScheme::EmptyPage())
         return;
-    FitWidth();
     const QPointF scroll = Front().Page->scrollPosition() / Front().Page->zoomFactor();
     sheet.Page->Draw(m_loaded.Page.ScrollsToMark
                          ? ScrollToMark(m_loaded.Page.Mark)
@@ -202,7 +202,7 @@ void LiveView::FitWidth()
 {
     const int wanted = m_loaded.Page.View.Width;
     const int margin = wanted == 0 ? 0 : std::max(0, (width() - wanted) / 2);
-    m_stack->setContentsMargins(margin, 0, margin, 0);
+    setContentsMargins(margin, 0, margin, 0);
     double zoom = Front().Page->zoomFactor();
     if (wanted != 0)
         zoom = std::clamp(static_cast<double>(width()) / wanted, leastZoom, 1.0);

@@ -26,6 +26,9 @@ public:
     /// folded the part away. Called before the window is shown.
     void WidenWindow();
 
+    /// That of the content alone, since the part makes way.
+    QSize minimumSizeHint() const override { return widget(0)->minimumSizeHint(); }
+
 signals:
     /// The author wants to see the part, but the screen is too narrow for it.
     void NoRoom();
