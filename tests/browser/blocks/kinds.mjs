@@ -1,9 +1,10 @@
 /**
  * The blocks that are looked at, one row a kind: `block` is written by hand as the contract has it,
- * with § for its script; `words` and `links` are what it says, with the script (else `heard`) and
- * without, and in print (else `printed`); `sees` throws unless the visitor sees what the effect's description promises, a second
- * time as well unless it happens `once`. `anywhere`: it goes on where its root is not seen;
- * `focuses`: it takes the keyboard's focus; `outside`: it changes the page itself.
+ * with § for its script; `words` and `links` are what it says, with the script (else `heard`),
+ * without, and in print (else `printed`); the `first` words alone are seen when nothing moves.
+ * `sees` throws unless the visitor sees what the effect's description promises, a second time as
+ * well unless it happens `once`. `anywhere`: it goes on where its root is not seen; `focuses`: it
+ * takes the keyboard's focus; `outside`: it changes the page itself.
  */
 import assert from "../page_script/assert.mjs";
 import { wait } from "../page_script/tools.mjs";
@@ -69,6 +70,7 @@ export const kinds = [
     },
     {
         kind: "message",
+        first: 1,
         block: `<div data-orvane="message-1" data-seconds="1" data-fade-seconds="0.3"><ul>
             <li>Open on Sundays</li><li><a href="rooms.html">Two rooms are free</a></li></ul>§</div>`,
         words: ["Open on Sundays", "Two rooms are free"],
@@ -139,6 +141,7 @@ export const kinds = [
     },
     {
         kind: "texts",
+        first: 1,
         block: `<div data-orvane="texts-1" data-seconds="1" data-transition="10" data-font-size="24">
             <ul><li>Open on Sundays</li><li><a href="rooms.html">Two rooms are free</a></li></ul>§</div>`,
         words: ["Open on Sundays", "Two rooms are free"],
@@ -150,6 +153,7 @@ export const kinds = [
     },
     {
         kind: "images",
+        first: 1,
         block: `<div data-orvane="images-1" data-seconds="1" data-transition="2">${two}§</div>`,
         words: ["A cat jumps", "It sits"],
         links: ["cat.html"],
@@ -230,6 +234,7 @@ export const kinds = [
     },
     {
         kind: "bubble",
+        first: 1,
         focuses: true,
         block: `<div data-orvane="bubble-1" data-place-x="60" data-place-y="70"><figure><img
             src="photo.gif" alt="Our dog" width="200" height="150"><figcaption><p>Is it lunch
@@ -271,6 +276,7 @@ export const kinds = [
     },
     {
         kind: "banner",
+        first: 1,
         block: `<div data-orvane="banner-1" data-seconds="2" data-duration="0.4">${two}§</div>`,
         words: ["A cat jumps", "It sits"],
         links: ["cat.html"],
@@ -303,6 +309,7 @@ export const kinds = [
     },
     {
         kind: "rollover",
+        first: 2,
         focuses: true,
         block: `<div data-orvane="rollover-1"><ul><li><a href="cat.html">The cat</a> <img src="a.gif"
             alt="It jumps" width="100" height="80"></li><li><a href="dog.html">The dog</a>
@@ -341,6 +348,7 @@ export const kinds = [
     },
     {
         kind: "film",
+        first: 1,
         block: `<div data-orvane="film-1" data-speed="120" data-height="80" data-film-look="yes">${two}§</div>`,
         words: ["A cat jumps", "It sits"],
         links: ["cat.html"],
@@ -350,12 +358,13 @@ export const kinds = [
         kind: "background",
         anywhere: true,
         outside: true,
-        block: `<span data-orvane="background-1" data-last-color="#80f0a0" data-seconds="4">§</span>`,
+        block: `<span data-orvane="background-1" data-last-color="#80f0a0" data-seconds="10">§</span>`,
         once: true,
         async sees(tab) {
             const color = () => getComputedStyle(document.body).backgroundColor;
             const red = Number((await tab.evaluate(color)).match(/\d+/));
             assert.ok(red > 128, `it begins at ${red}`);
+            await tab.evaluate(() => document.body.getAnimations().forEach((e) => e.finish()));
             await until(tab, "rgb(128, 240, 160)", color);
         },
     },

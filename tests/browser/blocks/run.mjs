@@ -24,8 +24,9 @@ let opened = 0;
 /** What keeps a block from passing in a fresh tab, or null. */
 async function faultOf(browser, row, scenario, doctype) {
     const tab = await browser.newPage();
+    const prints = (await browser.version()).startsWith("Chrome");
     const height = row.parts ? 2400 : 600;
-    await tab.setViewport({ width: 800, height, hasTouch: true });
+    await tab.setViewport({ width: 800, height, hasTouch: prints });
     const errors = [];
     // Firefox counts a policy's refusals as errors of the page.
     tab.on("pageerror", (error) => /^Content-Security/.test(error.message) || errors.push(error));
@@ -38,7 +39,6 @@ async function faultOf(browser, row, scenario, doctype) {
         pages.set(name, { html: await pageOf(row, code, { doctype, ...options }) });
         await tab.goto(server.at + name, { waitUntil: "load", timeout: 30000 });
     };
-    const prints = (await browser.version()).startsWith("Chrome");
     try {
         await scenario.run({ open, row, tab, axe, prints, doctype, requests: () => requests });
         if (errors.length) throw errors[0];

@@ -126,13 +126,15 @@ const around = () => {
     for (const one of copy.querySelectorAll("[data-orvane],script")) one.remove();
     const shared = [Object, Array, Promise, EventTarget, Node, Element, HTMLElement, Document];
     const places = [window, document, ...shared.map(({ prototype }) => prototype)];
-    return [copy.outerHTML, places.flatMap((one) => Object.getOwnPropertyNames(one)).join()];
+    const names = (one, i) => Object.getOwnPropertyNames(one).map((name) => `${i} ${name}`);
+    return [copy.outerHTML, places.flatMap(names)];
 };
 
 /** The middle of an element of the first block; null where it has none. */
 const middle = (css) => {
     const place = inside(css)?.getBoundingClientRect();
-    return place?.width ? [place.x + place.width / 2, place.y + place.height / 2] : null;
+    const half = (begin, length) => Math.round(begin + length / 2);
+    return place?.width ? [half(place.x, place.width), half(place.y, place.height)] : null;
 };
 
 /** Each scenario: its name, whether its block must be `alone` on the page, and what must hold. */
@@ -146,7 +148,8 @@ export const scenarios = [
             await open();
             await row.sees(tab, 0);
             const now = await tab.evaluate(around);
-            assert.equal(now[1], names);
+            const added = now[1].filter((name) => !names.includes(name));
+            assert.equal(added, []);
             if (!row.outside) assert.equal(now[0], page);
             const files = row.block.match(/[\w-]+\.(gif|jpg|wav)/g) ?? [];
             const own = ["about:blank", "html", "favicon.ico", ...files];
@@ -186,9 +189,10 @@ export const scenarios = [
             await wait(1000);
             assert.equal(await quiet(tab, row), rest);
             await says(tab, row);
-            for (const [n, { kind, words }] of asked(row).entries()) {
+            for (const [n, { kind, words, first }] of asked(row).entries()) {
                 const { words: seen } = await tab.evaluate((n) => said(n, true), n);
-                if (words) assert.ok(seen.includes(words[0]) || kind === "bubble", `${kind}: ${seen}`);
+                for (const word of words?.slice(0, first) ?? [])
+                    assert.ok(seen.includes(word), `${kind}: ${seen}`);
             }
             const own = await tab.evaluate(values);
             if (axe) {
@@ -262,7 +266,7 @@ export const scenarios = [
             await tab.evaluate(() => document.activeElement.blur());
             await wait(400);
             const at = button && (await tab.evaluate(middle, "button"));
-            if (at) {
+            if (at && prints) {
                 const state = () =>
                     [inside("button")].map((e) => `${e?.title} ${e?.ariaExpanded} ${e?.offsetWidth}`);
                 const before = await tab.evaluate(state);
