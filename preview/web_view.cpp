@@ -2,7 +2,7 @@
 
 #include "preview/engine_sandbox.h"
 #include "preview/web_view_live.h"
-#include "preview/web_view_page.h"
+#include "preview/web_view_surface.h"
 #include "windows/qt_text.h"
 
 #include <QStackedLayout>
@@ -213,7 +213,7 @@ void EngineView::EndPage(PageEnd end)
 {
     // The page itself is still on the stack.
     QTimer::singleShot(0, this, [this, end, ended = m_page] {
-        if (m_page != ended)
+        if (m_page != ended || m_isSpare)
             return;
         Clear();
         m_context.Owner.PageEnded(end);

@@ -15,6 +15,9 @@ namespace {
 
 constexpr double leastZoom = 0.25; ///< of the engine
 
+/// Longer than a page that hangs is waited for.
+constexpr int loadAtLastMs = 12000;
+
 /// Scrolls to what stands behind the effect's first comment in the body.
 QString ScrollToMark(const Text& mark)
 {
@@ -46,6 +49,9 @@ LiveView::LiveView(QWebEngineProfile& profile, FolderGuard& guard, WebViewOwner&
     m_profile.installUrlSchemeHandler(liveScheme, &m_files);
     guard.HasLive = [this](const QUrl& url) { return m_files.Has(url); };
     m_stack->setStackingMode(QStackedLayout::StackAll);
+    m_loadAtLast.setSingleShot(true);
+    m_loadAtLast.setInterval(loadAtLastMs);
+    connect(&m_loadAtLast, &QTimer::timeout, this, &LiveView::EndLateLoad);
     for (Sheet& sheet : m_sheets)
         MakeSheet(sheet);
     Front().View->SetSeen(true);
@@ -90,7 +96,7 @@ void LiveView::MakeSheet(Sheet& sheet)
                     QTimer::singleShot(0, this, [this, &sheet] { EndOf(sheet); });
             });
     m_stack->addWidget(sheet.View);
-    sheet.Page->load(LiveScheme::EmptyPage());
+    Empty(sheet);
 }
 
 void LiveView::Show(const LivePage& page, bool isQuiet)
@@ -103,6 +109,11 @@ void LiveView::Show(const LivePage& page, bool isQuiet)
 void LiveView::GoOn()
 {
     if (!m_next || m_isLoading)
+        return;
+    if (!m_loadAtLast.isActive())
+        m_loadAtLast.start();
+    // The engine reports the end of the load that it breaks off for another as that of the other.
+    if (Back().IsEmptying)
         return;
     if (!WaitsForBox([this] { GoOn(); }))
         Load(*std::exchange(m_next, {}));
@@ -120,6 +131,7 @@ bool LiveView::WaitsForBox(const std::function<void()>& action)
 void LiveView::Load(const Wanted& wanted)
 {
     m_isLoading = true;
+    m_loadAtLast.start();
     m_context.CloseWindows();
     m_context.AuthorActed = false;
     Sheet& sheet = Back();
@@ -138,9 +150,14 @@ void LiveView::Load(const Wanted& wanted)
     sheet.Page->load(url);
 }
 
-void LiveView::Loaded(const Sheet& sheet, const QUrl& url)
+/// A load of the sheet has come to its end.
+void LiveView::Loaded(Sheet& sheet, const QUrl& url)
 {
-    if (&sheet != &Back() || !m_isLoading || url == LiveScheme::EmptyPage())
+    if (sheet.IsEmptying) {
+        sheet.IsEmptying = url != LiveScheme::EmptyPage();
+        return GoOn();
+    }
+    if (&sheet != &Back() || !m_isLoading)
         return;
     const QPointF scroll = Front().Page->scrollPosition() / Front().Page->zoomFactor();
     sheet.Page->Draw(m_loaded.Page.ScrollsToMark
@@ -160,6 +177,7 @@ void LiveView::Exchange()
     setFocusProxy(Front().View);
     Empty(former);
     m_isLoading = false;
+    m_loadAtLast.stop();
     m_context.Owner.StatusWritten(FromQt(Front().Status));
     m_context.Owner.LivePageShown();
     GoOn();
@@ -168,6 +186,7 @@ void LiveView::Exchange()
 void LiveView::Empty(Sheet& sheet)
 {
     sheet.Number = 0;
+    sheet.IsEmptying = true;
     sheet.Page->SetLeaving(true);
     sheet.Page->setAudioMuted(true);
     sheet.Page->load(LiveScheme::EmptyPage());
@@ -177,6 +196,7 @@ void LiveView::Clear()
 {
     m_next.reset();
     m_isLoading = false;
+    m_loadAtLast.stop();
     if (WaitsForBox([this] { Clear(); }))
         return;
     m_context.CloseWindows();
@@ -186,13 +206,24 @@ void LiveView::Clear()
 }
 
 /// What is loaded next gets a new process.
-void LiveView::EndOf(const Sheet& sheet)
+void LiveView::EndOf(Sheet& sheet)
 {
+    sheet.IsEmptying = false;
     if (sheet.Number == 0)
-        return;
+        return GoOn();
     if (&sheet == &Back())
         m_isLoading = false;
     m_context.Owner.PageEnded(std::exchange(m_isHung, false) ? PageEnd::Hung : PageEnd::Crashed);
+    GoOn();
+}
+
+/// A load whose end is never reported counts as that of a page that no longer runs.
+void LiveView::EndLateLoad()
+{
+    if (m_context.BoxOpen)
+        return m_loadAtLast.start();
+    Back().IsEmptying = m_isLoading = false;
+    m_context.Owner.PageEnded(PageEnd::Crashed);
     GoOn();
 }
 

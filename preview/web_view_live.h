@@ -1,9 +1,10 @@
 #pragma once
 
 #include "core/preview_pane.h"
-#include "preview/web_view_page.h"
 #include "preview/web_view_scheme.h"
+#include "preview/web_view_surface.h"
 
+#include <QTimer>
 #include <QWebEngineProfile>
 #include <QWidget>
 
@@ -42,7 +43,8 @@ private:
         PageView* View = nullptr;
         PreviewWebPage* Page = nullptr;
         QString Status = {};
-        int Number = 0; ///< in its address; 0 when it is empty
+        int Number = 0;          ///< in its address; 0 when it is empty
+        bool IsEmptying = false; ///< its empty page is still loaded
     };
     struct Wanted
     {
@@ -52,12 +54,13 @@ private:
 
     void MakeSheet(Sheet& sheet);
     void Load(const Wanted& wanted);
-    void Loaded(const Sheet& sheet, const QUrl& url);
+    void Loaded(Sheet& sheet, const QUrl& url);
     void Exchange();
     void GoOn();
     bool WaitsForBox(const std::function<void()>& action);
     void Empty(Sheet& sheet);
-    void EndOf(const Sheet& sheet);
+    void EndOf(Sheet& sheet);
+    void EndLateLoad();
     void FitWidth();
     Sheet& Front() { return m_sheets[m_front]; }
     Sheet& Back() { return m_sheets[1 - m_front]; }
@@ -71,6 +74,7 @@ private:
     int m_number = 0; ///< of the page that was loaded last
     int m_fitted = 0; ///< the width of window that the zoom is made for; 0: the author's own zoom
     bool m_isLoading = false;
+    QTimer m_loadAtLast;   ///< runs while a page is wanted that is not there yet
     bool m_isHung = false; ///< the process that ends now was stopped
     Wanted m_loaded;       ///< the page of that number, without its bytes
     std::optional<Wanted> m_next;

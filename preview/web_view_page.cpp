@@ -1,9 +1,9 @@
 #include "preview/web_view_page.h"
 
 #include "preview/web_view_scheme.h"
+#include "preview/web_view_surface.h"
 #include "windows/qt_text.h"
 
-#include <QChildEvent>
 #include <QCloseEvent>
 #include <QShortcut>
 #include <QTimer>
@@ -24,7 +24,7 @@ namespace {
 
 constexpr QSize windowSize(480, 360);
 constexpr std::size_t mostWindows = 10;
-constexpr int drawnAtLastMs = 250;
+constexpr int drawnAtLastMs = 1000;
 
 /// Behind the token, the report of a page that is drawn.
 constexpr QLatin1String drawnReport("drawn");
@@ -218,8 +218,9 @@ void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, con
 void PreviewWebPage::Draw(const QString& script)
 {
     m_drawnAtLast.start();
-    runJavaScript(QStringLiteral("%1;requestAnimationFrame(() => requestAnimationFrame("
-                                 "() => console.debug('%2%3')))")
+    // The engine begins a third frame once the first is on its way to the screen.
+    runJavaScript(QStringLiteral("%1;{let left = 3; const next = () => left-- ?"
+                                 "requestAnimationFrame(next) : console.debug('%2%3'); next()}")
                       .arg(script, m_context.Token, drawnReport),
                   QWebEngineScript::ApplicationWorld);
 }
@@ -255,53 +256,6 @@ void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
     m_context.Windows.emplace_back(window);
     request.openIn(page);
     window->show();
-}
-
-PageView::PageView(PageContext& context, QWidget* parent)
-    : QWebEngineView(parent), m_context(context)
-{
-    setContextMenuPolicy(Qt::NoContextMenu);
-}
-
-bool PageView::event(QEvent* event)
-{
-    if (event->type() == QEvent::ChildPolished) {
-        // Clicks and keys go to a child that the engine puts in; page windows are children too.
-        auto* child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child());
-        if (child != nullptr && !child->isWindow()) {
-            child->installEventFilter(this);
-            Name(*child);
-        }
-    }
-    return QWebEngineView::event(event);
-}
-
-void PageView::SetSeen(bool isSeen)
-{
-    m_isSeen = isSeen;
-    for (QObject* child : children())
-        if (auto* part = qobject_cast<QWidget*>(child); part != nullptr && !part->isWindow())
-            Name(*part);
-}
-
-/// Lets the part that the engine puts in be found, or not.
-void PageView::Name(QWidget& part)
-{
-    part.setObjectName(m_isSeen ? "PageSurface" : "");
-    part.setAccessibleName("Preview of the page");
-    part.setFocusPolicy(m_isSeen ? Qt::StrongFocus : Qt::NoFocus);
-}
-
-bool PageView::eventFilter(QObject* watched, QEvent* event)
-{
-    const QEvent::Type type = event->type();
-    if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress ||
-        type == QEvent::TouchBegin) {
-        m_context.AuthorActed = true;
-        if (AuthorActed)
-            AuthorActed();
-    }
-    return QWebEngineView::eventFilter(watched, event);
 }
 
 } // namespace orvane
