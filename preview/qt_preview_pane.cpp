@@ -1,20 +1,15 @@
 #include "preview/qt_preview_pane.h"
 
-#include "core/file_names.h"
-#include "preview/preview_page.h"
+#include "preview/qt_pane_note.h"
 #include "preview/qt_quiet_line.h"
 #include "preview/qt_status_line.h"
 #include "preview/qt_web_view_module.h"
 #include "windows/controls.h"
 #include "windows/qt_text.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QStackedLayout>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace orvane {
 
@@ -23,54 +18,29 @@ namespace {
 constexpr TextView instead =
     u"\r\n\r\nYou can preview the special effect in your own Web browser instead.";
 
-Text OwnPath(TextView path)
-{
-    return PathIn(FolderOf(path), panePageName);
-}
-
 } // namespace
 
 QtPreviewPane::QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent)
     : QWidget(parent),
-      m_files(files),
+      m_file(files),
       m_boxes(dialogs),
       m_outside(dialogs, shell, files),
       m_stack(new QStackedLayout(this)),
-      m_notePage(new QWidget),
+      m_note(new QtPaneNote),
       m_viewPage(new QWidget),
-      lblPreviewNote(new QLabel),
       lblCannotShow(new QLabel),
       m_quietLine(new QtQuietLine),
-      lblPageStatus(new QtStatusLine),
-      cmdTryAgain(new QPushButton("&Try again"))
+      lblPageStatus(new QtStatusLine)
 {
     BuildViewPage();
-    BuildNotePage();
+    connect(m_note, &QtPaneNote::TryAgainWanted, this, &QtPreviewPane::TryAgain);
     m_stack->addWidget(m_viewPage);
-    m_stack->addWidget(m_notePage);
+    m_stack->addWidget(m_note);
 }
 
 QtPreviewPane::~QtPreviewPane()
 {
     delete m_view; // while this can still hear its last words
-}
-
-void QtPreviewPane::BuildNotePage()
-{
-    lblPreviewNote->setObjectName("lblPreviewNote");
-    lblPreviewNote->setTextFormat(Qt::PlainText);
-    lblPreviewNote->setWordWrap(true);
-    cmdTryAgain->setObjectName("cmdTryAgain");
-    connect(cmdTryAgain, &QPushButton::clicked, this, [this] { TryAgain(); });
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdTryAgain);
-    buttons->addStretch();
-    auto* rows = new QVBoxLayout(m_notePage);
-    rows->addStretch();
-    rows->addWidget(lblPreviewNote);
-    rows->addLayout(buttons);
-    rows->addStretch();
 }
 
 void QtPreviewPane::BuildViewPage()
@@ -97,16 +67,10 @@ Done QtPreviewPane::Navigate(const PanePage& page)
     PageRead();
     m_live.reset();
     m_isQuiet = false;
-    PanePage former = std::exchange(m_page, page);
-    if (m_isFileLeft)
-        m_page.Path = OwnPath(page.Path);
-    const Done written = WritePage();
-    if (FaultIn(written)) {
-        m_page = std::move(former);
-        return written;
-    }
-    ShowPage();
-    return {};
+    const Done written = m_file.Begin(page);
+    if (!FaultIn(written))
+        ShowPage();
+    return written;
 }
 
 void QtPreviewPane::ShowLive(const LivePage& page)
@@ -128,11 +92,8 @@ void QtPreviewPane::RunLive(bool isQuiet)
 
 void QtPreviewPane::LeaveFile()
 {
-    if (std::exchange(m_isFileLeft, true))
-        return;
-    m_page.Path = OwnPath(m_page.Path);
     // A page that is still being read goes on under the other name.
-    if (!std::exchange(m_fileGone, true) && !FaultIn(WritePage()))
+    if (m_file.Leave())
         ShowPage();
 }
 
@@ -144,7 +105,7 @@ void QtPreviewPane::Clear()
     m_quietLine->hide();
     m_live.reset();
     PageRead();
-    m_isFileLeft = false;
+    m_file.End();
 }
 
 void QtPreviewPane::Warm()
@@ -155,9 +116,10 @@ void QtPreviewPane::Warm()
 void QtPreviewPane::ShowPage()
 {
     lblPageStatus->clear();
-    ShowNotes(m_page.Note, m_page.RunsInStatus);
+    const PanePage& page = m_file.Page();
+    ShowNotes(page.Note, page.RunsInStatus);
     if (CanShow())
-        m_view->ShowPage(m_page.Path, m_page.Files);
+        m_view->ShowPage(page.Path, page.Files);
     else
         PageRead();
 }
@@ -206,30 +168,19 @@ std::optional<Text> QtPreviewPane::LoadView()
 
 void QtPreviewPane::ShowNote(const Text& words, bool canTryAgain)
 {
-    lblPreviewNote->setText(ToQtLines(words));
-    cmdTryAgain->setVisible(canTryAgain);
-    m_stack->setCurrentWidget(m_notePage);
+    m_note->Tell(words, canTryAgain);
+    m_stack->setCurrentWidget(m_note);
 }
 
 void QtPreviewPane::TryAgain()
 {
     if (m_live)
         return RunLive(true);
-    const Done written = WritePage();
+    const Done written = m_file.Put();
     if (const Fault* fault = FaultIn(written))
         return ShowNote(Join({u"The preview page could not be written: ", Words(*fault), u"."}),
                         true);
     ShowPage();
-}
-
-/// Puts the page file in its place, where it is not there any more.
-Done QtPreviewPane::WritePage()
-{
-    if (!m_fileGone)
-        return {};
-    const Done done = m_files.PutPrivate(m_page.Path, m_page.Bytes);
-    m_fileGone = FaultIn(done) != nullptr;
-    return done;
 }
 
 PageBoxReply QtPreviewPane::AnswerBox(const PageBox& box)
@@ -249,6 +200,8 @@ bool QtPreviewPane::MayOpenWindow()
 
 void QtPreviewPane::LivePageShown()
 {
+    // Of a page that ended meanwhile a note told.
+    m_stack->setCurrentWidget(m_viewPage);
     SetReadingOrder(*window());
     emit LiveShown();
 }
@@ -256,15 +209,14 @@ void QtPreviewPane::LivePageShown()
 void QtPreviewPane::PageNeeded()
 {
     // A page that cannot be put back fails to load, and the view shows that.
-    static_cast<void>(WritePage());
+    static_cast<void>(m_file.Put());
 }
 
 void QtPreviewPane::PageRead()
 {
     // The engine puts in the part that takes the keys with its first page.
     SetReadingOrder(*window());
-    if (!std::exchange(m_fileGone, true))
-        static_cast<void>(m_files.Remove(m_page.Path));
+    m_file.Remove();
 }
 
 void QtPreviewPane::StatusWritten(TextView status)

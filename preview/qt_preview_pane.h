@@ -1,22 +1,21 @@
 #pragma once
 
-#include "core/file_store.h"
 #include "core/preview_pane.h"
 #include "preview/outside_links.h"
 #include "preview/page_boxes.h"
+#include "preview/shown_file.h"
 #include "preview/web_view.h"
 
 #include <QWidget>
 
 #include <optional>
-#include <string>
 
 class QLabel;
-class QPushButton;
 class QStackedLayout;
 
 namespace orvane {
 
+class QtPaneNote;
 class QtQuietLine;
 class QtStatusLine;
 
@@ -58,7 +57,6 @@ private:
     void OutsideWanted(TextView target, bool byAuthor) override;
     void PageEnded(PageEnd end) override;
 
-    void BuildNotePage();
     void BuildViewPage();
     void ShowNote(const Text& words, bool canTryAgain);
     void ShowPage();
@@ -66,28 +64,22 @@ private:
     void ShowNotes(const Text& note, bool runsInStatus);
     bool CanShow();
     void TryAgain();
-    [[nodiscard]] Done WritePage();
     std::optional<Text> LoadView();
 
-    FileStore& m_files;
+    ShownFile m_file;
     PageBoxes m_boxes;
     OutsideLinks m_outside;
 
-    PanePage m_page;                ///< as shown; its path is where the file lies now
-    bool m_fileGone = true;         ///< the page file was deleted, or never written
     std::optional<LivePage> m_live; ///< while a live page is shown, and not one of a file
     bool m_isQuiet = false;         ///< the live page shows no boxes and opens no windows
-    bool m_isFileLeft = false;      ///< the file under the first name belongs to a browser
 
     WebView* m_view = nullptr;
     QStackedLayout* m_stack;
-    QWidget* m_notePage;
+    QtPaneNote* m_note;
     QWidget* m_viewPage;
-    QLabel* lblPreviewNote;
     QLabel* lblCannotShow;
     QtQuietLine* m_quietLine;
     QtStatusLine* lblPageStatus;
-    QPushButton* cmdTryAgain;
 };
 
 } // namespace orvane
