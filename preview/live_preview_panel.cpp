@@ -5,6 +5,7 @@
 #include "services/recent_files.h"
 #include "windows/controls.h"
 #include "windows/qt_text.h"
+#include "windows/wizard_form.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -248,6 +249,13 @@ void LivePreviewPanel::GoTo(const Text& path)
     m_host.GoTo(path);
     m_good.reset();
     m_isHostNew = !path.empty();
+}
+
+void AddLivePreview(WizardForm& wizard, Workbench& bench, QWidget* pane)
+{
+    auto* panel = new LivePreviewPanel(bench, pane, [&wizard] { return wizard.WouldDeliver(); });
+    QObject::connect(&wizard, &WizardForm::FieldsChanged, panel, &LivePreviewPanel::Update);
+    wizard.AddSide(panel);
 }
 
 } // namespace orvane

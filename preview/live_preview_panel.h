@@ -17,6 +17,8 @@ class QVBoxLayout;
 
 namespace orvane {
 
+class WizardForm;
+
 /// The live preview beside a wizard: the effect as it would be delivered with the fields as they
 /// stand, in an empty page or in the author's. While it is not in sight it does nothing.
 class LivePreviewPanel : public QWidget
@@ -77,5 +79,9 @@ private:
     QCheckBox* chkReducedMotion = nullptr;
     QCheckBox* chkRunsScript = nullptr;
 };
+
+/// Puts the live preview of its effect beside the wizard; `bench` and `pane` are as in the panel's
+/// constructor. Called once the wizard has its fields and before it is shown.
+void AddLivePreview(WizardForm& wizard, Workbench& bench, QWidget* pane);
 
 } // namespace orvane

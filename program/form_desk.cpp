@@ -78,16 +78,8 @@ void FormDesk::OpenEffect(EffectKind kind, Opening opening)
     if (core.EditMode && std::holds_alternative<FreshStart>(opening))
         opening = PastedTag{{}, core.AppletTextAfterCODE, core.AppletText};
     wizard->Open(opening);
-    AddLivePreview(*wizard);
+    AddLivePreview(*wizard, m_bench, m_pane);
     LeadThrough(*wizard);
-}
-
-void FormDesk::AddLivePreview(WizardForm& wizard)
-{
-    auto* preview =
-        new LivePreviewPanel(m_bench, m_pane, [&wizard] { return wizard.WouldDeliver(); });
-    connect(&wizard, &WizardForm::FieldsChanged, preview, &LivePreviewPanel::Update);
-    wizard.AddSide(preview);
 }
 
 void FormDesk::OpenProject(TextView path)

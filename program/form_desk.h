@@ -54,7 +54,6 @@ signals:
     void WizardOpened();
 
 private:
-    void AddLivePreview(WizardForm& wizard);
     void LeadThrough(WizardForm& wizard);
     void ShowModally(QDialog& window);
     DeliveryEnd ShowPreview(const EffectPayload& payload, WizardForm& wizard);

@@ -45,8 +45,9 @@ int LoadAgain(const QUrl& url)
         page.load(url);
     };
     QObject::connect(&page, &QWebEnginePage::loadFinished, &page, [&] {
-        page.runJavaScript(QStringLiteral("requestAnimationFrame(() => requestAnimationFrame("
-                                          "() => console.debug('drawn')))"),
+        page.runJavaScript(QStringLiteral("{let left = 3; const next = () => left-- ?"
+                                          "requestAnimationFrame(next) : console.debug('drawn');"
+                                          "next()}"),
                            QWebEngineScript::ApplicationWorld);
     });
     page.Drawn = [&] {

@@ -1,13 +1,8 @@
 #include "core/draft.h"
-#include "disk/disk_file_store.h"
-#include "disk/system_calls.h"
-#include "effects/effect_windows.h"
 #include "effects/effects.h"
-#include "preview/live_preview_panel.h"
-#include "preview/qt_preview_pane.h"
-#include "program/qt_resources.h"
-#include "tests/support/doubles.h"
+#include "preview/live_page.h"
 #include "tests/support/picture_files.h"
+#include "tests/support/qt_live_desk.h"
 #include "windows/qt_text.h"
 
 #include <QApplication>
@@ -16,13 +11,11 @@
 #include <QFile>
 #include <QProcess>
 #include <QSlider>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 
 // Measures the live preview beside a wizard, by its first argument:
 //   ticker|cube|slideshow FOLDER   milliseconds from each of 60 keys to the changed picture, one a
@@ -47,20 +40,6 @@ public:
         const bool isDone = QApplication::notify(receiver, event);
         LongestMs = std::max(LongestMs, static_cast<double>(watch.nsecsElapsed()) / 1e6);
         return isDone;
-    }
-};
-
-/// A pane that keeps the page that it was to show last.
-class KeepingPane : public QtPreviewPane
-{
-public:
-    using QtPreviewPane::QtPreviewPane;
-    LivePage Last;
-
-    void ShowLive(const LivePage& page) override
-    {
-        Last = page;
-        QtPreviewPane::ShowLive(page);
     }
 };
 
@@ -92,80 +71,26 @@ Measured FindMeasured(const QByteArray& name, const Text& folder)
             "txtStatusBarText"};
 }
 
-/// A wizard with its live preview, over doubles and the real disk.
-class Scene
+/// Changes the effect as one key of the author does.
+void PressKey(WizardForm& wizard, const char* name)
 {
-public:
-    explicit Scene(const QByteArray& name, bool hasPreview = true)
-    {
-        m_fake.Core.ProgramFolder = FromQt(m_home.path());
-        InstallResources(m_files, m_fake.Dialogs, m_fake.Core.ProgramFolder);
-        for (const char* picture : {"a.gif", "b.gif"})
-            testing::WriteFile(m_home.filePath(QLatin1String(picture)).toStdString(),
-                               testing::GifBytes(200, 200));
-        const Measured measured = FindMeasured(name, FromQt(m_home.path()));
-        m_control = measured.Control;
-        m_wizard = MakeWizard(measured.Kind, m_bench);
-        m_wizard->Open(Recipe{measured.Draft});
-        if (hasPreview)
-            AddPreview();
-    }
+    static int keys = 0;
+    const bool isForth = ++keys % 20 < 10;
+    auto* control = wizard.findChild<QWidget*>(QLatin1String(name));
+    if (qobject_cast<QSlider*>(control) != nullptr)
+        QTest::keyClick(control, isForth ? Qt::Key_Left : Qt::Key_Right);
+    else
+        QTest::keyClick(control, isForth ? Qt::Key_1 : Qt::Key_Backspace);
+}
 
-    WizardForm& Wizard() { return *m_wizard; }
-
-    /// Changes the effect as one key of the author does.
-    void PressKey()
-    {
-        auto* control = m_wizard->findChild<QWidget*>(QLatin1String(m_control));
-        if (qobject_cast<QSlider*>(control) != nullptr)
-            QTest::keyClick(control, ++m_keys % 20 < 10 ? Qt::Key_Left : Qt::Key_Right);
-        else
-            QTest::keyClick(control, ++m_keys % 20 < 10 ? Qt::Key_1 : Qt::Key_Backspace);
-    }
-
-    /// Runs until the next picture is there.
-    void AwaitPicture()
-    {
-        QEventLoop loop;
-        QObject::connect(&Pane, &QtPreviewPane::LiveShown, &loop, &QEventLoop::quit);
-        QTimer::singleShot(5000, &loop, [&] { loop.quit(); });
-        loop.exec();
-    }
-
-private:
-    void AddPreview()
-    {
-        auto* panel =
-            new LivePreviewPanel(m_bench, &Pane, [this] { return m_wizard->WouldDeliver(); });
-        QObject::connect(m_wizard.get(), &WizardForm::FieldsChanged, panel,
-                         &LivePreviewPanel::Update);
-        m_wizard->AddSide(panel);
-    }
-
-    QTemporaryDir m_home;
-    PosixCalls m_calls;
-    DiskFileStore m_files{m_calls, FromQt(m_home.path())};
-    testing::FakeDesk m_fake;
-
-public:
-    KeepingPane Pane{m_fake.Dialogs, m_fake.Shell, m_files};
-
-private:
-    Workbench m_bench{.Core = m_fake.Core,
-                      .Dialogs = m_fake.Dialogs,
-                      .Files = m_files,
-                      .Settings = m_fake.Settings,
-                      .Shell = m_fake.Shell,
-                      .Clipboard = m_fake.Clipboard,
-                      .Pane = Pane,
-                      .Help = m_fake.Help,
-                      .Today = [] { return Text(); },
-                      .Clock = [] { return 0.0; }};
-
-    std::unique_ptr<WizardForm> m_wizard;
-    const char* m_control = nullptr;
-    int m_keys = 0;
-};
+/// Runs until the next picture is there.
+void AwaitPicture(testing::LiveDesk& desk)
+{
+    QEventLoop loop;
+    QObject::connect(&desk.Page.Pane, &QtPreviewPane::LiveShown, &loop, &QEventLoop::quit);
+    QTimer::singleShot(5000, &loop, [&] { loop.quit(); });
+    loop.exec();
+}
 
 /// Writes the page and its files, for a bare view to show.
 void Keep(const LivePage& page, const QString& folder)
@@ -177,32 +102,39 @@ void Keep(const LivePage& page, const QString& folder)
 
 void MeasureKeys(TimedApplication& application, const QByteArray& name, const QString& folder)
 {
-    Scene scene(name);
-    scene.Wizard().show();
-    scene.AwaitPicture();
+    testing::LiveDesk desk;
+    const Measured measured = FindMeasured(name, desk.Folder());
+    const auto wizard = desk.Open(measured.Kind, measured.Draft);
+    AwaitPicture(desk);
+    QTest::qWait(1000);
     application.LongestMs = 0;
     for (int i = 0; i < 60; ++i) {
         QElapsedTimer watch;
         watch.start();
-        scene.PressKey();
-        scene.AwaitPicture();
+        PressKey(*wizard, measured.Control);
+        AwaitPicture(desk);
         std::printf("%.1f\n", static_cast<double>(watch.nsecsElapsed()) / 1e6);
         QTest::qWait(300);
     }
     std::printf("handler %.1f\n", application.LongestMs);
-    Keep(scene.Pane.Last, folder);
+    const Deliverable made = wizard->WouldDeliver();
+    Keep(PictureOf(std::get<EffectPayload>(made), {}, desk.Bench.Files, desk.Folder()).Page,
+         folder);
 }
 
 void MeasureOpening()
 {
+    testing::LiveDesk desk;
+    const Measured measured = FindMeasured("ticker", desk.Folder());
+    // The first window of a program takes longer, whatever is in it.
+    desk.Open(measured.Kind, measured.Draft, false);
     for (const bool hasPreview : {false, true}) {
         QElapsedTimer watch;
         watch.start();
-        Scene scene("ticker", hasPreview);
-        scene.Wizard().show();
-        QApplication::processEvents();
-        std::printf("%lld ", static_cast<long long>(watch.elapsed()));
+        const auto wizard = desk.Open(measured.Kind, measured.Draft, hasPreview);
+        std::printf("%.1f ", static_cast<double>(watch.nsecsElapsed()) / 1e6);
     }
+    std::printf("\n");
 }
 
 /// The memory of this process and those that it started, in kB.
@@ -219,19 +151,21 @@ long Memory()
 
 void MeasureMemory()
 {
-    Scene scene("ticker");
-    scene.Wizard().show();
-    scene.AwaitPicture();
+    testing::LiveDesk desk;
+    const Measured measured = FindMeasured("ticker", desk.Folder());
+    const auto wizard = desk.Open(measured.Kind, measured.Draft);
+    AwaitPicture(desk);
     const auto change = [&](int times) {
         for (int i = 0; i < times; ++i) {
-            scene.PressKey();
-            scene.AwaitPicture();
+            PressKey(*wizard, measured.Control);
+            AwaitPicture(desk);
         }
         QTest::qWait(5000);
         std::printf("%ld ", Memory());
     };
     change(20); // what the engine makes once
     change(500);
+    std::printf("\n");
 }
 
 } // namespace
