@@ -77,7 +77,7 @@ TEST_F(LivePaneBrowserTest, OfAPageThatIsGoneNothingRunsOn)
 
 TEST_F(LivePaneBrowserTest, APageThatReloadsItselfIsShownAndLeft)
 {
-    m_page.Load("<body>x<script>setTimeout(() => location.reload(), 30)</script>");
+    m_page.Load("<body>x<script>setTimeout(() => location.reload(), 0)</script>");
     m_page.Load("<body>next");
     m_page.WaitUntil("document.body.innerText == 'next'");
 }
