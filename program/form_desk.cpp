@@ -5,6 +5,7 @@
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/effect_windows.h"
+#include "preview/live_preview_panel.h"
 #include "program/about_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
@@ -75,6 +76,7 @@ void FormDesk::OpenEffect(EffectKind kind, Opening opening)
     if (core.EditMode && std::holds_alternative<FreshStart>(opening))
         opening = PastedTag{{}, core.AppletTextAfterCODE, core.AppletText};
     wizard->Open(opening);
+    AddLivePreview(*wizard, m_bench, m_pane);
     LeadThrough(*wizard);
 }
 

@@ -169,10 +169,9 @@ void AddTarget(PageBuilder& page)
                        u"The window or frame in which a link opens");
 }
 
-void AddWidth(PageBuilder& page)
+void AddWidth(PageBuilder& page, TextView unit)
 {
-    page.NumberBox("txtWidth", u"&Width:", u"The width of the effect",
-                   u"pixels; 0 is as wide as its place");
+    page.NumberBox("txtWidth", u"&Width:", u"The width of the effect", unit);
 }
 
 } // namespace orvane

@@ -64,7 +64,7 @@ void AddPictureSize(PageBuilder& page);
 /// the frame that the author types.
 void AddTarget(PageBuilder& page);
 
-/// The width as `txtWidth`; 0 is as wide as the effect's place.
-void AddWidth(PageBuilder& page);
+/// The width as `txtWidth`; the words behind it say what 0 is.
+void AddWidth(PageBuilder& page, TextView unit = u"pixels; 0 is as wide as its place");
 
 } // namespace orvane

@@ -67,6 +67,11 @@ public:
         }
     }
 
+    Deliverable WouldDeliver() const override
+    {
+        return DeliverableOf(Parameters(), SurroundingsOf(m_bench));
+    }
+
     /// Fills the window from the pasted tag that it was opened with, offers to take quotation marks
     /// off its values, and clears the shared EditMode.
     void EditApplet() requires requires(Effect& effect, const PastedTag& tag)
@@ -195,6 +200,7 @@ private:
             ShowFields();
             ShowHints();
             KeepDraftSoon();
+            emit FieldsChanged();
         });
         ShowHints();
     }

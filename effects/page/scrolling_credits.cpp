@@ -6,7 +6,8 @@ namespace {
 
 bool IsText(const ScrollingCredits& credits)
 {
-    return credits.cboWhat == ScrollingCredits::Whats.front();
+    // What is none of the two becomes the first.
+    return credits.cboWhat != ScrollingCredits::Whats.back();
 }
 
 bool GoesOn(const ScrollingCredits& credits)

@@ -45,13 +45,15 @@ ThoughtBubblesForm::ThoughtBubblesForm(Workbench& bench, QWidget* parent)
 
 void ThoughtBubblesForm::AddPicturePage()
 {
-    PageBuilder page = AddPage({heading, u"Choose a picture of people or pets, and describe it for "
-                                         u"those who cannot see it."});
+    PageBuilder page = AddPage({heading,
+                                u"Choose a picture of people or pets, and describe it for "
+                                u"those who cannot see it.",
+                                "cmdBrowseForImage"});
     AddPicture(page, {"txtPicture", "PictureSource", "PictureWidth", "PictureHeight"},
                {.Label = u"P&icture:",
                 .Tip = u"The picture on which somebody thinks",
                 .Button = "cmdBrowseForImage",
-                .Caption = u"Browse for image..."});
+                .Caption = u"&Browse for image..."});
     page.TextBox("txtDescription", u"D&escription:",
                  u"What the picture shows, such as \"our dog\"");
     page.Fill();

@@ -39,7 +39,7 @@ FlashingTextForm::FlashingTextForm(Workbench& bench, QWidget* parent)
     look.Fill();
 
     AddButtons(Buttons::Paged);
-    resize(size().expandedTo(FromTwips(8010, 6210)));
+    resize(size().expandedTo(FromTwips(8010, 7200)));
 }
 
 ShakingTextForm::ShakingTextForm(Workbench& bench, QWidget* parent)

@@ -34,7 +34,7 @@ TextButtonForm::TextButtonForm(Workbench& bench, QWidget* parent)
     look.NumberBox("txtCorners", u"&Round the corners by:", {}, u"pixels");
     look.NumberBox("txtBorder", u"&Border:", {}, u"pixels");
     look.CheckBox("chkShadow", u"It throws a &shadow");
-    AddWidth(look);
+    AddWidth(look, u"pixels; 0 is as wide as its text");
     look.Fill();
 
     AddButtons(Buttons::Paged);

@@ -12,6 +12,8 @@ namespace {
 constexpr TextView textHeading = u"Text Transitions";
 constexpr TextView imageHeading = u"Image Transitions";
 
+constexpr ChoiceItem modes[] = {{u"0", u"Texts"}, {u"1", u"Pictures"}};
+
 } // namespace
 
 TextTransitionsForm::TextTransitionsForm(Workbench& bench, QWidget* parent)
@@ -30,10 +32,11 @@ TextTransitionsForm::TextTransitionsForm(Workbench& bench, QWidget* parent)
 
 void TextTransitionsForm::AddItemsPage()
 {
-    PageBuilder page =
-        AddPage({m_heading, u"Enter what is shown, in its order.  Each item can lead "
-                            u"to a Web page."});
-    page.HiddenText("TransitionsImageMode");
+    PageBuilder page = AddPage({m_heading,
+                                u"Enter what is shown, in its order.  Each item can lead "
+                                u"to a Web page.",
+                                m_bench.Core.TransitionsImageMode ? "lstPictures" : "lstMessages"});
+    page.ChoiceBox("TransitionsImageMode", u"&What changes:", modes);
     AddMessageList(page, EffectKind::TextTransitions, MessageText::Lines, m_bench)
         ->setObjectName(QStringLiteral("panMessages"));
     auto* pictures = new PictureListPanel(EffectKind::TextTransitions, PictureWords::Own, m_bench);

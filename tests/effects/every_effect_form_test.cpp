@@ -209,7 +209,11 @@ TYPED_TEST(EveryEffectTest, ADraftWithAnyTextsInItsFieldsLeavesAWindowThatWorks)
         }
         for (int page = 0; page < 6 && window.isVisible(); ++page)
             window.Next();
-        EXPECT_NE(window.isVisible(), window.TakePayload().has_value());
+        const auto payload = window.TakePayload();
+        EXPECT_NE(window.isVisible(), payload.has_value());
+        const Deliverable inPreview = window.WouldDeliver();
+        const auto* shown = std::get_if<EffectPayload>(&inPreview);
+        EXPECT_TRUE(payload ? shown != nullptr && *shown == *payload : shown == nullptr);
     }
 }
 

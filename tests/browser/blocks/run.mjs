@@ -6,8 +6,9 @@
 import { readFileSync } from "node:fs";
 import { launch, names } from "../page_script/browsers.mjs";
 import { serve } from "../page_script/server.mjs";
+import { classics } from "./classics.mjs";
 import { kinds, scrollbars, together } from "./kinds.mjs";
-import { cost, pageOf, scenarios, seesScrollbars } from "./scenarios.mjs";
+import { beside, cost, pageOf, scenarios, seesScrollbars } from "./scenarios.mjs";
 
 const place = process.argv[2];
 const costs = process.argv.includes("cost");
@@ -65,6 +66,7 @@ const runs = costs
     : [
           ...kinds.flatMap((row) => scenarios.map((scenario) => [row, scenario])),
           ...scenarios.filter(({ alone }) => !alone).map((one) => [together, one]),
+          ...classics().map((classic) => [together, beside(classic)]),
           [bars, barsSeen],
       ];
 
