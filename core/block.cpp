@@ -2,6 +2,7 @@
 
 #include "core/block_html.h"
 #include "core/block_scripts.h"
+#include "core/file_names.h"
 #include "core/percents.h"
 
 #include <algorithm>
@@ -15,12 +16,6 @@ bool IsBlank(char16_t c)
     return c == u' ' || (c >= u'\t' && c <= u'\r');
 }
 
-Text ScriptOf(const Block& block)
-{
-    return Join({u"<script", AttributeInHtml(u"data-orvane-run", block.Kind), u">",
-                 BlockScript(Left(block.Kind, FindLast(block.Kind, u"-") - 1)), u"</script>"});
-}
-
 /// The name of the file beside the page that an address leads to; empty for any other place.
 Text FileBesidePage(TextView address)
 {
@@ -28,6 +23,12 @@ Text FileBesidePage(TextView address)
     const bool isOther = path.find_first_of(u":?") != TextView::npos || path.starts_with(u'/') ||
                          path.starts_with(u'\\');
     return isOther ? Text() : WithoutPercents(path);
+}
+
+template <class... Shapes>
+bool IsAny(const BlockContent& content)
+{
+    return (std::holds_alternative<Shapes>(content) || ...);
 }
 
 } // namespace
@@ -43,7 +44,7 @@ Text OpenTagOf(const Block& block, TextView element)
 Text WriteBlock(const Block& block)
 {
     const auto* words = std::get_if<Text>(&block.Content);
-    const bool isLink = std::holds_alternative<BlockRow>(block.Content);
+    const bool isLink = IsAny<BlockRow, BlockButton, std::monostate>(block.Content);
     // A DIV inside a paragraph would end it.
     const bool isInLine = isLink || (words && words->find_first_of(lineEnd) == Text::npos);
     const TextView element = isInLine ? u"span" : u"div";
@@ -54,23 +55,51 @@ Text WriteBlock(const Block& block)
                  ScriptOf(block), between, u"</", element, u">", lineEnd});
 }
 
-RequiredFiles FilesOf(const BlockContent& content)
+Text ScriptOf(const Block& block)
+{
+    return Join({u"<script", AttributeInHtml(u"data-orvane-run", block.Kind), u">",
+                 BlockScript(Left(block.Kind, FindLast(block.Kind, u"-") - 1)), u"</script>"});
+}
+
+BlockPictures PicturesOf(const BlockContent& content)
 {
     BlockPictures pictures;
+    const auto add = [&](const BlockPictures& more) {
+        pictures.insert(pictures.end(), more.begin(), more.end());
+    };
     if (const auto* listed = std::get_if<BlockPictures>(&content))
-        pictures = *listed;
-    else if (const auto* figure = std::get_if<BlockFigure>(&content))
-        pictures = {figure->Picture};
+        add(*listed);
+    if (const auto* figure = std::get_if<BlockFigure>(&content))
+        add({figure->Picture});
+    if (const auto* rows = std::get_if<RolloverRows>(&content))
+        for (const RolloverRow& row : *rows)
+            add({row.Trigger, row.Picture});
+    if (const auto* button = std::get_if<BlockButton>(&content))
+        for (const BlockPictures* state : {&button->AtRest, &button->Over, &button->Pressed})
+            add(*state);
+    return pictures;
+}
+
+RequiredFiles FilesOf(const BlockContent& content, const std::vector<BlockSound>& sounds)
+{
     RequiredFiles files;
     std::size_t slot = 0;
-    for (const BlockPicture& picture : pictures) {
-        const Text name = FileBesidePage(picture.Address);
+    const auto add = [&](TextView address, const Text& source) {
+        const Text name = FileBesidePage(address);
         if (slot == files.RequiredFileNames.size() || name.empty() ||
             std::ranges::find(files.RequiredFileNames, name) != files.RequiredFileNames.end())
-            continue;
+            return;
         files.RequiredFileNames[slot] = name;
-        files.RequiredFileSources[slot++] = picture.Source;
-    }
+        if (GetFileName(source) == GetFileName(name))
+            files.RequiredFileSources[slot] = source;
+        ++slot;
+    };
+    for (const BlockPicture& picture : PicturesOf(content))
+        add(picture.Address, picture.Source);
+    if (const auto* sound = std::get_if<BlockSound>(&content))
+        add(sound->Address, sound->Source);
+    for (const BlockSound& sound : sounds)
+        add(sound.Address, sound.Source);
     return files;
 }
 

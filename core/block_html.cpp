@@ -38,13 +38,19 @@ Text LinesInHtml(TextView words)
     return html;
 }
 
-Text Linked(TextView inside, TextView link)
+/// The open tag of a link; nothing without an address.
+Text OpenLink(TextView link)
 {
-    return link.empty() ? Text(inside)
-                        : Join({u"<a", AttributeInHtml(u"href", link), u">", inside, u"</a>"});
+    return link.empty() ? Text() : Join({u"<a", AttributeInHtml(u"href", link), u">"});
 }
 
-Text PictureInHtml(const BlockPicture& picture, bool isSeen)
+Text Linked(TextView inside, TextView link)
+{
+    return link.empty() ? Text(inside) : Join({OpenLink(link), inside, u"</a>"});
+}
+
+/// `attributes` come behind those that every picture has.
+Text PictureInHtml(const BlockPicture& picture, bool isSeen, TextView attributes = {})
 {
     Text html = Join({u"<img", AttributeInHtml(u"src", picture.Address),
                       AttributeInHtml(u"alt", picture.Description)});
@@ -52,7 +58,7 @@ Text PictureInHtml(const BlockPicture& picture, bool isSeen)
         html += AttributeInHtml(u"width", NumberToText(picture.Width));
     if (picture.Height > 0)
         html += AttributeInHtml(u"height", NumberToText(picture.Height));
-    return Join({html, isSeen ? u">" : u" loading=\"lazy\">"});
+    return Join({html, attributes, isSeen ? u">" : u" loading=\"lazy\">"});
 }
 
 /// What one item of a list holds.
@@ -85,10 +91,17 @@ struct ContentWriter
 
     Text operator()(const BlockParagraphs& paragraphs) const
     {
+        return (*this)(LinkedParagraphs{paragraphs.Words, {}});
+    }
+
+    Text operator()(const LinkedParagraphs& paragraphs) const
+    {
         if (paragraphs.Words.empty())
             return {};
-        return Join(
-            {u"<p>", ReplaceAll(LinesInHtml(paragraphs.Words), u"<br><br>", u"</p><p>"), u"</p>"});
+        const Text begin = Join({u"<p>", OpenLink(paragraphs.Link)});
+        const Text end = paragraphs.Link.empty() ? u"</p>" : u"</a></p>";
+        const Text between = end + begin;
+        return Join({begin, ReplaceAll(LinesInHtml(paragraphs.Words), u"<br><br>", between), end});
     }
 
     Text operator()(const BlockRow& row) const { return Linked(LinesInHtml(row.Words), row.Link); }
@@ -128,6 +141,20 @@ struct ContentWriter
         return InList(items);
     }
 
+    Text operator()(const RolloverRows& rows) const
+    {
+        Text items;
+        for (const RolloverRow& row : rows) {
+            BlockPicture trigger = row.Trigger;
+            trigger.Description = row.Words;
+            const Text words =
+                trigger.Address.empty() ? LinesInHtml(row.Words) : PictureInHtml(trigger, true);
+            items += ItemInHtml({.Inside = Join({Linked(words, row.Picture.Link), u" ",
+                                                 PictureInHtml(row.Picture, true)})});
+        }
+        return InList(items);
+    }
+
     Text operator()(const BlockPictures& pictures) const
     {
         Text items;
@@ -149,6 +176,30 @@ struct ContentWriter
         return Join({u"<figure>", PictureInHtml(figure.Picture, true), u"<figcaption>", words,
                      u"</figcaption></figure>"});
     }
+
+    Text operator()(const BlockButton& button) const
+    {
+        Text html;
+        const auto add = [&](const BlockPictures& pictures, TextView attributes) {
+            for (const BlockPicture& picture : pictures)
+                html += html.empty() ? Linked(PictureInHtml(picture, true), picture.Link)
+                                     : PictureInHtml(picture, false, attributes);
+        };
+        add(button.AtRest, u" hidden");
+        add(button.Over, u" hidden data-state=\"over\"");
+        add(button.Pressed, u" hidden data-state=\"pressed\"");
+        return html;
+    }
+
+    Text operator()(const BlockSound& sound) const
+    {
+        // A player without a sound would be seen, but is of no use.
+        const Text attributes =
+            sound.Address.empty() ? Text() : AttributeInHtml(u"src", sound.Address) + u" controls";
+        return Join({u"<audio", attributes, u" preload=\"none\"></audio>"});
+    }
+
+    Text operator()(BlockDay) const { return u"<time hidden></time>"; }
 };
 
 } // namespace

@@ -37,6 +37,7 @@ struct FieldName
     ControlName Name;
     bool IsSecret = false;              ///< its value is never kept in a draft
     bool IsContent = false;             ///< stands in a block's content, not in an attribute
+    bool IsSource = false;              ///< full path of a file, which stands in no page
     bool IsColor = false;               ///< what CSS takes; empty or "-": as on the page
     std::optional<NumberBounds> Bounds; ///< of a number, also of one that is kept as typed
     CalmBound Calm = CalmBound::None;
@@ -69,6 +70,14 @@ constexpr FieldName ContentField(const char* name)
 {
     FieldName field(name);
     field.IsContent = true;
+    return field;
+}
+
+/// The name of the full path of a file that a block names beside its page.
+constexpr FieldName SourceField(const char* name)
+{
+    FieldName field = ContentField(name);
+    field.IsSource = true;
     return field;
 }
 

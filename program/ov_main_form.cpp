@@ -13,15 +13,12 @@
 
 namespace orvane {
 
-OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& hasWizard)
-    : m_bench(bench)
+OVMainForm::OVMainForm(Workbench& bench) : m_bench(bench)
 {
     setObjectName(QStringLiteral("OVMain"));
     setWindowTitle(QStringLiteral("Orvane"));
     AddMenus();
-    for (const EffectCommand& command : EffectCommands())
-        findChild<QAction*>(ToQt(command.Name))->setEnabled(hasWizard(command.Kind));
-    auto* catalogue = new CataloguePanel(hasWizard, bench.Settings);
+    auto* catalogue = new CataloguePanel(bench.Settings);
     connect(catalogue, &CataloguePanel::EffectWanted, this,
             [this](EffectKind kind) { OpenBy(*FindCommand(RowOf(kind).MenuCommand)); });
     setCentralWidget(catalogue);

@@ -64,6 +64,7 @@ struct ItemRead
     Text Author;
     Text Link;
     Text Color;
+    BlockPictures Pictures;
 };
 
 /// Collects what stands inside a block's root, in each of the shapes that content can have.
@@ -105,6 +106,8 @@ public:
                 m_figure.Words.emplace_back();
         } else if (name == u"img") {
             TakePicture(AttributesOf(tag));
+        } else if (name == u"audio") {
+            m_sound = ValueOf(AttributesOf(tag), u"src");
         }
     }
 
@@ -118,6 +121,7 @@ private:
     std::monostate In(std::monostate) const { return {}; }
     Text In(const Text&) const { return m_words; }
     BlockParagraphs In(const BlockParagraphs&) const { return {m_paragraphs}; }
+    LinkedParagraphs In(const LinkedParagraphs&) const { return {m_paragraphs, m_firstLink}; }
     BlockRow In(const BlockRow&) const { return {m_words, m_firstLink}; }
     BlockPictures In(const BlockPictures&) const { return m_pictures; }
     BlockRows In(const BlockRows&) const
@@ -136,12 +140,38 @@ private:
             return QuoteRow{item.Quote, item.Author, item.Link};
         });
     }
+    RolloverRows In(const RolloverRows&) const { return Items<RolloverRow>(&RolloverOf); }
+    BlockSound In(const BlockSound&) const { return {m_sound, {}}; }
+    BlockDay In(BlockDay) const { return {}; }
+    BlockButton In(const BlockButton&) const
+    {
+        BlockButton button = m_button;
+        if (!button.AtRest.empty())
+            button.AtRest.front().Link = m_firstLink;
+        return button;
+    }
     BlockFigure In(const BlockFigure&) const
     {
         BlockFigure figure = m_figure;
         if (!m_pictures.empty())
             figure.Picture = m_pictures.front();
         return figure;
+    }
+
+    /// The last picture of an item is the one that is shown; one before it is the trigger.
+    static RolloverRow RolloverOf(const ItemRead& item)
+    {
+        RolloverRow row{.Words = item.Words};
+        if (item.Pictures.empty())
+            return row;
+        row.Picture = item.Pictures.back();
+        row.Picture.Link = item.Link;
+        if (item.Pictures.size() == 1)
+            return row;
+        row.Trigger = item.Pictures.front();
+        if (TidyLines(row.Words).empty())
+            row.Words = row.Trigger.Description;
+        return row;
     }
 
     template <class Row, class Make>
@@ -181,6 +211,13 @@ private:
                              .Link = m_link};
         SetPixels(picture.Width, ValueOf(attributes, u"width"));
         SetPixels(picture.Height, ValueOf(attributes, u"height"));
+        if (m_isInItem)
+            m_items.back().Pictures.push_back(picture);
+        const Text state = ValueOf(attributes, u"data-state");
+        (state == u"over"      ? m_button.Over
+         : state == u"pressed" ? m_button.Pressed
+                               : m_button.AtRest)
+            .push_back(picture);
         m_pictures.push_back(std::move(picture));
     }
 
@@ -197,7 +234,9 @@ private:
     std::vector<ItemRead> m_items;
     BlockPictures m_pictures;
     BlockFigure m_figure; ///< its words alone
-    Text m_link;          ///< of the link that is open
+    BlockButton m_button;
+    Text m_sound;
+    Text m_link; ///< of the link that is open
     Text m_firstLink;
     bool m_isInItem = false;
     bool m_isInAuthor = false;

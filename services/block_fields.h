@@ -26,6 +26,7 @@ namespace orvane {
 //   Seen               the pictures that are seen without the script; without it, all
 //   ColorPairs         the colours of texts with those of their grounds; without it, none
 //   Tidy(effect), Generate(effect)   as below
+//   SoundsOf(effect)   its sounds that are no content; without it, none
 //   ContentOf(effect)  its content; without it, the field that is a ContentField
 //   TakeContent(effect, content)   sets the fields of the content; without it, that field
 //   BlockKindOf(effect), Faces()     its kind of block, where its fields tell that, and a fresh
@@ -206,6 +207,13 @@ Effect EffectOf(Block block, Effect effect = {})
     return effect;
 }
 
+/// The sounds of a block effect that are no content, unless it has a function of its own.
+template <BlockEffect Effect>
+std::vector<BlockSound> SoundsOf(const Effect&)
+{
+    return {};
+}
+
 /// What a block effect puts into the BODY, with the files that it names, unless it has a function
 /// of its own. Expects one without a complaint that was tidied.
 template <BlockEffect Effect>
@@ -215,7 +223,7 @@ EffectPayload Generate(const Effect& effect)
     return {
         .Kind = Effect::Kinds.front(),
         .BODYHTML = WriteBlock(block),
-        .Required = FilesOf(block.Content),
+        .Required = FilesOf(block.Content, SoundsOf(effect)),
         .IsBlock = true,
     };
 }

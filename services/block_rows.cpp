@@ -1,5 +1,6 @@
 #include "services/block_rows.h"
 
+#include "services/block_pictures.h"
 #include "services/web_address.h"
 
 #include <algorithm>
@@ -68,6 +69,15 @@ std::optional<Complaint> Check(const QuoteRow& row)
     return CheckWords(row.Words, u"Please enter the text of the quote.");
 }
 
+std::optional<Complaint> Check(const RolloverRow& row)
+{
+    if (auto complaint = CheckWords(row.Words, u"Please enter the words that stand on the page."))
+        return complaint;
+    if (OneLine(row.Picture.Address).empty())
+        return Complaint{u"Please choose the picture that is shown.", "txtPicture"};
+    return std::nullopt;
+}
+
 void Tidy(BlockRow& row)
 {
     row = {TidyLines(row.Words), MendedLink(row.Link)};
@@ -83,6 +93,17 @@ void Tidy(ColoredRow& row)
 void Tidy(QuoteRow& row)
 {
     row = {TidyLines(row.Words), TidyLine(row.Author), MendedLink(row.Link)};
+}
+
+void Tidy(RolloverRow& row)
+{
+    row.Words = TidyLine(row.Words);
+    Tidy(row.Picture);
+    Tidy(row.Trigger);
+    row.Trigger.Description.clear();
+    row.Trigger.Link.clear();
+    if (row.Trigger.Address.empty())
+        row.Trigger = {};
 }
 
 std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control)

@@ -25,11 +25,15 @@ std::optional<Complaint> Check(const BlockRow& row);
 std::optional<Complaint> Check(const ColoredRow& row);
 std::optional<Complaint> Check(const QuoteRow& row);
 
+/// The complaint about a trigger without words or without a picture that it shows, or nothing.
+std::optional<Complaint> Check(const RolloverRow& row);
+
 /// Mends a row as a wizard does: its words in order, its link with what it begins with, no colour
 /// in place of what is none.
 void Tidy(BlockRow& row);
 void Tidy(ColoredRow& row);
 void Tidy(QuoteRow& row);
+void Tidy(RolloverRow& row);
 
 /// The complaint about a list in which no row has words, or nothing.
 std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control);

@@ -117,8 +117,18 @@ std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlNam
     return std::nullopt;
 }
 
+std::optional<Complaint> CheckColor(TextView color, TextView what, ControlName control)
+{
+    const Text given = OneLine(color);
+    if (!given.empty() && given != noColor)
+        return std::nullopt;
+    return Complaint{Join({u"Please choose a color for ", what, u"."}), control};
+}
+
 void MendField(const FieldName& field, Text& value, const Text& fresh)
 {
+    if (field.IsSource)
+        return;
     if (field.IsContent) {
         value = TidyLines(value);
         return;
@@ -168,6 +178,13 @@ void MendField(const FieldName&, BlockPictures& pictures, const Text&)
     for (BlockPicture& picture : pictures)
         Tidy(picture);
     std::erase_if(pictures, [](const BlockPicture& picture) { return picture.Address.empty(); });
+}
+
+void MendField(const FieldName&, RolloverRows& rows, const Text&)
+{
+    for (RolloverRow& row : rows)
+        Tidy(row);
+    std::erase_if(rows, [](const RolloverRow& row) { return Check(row).has_value(); });
 }
 
 Text AttributeText(const std::vector<Text>& value)

@@ -43,6 +43,10 @@ struct PictureCount
 std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlName control,
                                        const PictureCount& count = {});
 
+/// The complaint about a colour that is as on the page where that is not possible, or nothing;
+/// `what` is what has the colour.
+std::optional<Complaint> CheckColor(TextView color, TextView what, ControlName control);
+
 /// Mends the value of a field as a wizard does when it ends: texts are put in order, numbers, words
 /// and colours that it cannot hold give way to `fresh`, its value in a fresh window, links that
 /// begin with "www." get "http://" in front, rows and pictures that show nothing go.
@@ -51,6 +55,7 @@ void MendField(const FieldName& field, int& value, const Text& fresh);
 void MendField(const FieldName& field, std::vector<Text>& colors, const Text& fresh);
 void MendField(const FieldName& field, BlockParagraphs& paragraphs, const Text& fresh);
 void MendField(const FieldName& field, BlockPictures& pictures, const Text& fresh);
+void MendField(const FieldName& field, RolloverRows& rows, const Text& fresh);
 inline void MendField(const FieldName&, bool&, const Text&) {}
 inline void MendField(const FieldName&, BlockAttributes&, const Text&) {}
 template <class Choice>
@@ -88,7 +93,8 @@ concept AttributeValue = std::same_as<Value, Text> || std::same_as<Value, bool> 
 template <class Value>
 concept ContentValue = std::same_as<Value, Text> || std::same_as<Value, BlockParagraphs> ||
     std::same_as<Value, BlockRows> || std::same_as<Value, ColoredRows> ||
-    std::same_as<Value, QuoteRows> || std::same_as<Value, BlockPictures>;
+    std::same_as<Value, QuoteRows> || std::same_as<Value, RolloverRows> ||
+    std::same_as<Value, BlockPictures>;
 
 /// What the attribute of a field holds.
 Text AttributeText(const std::vector<Text>& value);

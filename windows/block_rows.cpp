@@ -1,8 +1,10 @@
 #include "windows/block_rows.h"
 
 #include "core/block.h"
+#include "core/pick_lists.h"
 #include "services/block_fields.h"
 #include "services/file_requests.h"
+#include "services/picture_look.h"
 #include "windows/row_form.h"
 
 #include <array>
@@ -57,6 +59,19 @@ constexpr ChoiceItem targets[] = {{u"", u"The same window"},
                                   {u"_blank", u"A new window"},
                                   {u"_parent", u"The frame around"},
                                   {u"_top", u"The whole window"}};
+
+constexpr auto changes = [] {
+    std::array<ChoiceItem, pictureChanges.size()> items;
+    items[0] = {pictureChanges[0], u"At once"};
+    items[1] = {pictureChanges[1], u"Fade"};
+    for (std::size_t i = 0; i < RevealTransitions.size(); ++i)
+        items[i + 2] = {pictureChanges[i + 2], RevealTransitions[i]};
+    return items;
+}();
+
+constexpr ChoiceItem fits[] = {{u"contain", u"Show all of each picture"},
+                               {u"cover", u"Fill the size, cut what is over"},
+                               {u"fill", u"Stretch to the size"}};
 
 void AddLineFields(PageBuilder& page)
 {
@@ -129,6 +144,23 @@ void AddTimes(PageBuilder& page)
 {
     page.Narrow(page.OpenChoiceBox("cboTimes", u"&How often:", times,
                                    u"How many times all of it is shown"));
+}
+
+void AddChange(PageBuilder& page, ControlName name, TextView label, TextView tip)
+{
+    page.ChoiceBox(name, label, changes, tip);
+}
+
+void AddTransition(PageBuilder& page, ControlName name, TextView label)
+{
+    page.ChoiceBox(name, label, std::span(changes).subspan(2));
+}
+
+void AddPictureSize(PageBuilder& page)
+{
+    page.NumberBox("txtWidth", u"&Width:", u"0 is as wide as the pictures", u"pixels");
+    page.NumberBox("txtHeight", u"&Height:", u"0 is as high as the pictures", u"pixels");
+    page.ChoiceBox("cboFit", u"In this &size:", fits);
 }
 
 void AddTarget(PageBuilder& page)

@@ -51,6 +51,15 @@ void AddDirection(PageBuilder& page, TextView label = u"&Direction:");
 /// How often an effect runs, as `cboTimes`: for ever, or up to ten times.
 void AddTimes(PageBuilder& page);
 
+/// How one picture gives way to the next: at once, by fading, or by one of the 24 transitions.
+void AddChange(PageBuilder& page, ControlName name, TextView label, TextView tip = {});
+
+/// Which of the 24 transitions shows the next one.
+void AddTransition(PageBuilder& page, ControlName name, TextView label);
+
+/// Width, height and fit of the pictures, as services/picture_look.h names them.
+void AddPictureSize(PageBuilder& page);
+
 /// Where links open, as `cboTarget`: in the same window, in one of the other usual places, or in
 /// the frame that the author types.
 void AddTarget(PageBuilder& page);

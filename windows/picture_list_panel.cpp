@@ -30,9 +30,9 @@ constexpr RowListWords words{
     .CannotMoveDown = u"Select a picture in the list.  You cannot move the last picture downward.",
 };
 
-RowListLook LookOf(PictureWords pictureWords)
+RowListLook LookOf(ControlName list, PictureWords pictureWords)
 {
-    RowListLook look{.Columns = {{"lstPictures", u"Pict&ures:", &WithoutPercents}},
+    RowListLook look{.Columns = {{list, u"Pict&ures:", &WithoutPercents}},
                      .Words = words,
                      .Buttons = {{RowCommand::Add, "cmdAddPictures", u"&Add pictures...",
                                   u"Adds one or more pictures; you can drop files and folders on "
@@ -61,10 +61,10 @@ void AddPictureFields(PageBuilder& page)
 } // namespace
 
 PictureListPanel::PictureListPanel(EffectKind kind, PictureWords pictureWords, Workbench& bench,
-                                   QWidget* parent)
+                                   ControlName list, QWidget* parent)
     : QWidget(parent),
       m_bench(bench),
-      m_list(new RowListPanel(LookOf(pictureWords), bench.Dialogs)),
+      m_list(new RowListPanel(LookOf(list, pictureWords), bench.Dialogs)),
       m_preview(new PictureBox(previewRoom))
 {
     auto* all = new QHBoxLayout(this);

@@ -60,13 +60,8 @@ void ReadTag(AnimationWizard& animation, const PastedTag& pasted)
     const PastedTag tag = WithoutQuotes(pasted);
     const auto value = [&](TextView name) { return TagValue(tag, Join({name, u" VALUE="})); };
     animation = {};
-    constexpr int mostImages = 31; // that the applet takes
-    for (int i = 0; i < mostImages; ++i) {
-        const Text image = value(Join({u"IMAGE.", NumberToText(i)}));
-        if (image.empty())
-            break;
+    for (const Text& image : TagImages(tag))
         animation.lstPictures.push_back(PictureNamed(image));
-    }
     animation.cboTarget = value(u"TARGET.0");
     if (const Text link = value(u"URL.0"); link != u"null")
         animation.txtLink = link;

@@ -1,6 +1,5 @@
 #include "effects/page/animation_wizard_form.h"
 
-#include "core/pick_lists.h"
 #include "windows/block_rows.h"
 #include "windows/picture_list_panel.h"
 
@@ -13,15 +12,6 @@ constexpr ChoiceItem orders[] = {{u"forward", u"One after the other"},
                                  {u"random", u"In random order"}};
 constexpr ChoiceItem starts[] = {{u"seen", u"When it is seen"},
                                  {u"click", u"When the visitor clicks"}};
-
-constexpr auto changes = [] {
-    std::array<ChoiceItem, AnimationWizard::Changes.size()> items;
-    items[0] = {u"cut", u"At once"};
-    items[1] = {u"fade", u"Fade"};
-    for (std::size_t i = 0; i < RevealTransitions.size(); ++i)
-        items[i + 2] = {AnimationWizard::Changes[i + 2], RevealTransitions[i]};
-    return items;
-}();
 
 } // namespace
 
@@ -43,7 +33,7 @@ AnimationWizardForm::AnimationWizardForm(Workbench& bench, QWidget* parent)
                        u"milliseconds");
     AddTimes(movement);
     movement.ChoiceBox("cboOrder", u"O&rder:", orders);
-    movement.ChoiceBox("cboChange", u"Chan&ge:", changes, u"How a picture gives way to the next");
+    AddChange(movement, "cboChange", u"Chan&ge:", u"How a picture gives way to the next");
     movement.ChoiceBox("cboStart", u"&Starts:", starts);
     movement.NumberBox("txtWidth", u"W&idth:", u"0 is as wide as the pictures", u"pixels");
     AddLink(movement, u"The address that a click on the animation leads to; empty for no link");

@@ -41,7 +41,7 @@ template <ConstOr<ThoughtBubbles> Bubbles, class Field>
 void ForEachField(Bubbles& bubbles, Field&& field)
 {
     field(ContentField("txtPicture"), bubbles.Picture.Address);
-    field(ContentField("PictureSource"), bubbles.Picture.Source);
+    field(SourceField("PictureSource"), bubbles.Picture.Source);
     field(ContentField("PictureWidth"), bubbles.Picture.Width);
     field(ContentField("PictureHeight"), bubbles.Picture.Height);
     field(ContentField("txtDescription"), bubbles.Picture.Description);

@@ -1,11 +1,10 @@
 #include "effects/page/thought_bubbles_form.h"
 
 #include "core/numbers.h"
-#include "services/block_pictures.h"
-#include "services/file_requests.h"
+#include "services/block_values.h"
 #include "windows/block_rows.h"
+#include "windows/file_rows.h"
 #include "windows/multi_line_box.h"
-#include "windows/picture.h"
 #include "windows/place_picture.h"
 #include "windows/qt_text.h"
 
@@ -50,13 +49,11 @@ void ThoughtBubblesForm::AddPicturePage()
                                 u"Choose a picture of people or pets, and describe it for "
                                 u"those who cannot see it.",
                                 "cmdBrowseForImage"});
-    page.LockedBrowseRow("txtPicture", u"P&icture:", u"The picture on which somebody thinks",
-                         {.Button = "cmdBrowseForImage",
-                          .Caption = u"&Browse for image...",
-                          .Request = BrowseRequest(imageFiles, FolderPurpose::Images),
-                          .Instead = [this](const Text& path) { TakePicture(path); }});
-    for (const ControlName hidden : {"PictureSource", "PictureWidth", "PictureHeight"})
-        page.HiddenText(hidden);
+    AddPicture(page, {"txtPicture", "PictureSource", "PictureWidth", "PictureHeight"},
+               {.Label = u"P&icture:",
+                .Tip = u"The picture on which somebody thinks",
+                .Button = "cmdBrowseForImage",
+                .Caption = u"&Browse for image..."});
     page.TextBox("txtDescription", u"D&escription:",
                  u"What the picture shows, such as \"our dog\"");
     page.Fill();
@@ -97,18 +94,6 @@ void ThoughtBubblesForm::AddLookPage()
     AddTextLook(page);
     AddPageColor(page, "cmdPaperColor", u"&Background color:");
     page.Fill();
-}
-
-void ThoughtBubblesForm::TakePicture(const Text& path)
-{
-    const PickedImage image = Measured(path);
-    if (!image.Size)
-        return m_bench.Dialogs.Say(Join({u"Orvane can't read this image:\r\n", GetFileName(path)}));
-    ThoughtBubbles bubbles = Parameters();
-    const Text description = bubbles.Picture.Description;
-    bubbles.Picture = PictureOf(image);
-    bubbles.Picture.Description = description;
-    SetParameters(bubbles);
 }
 
 void ThoughtBubblesForm::TakePlace(QPoint place)

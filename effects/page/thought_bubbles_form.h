@@ -22,7 +22,6 @@ private:
     void AddPicturePage();
     void AddWordsPage();
     void AddLookPage();
-    void TakePicture(const Text& path);
     void TakePlace(QPoint place);
 
     PlacePicture* m_places;

@@ -1,13 +1,16 @@
 #include "effects/text/random_quote_form.h"
 
 #include "windows/block_rows.h"
+#include "windows/picture_list_panel.h"
 #include "windows/row_form.h"
 
 namespace orvane {
 
 namespace {
 
+constexpr ControlName name = "frmRandom";
 constexpr TextView heading = u"Random Quote";
+constexpr TextView imageHeading = u"Random Image";
 
 constexpr ChoiceItem rules[] = {{u"visit", u"At each visit, each once before one comes again"},
                                 {u"day", u"Every day"},
@@ -30,7 +33,7 @@ constexpr RowLook quoteWindow{.Name = "frmQuote",
 } // namespace
 
 RandomQuoteForm::RandomQuoteForm(Workbench& bench, QWidget* parent)
-    : EffectForm("frmRandom", bench, parent)
+    : EffectForm(name, bench, parent)
 {
     PageBuilder quotes = AddPage({heading, u"Enter the quotes or other texts, of which your Web "
                                            u"page shows one at a time."});
@@ -56,6 +59,29 @@ RandomQuoteForm::RandomQuoteForm(Workbench& bench, QWidget* parent)
 
     AddButtons(Buttons::Paged);
     resize(size().expandedTo(FromTwips(8010, 6210)));
+}
+
+RandomImageForm::RandomImageForm(Workbench& bench, QWidget* parent)
+    : EffectForm(name, bench, parent)
+{
+    PageBuilder pictures = AddPage(
+        {imageHeading,
+         u"Add the pictures, of which your Web page shows one at a time.  Edit a picture to "
+         u"give it a description and the Web page that it leads to.",
+         "cmdAddPictures"});
+    pictures.Fill(new PictureListPanel(EffectKind::RandomImage, PictureWords::Own, bench));
+
+    PageBuilder rule = AddPage({imageHeading, u"Choose when another picture comes.  What a visitor "
+                                              u"has seen is kept in the visitor's own browser; "
+                                              u"nothing is sent anywhere."});
+    rule.ChoiceBox("cboRule", u"&Another picture comes:", std::span(rules).first(3));
+    AddPictureSize(rule);
+    rule.NumberBox("txtBorder", u"&Border:", {}, u"pixels");
+    AddPageColor(rule, "cmdBorderColor", u"Border co&lor:");
+    AddTarget(rule);
+    rule.Fill();
+
+    AddButtons(Buttons::Paged);
 }
 
 } // namespace orvane

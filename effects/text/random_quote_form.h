@@ -1,5 +1,6 @@
 #pragma once
 
+#include "effects/page/random_image.h"
 #include "effects/text/random_quote.h"
 #include "windows/effect_form.h"
 
@@ -10,6 +11,13 @@ class RandomQuoteForm : public EffectForm<RandomQuote>
 {
 public:
     explicit RandomQuoteForm(Workbench& bench, QWidget* parent = nullptr);
+};
+
+/// The window of Random Image, which is the same one with other fields.
+class RandomImageForm : public EffectForm<RandomImage>
+{
+public:
+    explicit RandomImageForm(Workbench& bench, QWidget* parent = nullptr);
 };
 
 } // namespace orvane

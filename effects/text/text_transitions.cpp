@@ -60,15 +60,12 @@ std::optional<Complaint> CheckPage(const TextTransitions& transitions, int page)
 void Tidy(TextTransitions& transitions)
 {
     TidyBlock(transitions);
-    const TextTransitions fresh;
     if (AreOfImages(transitions)) {
         transitions.lstMessages.clear();
-        transitions.Look = fresh.Look;
+        transitions.Look = {};
     } else {
         transitions.lstPictures.clear();
-        transitions.txtWidth = fresh.txtWidth;
-        transitions.txtHeight = fresh.txtHeight;
-        transitions.cboFit = fresh.cboFit;
+        transitions.Size = {};
     }
 }
 

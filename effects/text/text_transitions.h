@@ -3,6 +3,7 @@
 #include "core/complaint.h"
 #include "core/look.h"
 #include "services/block_fields.h"
+#include "services/picture_look.h"
 #include "services/text_look.h"
 
 #include <array>
@@ -27,23 +28,16 @@ struct TextTransitions
     static constexpr std::array<ControlName, 3> PageStarts = {"TransitionsImageMode",
                                                               "cboTransition", "cboFont"};
     static constexpr int Pages = PageStarts.size();
-    /// The numbers of RevealTransitions.
-    static constexpr std::array<TextView, 24> Transitions = {
-        u"0",  u"1",  u"2",  u"3",  u"4",  u"5",  u"6",  u"7",  u"8",  u"9",  u"10", u"11",
-        u"12", u"13", u"14", u"15", u"16", u"17", u"18", u"19", u"20", u"21", u"22", u"23"};
-    static constexpr std::array<TextView, 3> Fits = {u"contain", u"cover", u"fill"};
 
     TransitionsOf TransitionsImageMode = TransitionsOf::Texts;
     BlockRows lstMessages;      ///< of texts alone
     BlockPictures lstPictures;  ///< of images alone
-    Text cboTransition = u"23"; ///< one of Transitions
+    Text cboTransition = u"23"; ///< one of pictureTransitions
     Text txtSeconds = u"4";     ///< from change to change, as typed
     Text txtDuration = u"1";    ///< seconds of a change, as typed
     Text cboTimes = u"0";       ///< rounds; 0 is for ever
     TextLook Look;              ///< of texts alone
-    Text txtWidth = u"0";       ///< of images alone, in pixels, as typed; 0 is as the pictures
-    Text txtHeight = u"0";      ///< of images alone, in pixels, as typed; 0 is as the pictures
-    Text cboFit = u"contain";   ///< of images alone: one of Fits
+    PictureSize Size;           ///< of images alone
     Text cboTarget;             ///< of all links
     BlockAttributes Others;
     bool operator==(const TextTransitions&) const = default;
@@ -59,14 +53,12 @@ void ForEachField(Transitions& transitions, Field&& field)
     field("TransitionsImageMode", transitions.TransitionsImageMode);
     field(ContentField("lstMessages"), transitions.lstMessages);
     field(ContentField("lstPictures"), transitions.lstPictures);
-    field(ChoiceField("cboTransition", TextTransitions::Transitions), transitions.cboTransition);
+    field(ChoiceField("cboTransition", pictureTransitions), transitions.cboTransition);
     field(CalmField("txtSeconds", 1, 60), transitions.txtSeconds);
     field(CalmField("txtDuration", 0.2, 5), transitions.txtDuration);
     field(NumberField("cboTimes", 0, 10), transitions.cboTimes);
     ForEachField(transitions.Look, field);
-    field(NumberField("txtWidth", 0, 4000), transitions.txtWidth);
-    field(NumberField("txtHeight", 0, 4000), transitions.txtHeight);
-    field(ChoiceField("cboFit", TextTransitions::Fits), transitions.cboFit);
+    ForEachField(transitions.Size, field);
     field("cboTarget", transitions.cboTarget);
     field(Secret("Others"), transitions.Others);
 }

@@ -3,11 +3,22 @@
 #include "core/effect.h"
 #include "core/numbers.h"
 #include "core/percents.h"
+#include "effects/page/animated_button.h"
 #include "effects/page/animation_wizard.h"
+#include "effects/page/background_fade.h"
+#include "effects/page/banner_wizard.h"
 #include "effects/page/color_scrollbars.h"
+#include "effects/page/day_calendar.h"
+#include "effects/page/earthquake.h"
 #include "effects/page/falling_images.h"
+#include "effects/page/image_rollover.h"
+#include "effects/page/image_scroller.h"
+#include "effects/page/page_transitions.h"
 #include "effects/page/personalize.h"
+#include "effects/page/random_image.h"
 #include "effects/page/scrolling_credits.h"
+#include "effects/page/sliding_message.h"
+#include "effects/page/sound_effect.h"
 #include "effects/page/thought_bubbles.h"
 #include "effects/text/fading_message.h"
 #include "effects/text/flashing_text.h"
@@ -86,7 +97,7 @@ public:
     void Fill(const FieldName& name, Text& value)
     {
         constexpr TextView colors[] = {u"", u"red", u"#aB3", u"rgb(1, 2, 3)"};
-        if (name.Name == "PictureSource")
+        if (name.IsSource)
             value.clear(); // which no page tells
         else if (name.Bounds)
             value = NumberToText(Number(static_cast<int>(name.Bounds->Least * 10),
@@ -143,6 +154,15 @@ public:
             pictures.push_back(
                 {Hostile(), u"", Hostile(), Hostile(), Number(0, 32767), Number(0, 9)});
     }
+    void Fill(const FieldName&, RolloverRows& rows)
+    {
+        for (int count = Number(1, 4); count > 0; --count) {
+            RolloverRow row{Hostile(), {Hostile(), u"", Hostile(), Hostile(), Number(0, 9), 8}};
+            if (Number(0, 1) == 0)
+                row.Trigger = {Hostile(), u"", u"", u"", Number(0, 9), 8};
+            rows.push_back(row);
+        }
+    }
     void Fill(const FieldName&, BlockAttributes& others)
     {
         others = {{u"class", Hostile(u"\n")}, {u"onclick", Hostile(u"\t")}, {u"data-x", u""}};
@@ -160,13 +180,16 @@ using BlockEffects =
     ::testing::Types<SmoothScroll, FadingMessage, FlyingText, FallingImages, AnimationWizard,
                      ColorScrollbars, SwirlyText, NavigatorTicker, TextTransitions, TextEffects,
                      FlashingText, ShakingText, TextButton, RandomQuote, ThoughtBubbles,
-                     ScrollingCredits, Personalize>;
+                     ScrollingCredits, Personalize, BannerWizard, ImageScroller, RandomImage,
+                     ImageRollover, AnimatedButton, BackgroundFade, Earthquake, SoundEffect,
+                     DayCalendar, SlidingMessage, PageTransitions>;
 TYPED_TEST_SUITE(BlockTest, BlockEffects);
 
 /// Effects whose fields depend on each other, so that some of them do not count.
 template <class Effect>
-concept HasIdleFields = std::same_as<Effect, AnimationWizard> ||
-    std::same_as<Effect, TextTransitions> || std::same_as<Effect, ScrollingCredits>;
+concept HasIdleFields =
+    std::same_as<Effect, AnimationWizard> || std::same_as<Effect, TextTransitions> ||
+    std::same_as<Effect, ScrollingCredits> || std::same_as<Effect, AnimatedButton>;
 
 Text ScriptElementOf(TextView kind)
 {
@@ -268,6 +291,17 @@ TEST(BlockReaderTest, ReadsWhatWasEditedByHand)
     ExpectRead<TextTransitions>(u"<div data-orvane=images-1><img src=a.gif></div>",
                                 u"TransitionsImageMode: 1\nlstPictures: a.gif\nlstPictures: \n"
                                 u"lstPictures: \nlstPictures: \nlstPictures: 0\nlstPictures: 0");
+    ExpectRead<ImageRollover>(
+        u"<div data-orvane=rollover-1><ul><li><a href=www.x.example>One\n<br>two</a><p><img "
+        u"src=a.gif alt=A><li><img src=b.gif alt=Three> <img src=c.gif width=9><li>Four</ul></div>",
+        u"lstTriggers: One two\nlstTriggers: a.gif\nlstTriggers: A\n"
+        u"lstTriggers: http://www.x.example\nlstTriggers: \nlstTriggers: \nlstTriggers: 0\n"
+        u"lstTriggers: 0\nlstTriggers: \nlstTriggers: 0\nlstTriggers: 0\nlstTriggers: Three\n"
+        u"lstTriggers: c.gif\nlstTriggers: \nlstTriggers: \nlstTriggers: b.gif\nlstTriggers: \n"
+        u"lstTriggers: 9\nlstTriggers: 0\nlstTriggers: \nlstTriggers: 0\nlstTriggers: 0");
+    ExpectRead<SlidingMessage>(
+        u"<div data-orvane=window-1 data-width=9>Plums<p>are <a href=a.html>in</a><a href=b.html>!",
+        u"txtMessage: Plums\\r\\n\\r\\nare in!\ntxtLink: a.html\ntxtWidth: 120");
     SmoothScroll other{.sldrSpeed = 7};
     EXPECT_FALSE(
         ReadBlock(other, u"<!-- <div data-orvane=scroller-1> --><p data-orvane=message-1>"));
@@ -333,6 +367,56 @@ TEST(BlockCheckTest, TellsWhatKeepsTheAuthorOnAPage)
          {u"Please enter the Web page that comes at the end.", "txtNextPage"}},
         {FirstComplaint(Personalize{.txtForgetAfter = u"0"}),
          {u"Please enter a number from 1 to 3650.", "txtForgetAfter"}},
+        {FirstComplaint(BannerWizard{.lstPictures = {{u"a.gif"}, {u" "}}}),
+         {u"Please add a second picture to the list.", "lstPictures"}},
+        {FirstComplaint(BannerWizard{.lstPictures = two, .txtDuration = u"6"}),
+         {u"Please enter a number from 0.2 to 5.", "txtDuration"}},
+        {FirstComplaint(RandomImage{.lstPictures = {{u"a.gif"}}}),
+         {u"Please add a second picture to the list.", "lstPictures"}},
+        {FirstComplaint(ImageScroller{.lstPictures = two, .txtHeight = u"19"}),
+         {u"Please enter a number from 20 to 1000.", "txtHeight"}},
+        {FirstComplaint(ImageRollover{.lstTriggers = {{u"a"}, {u"", {u"a.gif"}}}}),
+         {u"Please add a picture to the list.", "lstTriggers"}},
+        {FirstComplaint(ImageRollover{.lstTriggers = {{u"a", {u"a.gif"}, {u"a.gif", u"/a.gif"}}}}),
+         {u"Two different pictures of the list are called \"a.gif\".  Please give one of the files "
+          u"another name.",
+          "lstTriggers"}},
+        {FirstComplaint(AnimatedButton{.lstOverPictures = two}),
+         {u"Please add a picture to the list.", "lstPictures"}},
+        {FirstComplaint(
+             AnimatedButton{.lstPictures = two, .lstOverPictures = {{u"a.gif", u"/a.gif"}}}),
+         {u"Two different pictures of the list are called \"a.gif\".  Please give one of the files "
+          u"another name.",
+          "lstOverPictures"}},
+        {FirstComplaint(AnimatedButton{.lstPictures = two, .lstPressedPictures = {49, {u"c.gif"}}}),
+         {u"Please add 50 pictures at most to the list.", "lstPressedPictures"}},
+        {FirstComplaint(AnimatedButton{.lstPictures = two}),
+         {u"Please enter the Web page that the button leads to.", "txtLink"}},
+        {FirstComplaint(BackgroundFade{.FirstColor = u""}),
+         {u"Please choose a color for the beginning.", "cmdFirstColor"}},
+        {FirstComplaint(BackgroundFade{.LastColor = u"-", .txtSeconds = u"11"}),
+         {u"Please choose a color for the end.", "cmdLastColor"}},
+        {FirstComplaint(Earthquake{.txtPixels = u"0"}),
+         {u"Please enter a number from 1 to 12.", "txtPixels"}},
+        {FirstComplaint(SoundEffect()),
+         {u"Please choose a sound for the arrival, for leaving the page, or for both.",
+          "txtSound"}},
+        {FirstComplaint(SoundEffect{.Sound = {u"a%20b.mp3", u"/x/a b.mp3"},
+                                    .txtLeavingSound = u"a%20b.mp3",
+                                    .LeavingSoundSource = u"/y/a b.mp3"}),
+         {u"Two different sounds are called \"a b.mp3\".  Please give one of the files another "
+          u"name.",
+          "txtLeavingSound"}},
+        {FirstComplaint(DayCalendar{
+             .chkMonth = false, .chkWeekday = false, .chkDay = false, .chkYear = false}),
+         {u"Please choose at least one line for the calendar.", "chkMonth"}},
+        {FirstComplaint(SlidingMessage()), {u"Please enter the message.", "txtMessage"}},
+        {FirstComplaint(SlidingMessage{.txtMessage = {u"a"}, .PaperColor = u""}),
+         {u"Please choose a color for the window.", "cmdPaperColor"}},
+        {FirstComplaint(PageTransitions{.cboArrival = u"none"}),
+         {u"Please choose how the page comes, how the one before it goes, or both.", "cboArrival"}},
+        {FirstComplaint(PageTransitions{.CoverColor = u""}),
+         {u"Please choose a color for the cover.", "cmdCoverColor"}},
         {FirstComplaint(ColorScrollbars{.TrackColor = u" - "}),
          {u"Please choose a color for the track.", "cmdTrackColor"}},
     };
@@ -429,6 +513,17 @@ TEST(BlockTagTest, TagsOfEarlierAppletsFillTheFields)
     EXPECT_EQ(animation, (AnimationWizard{.lstPictures = {{u"a%20b.gif"}},
                                           .txtMilliseconds = u"170",
                                           .txtWidth = u"4000"}));
+    BannerWizard banner;
+    ReadTag(banner, TagOf(u"<APPLET CODE=\"Animate1.class\" WIDTH=468 HEIGHT=\"60\"><PARAM "
+                          u"NAME=IMAGE.0 VALUE=\"a.gif\"><PARAM NAME=IMAGE.1 VALUE=\"b.gif\">"
+                          u"<PARAM NAME=URL.0 VALUE=\"null\"><PARAM NAME=URL.1 VALUE=\"www.x\">"
+                          u"<PARAM NAME=TARGET.0 VALUE=\"_top\"><PARAM NAME=PAUSE.0 "
+                          u"VALUE=\"3500\">"));
+    EXPECT_EQ(banner,
+              (BannerWizard{.lstPictures = {{u"a.gif"}, {u"b.gif", u"", u"", u"http://www.x"}},
+                            .txtSeconds = u"3.5",
+                            .Size = {.txtWidth = u"468", .txtHeight = u"60"},
+                            .cboTarget = u"_top"}));
 }
 
 TEST(BlockFilesTest, AreThoseBesideThePage)
@@ -441,8 +536,14 @@ TEST(BlockFilesTest, AreThoseBesideThePage)
                                     {u"/root.gif"},
                                     {u"make.php?n=1"},
                                     {u"a%20b%23.gif"},
-                                    {u"sub/c.gif#part"}}),
+                                    {u"sub/c.gif#part"}},
+                      {{u"a%20b%23.gif", u"/other/a b#.gif"}, {u"", u"/x/no.mp3"}}),
               expected);
+    expected = {};
+    expected.RequiredFileNames = {u"b.mp3", u"a.mp3"};
+    expected.RequiredFileSources = {u"", u"/x/a.mp3"};
+    // What was typed over a picked name is another file.
+    EXPECT_EQ(FilesOf(BlockSound{u"b.mp3", u"/x/a.mp3"}, {{u"a.mp3", u"/x/a.mp3"}}), expected);
 }
 
 } // namespace

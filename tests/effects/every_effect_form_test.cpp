@@ -144,7 +144,7 @@ TEST(EffectWindowsTest, EveryEffectHasItsWindow)
     FakeDesk desk;
     for (const CatalogueRow& row : Catalogue()) {
         const auto wizard = MakeWizard(row.Kind, desk.Bench);
-        EXPECT_EQ(wizard != nullptr, HasWizard(row.Kind)) << row.MenuCommand;
+        EXPECT_EQ(wizard != nullptr, AnyEffect::Fresh(row.Kind).has_value()) << row.MenuCommand;
         EXPECT_TRUE(wizard == nullptr || wizard->objectName().toStdString() == row.Form);
     }
 }
