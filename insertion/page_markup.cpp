@@ -115,6 +115,31 @@ Markup NextMarkup(std::string_view code, std::size_t from)
     return {{code.size(), code.size()}, code.size()};
 }
 
+std::optional<CodeSpan> FindTag(std::string_view code, std::string_view start,
+                                std::initializer_list<std::string_view> before)
+{
+    Markup markup = NextMarkup(code, 0);
+    for (; markup.Whole.Begin < code.size(); markup = NextMarkup(code, markup.Next)) {
+        const std::size_t at = markup.Whole.Begin;
+        if (IsTag(code, at, start))
+            return code[markup.Whole.End - 1] == '>' ? std::optional(markup.Whole) : std::nullopt;
+        if (std::any_of(before.begin(), before.end(),
+                        [&](std::string_view other) { return IsTag(code, at, other); }))
+            return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::optional<CodeSpan> HeadTag(std::string_view code)
+{
+    return FindTag(code, "<head", {"<body", "<frameset", "</head", "</html"});
+}
+
+std::optional<CodeSpan> BodyTag(std::string_view code)
+{
+    return FindTag(code, "<body");
+}
+
 std::string_view WithoutBlanksInFront(std::string_view text)
 {
     text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "reedit/page_splices.h"
+
+#include <array>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+
+/// The blocks that insertions wrote directly behind the HEAD and the BODY tag. Each stands between
+/// line ends, with the character behind the tag in front of the first one and again behind the
+/// other; later runs that replaced it left more of both.
+class InsertedBlocks
+{
+public:
+    /// Expects the stretches of all blocks in the page, which must outlive the object.
+    InsertedBlocks(std::string_view page, const std::vector<CodeSpan>& blocks);
+
+    /// Whether the block stands directly behind one of the tags, nothing but the work of insertions
+    /// between.
+    bool IsInserted(CodeSpan block) const;
+
+    /// What goes with these blocks: what insertions wrote around them where they still stand
+    /// between that, else the line end behind each.
+    std::vector<Splice> CutsOf(const std::vector<CodeSpan>& blocks) const;
+
+private:
+    struct Unit
+    {
+        std::size_t Begin;        ///< of the doubled character
+        std::size_t End;          ///< of the line end behind the block
+        std::size_t Replacements; ///< what as many runs left stands in front of it
+    };
+    /// What stands behind one tag.
+    struct Chain
+    {
+        std::map<std::size_t, Unit> Units; ///< by the place of the block
+        std::size_t End = 0;               ///< where the page goes on as it was before
+        std::size_t CloseTag = 0;          ///< the place of the close tag, counted from 1
+    };
+
+    Chain ReadChain(std::string_view tag, std::string_view closeTag,
+                    const std::map<std::size_t, std::size_t>& blockEnds) const;
+    void AddCuts(std::vector<Splice>& cuts, CodeSpan block) const;
+    std::optional<CodeSpan> LineEndsOf(const Chain& chain, const Unit& unit) const;
+    void MendDoubled(const Chain& chain, std::vector<Splice>& cuts) const;
+    bool IsMovedUnit(CodeSpan block) const;
+
+    std::string_view m_page;
+    std::array<Chain, 2> m_chains;
+};
+
+} // namespace orvane
