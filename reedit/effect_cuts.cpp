@@ -4,12 +4,12 @@
 
 namespace orvane {
 
-std::vector<CodeSpan> BlocksOf(const EffectInPage& effect)
+std::vector<EffectPart> BlocksOf(const EffectInPage& effect)
 {
-    std::vector<CodeSpan> blocks;
+    std::vector<EffectPart> blocks;
     for (const EffectPart& part : effect.Parts)
         if (part.Place == PartPlace::Head || part.Place == PartPlace::Body)
-            blocks.push_back(part.Span);
+            blocks.push_back(part);
     return blocks;
 }
 
@@ -27,11 +27,11 @@ std::vector<BodyCall> CallsOf(std::string_view page, const EffectInPage& effect)
     return calls;
 }
 
-std::vector<Splice> CutsOfBlocks(std::string_view page, const std::vector<CodeSpan>& blocks)
+std::vector<Splice> CutsOfBlocks(std::string_view page, const std::vector<EffectPart>& blocks)
 {
     if (blocks.empty())
         return {};
-    std::vector<CodeSpan> all;
+    std::vector<EffectPart> all;
     for (const EffectInPage& effect : EffectsIn(page))
         std::ranges::copy(BlocksOf(effect), std::back_inserter(all));
     return InsertedBlocks(page, all).CutsOf(blocks);

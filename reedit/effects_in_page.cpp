@@ -53,15 +53,18 @@ PageMarks MarksIn(std::string_view page)
         const std::size_t at = markup.Whole.Begin;
         if (page[at + 1] == '!') {
             AddMarker(marks.Markers, page, markup.Whole, isInHead);
-        } else if (!marks.BodyTag && IsTag(page, at, "<body")) {
-            hasSections = true;
-            isInHead = false;
-            if (page[markup.Whole.End - 1] == '>')
-                marks.BodyTag = markup.Whole;
-        } else if (isInHead && (IsTag(page, at, "</head") || IsTag(page, at, "<frameset"))) {
-            hasSections = true;
-            isInHead = false;
+            continue;
         }
+        // A browser drops a tag without its end.
+        const bool isBody = !marks.BodyTag && IsTag(page, at, "<body");
+        if (page[markup.Whole.End - 1] != '>' ||
+            (!isBody &&
+             (!isInHead || !(IsTag(page, at, "</head") || IsTag(page, at, "<frameset")))))
+            continue;
+        hasSections = true;
+        isInHead = false;
+        if (isBody)
+            marks.BodyTag = markup.Whole;
     }
     // All that a page without these tags shows is its body.
     for (Marker& marker : marks.Markers)

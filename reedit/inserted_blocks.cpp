@@ -20,12 +20,12 @@ bool HasCrLf(std::string_view page, std::size_t at)
 
 } // namespace
 
-InsertedBlocks::InsertedBlocks(std::string_view page, const std::vector<CodeSpan>& blocks)
+InsertedBlocks::InsertedBlocks(std::string_view page, const std::vector<EffectPart>& blocks)
     : m_page(page)
 {
     std::map<std::size_t, std::size_t> blockEnds;
-    for (const CodeSpan block : blocks)
-        blockEnds.emplace(block.Begin, block.End);
+    for (const EffectPart& block : blocks)
+        blockEnds.emplace(block.Span.Begin, block.Span.End);
     m_chains = {ReadChain("<head", "</head", blockEnds), ReadChain("<body", "</body", blockEnds)};
 }
 
@@ -67,41 +67,44 @@ InsertedBlocks::ReadChain(std::string_view tag, std::string_view closeTag,
     return chain;
 }
 
-bool InsertedBlocks::IsInserted(CodeSpan block) const
+bool InsertedBlocks::IsInserted(const EffectPart& block) const
 {
     return std::ranges::any_of(
-        m_chains, [=](const Chain& chain) { return chain.Units.contains(block.Begin); });
+        m_chains, [&](const Chain& chain) { return chain.Units.contains(block.Span.Begin); });
 }
 
-std::vector<Splice> InsertedBlocks::CutsOf(const std::vector<CodeSpan>& blocks) const
+std::vector<Splice> InsertedBlocks::CutsOf(const std::vector<EffectPart>& blocks) const
 {
     std::vector<Splice> cuts;
-    for (const CodeSpan block : blocks)
+    for (const EffectPart& block : blocks)
         AddCuts(cuts, block);
     for (const Chain& chain : m_chains)
         MendDoubled(chain, cuts);
     return cuts;
 }
 
-void InsertedBlocks::AddCuts(std::vector<Splice>& cuts, CodeSpan block) const
+void InsertedBlocks::AddCuts(std::vector<Splice>& cuts, const EffectPart& block) const
 {
+    const CodeSpan span = block.Span;
     std::optional<CodeSpan> alone;
-    for (const Chain& chain : m_chains) {
-        const auto found = chain.Units.find(block.Begin);
-        if (found == chain.Units.end())
+    // Without a ">", both tags end at one place.
+    const std::size_t first = block.Place == PartPlace::Head ? 0 : 1;
+    for (const Chain* chain : {&m_chains[first], &m_chains[1 - first]}) {
+        const auto found = chain->Units.find(span.Begin);
+        if (found == chain->Units.end())
             continue;
         const Unit& unit = found->second;
         alone = {unit.Begin, unit.End};
-        if (const auto lineEnds = LineEndsOf(chain, unit)) {
+        if (const auto lineEnds = LineEndsOf(*chain, unit)) {
             cuts.push_back({{unit.Begin - unit.Replacements * frontSize, unit.End}, {}});
             cuts.push_back({*lineEnds, {}});
             return;
         }
     }
-    if (!alone && IsMovedUnit(block))
-        alone = {block.Begin - frontSize, block.End + crLf.size()};
+    if (!alone && IsMovedUnit(span))
+        alone = {span.Begin - frontSize, span.End + crLf.size()};
     if (!alone)
-        alone = {block.Begin, block.End + LineEndAt(m_page, block.End)};
+        alone = {span.Begin, span.End + LineEndAt(m_page, span.End)};
     cuts.push_back({*alone, {}});
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reedit/effects_in_page.h"
 #include "reedit/page_splices.h"
 
 #include <array>
@@ -16,16 +17,16 @@ namespace orvane {
 class InsertedBlocks
 {
 public:
-    /// Expects the stretches of all blocks in the page, which must outlive the object.
-    InsertedBlocks(std::string_view page, const std::vector<CodeSpan>& blocks);
+    /// Expects all blocks in the page, which must outlive the object.
+    InsertedBlocks(std::string_view page, const std::vector<EffectPart>& blocks);
 
     /// Whether the block stands directly behind one of the tags, nothing but the work of insertions
     /// between.
-    bool IsInserted(CodeSpan block) const;
+    bool IsInserted(const EffectPart& block) const;
 
     /// What goes with these blocks: what insertions wrote around them where they still stand
     /// between that, else the line end behind each.
-    std::vector<Splice> CutsOf(const std::vector<CodeSpan>& blocks) const;
+    std::vector<Splice> CutsOf(const std::vector<EffectPart>& blocks) const;
 
 private:
     struct Unit
@@ -44,13 +45,13 @@ private:
 
     Chain ReadChain(std::string_view tag, std::string_view closeTag,
                     const std::map<std::size_t, std::size_t>& blockEnds) const;
-    void AddCuts(std::vector<Splice>& cuts, CodeSpan block) const;
+    void AddCuts(std::vector<Splice>& cuts, const EffectPart& block) const;
     std::optional<CodeSpan> LineEndsOf(const Chain& chain, const Unit& unit) const;
     void MendDoubled(const Chain& chain, std::vector<Splice>& cuts) const;
     bool IsMovedUnit(CodeSpan block) const;
 
     std::string_view m_page;
-    std::array<Chain, 2> m_chains;
+    std::array<Chain, 2> m_chains; ///< behind the HEAD and behind the BODY tag
 };
 
 } // namespace orvane

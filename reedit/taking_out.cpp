@@ -13,14 +13,14 @@ namespace orvane {
 namespace {
 
 /// Takes out the code that an insertion put behind a tag; false when it does not stand there.
-bool TakeCode(std::string& page, const std::string& code)
+bool TakeCode(std::string& page, PartPlace place, const std::string& code)
 {
     if (code.empty())
         return true;
     const std::size_t at = page.find(code);
     if (at == std::string::npos)
         return false;
-    const std::vector<CodeSpan> block = {{at, at + code.size()}};
+    const std::vector<EffectPart> block = {{place, {at, at + code.size()}}};
     const InsertedBlocks inserted(page, block);
     if (!inserted.IsInserted(block.front()))
         return false;
@@ -78,8 +78,8 @@ std::optional<std::string> WithoutInsertion(std::string_view page, const Finishe
     std::string rest(page);
     if (!TakeAttribute(rest, "onunload", call(effect.OnUnloadFunc, effect.OnUnloadArgs)) ||
         !TakeAttribute(rest, "onload", call(effect.OnLoadFunc, effect.OnLoadArgs)) ||
-        !TakeCode(rest, EncodeForPage(effect.BODYHTML, encoding)) ||
-        !TakeCode(rest, EncodeForPage(effect.HEADHTML, encoding)))
+        !TakeCode(rest, PartPlace::Body, EncodeForPage(effect.BODYHTML, encoding)) ||
+        !TakeCode(rest, PartPlace::Head, EncodeForPage(effect.HEADHTML, encoding)))
         return std::nullopt;
     RenewLines(rest, !RunsByItself(effect));
     return rest;
