@@ -38,6 +38,10 @@ Markup NextMarkup(std::string_view code, std::size_t from);
 /// or "</head", in upper or lower case.
 bool IsTag(std::string_view code, std::size_t at, std::string_view start);
 
+/// Whether a close tag begins at `at` of an element in whose text nothing is a tag or a comment, as
+/// a SCRIPT.
+bool EndsPlainText(std::string_view code, std::size_t at);
+
 /// The first tag whose start is `start`, as IsTag() has it; nothing when one of `before` or the end
 /// of the code comes first, or when the tag has no end.
 std::optional<CodeSpan> FindTag(std::string_view code, std::string_view start,

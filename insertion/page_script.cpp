@@ -1,9 +1,9 @@
 #include "insertion/page_script.h"
 
+#include "core/checksum.h"
 #include "insertion/page_encoding.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 namespace orvane {
@@ -12,19 +12,6 @@ namespace {
 
 constexpr std::string_view fileBegin = "/*! Orvane page script ";
 constexpr std::string_view fileBeginEnd = " */\n";
-
-/// A number of 16 digits that is another for every change of the bytes that somebody makes by hand.
-std::string ChecksumOf(std::string_view bytes)
-{
-    std::uint64_t sum = 0xCBF29CE484222325;
-    for (const char byte : bytes)
-        sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string checksum;
-    for (int shift = 60; shift >= 0; shift -= 4)
-        checksum.push_back(digits[(sum >> shift) & 0xF]);
-    return checksum;
-}
 
 /// Takes the number at the front of a version, with the dot behind it; gives it without zeros in
 /// front, so that of two numbers the one with more digits is the larger one.

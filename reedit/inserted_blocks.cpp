@@ -23,15 +23,15 @@ bool HasCrLf(std::string_view page, std::size_t at)
 InsertedBlocks::InsertedBlocks(std::string_view page, const std::vector<EffectPart>& blocks)
     : m_page(page)
 {
-    std::map<std::size_t, std::size_t> blockEnds;
     for (const EffectPart& block : blocks)
-        blockEnds.emplace(block.Span.Begin, block.Span.End);
-    m_chains = {ReadChain("<head", "</head", blockEnds), ReadChain("<body", "</body", blockEnds)};
+        m_blockEnds.emplace(block.Span.Begin, block.Span.End);
+    if (const auto lines = FindPageScriptLines(page))
+        m_lines = lines->Whole;
+    m_chains = {ReadChain("<head", "</head"), ReadChain("<body", "</body")};
 }
 
-InsertedBlocks::Chain
-InsertedBlocks::ReadChain(std::string_view tag, std::string_view closeTag,
-                          const std::map<std::size_t, std::size_t>& blockEnds) const
+InsertedBlocks::Chain InsertedBlocks::ReadChain(std::string_view tag,
+                                                std::string_view closeTag) const
 {
     // The tags are found as an insertion finds them; one without ">" ends where the page begins.
     const std::size_t tagPlace = FindIgnoringCase(m_page, tag);
@@ -39,32 +39,59 @@ InsertedBlocks::ReadChain(std::string_view tag, std::string_view closeTag,
     if (tagPlace == 0)
         return chain;
     std::size_t at = Find(m_page, ">", tagPlace);
-    if (const auto lines = FindPageScriptLines(m_page); lines && lines->Whole.Begin == at)
-        at = lines->Whole.End;
-    chain.End = at;
+    for (bool goesOn = true; goesOn;) {
+        const std::size_t begin = BehindOthers(at);
+        goesOn = begin != at || chain.Runs.empty();
+        if (goesOn)
+            at = ReadRun(chain, begin);
+    }
+    return chain;
+}
+
+/// The place behind what stands there without a doubled character: lines of the page script, and
+/// blocks that no insertion put there.
+std::size_t InsertedBlocks::BehindOthers(std::size_t at) const
+{
+    for (;;) {
+        const auto block = m_blockEnds.find(at);
+        if (m_lines && m_lines->Begin == at)
+            at = m_lines->End;
+        else if (block != m_blockEnds.end())
+            at = block->second + LineEndAt(m_page, block->second);
+        else
+            return at;
+    }
+}
+
+/// Reads the blocks between which one character is doubled; gives the place behind them.
+std::size_t InsertedBlocks::ReadRun(Chain& chain, std::size_t at) const
+{
     const std::string_view doubled = m_page.substr(at, 1);
+    Run run{.End = at};
     std::size_t replacements = 0;
-    std::size_t allReplacements = 0;
     while (at < m_page.size() && m_page.substr(at, 1) == doubled && HasCrLf(m_page, at + 1)) {
-        const auto block = blockEnds.find(at + frontSize);
-        if (block == blockEnds.end()) {
+        const auto block = m_blockEnds.find(at + frontSize);
+        if (block == m_blockEnds.end()) {
             ++replacements;
             at += frontSize;
             continue;
         }
+        chain.Replacements += replacements;
         const std::size_t end = block->second + crLf.size();
-        allReplacements += replacements;
         // With nothing in front of the close tag, the later runs' line ends come before it.
         std::size_t next = end;
-        for (std::size_t i = 0; i < allReplacements && HasCrLf(m_page, next); ++i)
+        for (std::size_t i = 0; i < chain.Replacements && HasCrLf(m_page, next); ++i)
             next += crLf.size();
         const bool isLast = next + 1 == chain.CloseTag && m_page.substr(next, 1) == doubled;
         if (!HasCrLf(m_page, block->second) || (m_page.substr(end, 1) != doubled && !isLast))
             break;
+        for (std::size_t i = 0; i <= replacements; ++i)
+            run.Doubled.push_back(at - i * frontSize);
         chain.Units[block->first] = {at, end, std::exchange(replacements, 0)};
-        chain.End = at = end;
+        run.End = at = end;
     }
-    return chain;
+    chain.Runs.push_back(run);
+    return run.End;
 }
 
 bool InsertedBlocks::IsInserted(const EffectPart& block) const
@@ -79,7 +106,8 @@ std::vector<Splice> InsertedBlocks::CutsOf(const std::vector<EffectPart>& blocks
     for (const EffectPart& block : blocks)
         AddCuts(cuts, block);
     for (const Chain& chain : m_chains)
-        MendDoubled(chain, cuts);
+        for (const Run& run : chain.Runs)
+            MendDoubled(run, cuts);
     return cuts;
 }
 
@@ -124,22 +152,21 @@ std::optional<CodeSpan> InsertedBlocks::LineEndsOf(const Chain& chain, const Uni
 
 /// Where the page goes on with a block that is cut, its first character is the doubled one, and
 /// another takes its place.
-void InsertedBlocks::MendDoubled(const Chain& chain, std::vector<Splice>& cuts) const
+void InsertedBlocks::MendDoubled(const Run& run, std::vector<Splice>& cuts) const
 {
     const auto isCutAt = [&](std::size_t at) {
         return std::ranges::find_if(cuts, [=](const Splice& cut) {
             return cut.New.empty() && cut.Old.Begin <= at && at < cut.Old.End;
         });
     };
-    std::size_t end = chain.End;
+    std::size_t end = run.End;
     for (auto cut = isCutAt(end); cut != cuts.end(); cut = isCutAt(end))
         end = cut->Old.End;
-    if (chain.Units.empty() || end == chain.End || end == m_page.size())
+    if (end == run.End || end == m_page.size())
         return;
-    for (const auto& [block, unit] : chain.Units)
-        for (std::size_t i = 0; i <= unit.Replacements; ++i)
-            if (const std::size_t at = unit.Begin - i * frontSize; isCutAt(at) == cuts.end())
-                cuts.push_back({{at, at + 1}, std::string(m_page.substr(end, 1))});
+    for (const std::size_t at : run.Doubled)
+        if (isCutAt(at) == cuts.end())
+            cuts.push_back({{at, at + 1}, std::string(m_page.substr(end, 1))});
 }
 
 /// Whether a block stands between what an insertion wrote, though something else was put behind the

@@ -35,23 +35,33 @@ private:
         std::size_t End;          ///< of the line end behind the block
         std::size_t Replacements; ///< what as many runs left stands in front of it
     };
+    /// Blocks one behind the other, with one character doubled between them.
+    struct Run
+    {
+        std::vector<std::size_t> Doubled; ///< the places of that character
+        std::size_t End = 0;              ///< where the page goes on, with that character again
+    };
     /// What stands behind one tag.
     struct Chain
     {
         std::map<std::size_t, Unit> Units; ///< by the place of the block
-        std::size_t End = 0;               ///< where the page goes on as it was before
-        std::size_t CloseTag = 0;          ///< the place of the close tag, counted from 1
+        std::vector<Run> Runs;
+        std::size_t Replacements = 0; ///< of all units
+        std::size_t CloseTag = 0;     ///< its place, counted from 1
     };
 
-    Chain ReadChain(std::string_view tag, std::string_view closeTag,
-                    const std::map<std::size_t, std::size_t>& blockEnds) const;
+    Chain ReadChain(std::string_view tag, std::string_view closeTag) const;
+    std::size_t BehindOthers(std::size_t at) const;
+    std::size_t ReadRun(Chain& chain, std::size_t at) const;
     void AddCuts(std::vector<Splice>& cuts, const EffectPart& block) const;
     std::optional<CodeSpan> LineEndsOf(const Chain& chain, const Unit& unit) const;
-    void MendDoubled(const Chain& chain, std::vector<Splice>& cuts) const;
+    void MendDoubled(const Run& run, std::vector<Splice>& cuts) const;
     bool IsMovedUnit(CodeSpan block) const;
 
     std::string_view m_page;
-    std::array<Chain, 2> m_chains; ///< behind the HEAD and behind the BODY tag
+    std::map<std::size_t, std::size_t> m_blockEnds; ///< by the place of the block
+    std::optional<CodeSpan> m_lines;                ///< of the page script
+    std::array<Chain, 2> m_chains;                  ///< behind the HEAD and behind the BODY tag
 };
 
 } // namespace orvane
