@@ -12,6 +12,7 @@
 #include "program/startup.h"
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
+#include "reedit/effects_on_page_form.h"
 #include "services/chosen_effects.h"
 #include "windows/focus_back.h"
 #include "windows/picked_files.h"
@@ -47,6 +48,7 @@ void FormDesk::ShowMainForm()
             [this] { ShowOptions(m_mainForm.get()); });
     connect(m_mainForm.get(), &OVMainForm::BringBackWanted, this,
             [this] { ShowBringBack({}, m_mainForm.get()); });
+    connect(m_mainForm.get(), &OVMainForm::PageEffectsWanted, this, &FormDesk::ShowPageEffects);
     connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
         AboutForm about(m_bench, m_mainForm.get());
         ShowModally(about);
@@ -128,6 +130,22 @@ void FormDesk::EditApplet()
     ShowModally(form);
     if (const auto wanted = form.Wanted())
         OpenEffect(wanted->Kind, wanted->Tag);
+}
+
+void FormDesk::ShowPageEffects(TextView page)
+{
+    PageEffects effects(m_bench.Files, m_bench.Dialogs,
+                        BackupsPlaceIn(m_bench.StateFolder, m_bench.Today()));
+    if (!page.empty())
+        effects.GoTo(page);
+    const FinishedPayload script{.WantsPageScript = true};
+    DeliveryReport report;
+    const CopyJob job{script, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, report};
+    EffectsOnPageForm form(
+        m_bench, effects, m_pane, [&](TextView folder) { CopyPageScriptTo(job, folder); },
+        m_mainForm.get());
+    emit WizardOpened();
+    ShowModally(form);
 }
 
 void FormDesk::ShowOptions(QWidget* parent)

@@ -46,6 +46,10 @@ public:
     /// when the author cancels or the effect has no wizard.
     void EditApplet();
 
+    /// Shows the effects on the page with this full path; with an empty path the author looks for a
+    /// page first. Returns when the window is closed.
+    void ShowPageEffects(TextView page);
+
     /// The main window; null before Start(), and when the program opens with another one.
     OVMainForm* MainForm() const { return m_mainForm.get(); }
 

@@ -1,0 +1,94 @@
+#include "reedit/page_effects.h"
+
+#include "insertion/page_writing.h"
+#include "preview/live_page.h"
+
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr TextView placeMark = u" The place that Orvane shows ";
+
+} // namespace
+
+PageEffects::PageEffects(FileStore& files, Dialogs& dialogs, BackupsPlace place)
+    : m_files(files), m_dialogs(dialogs), m_place(std::move(place))
+{
+}
+
+void PageEffects::GoTo(TextView path)
+{
+    m_path = path;
+    m_facts.reset();
+    Take({});
+    m_earlier.clear();
+    Refresh();
+}
+
+bool PageEffects::Refresh()
+{
+    const auto facts = m_files.Facts(m_path);
+    if (m_path.empty() || (facts && facts == m_facts))
+        return false;
+    auto read = m_files.Read(m_path);
+    const Fault* fault = FaultIn(read);
+    m_unread = fault ? std::optional(*fault) : std::nullopt;
+    m_facts = fault ? std::nullopt : facts;
+    std::string bytes = fault ? std::string() : std::get<std::string>(std::move(read));
+    if (bytes == m_bytes)
+        return false;
+    m_earlier.clear();
+    Take(std::move(bytes));
+    return true;
+}
+
+bool PageEffects::Put(const std::string& shown, std::string edited)
+{
+    std::string before = shown;
+    if (!Write(shown, std::move(edited)))
+        return false;
+    m_earlier.push_back(std::move(before));
+    return true;
+}
+
+bool PageEffects::BringBack()
+{
+    const std::string shown = m_bytes;
+    if (!Write(shown, m_earlier.back()))
+        return false;
+    m_earlier.pop_back();
+    return true;
+}
+
+bool PageEffects::Write(const std::string& shown, std::string edited)
+{
+    const bool isWritten = PutPage(m_files, m_dialogs, m_path, m_place, shown, edited);
+    if (isWritten)
+        Take(std::move(edited));
+    // Whatever another program wrote meanwhile is seen the next time.
+    m_facts.reset();
+    if (!isWritten)
+        Refresh();
+    return isWritten;
+}
+
+void PageEffects::Take(std::string bytes)
+{
+    m_bytes = std::move(bytes);
+    m_effects = EffectsIn(m_bytes);
+}
+
+LivePage PictureOf(TextView path, const std::string& bytes, std::optional<std::size_t> place)
+{
+    LivePage page = PictureOf(HostPage{Text(path), bytes});
+    if (!place)
+        return page;
+    page.Bytes.insert(*place, ToUtf8(Join({u"<!--", placeMark, u"-->"})));
+    page.Mark = placeMark;
+    page.ScrollsToMark = true;
+    return page;
+}
+
+} // namespace orvane
