@@ -2,6 +2,7 @@
 
 #include "core/draft.h"
 #include "core/effect.h"
+#include "reedit/block_reader.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -40,6 +41,18 @@ std::optional<AnyEffect> AnyEffect::Fresh(EffectKind kind)
 void AnyEffect::ReadDraft(TextView draft, Secrets secrets)
 {
     std::visit([&](auto& effect) { orvane::ReadDraft(effect, draft, secrets); }, m_parameters);
+}
+
+bool AnyEffect::ReadBlock(TextView text)
+{
+    return std::visit(
+        [&]<class Effect>(Effect& effect) {
+            if constexpr (BlockEffect<Effect>)
+                return orvane::ReadBlock(effect, text);
+            else
+                return false;
+        },
+        m_parameters);
 }
 
 Text AnyEffect::Draft() const

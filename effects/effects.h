@@ -83,6 +83,10 @@ public:
     /// Takes over the values of a draft's text; fields that it lacks stay.
     void ReadDraft(TextView draft, Secrets secrets = Secrets::Skipped);
 
+    /// Takes over what its first block in a stretch of page text shows; false, with the effect as
+    /// it was, when there is none or it is no block.
+    bool ReadBlock(TextView text);
+
     /// The fields as a draft's text, without the secret ones.
     Text Draft() const;
 

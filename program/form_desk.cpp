@@ -9,10 +9,11 @@
 #include "program/about_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
+#include "program/page_effects_road.h"
 #include "program/startup.h"
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
-#include "reedit/effects_on_page_form.h"
+#include "reedit/remembered_fields.h"
 #include "services/chosen_effects.h"
 #include "windows/focus_back.h"
 #include "windows/picked_files.h"
@@ -98,12 +99,18 @@ void FormDesk::LeadThrough(WizardForm& wizard)
         if (!payload)
             return;
         m_bench.Core.Payload = *payload;
-        if (ShowPreview(*payload, wizard) == DeliveryEnd::Finished)
+        const Delivery delivery = ShowPreview(*payload, wizard);
+        if (delivery.End == DeliveryEnd::PageEffects)
+            ShowPageEffects(delivery.Page);
+        if (delivery.End == DeliveryEnd::Pointing &&
+            MakePageRoad().PutIn(delivery.Page, *payload, wizard) == PutInEnd::BackToWizard)
+            continue;
+        if (delivery.End != DeliveryEnd::BackToWizard)
             return;
     }
 }
 
-DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wizard)
+FormDesk::Delivery FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wizard)
 {
     std::unique_ptr<PreviewForm> preview;
     const PreviewWindows windows{
@@ -119,9 +126,11 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
     };
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
-    if (preview->WasDelivered())
+    if (preview->WasDelivered()) {
+        RememberFields(m_bench.Files, m_bench.StateFolder, Finish(payload), wizard.Fields());
         wizard.DropDraft();
-    return preview->End();
+    }
+    return {preview->End(), preview->Page()};
 }
 
 void FormDesk::EditApplet()
@@ -134,18 +143,13 @@ void FormDesk::EditApplet()
 
 void FormDesk::ShowPageEffects(TextView page)
 {
-    PageEffects effects(m_bench.Files, m_bench.Dialogs,
-                        BackupsPlaceIn(m_bench.StateFolder, m_bench.Today()));
-    if (!page.empty())
-        effects.GoTo(page);
-    const FinishedPayload script{.WantsPageScript = true};
-    DeliveryReport report;
-    const CopyJob job{script, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, report};
-    EffectsOnPageForm form(
-        m_bench, effects, m_pane, [&](TextView folder) { CopyPageScriptTo(job, folder); },
-        m_mainForm.get());
     emit WizardOpened();
-    ShowModally(form);
+    MakePageRoad().Show(page);
+}
+
+PageEffectsRoad FormDesk::MakePageRoad()
+{
+    return {m_bench, m_pane, m_mainForm.get(), [this](QDialog& window) { ShowModally(window); }};
 }
 
 void FormDesk::ShowOptions(QWidget* parent)

@@ -14,6 +14,7 @@ class QDialog;
 namespace orvane {
 
 class OVMainForm;
+class PageEffectsRoad;
 class WizardForm;
 enum class DeliveryEnd;
 
@@ -60,7 +61,14 @@ signals:
 private:
     void LeadThrough(WizardForm& wizard);
     void ShowModally(QDialog& window);
-    DeliveryEnd ShowPreview(const EffectPayload& payload, WizardForm& wizard);
+    /// How the delivery ended, and the page that goes with it.
+    struct Delivery
+    {
+        DeliveryEnd End;
+        Text Page;
+    };
+    Delivery ShowPreview(const EffectPayload& payload, WizardForm& wizard);
+    PageEffectsRoad MakePageRoad();
     void ShowOptions(QWidget* parent);
     std::optional<Text> ShowBringBack(TextView page, QWidget* parent);
     void ShowMainForm();

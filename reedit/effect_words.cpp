@@ -15,27 +15,6 @@ namespace orvane {
 
 namespace {
 
-/// The numbers of a page's lines.
-class PageLines
-{
-public:
-    explicit PageLines(std::string_view page)
-    {
-        for (std::size_t at = 0; at < page.size(); ++at)
-            if (const std::size_t length = LineEndAt(page, at); length != 0)
-                m_ends.push_back(at += length - 1);
-    }
-
-    Text LineOf(std::size_t at) const
-    {
-        const auto next = std::ranges::lower_bound(m_ends, at);
-        return NumberToText(static_cast<double>(next - m_ends.begin() + 1));
-    }
-
-private:
-    std::vector<std::size_t> m_ends; ///< the last byte of each line end
-};
-
 /// Where the effect's blocks in the HEAD or in the body stand; empty when it has none there.
 Text LinesOf(const EffectInPage& effect, PartPlace place, const PageLines& lines)
 {
@@ -111,6 +90,49 @@ std::vector<Text> FilesOf(std::string_view page, const EffectInPage& effect, Pag
     return files;
 }
 
+/// The lines of code, without the blanks around them; those without anything else are left out.
+std::vector<Text> LinesIn(TextView code)
+{
+    std::vector<Text> lines;
+    while (!code.empty()) {
+        TextView line = TakeUntil(code, u'\n');
+        if (line.ends_with(u'\r'))
+            line.remove_suffix(1);
+        if (line = Trim(line); !line.empty())
+            lines.emplace_back(line);
+    }
+    return lines;
+}
+
+/// The first of the lines that a box has room for.
+Text Shortened(std::vector<Text> lines)
+{
+    constexpr std::size_t mostLines = 12, mostLetters = 90;
+    for (Text& line : lines)
+        if (line.size() > mostLetters)
+            line = line.substr(0, mostLetters) + u"\u2026";
+    if (lines.size() > mostLines) {
+        lines.resize(mostLines);
+        lines.emplace_back(u"\u2026");
+    }
+    return Listed(lines, u"\r\n");
+}
+
+} // namespace
+
+PageLines::PageLines(std::string_view page)
+{
+    for (std::size_t at = 0; at < page.size(); ++at)
+        if (const std::size_t length = LineEndAt(page, at); length != 0)
+            m_ends.push_back(at += length - 1);
+}
+
+Text PageLines::LineOf(std::size_t at) const
+{
+    const auto next = std::ranges::lower_bound(m_ends, at);
+    return NumberToText(static_cast<double>(next - m_ends.begin() + 1));
+}
+
 Text TitleOf(const EffectInPage& effect)
 {
     std::vector<Text> titles;
@@ -118,8 +140,6 @@ Text TitleOf(const EffectInPage& effect)
         AddOnce(titles, RowOf(kind).Title);
     return titles.empty() ? effect.Name : Listed(titles, u" or ");
 }
-
-} // namespace
 
 std::vector<ListedEffect> ListEffects(std::string_view page,
                                       const std::vector<EffectInPage>& effects)
@@ -175,6 +195,30 @@ Text QuestionToTakeOut(std::string_view page, const EffectInPage& effect)
     if (!freed.empty())
         question += Join({u"\r\n\r\nNothing else in the page needs these files: ", Listed(freed)});
     return question;
+}
+
+Text QuestionToReplace(std::string_view page, const EffectInPage& effect,
+                       const FinishedPayload& payload)
+{
+    const bool isUtf8 = EncodingOf(page) == PageEncoding::Utf8;
+    std::vector<Text> kept = LinesIn(payload.Effect.HEADHTML);
+    for (const Text& line : LinesIn(payload.Effect.BODYHTML))
+        AddOnce(kept, line);
+    std::vector<Text> lost;
+    for (const EffectPart& part : effect.Parts) {
+        if (part.Place != PartPlace::Head && part.Place != PartPlace::Body)
+            continue;
+        const std::string_view code = CodeIn(page, part.Span);
+        for (const Text& line : LinesIn(isUtf8 ? FromUtf8(code) : FromWindows1252(code)))
+            if (std::ranges::find(kept, line) == kept.end())
+                lost.push_back(line);
+    }
+    if (lost.empty())
+        return {};
+    return Join(
+        {u"Orvane does not know how this code in your Web page was made.  It gets lost when "
+         u"the special effect is put back:\r\n\r\n",
+         Shortened(std::move(lost)), u"\r\n\r\nDo you want to replace it?"});
 }
 
 } // namespace orvane

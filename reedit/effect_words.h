@@ -1,11 +1,29 @@
 #pragma once
 
+#include "core/payload.h"
 #include "reedit/effects_in_page.h"
 
 #include <string_view>
 #include <vector>
 
 namespace orvane {
+
+/// The numbers of a page's lines.
+class PageLines
+{
+public:
+    explicit PageLines(std::string_view page);
+
+    /// The number of the line in which that byte stands, counted from 1.
+    Text LineOf(std::size_t at) const;
+
+private:
+    std::vector<std::size_t> m_ends; ///< the last byte of each line end
+};
+
+/// The title of the effect in the catalogue; of several that share its name, all of them; its name
+/// where the catalogue does not have it.
+Text TitleOf(const EffectInPage& effect);
 
 /// What the list of a page's effects tells of one of them.
 struct ListedEffect
@@ -31,5 +49,10 @@ TextView WhyNotTouched(EffectState state);
 /// The question before the effect is taken out: what goes, and which files nothing else in the page
 /// names. Expects an effect of EffectsIn(page).
 Text QuestionToTakeOut(std::string_view page, const EffectInPage& effect);
+
+/// The question before the effect, of which it is not known what it was made with, gives way to the
+/// payload's: it shows the lines of its code that get lost; empty when none does.
+Text QuestionToReplace(std::string_view page, const EffectInPage& effect,
+                       const FinishedPayload& payload);
 
 } // namespace orvane

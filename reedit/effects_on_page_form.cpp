@@ -92,6 +92,10 @@ void EffectsOnPageForm::AddCommands(PageBuilder& rows)
     connect(lstPageEffects, &QListWidget::itemSelectionChanged, this,
             &EffectsOnPageForm::ShowEffect);
     connect(lstPageEffects, &ActingList::Deleted, this, &EffectsOnPageForm::TakeOut);
+    connect(lstPageEffects, &ActingList::Entered, this, &EffectsOnPageForm::Change);
+    connect(lstPageEffects, &ActingList::RowDoubleClicked, this, &EffectsOnPageForm::Change);
+    cmdChange = rows.Button("cmdChange", u"C&hange...", u"Opens the effect's wizard (Enter)");
+    connect(cmdChange, &QPushButton::clicked, this, &EffectsOnPageForm::Change);
     cmdTakeOut = rows.Button("cmdTakeOut", u"&Take out...", u"Takes the effect out (Delete)");
     connect(cmdTakeOut, &QPushButton::clicked, this, &EffectsOnPageForm::TakeOut);
     cmdBringBack = rows.Button("cmdBringBack", u"Bring &back",
@@ -99,7 +103,12 @@ void EffectsOnPageForm::AddCommands(PageBuilder& rows)
     connect(cmdBringBack, &QPushButton::clicked, this, &EffectsOnPageForm::BringBack);
     connect(new QShortcut(Qt::CTRL | Qt::Key_Z, this), &QShortcut::activated, cmdBringBack,
             &QPushButton::click);
-    rows.Buttons({cmdTakeOut, cmdBringBack});
+    cmdAddEffect = rows.Button("cmdAddEffect", u"&Add an effect...");
+    connect(cmdAddEffect, &QPushButton::clicked, this, [this] {
+        m_wanted.emplace();
+        accept();
+    });
+    rows.Buttons({cmdChange, cmdTakeOut, cmdBringBack, cmdAddEffect});
     chkRunsToday = rows.CheckBox("chkRunsToday", u"&Make it run in today's browsers",
                                  u"Lets your Web page use Orvane's page script, orvane.js");
     connect(chkRunsToday, &QCheckBox::clicked, this, &EffectsOnPageForm::ChoosePageScript);
@@ -166,8 +175,11 @@ void EffectsOnPageForm::ShowEffect()
 {
     const EffectInPage* effect = Chosen();
     lblEffect->setText(ToQtLines(Note()));
-    cmdTakeOut->setEnabled(effect != nullptr && CanBeTouched(*effect));
+    const bool isFree = effect != nullptr && CanBeTouched(*effect);
+    cmdChange->setEnabled(isFree && !effect->Kinds.empty());
+    cmdTakeOut->setEnabled(isFree);
     cmdBringBack->setEnabled(m_page.HasEarlier());
+    cmdAddEffect->setEnabled(!m_page.Path().empty() && !m_page.Unread());
     if (!m_page.Path().empty())
         m_pane->Show(PictureOf(m_page.Path(), m_page.Bytes(),
                                effect == nullptr ? std::nullopt : PlaceToShow(*effect)));
@@ -185,15 +197,32 @@ TextView EffectsOnPageForm::Note() const
     const EffectInPage* effect = Chosen();
     if (effect == nullptr)
         return {};
+    if (const TextView why = WhyNotTouched(effect->State); !why.empty())
+        return why;
+    if (effect->Kinds.empty())
+        return u"Orvane has no wizard for this special effect, but can take it out.";
     return effect->State == EffectState::Changed
                ? u"The code of this special effect was changed by hand."
-               : WhyNotTouched(effect->State);
+               : TextView();
 }
 
 const EffectInPage* EffectsOnPageForm::Chosen() const
 {
     const int row = lstPageEffects->SelectedRow();
     return row < 0 ? nullptr : &m_page.Effects().at(static_cast<std::size_t>(row));
+}
+
+void EffectsOnPageForm::Change()
+{
+    if (!cmdChange->isEnabled())
+        return;
+    m_wanted = {*Chosen()};
+    accept();
+}
+
+std::optional<WantedOnPage> EffectsOnPageForm::TakeWanted()
+{
+    return std::exchange(m_wanted, {});
 }
 
 void EffectsOnPageForm::TakeOut()

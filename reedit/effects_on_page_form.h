@@ -13,8 +13,15 @@ namespace orvane {
 
 class PagePanePanel;
 
+/// What another window is to do with a page.
+struct WantedOnPage
+{
+    std::optional<EffectInPage> Changed; ///< nothing: an effect is added
+};
+
 /// The window "Effects on a page": the effects in one page as a list, and beside it the page,
-/// scrolled to the chosen one. Effects are taken out here, and brought back.
+/// scrolled to the chosen one. Effects are taken out here, and brought back; to change or
+/// add one, the window closes.
 class EffectsOnPageForm : public WizardFrame
 {
     Q_OBJECT
@@ -26,6 +33,9 @@ public:
     EffectsOnPageForm(Workbench& bench, PageEffects& page, QWidget* pane,
                       std::function<void(TextView folder)> copyPageScript,
                       QWidget* parent = nullptr);
+
+    /// What the author wants since the last call; nothing when the window was closed.
+    std::optional<WantedOnPage> TakeWanted();
 
 protected:
     void Next() override {}
@@ -41,6 +51,7 @@ private:
     void ShowEffect();
     TextView Note() const;
     const EffectInPage* Chosen() const;
+    void Change();
     void TakeOut();
     void BringBack();
     void ChoosePageScript(bool isWanted);
@@ -48,14 +59,17 @@ private:
     PageEffects& m_page;
     std::function<void(TextView folder)> m_copyPageScript;
     PagePanePanel* m_pane;
+    std::optional<WantedOnPage> m_wanted;
 
     QLineEdit* txtPage;
     ActingList* lstPageEffects;
     QLabel* lblEffect;
     QCheckBox* chkRunsToday;
     QPushButton* cmdBrowseForPage;
+    QPushButton* cmdChange;
     QPushButton* cmdTakeOut;
     QPushButton* cmdBringBack;
+    QPushButton* cmdAddEffect;
 };
 
 } // namespace orvane

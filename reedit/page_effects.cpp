@@ -9,7 +9,15 @@ namespace orvane {
 
 namespace {
 
-constexpr TextView placeMark = u" The place that Orvane shows ";
+/// The effect's code and calls.
+std::vector<std::string_view> CodeOf(std::string_view page, const EffectInPage& effect)
+{
+    std::vector<std::string_view> code;
+    for (const EffectPart& part : effect.Parts)
+        if (part.Place != PartPlace::PageScript)
+            code.push_back(CodeIn(page, part.Span));
+    return code;
+}
 
 } // namespace
 
@@ -80,13 +88,23 @@ void PageEffects::Take(std::string bytes)
     m_effects = EffectsIn(m_bytes);
 }
 
+std::optional<EffectInPage> SameEffect(std::string_view page, std::string_view otherPage,
+                                       const EffectInPage& effect)
+{
+    const auto code = CodeOf(otherPage, effect);
+    for (EffectInPage& candidate : EffectsIn(page))
+        if (CodeOf(page, candidate) == code)
+            return std::move(candidate);
+    return std::nullopt;
+}
+
 LivePage PictureOf(TextView path, const std::string& bytes, std::optional<std::size_t> place)
 {
     LivePage page = PictureOf(HostPage{Text(path), bytes});
     if (!place)
         return page;
-    page.Bytes.insert(*place, ToUtf8(Join({u"<!--", placeMark, u"-->"})));
-    page.Mark = placeMark;
+    page.Bytes.insert(*place, ToUtf8(Join({u"<!--", shownPlaceMark, u"-->"})));
+    page.Mark = shownPlaceMark;
     page.ScrollsToMark = true;
     return page;
 }

@@ -6,9 +6,13 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orvane {
+
+/// The words of the comment to which pages are scrolled in the pane.
+inline constexpr TextView shownPlaceMark = u" The place that Orvane shows ";
 
 /// A page whose effects the author looks at, and the versions of it that commands replaced since.
 class PageEffects
@@ -56,6 +60,11 @@ private:
     std::optional<FileFacts> m_facts; ///< of the file as it was read last
     std::vector<std::string> m_earlier;
 };
+
+/// The effect of EffectsIn(page) that has the code and the calls of this one, which stands in
+/// another version of the page; nothing where there is none.
+std::optional<EffectInPage> SameEffect(std::string_view page, std::string_view otherPage,
+                                       const EffectInPage& effect);
 
 /// The page as the pane shows it, scrolled to that place in its bytes, where a comment may stand;
 /// at its top without one.
