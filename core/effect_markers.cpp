@@ -8,6 +8,16 @@ constexpr TextView beginHead = u"<!-- ***** Begin:Varlo ";
 constexpr TextView endHead = u"<!-- ***** End:Varlo ";
 constexpr TextView tail = u" special effect ***** -->";
 
+std::optional<Text> NameIn(TextView comment, TextView head)
+{
+    if (comment.size() < head.size() + tail.size() || !StartsWithIgnoringCase(comment, head) ||
+        !EndsWithIgnoringCase(comment, tail))
+        return std::nullopt;
+    comment.remove_prefix(head.size());
+    comment.remove_suffix(tail.size());
+    return Text(comment);
+}
+
 } // namespace
 
 EffectMarkers MarkersOf(TextView name)
@@ -17,12 +27,12 @@ EffectMarkers MarkersOf(TextView name)
 
 std::optional<Text> NameInBeginMarker(TextView comment)
 {
-    if (comment.size() < beginHead.size() + tail.size() ||
-        !StartsWithIgnoringCase(comment, beginHead) || !EndsWithIgnoringCase(comment, tail))
-        return std::nullopt;
-    comment.remove_prefix(beginHead.size());
-    comment.remove_suffix(tail.size());
-    return Text(comment);
+    return NameIn(comment, beginHead);
+}
+
+std::optional<Text> NameInEndMarker(TextView comment)
+{
+    return NameIn(comment, endHead);
 }
 
 Text Marked(const EffectMarkers& markers, TextView code)

@@ -19,9 +19,11 @@ struct EffectMarkers
 EffectMarkers MarkersOf(TextView name);
 
 /// The name of the effect whose code begins with this comment; nothing for any other comment. Upper
-/// and lower case are equal, as they are when an effect's earlier copy is looked for. The list of
-/// what stands in a page will be read by it.
+/// and lower case are equal, as they are when an effect's earlier copy is looked for.
 std::optional<Text> NameInBeginMarker(TextView comment);
+
+/// The same for the comment with which an effect's code ends.
+std::optional<Text> NameInEndMarker(TextView comment);
 
 /// The code between its comments, each on a line of its own; no code stays none.
 Text Marked(const EffectMarkers& markers, TextView code);

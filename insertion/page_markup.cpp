@@ -60,18 +60,25 @@ std::size_t EndOfScript(std::string_view code, std::size_t at)
     return code.size();
 }
 
+/// The elements in whose text nothing is a tag or a comment, SCRIPT aside.
+constexpr std::string_view plainTextTags[] = {"<title",  "<style",   "<textarea", "<xmp",
+                                              "<iframe", "<noembed", "<noframes", "<noscript"};
+
+std::string CloseTagOf(std::string_view tag)
+{
+    return Join({"</", tag.substr(1)});
+}
+
 /// Where the text ends that stands in the element whose open tag is this one, and in which nothing
 /// is a tag or a comment; where the tag ends for any other element.
 std::size_t EndOfPlainText(std::string_view code, CodeSpan tag)
 {
-    constexpr std::string_view plainTextTags[] = {"<title",  "<style",   "<textarea", "<xmp",
-                                                  "<iframe", "<noembed", "<noframes", "<noscript"};
     if (IsTag(code, tag.Begin, "<script"))
         return EndOfScript(code, tag.End);
     for (const std::string_view name : plainTextTags) {
         if (!IsTag(code, tag.Begin, name))
             continue;
-        const std::string closeTag = Join({"</", name.substr(1)});
+        const std::string closeTag = CloseTagOf(name);
         std::size_t at = tag.End;
         while (at < code.size() && !IsTag(code, at, closeTag))
             at = std::min(code.find("</", at + 1), code.size());
@@ -87,6 +94,13 @@ bool IsTag(std::string_view code, std::size_t at, std::string_view start)
     const std::size_t end = at + start.size();
     return StartsWithIgnoringCase(code.substr(at), start) && end < code.size() &&
            std::string_view("\t\n\f\r />").find(code[end]) != std::string_view::npos;
+}
+
+bool EndsPlainText(std::string_view code, std::size_t at)
+{
+    return IsTag(code, at, "</script") ||
+           std::any_of(std::begin(plainTextTags), std::end(plainTextTags),
+                       [&](std::string_view tag) { return IsTag(code, at, CloseTagOf(tag)); });
 }
 
 Markup NextMarkup(std::string_view code, std::size_t from)
@@ -113,6 +127,31 @@ Markup NextMarkup(std::string_view code, std::size_t from)
         at = code.find('<', at);
     }
     return {{code.size(), code.size()}, code.size()};
+}
+
+std::optional<CodeSpan> FindTag(std::string_view code, std::string_view start,
+                                std::initializer_list<std::string_view> before)
+{
+    Markup markup = NextMarkup(code, 0);
+    for (; markup.Whole.Begin < code.size(); markup = NextMarkup(code, markup.Next)) {
+        const std::size_t at = markup.Whole.Begin;
+        if (IsTag(code, at, start))
+            return code[markup.Whole.End - 1] == '>' ? std::optional(markup.Whole) : std::nullopt;
+        if (std::any_of(before.begin(), before.end(),
+                        [&](std::string_view other) { return IsTag(code, at, other); }))
+            return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::optional<CodeSpan> HeadTag(std::string_view code)
+{
+    return FindTag(code, "<head", {"<body", "<frameset", "</head", "</html"});
+}
+
+std::optional<CodeSpan> BodyTag(std::string_view code)
+{
+    return FindTag(code, "<body");
 }
 
 std::string_view WithoutBlanksInFront(std::string_view text)

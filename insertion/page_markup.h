@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string_view>
 
@@ -36,6 +37,21 @@ Markup NextMarkup(std::string_view code, std::size_t from);
 /// Whether a tag begins at `at` whose start, up to the end of its name, is `start`, such as "<head"
 /// or "</head", in upper or lower case.
 bool IsTag(std::string_view code, std::size_t at, std::string_view start);
+
+/// Whether a close tag begins at `at` of an element in whose text nothing is a tag or a comment, as
+/// a SCRIPT.
+bool EndsPlainText(std::string_view code, std::size_t at);
+
+/// The first tag whose start is `start`, as IsTag() has it; nothing when one of `before` or the end
+/// of the code comes first, or when the tag has no end.
+std::optional<CodeSpan> FindTag(std::string_view code, std::string_view start,
+                                std::initializer_list<std::string_view> before = {});
+
+/// The HEAD tag as a browser takes it: one inside of the page's body counts for nothing.
+std::optional<CodeSpan> HeadTag(std::string_view code);
+
+/// The BODY tag as a browser takes it.
+std::optional<CodeSpan> BodyTag(std::string_view code);
 
 /// `text` without the white space at its start: spaces, tabs, line feeds, form feeds and carriage
 /// returns.

@@ -1,9 +1,9 @@
 #include "insertion/page_script.h"
 
+#include "core/checksum.h"
 #include "insertion/page_encoding.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 namespace orvane {
@@ -12,19 +12,6 @@ namespace {
 
 constexpr std::string_view fileBegin = "/*! Orvane page script ";
 constexpr std::string_view fileBeginEnd = " */\n";
-
-/// A number of 16 digits that is another for every change of the bytes that somebody makes by hand.
-std::string ChecksumOf(std::string_view bytes)
-{
-    std::uint64_t sum = 0xCBF29CE484222325;
-    for (const char byte : bytes)
-        sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string checksum;
-    for (int shift = 60; shift >= 0; shift -= 4)
-        checksum.push_back(digits[(sum >> shift) & 0xF]);
-    return checksum;
-}
 
 /// Takes the number at the front of a version, with the dot behind it; gives it without zeros in
 /// front, so that of two numbers the one with more digits is the larger one.
@@ -36,35 +23,11 @@ std::string_view TakeNumber(std::string_view& version)
     return number;
 }
 
-/// The first tag of that name; nothing when another of `before` or the end of the code comes first,
-/// or when the tag has no end.
-std::optional<CodeSpan> FindTag(std::string_view code, std::string_view name,
-                                std::initializer_list<std::string_view> before = {})
-{
-    Markup markup = NextMarkup(code, 0);
-    for (; markup.Whole.Begin < code.size(); markup = NextMarkup(code, markup.Next)) {
-        const std::size_t at = markup.Whole.Begin;
-        if (IsTag(code, at, name))
-            return code[markup.Whole.End - 1] == '>' ? std::optional(markup.Whole) : std::nullopt;
-        if (std::any_of(before.begin(), before.end(),
-                        [&](std::string_view other) { return IsTag(code, at, other); }))
-            return std::nullopt;
-    }
-    return std::nullopt;
-}
-
-/// The HEAD tag as a browser takes it: one inside of the page's body counts for nothing.
-std::optional<CodeSpan> HeadTag(std::string_view code)
-{
-    return FindTag(code, "<head", {"<body", "<frameset", "</head", "</html"});
-}
-
 /// Whether a call that stands in a BODY tag is one of these, each between two semicolons, or the
 /// window of a popup effect.
 bool IsOfEffects(std::string_view call, std::string_view known)
 {
-    return Find(known, Join({";", call, ";"})) != 0 ||
-           (call.starts_with("window.open(") && Find(call, ",toolbar=") != 0);
+    return Find(known, Join({";", call, ";"})) != 0 || IsPopupWindow(call);
 }
 
 /// The calls of effects that the BODY tag holds under that name in vain, divided by semicolons:
@@ -87,7 +50,7 @@ std::string DroppedCalls(std::string_view bodyTag, std::string_view event, std::
 /// The lines for a page whose effects have these calls.
 std::string MakeLines(std::string_view code, const EventCalls& known)
 {
-    const auto body = FindTag(code, "<body");
+    const auto body = BodyTag(code);
     const std::string_view tag = body ? CodeIn(code, *body) : std::string_view("<body>");
     return ToBytes(LinesOfPageScript({DroppedCalls(tag, "onload", known.OnLoad),
                                       DroppedCalls(tag, "onunload", known.OnUnload)}));
@@ -105,6 +68,11 @@ EventCalls AllCalls(const FinishedPayload& payload, PageEncoding encoding, const
 }
 
 } // namespace
+
+bool IsPopupWindow(std::string_view call)
+{
+    return call.starts_with("window.open(") && Find(call, ",toolbar=") != 0;
+}
 
 bool HasPageScript(std::string_view page)
 {
@@ -158,6 +126,17 @@ std::string WithPageScriptFor(std::string_view page, const FinishedPayload& payl
     const EventCalls known =
         AllCalls(payload, EncodingOf(page), lines ? lines->Carried : EventCalls());
     return code.insert(head->End, MakeLines(code, known));
+}
+
+void RenewPageScript(std::string& page, bool isWanted)
+{
+    auto lines = FindPageScriptLines(page);
+    if (!lines)
+        return;
+    if (!isWanted)
+        TakePageScriptLines(page);
+    else if (!lines->IsChanged)
+        page.replace(lines->Whole.Begin, lines->Code.size(), MakeLines(page, lines->Carried));
 }
 
 std::string PageScriptFile(std::string_view version, std::string_view script)

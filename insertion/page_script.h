@@ -8,6 +8,10 @@
 
 namespace orvane {
 
+/// Whether a call in an event of a BODY tag is the window of a popup effect, which has no name of
+/// its own by which it is known.
+bool IsPopupWindow(std::string_view call);
+
 /// Whether the page has such lines, where a browser sees them.
 bool HasPageScript(std::string_view page);
 
@@ -30,6 +34,11 @@ PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload
 /// EditPageAndScript() would have put there with it. A page without a HEAD tag is given back
 /// unchanged.
 std::string WithPageScriptFor(std::string_view page, const FinishedPayload& payload);
+
+/// Takes all such lines out of a page that wants none any more; else leaves the first ones where
+/// they stand and brings the calls that they carry in line with the page's BODY tag. Lines that the
+/// author changed and the page wants stay as they are.
+void RenewPageScript(std::string& page, bool isWanted);
 
 /// The bytes of the page script's file: a comment with the version and a checksum, then the script.
 std::string PageScriptFile(std::string_view version, std::string_view script);

@@ -6,6 +6,9 @@
 #include "insertion/page_backups.h"
 #include "insertion/page_edit.h"
 #include "insertion/page_script.h"
+#include "insertion/page_writing.h"
+#include "reedit/placing.h"
+#include "reedit/taking_out.h"
 #include "tests/support/doubles.h"
 #include "tests/support/fault_trials.h"
 
@@ -90,6 +93,40 @@ void BringBackup(Delivery& delivery)
         BringBack(delivery.Files, delivery.Author, page, BackupPath(page), place);
 }
 
+const std::string earlierRun = [] {
+    std::string page = oldPage;
+    const std::string code = "<!-- ***** Begin:Varlo Personalize special effect ***** -->x"
+                             "<!-- ***** End:Varlo Personalize special effect ***** -->";
+    return page.insert(page.find("</head>"), code);
+}();
+
+/// What a command makes of the page that an earlier run left.
+using Edit = std::string (*)(const FinishedPayload&);
+
+std::string TakenOut(const FinishedPayload&)
+{
+    return Without(earlierRun, EffectsIn(earlierRun).at(0));
+}
+
+std::string Changed(const FinishedPayload& payload)
+{
+    return std::get<std::string>(WithReplaced(earlierRun, EffectsIn(earlierRun).at(0), payload));
+}
+
+std::string Added(const FinishedPayload& payload)
+{
+    return std::get<std::string>(WithEffect(earlierRun, EndOf(earlierRun), payload));
+}
+
+template <Edit edit>
+void PutEdited(Delivery& delivery)
+{
+    const BackupsPlace place{delivery.Folder.TextAt("state/first-backups"), u"2024-05-31"};
+    delivery.Heard.IsComplete =
+        PutPage(delivery.Files, delivery.Author, delivery.Folder.TextAt(pageName), place,
+                earlierRun, edit(delivery.Payload));
+}
+
 void SaveNewPage(Delivery& delivery)
 {
     const Text page = delivery.Folder.TextAt(pageName);
@@ -126,13 +163,6 @@ Contents WithCopies(Contents written)
     return written;
 }
 
-const std::string earlierRun = [] {
-    std::string page = oldPage;
-    const std::string code = "<!-- ***** Begin:Varlo Personalize special effect ***** -->x"
-                             "<!-- ***** End:Varlo Personalize special effect ***** -->";
-    return page.insert(page.find("</head>"), code);
-}();
-
 /// What an insertion leaves: the page, its backup and its first backup, and the copies; an earlier
 /// version of the page script lay beside the page.
 Contents Inserted(const TestFolder& folder)
@@ -161,9 +191,24 @@ auto NewPageAs(std::string name)
     };
 }
 
-void PutPage(const TestFolder& folder)
+void PutOldPage(const TestFolder& folder)
 {
     folder.Put(pageName, oldPage, 0640);
+}
+
+void PutPageOfEarlierRun(const TestFolder& folder)
+{
+    folder.Put(pageName, earlierRun, 0640);
+    folder.Put("page/Backup of index.html", "an earlier backup");
+}
+
+auto EditedBy(Edit edit)
+{
+    return [=](const TestFolder& folder) {
+        return Contents{{pageName, edit(MakePayload(folder))},
+                        {"page/Backup of index.html", earlierRun},
+                        {"state/first-backups/2024-05-31" + folder.At(pageName), earlierRun}};
+    };
 }
 
 /// Runs one of the deliveries above over prepared files.
@@ -218,15 +263,18 @@ const WritingWay ways[] = {
         [](const TestFolder&) {
             return Contents{{pageName, oldPage}};
         }),
-    Way("NewPageOverOld", PutPage, SaveNewPage, NewPageAs(pageName)),
+    Way("TakeEffectOut", PutPageOfEarlierRun, PutEdited<TakenOut>, EditedBy(TakenOut)),
+    Way("ChangeEffect", PutPageOfEarlierRun, PutEdited<Changed>, EditedBy(Changed)),
+    Way("AddEffect", PutPageOfEarlierRun, PutEdited<Added>, EditedBy(Added)),
+    Way("NewPageOverOld", PutOldPage, SaveNewPage, NewPageAs(pageName)),
     Way(
         "PublishAgain", [](const TestFolder& f) { f.Put("page/ovtemp.html", "an earlier effect"); },
         PublishFiles, NewPageAs("page/ovtemp.html")),
-    Way("Preview", PutPage, BringToPreview,
+    Way("Preview", PutOldPage, BringToPreview,
         [](const TestFolder&) {
             return Contents{{"program/a.gif", picture}, {"program/b.gif", secondPicture}};
         }),
-    Way("CopyByHand", PutPage, CopyByHand,
+    Way("CopyByHand", PutOldPage, CopyByHand,
         [](const TestFolder&) {
             return Contents{{"page/a.gif", picture}, {"page/b.gif", secondPicture}};
         }),

@@ -13,6 +13,7 @@ int auto_insertion_fuzz(const std::uint8_t* bytes, std::size_t size);
 int file_names_fuzz(const std::uint8_t* bytes, std::size_t size);
 int page_encoding_fuzz(const std::uint8_t* bytes, std::size_t size);
 int settings_file_fuzz(const std::uint8_t* bytes, std::size_t size);
+int taking_out_fuzz(const std::uint8_t* bytes, std::size_t size);
 }
 
 namespace orvane::testing {
@@ -57,7 +58,8 @@ INSTANTIATE_TEST_SUITE_P(Targets, CorpusTest,
                                            Target{"auto_insertion", auto_insertion_fuzz},
                                            Target{"file_names", file_names_fuzz},
                                            Target{"page_encoding", page_encoding_fuzz},
-                                           Target{"settings_file", settings_file_fuzz}),
+                                           Target{"settings_file", settings_file_fuzz},
+                                           Target{"taking_out", taking_out_fuzz}),
                          [](const auto& target) { return std::string(target.param.Name); });
 
 } // namespace

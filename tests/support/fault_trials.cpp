@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 constexpr TextView bareWords[] = {u"Permission denied", u"Disk full", u"Device I/O error"};
 constexpr TextView otherWords[] = {u"Then try to AutoInsert the special effect again.",
-                                   u"click the 'Copy' button to copy them.",
+                                   u"Then try again.", u"click the 'Copy' button to copy them.",
                                    u"click the 'Copy' button to copy them to the Orvane folder."};
 
 bool EndsWithOneOf(const auto& endings, TextView words)
