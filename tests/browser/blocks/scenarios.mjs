@@ -309,6 +309,18 @@ export async function seesScrollbars(tab) {
     assert.equal(colors, ["rgb(51, 102, 153) rgb(221, 230, 238)", "auto"]);
 }
 
+/** The next page comes by a transition; where a browser has none, a cover opens and goes. */
+export async function seesTransition(tab, isChromium) {
+    const wanted = isChromium ? "old(root) new(root)" : "before";
+    await Promise.all([tab.waitForNavigation(), tab.evaluate(() => void (location.search = "2"))]);
+    const moving = () =>
+        document.getAnimations().flatMap(({ effect: { pseudoElement: name } }) =>
+            /group/.test(name) ? [] : name.replace(/::(view-transition-)?/, ""));
+    assert.equal((await tab.evaluate(moving)).join(" "), wanted);
+    await wait(4500);
+    assert.equal(await tab.evaluate(() => document.adoptedStyleSheets.length), 0);
+}
+
 /** How many milliseconds of a second the main thread works for a block. */
 export async function cost({ open, tab }) {
     await open();
