@@ -208,12 +208,13 @@ void LiveView::Clear()
 /// What is loaded next gets a new process.
 void LiveView::EndOf(Sheet& sheet)
 {
+    const bool isHung = std::exchange(m_isHung, false);
     sheet.IsEmptying = false;
     if (sheet.Number == 0)
         return GoOn();
     if (&sheet == &Back())
         m_isLoading = false;
-    m_context.Owner.PageEnded(std::exchange(m_isHung, false) ? PageEnd::Hung : PageEnd::Crashed);
+    m_context.Owner.PageEnded(isHung ? PageEnd::Hung : PageEnd::Crashed);
     GoOn();
 }
 

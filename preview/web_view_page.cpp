@@ -217,12 +217,20 @@ void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, con
 
 void PreviewWebPage::Draw(const QString& script)
 {
-    m_drawnAtLast.start();
+    // One that loads itself again and again is drawn at last as well.
+    if (!m_drawnAtLast.isActive())
+        m_drawnAtLast.start();
     // The engine begins a third frame once the first is on its way to the screen.
     runJavaScript(QStringLiteral("%1;{let left = 3; const next = () => left-- ?"
                                  "requestAnimationFrame(next) : console.debug('%2%3'); next()}")
                       .arg(script, m_context.Token, drawnReport),
                   QWebEngineScript::ApplicationWorld);
+}
+
+void PreviewWebPage::SetLeaving(bool isLeaving)
+{
+    m_isLeaving = isLeaving;
+    m_drawnAtLast.stop();
 }
 
 QStringList PreviewWebPage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&)

@@ -94,7 +94,7 @@ public:
 
     /// A page that is about to be left shows no boxes, opens no windows and is not asked whether it
     /// may be left.
-    void SetLeaving(bool isLeaving) { m_isLeaving = isLeaving; }
+    void SetLeaving(bool isLeaving);
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;

@@ -75,6 +75,13 @@ TEST_F(LivePaneBrowserTest, OfAPageThatIsGoneNothingRunsOn)
     EXPECT_EQ(QuietLine(), u"");
 }
 
+TEST_F(LivePaneBrowserTest, APageThatReloadsItselfIsShownAndLeft)
+{
+    m_page.Load("<body>x<script>setTimeout(() => location.reload(), 0)</script>");
+    m_page.Load("<body>next");
+    m_page.WaitUntil("document.body.innerText == 'next'");
+}
+
 TEST_F(LivePaneBrowserTest, BoxesAndWindowsAreALineUntilTheAuthorRunsThem)
 {
     m_page.Load("<body>x<script>alert('Hello'); status = 'on'</script>");
