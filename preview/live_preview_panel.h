@@ -63,7 +63,7 @@ private:
     Workbench& m_bench;
     QPointer<QWidget> m_pane;
     std::function<Deliverable()> m_effect;
-    QTimer m_soon; ///< runs while a change waits for its picture
+    QTimer m_soon{this}; ///< runs while a change waits for its picture
     bool m_isBuilt = false;
     bool m_holdsPane = false;
 
