@@ -33,28 +33,28 @@ protected:
 /// Loads the page file again and again; prints the milliseconds until it is drawn, one a line.
 int LoadAgain(const QUrl& url)
 {
-    QWebEngineView view;
-    DrawnPage page;
-    view.setPage(&page);
-    view.resize(400, 300);
-    view.show();
     QElapsedTimer watch;
     int left = 60;
+    QWebEngineView view;
+    auto* page = new DrawnPage(&view);
+    view.setPage(page);
+    view.resize(400, 300);
+    view.show();
     const auto load = [&] {
         watch.start();
-        page.load(url);
+        page->load(url);
     };
-    QObject::connect(&page, &QWebEnginePage::loadFinished, &page, [&] {
-        page.runJavaScript(QStringLiteral("{let left = 3; const next = () => left-- ?"
-                                          "requestAnimationFrame(next) : console.debug('drawn');"
-                                          "next()}"),
-                           QWebEngineScript::ApplicationWorld);
+    QObject::connect(page, &QWebEnginePage::loadFinished, page, [&] {
+        page->runJavaScript(QStringLiteral("{let left = 3; const next = () => left-- ?"
+                                           "requestAnimationFrame(next) : console.debug('drawn');"
+                                           "next()}"),
+                            QWebEngineScript::ApplicationWorld);
     });
-    page.Drawn = [&] {
+    page->Drawn = [&] {
         std::printf("%.1f\n", static_cast<double>(watch.nsecsElapsed()) / 1e6);
         if (--left == 0)
             QApplication::quit();
-        QTimer::singleShot(300, &page, load);
+        QTimer::singleShot(300, page, load);
     };
     load();
     return QApplication::exec();
