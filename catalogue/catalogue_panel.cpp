@@ -17,9 +17,8 @@
 
 namespace orvane {
 
-CataloguePanel::CataloguePanel(std::function<bool(EffectKind)> hasWizard, Settings& settings)
-    : m_hasWizard(std::move(hasWizard)),
-      m_settings(settings),
+CataloguePanel::CataloguePanel(Settings& settings)
+    : m_settings(settings),
       m_head(new CatalogueHead),
       m_pages(new CataloguePages([this](ControlName group) { return MakerFor(group); }, settings)),
       m_description(new EffectDescription),
@@ -63,8 +62,7 @@ void CataloguePanel::AddKeys()
 ButtonMaker CataloguePanel::MakerFor(ControlName group)
 {
     return [this, group](const CatalogueRow& row) {
-        auto* button = new EffectButton(row, m_hasWizard(FindCommand(row.MenuCommand)->Kind),
-                                        MemberName(group, static_cast<int>(row.Kind)));
+        auto* button = new EffectButton(row, MemberName(group, static_cast<int>(row.Kind)));
         button->installEventFilter(this);
         connect(button, &EffectButton::EffectWanted, this, &CataloguePanel::EffectWanted);
         return button;

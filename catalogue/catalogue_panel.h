@@ -5,7 +5,6 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <functional>
 #include <vector>
 
 class QAction;
@@ -24,12 +23,11 @@ class CataloguePanel : public QWidget
     Q_OBJECT
 
 public:
-    /// `hasWizard` tells which effects have a wizard; `settings` store the favorites and the
-    /// effects used last, and must outlive the panel.
-    CataloguePanel(std::function<bool(EffectKind)> hasWizard, Settings& settings);
+    /// `settings` store the favorites and the effects used last, and must outlive the panel.
+    explicit CataloguePanel(Settings& settings);
 
 signals:
-    /// The author wants to open the wizard of this effect, which has one.
+    /// The author wants to open the wizard of this effect.
     void EffectWanted(orvane::EffectKind kind);
 
 protected:
@@ -48,7 +46,6 @@ private:
     void ShowMenu(EffectButton& button, const QPoint& place);
     void ToggleFavoriteOf(const EffectButton* button);
 
-    std::function<bool(EffectKind)> m_hasWizard;
     Settings& m_settings;
     CatalogueHead* m_head;
     CataloguePages* m_pages;

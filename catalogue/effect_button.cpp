@@ -7,12 +7,9 @@
 #include <QPainterPath>
 #include <QStyleOption>
 #include <QStylePainter>
-#include <QToolTip>
 
-#include <array>
 #include <cmath>
 #include <numbers>
-#include <span>
 
 namespace orvane {
 
@@ -37,36 +34,6 @@ QString WrappedTitle(TextView title)
     return wrapped;
 }
 
-QColor Mixed(const QColor& ground, const QColor& ink, double share)
-{
-    const auto mix = [share](int from, int to) {
-        return static_cast<int>(std::lround(from + (to - from) * share));
-    };
-    return {mix(ground.red(), ink.red()), mix(ground.green(), ink.green()),
-            mix(ground.blue(), ink.blue())};
-}
-
-/// The picture as a drawing in the window's own colours: what was dark comes close to the colour of
-/// its words, what was light to its background, so that it is dimmer than the live ones in light
-/// and dark windows alike.
-QPixmap Dimmed(const QPixmap& picture, const QPalette& palette)
-{
-    const QColor ground = palette.color(QPalette::Window);
-    const QColor ink = palette.color(QPalette::WindowText);
-    std::array<QRgb, 256> ofGray;
-    for (std::size_t gray = 0; gray < ofGray.size(); ++gray)
-        ofGray[gray] =
-            Mixed(ground, ink, std::min(0.1 + 0.75 * (1 - static_cast<double>(gray) / 255), 0.6))
-                .rgb();
-    QImage drawn = picture.toImage().convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < drawn.height(); ++y)
-        for (QRgb& pixel : std::span(reinterpret_cast<QRgb*>(drawn.scanLine(y)),
-                                     static_cast<std::size_t>(drawn.width())))
-            pixel =
-                (ofGray[static_cast<std::size_t>(qGray(pixel))] & RGB_MASK) | (pixel & ~RGB_MASK);
-    return QPixmap::fromImage(drawn);
-}
-
 QPainterPath Star(QPointF middle, double radius)
 {
     QPainterPath star;
@@ -82,8 +49,7 @@ QPainterPath Star(QPointF middle, double radius)
 
 } // namespace
 
-EffectButton::EffectButton(const CatalogueRow& row, bool hasWizard, const QString& name)
-    : m_row(row), m_hasWizard(hasWizard)
+EffectButton::EffectButton(const CatalogueRow& row, const QString& name) : m_row(row)
 {
     setObjectName(name);
     setAccessibleName(ToQt(row.Title));
@@ -94,7 +60,8 @@ EffectButton::EffectButton(const CatalogueRow& row, bool hasWizard, const QStrin
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Describe();
-    connect(this, &QToolButton::clicked, this, &EffectButton::Open);
+    connect(this, &QToolButton::clicked, this,
+            [this] { emit EffectWanted(FindCommand(m_row.MenuCommand)->Kind); });
 }
 
 void EffectButton::SetFavorite(bool isFavorite)
@@ -130,12 +97,6 @@ void EffectButton::paintEvent(QPaintEvent*)
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    if (!m_hasWizard) {
-        option.icon = Dimmed(icon().pixmap(iconSize(), devicePixelRatioF()), palette());
-        const QColor words =
-            Mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.65);
-        option.palette.setColor(QPalette::ButtonText, words);
-    }
     QStylePainter painter(this);
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
     if (!m_isFavorite)
@@ -147,19 +108,10 @@ void EffectButton::paintEvent(QPaintEvent*)
     painter.drawPath(Star({width() - radius - 3, radius + 3}, radius));
 }
 
-void EffectButton::Open()
-{
-    if (m_hasWizard)
-        emit EffectWanted(FindCommand(m_row.MenuCommand)->Kind);
-    else
-        QToolTip::showText(mapToGlobal(rect().center()), ToQt(notYetAvailable), this);
-}
-
 void EffectButton::Describe()
 {
     const QString star = m_isFavorite ? QStringLiteral("Favorite. ") : QString();
-    const QString state = m_hasWizard ? QString() : ToQt(notYetAvailable) + u' ';
-    setAccessibleDescription(star + state + ToQt(m_row.Description));
+    setAccessibleDescription(star + ToQt(m_row.Description));
 }
 
 } // namespace orvane

@@ -6,21 +6,16 @@
 
 namespace orvane {
 
-/// What the catalogue says about an effect without a wizard.
-inline constexpr TextView notYetAvailable = u"Not available yet: this effect has no wizard so far.";
-
-/// An effect as a picture with its title. One without a wizard is drawn in grey, and says so when
-/// it is pressed; one of the author's favorites has a star.
+/// An effect as a picture with its title; one of the author's favorites has a star.
 class EffectButton : public QToolButton
 {
     Q_OBJECT
 
 public:
     /// `name` is the object name; `row` must outlive the button.
-    EffectButton(const CatalogueRow& row, bool hasWizard, const QString& name);
+    EffectButton(const CatalogueRow& row, const QString& name);
 
     const CatalogueRow& Row() const { return m_row; }
-    bool HasWizard() const { return m_hasWizard; }
     bool IsFavorite() const { return m_isFavorite; }
     /// Shows or removes the star.
     void SetFavorite(bool isFavorite);
@@ -31,7 +26,7 @@ public:
     QSize sizeHint() const override;
 
 signals:
-    /// The author clicked the button of an effect that has a wizard.
+    /// The author clicked the button.
     void EffectWanted(orvane::EffectKind kind);
 
 protected:
@@ -39,11 +34,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void Open();
     void Describe();
 
     const CatalogueRow& m_row;
-    bool m_hasWizard;
     bool m_isFavorite = false;
 };
 

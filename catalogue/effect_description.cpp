@@ -11,15 +11,14 @@ namespace orvane {
 namespace {
 
 constexpr TextView welcome =
-    u"Point at a picture to read what its effect does; click it to "
-    u"make one for your Web page. To find an effect, just type what you are looking for "
-    u"(Ctrl+F). Ctrl+D on an effect keeps it among your favorites.";
+    u"Point at one of the fifty pictures to read what its effect does; click it to make one for "
+    u"your Web page. To find an effect, just type what you are looking for (Ctrl+F). Ctrl+D on an "
+    u"effect keeps it among your favorites.";
 
 } // namespace
 
 EffectDescription::EffectDescription()
     : Label3(new QLabel),
-      m_notYet(new QLabel),
       Label2(new QLabel),
       m_greeting(new QLabel(QStringLiteral("Welcome to Orvane"))),
       m_welcome(new QLabel)
@@ -29,8 +28,6 @@ EffectDescription::EffectDescription()
     bold.setBold(true);
     Label3->setFont(bold);
     m_greeting->setFont(bold);
-    m_notYet->setObjectName(QStringLiteral("lblNotYet"));
-    m_notYet->setIndent(2 * m_notYet->fontMetrics().averageCharWidth());
     Label2->setObjectName(QStringLiteral("Label2"));
     Label2->setWordWrap(true);
     Label2->setAlignment(Qt::AlignTop);
@@ -44,19 +41,15 @@ EffectDescription::EffectDescription()
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins({});
     rows->addWidget(Label3, 0, 0);
-    rows->addWidget(m_notYet, 0, 1);
-    rows->setColumnStretch(1, 1);
-    rows->addWidget(Label2, 1, 0, 1, 2);
-    rows->addWidget(m_greeting, 0, 0, 1, 2);
-    rows->addWidget(m_welcome, 1, 0, 1, 2);
+    rows->addWidget(Label2, 1, 0);
+    rows->addWidget(m_greeting, 0, 0);
+    rows->addWidget(m_welcome, 1, 0);
     Show(nullptr);
 }
 
 void EffectDescription::Show(const EffectButton* button)
 {
-    const bool isMissing = button != nullptr && !button->HasWizard();
     Label3->setText(button == nullptr ? QString() : ToQt(button->Row().Title));
-    m_notYet->setText(isMissing ? ToQt(notYetAvailable) : QString());
     Label2->setText(button == nullptr ? QString() : ToQt(button->Row().Description));
     m_greeting->setVisible(button == nullptr);
     m_welcome->setText(button == nullptr ? ToQt(welcome) : QString());

@@ -21,7 +21,6 @@ public:
 
 private:
     QLabel* Label3;
-    QLabel* m_notYet;
     QLabel* Label2;
     QLabel* m_greeting;
     QLabel* m_welcome;

@@ -1,7 +1,8 @@
 #include "core/block.h"
 
+#include "core/block_html.h"
 #include "core/block_scripts.h"
-#include "core/numbers.h"
+#include "core/file_names.h"
 #include "core/percents.h"
 
 #include <algorithm>
@@ -10,94 +11,9 @@ namespace orvane {
 
 namespace {
 
-bool IsControl(char16_t c)
-{
-    return c < 0x20 || (c >= 0x7F && c < 0xA0);
-}
-
 bool IsBlank(char16_t c)
 {
     return c == u' ' || (c >= u'\t' && c <= u'\r');
-}
-
-/// The value as it may stand in a quoted attribute and between tags.
-Text InHtml(TextView value)
-{
-    Text html;
-    // Half of a surrogate pair has no bytes in any page.
-    for (const char16_t c : FromUtf8(ToUtf8(value))) {
-        if (c == u'&')
-            html += u"&amp;";
-        else if (c == u'<')
-            html += u"&lt;";
-        else if (c == u'>')
-            html += u"&gt;";
-        else if (c == u'"')
-            html += u"&quot;";
-        else if (c == u'\t' || c == u'\n' || c == u'\r')
-            html += Join({u"&#", NumberToText(static_cast<int>(c)), u";"});
-        else if (!IsControl(c))
-            html += c;
-    }
-    return html;
-}
-
-Text AttributeInHtml(TextView name, TextView value)
-{
-    const bool isName = !name.empty() && std::ranges::none_of(name, [](char16_t c) {
-        return IsControl(c) || c > 0x7F || TextView(u" \"'<>/=`&").find(c) != TextView::npos;
-    });
-    return isName ? Join({u" ", name, u"=\"", InHtml(value), u"\""}) : Text();
-}
-
-Text LinesInHtml(TextView words)
-{
-    Text html = InHtml(ReplaceAll(words, lineEnd, u"\n"));
-    for (const TextView end : {u"&#10;", u"&#13;"})
-        html = ReplaceAll(html, end, u"<br>");
-    return html;
-}
-
-Text ItemInHtml(TextView inside, TextView link, bool isHidden)
-{
-    const Text linked = link.empty()
-                            ? Text(inside)
-                            : Join({u"<a", AttributeInHtml(u"href", link), u">", inside, u"</a>"});
-    return Join({isHidden ? u"<li hidden>" : u"<li>", linked, u"</li>"});
-}
-
-Text PictureInHtml(const BlockPicture& picture, bool isSeen)
-{
-    Text html = Join({u"<img", AttributeInHtml(u"src", picture.Address),
-                      AttributeInHtml(u"alt", picture.Description)});
-    if (picture.Width > 0)
-        html += AttributeInHtml(u"width", NumberToText(picture.Width));
-    if (picture.Height > 0)
-        html += AttributeInHtml(u"height", NumberToText(picture.Height));
-    return Join({html, isSeen ? u">" : u" loading=\"lazy\">"});
-}
-
-Text ListInHtml(const Block& block)
-{
-    Text items;
-    if (const auto* rows = std::get_if<BlockRows>(&block.Content))
-        for (const BlockRow& row : *rows)
-            items += ItemInHtml(LinesInHtml(row.Words), row.Link, false);
-    if (const auto* pictures = std::get_if<BlockPictures>(&block.Content))
-        for (const BlockPicture& picture : *pictures) {
-            const bool isFirst = items.empty();
-            const bool isSeen =
-                block.Seen == PicturesSeen::All || (block.Seen == PicturesSeen::First && isFirst);
-            items += ItemInHtml(PictureInHtml(picture, isSeen), picture.Link,
-                                block.Seen == PicturesSeen::First && !isFirst);
-        }
-    return Join({block.Seen == PicturesSeen::None ? u"<ul hidden>" : u"<ul>", items, u"</ul>"});
-}
-
-Text ScriptOf(const Block& block)
-{
-    return Join({u"<script", AttributeInHtml(u"data-orvane-run", block.Kind), u">",
-                 BlockScript(Left(block.Kind, FindLast(block.Kind, u"-") - 1)), u"</script>"});
 }
 
 /// The name of the file beside the page that an address leads to; empty for any other place.
@@ -107,6 +23,12 @@ Text FileBesidePage(TextView address)
     const bool isOther = path.find_first_of(u":?") != TextView::npos || path.starts_with(u'/') ||
                          path.starts_with(u'\\');
     return isOther ? Text() : WithoutPercents(path);
+}
+
+template <class... Shapes>
+bool IsAny(const BlockContent& content)
+{
+    return (std::holds_alternative<Shapes>(content) || ...);
 }
 
 } // namespace
@@ -121,29 +43,63 @@ Text OpenTagOf(const Block& block, TextView element)
 
 Text WriteBlock(const Block& block)
 {
-    if (const auto* words = std::get_if<Text>(&block.Content)) {
-        // A DIV inside a paragraph would end it.
-        const TextView element = words->find_first_of(lineEnd) == Text::npos ? u"span" : u"div";
-        return Join({OpenTagOf(block, element), LinesInHtml(*words), ScriptOf(block), u"</",
-                     element, u">", lineEnd});
-    }
-    return Join({OpenTagOf(block, u"div"), lineEnd, ListInHtml(block), lineEnd, ScriptOf(block),
-                 lineEnd, u"</div>", lineEnd});
+    const auto* words = std::get_if<Text>(&block.Content);
+    const bool isLink = IsAny<BlockRow, BlockButton, std::monostate>(block.Content);
+    // A DIV inside a paragraph would end it.
+    const bool isInLine = isLink || (words && words->find_first_of(lineEnd) == Text::npos);
+    const TextView element = isInLine ? u"span" : u"div";
+    // A blank beside the words would be seen.
+    const TextView between = isLink || words ? TextView() : lineEnd;
+    const Text content = ContentInHtml(block);
+    return Join({OpenTagOf(block, element), between, content, content.empty() ? u"" : between,
+                 ScriptOf(block), between, u"</", element, u">", lineEnd});
 }
 
-RequiredFiles FilesOf(const BlockContent& content)
+Text ScriptOf(const Block& block)
+{
+    return Join({u"<script", AttributeInHtml(u"data-orvane-run", block.Kind), u">",
+                 BlockScript(Left(block.Kind, FindLast(block.Kind, u"-") - 1)), u"</script>"});
+}
+
+BlockPictures PicturesOf(const BlockContent& content)
+{
+    BlockPictures pictures;
+    const auto add = [&](const BlockPictures& more) {
+        pictures.insert(pictures.end(), more.begin(), more.end());
+    };
+    if (const auto* listed = std::get_if<BlockPictures>(&content))
+        add(*listed);
+    if (const auto* figure = std::get_if<BlockFigure>(&content))
+        add({figure->Picture});
+    if (const auto* rows = std::get_if<RolloverRows>(&content))
+        for (const RolloverRow& row : *rows)
+            add({row.Trigger, row.Picture});
+    if (const auto* button = std::get_if<BlockButton>(&content))
+        for (const BlockPictures* state : {&button->AtRest, &button->Over, &button->Pressed})
+            add(*state);
+    return pictures;
+}
+
+RequiredFiles FilesOf(const BlockContent& content, const std::vector<BlockSound>& sounds)
 {
     RequiredFiles files;
-    const auto* pictures = std::get_if<BlockPictures>(&content);
     std::size_t slot = 0;
-    for (const BlockPicture& picture : pictures ? *pictures : BlockPictures()) {
-        const Text name = FileBesidePage(picture.Address);
+    const auto add = [&](TextView address, const Text& source) {
+        const Text name = FileBesidePage(address);
         if (slot == files.RequiredFileNames.size() || name.empty() ||
             std::ranges::find(files.RequiredFileNames, name) != files.RequiredFileNames.end())
-            continue;
+            return;
         files.RequiredFileNames[slot] = name;
-        files.RequiredFileSources[slot++] = picture.Source;
-    }
+        if (GetFileName(source) == GetFileName(name))
+            files.RequiredFileSources[slot] = source;
+        ++slot;
+    };
+    for (const BlockPicture& picture : PicturesOf(content))
+        add(picture.Address, picture.Source);
+    if (const auto* sound = std::get_if<BlockSound>(&content))
+        add(sound->Address, sound->Source);
+    for (const BlockSound& sound : sounds)
+        add(sound.Address, sound.Source);
     return files;
 }
 
@@ -180,6 +136,25 @@ Text TidyLines(TextView text)
     }
     lines.resize(lines.find_last_not_of(lineEnd) + 1);
     return lines;
+}
+
+Text TidyParagraphs(TextView text)
+{
+    constexpr TextView twoEmptyLines = u"\r\n\r\n\r\n";
+    Text paragraphs = TidyLines(text);
+    while (Find(paragraphs, twoEmptyLines) != 0)
+        paragraphs = ReplaceAll(paragraphs, twoEmptyLines, u"\r\n\r\n");
+    return paragraphs;
+}
+
+FieldTexts TextsOf(const BlockParagraphs& paragraphs)
+{
+    return {paragraphs.Words};
+}
+
+void SetField(BlockParagraphs& paragraphs, const FieldTexts& texts)
+{
+    SetField(paragraphs.Words, texts);
 }
 
 } // namespace orvane

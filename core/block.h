@@ -26,6 +26,44 @@ void ForEachField(Row& row, Field&& field)
     field("txtLink", row.Link);
 }
 
+/// A message of a band whose messages have colours of their own.
+struct ColoredRow
+{
+    Text Words;
+    Text Link;  ///< empty for none
+    Text Color; ///< of its text; empty: as the others
+    bool operator==(const ColoredRow&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one message.
+template <ConstOr<ColoredRow> Row, class Field>
+void ForEachField(Row& row, Field&& field)
+{
+    field("txtWords", row.Words);
+    field("txtLink", row.Link);
+    field(ColorField("cmdColor"), row.Color);
+}
+
+/// A quotation of a block.
+struct QuoteRow
+{
+    Text Words;  ///< lines of them end in CR LF
+    Text Author; ///< empty for none
+    Text Link;   ///< of the words; empty for none
+    bool operator==(const QuoteRow&) const = default;
+};
+
+/// Calls `field` with the name of each control and the field that it shows, in the order of the
+/// window of one quotation.
+template <ConstOr<QuoteRow> Row, class Field>
+void ForEachField(Row& row, Field&& field)
+{
+    field("txtWords", row.Words);
+    field("txtAuthor", row.Author);
+    field("txtLink", row.Link);
+}
+
 /// A picture of a block.
 struct BlockPicture
 {
@@ -51,6 +89,33 @@ void ForEachField(Picture& picture, Field&& field)
     field("Height", picture.Height);
 }
 
+/// A trigger of a block, and the picture that it shows.
+struct RolloverRow
+{
+    Text Words;           ///< of the trigger; where that is a picture, its description
+    BlockPicture Picture; ///< that is shown; its link is that of the trigger
+    BlockPicture Trigger; ///< in place of the words; has no address where there is none
+    bool operator==(const RolloverRow&) const = default;
+};
+
+/// Calls `field` with the name of each field, which is that of its control in the window of one
+/// trigger.
+template <ConstOr<RolloverRow> Row, class Field>
+void ForEachField(Row& row, Field&& field)
+{
+    field("txtWords", row.Words);
+    field("txtPicture", row.Picture.Address);
+    field("txtDescription", row.Picture.Description);
+    field("txtLink", row.Picture.Link);
+    field("txtTrigger", row.Trigger.Address);
+    field("PictureSource", row.Picture.Source);
+    field("PictureWidth", row.Picture.Width);
+    field("PictureHeight", row.Picture.Height);
+    field("TriggerSource", row.Trigger.Source);
+    field("TriggerWidth", row.Trigger.Width);
+    field("TriggerHeight", row.Trigger.Height);
+}
+
 /// An attribute of a block's root, as it is meant: without quotes and references.
 struct BlockAttribute
 {
@@ -68,12 +133,65 @@ void ForEachField(Attribute& attribute, Field&& field)
 }
 
 using BlockRows = std::vector<BlockRow>;
+using ColoredRows = std::vector<ColoredRow>;
+using QuoteRows = std::vector<QuoteRow>;
 using BlockPictures = std::vector<BlockPicture>;
+using RolloverRows = std::vector<RolloverRow>;
 using BlockAttributes = std::vector<BlockAttribute>;
 
-/// What a block shows, which the page has as ordinary HTML: a text whose lines end in CR LF, rows,
-/// pictures, or nothing.
-using BlockContent = std::variant<std::monostate, Text, BlockRows, BlockPictures>;
+/// A text in paragraphs, with an empty line between each two; its lines end in CR LF.
+struct BlockParagraphs
+{
+    Text Words;
+    bool operator==(const BlockParagraphs&) const = default;
+};
+
+/// Such a text, all of which leads to an address; empty for none.
+struct LinkedParagraphs
+{
+    Text Words;
+    Text Link;
+    bool operator==(const LinkedParagraphs&) const = default;
+};
+
+/// A picture with texts that belong to it, whose lines end in CR LF.
+struct BlockFigure
+{
+    BlockPicture Picture; ///< its link does not count
+    std::vector<Text> Words;
+    bool operator==(const BlockFigure&) const = default;
+};
+
+/// The pictures of a button. The first one has its description and its link; the others are seen
+/// after it, under the mouse, and while it is pressed.
+struct BlockButton
+{
+    BlockPictures AtRest;
+    BlockPictures Over;
+    BlockPictures Pressed;
+    bool operator==(const BlockButton&) const = default;
+};
+
+/// A sound of a block.
+struct BlockSound
+{
+    Text Address; ///< as the page refers to it; empty for none
+    Text Source;  ///< full path; empty where it is not known
+    bool operator==(const BlockSound&) const = default;
+};
+
+/// The day on which the page is seen, which the script alone can tell.
+struct BlockDay
+{
+    bool operator==(const BlockDay&) const = default;
+};
+
+/// What a block shows, which the page has as ordinary HTML: a text whose lines end in CR LF, in a
+/// line of the page or in paragraphs of its own, a link, rows, pictures, a figure, a button, a
+/// player for a sound, a day, or nothing.
+using BlockContent = std::variant<std::monostate, Text, BlockParagraphs, LinkedParagraphs, BlockRow,
+                                  BlockRows, ColoredRows, QuoteRows, RolloverRows, BlockPictures,
+                                  BlockFigure, BlockButton, BlockSound, BlockDay>;
 
 /// Which pictures of a block are seen, and loaded, without its script.
 enum class PicturesSeen
@@ -102,9 +220,16 @@ Text WriteBlock(const Block& block);
 /// The open tag of a block's root, for a block that is no DIV or SPAN.
 Text OpenTagOf(const Block& block, TextView element);
 
-/// The files beside the page that the pictures name. Those at another place are left out, and so is
-/// what goes beyond the slots.
-RequiredFiles FilesOf(const BlockContent& content);
+/// The element with the script of a block's kind.
+Text ScriptOf(const Block& block);
+
+/// All pictures of a block, in the order in which they stand there.
+BlockPictures PicturesOf(const BlockContent& content);
+
+/// The files beside the page that a block's content and these sounds name, each once. Those at
+/// another place are left out, and so is what goes beyond the slots. A source counts where it is a
+/// file of that name.
+RequiredFiles FilesOf(const BlockContent& content, const std::vector<BlockSound>& sounds = {});
 
 /// The text as a page shows it on one line: without control characters, with a blank in place of a
 /// line end, and without blanks at both ends.
@@ -114,5 +239,11 @@ Text OneLine(TextView text);
 /// several stand, without blanks at both ends of a line and without empty lines at both ends of the
 /// text. They end in CR LF.
 Text TidyLines(TextView text);
+
+/// The same, with one empty line where several stand.
+Text TidyParagraphs(TextView text);
+
+FieldTexts TextsOf(const BlockParagraphs& paragraphs);
+void SetField(BlockParagraphs& paragraphs, const FieldTexts& texts);
 
 } // namespace orvane

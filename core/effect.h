@@ -5,6 +5,7 @@
 #include "core/surroundings.h"
 
 #include <optional>
+#include <variant>
 
 namespace orvane {
 
@@ -86,6 +87,19 @@ EffectPayload PayloadOf(const Effect& effect, const Surroundings& surroundings)
         return Generate(effect, surroundings);
     else
         return Generate(effect);
+}
+
+/// What a wizard that ends now would hand over, or what keeps it from that.
+using Deliverable = std::variant<EffectPayload, Complaint>;
+
+/// The same of these fields: checked and tidied as when the wizard ends.
+template <class Effect>
+Deliverable DeliverableOf(Effect effect, const Surroundings& surroundings)
+{
+    if (auto complaint = FirstComplaint(effect))
+        return *std::move(complaint);
+    TidyFields(effect);
+    return PayloadOf(effect, surroundings);
 }
 
 } // namespace orvane

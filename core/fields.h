@@ -22,15 +22,25 @@ struct NumberBounds
     bool operator==(const NumberBounds&) const = default;
 };
 
+/// Which of a number's bounds keeps a page calm: the author may go beyond it, and gets the bound.
+enum class CalmBound
+{
+    None,
+    Least,
+    Most,
+};
+
 /// The name of a field of an effect, which is the object name of its control as well, and what else
 /// is known of the field whatever its value is.
 struct FieldName
 {
     ControlName Name;
-    bool IsSecret = false;               ///< its value is never kept in a draft
-    bool IsContent = false;              ///< stands in a block's content, not in an attribute
-    bool IsColor = false;                ///< what CSS takes; empty or "-": as on the page
-    std::optional<NumberBounds> Bounds;  ///< of a number, also of one that is kept as typed
+    bool IsSecret = false;              ///< its value is never kept in a draft
+    bool IsContent = false;             ///< stands in a block's content, not in an attribute
+    bool IsSource = false;              ///< full path of a file, which stands in no page
+    bool IsColor = false;               ///< what CSS takes; empty or "-": as on the page
+    std::optional<NumberBounds> Bounds; ///< of a number, also of one that is kept as typed
+    CalmBound Calm = CalmBound::None;
     std::span<const TextView> Choices{}; ///< the words that it may hold; empty: any
     /// Of rows: the names under which a draft keeps their second field and those that follow.
     /// Empty: it keeps all fields under `Name`, one row after the other.
@@ -63,11 +73,36 @@ constexpr FieldName ContentField(const char* name)
     return field;
 }
 
+/// The name of the full path of a file that a block names beside its page.
+constexpr FieldName SourceField(const char* name)
+{
+    FieldName field = ContentField(name);
+    field.IsSource = true;
+    return field;
+}
+
 /// The name of a number with its bounds.
 constexpr FieldName NumberField(const char* name, double least, double most)
 {
     FieldName field(name);
     field.Bounds = NumberBounds{least, most};
+    return field;
+}
+
+/// The name of a number, one of whose bounds keeps the page calm.
+constexpr FieldName CalmField(const char* name, double least, double most,
+                              CalmBound calm = CalmBound::Least)
+{
+    FieldName field = NumberField(name, least, most);
+    field.Calm = calm;
+    return field;
+}
+
+/// The name of a list of so many colours.
+constexpr FieldName ColorsField(const char* name, double least, double most)
+{
+    FieldName field = NumberField(name, least, most);
+    field.IsColor = true;
     return field;
 }
 

@@ -46,6 +46,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
         .Description =
             u"This wizard helps you to make rotating banners and billboards, step by step.",
         .OtherWords = u"advertisement, ads, rotator, carousel, applet",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "BBWizard",
         .MarkerName = u"Animation",
         .Files = FilesNeeded::Always,
@@ -106,6 +108,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
             u"Create buttons that animate when the user's mouse moves over them or clicks on "
             u"them.  The buttons can be linked to a Web page when the user clicks on them.",
         .OtherWords = u"rollover, hover, mouseover, navigation",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "AnimButton",
         .MarkerName = u"Animated Button",
         .Files = FilesNeeded::Always,
@@ -120,6 +124,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
             u"Create images that change another image on your Web page when the user's mouse "
             u"moves over them and displays a new Web page when the user clicks on them.",
         .OtherWords = u"mouseover, hover, swap image, thumbnail, gallery, navigation",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "ImgRollover",
         .MarkerName = u"Image Rollover",
         .Files = FilesNeeded::Always,
@@ -149,6 +155,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
             u"Display a random image on your Web page.  Great effect for displaying advertising "
             u"banners and for making your Web site look fresh and new!",
         .OtherWords = u"picture, photo, ads, rotator, picture of the day, shuffle",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmRandom",
         .MarkerName = u"Random Image",
         .Files = FilesNeeded::Always,
@@ -164,7 +172,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
             u"Create falling or floating images (like snowflakes) on your Web page using this "
             u"special effect.",
         .OtherWords =
-            u"snow, flakes, rain, leaves, confetti, christmas, winter, hearts, balloons, bubbles, picture",
+            u"snow, flakes, rain, leaves, confetti, christmas, winter, hearts, balloons, bubbles, "
+            u"picture",
         .InTodaysBrowsers = byItself,
         .RunsByItself = true,
         .Form = "frmFallingSnow",
@@ -208,7 +217,9 @@ inline constexpr CatalogueRow imageEffectRows[] = {
         .Description =
             u"Show what people or pets in your photos are thinking with these pop-up Thought "
             u"Bubbles.",
-        .OtherWords = u"speech, comic, balloon, cartoon, hover",
+        .OtherWords = u"speech, comic, balloon, cartoon, hover, photo, pets",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmBubbleText",
         .MarkerName = u"Thought Bubbles",
         .Files = FilesNeeded::Always,
@@ -222,6 +233,8 @@ inline constexpr CatalogueRow imageEffectRows[] = {
         .Title = u"Image Filmstrip Scroller",
         .Description = u"Create a scrolling filmstrip of your favorite images!",
         .OtherWords = u"gallery, marquee, photo, pictures, carousel",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmImageScroller",
         .MarkerName = u"Image Scroller",
         .Files = FilesNeeded::Always,

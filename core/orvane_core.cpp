@@ -33,6 +33,18 @@ void ReadClassesRootValue(OrvaneCore& core, Shell& shell)
         core.IEVersion = *std::move(command);
 }
 
+void SetModes(OrvaneCore& core, std::string_view menuCommand)
+{
+    if (menuCommand == "mnuRandomImage")
+        core.RandomMode = u"image";
+    else if (menuCommand == "mnuRandomQuote")
+        core.RandomMode = u"quote";
+    else if (menuCommand == "mnuImageTransitions")
+        core.TransitionsImageMode = true;
+    else if (menuCommand == "mnuTextTransitions")
+        core.TransitionsImageMode = false;
+}
+
 void BrowseDialog(OrvaneCore& core, Dialogs& dialogs, const FileRequest& request)
 {
     if (const auto path = dialogs.OpenFile(request))

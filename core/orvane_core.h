@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <variant>
 
 namespace orvane {
@@ -55,11 +56,11 @@ struct OrvaneCore
     Text LastSoundFolder;     ///< where Browse found a sound last
     Text BrowserPathChoice;   ///< the program that BrowseDialog() picked last
     frmCmnDlg CommonDialog;   ///< for every CFile
-    /// "image" or "quote". The command of Random Image or Random Quote will set it and their one
-    /// window, frmRandom, read it as soon as those effects are here.
+    /// "image" or "quote", set by the commands of Random Image and Random Quote for their one
+    /// window, frmRandom.
     Text RandomMode;
-    /// The command of Image Transitions will set it and the window TextTransitions read it, as soon
-    /// as that effect is here: it then works on an image and not on text.
+    /// Set by the command of Image Transitions for the window TextTransitions, which then works on
+    /// images and not on texts; cleared by that of Text Transitions.
     bool TransitionsImageMode = false;
     Text ProgramFolder; ///< without a separator at its end
 };
@@ -80,6 +81,9 @@ RegistryVariant AfterRegistryRead(const RegistryVariant& current, const Registry
 /// Reads the command of the desktop's default browser into IEVersion, as if the classes root of a
 /// registry held it; empties it where the desktop names none.
 void ReadClassesRootValue(OrvaneCore& core, Shell& shell);
+
+/// Sets the modes that a command of the catalogue sets before it shows its window.
+void SetModes(OrvaneCore& core, std::string_view menuCommand);
 
 /// Shows the Open dialog and stores the picked path in BrowserPathChoice; Cancel stores nothing.
 void BrowseDialog(OrvaneCore& core, Dialogs& dialogs, const FileRequest& request);

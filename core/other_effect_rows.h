@@ -32,6 +32,8 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Fades the Web page background from one color to another color.  This effect can be "
             u"set to occur when the Web page loads and exits.",
         .OtherWords = u"colour, fade-in, fade-out, page background, transition",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "Fade",
         .MarkerName = u"Color Fade",
         .ScriptedHelp = true,
@@ -102,6 +104,10 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Use this special effect to have your Web page play a sound file when it loads and a "
             u"different sound file when the user exits the Web page.",
         .OtherWords = u"music, audio, midi, wav, noise, background",
+        .InTodaysBrowsers =
+            u"Runs in today's browsers by itself; most of them play the sound only after the "
+            u"visitor's first click or key.",
+        .RunsByItself = true,
         .Form = "Sound",
         .MarkerName = u"Sound",
         .Files = FilesNeeded::Always,
@@ -115,7 +121,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .Picture = u"scrolling_credits",
         .Title = u"Scrolling Credits",
         .Description = u"Create a Web page that scrolls like the credits at the end of a movie.",
-        .OtherWords = u"film, end titles, marquee, roll",
+        .OtherWords = u"film, movie, end titles, marquee, roll, scroll up",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "Credits",
         .MarkerName = u"Scrolling Credits",
         .ScriptedHelp = true,
@@ -151,6 +159,10 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Choose from 24 different Web page transitions that will dazzle you when you load "
             u"and exit your Web page.",
         .OtherWords = u"wipe, dissolve, reveal, enter, leave",
+        .InTodaysBrowsers =
+            u"Runs in today's browsers by itself: those that have page transitions show them, the "
+            u"others a plain cover.",
+        .RunsByItself = true,
         .Form = "PageTransitions",
         .MarkerName = u"Page Transitions",
         .ScriptedHelp = true,
@@ -166,7 +178,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .BlockPreview =
             PreviewWords{
                 .After = u"<p>A page transition shows when a visitor goes from one page to another "
-                         u"and both have it, so this page alone does not show it.</p>"},
+                         u"and both have it, so this page alone does not show it.  Click the "
+                         u"<b>Refresh</b> button to see how the page comes in browsers that have "
+                         u"no page transitions.</p>"},
     },
     {
         .Kind = EffectKind::PopupWindow,
@@ -195,7 +209,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Make your Web page greet visitors with their names or personalized greetings like "
             u"'Hello, Jim!', display how many times the user has visited and the date/time of "
             u"their last visit.",
-        .OtherWords = u"visitor, counter, cookie, welcome, greeting, hello",
+        .OtherWords = u"visitor, counter, cookie, welcome, greeting, hello, name",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmPersonalize",
         .MarkerName = u"Personalize",
         .ScriptedHelp = true,
@@ -225,6 +241,8 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Make your browser window shake like an earthquake!  Great for grabbing people's "
             u"attention when used as an advertisment window.",
         .OtherWords = u"shaking, quake, rumble, vibrate, tremble",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmEarthquake",
         .MarkerName = u"Browser Window Earthquake",
         .ScriptedHelp = true,
@@ -247,6 +265,8 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .Description =
             u"Place a Day Calendar on your Web page to display the current month, day and date.",
         .OtherWords = u"today, diary, clock",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmDayCalendar",
         .MarkerName = u"Day Calendar",
         .ReplaceInBody = true,
@@ -271,9 +291,9 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .BlockPreview =
             PreviewWords{
                 .After =
-                    u"<p align=left>This page is larger than its window, so that its scrollbars show.  "
-                    u"Browsers that show scrollbars only while the page moves have no colors for "
-                    u"them.</p><div style=\"width:200vw;height:200vh\"></div>"},
+                    u"<p align=left>This page is larger than its window, so that its scrollbars "
+                    u"show.  Browsers that show scrollbars only while the page moves have no "
+                    u"colors for them.</p><div style=\"width:200vw;height:200vh\"></div>"},
     },
     {
         .Kind = EffectKind::SlidingMessage,
@@ -284,12 +304,18 @@ inline constexpr CatalogueRow otherEffectRows[] = {
             u"Create a sliding instant message popup window to display a message that links to "
             u"another Web page!  Behaves just like an Instant Messenger window!",
         .OtherWords = u"pop-up, chat, notification, slide in",
+        .InTodaysBrowsers = byItself,
+        .RunsByItself = true,
         .Form = "frmSlidingIMWindow",
         .MarkerName = u"Sliding Instant Message Window",
         .ScriptedHelp = true,
         .Preview =
             {.After = u"This is a preview of the Sliding Instant Message Window.  The window will "
                       u"slide into view from the lower right-hand corner of your screen."},
+        .BlockPreview =
+            PreviewWords{
+                .After = u"<p>The Sliding Instant Message Window slides into its corner of this "
+                         u"page.  (This text will not appear in your special effect).</p>"},
     },
     {
         .Kind = EffectKind::SearchBox,

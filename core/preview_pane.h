@@ -18,7 +18,41 @@ struct PanePage
     bool RunsInStatus = false; ///< the effect shows in the status line, outside the page
 };
 
-/// The embedded browser of the delivery wizard's first page.
+/// A file that a live page finds under a name beside it, wherever it lies.
+struct PaneFile
+{
+    Text Name;
+    Text Path;              ///< its full path; empty: it lies nowhere and holds these bytes
+    std::string Bytes = {}; ///< unless it has a path
+    bool operator==(const PaneFile&) const = default;
+};
+
+/// How the author looks at a live page.
+struct PaneView
+{
+    int Width = 0; ///< of the window that the page sees, in pixels; 0: that of the pane
+    bool HasReducedMotion = false; ///< the page is told that its visitor wants less motion
+    bool RunsScript = true;
+    bool operator==(const PaneView&) const = default;
+};
+
+/// A page that the pane shows while it changes. It needs no file: the pane itself answers for what
+/// the page reads.
+struct LivePage
+{
+    Text Name;                   ///< its file name, for links to itself
+    std::string Bytes;           ///< what a file of it would hold
+    Text Folder;                 ///< full path; the page can read what lies in it or below it
+    std::vector<PaneFile> Files; ///< and these, in front of files of the same names there
+    Text Note;                   ///< as in PanePage
+    bool RunsInStatus = false;   ///< as in PanePage
+    Text Mark;                   ///< the words of the comment in front of the effect
+    bool ScrollsToMark = false;  ///< false: it is scrolled as the page before it was
+    PaneView View = {};
+    bool operator==(const LivePage&) const = default;
+};
+
+/// The embedded browser, which is shown beside a wizard and on the delivery wizard's first page.
 class PreviewPane
 {
 public:
@@ -32,6 +66,11 @@ public:
     /// From now on keeps the page file for the author's browser, which may read it at any time: the
     /// pane neither deletes nor overwrites it until Clear().
     virtual void LeaveFile() = 0;
+
+    /// Shows the page in place of the one before it as soon as it is drawn. While it is not, the
+    /// newest of the pages that come meanwhile follows it, and the others are left out. No sound
+    /// plays, no window and no box comes up by itself.
+    virtual void ShowLive(const LivePage& page) = 0;
 
     /// Unloads the page, with its sounds and windows, and ends what LeaveFile() began.
     virtual void Clear() = 0;

@@ -43,6 +43,11 @@ inline constexpr SettingKey overrideTick{u"Misc", u"Override", u"0"};
 /// Names of menu commands with a blank between two.
 inline constexpr SettingKey favorites{u"Catalogue", u"Favorites"};
 inline constexpr SettingKey recentEffects{u"Catalogue", u"Recent"};
+/// The live preview beside wizards: "1" when it is folded away, its width in pixels, and the full
+/// path of the page that it shows effects in, or empty for an empty page.
+inline constexpr SettingKey previewFolded{u"Preview", u"Folded", u"0"};
+inline constexpr SettingKey previewWidth{u"Preview", u"Width", u"420"};
+inline constexpr SettingKey previewPage{u"Preview", u"Page"};
 /// The author's address, as another program of the same makers stores it.
 inline constexpr SettingKey emailAddress{u"Miscellaneous", u"EmailAddress", {}, u"Page Loom"};
 

@@ -1,6 +1,6 @@
 #include "delivery/bring_back_form.h"
 
-#include "delivery/page_requests.h"
+#include "services/page_requests.h"
 #include "services/recent_files.h"
 #include "windows/plain_tip.h"
 #include "windows/recent_menu.h"

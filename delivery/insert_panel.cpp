@@ -1,9 +1,9 @@
 #include "delivery/insert_panel.h"
 
 #include "core/file_names.h"
-#include "delivery/page_requests.h"
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
+#include "services/page_requests.h"
 #include "services/recent_files.h"
 #include "windows/file_drop.h"
 #include "windows/page_builder.h"

@@ -2,8 +2,8 @@
 
 #include "core/file_names.h"
 #include "delivery/manual_copy.h"
-#include "delivery/page_requests.h"
 #include "services/folder_memory.h"
+#include "services/page_requests.h"
 #include "services/recent_files.h"
 #include "windows/folder_boxes.h"
 #include "windows/page_builder.h"

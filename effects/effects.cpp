@@ -32,11 +32,6 @@ std::optional<AnyEffect> FirstOfKind(EffectKind kind)
 
 } // namespace
 
-bool HasWizard(EffectKind kind)
-{
-    return AnyEffect::Fresh(kind).has_value();
-}
-
 std::optional<AnyEffect> AnyEffect::Fresh(EffectKind kind)
 {
     return FirstOfKind(kind);

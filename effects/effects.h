@@ -8,23 +8,45 @@
 #include "effects/applet/more_image_effects.h"
 #include "effects/applet/typewriter_text.h"
 #include "effects/page/all_in_one_button.h"
+#include "effects/page/animated_button.h"
 #include "effects/page/animation_wizard.h"
 #include "effects/page/anti_spam_link.h"
+#include "effects/page/background_fade.h"
+#include "effects/page/banner_wizard.h"
 #include "effects/page/color_scrollbars.h"
 #include "effects/page/cursor_trail.h"
+#include "effects/page/day_calendar.h"
 #include "effects/page/dynamic_button.h"
+#include "effects/page/earthquake.h"
 #include "effects/page/falling_images.h"
+#include "effects/page/image_rollover.h"
+#include "effects/page/image_scroller.h"
+#include "effects/page/page_transitions.h"
 #include "effects/page/password_protection.h"
+#include "effects/page/personalize.h"
 #include "effects/page/popup_alert.h"
 #include "effects/page/popup_window.h"
 #include "effects/page/pulldown_menu.h"
+#include "effects/page/random_image.h"
+#include "effects/page/scrolling_credits.h"
 #include "effects/page/search_box.h"
 #include "effects/page/slideshow.h"
+#include "effects/page/sliding_message.h"
+#include "effects/page/sound_effect.h"
+#include "effects/page/thought_bubbles.h"
 #include "effects/text/digital_clock.h"
 #include "effects/text/fading_message.h"
+#include "effects/text/flashing_text.h"
 #include "effects/text/flying_text.h"
+#include "effects/text/navigator_ticker.h"
+#include "effects/text/random_quote.h"
+#include "effects/text/shaking_text.h"
 #include "effects/text/smooth_scroll.h"
 #include "effects/text/status_bar_ticker.h"
+#include "effects/text/swirly_text.h"
+#include "effects/text/text_button.h"
+#include "effects/text/text_effects.h"
+#include "effects/text/text_transitions.h"
 #include "effects/text/tooltips.h"
 #include "effects/text/vertical_scroller.h"
 
@@ -36,14 +58,15 @@ namespace orvane {
 
 /// The parameters of all effects, each named once.
 using EffectParameters =
-    std::variant<AdvancedAnimator, AllInOneButton, AnimationWizard, AntiSpamLink, ColorScrollbars,
-                 CursorTrail, DigitalClock, DynamicButton, FadingMessage, FallingImages, FlyingText,
-                 ImageEffects, ImageFade, MoreImageEffects, PasswordProtection, PopupAlert,
-                 PopupWindow, PulldownMenu, SearchBox, Slideshow, SmoothScroll, StatusBarTicker,
-                 Tooltips, TypewriterText, VerticalScroller>;
-
-/// Whether there is an effect of that kind, and so a wizard for it.
-bool HasWizard(EffectKind kind);
+    std::variant<AdvancedAnimator, AllInOneButton, AnimatedButton, AnimationWizard, AntiSpamLink,
+                 BackgroundFade, BannerWizard, ColorScrollbars, CursorTrail, DayCalendar,
+                 DigitalClock, DynamicButton, Earthquake, FadingMessage, FallingImages,
+                 FlashingText, FlyingText, ImageEffects, ImageFade, ImageRollover, ImageScroller,
+                 MoreImageEffects, NavigatorTicker, PageTransitions, PasswordProtection,
+                 Personalize, PopupAlert, PopupWindow, PulldownMenu, RandomImage, RandomQuote,
+                 ScrollingCredits, SearchBox, ShakingText, Slideshow, SlidingMessage, SmoothScroll,
+                 SoundEffect, StatusBarTicker, SwirlyText, TextButton, TextEffects, TextTransitions,
+                 ThoughtBubbles, Tooltips, TypewriterText, VerticalScroller>;
 
 /// One effect, whichever it is, with everything that can be done with it without its window.
 class AnyEffect
@@ -52,7 +75,7 @@ public:
     explicit AnyEffect(EffectParameters parameters) : m_parameters(std::move(parameters)) {}
 
     /// A fresh effect of that kind, without what earlier ones left in the settings; nothing where
-    /// HasWizard() is false.
+    /// there is none.
     static std::optional<AnyEffect> Fresh(EffectKind kind);
 
     const EffectParameters& Parameters() const { return m_parameters; }

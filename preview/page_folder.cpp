@@ -34,4 +34,20 @@ bool PageFolder::Holds(TextView path) const
            std::ranges::find(m_files, FromUtf8(resolved.filename().string())) != m_files.end();
 }
 
+std::optional<Text> FileBelow(TextView folder, TextView name)
+{
+    const std::filesystem::path root = Resolved(ToUtf8(folder));
+    const std::filesystem::path file = Resolved(root / ToUtf8(name));
+    std::error_code error;
+    if (folder.empty() || root.empty() || !std::filesystem::is_regular_file(file, error))
+        return std::nullopt;
+    const std::filesystem::path way = file.lexically_relative(root);
+    const bool isHidden = std::ranges::any_of(
+        way, [](const std::filesystem::path& part) { return part.string().starts_with('.'); });
+    Text path = FromUtf8(file.string());
+    if (way.empty() || isHidden || EndsWithIgnoringCase(path, u".cgi"))
+        return std::nullopt;
+    return path;
+}
+
 } // namespace orvane

@@ -3,6 +3,7 @@
 #include "core/text.h"
 
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 namespace orvane {
@@ -26,5 +27,10 @@ private:
     std::filesystem::path m_folder;
     std::vector<Text> m_files;
 };
+
+/// The full path, with all links resolved, of the file with that name in the folder or below it.
+/// Nothing for one that is not there or lies elsewhere, for hidden ones, and for scripts of a Web
+/// server, which may hold passwords.
+std::optional<Text> FileBelow(TextView folder, TextView name);
 
 } // namespace orvane

@@ -21,13 +21,15 @@ constexpr MarkNote markNotes[] = {
                  u"effect in a browser that runs them."},
 };
 
+using FileQuestion = std::function<bool(const Text& name)>;
+
 /// The files that the effect needs beside its page and that do not lie there, with commas between.
-Text MissingNames(const EffectPayload& effect, const FileStore& files, TextView folder)
+Text MissingNames(const EffectPayload& effect, const FileQuestion& isThere)
 {
     std::vector<Text> names;
     const auto add = [&](const Text& needed) {
         const auto name = NameBesidePage(needed);
-        if (name && !files.FileExists(PathIn(folder, *name)))
+        if (name && !isThere(*name))
             names.push_back(*name);
     };
     std::ranges::for_each(effect.Required.RequiredFileNames, add);
@@ -42,18 +44,31 @@ void AddSentence(Text& note, TextView words)
     note += words;
 }
 
-} // namespace
-
-Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextView folder)
+/// The note, which begins its list of missing files with `missing`.
+Text NoteOf(const FinishedPayload& payload, const FileQuestion& isThere, TextView missing)
 {
     const EffectPayload& effect = payload.Effect;
     Text note;
     for (const auto& [mark, words] : markNotes)
         if (!payload.WantsPageScript && FindIgnoringCase(effect.BODYHTML, mark) != 0)
             AddSentence(note, words);
-    if (const Text missing = MissingNames(effect, files, folder); !missing.empty())
-        AddSentence(note, Join({u"Not found in ", folder, u": ", missing, u"."}));
+    if (const Text names = MissingNames(effect, isThere); !names.empty())
+        AddSentence(note, Join({missing, names, u"."}));
     return note;
+}
+
+} // namespace
+
+Text PreviewNote(const FinishedPayload& payload, const FileStore& files, TextView folder)
+{
+    return NoteOf(
+        payload, [&](const Text& name) { return files.FileExists(PathIn(folder, name)); },
+        Join({u"Not found in ", folder, u": "}));
+}
+
+Text PreviewNote(const FinishedPayload& payload, const FileQuestion& isThere)
+{
+    return NoteOf(payload, isThere, u"Not found: ");
 }
 
 bool RunsInStatus(const FinishedPayload& payload)

@@ -1,19 +1,15 @@
 #include "preview/qt_preview_pane.h"
 
-#include "core/file_names.h"
-#include "preview/preview_page.h"
+#include "preview/qt_pane_note.h"
+#include "preview/qt_quiet_line.h"
 #include "preview/qt_status_line.h"
 #include "preview/qt_web_view_module.h"
 #include "windows/controls.h"
 #include "windows/qt_text.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QStackedLayout>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace orvane {
 
@@ -22,53 +18,29 @@ namespace {
 constexpr TextView instead =
     u"\r\n\r\nYou can preview the special effect in your own Web browser instead.";
 
-Text OwnPath(TextView path)
-{
-    return PathIn(FolderOf(path), panePageName);
-}
-
 } // namespace
 
 QtPreviewPane::QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent)
     : QWidget(parent),
-      m_files(files),
+      m_file(files),
       m_boxes(dialogs),
       m_outside(dialogs, shell, files),
       m_stack(new QStackedLayout(this)),
-      m_notePage(new QWidget),
+      m_note(new QtPaneNote),
       m_viewPage(new QWidget),
-      lblPreviewNote(new QLabel),
       lblCannotShow(new QLabel),
-      lblPageStatus(new QtStatusLine),
-      cmdTryAgain(new QPushButton("&Try again"))
+      m_quietLine(new QtQuietLine),
+      lblPageStatus(new QtStatusLine)
 {
     BuildViewPage();
-    BuildNotePage();
+    connect(m_note, &QtPaneNote::TryAgainWanted, this, &QtPreviewPane::TryAgain);
     m_stack->addWidget(m_viewPage);
-    m_stack->addWidget(m_notePage);
+    m_stack->addWidget(m_note);
 }
 
 QtPreviewPane::~QtPreviewPane()
 {
     delete m_view; // while this can still hear its last words
-}
-
-void QtPreviewPane::BuildNotePage()
-{
-    lblPreviewNote->setObjectName("lblPreviewNote");
-    lblPreviewNote->setTextFormat(Qt::PlainText);
-    lblPreviewNote->setWordWrap(true);
-    cmdTryAgain->setObjectName("cmdTryAgain");
-    connect(cmdTryAgain, &QPushButton::clicked, this, [this] { TryAgain(); });
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdTryAgain);
-    buttons->addStretch();
-    auto* rows = new QVBoxLayout(m_notePage);
-    rows->addStretch();
-    rows->addWidget(lblPreviewNote);
-    rows->addLayout(buttons);
-    rows->addStretch();
 }
 
 void QtPreviewPane::BuildViewPage()
@@ -81,35 +53,47 @@ void QtPreviewPane::BuildViewPage()
     lblCannotShow->setMargin(4);
     lblCannotShow->setFrameStyle(QFrame::StyledPanel);
     lblCannotShow->hide();
+    connect(m_quietLine, &QtQuietLine::RunWanted, this, [this] { RunLive(false); });
     auto* rows = new QVBoxLayout(m_viewPage);
     rows->setContentsMargins({});
     rows->addWidget(lblCannotShow);
     rows->addStretch();
+    rows->addWidget(m_quietLine);
     rows->addWidget(lblPageStatus);
 }
 
 Done QtPreviewPane::Navigate(const PanePage& page)
 {
     PageRead();
-    PanePage former = std::exchange(m_page, page);
-    if (m_isFileLeft)
-        m_page.Path = OwnPath(page.Path);
-    const Done written = WritePage();
-    if (FaultIn(written)) {
-        m_page = std::move(former);
-        return written;
-    }
-    ShowPage();
-    return {};
+    m_live.reset();
+    m_isQuiet = false;
+    const Done written = m_file.Begin(page);
+    if (!FaultIn(written))
+        ShowPage();
+    return written;
+}
+
+void QtPreviewPane::ShowLive(const LivePage& page)
+{
+    m_live = page;
+    RunLive(true);
+}
+
+/// Shows the live page, from its beginning.
+void QtPreviewPane::RunLive(bool isQuiet)
+{
+    if (!m_live)
+        return;
+    m_isQuiet = isQuiet;
+    ShowNotes(m_live->Note, m_live->RunsInStatus);
+    if (CanShow())
+        m_view->ShowLive(*m_live, isQuiet);
 }
 
 void QtPreviewPane::LeaveFile()
 {
-    if (std::exchange(m_isFileLeft, true))
-        return;
-    m_page.Path = OwnPath(m_page.Path);
     // A page that is still being read goes on under the other name.
-    if (!std::exchange(m_fileGone, true) && !FaultIn(WritePage()))
+    if (m_file.Leave())
         ShowPage();
 }
 
@@ -118,8 +102,10 @@ void QtPreviewPane::Clear()
     if (m_view)
         m_view->Clear();
     lblPageStatus->clear();
+    m_quietLine->hide();
+    m_live.reset();
     PageRead();
-    m_isFileLeft = false;
+    m_file.End();
 }
 
 void QtPreviewPane::Warm()
@@ -129,19 +115,35 @@ void QtPreviewPane::Warm()
 
 void QtPreviewPane::ShowPage()
 {
+    lblPageStatus->clear();
+    const PanePage& page = m_file.Page();
+    ShowNotes(page.Note, page.RunsInStatus);
+    if (CanShow())
+        m_view->ShowPage(page.Path, page.Files);
+    else
+        PageRead();
+}
+
+/// Begins a new page, with what is told beside it.
+void QtPreviewPane::ShowNotes(const Text& note, bool runsInStatus)
+{
     m_boxes.StartPage();
     m_outside.StartPage();
-    lblPageStatus->clear();
-    lblPageStatus->setFrameStyle(m_page.RunsInStatus ? QFrame::Box | QFrame::Plain
-                                                     : QFrame::NoFrame);
-    lblCannotShow->setText(ToQtLines(m_page.Note));
-    lblCannotShow->setVisible(!m_page.Note.empty());
+    m_quietLine->hide();
+    lblPageStatus->setFrameStyle(runsInStatus ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+    lblCannotShow->setText(ToQtLines(note));
+    lblCannotShow->setVisible(!note.empty());
+}
+
+/// Whether there is a view, which is in sight then; otherwise a note says why not.
+bool QtPreviewPane::CanShow()
+{
     if (const auto refusal = LoadView()) {
-        PageRead();
-        return ShowNote(Join({*refusal, instead}), false);
+        ShowNote(Join({*refusal, instead}), false);
+        return false;
     }
     m_stack->setCurrentWidget(m_viewPage);
-    m_view->ShowPage(m_page.Path, m_page.Files);
+    return true;
 }
 
 /// Loads the module and makes its view, once; what stands against it otherwise.
@@ -166,47 +168,55 @@ std::optional<Text> QtPreviewPane::LoadView()
 
 void QtPreviewPane::ShowNote(const Text& words, bool canTryAgain)
 {
-    lblPreviewNote->setText(ToQtLines(words));
-    cmdTryAgain->setVisible(canTryAgain);
-    m_stack->setCurrentWidget(m_notePage);
+    m_note->Tell(words, canTryAgain);
+    m_stack->setCurrentWidget(m_note);
 }
 
 void QtPreviewPane::TryAgain()
 {
-    const Done written = WritePage();
+    if (m_live)
+        return RunLive(true);
+    const Done written = m_file.Put();
     if (const Fault* fault = FaultIn(written))
         return ShowNote(Join({u"The preview page could not be written: ", Words(*fault), u"."}),
                         true);
     ShowPage();
 }
 
-/// Puts the page file in its place, where it is not there any more.
-Done QtPreviewPane::WritePage()
-{
-    if (!m_fileGone)
-        return {};
-    const Done done = m_files.PutPrivate(m_page.Path, m_page.Bytes);
-    m_fileGone = FaultIn(done) != nullptr;
-    return done;
-}
-
 PageBoxReply QtPreviewPane::AnswerBox(const PageBox& box)
 {
-    return m_boxes.Answer(box);
+    if (!m_isQuiet)
+        return m_boxes.Answer(box);
+    m_quietLine->Tell(Join({u"The page shows a box: ", box.Words}));
+    return {};
+}
+
+bool QtPreviewPane::MayOpenWindow()
+{
+    if (m_isQuiet)
+        m_quietLine->Tell(u"The page opens a window.");
+    return !m_isQuiet;
+}
+
+void QtPreviewPane::LivePageShown()
+{
+    // Of a page that ended meanwhile a note told.
+    m_stack->setCurrentWidget(m_viewPage);
+    SetReadingOrder(*window());
+    emit LiveShown();
 }
 
 void QtPreviewPane::PageNeeded()
 {
     // A page that cannot be put back fails to load, and the view shows that.
-    static_cast<void>(WritePage());
+    static_cast<void>(m_file.Put());
 }
 
 void QtPreviewPane::PageRead()
 {
     // The engine puts in the part that takes the keys with its first page.
     SetReadingOrder(*window());
-    if (!std::exchange(m_fileGone, true))
-        static_cast<void>(m_files.Remove(m_page.Path));
+    m_file.Remove();
 }
 
 void QtPreviewPane::StatusWritten(TextView status)
@@ -216,7 +226,11 @@ void QtPreviewPane::StatusWritten(TextView status)
 
 void QtPreviewPane::OutsideWanted(TextView target, bool byAuthor)
 {
-    m_outside.Offer(target, byAuthor);
+    // What the author did not click on is no reason for a box.
+    if (m_isQuiet && !byAuthor)
+        m_quietLine->Tell(Join({u"The page leads out of the preview, to: ", target}), false);
+    else
+        m_outside.Offer(target, byAuthor);
 }
 
 void QtPreviewPane::PageEnded(PageEnd end)

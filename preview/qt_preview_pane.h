@@ -1,35 +1,39 @@
 #pragma once
 
-#include "core/file_store.h"
 #include "core/preview_pane.h"
 #include "preview/outside_links.h"
 #include "preview/page_boxes.h"
+#include "preview/shown_file.h"
 #include "preview/web_view.h"
 
 #include <QWidget>
 
 #include <optional>
-#include <string>
 
 class QLabel;
-class QPushButton;
 class QStackedLayout;
 
 namespace orvane {
 
+class QtPaneNote;
+class QtQuietLine;
 class QtStatusLine;
 
 /// The preview pane: the web view, above it a note on what it cannot show, and below it the status
-/// line of the page. Where nothing can be shown, a note in its place says why and what the author
-/// can do.
+/// line of the page. Of a live page that wants to show a box or a window, a line says so, with a
+/// link that runs it with them. Where nothing can be shown, a note in its place says why and what
+/// the author can do.
 class QtPreviewPane : public QWidget, public PreviewPane, private WebViewOwner
 {
+    Q_OBJECT
+
 public:
     QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent = nullptr);
     ~QtPreviewPane() override;
 
     /// As PreviewPane says; a note stands in place of the page when the web view cannot be used.
     [[nodiscard]] Done Navigate(const PanePage& page) override;
+    void ShowLive(const LivePage& page) override;
     void LeaveFile() override;
     void Clear() override;
 
@@ -39,38 +43,43 @@ public:
     /// The web view; null until it is loaded.
     WebView* View() const { return m_view; }
 
+signals:
+    /// A live page has taken the place of the page before it.
+    void LiveShown();
+
 private:
     PageBoxReply AnswerBox(const PageBox& box) override;
+    bool MayOpenWindow() override;
+    void LivePageShown() override;
     void PageNeeded() override;
     void PageRead() override;
     void StatusWritten(TextView status) override;
     void OutsideWanted(TextView target, bool byAuthor) override;
     void PageEnded(PageEnd end) override;
 
-    void BuildNotePage();
     void BuildViewPage();
     void ShowNote(const Text& words, bool canTryAgain);
     void ShowPage();
+    void RunLive(bool isQuiet);
+    void ShowNotes(const Text& note, bool runsInStatus);
+    bool CanShow();
     void TryAgain();
-    [[nodiscard]] Done WritePage();
     std::optional<Text> LoadView();
 
-    FileStore& m_files;
+    ShownFile m_file;
     PageBoxes m_boxes;
     OutsideLinks m_outside;
 
-    PanePage m_page;           ///< as shown; its path is where the file lies now
-    bool m_fileGone = true;    ///< the page file was deleted, or never written
-    bool m_isFileLeft = false; ///< the file under the first name belongs to a browser
+    std::optional<LivePage> m_live; ///< while a live page is shown, and not one of a file
+    bool m_isQuiet = false;         ///< the live page shows no boxes and opens no windows
 
     WebView* m_view = nullptr;
     QStackedLayout* m_stack;
-    QWidget* m_notePage;
+    QtPaneNote* m_note;
     QWidget* m_viewPage;
-    QLabel* lblPreviewNote;
     QLabel* lblCannotShow;
+    QtQuietLine* m_quietLine;
     QtStatusLine* lblPageStatus;
-    QPushButton* cmdTryAgain;
 };
 
 } // namespace orvane

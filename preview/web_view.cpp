@@ -1,12 +1,13 @@
 #include "preview/web_view.h"
 
 #include "preview/engine_sandbox.h"
-#include "preview/web_view_page.h"
+#include "preview/web_view_live.h"
+#include "preview/web_view_surface.h"
 #include "windows/qt_text.h"
 
+#include <QStackedLayout>
 #include <QTimer>
 #include <QUuid>
-#include <QVBoxLayout>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineProfile>
 #include <QWebEngineScript>
@@ -50,9 +51,9 @@ QString PreviewScript(const QString& token)
         .arg(token);
 }
 
-/// The view of the module: one engine profile, and a fresh page for each page file, so that nothing
-/// of a page survives it. A spare page stands ready while none is shown: the engine starts its
-/// process meanwhile, and the next preview comes at once.
+/// The view of the module: one engine profile, and in it live pages, or a fresh page for each page
+/// file, so that nothing of a page survives it. A spare page stands ready while none is shown: the
+/// engine starts its process meanwhile, and the next preview comes at once.
 class EngineView : public WebView
 {
 public:
@@ -65,9 +66,7 @@ public:
           m_view(m_context, this)
     {
         SetUpProfile();
-        auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins({});
-        layout->addWidget(&m_view);
+        m_stack->addWidget(&m_view);
         setFocusProxy(&m_view);
         MakePage();
     }
@@ -75,6 +74,7 @@ public:
     ~EngineView() override
     {
         m_context.CloseWindows();
+        delete m_live;
         delete m_page;
     }
 
@@ -84,9 +84,26 @@ public:
             if (!m_isSpare)
                 MakePage();
             m_isSpare = false;
+            Show(m_view);
+            if (m_live != nullptr)
+                m_live->Clear();
             m_guard.SetFolder(PageFolder(path, files));
             m_context.Page = QUrl::fromLocalFile(ToQt(path));
             m_page->load(m_context.Page);
+        });
+    }
+
+    void ShowLive(const LivePage& page, bool isQuiet) override
+    {
+        Turn([this, page, isQuiet] {
+            if (!m_isSpare)
+                MakePage();
+            if (m_live == nullptr) {
+                m_live = new LiveView(m_profile, m_guard, m_context.Owner, m_context.Token);
+                m_stack->addWidget(m_live);
+            }
+            Show(*m_live);
+            m_live->Show(page, isQuiet);
         });
     }
 
@@ -95,14 +112,16 @@ public:
         Turn([this] {
             if (!m_isSpare)
                 MakePage();
+            if (m_live != nullptr)
+                m_live->Clear();
         });
     }
 
-    std::int64_t RendererPid() const override { return m_page->renderProcessPid(); }
+    std::int64_t RendererPid() const override { return ShownPage().renderProcessPid(); }
 
     void Evaluate(const QString& script, std::function<void(const QVariant&)> result) override
     {
-        m_page->runJavaScript(script, result);
+        ShownPage().runJavaScript(script, result);
     }
 
 private:
@@ -111,13 +130,17 @@ private:
     void MakePage();
     void EndPage(PageEnd end);
     void Turn(std::function<void()> toNext);
+    void Show(QWidget& part);
+    QWebEnginePage& ShownPage() const;
 
     FolderGuard m_guard;
     QWebEngineProfile m_profile; ///< without a name: it leaves nothing on the disk
     PageContext m_context;
     PageView m_view;
+    QStackedLayout* m_stack = new QStackedLayout(this);
     PreviewWebPage* m_page = nullptr;
-    bool m_isSpare = false; ///< nothing was shown in the page yet
+    LiveView* m_live = nullptr; ///< made for the first live page
+    bool m_isSpare = false;     ///< nothing was shown in the page yet
 };
 
 void EngineView::SetUpProfile()
@@ -190,11 +213,24 @@ void EngineView::EndPage(PageEnd end)
 {
     // The page itself is still on the stack.
     QTimer::singleShot(0, this, [this, end, ended = m_page] {
-        if (m_page != ended)
+        if (m_page != ended || m_isSpare)
             return;
         Clear();
         m_context.Owner.PageEnded(end);
     });
+}
+
+void EngineView::Show(QWidget& part)
+{
+    m_stack->setCurrentWidget(&part);
+    setFocusProxy(&part);
+}
+
+QWebEnginePage& EngineView::ShownPage() const
+{
+    if (m_live != nullptr && m_stack->currentWidget() == m_live)
+        return m_live->Page();
+    return *m_page;
 }
 
 /// Goes on to the next page, or none, but not while a box of this one waits for its answer.
@@ -226,6 +262,7 @@ extern "C" Q_DECL_EXPORT orvane::WebView* OrvaneMakeWebView(orvane::WebViewOwner
         refusal = u"The built-in preview could not be cut off from the network.";
         return nullptr;
     }
+    orvane::RegisterLiveScheme();
     // Without this, a view in a module loaded after the application's start crashes.
     QtWebEngineQuick::initialize();
     return new orvane::EngineView(owner, parent);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/text.h"
+#include "core/preview_pane.h"
 #include "preview/web_view_owner.h"
 
 #include <QVariant>
@@ -23,10 +23,15 @@ public:
     /// before is unloaded, and the windows that it opened close.
     virtual void ShowPage(TextView path, const std::vector<Text>& files) = 0;
 
+    /// Loads the live page behind the page that is shown, and shows it in place of that once it is
+    /// drawn. While one is loaded, only the newest of those that come meanwhile follows it. A quiet
+    /// page is not heard until the author clicks or types in it.
+    virtual void ShowLive(const LivePage& page, bool isQuiet) = 0;
+
     /// Unloads the page, with its sounds and windows.
     virtual void Clear() = 0;
 
-    /// The id of the render process; 0 when there is none.
+    /// The id of the render process of the page that is shown; 0 when there is none.
     virtual std::int64_t RendererPid() const = 0;
 
     /// Runs a script in the page and hands its value to `result`. For tests alone.

@@ -21,6 +21,12 @@ public:
     /// Shows a box of the page and gives the author's answer; the page waits meanwhile.
     virtual PageBoxReply AnswerBox(const PageBox& box) = 0;
 
+    /// Whether the page may open a window; called for each one that it wants.
+    virtual bool MayOpenWindow() = 0;
+
+    /// A live page has taken the place of the page before it.
+    virtual void LivePageShown() = 0;
+
     /// The page file is about to be read, for the first time or again, and must exist.
     virtual void PageNeeded() = 0;
 
@@ -35,7 +41,7 @@ public:
     /// author has clicked or typed in the page since the last such call.
     virtual void OutsideWanted(TextView target, bool byAuthor) = 0;
 
-    /// The page no longer runs, and the view is empty.
+    /// The page no longer runs, and the view is empty or shows the last picture of it.
     virtual void PageEnded(PageEnd end) = 0;
 };
 

@@ -1,8 +1,9 @@
 #include "preview/web_view_page.h"
 
+#include "preview/web_view_scheme.h"
+#include "preview/web_view_surface.h"
 #include "windows/qt_text.h"
 
-#include <QChildEvent>
 #include <QCloseEvent>
 #include <QShortcut>
 #include <QTimer>
@@ -11,6 +12,7 @@
 #include <QWebEngineFullScreenRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineQuotaRequest>
+#include <QWebEngineScript>
 #include <QWebEngineUrlRequestInfo>
 
 #include <algorithm>
@@ -22,6 +24,10 @@ namespace {
 
 constexpr QSize windowSize(480, 360);
 constexpr std::size_t mostWindows = 10;
+constexpr int drawnAtLastMs = 1000;
+
+/// Behind the token, the report of a page that is drawn.
+constexpr QLatin1String drawnReport("drawn");
 
 /// Whether the address is one that the author's own programs can be asked to open.
 bool IsForOutside(const QUrl& url)
@@ -40,6 +46,8 @@ bool FolderGuard::LetsThrough(const QUrl& url) const
         return true;
     if (scheme == QLatin1String("about"))
         return url.path() == QLatin1String("blank") || url.path() == QLatin1String("srcdoc");
+    if (scheme == QLatin1String(liveScheme))
+        return HasLive(url);
     return scheme == QLatin1String("file") && url.host().isEmpty() &&
            m_folder.Holds(FromQt(url.toLocalFile()));
 }
@@ -95,6 +103,10 @@ PreviewWebPage::PreviewWebPage(QWebEngineProfile& profile, PageContext& context,
           *this, [&context] { return context.BoxOpen; }, [this] { StopHung(); })
 {
     RefusePrivileges();
+    // A window that is not on screen draws nothing.
+    m_drawnAtLast.setSingleShot(true);
+    m_drawnAtLast.setInterval(drawnAtLastMs);
+    connect(&m_drawnAtLast, &QTimer::timeout, this, [this] { Drawn(); });
     connect(this, &QWebEnginePage::newWindowRequested, this, &PreviewWebPage::OpenWindow);
     connect(this, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo& load) {
         if (load.status() != QWebEngineLoadingInfo::LoadStartedStatus &&
@@ -159,6 +171,8 @@ void PreviewWebPage::StopHung()
 PageBoxReply PreviewWebPage::Answer(PageBox::Kind shape, const QString& words,
                                     const QString& proposed)
 {
+    if (m_isLeaving)
+        return {.Accepted = true};
     return m_context.Answer({.Shape = shape, .Words = FromQt(words), .Proposed = FromQt(proposed)});
 }
 
@@ -186,11 +200,37 @@ void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, con
     if (!message.startsWith(m_context.Token))
         return;
     const QString report = message.mid(m_context.Token.size());
+    if (report == drawnReport) {
+        // One that was given up before may still tell of it.
+        if (m_drawnAtLast.isActive()) {
+            m_drawnAtLast.stop();
+            Drawn();
+        }
+        return;
+    }
     const bool isStatus = report.startsWith(u'=');
     if (!isStatus)
         m_watch.Start();
     if (StatusWritten)
         StatusWritten(isStatus ? report.mid(1) : QString());
+}
+
+void PreviewWebPage::Draw(const QString& script)
+{
+    // One that loads itself again and again is drawn at last as well.
+    if (!m_drawnAtLast.isActive())
+        m_drawnAtLast.start();
+    // The engine begins a third frame once the first is on its way to the screen.
+    runJavaScript(QStringLiteral("%1;{let left = 3; const next = () => left-- ?"
+                                 "requestAnimationFrame(next) : console.debug('%2%3'); next()}")
+                      .arg(script, m_context.Token, drawnReport),
+                  QWebEngineScript::ApplicationWorld);
+}
+
+void PreviewWebPage::SetLeaving(bool isLeaving)
+{
+    m_isLeaving = isLeaving;
+    m_drawnAtLast.stop();
 }
 
 QStringList PreviewWebPage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&)
@@ -200,6 +240,8 @@ QStringList PreviewWebPage::chooseFiles(FileSelectionMode, const QStringList&, c
 
 void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
 {
+    if (m_isLeaving || !m_context.Owner.MayOpenWindow())
+        return;
     const QUrl url = request.requestedUrl();
     if (!url.isEmpty() && !MayGoTo(url))
         return OfferOutside(url);
@@ -222,34 +264,6 @@ void PreviewWebPage::OpenWindow(QWebEngineNewWindowRequest& request)
     m_context.Windows.emplace_back(window);
     request.openIn(page);
     window->show();
-}
-
-PageView::PageView(PageContext& context, QWidget* parent)
-    : QWebEngineView(parent), m_context(context)
-{
-    setContextMenuPolicy(Qt::NoContextMenu);
-}
-
-bool PageView::event(QEvent* event)
-{
-    if (event->type() == QEvent::ChildPolished) {
-        // Clicks and keys go to a child that the engine puts in; page windows are children too.
-        auto* child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child());
-        if (child != nullptr && !child->isWindow()) {
-            child->setObjectName("PageSurface");
-            child->setAccessibleName("Preview of the page");
-            child->installEventFilter(this);
-        }
-    }
-    return QWebEngineView::event(event);
-}
-
-bool PageView::eventFilter(QObject* watched, QEvent* event)
-{
-    const QEvent::Type type = event->type();
-    if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress || type == QEvent::TouchBegin)
-        m_context.AuthorActed = true;
-    return QWebEngineView::eventFilter(watched, event);
 }
 
 } // namespace orvane

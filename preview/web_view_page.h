@@ -5,11 +5,12 @@
 #include "preview/web_view_watch.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QUrl>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEnginePage>
 #include <QWebEngineUrlRequestInterceptor>
-#include <QWebEngineView>
+#include <QWidget>
 
 #include <functional>
 #include <vector>
@@ -22,6 +23,9 @@ class FolderGuard : public QWebEngineUrlRequestInterceptor
 {
 public:
     using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+
+    /// Tells of an address with the scheme of live pages whether something is there.
+    std::function<bool(const QUrl&)> HasLive = [](const QUrl&) { return false; };
 
     /// Sets what the page that is shown from now on may read.
     void SetFolder(const PageFolder& folder) { m_folder = folder; }
@@ -81,6 +85,17 @@ public:
     /// page begins.
     std::function<void(const QString&)> StatusWritten;
 
+    /// Called, if set, when Draw() has come to its end.
+    std::function<void()> Drawn;
+
+    /// Lets the page, which is loaded, come on screen; a script runs in it first, apart from its
+    /// own scripts. When the page is drawn, or a while later, Drawn() is called once.
+    void Draw(const QString& script);
+
+    /// A page that is about to be left shows no boxes, opens no windows and is not asked whether it
+    /// may be left.
+    void SetLeaving(bool isLeaving);
+
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
     void javaScriptAlert(const QUrl& origin, const QString& words) override;
@@ -103,21 +118,8 @@ private:
     PageContext& m_context;
     QWidget& m_view;
     AnswerWatch m_watch;
-};
-
-/// A browser view without a context menu, which notes in PageContext::AuthorActed that the author
-/// clicked or typed.
-class PageView : public QWebEngineView
-{
-public:
-    PageView(PageContext& context, QWidget* parent);
-
-protected:
-    bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    PageContext& m_context;
+    QTimer m_drawnAtLast;
+    bool m_isLeaving = false;
 };
 
 } // namespace orvane

@@ -5,7 +5,7 @@
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/effect_windows.h"
-#include "effects/effects.h"
+#include "preview/live_preview_panel.h"
 #include "program/about_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
@@ -38,7 +38,7 @@ void FormDesk::Start()
 
 void FormDesk::ShowMainForm()
 {
-    m_mainForm = std::make_unique<OVMainForm>(m_bench, &HasWizard);
+    m_mainForm = std::make_unique<OVMainForm>(m_bench);
     PrepareMainWindow(m_bench.Core);
     connect(m_mainForm.get(), &OVMainForm::EffectWanted, this,
             [this](EffectKind kind) { OpenEffect(kind); });
@@ -58,10 +58,9 @@ Text FormDesk::ListEffectsOfTags()
 {
     Text list = u"<ul>\n";
     for (const EffectKind kind : EffectsOfTags())
-        if (HasWizard(kind))
-            list += Join({u"<li><a href=\"topic:",
-                          NumberToText(help_topics::firstEffect + static_cast<int>(kind)), u"\">",
-                          FindRow(kind)->Title, u"</a></li>\n"});
+        list += Join({u"<li><a href=\"topic:",
+                      NumberToText(help_topics::firstEffect + static_cast<int>(kind)), u"\">",
+                      FindRow(kind)->Title, u"</a></li>\n"});
     return list + u"</ul>";
 }
 
@@ -77,6 +76,7 @@ void FormDesk::OpenEffect(EffectKind kind, Opening opening)
     if (core.EditMode && std::holds_alternative<FreshStart>(opening))
         opening = PastedTag{{}, core.AppletTextAfterCODE, core.AppletText};
     wizard->Open(opening);
+    AddLivePreview(*wizard, m_bench, m_pane);
     LeadThrough(*wizard);
 }
 
@@ -124,7 +124,7 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
 
 void FormDesk::EditApplet()
 {
-    EditAppletForm form(m_bench, &HasWizard, m_mainForm.get());
+    EditAppletForm form(m_bench, m_mainForm.get());
     ShowModally(form);
     if (const auto wanted = form.Wanted())
         OpenEffect(wanted->Kind, wanted->Tag);

@@ -13,16 +13,14 @@
 
 namespace orvane {
 
-OVMainForm::OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& hasWizard)
-    : m_bench(bench)
+OVMainForm::OVMainForm(Workbench& bench) : m_bench(bench)
 {
     setObjectName(QStringLiteral("OVMain"));
     setWindowTitle(QStringLiteral("Orvane"));
     AddMenus();
-    for (const EffectCommand& command : EffectCommands())
-        findChild<QAction*>(ToQt(command.Name))->setEnabled(hasWizard(command.Kind));
-    auto* catalogue = new CataloguePanel(hasWizard, bench.Settings);
-    connect(catalogue, &CataloguePanel::EffectWanted, this, &OVMainForm::EffectWanted);
+    auto* catalogue = new CataloguePanel(bench.Settings);
+    connect(catalogue, &CataloguePanel::EffectWanted, this,
+            [this](EffectKind kind) { OpenBy(*FindCommand(RowOf(kind).MenuCommand)); });
     setCentralWidget(catalogue);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     RememberPlace(*this, bench.Settings);
@@ -65,7 +63,13 @@ void OVMainForm::AddEffects(QMenu& menu, CataloguePage page)
     for (const EffectCommand& command : EffectCommands())
         if (command.Page == page)
             connect(AddCommand(menu, command.Name, command.Caption), &QAction::triggered, this,
-                    [this, kind = command.Kind] { emit EffectWanted(kind); });
+                    [this, &command] { OpenBy(command); });
+}
+
+void OVMainForm::OpenBy(const EffectCommand& command)
+{
+    SetModes(m_bench.Core, command.Name);
+    emit EffectWanted(command.Kind);
 }
 
 void OVMainForm::closeEvent(QCloseEvent* event)

@@ -5,8 +5,6 @@
 
 #include <QMainWindow>
 
-#include <functional>
-
 class QMenu;
 
 namespace orvane {
@@ -18,8 +16,7 @@ class OVMainForm : public QMainWindow
     Q_OBJECT
 
 public:
-    /// `hasWizard` tells which effects have a wizard; the commands of the others are disabled.
-    OVMainForm(Workbench& bench, const std::function<bool(EffectKind)>& hasWizard);
+    explicit OVMainForm(Workbench& bench);
 
 signals:
     /// The author chose an effect in the catalogue or in a menu.
@@ -35,6 +32,7 @@ protected:
 private:
     void AddMenus();
     void AddEffects(QMenu& menu, CataloguePage page);
+    void OpenBy(const EffectCommand& command);
     void CheckForUpdate();
 
     Workbench& m_bench;

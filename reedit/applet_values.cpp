@@ -74,6 +74,27 @@ Text TagColor(const PastedTag& tag, TextView key)
     return packed ? ColorText(*packed, ColorNotation::Hash) : value;
 }
 
+Text NumberedTagValue(const PastedTag& tag, TextView first, TextView second, int number)
+{
+    const auto value = [&](TextView key) {
+        return TagValue(tag, Join({key, u".", NumberToText(number), u" VALUE="}));
+    };
+    const Text found = value(first);
+    return found.empty() ? value(second) : found;
+}
+
+std::vector<Text> TagImages(const PastedTag& tag)
+{
+    std::vector<Text> images;
+    for (int i = 0; i <= lastNumberOfTag; ++i) {
+        const Text image = TagValue(tag, Join({u"IMAGE.", NumberToText(i), u" VALUE="}));
+        if (image.empty())
+            break;
+        images.push_back(image);
+    }
+    return images;
+}
+
 PipeValues PipeParse(TextView text)
 {
     // Stays as it is: whatever the last piece is, its final character is cut off.

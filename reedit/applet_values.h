@@ -4,6 +4,7 @@
 #include "core/text.h"
 
 #include <array>
+#include <vector>
 
 namespace orvane {
 
@@ -27,6 +28,15 @@ PastedTag WithoutQuotes(PastedTag tag);
 /// The colour that follows `key` as CSS takes it, such as "#FF8000" for "255,128,0"; empty when the
 /// key is missing.
 Text TagColor(const PastedTag& tag, TextView key);
+
+/// The pictures of an animation applet, up to the first number that is missing.
+std::vector<Text> TagImages(const PastedTag& tag);
+
+/// The highest number that a value has of which an applet takes several.
+inline constexpr int lastNumberOfTag = 30;
+
+/// The value of that number, whose key is one of two; empty when both are missing.
+Text NumberedTagValue(const PastedTag& tag, TextView first, TextView second, int number);
 
 /// The pieces of a value of the earlier applet, which joins the entries of a list by "|".
 using PipeValues = std::array<Text, 3>;

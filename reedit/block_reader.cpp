@@ -5,12 +5,11 @@
 #include "insertion/page_markup.h"
 
 #include <algorithm>
-#include <concepts>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
 namespace orvane {
 
@@ -57,6 +56,17 @@ bool IsSameKind(TextView left, TextView right)
            EqualIgnoringCase(Left(left, FindLast(left, u"-")), Left(right, FindLast(right, u"-")));
 }
 
+/// What stands in one item of a list.
+struct ItemRead
+{
+    Text Words;
+    Text Quote; ///< the words without the author
+    Text Author;
+    Text Link;
+    Text Color;
+    BlockPictures Pictures;
+};
+
 /// Collects what stands inside a block's root, in each of the shapes that content can have.
 class ContentReader
 {
@@ -73,49 +83,125 @@ public:
     {
         const Text name = ToLower(FromUtf8(NameOf(tag)));
         if (name == u"li") {
-            m_isInRow = true;
+            m_isInItem = true;
+            m_isInAuthor = false;
             m_link.clear();
-            m_rows.emplace_back();
+            m_items.push_back({.Color = ValueOf(AttributesOf(tag), u"data-color")});
         } else if (name == u"/li" || name == u"/ul") {
-            m_isInRow = false;
+            m_isInItem = false;
+        } else if (name == u"cite" || name == u"/cite") {
+            m_isInAuthor = name == u"cite";
+        } else if (name == u"figcaption" || name == u"/figcaption") {
+            m_isInCaption = name == u"figcaption";
         } else if (name == u"a") {
-            m_link = ValueOf(AttributesOf(tag), u"href");
-            if (m_isInRow && m_rows.back().Link.empty())
-                m_rows.back().Link = m_link;
+            TakeLink(ValueOf(AttributesOf(tag), u"href"));
         } else if (name == u"/a") {
             m_link.clear();
         } else if (name == u"br") {
             Add(u"\n");
         } else if (name == u"p" || name == u"/p" || name == u"div" || name == u"/div") {
             Add(u" ");
+            m_paragraphs += u"\n\n";
+            if (m_isInCaption && !name.starts_with(u'/'))
+                m_figure.Words.emplace_back();
         } else if (name == u"img") {
             TakePicture(AttributesOf(tag));
+        } else if (name == u"audio") {
+            m_sound = ValueOf(AttributesOf(tag), u"src");
         }
     }
 
     BlockContent Content(const BlockContent& shape) const
     {
-        return std::visit(
-            [this](const auto& alternative) -> BlockContent {
-                using Shape = std::remove_cvref_t<decltype(alternative)>;
-                if constexpr (std::same_as<Shape, Text>)
-                    return m_words;
-                else if constexpr (std::same_as<Shape, BlockRows>)
-                    return m_rows;
-                else if constexpr (std::same_as<Shape, BlockPictures>)
-                    return m_pictures;
-                else
-                    return {};
-            },
-            shape);
+        return std::visit([this](const auto& alternative) { return BlockContent(In(alternative)); },
+                          shape);
     }
 
 private:
+    std::monostate In(std::monostate) const { return {}; }
+    Text In(const Text&) const { return m_words; }
+    BlockParagraphs In(const BlockParagraphs&) const { return {m_paragraphs}; }
+    LinkedParagraphs In(const LinkedParagraphs&) const { return {m_paragraphs, m_firstLink}; }
+    BlockRow In(const BlockRow&) const { return {m_words, m_firstLink}; }
+    BlockPictures In(const BlockPictures&) const { return m_pictures; }
+    BlockRows In(const BlockRows&) const
+    {
+        return Items<BlockRow>([](const auto& item) { return BlockRow{item.Words, item.Link}; });
+    }
+    ColoredRows In(const ColoredRows&) const
+    {
+        return Items<ColoredRow>([](const auto& item) {
+            return ColoredRow{item.Words, item.Link, item.Color};
+        });
+    }
+    QuoteRows In(const QuoteRows&) const
+    {
+        return Items<QuoteRow>([](const auto& item) {
+            return QuoteRow{item.Quote, item.Author, item.Link};
+        });
+    }
+    RolloverRows In(const RolloverRows&) const { return Items<RolloverRow>(&RolloverOf); }
+    BlockSound In(const BlockSound&) const { return {m_sound, {}}; }
+    BlockDay In(BlockDay) const { return {}; }
+    BlockButton In(const BlockButton&) const
+    {
+        BlockButton button = m_button;
+        if (!button.AtRest.empty())
+            button.AtRest.front().Link = m_firstLink;
+        return button;
+    }
+    BlockFigure In(const BlockFigure&) const
+    {
+        BlockFigure figure = m_figure;
+        if (!m_pictures.empty())
+            figure.Picture = m_pictures.front();
+        return figure;
+    }
+
+    /// The last picture of an item is the one that is shown; one before it is the trigger.
+    static RolloverRow RolloverOf(const ItemRead& item)
+    {
+        RolloverRow row{.Words = item.Words};
+        if (item.Pictures.empty())
+            return row;
+        row.Picture = item.Pictures.back();
+        row.Picture.Link = item.Link;
+        if (item.Pictures.size() == 1)
+            return row;
+        row.Trigger = item.Pictures.front();
+        if (TidyLines(row.Words).empty())
+            row.Words = row.Trigger.Description;
+        return row;
+    }
+
+    template <class Row, class Make>
+    std::vector<Row> Items(Make make) const
+    {
+        std::vector<Row> rows;
+        std::ranges::transform(m_items, std::back_inserter(rows), make);
+        return rows;
+    }
+
     void Add(TextView text)
     {
         m_words += text;
-        if (m_isInRow)
-            m_rows.back().Words += text;
+        m_paragraphs += text;
+        if (m_isInItem) {
+            ItemRead& item = m_items.back();
+            item.Words += text;
+            (m_isInAuthor ? item.Author : item.Quote) += text;
+        }
+        if (m_isInCaption && !m_figure.Words.empty())
+            m_figure.Words.back() += text;
+    }
+
+    void TakeLink(const Text& link)
+    {
+        m_link = link;
+        if (m_firstLink.empty())
+            m_firstLink = link;
+        if (m_isInItem && m_items.back().Link.empty())
+            m_items.back().Link = link;
     }
 
     void TakePicture(const BlockAttributes& attributes)
@@ -125,6 +211,13 @@ private:
                              .Link = m_link};
         SetPixels(picture.Width, ValueOf(attributes, u"width"));
         SetPixels(picture.Height, ValueOf(attributes, u"height"));
+        if (m_isInItem)
+            m_items.back().Pictures.push_back(picture);
+        const Text state = ValueOf(attributes, u"data-state");
+        (state == u"over"      ? m_button.Over
+         : state == u"pressed" ? m_button.Pressed
+                               : m_button.AtRest)
+            .push_back(picture);
         m_pictures.push_back(std::move(picture));
     }
 
@@ -137,10 +230,17 @@ private:
     }
 
     Text m_words;
-    BlockRows m_rows;
+    Text m_paragraphs;
+    std::vector<ItemRead> m_items;
     BlockPictures m_pictures;
+    BlockFigure m_figure; ///< its words alone
+    BlockButton m_button;
+    Text m_sound;
     Text m_link; ///< of the link that is open
-    bool m_isInRow = false;
+    Text m_firstLink;
+    bool m_isInItem = false;
+    bool m_isInAuthor = false;
+    bool m_isInCaption = false;
 };
 
 /// Reads from behind the root's open tag to its close tag, or to the end of the code.

@@ -2,6 +2,7 @@
 
 #include "services/block_fields.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -19,10 +20,13 @@ std::optional<Block> FindBlock(TextView text, TextView kind, const BlockContent&
 template <class Effect>
 bool ReadBlock(Effect& effect, TextView text)
 {
-    std::optional<Block> block = FindBlock(text, Effect::Block, ContentOf(Effect()));
-    if (block)
-        effect = EffectOf<Effect>(std::move(*block));
-    return block.has_value();
+    const auto read = [&](const Effect& face) {
+        std::optional<Block> block = FindBlock(text, BlockKindOf(face), ContentOf(face));
+        if (block)
+            effect = EffectOf<Effect>(std::move(*block), face);
+        return block.has_value();
+    };
+    return std::ranges::any_of(FacesOf<Effect>(), read);
 }
 
 } // namespace orvane

@@ -1,6 +1,5 @@
 #include "reedit/edit_applet_form.h"
 
-#include "core/catalogue.h"
 #include "reedit/applet_tag.h"
 #include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
@@ -11,8 +10,6 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace orvane {
 
@@ -34,12 +31,8 @@ constexpr std::array<AnimationChoice, animationWizards.size()> animationChoices 
 
 } // namespace
 
-EditAppletForm::EditAppletForm(Workbench& bench, std::function<bool(EffectKind)> isBuilt,
-                               QWidget* parent)
-    : QDialog(parent),
-      m_bench(bench),
-      m_isBuilt(std::move(isBuilt)),
-      m_panels(new QStackedWidget(this))
+EditAppletForm::EditAppletForm(Workbench& bench, QWidget* parent)
+    : QDialog(parent), m_bench(bench), m_panels(new QStackedWidget(this))
 {
     setObjectName(QStringLiteral("EditAppletForm"));
     setWindowTitle(QStringLiteral("Edit Applet"));
@@ -134,13 +127,6 @@ void EditAppletForm::EditChosen()
 
 void EditAppletForm::Open(EffectKind kind)
 {
-    if (!m_isBuilt(kind)) {
-        const CatalogueRow* row = FindRow(kind);
-        return m_bench.Dialogs.Say(
-            Join({u"This version of Orvane has no wizard for the effect \"",
-                  row == nullptr ? TextView() : row->Title,
-                  u"\", so it cannot be edited here.  The code stays as you pasted it."}));
-    }
     m_wanted = {kind, m_tag};
     accept();
 }

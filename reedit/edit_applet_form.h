@@ -6,7 +6,6 @@
 #include <QDialog>
 
 #include <array>
-#include <functional>
 #include <optional>
 
 class QRadioButton;
@@ -25,15 +24,13 @@ struct PastedEffect
 };
 
 /// The window into which the author pastes an applet tag to edit its effect again. It closes with
-/// the effect whose wizard is to open; where there is no such wizard it says so and stays.
+/// the effect whose wizard is to open.
 class EditAppletForm : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `isBuilt` tells whether an effect has a wizard.
-    EditAppletForm(Workbench& bench, std::function<bool(EffectKind)> isBuilt,
-                   QWidget* parent = nullptr);
+    explicit EditAppletForm(Workbench& bench, QWidget* parent = nullptr);
 
     /// What the author wants to edit; nothing when there is no wizard to open.
     const std::optional<PastedEffect>& Wanted() const { return m_wanted; }
@@ -47,7 +44,6 @@ private:
     void Open(EffectKind kind);
 
     Workbench& m_bench;
-    const std::function<bool(EffectKind)> m_isBuilt;
     PastedTag m_tag;
     std::optional<PastedEffect> m_wanted;
     QStackedWidget* m_panels;

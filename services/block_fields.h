@@ -1,11 +1,11 @@
 #pragma once
 
-#include "core/block.h"
-#include "core/complaint.h"
-#include "core/fields.h"
 #include "core/payload.h"
+#include "services/block_values.h"
+#include "services/hints.h"
 
-#include <concepts>
+#include <array>
+#include <map>
 #include <optional>
 #include <span>
 #include <type_traits>
@@ -24,70 +24,13 @@ namespace orvane {
 // and, where it differs from what is said here,
 //
 //   Seen               the pictures that are seen without the script; without it, all
+//   ColorPairs         the colours of texts with those of their grounds; without it, none
 //   Tidy(effect), Generate(effect)   as below
+//   SoundsOf(effect)   its sounds that are no content; without it, none
 //   ContentOf(effect)  its content; without it, the field that is a ContentField
 //   TakeContent(effect, content)   sets the fields of the content; without it, that field
-
-/// The name of the attribute of a field: the control's without its prefix, in small letters, with a
-/// hyphen before each inner capital, behind "data-".
-Text AttributeName(ControlName control);
-
-/// What a number field holds for a text: the number at its start, as a browser's script reads it,
-/// within the bounds; `fresh` where there is none.
-Text MendedNumber(TextView text, const NumberBounds& bounds, TextView fresh);
-
-/// The complaint about a text that is neither empty nor a number within the field's bounds, or
-/// nothing.
-std::optional<Complaint> CheckNumber(const FieldName& field, TextView text);
-
-/// The complaint about a message without words, or nothing.
-std::optional<Complaint> Check(const BlockRow& row);
-
-/// Mends a message as a wizard does: its words in order, its link with what it begins with.
-void Tidy(BlockRow& row);
-
-/// The complaint about a list without messages, or nothing.
-std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control);
-
-/// The complaint about no pictures, more than `most`, or two files of one name, or nothing.
-std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlName control,
-                                       std::size_t most);
-
-/// Whether a colour may stand in a style: nothing in it can end the declaration.
-bool IsStyleColor(TextView color);
-
-/// Mends the value of a field as a wizard does when it ends: texts are put in order, numbers, words
-/// and colours that it cannot hold give way to `fresh`, its value in a fresh window, links that
-/// begin with "www." get "http://" in front, rows and pictures that show nothing go.
-void MendField(const FieldName& field, Text& value, const Text& fresh);
-void MendField(const FieldName& field, int& value, const Text& fresh);
-void MendField(const FieldName& field, BlockRows& rows, const Text& fresh);
-void MendField(const FieldName& field, BlockPictures& pictures, const Text& fresh);
-inline void MendField(const FieldName&, bool&, const Text&) {}
-inline void MendField(const FieldName&, BlockAttributes&, const Text&) {}
-
-/// A link as a wizard mends it.
-Text MendedLink(TextView link);
-
-/// Adds the attribute of a field, unless the script takes its value anyway.
-void AddAttribute(BlockAttributes& attributes, const FieldName& field, const Text& value,
-                  const Text& fresh);
-
-/// Removes the attribute of a field from a block's and gives its value; nothing where it has none.
-std::optional<Text> TakeAttribute(BlockAttributes& attributes, const FieldName& field);
-
-/// Sets a field from its attribute as the block's script understands it.
-void SetFromAttribute(const FieldName& field, Text& value, TextView attribute);
-void SetFromAttribute(const FieldName& field, bool& value, TextView attribute);
-void SetFromAttribute(const FieldName& field, int& value, TextView attribute);
-
-/// The types of fields that an attribute can hold, and of those that a block can show.
-template <class Value>
-concept AttributeValue =
-    std::same_as<Value, Text> || std::same_as<Value, bool> || std::same_as<Value, int>;
-template <class Value>
-concept ContentValue = std::same_as<Value, Text> || std::same_as<Value, BlockRows> ||
-    std::same_as<Value, BlockPictures>;
+//   BlockKindOf(effect), Faces()     its kind of block, where its fields tell that, and a fresh
+//                                    effect of each
 
 /// Calls `field` with the name and the value of each field that is an attribute, and with its value
 /// in a fresh window.
@@ -98,7 +41,7 @@ void ForEachAttribute(Effect& effect, Field&& field)
     std::vector<Text> fresh;
     ForEachField(freshEffect, [&](const FieldName&, const auto& value) {
         if constexpr (AttributeValue<std::remove_cvref_t<decltype(value)>>)
-            fresh.push_back(TextsOf(value).front());
+            fresh.push_back(AttributeText(value));
     });
     auto next = fresh.begin();
     ForEachField(effect, [&](const FieldName& name, auto& value) {
@@ -146,8 +89,9 @@ std::optional<Complaint> CheckNumbers(const Effect& effect, int page)
         if (pagesBegun < starts.size() && starts[pagesBegun] == name.Name)
             ++pagesBegun;
         if constexpr (AttributeValue<std::remove_cvref_t<decltype(value)>>)
-            if (!complaint && name.Bounds && pagesBegun == static_cast<std::size_t>(page) + 1)
-                complaint = CheckNumber(name, TextsOf(value).front());
+            if (!complaint && name.Bounds && !name.IsColor &&
+                pagesBegun == static_cast<std::size_t>(page) + 1)
+                complaint = CheckNumber(name, AttributeText(value));
     });
     return complaint;
 }
@@ -160,7 +104,7 @@ void TidyBlock(Effect& effect)
     std::vector<Text> fresh;
     ForEachField(freshEffect, [&](const FieldName&, const auto& value) {
         if constexpr (AttributeValue<std::remove_cvref_t<decltype(value)>>)
-            fresh.push_back(TextsOf(value).front());
+            fresh.push_back(AttributeText(value));
         else
             fresh.emplace_back();
     });
@@ -169,13 +113,20 @@ void TidyBlock(Effect& effect)
                  [&](const FieldName& name, auto& value) { MendField(name, value, *next++); });
 }
 
+/// The kind of an effect's block, unless it has a function of its own.
+template <class Effect>
+TextView BlockKindOf(const Effect&)
+{
+    return Effect::Block;
+}
+
 /// The block of an effect.
 template <class Effect>
 Block BlockOf(const Effect& effect)
 {
-    Block block{.Kind = Text(Effect::Block), .Content = ContentOf(effect)};
+    Block block{.Kind = Text(BlockKindOf(effect)), .Content = ContentOf(effect)};
     ForEachAttribute(effect, [&](const FieldName& name, const auto& value, const Text& fresh) {
-        AddAttribute(block.Attributes, name, TextsOf(value).front(), fresh);
+        AddAttribute(block.Attributes, name, AttributeText(value), fresh);
     });
     block.Attributes.insert(block.Attributes.end(), effect.Others.begin(), effect.Others.end());
     if constexpr (requires { Effect::Seen; })
@@ -197,11 +148,55 @@ void Tidy(Effect& effect)
     TidyBlock(effect);
 }
 
-/// The effect that a block shows, tidied.
+/// A fresh effect of each kind of block that it can be.
 template <class Effect>
-Effect EffectOf(Block block)
+auto FacesOf()
 {
-    Effect effect;
+    if constexpr (requires { Effect::Faces(); })
+        return Effect::Faces();
+    else
+        return std::array<Effect, 1>();
+}
+
+/// A text's colour and that of its ground, by the names of their fields.
+struct ColorPair
+{
+    ControlName Color;
+    ControlName Ground;
+};
+
+/// Hints at numbers beyond a bound that keeps the page calm, and at pairs of colours that are hard
+/// to read.
+template <BlockEffect Effect>
+HintList BlockHints(const Effect& effect)
+{
+    HintList hints;
+    std::map<ControlName, Text> colors;
+    ForEachField(effect, [&](const FieldName& name, const auto& value) {
+        if constexpr (AttributeValue<std::remove_cvref_t<decltype(value)>>) {
+            if (const auto words = CalmWords(name, AttributeText(value)))
+                hints.Say(name.Name, *words);
+            if (name.IsColor)
+                colors[name.Name] = AttributeText(value);
+        }
+    });
+    if constexpr (requires { Effect::ColorPairs; })
+        for (const ColorPair& pair : Effect::ColorPairs)
+            hints.Contrast(pair.Color, colors[pair.Color], colors[pair.Ground]);
+    return hints;
+}
+
+/// The hints on a block effect, unless it has a function of its own.
+template <BlockEffect Effect>
+std::vector<Hint> HintsOf(const Effect& effect)
+{
+    return BlockHints(effect).Hints();
+}
+
+/// The effect that a block shows, tidied; what the block does not tell is that of `effect`.
+template <class Effect>
+Effect EffectOf(Block block, Effect effect = {})
+{
     ForEachAttribute(effect, [&](const FieldName& name, auto& value, const Text&) {
         if (const auto attribute = TakeAttribute(block.Attributes, name))
             SetFromAttribute(name, value, *attribute);
@@ -210,6 +205,13 @@ Effect EffectOf(Block block)
     TakeContent(effect, std::move(block.Content));
     Tidy(effect);
     return effect;
+}
+
+/// The sounds of a block effect that are no content, unless it has a function of its own.
+template <BlockEffect Effect>
+std::vector<BlockSound> SoundsOf(const Effect&)
+{
+    return {};
 }
 
 /// What a block effect puts into the BODY, with the files that it names, unless it has a function
@@ -221,7 +223,7 @@ EffectPayload Generate(const Effect& effect)
     return {
         .Kind = Effect::Kinds.front(),
         .BODYHTML = WriteBlock(block),
-        .Required = FilesOf(block.Content),
+        .Required = FilesOf(block.Content, SoundsOf(effect)),
         .IsBlock = true,
     };
 }

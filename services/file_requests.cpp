@@ -47,6 +47,15 @@ FileRequest BrowseRequest(std::int32_t kind, FolderPurpose purpose)
     return {.Title = u"Browse", .Filter = Text(FileFilter(kind)), .Purpose = purpose};
 }
 
+FileRequest BlockSoundRequest()
+{
+    return {.Title = u"Browse",
+            .Filter = u"All Files (*.*)|*.*|Sound Files (*.mp3, *.m4a, *.ogg, *.wav)|"
+                      u"*.mp3;*.m4a;*.ogg;*.wav",
+            .FilterIndex = 2,
+            .Purpose = FolderPurpose::Sounds};
+}
+
 FileRequest ImageRequest()
 {
     return {.Title = u"Browse...",

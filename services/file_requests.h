@@ -26,6 +26,9 @@ inline constexpr TextView pictureMasks = u"*.gif;*.jpg;*.jpeg";
 /// The masks of the files of images that today's browsers show and that Orvane can measure.
 inline constexpr TextView blockPictureMasks = u"*.gif;*.jpg;*.jpeg;*.png";
 
+/// What Browse opens for a sound that today's browsers play.
+FileRequest BlockSoundRequest();
+
 /// What the wizards of applets open for an image, and for a Web page to link to.
 FileRequest ImageRequest();
 FileRequest WebPageRequest();

@@ -21,14 +21,25 @@ struct TextLook
 inline constexpr std::array<TextView, 5> textStyles = {u"", u"plain", u"bold", u"italic",
                                                        u"bold italic"};
 
-/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+/// Calls `field` with the names and the fields of a look without its colour, which such an effect
+/// has among others or not at all.
 template <ConstOr<TextLook> Look, class Field>
-void ForEachField(Look& look, Field&& field)
+void ForEachFontField(Look& look, Field&& field)
 {
     field("cboFont", look.cboFont);
     field(NumberField("cboFontSize", 0, 4000), look.cboFontSize);
     field(ChoiceField("cboFontStyle", textStyles), look.cboFontStyle);
+}
+
+/// Calls `field` with the name of each control and the field that it shows, in the window's order.
+template <ConstOr<TextLook> Look, class Field>
+void ForEachField(Look& look, Field&& field)
+{
+    ForEachFontField(look, field);
     field(ColorField("cmdTextColor"), look.TextColor);
 }
+
+/// The places of a text between two edges; where a field can be empty, it is as on the page then.
+inline constexpr std::array<TextView, 3> textAlignments = {u"left", u"center", u"right"};
 
 } // namespace orvane

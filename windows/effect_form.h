@@ -67,6 +67,11 @@ public:
         }
     }
 
+    Deliverable WouldDeliver() const override
+    {
+        return DeliverableOf(Parameters(), SurroundingsOf(m_bench));
+    }
+
     /// Fills the window from the pasted tag that it was opened with, offers to take quotation marks
     /// off its values, and clears the shared EditMode.
     void EditApplet() requires requires(Effect& effect, const PastedTag& tag)
@@ -93,7 +98,13 @@ protected:
     /// `kind` is one of the effect's kinds.
     EffectForm(ControlName name, Workbench& bench, QWidget* parent,
                EffectKind kind = Effect::Kinds.front())
-        : WizardForm(name, kind, bench, parent), m_controls(*this), m_freshKind(kind)
+        : EffectForm(name, bench, parent, kind, FreshOf<Effect>(kind))
+    {
+    }
+
+    /// The window of an effect that has several faces, which shows this one when it is fresh.
+    EffectForm(ControlName name, Workbench& bench, QWidget* parent, EffectKind kind, Effect fresh)
+        : WizardForm(name, kind, bench, parent), m_controls(*this), m_fresh(std::move(fresh))
     {
     }
 
@@ -116,7 +127,7 @@ protected:
     /// What a fresh window shows.
     Effect Fresh() const
     {
-        Effect effect = FreshOf<Effect>(m_freshKind);
+        Effect effect = m_fresh;
         if constexpr (requires { Recall(effect, m_bench.Settings); })
             Recall(effect, m_bench.Settings);
         return effect;
@@ -189,6 +200,7 @@ private:
             ShowFields();
             ShowHints();
             KeepDraftSoon();
+            emit FieldsChanged();
         });
         ShowHints();
     }
@@ -207,7 +219,7 @@ private:
     }
 
     FieldControls m_controls;
-    const EffectKind m_freshKind;
+    const Effect m_fresh;
     FieldWatch m_watch{*this};
     HintLines m_hints{*this};
     Look m_look; ///< as it was shown last

@@ -1,5 +1,6 @@
 #include "windows/field_controls.h"
 
+#include "windows/color_list.h"
 #include "windows/color_swatch.h"
 #include "windows/hidden_rows.h"
 #include "windows/multi_line_box.h"
@@ -138,6 +139,8 @@ FieldTexts FieldControls::Texts(ControlName name) const
         return TextsOf(tick->isChecked());
     if (const auto* slider = qobject_cast<const QSlider*>(control))
         return TextsOf(slider->value());
+    if (const auto* colors = qobject_cast<const ColorList*>(control))
+        return colors->Colors();
     return {TextOf(*control)};
 }
 
@@ -164,6 +167,8 @@ void FieldControls::Show(ControlName name, const FieldTexts& texts)
         int value = slider->value();
         SetField(value, texts);
         slider->setValue(value);
+    } else if (auto* colors = qobject_cast<ColorList*>(control)) {
+        colors->SetColors(texts);
     } else if (control != nullptr && !texts.empty()) {
         SetText(*control, texts.front());
     }

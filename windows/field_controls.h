@@ -8,7 +8,8 @@ namespace orvane {
 
 /// Reads and writes the controls of a window by the names of the fields that they show. A field's
 /// value is the text of a box, the selected text of a list, the state of a check box, the number of
-/// a slider, the index of the chosen option button, the colour of a swatch or the rows of a list.
+/// a slider, the index of the chosen option button, the colour of a swatch, those of several, or
+/// the rows of a list.
 /// Of an item of a combo box that has a value behind its text, the value counts.
 class FieldControls
 {

@@ -1,5 +1,6 @@
 #include "windows/field_watch.h"
 
+#include "windows/color_list.h"
 #include "windows/color_swatch.h"
 #include "windows/controls.h"
 #include "windows/row_list_panel.h"
@@ -37,6 +38,8 @@ void FieldWatch::Add(ControlName field)
     if (auto* swatch = qobject_cast<ColorSwatch*>(control)) {
         watch(swatch, &ColorSwatch::Picked);
         watch(swatch, &ColorSwatch::WasUnset);
+    } else if (auto* colors = qobject_cast<ColorList*>(control)) {
+        watch(colors, &ColorList::ColorsChanged);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         watch(button, &QAbstractButton::toggled);
     } else if (auto* line = qobject_cast<QLineEdit*>(control)) {

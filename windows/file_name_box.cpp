@@ -8,10 +8,15 @@ namespace orvane {
 
 namespace {
 
+bool Deletes(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace;
+}
+
 /// Whether the key would change the text of a box that is not locked.
 bool Changes(const QKeyEvent& key)
 {
-    if (key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace)
+    if (Deletes(key))
         return true;
     if (key.matches(QKeySequence::Paste) || key.matches(QKeySequence::Cut))
         return true;
@@ -33,7 +38,9 @@ void FileNameBox::SetHoldsFile(bool holdsFile)
 
 void FileNameBox::keyPressEvent(QKeyEvent* event)
 {
-    if (isReadOnly() && Changes(*event))
+    if (isReadOnly() && m_canBeEmptied && Deletes(*event))
+        clear();
+    else if (isReadOnly() && Changes(*event))
         WarnInputBoxLocked(m_settings, m_dialogs);
     else
         TextLine::keyPressEvent(event);

@@ -18,6 +18,9 @@ public:
     /// Tells the box whether it is used for a file name at present; if not, it is never locked.
     void SetHoldsFile(bool holdsFile);
 
+    /// Lets Delete and Backspace empty the box even where it is locked.
+    void LetBeEmptied() { m_canBeEmptied = true; }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -26,6 +29,7 @@ private:
     const Settings& m_settings;
     Dialogs& m_dialogs;
     bool m_holdsFile = true;
+    bool m_canBeEmptied = false;
 };
 
 } // namespace orvane

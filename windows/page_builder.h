@@ -120,6 +120,9 @@ public:
     /// A frame "Example" with a picture of what the effect looks like.
     void Example(const QString& picture, QSize size);
 
+    /// The bench of rows that ask the author. Expects that there is one.
+    Workbench& Bench() const { return *m_bench; }
+
     /// A framed group with a caption; the returned builder adds to it.
     PageBuilder Frame(TextView caption, ControlName name = {});
 

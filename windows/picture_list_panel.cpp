@@ -6,6 +6,7 @@
 #include "services/block_pictures.h"
 #include "services/file_complaints.h"
 #include "services/file_requests.h"
+#include "windows/block_rows.h"
 #include "windows/file_drop.h"
 #include "windows/picture.h"
 #include "windows/picture_box.h"
@@ -29,9 +30,9 @@ constexpr RowListWords words{
     .CannotMoveDown = u"Select a picture in the list.  You cannot move the last picture downward.",
 };
 
-RowListLook LookOf(PictureWords pictureWords)
+RowListLook LookOf(ControlName list, PictureWords pictureWords)
 {
-    RowListLook look{.Columns = {{"lstPictures", u"Pict&ures:", &WithoutPercents}},
+    RowListLook look{.Columns = {{list, u"Pict&ures:", &WithoutPercents}},
                      .Words = words,
                      .Buttons = {{RowCommand::Add, "cmdAddPictures", u"&Add pictures...",
                                   u"Adds one or more pictures; you can drop files and folders on "
@@ -54,21 +55,16 @@ void AddPictureFields(PageBuilder& page)
 {
     page.TextBox("txtDescription", u"&Description:",
                  u"What the picture shows, for those who do not see it");
-    page.BrowseRow("txtLink", u"&Link to Web page:",
-                   u"The address that a click on the picture leads to; empty for no link",
-                   {.Button = "cmdBrowseForURL",
-                    .Caption = u"&Browse for URL...",
-                    .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-                    .GivesFocus = true});
+    AddLink(page, u"The address that a click on the picture leads to; empty for no link");
 }
 
 } // namespace
 
 PictureListPanel::PictureListPanel(EffectKind kind, PictureWords pictureWords, Workbench& bench,
-                                   QWidget* parent)
+                                   ControlName list, QWidget* parent)
     : QWidget(parent),
       m_bench(bench),
-      m_list(new RowListPanel(LookOf(pictureWords), bench.Dialogs)),
+      m_list(new RowListPanel(LookOf(list, pictureWords), bench.Dialogs)),
       m_preview(new PictureBox(previewRoom))
 {
     auto* all = new QHBoxLayout(this);

@@ -18,17 +18,17 @@ enum class PictureWords
     Own,  ///< a description and a link, for which each picture has a window
 };
 
-/// The list `lstPictures` of a block's pictures, with a preview of the selected one. Pictures come
+/// The list of a block's pictures, with a preview of the selected one. Pictures come
 /// by a file dialog, several at once, or are dropped on the list, whole folders too; a file that
 /// cannot be read as a picture is named to the author and left out. They are put in order, and
 /// removed ones put back, as in every list of rows.
 class PictureListPanel : public QWidget
 {
 public:
-    /// Starts with an empty list. F1 in the window of a picture opens the help topic of `kind`. The
-    /// bench must outlive the panel.
+    /// Starts with an empty list of that name. F1 in the window of a picture opens the help topic
+    /// of `kind`. The bench must outlive the panel.
     PictureListPanel(EffectKind kind, PictureWords words, Workbench& bench,
-                     QWidget* parent = nullptr);
+                     ControlName list = "lstPictures", QWidget* parent = nullptr);
 
 private:
     void Browse();

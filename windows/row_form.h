@@ -126,8 +126,8 @@ void EditRowByWindow(RowListPanel& panel, const RowLook& look, Workbench& bench)
 /// Adds a list of rows that takes the height that is left, with buttons that add, edit, remove and
 /// move them; a window that looks like `look` edits one.
 template <HasFields Row>
-void AddRowList(PageBuilder& page, std::vector<ListColumn> columns, const RowLook& look,
-                Workbench& bench)
+RowListPanel* AddRowList(PageBuilder& page, std::vector<ListColumn> columns, const RowLook& look,
+                         Workbench& bench)
 {
     auto* rows =
         new RowListPanel({.Columns = std::move(columns),
@@ -143,6 +143,7 @@ void AddRowList(PageBuilder& page, std::vector<ListColumn> columns, const RowLoo
                      [=, &bench] { AddRowByWindow<Row>(*rows, look, bench); });
     QObject::connect(rows, &RowListPanel::EditWanted, rows,
                      [=, &bench] { EditRowByWindow<Row>(*rows, look, bench); });
+    return rows;
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/catalogue.h"
+#include "core/effect.h"
 #include "core/opening.h"
 #include "windows/wizard_frame.h"
 
@@ -34,11 +35,18 @@ public:
     /// Shows what the window opens with; without a call it is fresh. Called before it is shown.
     virtual void Open(const Opening& opening) = 0;
 
+    /// What Done would hand over with the fields as they stand. Changes and asks nothing.
+    virtual Deliverable WouldDeliver() const = 0;
+
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
 
     /// Removes the draft; called when the effect was delivered.
     void DropDraft();
+
+signals:
+    /// Fields were changed. Comes from the event loop, once for all changes since the last time.
+    void FieldsChanged();
 
 protected:
     /// Adds a wizard page; pages are counted from 0.

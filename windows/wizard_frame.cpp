@@ -3,6 +3,7 @@
 #include "windows/page_area.h"
 #include "windows/qt_text.h"
 #include "windows/remember_place.h"
+#include "windows/side_pane.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -78,7 +79,7 @@ QPushButton* WizardFrame::AddButton(ControlName name, TextView caption, QHBoxLay
 
 void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
 {
-    auto* line = new QHBoxLayout;
+    auto* line = m_buttons = new QHBoxLayout;
     QPushButton* help = AddButton(helpName, u"Click here for help", line);
     connect(help, &QPushButton::clicked, this, [this] { m_bench.Help.ShowTopic(m_helpTopic); });
     line->addWidget(m_note, 1);
@@ -96,6 +97,23 @@ void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
     static_cast<QVBoxLayout*>(layout())->addLayout(line);
     SetReadingOrder(*this);
     FitToRows();
+}
+
+void WizardFrame::AddSide(QWidget* side)
+{
+    QPushButton* fold =
+        MakeButton("cmdFoldPreview", u"Pre&view", u"Shows the effect as you make it (F12)");
+    fold->setAutoDefault(false);
+    m_buttons->insertWidget(1, fold);
+    auto* content = new QWidget;
+    content->setLayout(layout());
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins({});
+    auto* pane = new SidePane(content, side, fold, m_bench.Settings);
+    all->addWidget(pane);
+    connect(pane, &SidePane::NoRoom, this, [this] { Tell(u"The preview needs a wider screen."); });
+    SetReadingOrder(*this);
+    pane->WidenWindow();
 }
 
 /// As large as all rows of all pages want it, as far as the screen has room.

@@ -23,6 +23,10 @@ class WizardFrame : public QDialog
 public:
     WizardFrame(ControlName name, Workbench& bench, QWidget* parent);
 
+    /// Puts a part at the right of everything, as a SidePane that is folded by the button
+    /// "Preview". Called once, when the buttons are there and the window was not shown yet.
+    void AddSide(QWidget* side);
+
 protected:
     /// Which buttons the window has besides the help button.
     enum class Buttons
@@ -81,6 +85,7 @@ private:
     QLabel* lblSubHeading;
     QWidget* m_offers; ///< shown above the first page alone
     QStackedWidget* m_pages;
+    QHBoxLayout* m_buttons = nullptr;
     StatusNote* m_note;
     int m_helpTopic = 0;
 };

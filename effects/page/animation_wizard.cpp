@@ -4,6 +4,8 @@
 #include "reedit/applet_values.h"
 #include "services/block_pictures.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace orvane {
@@ -31,17 +33,15 @@ std::optional<Complaint> CheckPage(const AnimationWizard& animation, int page)
 {
     if (page != 0)
         return CheckNumbers(animation, page);
-    AnimationWizard tidied = animation;
-    Tidy(tidied);
-    if (tidied.lstPictures.size() == 1)
-        return Complaint{u"Please add a second picture to the list.", "lstPictures"};
-    constexpr std::size_t most = std::tuple_size_v<decltype(RequiredFiles::RequiredFileNames)>;
-    return CheckPictures(animation.lstPictures, "lstPictures", most);
+    return CheckPictures(animation.lstPictures, "lstPictures", {.Least = 2});
 }
 
 std::vector<Hint> HintsOf(const AnimationWizard& animation)
 {
-    return HintsOfLink(animation.txtDescription, animation.txtLink);
+    std::vector<Hint> hints = BlockHints(animation).Hints();
+    std::ranges::copy(HintsOfLink(animation.txtDescription, animation.txtLink),
+                      std::back_inserter(hints));
+    return hints;
 }
 
 void Tidy(AnimationWizard& animation)
@@ -60,13 +60,8 @@ void ReadTag(AnimationWizard& animation, const PastedTag& pasted)
     const PastedTag tag = WithoutQuotes(pasted);
     const auto value = [&](TextView name) { return TagValue(tag, Join({name, u" VALUE="})); };
     animation = {};
-    constexpr int mostImages = 31; // that the applet takes
-    for (int i = 0; i < mostImages; ++i) {
-        const Text image = value(Join({u"IMAGE.", NumberToText(i)}));
-        if (image.empty())
-            break;
+    for (const Text& image : TagImages(tag))
         animation.lstPictures.push_back(PictureNamed(image));
-    }
     animation.cboTarget = value(u"TARGET.0");
     if (const Text link = value(u"URL.0"); link != u"null")
         animation.txtLink = link;

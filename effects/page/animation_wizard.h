@@ -4,6 +4,7 @@
 #include "core/pasted_tag.h"
 #include "services/block_fields.h"
 #include "services/hints.h"
+#include "services/picture_look.h"
 
 #include <array>
 #include <optional>
@@ -20,11 +21,6 @@ struct AnimationWizard
     static constexpr std::array<ControlName, 2> PageStarts = {"lstPictures", "txtMilliseconds"};
     static constexpr int Pages = PageStarts.size();
     static constexpr std::array<TextView, 3> Orders = {u"forward", u"back", u"random"};
-    /// Two of its own, then the numbers of RevealTransitions.
-    static constexpr std::array<TextView, 26> Changes = {
-        u"cut", u"fade", u"0",  u"1",  u"2",  u"3",  u"4",  u"5",  u"6",
-        u"7",   u"8",    u"9",  u"10", u"11", u"12", u"13", u"14", u"15",
-        u"16",  u"17",   u"18", u"19", u"20", u"21", u"22", u"23"};
     static constexpr std::array<TextView, 2> Starts = {u"seen", u"click"};
 
     BlockPictures lstPictures;     ///< without descriptions and links of their own
@@ -32,7 +28,7 @@ struct AnimationWizard
     Text txtMilliseconds = u"500"; ///< that a picture is shown, its change included, as typed
     Text cboTimes = u"0";          ///< rounds; 0 is for ever
     Text cboOrder = u"forward";    ///< one of Orders
-    Text cboChange = u"cut";       ///< one of Changes
+    Text cboChange = u"cut";       ///< one of pictureChanges
     Text cboStart = u"seen";       ///< one of Starts
     Text txtWidth = u"0";          ///< pixels, as typed; 0 is as wide as the pictures
     Text txtLink;                  ///< empty for none
@@ -47,10 +43,10 @@ void ForEachField(Animation& animation, Field&& field)
 {
     field(ContentField("lstPictures"), animation.lstPictures);
     field(ContentField("txtDescription"), animation.txtDescription);
-    field(NumberField("txtMilliseconds", 170, 60000), animation.txtMilliseconds);
+    field(CalmField("txtMilliseconds", 170, 60000), animation.txtMilliseconds);
     field(NumberField("cboTimes", 0, 10), animation.cboTimes);
     field(ChoiceField("cboOrder", AnimationWizard::Orders), animation.cboOrder);
-    field(ChoiceField("cboChange", AnimationWizard::Changes), animation.cboChange);
+    field(ChoiceField("cboChange", pictureChanges), animation.cboChange);
     field(ChoiceField("cboStart", AnimationWizard::Starts), animation.cboStart);
     field(NumberField("txtWidth", 0, 4000), animation.txtWidth);
     field(ContentField("txtLink"), animation.txtLink);

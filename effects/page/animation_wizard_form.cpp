@@ -1,7 +1,5 @@
 #include "effects/page/animation_wizard_form.h"
 
-#include "core/pick_lists.h"
-#include "services/file_requests.h"
 #include "windows/block_rows.h"
 #include "windows/picture_list_panel.h"
 
@@ -14,15 +12,6 @@ constexpr ChoiceItem orders[] = {{u"forward", u"One after the other"},
                                  {u"random", u"In random order"}};
 constexpr ChoiceItem starts[] = {{u"seen", u"When it is seen"},
                                  {u"click", u"When the visitor clicks"}};
-
-constexpr auto changes = [] {
-    std::array<ChoiceItem, AnimationWizard::Changes.size()> items;
-    items[0] = {u"cut", u"At once"};
-    items[1] = {u"fade", u"Fade"};
-    for (std::size_t i = 0; i < RevealTransitions.size(); ++i)
-        items[i + 2] = {AnimationWizard::Changes[i + 2], RevealTransitions[i]};
-    return items;
-}();
 
 } // namespace
 
@@ -44,15 +33,10 @@ AnimationWizardForm::AnimationWizardForm(Workbench& bench, QWidget* parent)
                        u"milliseconds");
     AddTimes(movement);
     movement.ChoiceBox("cboOrder", u"O&rder:", orders);
-    movement.ChoiceBox("cboChange", u"Chan&ge:", changes, u"How a picture gives way to the next");
+    AddChange(movement, "cboChange", u"Chan&ge:", u"How a picture gives way to the next");
     movement.ChoiceBox("cboStart", u"&Starts:", starts);
     movement.NumberBox("txtWidth", u"W&idth:", u"0 is as wide as the pictures", u"pixels");
-    movement.BrowseRow("txtLink", u"&Link to Web page:",
-                       u"The address that a click on the animation leads to; empty for no link",
-                       {.Button = "cmdBrowseForURL",
-                        .Caption = u"&Browse for URL...",
-                        .Request = BrowseRequest(pageFiles, FolderPurpose::Links),
-                        .GivesFocus = true});
+    AddLink(movement, u"The address that a click on the animation leads to; empty for no link");
     AddTarget(movement);
     movement.Fill();
     AddButtons(Buttons::Paged);

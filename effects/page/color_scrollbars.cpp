@@ -32,13 +32,9 @@ constexpr Template boxesAsThePage(uR"page(*{scrollbar-width:«Thickness»})page"
 
 std::optional<Complaint> Check(const ColorScrollbars& bars)
 {
-    ColorScrollbars tidied = bars;
-    Tidy(tidied);
-    if (tidied.HandleColor.empty())
-        return Complaint{u"Please choose a color for the handle.", "cmdHandleColor"};
-    if (tidied.TrackColor.empty())
-        return Complaint{u"Please choose a color for the track.", "cmdTrackColor"};
-    return std::nullopt;
+    if (auto complaint = CheckColor(bars.HandleColor, u"the handle", "cmdHandleColor"))
+        return complaint;
+    return CheckColor(bars.TrackColor, u"the track", "cmdTrackColor");
 }
 
 std::vector<Hint> HintsOf(const ColorScrollbars& bars)

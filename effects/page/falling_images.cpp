@@ -7,7 +7,8 @@ namespace orvane {
 std::optional<Complaint> CheckPage(const FallingImages& falling, int page)
 {
     if (page == 0)
-        return CheckPictures(falling.lstPictures, "lstPictures", FallingImages::MostPictures);
+        return CheckPictures(falling.lstPictures, "lstPictures",
+                             {.Most = FallingImages::MostPictures});
     if (auto complaint = CheckNumbers(falling, page))
         return complaint;
     FallingImages tidied = falling;

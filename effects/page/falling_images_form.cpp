@@ -27,7 +27,7 @@ FallingImagesForm::FallingImagesForm(Workbench& bench, QWidget* parent)
                                    u"can stop them by a button."});
     movement.NumberBox("txtNumber", u"Num&ber of pictures:", u"How many are in the air at a time");
     movement.ChoiceBox("cboDirection", u"They f&all or float:", directions);
-    movement.Slider("sldrSpeed", u"&Speed:", u"Slow", u"Fast", {.Lowest = 5, .Highest = 500});
+    movement.Slider("sldrSpeed", u"&Speed:", u"Slow", u"Fast", {});
     movement.NumberBox("txtSway", u"S&way to each side:", {}, u"pixels");
     movement.NumberBox("txtSmallest", u"S&mallest width:", {}, u"pixels");
     movement.NumberBox("txtLargest", u"&Largest width:", {}, u"pixels");

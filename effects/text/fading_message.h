@@ -39,8 +39,8 @@ template <ConstOr<FadingMessage> Message, class Field>
 void ForEachField(Message& message, Field&& field)
 {
     field(ContentField("lstMessages"), message.lstMessages);
-    field(NumberField("txtSeconds", 1, 60), message.txtSeconds);
-    field(NumberField("txtFadeSeconds", 0.2, 10), message.txtFadeSeconds);
+    field(CalmField("txtSeconds", 1, 60), message.txtSeconds);
+    field(CalmField("txtFadeSeconds", 0.2, 10), message.txtFadeSeconds);
     field(ChoiceField("cboOrder", FadingMessage::Orders), message.cboOrder);
     field(NumberField("cboTimes", 0, 10), message.cboTimes);
     ForEachField(message.Look, field);

@@ -11,9 +11,6 @@ constexpr TextView heading = u"Fading Message";
 constexpr ChoiceItem orders[] = {{u"forward", u"As in the list"},
                                  {u"random", u"Random, each once in a round"}};
 
-constexpr ChoiceItem alignments[] = {
-    {u"left", u"Left"}, {u"center", u"Center"}, {u"right", u"Right"}};
-
 } // namespace
 
 FadingMessageForm::FadingMessageForm(Workbench& bench, QWidget* parent)
@@ -33,7 +30,7 @@ FadingMessageForm::FadingMessageForm(Workbench& bench, QWidget* parent)
 
     PageBuilder look = AddPage({heading, u"Choose what the messages look like."});
     AddTextLook(look);
-    look.ChoiceBox("cboAlign", u"&Align text:", alignments);
+    AddAlignment(look);
     AddWidth(look);
     AddTarget(look);
     look.Fill();

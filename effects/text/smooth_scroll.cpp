@@ -9,11 +9,6 @@ std::optional<Complaint> CheckPage(const SmoothScroll& scroll, int page)
     return page == 0 ? CheckRows(scroll.lstMessages, "lstMessages") : CheckNumbers(scroll, page);
 }
 
-std::vector<Hint> HintsOf(const SmoothScroll& scroll)
-{
-    return HintList().Contrast("cmdTextColor", scroll.Look.TextColor, scroll.BackColor).Hints();
-}
-
 void ReadTag(SmoothScroll& scroll, const PastedTag& pasted)
 {
     const PastedTag tag = WithoutQuotes(pasted);

@@ -3,12 +3,10 @@
 #include "core/complaint.h"
 #include "core/pasted_tag.h"
 #include "services/block_fields.h"
-#include "services/hints.h"
 #include "services/text_look.h"
 
 #include <array>
 #include <optional>
-#include <vector>
 
 namespace orvane {
 
@@ -21,6 +19,7 @@ struct SmoothScroll
     static constexpr std::array<ControlName, 3> PageStarts = {"lstMessages", "cboDirection",
                                                               "cboFont"};
     static constexpr int Pages = PageStarts.size();
+    static constexpr std::array ColorPairs = {ColorPair{"cmdTextColor", "cmdBackColor"}};
     static constexpr std::array<TextView, 2> Directions = {u"left", u"right"};
 
     BlockRows lstMessages;
@@ -58,9 +57,6 @@ void ForEachField(Scroll& scroll, Field&& field)
 
 /// The complaint that keeps the author on a page, counted from 0, or nothing.
 std::optional<Complaint> CheckPage(const SmoothScroll& scroll, int page);
-
-/// The hint at colours that make the text hard to read.
-std::vector<Hint> HintsOf(const SmoothScroll& scroll);
 
 /// Fills the ticker from the tag of an earlier applet: message, direction, font, size, speed,
 /// colours, width and height.

@@ -8,9 +8,6 @@ namespace {
 
 constexpr TextView heading = u"Smooth Scrolling Text Ticker";
 
-constexpr ChoiceItem directions[] = {{u"left", u"From right to left"},
-                                     {u"right", u"From left to right"}};
-
 } // namespace
 
 SmoothScrollForm::SmoothScrollForm(Workbench& bench, QWidget* parent)
@@ -23,7 +20,7 @@ SmoothScrollForm::SmoothScrollForm(Workbench& bench, QWidget* parent)
 
     PageBuilder movement = AddPage({heading, u"Choose how the messages move, and how much room "
                                              u"they have."});
-    movement.ChoiceBox("cboDirection", u"&Direction:", directions);
+    AddDirection(movement);
     movement.Slider("sldrSpeed", u"&Speed:", u"Slow", u"Fast", {});
     movement.NumberBox("txtGap", u"&Gap behind each message:", {}, u"pixels");
     AddWidth(movement);

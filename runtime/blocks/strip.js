@@ -3,12 +3,14 @@ import { drive } from "./flight.js";
 import { make, on } from "./start.js";
 
 export const stripCss =
-    ".view{flex:1;min-width:0;overflow:hidden;overflow:clip;direction:ltr}" +
-    ".track{display:flex;width:max-content;align-items:center;will-change:transform}" +
-    ".group{display:flex;flex:none;align-items:center}.group>*{flex:none;unicode-bidi:plaintext}" +
-    ".still .track{width:auto}.still .group{flex-wrap:wrap;flex:1 1 auto;width:100%}" +
+    // In a cell of a table the band asks for the room of one group, and takes what there is.
+    ".view{flex:1;min-width:0;overflow:hidden;overflow:clip;direction:ltr;display:grid;" +
+    "grid-template-columns:minmax(0,max-content)}" +
+    ".track{position:relative;width:max-content;will-change:transform}" +
+    ".group{display:flex;align-items:center}.group>*{flex:none;unicode-bidi:plaintext}" +
+    ".copy{position:absolute;top:0;width:100%}.still .track{width:auto}.still .group{flex-wrap:wrap}" +
     ".still .group>*{flex:0 1 auto}.still .copy{display:none}" +
-    "@media print{.track{transform:none!important;width:auto}.group{flex-wrap:wrap;width:100%}" +
+    "@media print{.track{transform:none!important;width:auto}.group{flex-wrap:wrap}" +
     ".copy{display:none}}";
 
 /**
@@ -29,9 +31,11 @@ export function strip(group, speed, right) {
     let moves = false;
     let still = false;
 
-    const copy = () => {
+    /** The n-th copy, counted from 1. @param {number} n */
+    const copy = (n) => {
         const made = /** @type {HTMLElement} */ (group.cloneNode(true));
         made.className += " copy";
+        made.style.left = n * 100 + "%";
         made.setAttribute("aria-hidden", "true");
         for (const link of made.querySelectorAll("a")) link.tabIndex = -1;
         return made;
@@ -40,7 +44,7 @@ export function strip(group, speed, right) {
         const wide = parseFloat(getComputedStyle(group).width);
         if (still || !wide) return;
         for (let n = track.children.length; n < 200 && (n - 1) * wide < view.clientWidth; n++)
-            track.append(copy());
+            track.append(copy(n));
         if (wide === width) return;
         const time = animation?.currentTime ?? 0;
         animation?.cancel();

@@ -3,18 +3,73 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
 #include <QWebEngineView>
 
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+
+namespace {
+
+/// A page that tells when it is drawn.
+class DrawnPage : public QWebEnginePage
+{
+public:
+    using QWebEnginePage::QWebEnginePage;
+    std::function<void()> Drawn;
+
+protected:
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
+                                  const QString&) override
+    {
+        if (message == QLatin1String("drawn"))
+            Drawn();
+    }
+};
+
+/// Loads the page file again and again; prints the milliseconds until it is drawn, one a line.
+int LoadAgain(const QUrl& url)
+{
+    QWebEngineView view;
+    DrawnPage page;
+    view.setPage(&page);
+    view.resize(400, 300);
+    view.show();
+    QElapsedTimer watch;
+    int left = 60;
+    const auto load = [&] {
+        watch.start();
+        page.load(url);
+    };
+    QObject::connect(&page, &QWebEnginePage::loadFinished, &page, [&] {
+        page.runJavaScript(QStringLiteral("{let left = 3; const next = () => left-- ?"
+                                          "requestAnimationFrame(next) : console.debug('drawn');"
+                                          "next()}"),
+                           QWebEngineScript::ApplicationWorld);
+    });
+    page.Drawn = [&] {
+        std::printf("%.1f\n", static_cast<double>(watch.nsecsElapsed()) / 1e6);
+        if (--left == 0)
+            QApplication::quit();
+        QTimer::singleShot(300, &page, load);
+    };
+    load();
+    return QApplication::exec();
+}
+
+} // namespace
 
 // What the preview is measured against: a bare web view that shows a page file. Prints milliseconds
 // from the start of the program, given in START_NS, or with "warm" from the call in a view that is
-// ready but not yet on screen.
+// ready but not yet on screen; with "again" and the path of a page, as LoadAgain() says.
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
+    if (argc > 2)
+        return LoadAgain(QUrl::fromLocalFile(QString::fromLocal8Bit(argv[2])));
     const bool isWarm = argc > 1 && QByteArray(argv[1]) == "warm";
     QTemporaryDir folder;
     QFile page(folder.filePath(QStringLiteral("page.html")));

@@ -63,21 +63,24 @@ class PageFilesBrowserTest : public ::testing::TestWithParam<PictureCase>
 };
 TEST_P(PageFilesBrowserTest, ReadsOnlyWhatItIsGiven)
 {
-    BrowserPage outside;
-    BrowserPage page;
-    outside.AddFile("there.gif", picture);
-    page.AddFile("with blank#%.gif", picture);
-    std::filesystem::create_directory(page.Path("state"));
-    for (const char* file : {"earlier.gif", "state/kept.gif"})
-        std::ofstream(page.Path(file)) << picture;
+    for (const bool isLive : {false, true}) {
+        BrowserPage outside;
+        BrowserPage page;
+        page.IsLive = isLive;
+        outside.AddFile("there.gif", picture);
+        page.AddFile("with blank#%.gif", picture);
+        std::filesystem::create_directory(page.Path("state"));
+        for (const char* file : {"earlier.gif", "state/kept.gif"})
+            std::ofstream(page.Path(file)) << picture;
 
-    const Text source =
-        ReplaceAll(FromUtf8(GetParam().Source), u"OUTSIDE", FromUtf8(outside.Path("")));
-    ExpectStatus(page,
-                 "const image = new Image; image.onload = () => status = 'loaded';"
-                 "image.onerror = () => status = 'blocked'; image.src = '" +
-                     ToUtf8(source) + "'",
-                 GetParam().Loads ? u"loaded" : u"blocked");
+        const Text source =
+            ReplaceAll(FromUtf8(GetParam().Source), u"OUTSIDE", FromUtf8(outside.Path("")));
+        ExpectStatus(page,
+                     "const image = new Image; image.onload = () => status = 'loaded';"
+                     "image.onerror = () => status = 'blocked'; image.src = '" +
+                         ToUtf8(source) + "'",
+                     GetParam().Loads ? u"loaded" : u"blocked");
+    }
 }
 INSTANTIATE_TEST_SUITE_P(
     , PageFilesBrowserTest,
@@ -146,15 +149,18 @@ class PageNetworkBrowserTest : public ::testing::TestWithParam<const char*>
 };
 TEST_P(PageNetworkBrowserTest, CallsNobody)
 {
-    const ListeningServer server;
-    BrowserPage page;
-    const int members = MembersOfNameGroup();
-    const Text body = ReplaceAll(FromUtf8(GetParam()), u"SERVER", FromUtf8(server.Address));
-    page.Load("<script>const over = () => status = 'over'; setTimeout(over, 1000);</script>" +
-              ToUtf8(body));
-    EXPECT_TRUE(WaitFor([&] { return page.Status() == u"over"; }));
-    EXPECT_EQ(MembersOfNameGroup(), members);
-    EXPECT_FALSE(server.WasCalled());
+    for (const bool isLive : {false, true}) {
+        const ListeningServer server;
+        BrowserPage page;
+        page.IsLive = isLive;
+        const int members = MembersOfNameGroup();
+        const Text body = ReplaceAll(FromUtf8(GetParam()), u"SERVER", FromUtf8(server.Address));
+        page.Load("<script>const over = () => status = 'over'; setTimeout(over, 1000);</script>" +
+                  ToUtf8(body));
+        EXPECT_TRUE(WaitFor([&] { return page.Status() == u"over"; }));
+        EXPECT_EQ(MembersOfNameGroup(), members);
+        EXPECT_FALSE(server.WasCalled());
+    }
 }
 INSTANTIATE_TEST_SUITE_P(
     , PageNetworkBrowserTest,
@@ -251,8 +257,11 @@ class PageRulesBrowserTest : public ::testing::TestWithParam<RuleCase>
 };
 TEST_P(PageRulesBrowserTest, GrantsSoundAndNothingBeyondThePage)
 {
-    BrowserPage page;
-    ExpectStatus(page, GetParam().Script, GetParam().Status);
+    for (const bool isLive : {false, true}) {
+        BrowserPage page;
+        page.IsLive = isLive;
+        ExpectStatus(page, GetParam().Script, GetParam().Status);
+    }
 }
 INSTANTIATE_TEST_SUITE_P(
     , PageRulesBrowserTest,

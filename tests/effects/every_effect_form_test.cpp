@@ -61,6 +61,16 @@ void Change(QWidget& window, FieldName name, Choice& value)
     value = static_cast<Choice>(last);
 }
 
+void Change(QWidget&, FieldName, BlockParagraphs& value)
+{
+    value.Words = oddText;
+}
+
+void Change(QWidget&, FieldName name, std::vector<Text>& colors)
+{
+    colors.assign(static_cast<std::size_t>(name.Bounds->Most), u"#0000ff");
+}
+
 /// Two rows with other texts in each field.
 template <HasFields Row>
 void Change(QWidget&, FieldName, std::vector<Row>& value)
@@ -134,7 +144,7 @@ TEST(EffectWindowsTest, EveryEffectHasItsWindow)
     FakeDesk desk;
     for (const CatalogueRow& row : Catalogue()) {
         const auto wizard = MakeWizard(row.Kind, desk.Bench);
-        EXPECT_EQ(wizard != nullptr, HasWizard(row.Kind)) << row.MenuCommand;
+        EXPECT_EQ(wizard != nullptr, AnyEffect::Fresh(row.Kind).has_value()) << row.MenuCommand;
         EXPECT_TRUE(wizard == nullptr || wizard->objectName().toStdString() == row.Form);
     }
 }
@@ -199,7 +209,11 @@ TYPED_TEST(EveryEffectTest, ADraftWithAnyTextsInItsFieldsLeavesAWindowThatWorks)
         }
         for (int page = 0; page < 6 && window.isVisible(); ++page)
             window.Next();
-        EXPECT_NE(window.isVisible(), window.TakePayload().has_value());
+        const auto payload = window.TakePayload();
+        EXPECT_NE(window.isVisible(), payload.has_value());
+        const Deliverable inPreview = window.WouldDeliver();
+        const auto* shown = std::get_if<EffectPayload>(&inPreview);
+        EXPECT_TRUE(payload ? shown != nullptr && *shown == *payload : shown == nullptr);
     }
 }
 

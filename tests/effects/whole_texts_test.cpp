@@ -63,6 +63,7 @@ TEST_P(WholeTextTest, IsMadeOfTheFields)
     ExpectSameText(TextOf("HEAD"), payload.HEADHTML);
     ExpectSameText(lineAtTheEnd.empty() ? TextOf("BODY") : lineAtTheEnd + u"\r\n",
                    payload.BODYHTML);
+    EXPECT_EQ(payload.IsBlock, Find(payload.HEADHTML + payload.BODYHTML, u"data-orvane=") != 0);
     ExpectSameText(Line("onLoad"), payload.OnLoadFunc + payload.OnLoadArgs);
     ExpectSameText(Line("onUnload"), payload.OnUnloadFunc + payload.OnUnloadArgs);
     ExpectSameText(Line("Files"), NamesOf(payload));

@@ -1,7 +1,6 @@
 #include "help/help_form.h"
 
 #include "core/catalogue.h"
-#include "effects/effects.h"
 #include "help/qt_topic_browser.h"
 #include "program/form_desk.h"
 #include "tests/support/doubles.h"
@@ -210,8 +209,7 @@ TEST(DeliveredHelpFormTest, HasATopicForEveryWizardAndPromisesToReEditWhatOneTak
     const HelpBook book = ReadHelpBook(file.readAll().toStdString(), FormDesk::ListEffectsOfTags());
     for (const CatalogueRow& row : Catalogue()) {
         const int topic = help_topics::firstEffect + static_cast<int>(row.Kind);
-        EXPECT_TRUE(FindTopic(book, topic) || !row.HasButton || !HasWizard(row.Kind))
-            << ToUtf8(row.Title);
+        EXPECT_TRUE(FindTopic(book, topic) || !row.HasButton) << ToUtf8(row.Title);
     }
     const HelpTopic* topic = FindTopic(book, help_topics::editApplet);
     ASSERT_NE(topic, nullptr);

@@ -55,5 +55,20 @@ TEST_F(PageFolderTest, HoldsNothingElse)
     EXPECT_FALSE(PageFolder().Holds(Path("pages/page.html")));
 }
 
+TEST_F(PageFolderTest, ALivePageReadsWhatLiesInItsFolderOrBelow)
+{
+    m_root.MakeFolder("pages/.hidden");
+    for (const char* file : {"pages/.htaccess", "pages/.hidden/a.gif"})
+        m_root.Put(file, "x");
+    for (const TextView name : {u"page.html", u"sub/a.gif", u"in.gif", u"sub/../same.gif"})
+        EXPECT_TRUE(FileBelow(Path("linked"), name)) << ToUtf8(name);
+    EXPECT_EQ(FileBelow(Path("pages"), u"in.gif"), Path("pages/sub/a.gif"));
+    for (const TextView name :
+         {u"", u"sub", u"out.gif", u"out/a.gif", u"../other/a.gif", u"../pages2/a.gif", u"loop.gif",
+          u"missing.gif", u"password.cgi", u".htaccess", u".hidden/a.gif", u"/etc/hostname"})
+        EXPECT_FALSE(FileBelow(Path("pages"), name)) << ToUtf8(name);
+    EXPECT_FALSE(FileBelow({}, u"etc/hostname"));
+}
+
 } // namespace
 } // namespace orvane::testing

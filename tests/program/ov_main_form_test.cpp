@@ -41,7 +41,7 @@ protected:
     }
 
     FakeDesk m_desk;
-    OVMainForm m_form{m_desk.Bench, [](EffectKind kind) { return kind != EffectKind::Sound; }};
+    OVMainForm m_form{m_desk.Bench};
 };
 
 TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
@@ -106,7 +106,7 @@ TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
     EXPECT_EQ(Find<QWidget>(m_form, "Picture1(0)")->parentWidget()->height(), height);
 }
 
-TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffectAndOneWithoutAWizardSaysSo)
+TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffect)
 {
     std::vector<EffectKind> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
@@ -115,15 +115,15 @@ TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffectAndOneWithoutAWizardSaysSo)
     QToolButton* button = ButtonOf(*FindRow(EffectKind::Sound));
     button->setFocus();
     EXPECT_EQ(WordsOf(m_form, "Label3"), u"Sound Effect");
-    EXPECT_NE(WordsOf(m_form, "lblNotYet"), u"");
     Press(*button, Qt::Key_Return);
-    EXPECT_EQ(FromQt(QToolTip::text()), WordsOf(m_form, "lblNotYet"));
-    EXPECT_FALSE(Command("mnuSoundFX")->isEnabled());
-    ButtonOf(*FindRow(EffectKind::DigitalClock))->setFocus();
-    EXPECT_EQ(WordsOf(m_form, "lblNotYet"), u"");
-    Press(*m_form.focusWidget(), Qt::Key_Return);
-    Command("mnuClock")->trigger();
-    EXPECT_EQ(wanted, std::vector<EffectKind>(2, EffectKind::DigitalClock));
+    Command("mnuSoundFX")->trigger();
+    EXPECT_EQ(wanted, std::vector<EffectKind>(2, EffectKind::Sound));
+    Command("mnuImageTransitions")->trigger();
+    EXPECT_TRUE(m_desk.Core.TransitionsImageMode);
+    ButtonOf(*FindRow(EffectKind::TextTransitions))->click();
+    EXPECT_FALSE(m_desk.Core.TransitionsImageMode);
+    Command("mnuRandomQuote")->trigger();
+    EXPECT_EQ(m_desk.Core.RandomMode, u"quote");
 }
 
 TEST_F(OVMainFormTest, KeysChangeTabsAndEndTheProgram)

@@ -20,7 +20,6 @@ void Paste(EditAppletForm& form, const char* tag)
     Find<MultiLineBox>(form, "Text1")->paste();
 }
 
-/// The window of a program without the billboard wizard and the navigator ticker.
 class EditAppletFormTest : public ::testing::Test
 {
 protected:
@@ -33,10 +32,7 @@ protected:
     }
 
     FakeDesk m_desk;
-    EditAppletForm m_form{m_desk.Bench, [](EffectKind kind) {
-                              return kind != EffectKind::BannerWizard &&
-                                     kind != EffectKind::NavigatorTicker;
-                          }};
+    EditAppletForm m_form{m_desk.Bench};
 };
 
 TEST_F(EditAppletFormTest, AKnownAppletClosesTheWindowWithItsEffect)
@@ -78,14 +74,7 @@ TEST_F(EditAppletFormTest, AnAnimationAsksForItsWizard)
     EXPECT_FALSE(m_form.Wanted());
     Click(m_form, "optBillboardWizard");
     Press(m_form, Qt::Key_Return);
-    EXPECT_FALSE(m_form.Wanted());
-    EXPECT_TRUE(m_form.isVisible());
-    EXPECT_EQ(m_desk.Dialogs.Said,
-              Texts{u"This version of Orvane has no wizard for the effect \"Banner/Billboard "
-                    u"Wizard\", so it cannot be edited here.  The code stays as you pasted it."});
-    Click(m_form, "optAnimationWizard");
-    Press(m_form, Qt::Key_Return);
-    EXPECT_EQ(m_form.Wanted()->Kind, EffectKind::AnimationWizard);
+    EXPECT_EQ(m_form.Wanted()->Kind, EffectKind::BannerWizard);
     EXPECT_FALSE(m_form.isVisible());
 }
 
@@ -125,12 +114,6 @@ TEST(EditAppletRoadTest, AnAppletWithoutAWizardOpensNothing)
     FormDesk road(desk.Bench, nullptr);
     road.Start();
     WhenInFront<EditAppletForm>([&](EditAppletForm& form) {
-        Paste(form, "CODE=NavigatorTicker20.class");
-        Click(form, "cmdEdit");
-        EXPECT_EQ(desk.Dialogs.TakeSaid().size(), 1u);
-        EXPECT_EQ(WordsOf(form, "Text1"), u"CODE=NavigatorTicker20.class");
-        EXPECT_TRUE(form.isVisible());
-        Press(*Find<QWidget>(form, "Text1"), Qt::Key_A, Qt::ControlModifier);
         Paste(form, "CODE=Clock.class");
         Click(form, "cmdEdit");
     });

@@ -192,6 +192,8 @@ public:
         Pages.push_back(page);
         return {};
     }
+    std::vector<LivePage> Live;
+    void ShowLive(const LivePage& page) override { Live.push_back(page); }
     void LeaveFile() override { IsFileLeft = true; }
     void Clear() override {}
 };

@@ -61,6 +61,7 @@ Done RecordingFiles::Remove(TextView path)
 
 BrowserPage::BrowserPage()
 {
+    QObject::connect(&Pane, &QtPreviewPane::LiveShown, &Pane, [this] { ++LiveShown; });
     Pane.resize(640, 480);
     Pane.show();
 }
@@ -73,16 +74,28 @@ void BrowserPage::AddFile(const std::string& name, std::string_view bytes)
     std::ofstream(Path(name), std::ios::binary) << bytes;
 }
 
+LivePage BrowserPage::Live(std::string_view page) const
+{
+    LivePage live{.Name = u"page.html", .Bytes = std::string(page)};
+    for (const Text& name : m_files)
+        live.Files.push_back({name, FromUtf8(Path(ToUtf8(name)))});
+    return live;
+}
+
 void BrowserPage::Open(std::string_view page)
 {
+    if (IsLive)
+        return Pane.ShowLive(Live(page));
     EXPECT_FALSE(FaultIn(Pane.Navigate(
         {.Path = FromUtf8(Path("page.html")), .Bytes = std::string(page), .Files = m_files})));
 }
 
 void BrowserPage::Load(std::string_view page)
 {
+    const int shown = LiveShown;
     Open(page);
-    EXPECT_TRUE(WaitFor([this] { return !PageFileExists(); })) << "the page was never loaded";
+    EXPECT_TRUE(WaitFor([&] { return IsLive ? LiveShown > shown : !PageFileExists(); }))
+        << "the page was never loaded";
 }
 
 QVariant BrowserPage::Value(const std::string& expression)

@@ -36,7 +36,7 @@ public:
     /// Puts a file beside the page that pages opened from now on may read.
     void AddFile(const std::string& name, std::string_view bytes);
 
-    /// Writes the page file and starts to load it, without waiting.
+    /// Writes the page file and starts to load it, or the live page, without waiting.
     void Open(std::string_view page);
 
     /// The same, and waits until the page is loaded; fails the test after ten seconds.
@@ -72,8 +72,14 @@ public:
     /// The full path of a file beside the page.
     std::string Path(const std::string& name) const;
 
+    /// The live page with these bytes and the files beside it.
+    LivePage Live(std::string_view page) const;
+
     /// Whether the page's file exists; the pane removes it once the page is loaded.
     bool PageFileExists() const;
+
+    bool IsLive = false; ///< pages opened from now on are live ones
+    int LiveShown = 0;   ///< how many of them came on screen
 
     FakeDialogs Dialogs;
     FakeShell Shell;

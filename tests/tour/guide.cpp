@@ -135,7 +135,9 @@ void Guide::Click(QWidget& front, const Step& step)
         const EffectCommand* effect = FindCommand(step.Value.toStdString());
         ASSERT_NE(effect, nullptr) << step.Value.toStdString();
         Find<QTabBar>(front, "TabStrip1")->setCurrentIndex(static_cast<int>(effect->Page));
-        name = "cmdSpecialFX(" + std::to_string(static_cast<int>(effect->Kind)) + ")";
+        const bool hasPicture = RowOf(effect->Kind).MenuCommand == effect->Name;
+        name = hasPicture ? "cmdSpecialFX(" + std::to_string(static_cast<int>(effect->Kind)) + ")"
+                          : std::string(effect->Name);
     } else if (step.Sign == '=' || name.starts_with('@')) {
         return;
     }

@@ -1,4 +1,6 @@
 #include "core/catalogue.h"
+#include "core/utf8.h"
+#include "insertion/page_encoding.h"
 #include "insertion/page_script.h"
 #include "tests/support/expect_text.h"
 #include "tests/tour/program.h"
@@ -99,12 +101,13 @@ protected:
     {
         const QString path = Folder(kind) + QStringLiteral("/page.html");
         const std::string page = BytesOf(path);
+        const PageEncoding encoding = EncodingOf(page);
         std::set<std::string> unseen;
         for (const Expectation& text : GetParam().Texts)
-            unseen.insert(TextOf(text));
+            unseen.insert(EncodeForPage(FromUtf8(TextOf(text)), encoding));
         const std::size_t begin = payload.BeginMarker.size() + lineEnd.size();
-        for (const std::string& part :
-             {ToUtf8(payload.Effect.HEADHTML), ToUtf8(payload.Effect.BODYHTML)}) {
+        for (const std::string& part : {EncodeForPage(payload.Effect.HEADHTML, encoding),
+                                        EncodeForPage(payload.Effect.BODYHTML, encoding)}) {
             EXPECT_NE(page.find(part), std::string::npos) << part;
             if (part.empty() || GetParam().Texts.empty())
                 continue;

@@ -1,6 +1,7 @@
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 #include "windows/field_controls.h"
+#include "windows/file_rows.h"
 #include "windows/hint_lines.h"
 #include "windows/number_box.h"
 #include "windows/page_builder.h"
@@ -35,6 +36,20 @@ protected:
     QDialog m_window;
     PageBuilder m_page{&m_window, &m_desk.Bench};
 };
+
+TEST_F(VocabularyTest, APickedSoundHasItsSourceAndDeleteAloneTakesItAway)
+{
+    AddSound(m_page, "txtSound", "SoundSource", {u"Sound:", {}, "cmdBrowse", u"Browse..."});
+    Show();
+    m_desk.Dialogs.AnswerOpenFile(u"/my  sounds/a b.mp3");
+    Click(m_window, "cmdBrowse");
+    EXPECT_EQ(TextIn("SoundSource"), u"/my  sounds/a b.mp3");
+    Type(m_window, "txtSound", u"x");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(TextIn("txtSound"), u"a%20b.mp3");
+    Press(*m_window.focusWidget(), Qt::Key_Delete);
+    EXPECT_EQ(TextIn("txtSound"), u"");
+}
 
 TEST_F(VocabularyTest, FontDialogFillsTheThreeFieldsAndTypedFontsStayAsTheyAre)
 {

@@ -26,8 +26,18 @@ start("calendar-1", (root) => {
         timeZone: "",
     });
     const page = root.closest("[lang]")?.getAttribute("lang");
-    const language = field.language === "visitor" ? undefined : field.language || page || undefined;
-    const timeZone = field.timeZone || undefined;
+    /** A value that the browser takes, else nothing. @param {string} value @param {(value: string) => any} take */
+    const known = (value, take) => {
+        try {
+            take(value);
+            return value;
+        } catch {}
+    };
+    const language =
+        field.language === "visitor"
+            ? undefined
+            : known(field.language || page || "", (one) => new Intl.DateTimeFormat(one));
+    const timeZone = known(field.timeZone, (one) => new Intl.DateTimeFormat([], { timeZone: one }));
     const leaf = make("time", field.look === "plain" ? "plain" : "leaf");
     dress(leaf, field);
     leaf.style.background = "";

@@ -6,9 +6,9 @@ import { strip, stripCss } from "../strip.js";
 
 const css =
     ".box{display:flex;align-items:center;gap:4px}img{display:block}" +
-    "a{display:block}.film .track{border:solid #111;border-width:3px 0;padding:8px 0;" +
-    "background:repeating-linear-gradient(90deg,#111 0 6px,#eee 6px 16px)}" +
-    ".film .group{background:#111;padding:3px 0}" +
+    "a{display:block}.film .group{border:solid #111;border-width:3px 0;padding:11px 0;" +
+    "background:linear-gradient(#111,#111) 0/100% calc(100% - 16px) no-repeat," +
+    "repeating-linear-gradient(90deg,#111 0 6px,#eee 6px 16px)}" +
     ".still{overflow-x:auto}.still .track{width:max-content}.still .group{flex-wrap:nowrap}";
 
 start("film-1", (root) => {

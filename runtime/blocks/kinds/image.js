@@ -17,6 +17,9 @@ start("image-1", (root) => {
     const item = items[pick(root, items.length, field.rule)];
     const box = make("div", "box", ...item.childNodes);
     sized(box, field);
-    if (field.border) box.style.border = `${field.border}px solid ${field.borderColor}`;
+    if (field.border) {
+        box.style.border = field.border + "px solid";
+        box.style.borderColor = field.borderColor;
+    }
     place(root, framesCss, box);
 });

@@ -4,7 +4,7 @@ import { fields, make, on, place, rows, size, start } from "../start.js";
 
 const css =
     ".box{display:flex;flex-wrap:wrap;gap:.8em;align-items:flex-start}li{margin-bottom:.3em}" +
-    "a{display:inline-block;padding:.15em}.stage{display:grid;flex:none;max-width:100%}" +
+    "button{all:unset;cursor:pointer}a,button{display:inline-block;padding:.15em}.stage{display:grid;flex:none;max-width:100%}" +
     ".stage img{grid-area:1/1;max-width:100%;height:auto;opacity:0;transition:opacity var(--fade)}" +
     ".stage .shown{opacity:1}.wide img{width:100%}" +
     "@media(prefers-reduced-motion:reduce){.stage img{transition:none}}";
@@ -19,9 +19,12 @@ start("rollover-1", (root) => {
     });
     const triggers = rows(root, field.target);
     const shown = triggers.map((item) => {
-        const picture = /** @type {HTMLImageElement} */ (item.querySelector(":scope>img"));
+        const own = /** @type {NodeListOf<HTMLImageElement>} */ (item.querySelectorAll("img"));
+        const picture = own[own.length - 1];
         picture.loading = "eager";
         picture.remove();
+        // What leads nowhere must come to the keyboard all the same.
+        if (!item.querySelector("a[href]")) item.append(make("button", "", ...item.childNodes));
         return picture;
     });
     const stage = make("div", field.width ? "stage wide" : "stage", ...shown);

@@ -44,7 +44,7 @@ start("sound-1", (root) => {
         if (--left > 0) play();
     });
     on(button, "click", () => (sound.paused ? play().catch(() => {}) : sound.pause()));
-    place(root, css, sound, button);
+    place(root, css, ...(own.getAttribute("src") ? [sound, button] : []));
     on(window, "pagehide", () => (mine = false));
     if (get() !== "off" && own.getAttribute("src"))
         // Browsers refuse sounds before the visitor has done anything to the page.

@@ -6,8 +6,9 @@
 import { readFileSync } from "node:fs";
 import { launch, names } from "../page_script/browsers.mjs";
 import { serve } from "../page_script/server.mjs";
+import { classics } from "./classics.mjs";
 import { kinds, scrollbars, together } from "./kinds.mjs";
-import { cost, pageOf, scenarios, seesScrollbars } from "./scenarios.mjs";
+import { beside, cost, pageOf, scenarios, seesScrollbars } from "./scenarios.mjs";
 
 const place = process.argv[2];
 const costs = process.argv.includes("cost");
@@ -24,9 +25,9 @@ let opened = 0;
 /** What keeps a block from passing in a fresh tab, or null. */
 async function faultOf(browser, row, scenario, doctype) {
     const tab = await browser.newPage();
-    const prints = (await browser.version()).startsWith("Chrome");
+    const isChromium = (await browser.version()).startsWith("Chrome");
     const height = row.parts ? 2400 : 600;
-    await tab.setViewport({ width: 800, height, hasTouch: prints });
+    await tab.setViewport({ width: 800, height, hasTouch: isChromium });
     const errors = [];
     // Firefox counts a policy's refusals as errors of the page.
     tab.on("pageerror", (error) => /^Content-Security/.test(error.message) || errors.push(error));
@@ -40,7 +41,7 @@ async function faultOf(browser, row, scenario, doctype) {
         await tab.goto(server.at + name, { waitUntil: "load", timeout: 30000 });
     };
     try {
-        await scenario.run({ open, row, tab, axe, prints, doctype, requests: () => requests });
+        await scenario.run({ open, row, tab, axe, isChromium, doctype, requests: () => requests });
         if (errors.length) throw errors[0];
         return null;
     } catch (error) {
@@ -65,6 +66,7 @@ const runs = costs
     : [
           ...kinds.flatMap((row) => scenarios.map((scenario) => [row, scenario])),
           ...scenarios.filter(({ alone }) => !alone).map((one) => [together, one]),
+          ...classics().map((classic) => [together, beside(classic)]),
           [bars, barsSeen],
       ];
 

@@ -41,7 +41,10 @@ export const setUp = `${tabs}
       ["requestAnimationFrame", "cancelAnimationFrame"]]) {
     const { [start]: set, [end]: clear } = window;
     window[start] = (run, ...rest) => {
-      const id = set((...all) => { if (start !== "setInterval") pending.delete(id); run(...all); }, ...rest);
+      const id = set((...all) => {
+        if (start !== "setInterval") pending.delete(id);
+        run.call ? run(...all) : (0, eval)(run);
+      }, ...rest);
       return pending.add(id), id;
     };
     window[end] = (id) => { pending.delete(id); clear(id); };
@@ -168,9 +171,9 @@ export const scenarios = [
         },
     },
     {
-        name: "from right to left, its script in the head and twice at the end",
+        name: "from right to left in a table, its script in the head and twice at the end",
         async run({ open, row, tab }) {
-            await open({ script: "head", attributes: 'dir="rtl"' });
+            await open({ script: "head", attributes: 'dir="rtl"', table: !row.parts });
             await row.sees(tab, 0);
             assert.ok((await tab.evaluate(() => wide())) < 4, "the page grows wider");
         },
@@ -243,7 +246,7 @@ export const scenarios = [
     {
         name: "by keyboard and touch, and in print",
         alone: true,
-        async run({ open, row, tab, prints }) {
+        async run({ open, row, tab, isChromium }) {
             await open({ before: `${sure} onclick = (event) => event.preventDefault();` });
             await wait(300);
             await says(tab, row);
@@ -266,7 +269,7 @@ export const scenarios = [
             await tab.evaluate(() => document.activeElement.blur());
             await wait(400);
             const at = button && (await tab.evaluate(middle, "button"));
-            if (at && prints) {
+            if (at && isChromium) {
                 const state = () =>
                     [inside("button")].map((e) => `${e?.title} ${e?.ariaExpanded} ${e?.offsetWidth}`);
                 const before = await tab.evaluate(state);
@@ -279,7 +282,7 @@ export const scenarios = [
                     await row.sees(tab, 0);
                 }
             }
-            if (!prints || row.outside) return;
+            if (!isChromium || row.outside) return;
             await tab.emulateMediaType("print");
             await wait(100);
             if (!row.anywhere) await says(tab, row, { seen: true });
@@ -287,6 +290,16 @@ export const scenarios = [
         },
     },
 ];
+
+/** With an effect that is no block on the page, and the page script or not. */
+export const beside = (classic) => ({
+    name: `beside ${classic.name}`,
+    async run({ open, row, tab, doctype }) {
+        tab.on("dialog", (box) => box.dismiss());
+        await open({ classic, pageScript: doctype });
+        await row.sees(tab, 0);
+    },
+});
 
 /** The page's scrollbars have their colours, and boxes on it have not. */
 export async function seesScrollbars(tab) {
@@ -314,7 +327,7 @@ export async function cost({ open, tab }) {
 /** The text of a page with a row's block; `code` gives the script of a kind. */
 export async function pageOf(row, code, options) {
     const { doctype, copies = 1, pageScript = false, policy = false, head = "" } = options;
-    const { script = "place", before = "", attributes = "" } = options;
+    const { script = "place", before = "", attributes = "", classic = {}, table } = options;
     const elements = asked(row).map(
         ({ kind }) => `<script data-orvane-run="${kind}-1">${code(kind)}</script>`,
     );
@@ -328,11 +341,12 @@ export async function pageOf(row, code, options) {
         `<html lang="en" ${attributes}><head><title>Page</title><script>${before}${setUp}</script>`,
         policy ? `<meta http-equiv="Content-Security-Policy" content="${rule}">` : "",
         pageScript ? '<script src="orvane.js"></script>' : "",
-        `${head}${headed}</head><body><p>Before it.</p>`,
+        `${head}${headed}${classic.head ?? ""}</head><body onload="${classic.load ?? ""}">`,
+        table ? "<p>Before it.</p><table><tr><td>" : "<p>Before it.</p>",
         `<!-- ***** Begin:Varlo ${row.kind} special effect ***** -->\r\n${block}<!-- ***** End:Varlo ${row.kind} special effect ***** -->`.repeat(
             copies,
         ),
-        `<p>Behind it.</p>${headed}${headed}</body></html>`,
+        `${table ? "</table>" : ""}<p>Behind it.</p>${classic.body ?? ""}${headed}${headed}</body></html>`,
     ].join("");
 }
 

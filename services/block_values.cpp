@@ -1,10 +1,9 @@
-#include "services/block_fields.h"
+#include "services/block_values.h"
 
 #include "core/numbers.h"
 #include "core/percents.h"
 #include "core/utf8.h"
 #include "services/block_pictures.h"
-#include "services/web_address.h"
 
 #include <algorithm>
 #include <charconv>
@@ -70,8 +69,9 @@ Text MendedNumber(TextView text, const NumberBounds& bounds, TextView fresh)
 std::optional<Complaint> CheckNumber(const FieldName& field, TextView text)
 {
     const auto number = ReadNumber(text);
-    const bool isFit = number && number->IsAll && number->Value >= field.Bounds->Least &&
-                       number->Value <= field.Bounds->Most;
+    const bool isFit = number && number->IsAll &&
+                       (field.Calm == CalmBound::Least || number->Value >= field.Bounds->Least) &&
+                       (field.Calm == CalmBound::Most || number->Value <= field.Bounds->Most);
     if (isFit || OneLine(text).empty())
         return std::nullopt;
     return Complaint{Join({u"Please enter a number from ", NumberToText(field.Bounds->Least),
@@ -79,34 +79,34 @@ std::optional<Complaint> CheckNumber(const FieldName& field, TextView text)
                      field.Name};
 }
 
-std::optional<Complaint> Check(const BlockRow& row)
+std::optional<Text> CalmWords(const FieldName& field, TextView text)
 {
-    if (TidyLines(row.Words).empty())
-        return Complaint{u"Please enter the text of the message.", "txtWords"};
-    return std::nullopt;
-}
-
-void Tidy(BlockRow& row)
-{
-    row = {TidyLines(row.Words), MendedLink(row.Link)};
-}
-
-std::optional<Complaint> CheckRows(const BlockRows& rows, ControlName control)
-{
-    if (std::ranges::all_of(rows, [](const auto& row) { return Check(row).has_value(); }))
-        return Complaint{u"Please add a message to the list.", control};
+    const auto number = ReadNumber(text);
+    if (field.Calm == CalmBound::None || !number || CheckNumber(field, text))
+        return std::nullopt;
+    if (number->Value < field.Bounds->Least)
+        return Join({u"The page takes ", NumberToText(field.Bounds->Least),
+                     u": with less it would not be calm enough to read."});
+    if (number->Value > field.Bounds->Most)
+        return Join({u"The page takes ", NumberToText(field.Bounds->Most),
+                     u": more can harm those who look at it."});
     return std::nullopt;
 }
 
 std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlName control,
-                                       std::size_t most)
+                                       const PictureCount& count)
 {
     // A picture without an address goes when the wizard ends.
-    if (std::ranges::all_of(pictures, [](const auto& one) { return OneLine(one.Address).empty(); }))
+    const auto shown = static_cast<std::size_t>(std::ranges::count_if(
+        pictures, [](const BlockPicture& picture) { return !OneLine(picture.Address).empty(); }));
+    if (shown == 0)
         return Complaint{u"Please add a picture to the list.", control};
-    if (pictures.size() > most)
+    if (shown < count.Least)
+        return Complaint{u"Please add a second picture to the list.", control};
+    if (shown > count.Most)
         return Complaint{
-            Join({u"Please add ", NumberToText(most), u" pictures at most to the list."}), control};
+            Join({u"Please add ", NumberToText(count.Most), u" pictures at most to the list."}),
+            control};
     for (const BlockPicture& picture : pictures)
         for (const BlockPicture& other : pictures)
             if (picture.Address == other.Address && picture.Source != other.Source)
@@ -117,28 +117,18 @@ std::optional<Complaint> CheckPictures(const BlockPictures& pictures, ControlNam
     return std::nullopt;
 }
 
-bool IsStyleColor(TextView color)
+std::optional<Complaint> CheckColor(TextView color, TextView what, ControlName control)
 {
-    int open = 0;
-    for (const char16_t c : color) {
-        const bool isLetterOrDigit =
-            (c >= u'0' && c <= u'9') || (ToLower(c) >= u'a' && ToLower(c) <= u'z');
-        if (!isLetterOrDigit && TextView(u"#%()+,-./ ").find(c) == TextView::npos)
-            return false;
-        open += c == u'(' ? 1 : c == u')' ? -1 : 0;
-        if (open < 0)
-            return false;
-    }
-    return open == 0;
-}
-
-Text MendedLink(TextView link)
-{
-    return WithScheme(OneLine(link));
+    const Text given = OneLine(color);
+    if (!given.empty() && given != noColor)
+        return std::nullopt;
+    return Complaint{Join({u"Please choose a color for ", what, u"."}), control};
 }
 
 void MendField(const FieldName& field, Text& value, const Text& fresh)
 {
+    if (field.IsSource)
+        return;
     if (field.IsContent) {
         value = TidyLines(value);
         return;
@@ -162,11 +152,25 @@ void MendField(const FieldName& field, int& value, const Text&)
                            static_cast<int>(field.Bounds->Most));
 }
 
-void MendField(const FieldName&, BlockRows& rows, const Text&)
+void MendField(const FieldName&, BlockParagraphs& paragraphs, const Text&)
 {
-    for (BlockRow& row : rows)
-        Tidy(row);
-    std::erase_if(rows, [](const BlockRow& row) { return row.Words.empty(); });
+    paragraphs.Words = TidyParagraphs(paragraphs.Words);
+}
+
+void MendField(const FieldName& field, std::vector<Text>& colors, const Text& fresh)
+{
+    for (Text& color : colors)
+        color = OneLine(color);
+    // A blank parts two colours in the attribute.
+    std::erase_if(colors, [](const Text& color) {
+        return color.empty() || color == noColor || color.find(u' ') != Text::npos ||
+               !IsStyleColor(color);
+    });
+    const auto least = static_cast<std::size_t>(field.Bounds->Least);
+    const auto most = static_cast<std::size_t>(field.Bounds->Most);
+    if (colors.size() < least)
+        SetFromAttribute(field, colors, fresh);
+    colors.resize(std::min(colors.size(), most));
 }
 
 void MendField(const FieldName&, BlockPictures& pictures, const Text&)
@@ -174,6 +178,18 @@ void MendField(const FieldName&, BlockPictures& pictures, const Text&)
     for (BlockPicture& picture : pictures)
         Tidy(picture);
     std::erase_if(pictures, [](const BlockPicture& picture) { return picture.Address.empty(); });
+}
+
+void MendField(const FieldName&, RolloverRows& rows, const Text&)
+{
+    for (RolloverRow& row : rows)
+        Tidy(row);
+    std::erase_if(rows, [](const RolloverRow& row) { return Check(row).has_value(); });
+}
+
+Text AttributeText(const std::vector<Text>& value)
+{
+    return Listed(value, u" ");
 }
 
 void AddAttribute(BlockAttributes& attributes, const FieldName& field, const Text& value,
@@ -201,6 +217,14 @@ void SetFromAttribute(const FieldName&, Text& value, TextView attribute)
 {
     if (!attribute.empty())
         value = attribute;
+}
+
+void SetFromAttribute(const FieldName&, std::vector<Text>& value, TextView attribute)
+{
+    value.clear();
+    for (TextView rest = attribute; !rest.empty();)
+        if (const TextView color = TakeUntil(rest, u' '); !color.empty())
+            value.emplace_back(color);
 }
 
 void SetFromAttribute(const FieldName&, bool& value, TextView attribute)

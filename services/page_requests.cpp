@@ -1,4 +1,4 @@
-#include "delivery/page_requests.h"
+#include "services/page_requests.h"
 
 namespace orvane {
 
