@@ -32,6 +32,7 @@ BannerWizardForm::BannerWizardForm(Workbench& bench, QWidget* parent)
     size.Fill();
 
     AddButtons(Buttons::Paged);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane
