@@ -14,6 +14,7 @@ constexpr const char* usage = R"(Usage: orvane-cli COMMAND ...
 Makes special effects for Web pages, without a window.
 
 effects [--fields NAME] [--json]     all effects, or the fields of one
+effects --recipe NAME                a recipe of one as it is in a fresh wizard
 make RECIPE --print                  the effect's code, to be put in by hand
 make RECIPE --into PAGE...           put into pages
 make RECIPE --new PAGE               a new page around it
@@ -46,7 +47,7 @@ struct CliCommand
 const std::vector<CliCommand>& Commands()
 {
     static const std::vector<CliCommand> commands = {
-        {"effects", ShowEffects, {{"--fields", true}, {"--json"}}},
+        {"effects", ShowEffects, {{"--fields", true}, {"--recipe", true}, {"--json"}}},
         {"make",
          MakeEffect,
          {{"--print"},

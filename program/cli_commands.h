@@ -8,7 +8,7 @@ namespace orvane {
 // The commands of the command line program. Each gives the exit code, after it
 // told what was asked for and whatever went wrong.
 
-/// Lists all effects, or the fields of one.
+/// Lists all effects or the fields of one, or prints a fresh one's recipe.
 CliExit ShowEffects(const CliRequest& request, CliWorld& world);
 
 /// Prints the effect of a recipe, puts it into pages or makes a page around it.

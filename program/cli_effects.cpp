@@ -114,8 +114,9 @@ std::string Lines(const CatalogueRow& row, bool withFields)
 
 CliExit ShowEffects(const CliRequest& request, CliWorld& world)
 {
+    const auto fresh = request.Value("--recipe");
+    const auto named = fresh ? fresh : request.Value("--fields");
     std::vector<const CatalogueRow*> rows;
-    const auto named = request.Value("--fields");
     if (!named) {
         for (const CatalogueRow& row : Catalogue())
             if (FindRowCalled(row.Title) == &row && AnyEffect::Fresh(row.Kind))
@@ -125,6 +126,10 @@ CliExit ShowEffects(const CliRequest& request, CliWorld& world)
         rows.push_back(row);
     } else {
         return Tell(world, {Join({u"there is no effect \"", *named, u"\""})});
+    }
+    if (fresh) {
+        world.Out(ToUtf8(WriteRecipe(*AnyEffect::Fresh(rows.front()->Kind), world.CurrentFolder)));
+        return CliExit::Success;
     }
     std::vector<std::string> shown;
     for (const CatalogueRow* row : rows)

@@ -19,8 +19,8 @@ struct PageEnd
     enum class As
     {
         Written, ///< or looked at, by a command that writes nothing
-        Kept,   ///< there was nothing to do, or an option said so
-        Failed, ///< Words say why
+        Kept,    ///< there was nothing to do, or an option said so
+        Failed,  ///< Words say why
     };
     As Is = As::Written;
     Text Words{}; ///< behind the page's path; none: nothing is told

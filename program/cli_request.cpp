@@ -11,7 +11,7 @@ std::variant<CliRequest, std::string> CliRequest::Read(std::span<const std::stri
     bool areOptionsOver = false;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string& word = words[i];
-        if (areOptionsOver || !word.starts_with("--")) {
+        if (areOptionsOver || !word.starts_with('-')) {
             request.m_names.push_back(FromUtf8(word));
             continue;
         }

@@ -8,7 +8,7 @@ _orvane_cli()
         return
     fi
     case $before in
-        --effect | --fields)
+        --effect | --fields | --recipe)
             options=$(orvane-cli effects 2>/dev/null | cut -f 1 | tr 'A-Z /' 'a-z--')
             COMPREPLY=($(compgen -W "$options" -- "$word"))
             return
@@ -20,7 +20,7 @@ _orvane_cli()
         --set | --pattern) return ;;
     esac
     case ${COMP_WORDS[1]} in
-        effects) options="--fields --json" ;;
+        effects) options="--fields --recipe --json" ;;
         make) options="--print --into --new --set --today --folder --pattern --replace --keep --dry-run" ;;
         list) options="--json --folder --pattern" ;;
         remove) options="--effect --folder --pattern --dry-run" ;;

@@ -134,6 +134,11 @@ TEST_F(CliTest, DoesWhatItsWordsSayAndTellsSo)
         {u"remove|--folder|sub|--pattern|*.htm|--effect|status bar text ticker", 0,
          "/site/sub/c.htm: taken out\n", "", ""},
         {u"list|--folder|none", 1, "", "orvane-cli: there is no page to work on\n", ""},
+        {u"effects|--recipe|popup alert box", 0,
+         "# A recipe of Orvane. Lines that begin with \"#\" are comments; \"\\r\\n\" is a line "
+         "end, \"\\\\\" a backslash.\nEffect: Popup Alert Box\n\n"
+         "cmboAlertType: Simple Alert box\ntxtAlertText: \n",
+         "", ""},
         {u"effects|--fields|popup alert box", 0,
          "cmboAlertType\tSimple Alert box\ttext\ntxtAlertText\t\ttext\n", "", ""},
     };
