@@ -38,6 +38,7 @@ SoundEffectForm::SoundEffectForm(Workbench& bench, QWidget* parent)
     page.Fill();
 
     AddButtons(Buttons::OnePage);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane
