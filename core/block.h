@@ -84,7 +84,7 @@ void ForEachField(Picture& picture, Field&& field)
     field("Address", picture.Address);
     field("txtDescription", picture.Description);
     field("txtLink", picture.Link);
-    field("Source", picture.Source);
+    field(SourceField("Source"), picture.Source);
     field("Width", picture.Width);
     field("Height", picture.Height);
 }
@@ -108,10 +108,10 @@ void ForEachField(Row& row, Field&& field)
     field("txtDescription", row.Picture.Description);
     field("txtLink", row.Picture.Link);
     field("txtTrigger", row.Trigger.Address);
-    field("PictureSource", row.Picture.Source);
+    field(SourceField("PictureSource"), row.Picture.Source);
     field("PictureWidth", row.Picture.Width);
     field("PictureHeight", row.Picture.Height);
-    field("TriggerSource", row.Trigger.Source);
+    field(SourceField("TriggerSource"), row.Trigger.Source);
     field("TriggerWidth", row.Trigger.Width);
     field("TriggerHeight", row.Trigger.Height);
 }

@@ -85,6 +85,16 @@ const Row* FindIn(std::span<const Row> table, Same same)
     return row == table.end() ? nullptr : &*row;
 }
 
+/// The letters and digits of a name, in lower case.
+Text LettersOf(TextView name)
+{
+    Text letters = ToLower(name);
+    std::erase_if(letters, [](char16_t sign) {
+        return !(sign >= u'a' && sign <= u'z') && !(sign >= u'0' && sign <= u'9');
+    });
+    return letters;
+}
+
 } // namespace
 
 std::span<const CatalogueRow> Catalogue()
@@ -102,6 +112,19 @@ const CatalogueRow& RowOf(EffectKind kind)
     static constexpr CatalogueRow none;
     const CatalogueRow* row = FindRow(kind);
     return row == nullptr ? none : *row;
+}
+
+const CatalogueRow* FindRowCalled(TextView name)
+{
+    const Text letters = LettersOf(name);
+    for (const auto words : {&CatalogueRow::Title, &CatalogueRow::MarkerName})
+        for (const bool hasButton : {true, false})
+            if (const auto* row = FindIn<CatalogueRow>(rows, [&](const CatalogueRow& candidate) {
+                    return candidate.HasButton == hasButton && !letters.empty() &&
+                           LettersOf(candidate.*words) == letters;
+                }))
+                return row;
+    return nullptr;
 }
 
 std::span<const EffectCommand> EffectCommands()

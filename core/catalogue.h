@@ -82,6 +82,11 @@ const CatalogueRow* FindRow(EffectKind kind);
 /// The row of an effect, or one without words and flags for a number without one.
 const CatalogueRow& RowOf(EffectKind kind);
 
+/// The row of the effect that the author means: the one whose title or marker name has these
+/// letters and digits, in upper or lower case and whatever stands between them, such as
+/// "digital-clock"; null when there is none. One with a button comes first.
+const CatalogueRow* FindRowCalled(TextView name);
+
 /// All effect commands, in menu order.
 std::span<const EffectCommand> EffectCommands();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/choices.h"
 #include "core/complaint.h"
 #include "core/payload.h"
 #include "core/text.h"
@@ -153,15 +154,15 @@ requires std::is_enum_v<Choice> FieldTexts TextsOf(Choice value)
     return TextsOf(static_cast<int>(value));
 }
 
-/// Sets a choice by its number. Which numbers the enumeration has is not checked here: a window
-/// shows no choice that it does not offer, so none reaches the effect from it.
+/// Sets a choice by its number; one that the enumeration does not have leaves it as it is.
 template <class Choice>
 requires std::is_enum_v<Choice>
 void SetField(Choice& value, const FieldTexts& texts)
 {
     int number = static_cast<int>(value);
     SetField(number, texts);
-    value = static_cast<Choice>(number);
+    if (IsChoice<Choice>(number))
+        value = static_cast<Choice>(number);
 }
 
 /// Stands for whatever is called with the fields of a struct.

@@ -8,6 +8,7 @@
 #include "delivery/method_panel.h"
 #include "delivery/preview_panel.h"
 #include "insertion/auto_insert.h"
+#include "services/made_files.h"
 #include "windows/qt_text.h"
 #include "windows/wait_cursor.h"
 
@@ -64,10 +65,7 @@ PreviewForm::~PreviewForm()
     m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
-    // What holds a password was made for this delivery alone.
-    for (const MadeFile& file : m_payload.Effect.MadeFiles)
-        if (file.IsSecret)
-            std::ignore = m_bench.Files.Remove(PathIn(m_bench.Core.ProgramFolder, file.Name));
+    RemoveSecretFiles(m_bench.Files, m_bench.Core.ProgramFolder, m_payload.Effect);
     m_bench.Core.Payload.HEADHTML.clear();
     m_bench.Core.Payload.BODYHTML.clear();
 }

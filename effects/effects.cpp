@@ -18,13 +18,13 @@ bool IsOfKind(EffectKind kind)
     return std::ranges::find(Effect::Kinds, kind) != Effect::Kinds.end();
 }
 
-/// The fresh effect of the first type of the list that is made as this kind.
+/// The fresh parameters of the first type of the list that is made as this kind.
 template <std::size_t index = 0>
-std::optional<AnyEffect> FirstOfKind(EffectKind kind)
+std::optional<EffectParameters> FirstOfKind(EffectKind kind)
 {
     if constexpr (index < std::variant_size_v<EffectParameters>) {
         using Effect = std::variant_alternative_t<index, EffectParameters>;
-        return IsOfKind<Effect>(kind) ? AnyEffect(FreshOf<Effect>(kind))
+        return IsOfKind<Effect>(kind) ? EffectParameters(FreshOf<Effect>(kind))
                                       : FirstOfKind<index + 1>(kind);
     } else {
         return std::nullopt;
@@ -35,7 +35,28 @@ std::optional<AnyEffect> FirstOfKind(EffectKind kind)
 
 std::optional<AnyEffect> AnyEffect::Fresh(EffectKind kind)
 {
-    return FirstOfKind(kind);
+    auto parameters = FirstOfKind(kind);
+    if (!parameters)
+        return std::nullopt;
+    return AnyEffect(*std::move(parameters), kind);
+}
+
+AnyEffect::AnyEffect(EffectParameters parameters)
+    : m_parameters(std::move(parameters)),
+      m_kind(std::visit(
+          [](const auto& effect) { return std::decay_t<decltype(effect)>::Kinds.front(); },
+          m_parameters))
+{
+}
+
+std::vector<FieldFacts> AnyEffect::Fields() const
+{
+    return std::visit([](const auto& effect) { return FactsOf(effect); }, m_parameters);
+}
+
+void AnyEffect::ForEachSource(const std::function<void(Text&)>& source)
+{
+    std::visit([&](auto& effect) { orvane::ForEachSource(effect, source); }, m_parameters);
 }
 
 void AnyEffect::ReadDraft(TextView draft, Secrets secrets)

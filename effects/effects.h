@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/draft.h"
+#include "core/field_facts.h"
 #include "core/surroundings.h"
 #include "effects/applet/advanced_animator.h"
 #include "effects/applet/image_effects.h"
@@ -50,9 +51,11 @@
 #include "effects/text/tooltips.h"
 #include "effects/text/vertical_scroller.h"
 
+#include <functional>
 #include <optional>
 #include <utility>
 #include <variant>
+#include <vector>
 
 namespace orvane {
 
@@ -72,13 +75,23 @@ using EffectParameters =
 class AnyEffect
 {
 public:
-    explicit AnyEffect(EffectParameters parameters) : m_parameters(std::move(parameters)) {}
+    /// Of the first kind that these parameters are made as.
+    explicit AnyEffect(EffectParameters parameters);
 
     /// A fresh effect of that kind, without what earlier ones left in the settings; nothing where
     /// there is none.
     static std::optional<AnyEffect> Fresh(EffectKind kind);
 
     const EffectParameters& Parameters() const { return m_parameters; }
+
+    EffectKind Kind() const { return m_kind; }
+
+    /// What is known of its fields, in the window's order.
+    std::vector<FieldFacts> Fields() const;
+
+    /// Calls `source` with each full path of a file that it holds, which may change it; with empty
+    /// ones too.
+    void ForEachSource(const std::function<void(Text&)>& source);
 
     /// Takes over the values of a draft's text; fields that it lacks stay.
     void ReadDraft(TextView draft, Secrets secrets = Secrets::Skipped);
@@ -105,7 +118,13 @@ public:
     EffectPayload Generate(const Surroundings& surroundings) const;
 
 private:
+    AnyEffect(EffectParameters parameters, EffectKind kind)
+        : m_parameters(std::move(parameters)), m_kind(kind)
+    {
+    }
+
     EffectParameters m_parameters;
+    EffectKind m_kind;
 };
 
 } // namespace orvane

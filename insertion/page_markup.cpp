@@ -43,7 +43,7 @@ std::size_t EndOfScript(std::string_view code, std::size_t at)
 {
     bool isInComment = false;
     bool isInInnerScript = false;
-    while ((at = code.find_first_of("<-", at)) < code.size()) {
+    while ((at = isInComment ? code.find_first_of("<-", at) : code.find('<', at)) < code.size()) {
         if (code.substr(at).starts_with("<!--")) {
             isInComment = true;
         } else if (code.substr(at).starts_with("-->")) {
@@ -91,9 +91,16 @@ std::size_t EndOfPlainText(std::string_view code, CodeSpan tag)
 
 bool IsTag(std::string_view code, std::size_t at, std::string_view start)
 {
+    // Asked for every tag of a page, which may be long. The start holds no signs but "<", "/" and
+    // small letters.
     const std::size_t end = at + start.size();
-    return StartsWithIgnoringCase(code.substr(at), start) && end < code.size() &&
-           std::string_view("\t\n\f\r />").find(code[end]) != std::string_view::npos;
+    if (end >= code.size())
+        return false;
+    for (std::size_t i = 0; i < start.size(); ++i)
+        if (code[at + i] != start[i] &&
+            (!IsLetter(code[at + i]) || (code[at + i] | 0x20) != start[i]))
+            return false;
+    return std::string_view("\t\n\f\r />").find(code[end]) != std::string_view::npos;
 }
 
 bool EndsPlainText(std::string_view code, std::size_t at)

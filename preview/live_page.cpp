@@ -51,7 +51,7 @@ LivePage EmptyPage(const FinishedPayload& payload)
 {
     LivePage page = PictureOf(std::nullopt);
     page.Bytes =
-        EncodeForPage(PreviewPageText(payload, PreviewMode::Inline), PageEncoding::Windows1252);
+        EncodeForPage(PreviewPageText(payload, PreviewMode::Live), PageEncoding::Windows1252);
     if (payload.WantsPageScript)
         page.Bytes = WithPageScript(page.Bytes);
     return page;

@@ -49,7 +49,7 @@ const PreviewWords& WordsFor(const EffectPayload& effect)
 
 Text BrowserPreviewBanner(const EffectPayload& effect, PreviewMode mode)
 {
-    return mode == PreviewMode::Inline ? Text() : Join({WordsFor(effect).AboveBanner, banner});
+    return mode == PreviewMode::Browser1 ? Join({WordsFor(effect).AboveBanner, banner}) : Text();
 }
 
 /// The code with a word to the author where a plain preview cannot show the effect.
@@ -57,14 +57,19 @@ Text PreviewBodyPart(const FinishedPayload& payload, PreviewMode mode)
 {
     const PreviewWords& words = WordsFor(payload.Effect);
     const bool isSeen = RowOf(payload.Effect.Kind).ShowsInStatusLine && !RunsInStatus(payload);
-    return Join({words.Before, payload.Effect.BODYHTML, isSeen ? TextView() : words.After,
-                 mode == PreviewMode::Inline ? words.PaneAfter : TextView()});
+    const auto inMode = [&](TextView text) {
+        return mode == PreviewMode::Live ? ReplaceAll(text, u"<b>Refresh</b>", u"<b>Run again</b>")
+                                         : Text(text);
+    };
+    return Join({inMode(words.Before), payload.Effect.BODYHTML,
+                 isSeen ? Text() : inMode(words.After),
+                 mode == PreviewMode::Browser1 ? Text() : inMode(words.PaneAfter)});
 }
 
 TextView PreviewHeadPart(const EffectPayload& effect, PreviewMode mode)
 {
     const TextView inPane = WordsFor(effect).PaneHead;
-    return mode == PreviewMode::Inline && !inPane.empty() ? inPane : TextView(effect.HEADHTML);
+    return mode != PreviewMode::Browser1 && !inPane.empty() ? inPane : TextView(effect.HEADHTML);
 }
 
 bool IsKnown(const Text& browser)

@@ -9,6 +9,7 @@ namespace orvane {
 enum class PreviewMode
 {
     Inline,   ///< in the embedded browser
+    Live,     ///< beside the fields, where "Run again" takes the place of "Refresh"
     Browser1, ///< in the author's own browser
 };
 

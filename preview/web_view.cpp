@@ -29,7 +29,9 @@ constexpr const char* engineFlags =
     " --proxy-server=socks5://127.0.0.1:9 --proxy-bypass-list=<-loopback>"
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp"
     " --disable-features=WebRtcHideLocalIpsWithMdns"
-    " --host-resolver-rules=\"MAP * ~NOTFOUND\"";
+    " --host-resolver-rules=\"MAP * ~NOTFOUND\""
+    // For the pages that live ones leave behind.
+    " --js-flags=--expose-gc-as=orvaneCollect";
 
 /// The preview's own script, first in every document. It gives window.status back its voice, which
 /// the engine keeps and shows nowhere; the property stays configurable, since pages declare

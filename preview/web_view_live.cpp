@@ -4,6 +4,7 @@
 
 #include <QStackedLayout>
 #include <QWebEngineLoadingInfo>
+#include <QWebEngineScript>
 #include <QWebEngineSettings>
 
 #include <algorithm>
@@ -17,6 +18,9 @@ constexpr double leastZoom = 0.25; ///< of the engine
 
 /// Longer than a page that hangs is waited for.
 constexpr int loadAtLastMs = 12000;
+
+/// As many pages as one process shows: something of each stays behind in it.
+constexpr int mostPages = 40;
 
 /// Scrolls to what stands behind the effect's first comment in the body.
 QString ScrollToMark(const Text& mark)
@@ -72,9 +76,20 @@ void LiveView::MakeSheet(Sheet& sheet)
 {
     sheet.View = new PageView(m_context, this);
     sheet.View->SetSeen(false);
+    sheet.View->AuthorActed = [&sheet] { sheet.Page->setAudioMuted(false); };
+    m_stack->addWidget(sheet.View);
+    MakePage(sheet);
+    Empty(sheet);
+}
+
+/// Gives the sheet a page, with a process of its own.
+void LiveView::MakePage(Sheet& sheet)
+{
+    const PreviewWebPage* former = sheet.Page;
+    sheet.Shown = 0;
     sheet.Page = new PreviewWebPage(m_profile, m_context, *sheet.View);
     sheet.View->setPage(sheet.Page);
-    sheet.View->AuthorActed = [&sheet] { sheet.Page->setAudioMuted(false); };
+    delete former;
     sheet.Page->StatusWritten = [this, &sheet](const QString& status) {
         sheet.Status = status;
         if (&sheet == &Front() && sheet.Number != 0)
@@ -95,8 +110,6 @@ void LiveView::MakeSheet(Sheet& sheet)
                     // The page itself is still on the stack.
                     QTimer::singleShot(0, this, [this, &sheet] { EndOf(sheet); });
             });
-    m_stack->addWidget(sheet.View);
-    Empty(sheet);
 }
 
 void LiveView::Show(const LivePage& page, bool isQuiet)
@@ -155,6 +168,9 @@ void LiveView::Loaded(Sheet& sheet, const QUrl& url)
 {
     if (sheet.IsEmptying) {
         sheet.IsEmptying = url != LiveScheme::EmptyPage();
+        // By itself the engine waits for many pages before it gives back what they held.
+        sheet.Page->runJavaScript(QStringLiteral("orvaneCollect()"),
+                                  QWebEngineScript::ApplicationWorld);
         return GoOn();
     }
     if (&sheet != &Back() || !m_isLoading)
@@ -175,6 +191,8 @@ void LiveView::Exchange()
     Front().View->SetSeen(true);
     m_stack->setCurrentWidget(Front().View);
     setFocusProxy(Front().View);
+    if (++former.Shown == mostPages)
+        MakePage(former);
     Empty(former);
     m_isLoading = false;
     m_loadAtLast.stop();

@@ -44,6 +44,7 @@ private:
         PreviewWebPage* Page = nullptr;
         QString Status = {};
         int Number = 0;          ///< in its address; 0 when it is empty
+        int Shown = 0;           ///< how many live pages its page has shown
         bool IsEmptying = false; ///< its empty page is still loaded
     };
     struct Wanted
@@ -53,6 +54,7 @@ private:
     };
 
     void MakeSheet(Sheet& sheet);
+    void MakePage(Sheet& sheet);
     void Load(const Wanted& wanted);
     void Loaded(Sheet& sheet, const QUrl& url);
     void Exchange();

@@ -1,6 +1,7 @@
 #include "reedit/effect_cuts.h"
 
 #include <algorithm>
+#include <set>
 
 namespace orvane {
 
@@ -18,12 +19,12 @@ std::vector<BodyCall> CallsOf(std::string_view page, const EffectInPage& effect)
     const auto bodyTag = BodyTag(page);
     if (!bodyTag)
         return {};
+    std::set<std::size_t> own;
+    for (const EffectPart& part : effect.Parts)
+        if (part.Place == PartPlace::OnLoad || part.Place == PartPlace::OnUnload)
+            own.insert(part.Span.Begin);
     std::vector<BodyCall> calls = CallsIn(page, *bodyTag);
-    std::erase_if(calls, [&](const BodyCall& call) {
-        return std::ranges::none_of(effect.Parts, [&](const EffectPart& part) {
-            return part.Span == call.Call && part.Place != PartPlace::PageScript;
-        });
-    });
+    std::erase_if(calls, [&](const BodyCall& call) { return !own.contains(call.Call.Begin); });
     return calls;
 }
 

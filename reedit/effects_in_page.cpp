@@ -76,8 +76,11 @@ public:
                                                                   : PartPlace::OnUnload,
                                   call.Call};
             const auto owner = m_functions.find(FunctionOf(code));
+            const auto popup = m_popups.find(code);
             if (owner != m_functions.end())
                 m_effects[owner->second].Parts.push_back(part);
+            else if (popup != m_popups.end())
+                m_effects[popup->second].Parts.push_back(part);
             else if (IsPopupWindow(code))
                 NoteScript(AddEffect(Text(RowOf(EffectKind::PopupWindow).MarkerName), part), code);
         }
@@ -121,6 +124,16 @@ private:
         NoteScript(number, code);
         if (isWhole)
             AddFunctions(m_functions, code, number);
+        if (isWhole && std::ranges::count(effect.Kinds, EffectKind::PopupWindow) != 0)
+            AddPopups(code, number);
+    }
+
+    /// The block of a popup that opens by itself repeats its call, in a BODY tag of its own.
+    void AddPopups(std::string_view block, std::size_t number)
+    {
+        if (const auto tag = BodyTag(block))
+            for (const BodyCall& call : CallsIn(block, *tag))
+                m_popups.emplace(CodeIn(block, call.Call), number);
     }
 
     /// Notes whether this code runs by itself, as blocks do, which bring a script of their own.
@@ -142,6 +155,7 @@ private:
     std::vector<EffectInPage> m_effects;
     std::map<Text, std::size_t> m_headEffects; ///< by name, once the first block is read
     Functions m_functions;
+    std::map<std::string_view, std::size_t> m_popups; ///< by the call
 };
 
 } // namespace

@@ -18,6 +18,15 @@ bool HasCrLf(std::string_view page, std::size_t at)
     return at <= page.size() && page.substr(at, crLf.size()) == crLf;
 }
 
+/// The cut that takes out the character at that place, or null. Expects cuts in the page's order.
+const CodeSpan* CutAt(const std::vector<CodeSpan>& cuts, std::size_t at)
+{
+    const auto behind = std::ranges::upper_bound(cuts, at, {}, &CodeSpan::Begin);
+    if (behind == cuts.begin() || std::prev(behind)->End <= at)
+        return nullptr;
+    return &*std::prev(behind);
+}
+
 } // namespace
 
 InsertedBlocks::InsertedBlocks(std::string_view page, const std::vector<EffectPart>& blocks)
@@ -102,16 +111,20 @@ bool InsertedBlocks::IsInserted(const EffectPart& block) const
 
 std::vector<Splice> InsertedBlocks::CutsOf(const std::vector<EffectPart>& blocks) const
 {
-    std::vector<Splice> cuts;
+    std::vector<CodeSpan> cuts;
     for (const EffectPart& block : blocks)
         AddCuts(cuts, block);
+    std::ranges::sort(cuts, {}, &CodeSpan::Begin);
+    std::vector<Splice> splices;
+    for (const CodeSpan cut : cuts)
+        splices.push_back({cut, {}});
     for (const Chain& chain : m_chains)
         for (const Run& run : chain.Runs)
-            MendDoubled(run, cuts);
-    return cuts;
+            MendDoubled(run, cuts, splices);
+    return splices;
 }
 
-void InsertedBlocks::AddCuts(std::vector<Splice>& cuts, const EffectPart& block) const
+void InsertedBlocks::AddCuts(std::vector<CodeSpan>& cuts, const EffectPart& block) const
 {
     const CodeSpan span = block.Span;
     std::optional<CodeSpan> alone;
@@ -124,8 +137,8 @@ void InsertedBlocks::AddCuts(std::vector<Splice>& cuts, const EffectPart& block)
         const Unit& unit = found->second;
         alone = {unit.Begin, unit.End};
         if (const auto lineEnds = LineEndsOf(*chain, unit)) {
-            cuts.push_back({{unit.Begin - unit.Replacements * frontSize, unit.End}, {}});
-            cuts.push_back({*lineEnds, {}});
+            cuts.push_back({unit.Begin - unit.Replacements * frontSize, unit.End});
+            cuts.push_back(*lineEnds);
             return;
         }
     }
@@ -133,7 +146,7 @@ void InsertedBlocks::AddCuts(std::vector<Splice>& cuts, const EffectPart& block)
         alone = {span.Begin - frontSize, span.End + crLf.size()};
     if (!alone)
         alone = {span.Begin, span.End + LineEndAt(m_page, span.End)};
-    cuts.push_back({*alone, {}});
+    cuts.push_back(*alone);
 }
 
 /// The line ends that replacing runs left in front of the close tag; nothing when there were no
@@ -152,21 +165,17 @@ std::optional<CodeSpan> InsertedBlocks::LineEndsOf(const Chain& chain, const Uni
 
 /// Where the page goes on with a block that is cut, its first character is the doubled one, and
 /// another takes its place.
-void InsertedBlocks::MendDoubled(const Run& run, std::vector<Splice>& cuts) const
+void InsertedBlocks::MendDoubled(const Run& run, const std::vector<CodeSpan>& cuts,
+                                 std::vector<Splice>& splices) const
 {
-    const auto isCutAt = [&](std::size_t at) {
-        return std::ranges::find_if(cuts, [=](const Splice& cut) {
-            return cut.New.empty() && cut.Old.Begin <= at && at < cut.Old.End;
-        });
-    };
     std::size_t end = run.End;
-    for (auto cut = isCutAt(end); cut != cuts.end(); cut = isCutAt(end))
-        end = cut->Old.End;
+    while (const CodeSpan* cut = CutAt(cuts, end))
+        end = cut->End;
     if (end == run.End || end == m_page.size())
         return;
     for (const std::size_t at : run.Doubled)
-        if (isCutAt(at) == cuts.end())
-            cuts.push_back({{at, at + 1}, std::string(m_page.substr(end, 1))});
+        if (CutAt(cuts, at) == nullptr)
+            splices.push_back({{at, at + 1}, std::string(m_page.substr(end, 1))});
 }
 
 /// Whether a block stands between what an insertion wrote, though something else was put behind the

@@ -53,9 +53,10 @@ private:
     Chain ReadChain(std::string_view tag, std::string_view closeTag) const;
     std::size_t BehindOthers(std::size_t at) const;
     std::size_t ReadRun(Chain& chain, std::size_t at) const;
-    void AddCuts(std::vector<Splice>& cuts, const EffectPart& block) const;
+    void AddCuts(std::vector<CodeSpan>& cuts, const EffectPart& block) const;
     std::optional<CodeSpan> LineEndsOf(const Chain& chain, const Unit& unit) const;
-    void MendDoubled(const Run& run, std::vector<Splice>& cuts) const;
+    void MendDoubled(const Run& run, const std::vector<CodeSpan>& cuts,
+                     std::vector<Splice>& splices) const;
     bool IsMovedUnit(CodeSpan block) const;
 
     std::string_view m_page;

@@ -37,6 +37,17 @@ Text SourceOf(const RequiredFiles& files, TextView name)
     return {};
 }
 
+void TakeSourcesFrom(RequiredFiles& required, const FileStore& files, TextView folder)
+{
+    for (std::size_t slot = 0; slot < required.RequiredFileNames.size(); ++slot) {
+        const Text& name = required.RequiredFileNames[slot];
+        if (name.empty() || !required.RequiredFileSources[slot].empty())
+            continue;
+        if (Text path = PathIn(folder, name); files.FileExists(path))
+            required.RequiredFileSources[slot] = std::move(path);
+    }
+}
+
 void RequireFile(RequiredFiles& files, std::size_t slot, TextView name)
 {
     files.RequiredFileNames.at(slot) = name;

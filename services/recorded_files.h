@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/complaint.h"
+#include "core/file_store.h"
 #include "core/payload.h"
 
 #include <cstddef>
@@ -25,6 +26,9 @@ void RecordRequiredFile(RequiredFiles& files, TextView source, TextView name);
 
 /// The source of the file of that name, as it was recorded last; empty when it was not.
 Text SourceOf(const RequiredFiles& files, TextView name);
+
+/// Takes files whose source is not known from this folder, where one of their name lies there.
+void TakeSourcesFrom(RequiredFiles& required, const FileStore& files, TextView folder);
 
 /// Puts the file name of a field into a slot. The source that Browse left in the slot stays only if
 /// it is the path of that file; a typed name, or an empty one, has no source. Throws

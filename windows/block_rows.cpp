@@ -142,8 +142,8 @@ void AddDirection(PageBuilder& page, TextView label)
 
 void AddTimes(PageBuilder& page)
 {
-    page.Narrow(page.OpenChoiceBox("cboTimes", u"&How often:", times,
-                                   u"How many times all of it is shown"));
+    page.Narrow(
+        page.OpenChoiceBox("cboTimes", u"&How often:", times, u"How many times all of it runs"));
 }
 
 void AddChange(PageBuilder& page, ControlName name, TextView label, TextView tip)

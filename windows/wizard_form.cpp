@@ -1,7 +1,7 @@
 #include "windows/wizard_form.h"
 
-#include "core/file_names.h"
 #include "services/drafts.h"
+#include "services/made_files.h"
 #include "windows/qt_text.h"
 
 #include <QPushButton>
@@ -14,14 +14,6 @@ namespace orvane {
 namespace {
 
 constexpr int keepAfterMilliseconds = 500;
-
-/// Writes the file where support files lie.
-Done WriteMade(Workbench& bench, const MadeFile& file)
-{
-    const Text path = PathIn(bench.Core.ProgramFolder, file.Name);
-    return file.IsSecret ? bench.Files.PutPrivate(path, file.Bytes)
-                         : bench.Files.Replace(path, file.Bytes);
-}
 
 } // namespace
 
@@ -127,11 +119,9 @@ std::optional<EffectPayload> WizardForm::TakePayload()
 
 void WizardForm::Deliver(EffectPayload payload)
 {
-    for (const MadeFile& file : payload.MadeFiles) {
-        const Done written = WriteMade(m_bench, file);
-        if (const Fault* fault = FaultIn(written))
-            return ShowComplaint({Text(Words(*fault)), {}});
-    }
+    const Done written = WriteMadeFiles(m_bench.Files, m_bench.Core.ProgramFolder, payload);
+    if (const Fault* fault = FaultIn(written))
+        return ShowComplaint({Text(Words(*fault)), {}});
     m_bench.Core.SavedHEAD = payload.SavedHEAD;
     m_bench.Core.SavedBODY = payload.SavedBODY;
     m_payload = std::move(payload);

@@ -43,6 +43,7 @@ AnimatedButtonForm::AnimatedButtonForm(Workbench& bench, QWidget* parent)
     button.Fill();
 
     AddButtons(Buttons::Paged);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

@@ -26,12 +26,13 @@ BannerWizardForm::BannerWizardForm(Workbench& bench, QWidget* parent)
     change.CheckBox("chkArrows", u"&Buttons for the previous and the next one");
     change.Fill();
 
-    PageBuilder size = AddPage({u"Size of the banners", u"Banners of one size look best."});
-    AddPictureSize(size);
-    AddTarget(size);
-    size.Fill();
+    PageBuilder room = AddPage({u"Size of the banners", u"Banners of one size look best."});
+    AddPictureSize(room);
+    AddTarget(room);
+    room.Fill();
 
     AddButtons(Buttons::Paged);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

@@ -27,6 +27,7 @@ EarthquakeForm::EarthquakeForm(Workbench& bench, QWidget* parent)
     page.Fill();
 
     AddButtons(Buttons::OnePage);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

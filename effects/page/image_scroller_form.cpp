@@ -27,6 +27,7 @@ ImageScrollerForm::ImageScrollerForm(Workbench& bench, QWidget* parent)
     film.Fill();
 
     AddButtons(Buttons::Paged);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

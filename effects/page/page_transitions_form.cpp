@@ -28,11 +28,12 @@ PageTransitionsForm::PageTransitionsForm(Workbench& bench, QWidget* parent)
     page.ChoiceBox("cboArrival", u"This page &arrives by:", transitions);
     page.ChoiceBox("cboLeaving", u"The page before &leaves by:", transitions);
     page.NumberBox("txtSeconds", u"&Each of them takes:", {}, u"seconds");
-    page.CheckBox("chkElsewhere", u"A co&ver in browsers without page transitions");
+    page.CheckBox("chkElsewhere", u"A cove&r in browsers without page transitions");
     page.ColorSwatch("cmdCoverColor", u"C&olor of the cover:");
     page.Fill();
 
     AddButtons(Buttons::OnePage);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

@@ -30,7 +30,7 @@ SoundEffectForm::SoundEffectForm(Workbench& bench, QWidget* parent)
               .Tip = u"A short sound for the way to another page; Delete takes it away",
               .Button = "cmdBrowseForLeavingSound",
               .Caption = u"Browse for sound..."});
-    page.Slider("sldrVolume", u"&Volume:", u"Silent", u"Loud", {});
+    page.Slider("sldrVolume", u"V&olume:", u"Silent", u"Loud", {});
     AddTimes(page);
     page.CheckBox("chkControls", u"&Show a player, which has a volume control");
     page.ChoiceBox("cboIfBlocked", u"&Where it has to wait:", ifBlocked);
@@ -38,6 +38,7 @@ SoundEffectForm::SoundEffectForm(Workbench& bench, QWidget* parent)
     page.Fill();
 
     AddButtons(Buttons::OnePage);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

@@ -82,6 +82,7 @@ RandomImageForm::RandomImageForm(Workbench& bench, QWidget* parent)
     rule.Fill();
 
     AddButtons(Buttons::Paged);
+    resize(size().expandedTo(FromTwips(8010, 6210)));
 }
 
 } // namespace orvane

@@ -1,13 +1,16 @@
 #include "core/file_names.h"
 #include "delivery/manual_copy.h"
 #include "delivery/required_files.h"
+#include "effects/recipe.h"
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
 #include "insertion/page_backups.h"
 #include "insertion/page_edit.h"
 #include "insertion/page_script.h"
 #include "insertion/page_writing.h"
+#include "program/cli.h"
 #include "reedit/placing.h"
+#include "reedit/remembered_fields.h"
 #include "reedit/taking_out.h"
 #include "tests/support/doubles.h"
 #include "tests/support/fault_trials.h"
@@ -125,6 +128,46 @@ void PutEdited(Delivery& delivery)
     delivery.Heard.IsComplete =
         PutPage(delivery.Files, delivery.Author, delivery.Folder.TextAt(pageName), place,
                 earlierRun, edit(delivery.Payload));
+}
+
+const std::string recipe = "Effect: Popup Alert Box\ntxtAlertText: Plums";
+
+AnyEffect EffectOfRecipe()
+{
+    return std::get<AnyEffect>(ReadRecipe(FromUtf8(recipe), {}));
+}
+
+/// By the command line.
+void MakeFromRecipe(Delivery& delivery)
+{
+    const TestFolder& folder = delivery.Folder;
+    CliWorld world{.Files = delivery.Files,
+                   .Folders = {delivery.Program, {}, folder.TextAt("state")},
+                   .CurrentFolder = folder.TextAt("page"),
+                   .Today = u"2024-05-31",
+                   .Out = [](std::string_view) {},
+                   .Error =
+                       [&](std::string_view words) {
+                           delivery.Author.Said.push_back(
+                               FromUtf8(words.substr(0, words.size() - 1)));
+                       }};
+    const std::vector<std::string> words = {"make", "../alert.ovr", "--into", "index.html"};
+    delivery.Heard.IsComplete = RunCli(words, world) == CliExit::Success;
+}
+
+/// What that leaves: beside the page and its backups, the fields for later changes.
+Contents MadeFromRecipe(const TestFolder& folder)
+{
+    const FinishedPayload payload = Finish(EffectOfRecipe().Generate({}));
+    const auto edited = std::get<EditedPage>(EditPage(earlierRun, payload, [] { return false; }));
+    Contents written{{pageName, edited.Bytes},
+                     {"page/Backup of index.html", earlierRun},
+                     {"state/first-backups/2024-05-31" + folder.At(pageName), earlierRun}};
+    FakeFileStore state;
+    RememberFields(state, u"state", payload, EffectOfRecipe().Draft());
+    for (const auto& [path, bytes] : state.Contents)
+        written[ToUtf8(path)] = bytes;
+    return written;
 }
 
 void SaveNewPage(Delivery& delivery)
@@ -266,6 +309,14 @@ const WritingWay ways[] = {
     Way("TakeEffectOut", PutPageOfEarlierRun, PutEdited<TakenOut>, EditedBy(TakenOut)),
     Way("ChangeEffect", PutPageOfEarlierRun, PutEdited<Changed>, EditedBy(Changed)),
     Way("AddEffect", PutPageOfEarlierRun, PutEdited<Added>, EditedBy(Added)),
+    Way(
+        "MakeFromRecipe",
+        [](const TestFolder& f) {
+            f.Put(pageName, earlierRun, 0640);
+            f.Put("page/Backup of index.html", "an earlier backup");
+            f.Put("alert.ovr", recipe);
+        },
+        MakeFromRecipe, MadeFromRecipe),
     Way("NewPageOverOld", PutOldPage, SaveNewPage, NewPageAs(pageName)),
     Way(
         "PublishAgain", [](const TestFolder& f) { f.Put("page/ovtemp.html", "an earlier effect"); },

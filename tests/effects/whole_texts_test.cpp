@@ -1,9 +1,14 @@
 #include "core/catalogue.h"
 #include "core/draft.h"
 #include "effects/effects.h"
+#include "insertion/page_edit.h"
+#include "reedit/placing.h"
+#include "reedit/taking_out.h"
 #include "tests/support/expect_text.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace orvane::testing {
 namespace {
@@ -34,6 +39,15 @@ protected:
         return ReplaceAll(Mid(table, from, Find(table, u"\n", from) - from), u"\t", lineEnd);
     }
 
+    EffectPayload Made() const
+    {
+        auto effect = AnyEffect::Fresh(FindCommand(ToUtf8(Line("Effect")))->Kind);
+        effect->ReadDraft(m_draft, Secrets::Taken);
+        EXPECT_EQ(effect->Check(), std::nullopt);
+        effect->Tidy();
+        return effect->Generate({.Clock = 37865.270585185123});
+    }
+
     const Text m_draft = ExpectedText(GetParam());
     const DraftFields m_lines = ReadDraftFields(m_draft);
 };
@@ -51,12 +65,7 @@ TEST_P(WholeTextTest, IsMadeOfTheFields)
 {
     const EffectCommand* command = FindCommand(ToUtf8(Line("Effect")));
     ASSERT_NE(command, nullptr);
-    auto effect = AnyEffect::Fresh(command->Kind);
-    ASSERT_TRUE(effect);
-    effect->ReadDraft(m_draft, Secrets::Taken);
-    EXPECT_EQ(effect->Check(), std::nullopt);
-    effect->Tidy();
-    const EffectPayload payload = effect->Generate({.Clock = 37865.270585185123});
+    const EffectPayload payload = Made();
 
     EXPECT_EQ(RowOf(payload.Kind).MenuCommand, command->Name);
     const Text lineAtTheEnd = TextOf("BODY line");
@@ -74,6 +83,25 @@ TEST_P(WholeTextTest, IsMadeOfTheFields)
     EXPECT_EQ(payload.MadeFiles.size(), Line("Made").empty() ? 0u : 1u);
     for (const MadeFile& file : payload.MadeFiles)
         ExpectSameBytes(ExpectedBytes(ToUtf8(Line("Made"))), file.Bytes);
+}
+
+TEST_P(WholeTextTest, StandsInAPageAsOneEffectAndGoesWithoutATrace)
+{
+    const std::string page = "<html>\n<head>\n</head>\n<body>\n<p>x</p>\n</body>\n</html>\n";
+    const FinishedPayload payload = Finish(Made());
+    const PageEdit inserted = EditPage(page, payload, [] { return false; });
+    const PlacedPage placed = WithEffect(page, EndOf(page), payload);
+    for (const std::string& full :
+         {std::get<EditedPage>(inserted).Bytes, std::get<std::string>(placed)}) {
+        const auto effects = EffectsIn(full);
+        ASSERT_EQ(effects.size(), 1u) << full;
+        EXPECT_EQ(effects[0].State, EffectState::Whole);
+        EXPECT_EQ(std::ranges::count(effects[0].Kinds, payload.Effect.Kind), 1);
+        EXPECT_EQ(effects[0].NeedsPageScript, !RunsByItself(payload.Effect));
+        ExpectSameBytes(page, Without(full, effects[0]));
+    }
+    const std::string& full = std::get<std::string>(placed);
+    EXPECT_EQ(WithReplaced(full, EffectsIn(full)[0], payload), placed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Drafts, WholeTextTest, ::testing::ValuesIn(ExpectedNames(".draft")),

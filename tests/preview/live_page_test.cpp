@@ -47,6 +47,15 @@ TEST_F(LivePageTest, ShowsAnEmptyPageWhereAutoInsertFindsNoPlaceAndSaysSo)
     }
 }
 
+TEST_F(LivePageTest, NamesTheButtonBesideTheFieldsAndLeavesTheEffectAsItIs)
+{
+    m_effect.Kind = EffectKind::RandomQuote;
+    m_effect.BODYHTML = u"My <b>Refresh</b>";
+    const std::string page = PictureOf(m_effect, std::nullopt, m_files, u"/program").Page.Bytes;
+    EXPECT_NE(page.find("Click the <b>Run again</b> button"), std::string::npos);
+    EXPECT_NE(page.find("My <b>Refresh</b>"), std::string::npos);
+}
+
 TEST_F(LivePageTest, FindsItsFilesWhereTheyLieAndNamesTheOthers)
 {
     m_effect.Kind = EffectKind::StatusBarTicker;

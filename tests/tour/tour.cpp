@@ -82,6 +82,8 @@ protected:
         steps.insert(steps.end(), delivery.begin(), delivery.end());
         Settings& settings = program->Whole.Bench.Settings;
         settings.Put(settingKeys::webPageEditor, u"Other");
+        // The pictures of the windows are for the help.
+        settings.Put(settingKeys::previewFolded, u"1");
         settings.Put(settingKeys::runsToday, kind == "new" ? u"1" : u"0");
         program->Guide->Lead(GetParam().Name, steps, {samplesFolder, folder, picturesFolder});
         ExpectSaid({QStringLiteral("All files have been copied to the ")});

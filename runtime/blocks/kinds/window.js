@@ -4,7 +4,7 @@ import { store } from "../store.js";
 
 const css =
     "aside{position:fixed;z-index:2147483646;box-sizing:border-box;max-width:calc(100vw - 24px);" +
-    "max-height:calc(100vh - 24px);overflow:auto;border-radius:8px;background:var(--paper);" +
+    "max-height:calc(100vh - 24px);overflow:auto;text-align:start;border-radius:8px;background:var(--paper);" +
     "box-shadow:0 4px 18px #0007;color:#222}aside[hidden]{display:none}" +
     "header{display:flex;align-items:center;padding:.3em .3em .3em .8em;background:var(--head);" +
     "color:var(--head-text);font-weight:bold}h2{flex:1;font:inherit;margin:0}" +

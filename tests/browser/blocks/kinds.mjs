@@ -316,7 +316,7 @@ export const kinds = [
             width="100" height="80"></li></ul>§</div>`,
         words: ["The cat", "It jumps", "The dog", "It sits"],
         heard: { words: ["The cat", "It jumps", "The dog"], links: ["cat.html"] },
-        printed: ["The cat", "It jumps"],
+        printed: ["The cat"],
         links: ["cat.html"],
         async sees(tab, n) {
             const shown = (n) => inside(".shown", n).getAttribute("src");
@@ -451,3 +451,10 @@ html::-webkit-scrollbar-thumb{background:#336699}
 html::-webkit-scrollbar-track,html::-webkit-scrollbar-corner{background:#dde6ee}
 }
 </style>`;
+
+/** Page Transitions, with § for its script. */
+export const transitions = `<style data-orvane="transitions-1" data-arrival="12" data-leaving="13" data-seconds="2">
+@media (prefers-reduced-motion:no-preference){@view-transition{navigation:auto}}
+::view-transition-old(root),::view-transition-new(root){animation:none;mix-blend-mode:normal}
+</style>
+§`;

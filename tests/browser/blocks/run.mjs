@@ -7,8 +7,8 @@ import { readFileSync } from "node:fs";
 import { launch, names } from "../page_script/browsers.mjs";
 import { serve } from "../page_script/server.mjs";
 import { classics } from "./classics.mjs";
-import { kinds, scrollbars, together } from "./kinds.mjs";
-import { beside, cost, pageOf, scenarios, seesScrollbars } from "./scenarios.mjs";
+import { kinds, scrollbars, together, transitions } from "./kinds.mjs";
+import { beside, cost, pageOf, scenarios, seesScrollbars, seesTransition } from "./scenarios.mjs";
 
 const place = process.argv[2];
 const costs = process.argv.includes("cost");
@@ -51,11 +51,18 @@ async function faultOf(browser, row, scenario, doctype) {
     }
 }
 
-/** The scrollbars as a row with one scenario; it has no block. */
-const bars = { kind: "scroller", block: "" };
+/** What stands in the HEAD alone has a row without a block, and one scenario. */
+const bare = { kind: "transitions", block: "" };
 const barsSeen = {
     name: "color scrollbars",
     run: ({ open, tab }) => open({ head: scrollbars }).then(() => seesScrollbars(tab)),
+};
+const nextSeen = {
+    name: "page transitions",
+    run: async ({ open, tab, isChromium }) => {
+        await open({ head: transitions.replace("§", () => `<script>${code("transitions")}</script>`) });
+        await seesTransition(tab, isChromium);
+    },
 };
 const print = ({ kind }) => ({
     name: kind,
@@ -67,7 +74,8 @@ const runs = costs
           ...kinds.flatMap((row) => scenarios.map((scenario) => [row, scenario])),
           ...scenarios.filter(({ alone }) => !alone).map((one) => [together, one]),
           ...classics().map((classic) => [together, beside(classic)]),
-          [bars, barsSeen],
+          [bare, barsSeen],
+          [bare, nextSeen],
       ];
 
 let failed = 0;
