@@ -20,6 +20,7 @@ inline constexpr int preferences = 11;
 inline constexpr int editApplet = 12;
 inline constexpr int transfer = 54;
 inline constexpr int backups = 60;
+inline constexpr int pageEffects = 61;
 inline constexpr int firstEffect = 100; ///< an effect's topic is this plus its number
 } // namespace help_topics
 

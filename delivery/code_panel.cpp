@@ -1,9 +1,11 @@
 #include "delivery/code_panel.h"
 
+#include "delivery/delivery_flow.h"
 #include "insertion/page_script.h"
 #include "windows/multi_line_box.h"
 #include "windows/page_builder.h"
 
+#include <QLayout>
 #include <QPushButton>
 
 namespace orvane {
@@ -24,6 +26,10 @@ CodePanel::CodePanel(Workbench& bench, const Words& words, const Text& code, Del
             [this] { m_bench.Help.ShowTopic(m_helpTopic); });
     m_copy = CopyButton(page, words.CopyButton, u"C&opy", m_box, code, words.Part);
     page.Row({}, {lblNeedHelp, m_copy});
+    lblPutByPointing = new LinkLabel("lblPutByPointing", putByPointing);
+    connect(lblPutByPointing, &LinkLabel::Followed, this, &CodePanel::PointingWanted);
+    page.Row({}, {lblPutByPointing});
+    lblPutByPointing->hide();
 }
 
 QPushButton* CodePanel::CopyButton(PageBuilder& page, ControlName name, TextView caption,
@@ -63,6 +69,11 @@ void CodePanel::ShowPageScript(bool isWanted)
     const bool isCodeShown = !isWanted || !m_box->Words().empty();
     m_box->setVisible(isCodeShown);
     m_copy->setVisible(isCodeShown);
+}
+
+void CodePanel::OfferPointing(bool isOffered)
+{
+    lblPutByPointing->setVisible(isOffered);
 }
 
 void CodePanel::OfferHelp(const EditorHelp& help)

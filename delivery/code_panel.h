@@ -38,8 +38,15 @@ public:
     /// their own. While they are shown, a code box without code is hidden.
     void ShowPageScript(bool isWanted);
 
+    /// Shows or hides the link by which the author puts the effect in by pointing instead.
+    void OfferPointing(bool isOffered);
+
     /// Sets the words of the help link and the topic that it opens.
     void OfferHelp(const EditorHelp& help);
+
+signals:
+    /// The author wants to point at the effect's place.
+    void PointingWanted();
 
 private:
     /// A button that copies the code and selects it in its box.
@@ -54,6 +61,7 @@ private:
     QPushButton* m_copy;
     QWidget* m_pageScript; ///< has no controls until it is shown for the first time
     LinkLabel* lblNeedHelp;
+    LinkLabel* lblPutByPointing;
 };
 
 } // namespace orvane

@@ -15,6 +15,9 @@ enum class InsertMode
     NewPage = 2,
 };
 
+/// The words of the link by which the author chooses the effect's place in the page.
+inline constexpr TextView putByPointing = u"Put it in by pointing";
+
 /// What decides, besides the insertion mode, which pages of the delivery wizard are shown.
 struct DeliveryFacts
 {

@@ -40,8 +40,11 @@ FinishPanel::FinishPanel(Workbench& bench, const CopyJob& job, PickedFileFinder 
     cmdBringBack = page.Button("cmdBringBack", u"&Bring back earlier version...");
     connect(cmdBringBack, &QPushButton::clicked, this,
             [this] { emit BringBackWanted(m_job.Report.Page()); });
+    cmdPageEffects = page.Button("cmdPageEffects", u"&Effects on the page...");
+    connect(cmdPageEffects, &QPushButton::clicked, this,
+            [this] { emit PageEffectsWanted(m_job.Report.Page()); });
     page.Buttons({cmdRunsToday});
-    page.Buttons({cmdOpenPage, cmdOpenFolder, cmdBringBack});
+    page.Buttons({cmdOpenPage, cmdOpenFolder, cmdBringBack, cmdPageEffects});
     AddPageFiles(page);
     AddUploads(page);
 }
@@ -87,6 +90,7 @@ void FinishPanel::PageShown()
     cmdRunsToday->setVisible(!PagesWithoutScript(m_job.Payload, m_pages).empty());
     cmdOpenPage->setVisible(!report.Page().empty());
     cmdOpenFolder->setVisible(!report.Folder().empty());
+    cmdPageEffects->setVisible(!report.Page().empty());
     const BackupsPlace place = BackupsPlaceIn(m_bench.StateFolder, m_bench.Today());
     cmdBringBack->setVisible(!report.Page().empty() &&
                              !BackupsOf(m_bench.Files, place, report.Page()).empty());

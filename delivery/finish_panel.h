@@ -38,6 +38,8 @@ public:
 signals:
     /// The author wants an earlier version of the page with this full path.
     void BringBackWanted(const orvane::Text& page);
+    /// The author wants to see the effects on the page with this full path.
+    void PageEffectsWanted(const orvane::Text& page);
     /// The author wants the page script in the pages of these full paths.
     void PageScriptWanted(const std::vector<orvane::Text>& pages);
 
@@ -59,6 +61,7 @@ private:
     QPushButton* cmdOpenPage;
     QPushButton* cmdOpenFolder;
     QPushButton* cmdBringBack;
+    QPushButton* cmdPageEffects;
     QWidget* m_pageFiles; ///< `lstPageFiles` with its label and button
     QListWidget* lstPageFiles;
     QPushButton* cmdCopyHere;

@@ -1,8 +1,10 @@
 #include "delivery/insert_panel.h"
 
 #include "core/file_names.h"
+#include "delivery/delivery_flow.h"
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
+#include "insertion/page_script.h"
 #include "services/page_requests.h"
 #include "services/recent_files.h"
 #include "windows/file_drop.h"
@@ -32,6 +34,12 @@ InsertPanel::InsertPanel(Workbench& bench, const CopyJob& job) : m_bench(bench),
     OfferRecentFiles(*recent, recentPages, bench, [this](const Text& path) { TakePage(path); });
     cmdRecentPages->setMenu(recent);
     page.Row({}, {txtFileName, cmdBrowse, cmdRecentPages});
+    lblPutByPointing = new LinkLabel("lblPutByPointing", putByPointing);
+    connect(lblPutByPointing, &LinkLabel::Followed, this,
+            [this] { emit PointingWanted(NamedPage()); });
+    page.Row({}, {lblPutByPointing});
+    lblPutByPointing->hide();
+    connect(txtFileName, &QLineEdit::textChanged, lblPutByPointing, &QWidget::hide);
     cmdSaveWebPage = page.Button("cmdSaveWebPage", u"Save as New Web page");
     connect(cmdSaveWebPage, &QPushButton::clicked, this, &InsertPanel::SaveWebPage);
     lblAutoStep2 = page.Note(u"2. Insert the special effect by pressing the 'Auto-insert' button "
@@ -61,6 +69,7 @@ void InsertPanel::PageShown(bool isNewPage)
              lblAutoStep2, lblAutoStep3, txtFileName, cmdBrowse, cmdAutoInsert, lblBackupFile})
         control->setVisible(!isNewPage);
     cmdSaveWebPage->setVisible(isNewPage);
+    lblPutByPointing->hide();
     cmdRecentPages->setVisible(!isNewPage &&
                                !RecentFiles(m_bench.Settings, m_bench.Files, recentPages).empty());
     if (!isNewPage)
@@ -107,13 +116,13 @@ void InsertPanel::InsertIntoPage()
     const Text name = FromQt(txtFileName->text());
     if (const auto complaint = CheckPageName(name))
         return emit Complained(*complaint);
-    const Text page = PagePath(name, FromQt(QDir::currentPath()));
+    const Text page = NamedPage();
     const BackupsPlace place = BackupsPlaceIn(m_bench.StateFolder, m_bench.Today());
     switch (AutoInsert(m_bench.Files, m_bench.Dialogs, page, m_job.Payload, place)) {
     case AutoInsertion::NothingDone:
-        return;
+        return lblPutByPointing->setVisible(IsPastLimit(page));
     case AutoInsertion::Manual:
-        return emit ManualWanted();
+        return emit ManualWanted(page);
     case AutoInsertion::Inserted:
         m_insertedInto = page;
         NotePage(page);
@@ -121,6 +130,22 @@ void InsertPanel::InsertIntoPage()
         if (CopyFiles(FolderOf(page)))
             emit Delivered();
     }
+}
+
+Text InsertPanel::NamedPage() const
+{
+    return PagePath(FromQt(txtFileName->text()), FromQt(QDir::currentPath()));
+}
+
+/// Whether the page is longer than auto-insertion reaches.
+bool InsertPanel::IsPastLimit(const Text& page) const
+{
+    const auto bytes = m_bench.Files.Read(page);
+    if (FaultIn(bytes))
+        return false;
+    const PageEdit edit = EditPageAndScript(ValueIn(bytes), m_job.Payload, [] { return true; });
+    const Fault* fault = std::get_if<Fault>(&edit);
+    return fault != nullptr && *fault == Fault::Overflow;
 }
 
 void InsertPanel::SaveWebPage()

@@ -13,6 +13,7 @@ class QPushButton;
 namespace orvane {
 
 class FileNameBox;
+class LinkLabel;
 
 /// The delivery wizard's page that puts the effect into the author's page, or into a new one.
 class InsertPanel : public QWidget
@@ -37,8 +38,11 @@ public:
 signals:
     /// The name of the page cannot be used.
     void Complained(const orvane::Complaint& complaint);
-    /// The effect cannot be inserted automatically; the author has to copy its code by hand.
-    void ManualWanted();
+    /// The effect cannot be inserted automatically into the page with this full path; the author
+    /// has to copy its code by hand.
+    void ManualWanted(const orvane::Text& page);
+    /// The author wants to point at the place for the effect in the page with this full path.
+    void PointingWanted(const orvane::Text& page);
     /// The page is written and its files are copied; for an existing page also when the author was
     /// told that some are missing or ended the copying.
     void Delivered();
@@ -51,6 +55,8 @@ private:
     /// Notes the written page in the report and among the recent pages.
     void NotePage(const Text& page);
     void InsertIntoPage();
+    Text NamedPage() const;
+    bool IsPastLimit(const Text& page) const;
     void SaveWebPage();
     /// Copies the files that the page needs; true when all are there. Nothing when a fault ended
     /// the copying, which the author was told.
@@ -67,6 +73,7 @@ private:
     FileNameBox* txtFileName;
     QPushButton* cmdBrowse;
     QPushButton* cmdRecentPages;
+    LinkLabel* lblPutByPointing;
     QPushButton* cmdAutoInsert;
     QLabel* lblBackupFile;
     QPushButton* cmdSaveWebPage;

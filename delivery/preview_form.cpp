@@ -12,6 +12,7 @@
 #include "windows/qt_text.h"
 #include "windows/wait_cursor.h"
 
+#include <QLayout>
 #include <QPushButton>
 #include <QTimer>
 
@@ -92,6 +93,13 @@ void PreviewForm::ConnectPanels()
     connect(m_panels->Editor, &EditorPanel::EditorChosen, this, &PreviewForm::Next);
     connect(m_panels->Insert, &InsertPanel::Complained, this, &PreviewForm::ShowComplaint);
     connect(m_panels->Insert, &InsertPanel::ManualWanted, this, &PreviewForm::InsertByHand);
+    connect(m_panels->Insert, &InsertPanel::PointingWanted, this,
+            [this](const Text& page) { EndWith(DeliveryEnd::Pointing, page); });
+    for (CodePanel* code : m_panels->Codes)
+        connect(code, &CodePanel::PointingWanted, this,
+                [this] { EndWith(DeliveryEnd::Pointing, m_page); });
+    connect(m_panels->Finish, &FinishPanel::PageEffectsWanted, this,
+            [this](const Text& page) { EndWith(DeliveryEnd::PageEffects, page); });
     connect(m_panels->Insert, &InsertPanel::Delivered, this, [this] { GoOnTo(9); });
     connect(m_panels->Insert, &InsertPanel::FilesMissing, this, [this](const Text& folder) {
         m_panels->Publish->GoTo(folder);
@@ -155,12 +163,16 @@ void PreviewForm::ChangePage(DeliveryStep step)
     }
     const DeliveryPage page = DescribePage(step, Mode());
     ShowPage(page, page.Panel);
+    if (m_panels)
+        for (CodePanel* code : m_panels->Codes)
+            code->OfferPointing(!m_page.empty());
     SetEnterButton(nullptr);
     switch (step.PageStep) {
     case 2:
         m_panels->Editor->PageShown();
         break;
     case 3:
+        m_page.clear();
         m_panels->Editor->Keep(m_bench.Settings);
         m_panels->Method->PageShown();
         break;
@@ -278,8 +290,17 @@ void PreviewForm::FinishCopying(const AfterCopying& after)
         Preview(PreviewMode::Inline);
 }
 
-void PreviewForm::InsertByHand()
+void PreviewForm::EndWith(DeliveryEnd end, const Text& page)
 {
+    m_page = page;
+    m_end = end;
+    accept();
+}
+
+/// Leads through the steps by hand, since there is no place for the effect in this page.
+void PreviewForm::InsertByHand(const Text& page)
+{
+    m_page = page;
     m_panels->Method->Choose(InsertMode::ManualCopy);
     m_step.PageStep = 3;
     Next();

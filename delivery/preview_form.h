@@ -18,6 +18,8 @@ enum class DeliveryEnd
 {
     Finished,     ///< by Done, Cancel or closing the window: the effect's wizard closes too
     BackToWizard, ///< the author wants to change the effect
+    Pointing,     ///< the author wants to point at the effect's place in Page()
+    PageEffects,  ///< the author wants to see the effects on Page(); else as Finished
 };
 
 /// The windows that the delivery wizard opens, each by a function that returns when it is closed.
@@ -49,6 +51,9 @@ public:
     /// How the wizard ended; meaningful once the window has closed.
     DeliveryEnd End() const { return m_end; }
 
+    /// The full path of the page that goes with the last two of the ends.
+    const Text& Page() const { return m_page; }
+
     /// Whether the effect stands in a page or its code was put on the clipboard.
     bool WasDelivered() const { return m_report.HasDelivered(); }
 
@@ -76,8 +81,9 @@ private:
     void BeginPreview();
     void Preview(PreviewMode mode);
     void FinishCopying(const AfterCopying& after);
-    void InsertByHand();
+    void InsertByHand(const Text& page);
     void GoOnTo(std::int16_t page);
+    void EndWith(DeliveryEnd end, const Text& page);
     CopyJob Job();
     InsertMode Mode() const;
     DeliveryFacts Facts() const;
@@ -89,6 +95,7 @@ private:
     PreviewWindows m_windows;
     DeliveryStep m_step;
     DeliveryEnd m_end = DeliveryEnd::Finished;
+    Text m_page;
     bool m_isPreviewed = false;
     std::optional<DeliveryPanels> m_panels; ///< nothing until BuildPanels()
 };

@@ -72,6 +72,24 @@ LivePicture InHost(const FinishedPayload& payload, const HostPage& host)
     return {EmptyPage(payload), std::move(why)};
 }
 
+/// Gives the picture what the effect in it needs, and the words on it.
+void AddEffect(LivePicture& picture, const FinishedPayload& payload, const FileStore& files,
+               TextView programFolder)
+{
+    LivePage& page = picture.Page;
+    page.Files = FilesOf(payload, programFolder);
+    page.Mark = InsideOf(payload.BeginMarker);
+    page.RunsInStatus = RunsInStatus(payload);
+    page.Note = PreviewNote(payload, [&](const Text& name) {
+        const auto file = std::ranges::find(page.Files, name, &PaneFile::Name);
+        if (file != page.Files.end())
+            return file->Path.empty() || files.FileExists(file->Path);
+        return !page.Folder.empty() && files.FileExists(PathIn(page.Folder, name));
+    });
+    if (picture.Line.empty() && HasPageScript(page.Bytes))
+        picture.Line = withScript;
+}
+
 } // namespace
 
 void HostFile::GoTo(TextView path)
@@ -103,18 +121,15 @@ LivePicture PictureOf(const EffectPayload& effect, const std::optional<HostPage>
     FinishedPayload payload = Finish(effect);
     payload.WantsPageScript = !effect.IsBlock && !RowOf(effect.Kind).RunsByItself;
     LivePicture picture = host ? InHost(payload, *host) : LivePicture{EmptyPage(payload), {}};
-    LivePage& page = picture.Page;
-    page.Files = FilesOf(payload, programFolder);
-    page.Mark = InsideOf(payload.BeginMarker);
-    page.RunsInStatus = RunsInStatus(payload);
-    page.Note = PreviewNote(payload, [&](const Text& name) {
-        const auto file = std::ranges::find(page.Files, name, &PaneFile::Name);
-        if (file != page.Files.end())
-            return file->Path.empty() || files.FileExists(file->Path);
-        return !page.Folder.empty() && files.FileExists(PathIn(page.Folder, name));
-    });
-    if (picture.Line.empty() && HasPageScript(page.Bytes))
-        picture.Line = withScript;
+    AddEffect(picture, payload, files, programFolder);
+    return picture;
+}
+
+LivePicture PictureWith(const FinishedPayload& payload, const HostPage& edited,
+                        const FileStore& files, TextView programFolder)
+{
+    LivePicture picture{PictureOf(edited), {}};
+    AddEffect(picture, payload, files, programFolder);
     return picture;
 }
 

@@ -50,6 +50,10 @@ struct LivePicture
 LivePicture PictureOf(const EffectPayload& effect, const std::optional<HostPage>& host,
                       const FileStore& files, TextView programFolder);
 
+/// The author's page into which the payload's effect was put, as PictureOf() shows it.
+LivePicture PictureWith(const FinishedPayload& payload, const HostPage& edited,
+                        const FileStore& files, TextView programFolder);
+
 /// The author's page without an effect; an empty one without a host.
 LivePage PictureOf(const std::optional<HostPage>& host);
 

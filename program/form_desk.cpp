@@ -9,9 +9,11 @@
 #include "program/about_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
+#include "program/page_effects_road.h"
 #include "program/startup.h"
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
+#include "reedit/remembered_fields.h"
 #include "services/chosen_effects.h"
 #include "windows/focus_back.h"
 #include "windows/picked_files.h"
@@ -47,6 +49,7 @@ void FormDesk::ShowMainForm()
             [this] { ShowOptions(m_mainForm.get()); });
     connect(m_mainForm.get(), &OVMainForm::BringBackWanted, this,
             [this] { ShowBringBack({}, m_mainForm.get()); });
+    connect(m_mainForm.get(), &OVMainForm::PageEffectsWanted, this, &FormDesk::ShowPageEffects);
     connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
         AboutForm about(m_bench, m_mainForm.get());
         ShowModally(about);
@@ -96,12 +99,18 @@ void FormDesk::LeadThrough(WizardForm& wizard)
         if (!payload)
             return;
         m_bench.Core.Payload = *payload;
-        if (ShowPreview(*payload, wizard) == DeliveryEnd::Finished)
+        const Delivery delivery = ShowPreview(*payload, wizard);
+        if (delivery.End == DeliveryEnd::PageEffects)
+            ShowPageEffects(delivery.Page);
+        if (delivery.End == DeliveryEnd::Pointing &&
+            MakePageRoad().PutIn(delivery.Page, *payload, wizard) == PutInEnd::BackToWizard)
+            continue;
+        if (delivery.End != DeliveryEnd::BackToWizard)
             return;
     }
 }
 
-DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wizard)
+FormDesk::Delivery FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wizard)
 {
     std::unique_ptr<PreviewForm> preview;
     const PreviewWindows windows{
@@ -117,9 +126,11 @@ DeliveryEnd FormDesk::ShowPreview(const EffectPayload& payload, WizardForm& wiza
     };
     preview = std::make_unique<PreviewForm>(m_bench, payload, m_pane, windows, m_mainForm.get());
     ShowModally(*preview);
-    if (preview->WasDelivered())
+    if (preview->WasDelivered()) {
+        RememberFields(m_bench.Files, m_bench.StateFolder, Finish(payload), wizard.Fields());
         wizard.DropDraft();
-    return preview->End();
+    }
+    return {preview->End(), preview->Page()};
 }
 
 void FormDesk::EditApplet()
@@ -128,6 +139,17 @@ void FormDesk::EditApplet()
     ShowModally(form);
     if (const auto wanted = form.Wanted())
         OpenEffect(wanted->Kind, wanted->Tag);
+}
+
+void FormDesk::ShowPageEffects(TextView page)
+{
+    emit WizardOpened();
+    MakePageRoad().Show(page);
+}
+
+PageEffectsRoad FormDesk::MakePageRoad()
+{
+    return {m_bench, m_pane, m_mainForm.get(), [this](QDialog& window) { ShowModally(window); }};
 }
 
 void FormDesk::ShowOptions(QWidget* parent)

@@ -14,6 +14,7 @@ class QDialog;
 namespace orvane {
 
 class OVMainForm;
+class PageEffectsRoad;
 class WizardForm;
 enum class DeliveryEnd;
 
@@ -46,6 +47,10 @@ public:
     /// when the author cancels or the effect has no wizard.
     void EditApplet();
 
+    /// Shows the effects on the page with this full path; with an empty path the author looks for a
+    /// page first. Returns when the window is closed.
+    void ShowPageEffects(TextView page);
+
     /// The main window; null before Start(), and when the program opens with another one.
     OVMainForm* MainForm() const { return m_mainForm.get(); }
 
@@ -56,7 +61,14 @@ signals:
 private:
     void LeadThrough(WizardForm& wizard);
     void ShowModally(QDialog& window);
-    DeliveryEnd ShowPreview(const EffectPayload& payload, WizardForm& wizard);
+    /// How the delivery ended, and the page that goes with it.
+    struct Delivery
+    {
+        DeliveryEnd End;
+        Text Page;
+    };
+    Delivery ShowPreview(const EffectPayload& payload, WizardForm& wizard);
+    PageEffectsRoad MakePageRoad();
     void ShowOptions(QWidget* parent);
     std::optional<Text> ShowBringBack(TextView page, QWidget* parent);
     void ShowMainForm();

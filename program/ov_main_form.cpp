@@ -1,6 +1,8 @@
 #include "program/ov_main_form.h"
 
 #include "catalogue/catalogue_panel.h"
+#include "services/page_requests.h"
+#include "windows/file_drop.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 #include "windows/remember_place.h"
@@ -24,6 +26,8 @@ OVMainForm::OVMainForm(Workbench& bench) : m_bench(bench)
     setCentralWidget(catalogue);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     RememberPlace(*this, bench.Settings);
+    connect(new FileDrop(*this, pageMasks, bench, 1), &FileDrop::Dropped, this,
+            [this](const std::vector<Text>& pages) { emit PageEffectsWanted(pages.front()); });
     OpenHelpOnF1(this, bench.Help, help_topics::mainWindow);
 }
 
@@ -41,6 +45,9 @@ void OVMainForm::AddMenus()
 
     QMenu* edit = AddMenu(*menuBar(), "mnuEdit", u"&Edit");
     add(edit, "mnuEditApplet", u"&Edit Special Effect...", &OVMainForm::EditAppletWanted);
+    add(edit, "mnuPageEffects", u"E&ffects on a page...", [this] {
+        emit PageEffectsWanted({});
+    })->setShortcut(Qt::CTRL | Qt::Key_E);
     add(edit, "mnuPreferences", u"&Preferences...", &OVMainForm::PreferencesWanted);
 
     QMenu* effects = AddMenu(*menuBar(), "mnuAppletS", u"&Special Effects");

@@ -38,6 +38,9 @@ public:
     /// What Done would hand over with the fields as they stand. Changes and asks nothing.
     virtual Deliverable WouldDeliver() const = 0;
 
+    /// What the fields hold as a draft's text, without the secret ones.
+    Text Fields() const { return Draft(); }
+
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
 

@@ -77,7 +77,7 @@ TEST(DeliveredHelpTest, BeginsWithTheContentsAndHoldsOnceEveryTopicThatAWindowAs
         EXPECT_TRUE(numbers.insert(topic.Number).second) << topic.Number;
     std::set<int> wanted = {21, 29, 34, 35, 36, 37, 38, 39, 46, 55}; // inserting with an editor
     wanted.insert({help_topics::contents, help_topics::mainWindow, help_topics::preferences,
-                   help_topics::editApplet, help_topics::transfer});
+                   help_topics::editApplet, help_topics::transfer, help_topics::pageEffects});
     for (std::int16_t page = 1; page <= 9; ++page)
         for (const InsertMode mode :
              {InsertMode::AutoInsert, InsertMode::ManualCopy, InsertMode::NewPage})

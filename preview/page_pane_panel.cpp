@@ -1,0 +1,58 @@
+#include "preview/page_pane_panel.h"
+
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace orvane {
+
+PagePanePanel::PagePanePanel(Workbench& bench, QWidget* pane) : m_bench(bench), m_pane(pane)
+{
+    (new QVBoxLayout(this))->setContentsMargins({});
+}
+
+PagePanePanel::~PagePanePanel()
+{
+    GivePaneBack();
+}
+
+void PagePanePanel::Show(const LivePage& page)
+{
+    m_page = page;
+    if (m_holdsPane)
+        m_bench.Pane.ShowLive(page);
+}
+
+void PagePanePanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (event->spontaneous() || std::exchange(m_holdsPane, true))
+        return;
+    if (m_pane != nullptr) {
+        layout()->addWidget(m_pane);
+        m_pane->show();
+    }
+    if (m_page)
+        m_bench.Pane.ShowLive(*m_page);
+}
+
+void PagePanePanel::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        GivePaneBack();
+}
+
+void PagePanePanel::GivePaneBack()
+{
+    if (!std::exchange(m_holdsPane, false))
+        return;
+    m_bench.Pane.Clear();
+    if (m_pane == nullptr || m_pane->parentWidget() != this)
+        return;
+    m_pane->hide();
+    m_pane->setParent(nullptr);
+}
+
+} // namespace orvane
