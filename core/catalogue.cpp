@@ -85,13 +85,17 @@ const Row* FindIn(std::span<const Row> table, Same same)
     return row == table.end() ? nullptr : &*row;
 }
 
-/// The letters and digits of a name, in lower case.
+/// The letters and digits of a name, in lower case; some titles end in "effect", which nobody
+/// types.
 Text LettersOf(TextView name)
 {
     Text letters = ToLower(name);
     std::erase_if(letters, [](char16_t sign) {
         return !(sign >= u'a' && sign <= u'z') && !(sign >= u'0' && sign <= u'9');
     });
+    constexpr TextView ending = u"effect";
+    if (letters.ends_with(ending))
+        letters.resize(letters.size() - ending.size());
     return letters;
 }
 

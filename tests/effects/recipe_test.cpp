@@ -85,7 +85,7 @@ TEST(RecipeTest, TellsEachLineThatCannotBeFollowed)
          u"\"a.gif\" is no value of \"Required\": a file is a slot, a name and a path."},
         {u"Effect: Typewriter Text\nSpeed: quick", 2,
          u"\"quick\" is no value of \"Speed\": it is a whole number."},
-        {u"Effect: Fading Message effect\ncboOrder: sideways", 2,
+        {u"Effect: fading message\ncboOrder: sideways", 2,
          u"\"sideways\" is no value of \"cboOrder\": it is one of forward, random."},
         {u"Effect: Password Protection\noptScheme: 7", 2,
          u"\"7\" is no value of \"optScheme\": it is one of None, Script, Server."},
