@@ -4,7 +4,8 @@
  * without, and in print (else `printed`); the `first` words alone are seen when nothing moves.
  * `sees` throws unless the visitor sees what the effect's description promises, a second time as
  * well unless it happens `once`. `anywhere`: it goes on where its root is not seen; `focuses`: it
- * takes the keyboard's focus; `outside`: it changes the page itself.
+ * takes the keyboard's focus; `outside`: it changes the page itself; `keeps`: it needs the
+ * browser's storage.
  */
 import assert from "../page_script/assert.mjs";
 import { wait } from "../page_script/tools.mjs";
@@ -327,6 +328,7 @@ export const kinds = [
     },
     {
         kind: "image",
+        keeps: true,
         block: `<div data-orvane="image-1" data-width="200"><ul><li><a href="cat.html"><img
             src="a.gif" alt="A cat jumps" width="100" height="80"></a></li><li hidden><a
             href="dog.html"><img src="b.gif" alt="It sits" width="100" height="80"

@@ -69,6 +69,8 @@ export const setUp = `${tabs}
 /** Chance has no say; besides that the visitor wants as little motion as possible. */
 const sure = `Math.random = () => 0.3;`;
 const reduced = `window.reduced = true; ${sure}`;
+/** The browser keeps nothing for this page. */
+const refused = `Object.defineProperty(window, "localStorage", { get() { throw Error("refused"); } });`;
 
 const asked = (row) => row.parts ?? [row];
 const rest = " animations, 0 timers";
@@ -178,10 +180,13 @@ export const scenarios = [
         },
     },
     {
-        name: "under a policy that allows nothing but its script",
+        name: "under a policy that allows nothing but its script, and without storage",
         async run({ open, row, tab }) {
             await open({ policy: true });
             await row.sees(tab, 0);
+            if (row.parts) return;
+            await open({ before: refused });
+            await (row.keeps ? says(tab, row) : row.sees(tab, 0));
         },
     },
     {
