@@ -1,11 +1,9 @@
-#include "core/catalogue.h"
 #include "insertion/page_script.h"
 #include "program/cli_commands.h"
 #include "program/cli_json.h"
 #include "program/cli_pages.h"
-#include "reedit/effects_in_page.h"
+#include "reedit/effect_words.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace orvane {
@@ -44,23 +42,12 @@ std::string_view NameOf(PartPlace place)
     return {};
 }
 
-/// The number of the line with that byte, counted from 1.
-std::string LineOf(std::string_view page, std::size_t at)
-{
-    return std::to_string(std::ranges::count(page.substr(0, at), '\n') + 1);
-}
-
-Text TitleOf(const EffectInPage& effect)
-{
-    return effect.Kinds.empty() ? effect.Name : Text(RowOf(effect.Kinds.front()).Title);
-}
-
-std::string Json(std::string_view page, const EffectInPage& effect)
+std::string Json(const PageLines& numbers, const EffectInPage& effect)
 {
     std::vector<std::string> parts;
     for (const EffectPart& part : effect.Parts)
         parts.push_back(JsonObject({{"place", JsonText(FromUtf8(NameOf(part.Place)))},
-                                    {"line", LineOf(page, part.Span.Begin)}}));
+                                    {"line", ToUtf8(numbers.LineOf(part.Span.Begin))}}));
     return JsonObject({{"name", JsonText(effect.Name)},
                        {"title", JsonText(TitleOf(effect))},
                        {"state", JsonText(FromUtf8(NameOf(effect.State)))},
@@ -70,9 +57,10 @@ std::string Json(std::string_view page, const EffectInPage& effect)
 
 std::string Json(const Text& path, std::string_view page, const std::vector<EffectInPage>& effects)
 {
+    const PageLines numbers(page);
     std::vector<std::string> listed;
     for (const EffectInPage& effect : effects)
-        listed.push_back(Json(page, effect));
+        listed.push_back(Json(numbers, effect));
     return JsonObject({{"page", JsonText(path)},
                        {"pageScript", HasPageScript(page) ? "true" : "false"},
                        {"effects", JsonArray(listed)}});
@@ -80,10 +68,11 @@ std::string Json(const Text& path, std::string_view page, const std::vector<Effe
 
 std::string Lines(const Text& path, std::string_view page, const std::vector<EffectInPage>& effects)
 {
+    const PageLines numbers(page);
     std::string lines;
     for (const EffectInPage& effect : effects) {
-        lines += ToUtf8(path) + ':' + LineOf(page, effect.Parts.front().Span.Begin) + ": " +
-                 ToUtf8(TitleOf(effect));
+        lines += ToUtf8(Join(
+            {path, u":", numbers.LineOf(effect.Parts.front().Span.Begin), u": ", TitleOf(effect)}));
         if (effect.State != EffectState::Whole)
             lines.append(" (").append(NameOf(effect.State)).append(")");
         lines += '\n';

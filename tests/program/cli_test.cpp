@@ -115,7 +115,7 @@ TEST_F(CliTest, DoesWhatItsWordsSayAndTellsSo)
         {u"list|--json|a.html|gone.html", 1,
          "[\n{\"page\": \"/site/a.html\", \"pageScript\": false, \"effects\": [{\"name\": "
          "\"Popup Alert\", \"title\": \"Popup Alert Box\", \"state\": \"whole\", "
-         "\"needsPageScript\": false, \"parts\": [{\"place\": \"body\", \"line\": 3}]}]}\n]\n",
+         "\"needsPageScript\": false, \"parts\": [{\"place\": \"body\", \"line\": 4}]}]}\n]\n",
          "orvane-cli: /site/gone.html: File not found\n"
          "orvane-cli: 1 failed of 2 pages\n",
          "Plums"},
