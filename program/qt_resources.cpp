@@ -6,6 +6,7 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 
 #include <span>
 #include <string>
@@ -15,16 +16,22 @@ namespace orvane {
 
 namespace {
 
-/// Files of the resources, and the folder below the program's own that they go to.
+/// Files of the resources whose names end so, and the folder below the program's own that they go
+/// to.
 struct Place
 {
     const char* Resources;
-    const char* Masks;
+    const char* NameEnd;
     Text Folder;
 
-    QDirIterator Files() const
+    QFileInfoList Files() const
     {
-        return {QLatin1String(Resources), {QLatin1String(Masks)}, QDir::Files};
+        // A mask would load the library of regular expressions.
+        QFileInfoList files;
+        for (QDirIterator entry(QLatin1String(Resources), QDir::Files); entry.hasNext();)
+            if (entry.next().endsWith(QLatin1String(NameEnd)))
+                files.push_back(entry.fileInfo());
+        return files;
     }
 };
 
@@ -35,8 +42,8 @@ Done InstallFolder(FileStore& files, const Place& place)
     const Done made = MakeFolders(files, place.Folder, Access::OwnerAlone);
     if (FaultIn(made))
         return made;
-    for (QDirIterator entry = place.Files(); entry.hasNext();) {
-        QFile file(entry.next());
+    for (const QFileInfo& entry : place.Files()) {
+        QFile file(entry.filePath());
         if (!file.open(QIODevice::ReadOnly))
             continue;
         const QByteArray bytes = file.readAll();
@@ -54,8 +61,7 @@ std::string StampOf(const FileStore& files, std::span<const Place> places, TextV
 {
     std::string stamp = ToUtf8(build) + '\n';
     for (const Place& place : places)
-        for (QDirIterator entry = place.Files(); entry.hasNext();) {
-            entry.next();
+        for (const QFileInfo& entry : place.Files()) {
             const Text path = PathIn(place.Folder, FromQt(entry.fileName()));
             const FileFacts facts = files.Facts(path).value_or(FileFacts());
             stamp += ToUtf8(path) + ' ' + std::to_string(facts.Size) + ' ' +
@@ -68,10 +74,10 @@ std::string StampOf(const FileStore& files, std::span<const Place> places, TextV
 
 void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder, TextView build)
 {
-    const Place places[] = {{":/help", "*.hlp", Text(programFolder)},
-                            {":/help", "*.svg", PathIn(programFolder, u"help")},
-                            {":/applets", "*", Text(programFolder)},
-                            {":/runtime", "*", Text(programFolder)}};
+    const Place places[] = {{":/help", ".hlp", Text(programFolder)},
+                            {":/help", ".svg", PathIn(programFolder, u"help")},
+                            {":/applets", "", Text(programFolder)},
+                            {":/runtime", "", Text(programFolder)}};
     const Text stampPath = PathIn(programFolder, u"installed.txt");
     const auto stamp = files.Read(stampPath);
     if (!FaultIn(stamp) && ValueIn(stamp) == StampOf(files, places, build))

@@ -190,17 +190,17 @@ void MeasureMemory()
             PressKey(*wizard, measured.Control);
             AwaitPicture(desk);
         }
-        QTest::qWait(5000);
-        std::printf("%ld ", Memory());
+        // The engine gives back in its own time what it does not need.
+        long least = Memory();
+        for (int second = 0; second < 15; ++second) {
+            QTest::qWait(1000);
+            least = std::min(least, Memory());
+        }
+        std::printf("%ld ", least);
     };
     // What the engine makes once; both counts end where it begins with a new process for the page.
     change(40);
     change(480);
-    if (qEnvironmentVariableIsSet("MORE")) {
-        change(480);
-        change(20);
-        change(20);
-    }
     std::printf("\n");
 }
 
