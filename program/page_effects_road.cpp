@@ -120,7 +120,7 @@ PutInEnd PageEffectsRoad::PutIn(const EffectPayload& effect, WizardForm& wizard,
     m_show(form);
     if (form.End() == PutInEnd::Written) {
         RememberFields(m_bench.Files, m_bench.StateFolder, payload, wizard.Fields());
-        wizard.DropDraft();
+        wizard.WasDelivered();
         PutRecentFile(m_bench.Settings, recentPages, m_page.Path());
         CopyFiles(payload);
     }
