@@ -5,9 +5,12 @@
 
 #include <QMainWindow>
 
+class QAction;
 class QMenu;
 
 namespace orvane {
+
+class CataloguePanel;
 
 /// The main window: the catalogue of effects, and menus with the same effects and all other
 /// commands.
@@ -33,11 +36,13 @@ protected:
 
 private:
     void AddMenus();
+    void AddWays(CataloguePanel& catalogue);
     void AddEffects(QMenu& menu, CataloguePage page);
     void OpenBy(const EffectCommand& command);
     void CheckForUpdate();
 
     Workbench& m_bench;
+    QAction* m_pageEffects = nullptr;
 };
 
 } // namespace orvane
