@@ -6,6 +6,7 @@
 #include "catalogue/effect_description.h"
 #include "core/catalogue_search.h"
 #include "windows/controls.h"
+#include "windows/link_label.h"
 #include "windows/qt_text.h"
 
 #include <QAction>
@@ -38,6 +39,7 @@ CataloguePanel::CataloguePanel(Settings& settings)
 LinkLabel* CataloguePanel::AddWay(ControlName name, TextView words, TextView tip)
 {
     LinkLabel* way = m_description->AddWay(name, words, tip);
+    way->installEventFilter(this);
     SetReadingOrder(*this);
     return way;
 }

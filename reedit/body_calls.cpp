@@ -147,7 +147,9 @@ CodeSpan CutOf(std::string_view page, const BodyCall& call)
 {
     const auto [begin, end] = call.Attribute;
     if (call.Call == call.Value) {
-        const bool hasBlank = page[begin - 1] == ' ';
+        // The blank stays where another attribute follows directly, to part it from the one before.
+        const bool isParted = page[end] == '>' || blanks.find(page[end]) != std::string_view::npos;
+        const bool hasBlank = page[begin - 1] == ' ' && isParted;
         // An insertion writes the attribute so directly in front of the tag's end, and the next one
         // directly behind this.
         const bool isInserted =

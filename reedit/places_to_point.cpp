@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::size_t mostLetters = 40;
 
+/// What an element is that has a name of its own in the list; empty for any other.
 TextView NameOf(std::string_view tag)
 {
     static constexpr std::pair<std::string_view, TextView> names[] = {
@@ -28,7 +29,7 @@ TextView NameOf(std::string_view tag)
     for (const auto& [start, name] : names)
         if (IsTag(tag, 0, start))
             return name;
-    return u"section";
+    return {};
 }
 
 /// The first words of the part or, where it has none, the first file that it names.
@@ -38,6 +39,9 @@ Text WordsIn(std::string_view page, const PagePart& part, PageEncoding encoding)
     for (std::size_t at = part.Tag.End; at < part.After && code.size() < 4 * mostLetters;) {
         const Markup next = NextMarkup(page, at);
         code += page.substr(at, std::min(next.Whole.Begin, part.After) - at);
+        const std::string_view tag = CodeIn(page, next.Whole);
+        if (!NameOf(tag).empty() || IsTag(tag, 0, "<br"))
+            code += ' ';
         at = next.Next;
     }
     const Text all =
@@ -72,7 +76,8 @@ std::vector<PlaceToPoint> PlacesToPoint(std::string_view page)
     std::vector<PlaceToPoint> places = {{u"At the top of the page", top, top}};
     for (const PagePart& part : PartsOf(page)) {
         const auto effect = effects.find(part.Before);
-        Text words = effect == effects.end() ? Text(NameOf(CodeIn(page, part.Tag)))
+        const TextView name = NameOf(CodeIn(page, part.Tag));
+        Text words = effect == effects.end() ? Text(name.empty() ? u"section" : name)
                                              : Join({u"special effect ", effect->second});
         if (effect == effects.end())
             if (const Text inside = WordsIn(page, part, encoding); !inside.empty())

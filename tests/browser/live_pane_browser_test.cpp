@@ -131,7 +131,7 @@ TEST_F(LivePaneBrowserTest, FramesThePartUnderTheMouseAndTellsWhereTheAuthorClic
     LivePage page = m_page.Live(
         "<!DOCTYPE html><style>* { margin: 0 } a, iframe { display: block; height: 60px }"
         "orvane-pointing { display: none !important }</style>"
-        "<body onclick='status = 1' onmousedown='alert(1)'><div style='height: 60px'></div>"
+        "<script>onclick = () => status = 1; onmousedown = () => alert(1)</script><body><div style='height: 60px'></div>"
         "<a href=frame.html data-orvane-part=0><b>x</b></a>"
         "<iframe src=frame.html data-orvane-part=1></iframe>"
         "<p style='margin-top: 20px; height: 60px' data-orvane-part=12></p>");

@@ -109,6 +109,8 @@ TEST_F(OVMainFormTest, LeadsInByLinksBesideTheWelcome)
     }
     EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("txtSearch"));
     EXPECT_TRUE(toEffects->isVisible()) << "beside a description, too";
+    QTest::keyClick(toPage, Qt::Key_P);
+    EXPECT_EQ(WordsOf(m_form, "txtSearch"), u"p");
 }
 
 TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)

@@ -20,7 +20,7 @@ TEST(PutInFormTest, PutsAnEffectBeforeOrBehindThePartOfTheListOrOfTheClick)
     FakeDesk desk;
     std::string& bytes = desk.Files.Contents[path];
     const EffectMarkers markers = MarkersOf(u"Slideshow");
-    bytes = "<html><head></head>\r\n<body onload='mine()'>\r\n<h1>Hel<b>lo</b></h1>\r\n"
+    bytes = "<html><head></head>\r\n<body onload='mine()'>\r\n<h1>Hel<b>lo</b><br>you</h1>\r\n"
             "<img src=a.gif>\r\n" +
             ToBytes(Join({markers.Begin, u"\r\n<img src=b.gif>", markers.End})) + "</body></html>";
     PageEffects host(desk.Files, desk.Dialogs, BackupsPlaceIn(u"/state", u"2024-05-31"));
@@ -37,7 +37,7 @@ TEST(PutInFormTest, PutsAnEffectBeforeOrBehindThePartOfTheListOrOfTheClick)
     ExpectAccessible(form);
     EXPECT_EQ(
         RowsOf(form, "lstPlaces"),
-        (Texts{u"At the top of the page", u"Line 3, heading: Hello", u"Line 4, picture: a.gif",
+        (Texts{u"At the top of the page", u"Line 3, heading: Hello you", u"Line 4, picture: a.gif",
                u"Line 5, special effect Slideshow", u"At the end of the page"}));
     EXPECT_FALSE(Find<QWidget>(form, "optPlace(0)")->isEnabled());
     auto* list = Find<QListWidget>(form, "lstPlaces");

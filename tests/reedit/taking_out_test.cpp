@@ -28,6 +28,7 @@ TEST(TakingOutTest, TakesWhatAnInsertionWroteAroundABlockAndNothingOfAnyOther)
         {"<body>a@b@\r\n\r\nc@\n\nd@\r", "<body>ab\r\nc\nd"},
         {"<body\nonload=\"f(1)\" id=a>[f]", "<body\n id=a>"},
         {"<body onload=\"f(1)\" id=a>[f]", "<body id=a>"},
+        {"<body id=b onload=\"f(1)\"class=a>[f]", "<body id=b class=a>"},
         {"<body onload='a(); f(1)' onunload=f(2);b(&quot;;f(3)&quot;);f(4)>[f]",
          "<body onload='a()' onunload=b(&quot;;f(3)&quot;)>"},
     };
