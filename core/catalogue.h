@@ -54,6 +54,7 @@ struct CatalogueRow
     ControlName Form;          ///< the wizard window
     TextView MarkerName;       ///< stands in the comments around the inserted code
     FilesNeeded Files = FilesNeeded::Never;
+    TextView OtherPages;                  ///< what is to be said of pages that need it as well
     std::array<TextView, 3> Uploads = {}; ///< the list to upload begins with these
     bool UploadsSupportFiles = false;     ///< and goes on with the class files that were chosen
     bool ScriptedHelp = false;            ///< the help on the author's editor is that for scripts

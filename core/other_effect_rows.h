@@ -165,6 +165,8 @@ inline constexpr CatalogueRow otherEffectRows[] = {
         .RunsByItself = true,
         .Form = "PageTransitions",
         .MarkerName = u"Page Transitions",
+        .OtherPages = u"A transition shows only between two pages that both have it: put it into "
+                      u"the pages that link to this one or that it links to, as well.",
         .ScriptedHelp = true,
         .Preview =
             {.After =

@@ -152,6 +152,9 @@ std::vector<Text> ReportLines(const DeliveryReport& report, const FinishedPayloa
     AddPages(lines, u"No longer with the special effect in ", pages, [](const DeliveredPage& page) {
         return !page.IsPublished && !page.HoldsEffect.value_or(true);
     });
+    if (const TextView words = RowOf(payload.Effect.Kind).OtherPages;
+        !words.empty() && report.HasDelivered())
+        lines.emplace_back(words);
     return lines;
 }
 

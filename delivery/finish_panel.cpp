@@ -31,6 +31,10 @@ FinishPanel::FinishPanel(Workbench& bench, const CopyJob& job, PickedFileFinder 
                                u"Lets your Web page use Orvane's page script, orvane.js");
     connect(cmdRunsToday, &QPushButton::clicked, this,
             [this] { emit PageScriptWanted(PagesWithoutScript(m_job.Payload, m_pages)); });
+    cmdPutIntoAnother =
+        page.Button("cmdPutIntoAnother", u"P&ut it into another page...",
+                    u"Looks for a Web page and puts the same special effect into it, too");
+    connect(cmdPutIntoAnother, &QPushButton::clicked, this, [this] { emit AnotherPageWanted(); });
     cmdOpenPage = page.Button("cmdOpenPage", u"&Open page");
     connect(cmdOpenPage, &QPushButton::clicked, this,
             [this] { m_bench.Shell.OpenWithShell(m_job.Report.Page()); });
@@ -43,7 +47,7 @@ FinishPanel::FinishPanel(Workbench& bench, const CopyJob& job, PickedFileFinder 
     cmdPageEffects = page.Button("cmdPageEffects", u"&Effects on the page...");
     connect(cmdPageEffects, &QPushButton::clicked, this,
             [this] { emit PageEffectsWanted(m_job.Report.Page()); });
-    page.Buttons({cmdRunsToday});
+    page.Buttons({cmdRunsToday, cmdPutIntoAnother});
     page.Buttons({cmdOpenPage, cmdOpenFolder, cmdBringBack, cmdPageEffects});
     AddPageFiles(page);
     AddUploads(page);
@@ -88,6 +92,7 @@ void FinishPanel::PageShown()
     // Long paths go on in the next line.
     lblReport->setText(lines.replace(u'/', QStringLiteral("/\u200B")));
     cmdRunsToday->setVisible(!PagesWithoutScript(m_job.Payload, m_pages).empty());
+    cmdPutIntoAnother->setVisible(report.HasDelivered());
     cmdOpenPage->setVisible(!report.Page().empty());
     cmdOpenFolder->setVisible(!report.Folder().empty());
     cmdPageEffects->setVisible(!report.Page().empty());

@@ -40,6 +40,8 @@ signals:
     void BringBackWanted(const orvane::Text& page);
     /// The author wants to see the effects on the page with this full path.
     void PageEffectsWanted(const orvane::Text& page);
+    /// The author wants the effect in another page as well.
+    void AnotherPageWanted();
     /// The author wants the page script in the pages of these full paths.
     void PageScriptWanted(const std::vector<orvane::Text>& pages);
 
@@ -58,6 +60,7 @@ private:
     std::vector<DeliveredPage> m_pages; ///< as they were when the disk was looked at last
     QLabel* lblReport;
     QPushButton* cmdRunsToday;
+    QPushButton* cmdPutIntoAnother;
     QPushButton* cmdOpenPage;
     QPushButton* cmdOpenFolder;
     QPushButton* cmdBringBack;

@@ -9,6 +9,7 @@
 #include "delivery/preview_panel.h"
 #include "insertion/auto_insert.h"
 #include "services/made_files.h"
+#include "services/page_requests.h"
 #include "services/recent_files.h"
 #include "windows/qt_text.h"
 #include "windows/wait_cursor.h"
@@ -118,6 +119,8 @@ void PreviewForm::ConnectPanels()
         ShowFinishAnew();
     });
     connect(m_panels->Finish, &FinishPanel::PageScriptWanted, this, &PreviewForm::AddPageScript);
+    connect(m_panels->Finish, &FinishPanel::AnotherPageWanted, this,
+            &PreviewForm::PutIntoAnotherPage);
     connect(m_panels->Publish, &PublishPanel::ControlsChanged, this,
             [this](const PublishControls& controls) {
                 cmdPrevious->setVisible(controls.cmdPrevious);
@@ -152,8 +155,7 @@ void PreviewForm::Next()
 
 void PreviewForm::Previous()
 {
-    cmdNext->setEnabled(true);
-    cmdCancel->setText(QStringLiteral("&Cancel"));
+    LeaveFinish();
     ChangePage(PreviousStep(m_step, Mode(), Facts()));
 }
 
@@ -239,6 +241,22 @@ void PreviewForm::PutIntoPage(const Text& page)
         m_step = NextStep(m_step, InsertMode::AutoInsert, Facts());
     ChangePage(m_step);
     m_panels->Insert->PutInto(page);
+}
+
+void PreviewForm::PutIntoAnotherPage()
+{
+    const auto page = m_bench.Dialogs.OpenFile(ExistingPageRequest());
+    if (!page)
+        return;
+    LeaveFinish();
+    m_step = {};
+    PutIntoPage(*page);
+}
+
+void PreviewForm::LeaveFinish()
+{
+    cmdNext->setEnabled(true);
+    cmdCancel->setText(QStringLiteral("&Cancel"));
 }
 
 void PreviewForm::ShowFinish()

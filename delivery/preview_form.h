@@ -75,6 +75,9 @@ private:
     void SetEnterButton(QPushButton* action);
     void OfferLastPage();
     void PutIntoPage(const Text& page);
+    void PutIntoAnotherPage();
+    /// Lets the buttons lead on from the last page again.
+    void LeaveFinish();
     void ShowFinish();
     void ShowFinishAnew();
     void ChoosePageScript(bool isWanted);

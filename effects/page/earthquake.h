@@ -37,6 +37,12 @@ void ForEachField(Quake& quake, Field&& field)
     field(Secret("Others"), quake.Others);
 }
 
+/// Shakes that come again sooner than a calm page bears them come again after that time.
+void Tidy(Earthquake& quake);
+
+/// Says that of such shakes, beside the hints of all blocks.
+std::vector<Hint> HintsOf(const Earthquake& quake);
+
 /// The complaint that keeps the author on the page, or nothing.
 std::optional<Complaint> Check(const Earthquake& quake);
 

@@ -1,3 +1,4 @@
+#include "effects/page/page_transitions.h"
 #include "effects/text/status_bar_ticker.h"
 #include "effects/text/status_bar_ticker_form.h"
 #include "insertion/new_page.h"
@@ -357,6 +358,45 @@ TEST_F(PreviewFormTest, RecentPagesAreOfferedUntilTheyAreGoneAndAnEarlierVersion
     Click(*m_form, "cmdBringBack");
     Click(*m_form, "cmdPrevious");
     EXPECT_TRUE(Find<QPushButton>(*m_form, "cmdSaveWebPage")->isDefault());
+}
+
+TEST_F(PreviewFormTest, TheEffectGoesFromTheLastPageIntoOthersAsWell)
+{
+    m_payload = Generate(PageTransitions());
+    m_desk.Files.Contents[u"/web/b.html"] = "<head></head><body></body>";
+    Open();
+    Click(*m_form, "cmdNext");
+    GoBy(1);
+    Click(*m_form, "cmdNext");
+    EXPECT_FALSE(IsShown("cmdPutIntoAnother")) << "it stands nowhere yet";
+    Click(*m_form, "cmdPrevious");
+    Click(*m_form, "cmdPrevious");
+    GoBy(2);
+    m_desk.Dialogs.AnswerSaveFile(u"/site/a.html");
+    Click(*m_form, "cmdSaveWebPage");
+    ExpectAccessible(*m_form);
+    const auto putIntoAnother = [&](std::optional<Text> page) {
+        m_desk.Dialogs.TakeSaid();
+        m_desk.Dialogs.AnswerOpenFile(page);
+        Find<QPushButton>(*m_form, "cmdPutIntoAnother")->setFocus();
+        PressWhereItStands(Qt::Key_Space);
+    };
+    putIntoAnother(u"/web/b.html");
+    EXPECT_EQ(Focused(), u"cmdCancel");
+    putIntoAnother(std::nullopt);
+    EXPECT_EQ(Heading(), u"Finished!");
+    const QString report = ToQt(WordsOf(*m_form, "lblReport")).remove(QChar(0x200B));
+    EXPECT_TRUE(report.startsWith(QStringLiteral("Web page with the special effect in /site/: "
+                                                 "a.html\nWeb page with the special effect in "
+                                                 "/web/: b.html\nA transition shows only between")))
+        << report.toStdString();
+    putIntoAnother(u"/gone.html");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(Heading(), u"Step 3: Auto-Insert the special effect in your Web page");
+    EXPECT_EQ(WordsOf(*m_form, "txtFileName"), u"/gone.html");
+    EXPECT_EQ(WordsOf(*m_form, "cmdCancel"), u"&Cancel");
+    Click(*m_form, "cmdNext");
+    EXPECT_EQ(Heading(), u"Finished!");
 }
 
 TEST_F(PreviewFormTest, UnloadingRemovesThePreviewPageAndTheLoginsScriptAndEmptiesTheSharedCode)

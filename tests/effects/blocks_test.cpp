@@ -185,11 +185,12 @@ using BlockEffects =
                      DayCalendar, SlidingMessage, PageTransitions>;
 TYPED_TEST_SUITE(BlockTest, BlockEffects);
 
-/// Effects whose fields depend on each other, so that some of them do not count.
+/// Effects whose fields depend on each other, so that some of them do not count, or on more than
+/// their bounds.
 template <class Effect>
-concept HasIdleFields =
-    std::same_as<Effect, AnimationWizard> || std::same_as<Effect, TextTransitions> ||
-    std::same_as<Effect, ScrollingCredits> || std::same_as<Effect, AnimatedButton>;
+concept HasIdleFields = std::same_as<Effect, AnimationWizard> ||
+    std::same_as<Effect, TextTransitions> || std::same_as<Effect, ScrollingCredits> ||
+    std::same_as<Effect, AnimatedButton> || std::same_as<Effect, Earthquake>;
 
 Text ScriptElementOf(TextView kind)
 {

@@ -10,6 +10,7 @@
 #include "effects/page/color_scrollbars.h"
 #include "effects/page/cursor_trail.h"
 #include "effects/page/dynamic_button.h"
+#include "effects/page/earthquake.h"
 #include "effects/page/password_protection.h"
 #include "effects/page/popup_alert.h"
 #include "effects/page/popup_window.h"
@@ -135,6 +136,19 @@ TEST(HintsTest, AreAtSecondsThatThePageCannotCarry)
     EXPECT_NE(Shown(MoreImageEffects{.PauseSeconds = endless}), "");
     EXPECT_NE(Shown(VerticalScroller{.txtPause = endless}), "");
     EXPECT_EQ(Shown(VerticalScroller{.txtPause = u"2147483"}), "");
+}
+
+TEST(HintsTest, AreAtQuakesThatComeAgainTooSoon)
+{
+    const std::string words =
+        "txtAgainAfter: The page takes 5: more quakes can harm those who look at it.";
+    for (const auto& [typed, hint, delivered] :
+         {std::tuple(u"4.9", words, u"5"), {u"0", "", u"0"}, {u"5", "", u"5"}, {u"-1", "", u"0"}}) {
+        Earthquake quake{.txtAgainAfter = typed};
+        EXPECT_EQ(Shown(quake), hint);
+        Tidy(quake);
+        EXPECT_EQ(quake.txtAgainAfter, delivered);
+    }
 }
 
 TEST(HintsTest, AreAtColorsThatAreHardToTellApart)

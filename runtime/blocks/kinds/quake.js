@@ -35,7 +35,7 @@ start("quake-1", (root) => {
             run = null;
             again();
         };
-        run = paced(quake, 40);
+        run = paced(quake, 50);
         run(true);
     };
     const again = () => {
