@@ -60,6 +60,8 @@ void OVMainForm::AddMenus()
     QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
     add(help, "mnuHelpContents", u"&Contents...",
         [this] { m_bench.Help.ShowTopic(help_topics::contents); });
+    add(help, "mnuSeeThemAll", u"&See them all", &OVMainForm::AllEffectsWanted)
+        ->setShortcut(Qt::CTRL | Qt::Key_G);
     add(help, "mnuCheckForUpdate", u"Chec&k for update...", &OVMainForm::CheckForUpdate);
     help->addSeparator();
     add(help, "mnuHelpAbout", u"&About...", &OVMainForm::AboutWanted);

@@ -26,6 +26,8 @@ signals:
     void BringBackWanted();
     /// The author wants to see the effects on the page with this full path; empty for no page yet.
     void PageEffectsWanted(const orvane::Text& page);
+    /// The author wants to see every effect at work.
+    void AllEffectsWanted();
     void AboutWanted();
 
 protected:
