@@ -39,6 +39,21 @@ CataloguePanel::CataloguePanel(Settings& settings)
     SetReadingOrder(*this);
 }
 
+LinkLabel* CataloguePanel::AddWay(ControlName name, TextView words, TextView tip)
+{
+    LinkLabel* way = m_description->AddWay(name, words, tip);
+    SetReadingOrder(*this);
+    return way;
+}
+
+void CataloguePanel::GoToEffects()
+{
+    if (EffectButton* first = m_pages->FirstButton())
+        first->setFocus(Qt::TabFocusReason);
+    else
+        m_head->BeginSearch();
+}
+
 void CataloguePanel::AddKeys()
 {
     connect(m_head, &CatalogueHead::Changed, this, &CataloguePanel::ShowPage);
@@ -47,10 +62,7 @@ void CataloguePanel::AddKeys()
         if (first != nullptr)
             first->click();
     });
-    connect(m_head, &CatalogueHead::ListWanted, this, [this] {
-        if (EffectButton* first = m_pages->FirstButton())
-            first->setFocus(Qt::TabFocusReason);
-    });
+    connect(m_head, &CatalogueHead::ListWanted, this, &CataloguePanel::GoToEffects);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_head,
             &CatalogueHead::BeginSearch);
     m_favorite->setObjectName(QStringLiteral("mnuFavorite"));

@@ -15,6 +15,7 @@ namespace orvane {
 class CatalogueHead;
 class CataloguePages;
 class EffectDescription;
+class LinkLabel;
 class MovingPicture;
 
 /// All effects as pictures on three tabs, the author's favorites on a fourth, a box that searches
@@ -26,6 +27,12 @@ class CataloguePanel : public QWidget
 public:
     /// `settings` store the favorites and the effects used last, and must outlive the panel.
     explicit CataloguePanel(Settings& settings);
+
+    /// Adds a way into the program below the pages, as EffectDescription::AddWay().
+    LinkLabel* AddWay(ControlName name, TextView words, TextView tip);
+
+    /// Gives the first effect of the page in front the focus, or the search where there is none.
+    void GoToEffects();
 
 signals:
     /// The author wants to open the wizard of this effect.

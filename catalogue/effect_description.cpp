@@ -1,9 +1,11 @@
 #include "catalogue/effect_description.h"
 
 #include "catalogue/effect_button.h"
+#include "windows/link_label.h"
 #include "windows/qt_text.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 
 namespace orvane {
@@ -21,7 +23,8 @@ EffectDescription::EffectDescription()
     : Label3(new QLabel),
       Label2(new QLabel),
       m_greeting(new QLabel(QStringLiteral("Welcome to Orvane"))),
-      m_welcome(new QLabel)
+      m_welcome(new QLabel),
+      m_ways(new QHBoxLayout)
 {
     Label3->setObjectName(QStringLiteral("Label3"));
     QFont bold = Label3->font();
@@ -41,9 +44,12 @@ EffectDescription::EffectDescription()
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins({});
     rows->addWidget(Label3, 0, 0);
-    rows->addWidget(Label2, 1, 0);
+    rows->addWidget(Label2, 1, 0, 1, 2);
     rows->addWidget(m_greeting, 0, 0);
-    rows->addWidget(m_welcome, 1, 0);
+    rows->addWidget(m_welcome, 1, 0, 1, 2);
+    rows->addLayout(m_ways, 0, 1);
+    rows->setColumnStretch(0, 1);
+    m_ways->setSpacing(m_ways->spacing() * 2);
     Show(nullptr);
 }
 
@@ -53,6 +59,14 @@ void EffectDescription::Show(const EffectButton* button)
     Label2->setText(button == nullptr ? QString() : ToQt(button->Row().Description));
     m_greeting->setVisible(button == nullptr);
     m_welcome->setText(button == nullptr ? ToQt(welcome) : QString());
+}
+
+LinkLabel* EffectDescription::AddWay(ControlName name, TextView words, TextView tip)
+{
+    auto* way = new LinkLabel(name, words);
+    way->setToolTip(ToQt(tip));
+    m_ways->addWidget(way);
+    return way;
 }
 
 } // namespace orvane

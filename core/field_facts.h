@@ -30,6 +30,7 @@ struct FieldFacts
     /// Of a Choice: the name of each number at its place plus 1; empty for a number without one.
     std::span<const std::string_view> ChoiceNames{};
     std::vector<FieldName> InRow{}; ///< of Rows, the fields of one
+    FieldTexts FreshRow{};          ///< and their texts where nothing was entered
 };
 
 namespace facts {
@@ -44,6 +45,7 @@ FieldFacts FactsOfField(const FieldName& name, const Value& value)
         const typename Value::value_type row{};
         ForEachField(row,
                      [&](const FieldName& inRow, const auto&) { rows.InRow.push_back(inRow); });
+        rows.FreshRow = TextsOf(row);
         return rows;
     } else if constexpr (std::is_enum_v<Value>) {
         return {name, FieldHolds::Choice, TextsOf(value), choiceNames<Value>};

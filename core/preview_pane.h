@@ -3,7 +3,10 @@
 #include "core/fault.h"
 #include "core/text.h"
 
+#include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orvane {
@@ -36,6 +39,17 @@ struct PaneView
     bool operator==(const PaneView&) const = default;
 };
 
+/// The attribute by which the pane knows the parts of a live page: their numbers, counted from 0.
+inline constexpr std::string_view partAttribute = "data-orvane-part";
+
+/// Where the author pointed in a live page.
+struct PointedPlace
+{
+    std::optional<int> Part; ///< its number; nothing: the page's top or its end
+    bool IsBehind = false;   ///< behind the part, or the page's end
+    bool operator==(const PointedPlace&) const = default;
+};
+
 /// A page that the pane shows while it changes. It needs no file: the pane itself answers for what
 /// the page reads.
 struct LivePage
@@ -49,6 +63,7 @@ struct LivePage
     Text Mark;                   ///< the words of the comment in front of the effect
     bool ScrollsToMark = false;  ///< false: it is scrolled as the page before it was
     PaneView View = {};
+    bool TakesPointing = false; ///< the mouse frames its parts, and does nothing else in it
     bool operator==(const LivePage&) const = default;
 };
 
@@ -74,6 +89,9 @@ public:
 
     /// Unloads the page, with its sounds and windows, and ends what LeaveFile() began.
     virtual void Clear() = 0;
+
+    /// Called, if set, when the author clicks in a live page that takes pointing.
+    std::function<void(const PointedPlace&)> Pointed;
 };
 
 } // namespace orvane

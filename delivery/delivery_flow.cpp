@@ -84,10 +84,14 @@ DeliveryFacts FactsOf(const FinishedPayload& payload, bool isEditorKnown)
 DeliveryStep NextStep(DeliveryStep step, InsertMode mode, const DeliveryFacts& facts)
 {
     ++step.StepNumber;
-    std::int16_t& page = ++step.PageStep;
     const bool isManual = mode == InsertMode::ManualCopy;
-    if (page == 2 && facts.IsEditorKnown)
-        page = 3;
+    std::int16_t& page = step.PageStep;
+    // Only the help for pasting by hand depends on the editor.
+    if (page == 3 && isManual && !facts.IsEditorKnown) {
+        page = 2;
+        return step;
+    }
+    page = page == 1 ? 3 : page == 2 ? 4 : page + 1;
     if (page == 5 && !isManual)
         page = 9;
     if (isManual) {
@@ -108,10 +112,9 @@ DeliveryStep NextStep(DeliveryStep step, InsertMode mode, const DeliveryFacts& f
 DeliveryStep PreviousStep(DeliveryStep step, InsertMode mode, const DeliveryFacts& facts)
 {
     --step.StepNumber;
-    std::int16_t& page = --step.PageStep;
     const bool isManual = mode == InsertMode::ManualCopy;
-    if (page == 2 && facts.IsEditorKnown)
-        page = 1;
+    std::int16_t& page = step.PageStep;
+    page = page == 3 ? 1 : page == 2 ? 3 : page - 1;
     if (isManual) {
         if (page == 8 && !facts.NeedsFiles)
             page = 7;

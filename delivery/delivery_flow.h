@@ -41,7 +41,8 @@ struct DeliveryStep
     bool operator==(const DeliveryStep&) const = default;
 };
 
-/// The place that "Next" leads to, past the pages that this effect does not need.
+/// The place that "Next" leads to, past the pages that this effect does not need. The page that
+/// asks for the editor comes behind the method, and only for copying by hand.
 DeliveryStep NextStep(DeliveryStep step, InsertMode mode, const DeliveryFacts& facts);
 
 /// The place that "Previous" leads to; PageStep is 0 before the first page.

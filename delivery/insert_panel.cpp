@@ -70,10 +70,20 @@ void InsertPanel::PageShown(bool isNewPage)
         control->setVisible(!isNewPage);
     cmdSaveWebPage->setVisible(isNewPage);
     lblPutByPointing->hide();
-    cmdRecentPages->setVisible(!isNewPage &&
-                               !RecentFiles(m_bench.Settings, m_bench.Files, recentPages).empty());
-    if (!isNewPage)
-        txtFileName->setFocus();
+    const auto recent = RecentFiles(m_bench.Settings, m_bench.Files, recentPages);
+    cmdRecentPages->setVisible(!isNewPage && !recent.empty());
+    if (isNewPage)
+        return;
+    // The page that was worked on last, unless this effect went into one already.
+    if (txtFileName->text().isEmpty() && m_job.Report.Page().empty() && !recent.empty())
+        TakePage(recent.front());
+    txtFileName->setFocus();
+}
+
+void InsertPanel::PutInto(const Text& page)
+{
+    TakePage(page);
+    InsertIntoPage();
 }
 
 QPushButton* InsertPanel::DefaultButton(bool isNewPage) const

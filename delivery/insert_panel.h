@@ -27,6 +27,9 @@ public:
     /// Called when the page is shown: shows the controls for a new page or for an existing one.
     void PageShown(bool isNewPage);
 
+    /// Puts the effect into the page with this full path, as "Auto-insert" does when it is named.
+    void PutInto(const Text& page);
+
     /// The button that Enter is to press: "Save as New Web page" for a new page, "Auto-insert" for
     /// an existing one; null once that succeeded.
     QPushButton* DefaultButton(bool isNewPage) const;

@@ -9,6 +9,7 @@
 #include "delivery/preview_panel.h"
 #include "insertion/auto_insert.h"
 #include "services/made_files.h"
+#include "services/recent_files.h"
 #include "windows/qt_text.h"
 #include "windows/wait_cursor.h"
 
@@ -52,6 +53,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
                                           .OffersScript = !effect.IsBlock});
     connect(m_preview, &PreviewPanel::PageScriptChosen, this, &PreviewForm::ChoosePageScript);
     connect(m_preview, &PreviewPanel::PreviewWanted, this, &PreviewForm::Preview);
+    connect(m_preview, &PreviewPanel::PutIntoWanted, this, &PreviewForm::PutIntoPage);
     AddPanelOf(0, m_preview);
     AddButtons(Buttons::Paged, "cmdHelp");
     setMinimumSize(640, 440);
@@ -141,6 +143,8 @@ void PreviewForm::showEvent(QShowEvent* event)
 void PreviewForm::Next()
 {
     BuildPanels();
+    if (m_step.PageStep == 2)
+        m_panels->Editor->Keep(m_bench.Settings);
     if (Mode() == InsertMode::ManualCopy)
         m_panels->OfferEditorHelp(m_bench.Settings, m_payload.ScriptedHelp);
     ChangePage(NextStep(m_step, Mode(), Facts()));
@@ -168,6 +172,9 @@ void PreviewForm::ChangePage(DeliveryStep step)
             code->OfferPointing(!m_page.empty());
     SetEnterButton(nullptr);
     switch (step.PageStep) {
+    case 1:
+        OfferLastPage();
+        break;
     case 2:
         m_panels->Editor->PageShown();
         break;
@@ -213,6 +220,25 @@ void PreviewForm::SetEnterButton(QPushButton* action)
     action->setDefault(true);
     if (!isOnTheWayBack)
         action->setFocus();
+}
+
+/// Offers the page that the author worked on last.
+void PreviewForm::OfferLastPage()
+{
+    const auto pages = RecentFiles(m_bench.Settings, m_bench.Files, recentPages);
+    m_preview->OfferPage(pages.empty() ? Text() : pages.front());
+}
+
+/// Does what the following pages do with what they begin with. An author whose page cannot take the
+/// effect is left on the page that says so.
+void PreviewForm::PutIntoPage(const Text& page)
+{
+    BuildPanels();
+    m_panels->Method->Choose(InsertMode::AutoInsert);
+    while (m_step.PageStep < 4)
+        m_step = NextStep(m_step, InsertMode::AutoInsert, Facts());
+    ChangePage(m_step);
+    m_panels->Insert->PutInto(page);
 }
 
 void PreviewForm::ShowFinish()
@@ -302,7 +328,7 @@ void PreviewForm::InsertByHand(const Text& page)
 {
     m_page = page;
     m_panels->Method->Choose(InsertMode::ManualCopy);
-    m_step.PageStep = 3;
+    m_step.PageStep = 2; // the editor is not asked for on this way
     Next();
 }
 

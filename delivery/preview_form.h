@@ -73,6 +73,8 @@ private:
     void ShowPage(const DeliveryPage& page, int panel);
     /// Makes this button the one that Enter presses, and gives it the focus; null means "Next".
     void SetEnterButton(QPushButton* action);
+    void OfferLastPage();
+    void PutIntoPage(const Text& page);
     void ShowFinish();
     void ShowFinishAnew();
     void ChoosePageScript(bool isWanted);

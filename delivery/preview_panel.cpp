@@ -1,6 +1,8 @@
 #include "delivery/preview_panel.h"
 
+#include "core/file_names.h"
 #include "windows/page_builder.h"
+#include "windows/qt_text.h"
 #include "windows/shrinking.h"
 
 #include <QCheckBox>
@@ -8,6 +10,12 @@
 #include <QSignalBlocker>
 
 namespace orvane {
+
+namespace {
+
+constexpr int widestName = 24; ///< in characters
+
+} // namespace
 
 PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(pane)
 {
@@ -28,13 +36,26 @@ PreviewPanel::PreviewPanel(QWidget* pane, const TodaysBrowsers& today) : m_pane(
     QPushButton* refresh = page.Button("cmdRefresh", u"&Refresh");
     connect(refresh, &QPushButton::clicked, this,
             [this] { emit PreviewWanted(PreviewMode::Inline); });
-    page.Buttons({preview, refresh});
+    cmdPutInto = page.Button("cmdPutInto", {});
+    connect(cmdPutInto, &QPushButton::clicked, this, [this] { emit PutIntoWanted(m_offered); });
+    page.Buttons({preview, refresh, cmdPutInto});
+    OfferPage({});
 }
 
 void PreviewPanel::CheckPageScript()
 {
     const QSignalBlocker blocker(chkRunsToday);
     chkRunsToday->setChecked(true);
+}
+
+void PreviewPanel::OfferPage(const Text& path)
+{
+    m_offered = path;
+    cmdPutInto->setVisible(!path.empty());
+    QString name = fontMetrics().elidedText(ToQt(GetFileName(path)), Qt::ElideMiddle,
+                                            widestName * fontMetrics().averageCharWidth());
+    cmdPutInto->setText(QStringLiteral("P&ut it into ") + name.replace(u'&', QStringLiteral("&&")));
+    cmdPutInto->setToolTip(ToQt(path));
 }
 
 PreviewPanel::~PreviewPanel()

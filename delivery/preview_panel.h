@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QPushButton;
 
 namespace orvane {
 
@@ -32,15 +33,22 @@ public:
     /// Checks the box for the page script, without PageScriptChosen().
     void CheckPageScript();
 
+    /// Offers to put the effect into the page with this full path; no more when it is empty.
+    void OfferPage(const Text& path);
+
 signals:
     /// The author wants to see the effect, in the pane or in a browser.
     void PreviewWanted(orvane::PreviewMode mode);
     /// The author checked the box for the page script, or unchecked it.
     void PageScriptChosen(bool isWanted);
+    /// The author wants the effect in the offered page.
+    void PutIntoWanted(const orvane::Text& page);
 
 private:
     QPointer<QWidget> m_pane;
+    Text m_offered;
     QCheckBox* chkRunsToday;
+    QPushButton* cmdPutInto;
 };
 
 } // namespace orvane

@@ -244,8 +244,11 @@ Outcome<MissingFiles> CopyRequiredFiles(const CopyJob& job, TextView folder)
     } else {
         job.Dialogs.Say(
             Lines(u"Orvane couldn't copy all the necessary files to the specified folder.",
-                  u"Use the file list on the left to find the missing files and click the 'Copy' "
-                  u"button to copy them."),
+                  job.HasFileList
+                      ? u"Use the file list on the left to find the missing files and click the "
+                        u"'Copy' button to copy them."
+                      : Join({u"Please copy these files to the ", folder, u" folder yourself: ",
+                              Listed(missing)})),
             Tone::Exclamation);
     }
     return missing;

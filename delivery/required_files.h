@@ -24,6 +24,7 @@ struct CopyJob
     orvane::Dialogs& Dialogs;
     DeliveryReport& Report;           ///< where it is noted what was written
     FollowedCopies* Copies = nullptr; ///< null but while files are copied
+    bool HasFileList = true;          ///< beside it, the author finds missing files in a list
 
     /// The full path of the file that the effect needs under that name, as far as the payload
     /// tells; empty otherwise.

@@ -13,8 +13,8 @@ namespace orvane {
 ///
 /// How files are written, whole_files.h says; replacement_file.h and in_place_writer.h have the
 /// names of those own files. What a killed program left of them is cleared up later: a recovery
-/// copy when its file is read, copied or replaced, a temporary file when another file is put into
-/// its folder.
+/// copy when its file is read, copied or replaced, a temporary file when another program puts its
+/// first file into the folder.
 class DiskFileStore : public FileStore
 {
 public:

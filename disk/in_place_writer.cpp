@@ -43,8 +43,8 @@ bool IsNone(const std::error_code& error)
 
 } // namespace
 
-InPlaceWriter::InPlaceWriter(SystemCalls& calls, std::string stateFolder)
-    : m_calls(calls), m_stateFolder(std::move(stateFolder))
+InPlaceWriter::InPlaceWriter(SystemCalls& calls, Leftovers& leftovers, std::string stateFolder)
+    : m_calls(calls), m_leftovers(leftovers), m_stateFolder(std::move(stateFolder))
 {
 }
 
@@ -119,7 +119,7 @@ std::error_code InPlaceWriter::Keep(const RecoveryCopy& copy, const FileStatus& 
 
 std::error_code InPlaceWriter::PutCopy(const std::string& place, const std::string& bytes) const
 {
-    ReplacementFile copy(m_calls, place, 0600);
+    ReplacementFile copy(m_calls, m_leftovers, place, 0600);
     const std::error_code error = copy.Put(FillingWith(bytes));
     if (error && copy.IsInPlace())
         RemoveCopy(place);

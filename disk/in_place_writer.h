@@ -10,6 +10,8 @@
 
 namespace orvane {
 
+class Leftovers;
+
 /// Writes files in place that cannot be replaced by a new file. A copy of the old bytes, the
 /// recovery copy, is kept until the writing is done. It lies
 /// - beside the file, as ".orvane-«inode».recovery", or, where no file may be created there,
@@ -23,8 +25,8 @@ class InPlaceWriter
 {
 public:
     /// `stateFolder` ends in "/" and is created when it is needed; an empty one means that there is
-    /// none.
-    InPlaceWriter(SystemCalls& calls, std::string stateFolder);
+    /// none. `leftovers` must outlive the object.
+    InPlaceWriter(SystemCalls& calls, Leftovers& leftovers, std::string stateFolder);
 
     /// Clears up what a killed writer left of the file at `path`, links followed; `status` is the
     /// status of that file. permission_denied while the writer still runs.
@@ -51,6 +53,7 @@ private:
                             const std::string& path) const;
 
     SystemCalls& m_calls;
+    Leftovers& m_leftovers;
     std::string m_stateFolder;
 };
 

@@ -83,14 +83,35 @@ std::error_code RenameToFree(SystemCalls& calls, const std::string& from, const 
     return Retried([&] { return calls.Rename(from, to); });
 }
 
-ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, mode_t mode)
-    : m_calls(calls), m_path(std::move(path)), m_mode(mode)
+void Leftovers::RemoveFrom(const std::string& folder)
+{
+    std::vector<FolderEntry> entries;
+    if (m_lookedThrough.contains(folder) || Retried([&] { return m_calls.List(folder, entries); }))
+        return;
+    m_lookedThrough.insert(folder);
+    for (const FolderEntry& entry : entries) {
+        FileHandle leftover(m_calls);
+        if (!IsTemporaryName(entry.Name) ||
+            leftover.OpenRegular(folder + entry.Name, O_RDWR | O_NOFOLLOW) || leftover.Lock())
+            continue;
+        std::ignore = Retried([&] { return m_calls.Remove(folder + entry.Name); });
+    }
+}
+
+ReplacementFile::ReplacementFile(SystemCalls& calls, Leftovers& leftovers, std::string path,
+                                 mode_t mode)
+    : m_calls(calls), m_leftovers(leftovers), m_path(std::move(path)), m_mode(mode)
 {
 }
 
-ReplacementFile::ReplacementFile(SystemCalls& calls, std::string path, const FileStatus& like,
-                                 Rights rights)
-    : m_calls(calls), m_path(std::move(path)), m_mode(0600), m_like(like), m_rights(rights)
+ReplacementFile::ReplacementFile(SystemCalls& calls, Leftovers& leftovers, std::string path,
+                                 const FileStatus& like, Rights rights)
+    : m_calls(calls),
+      m_leftovers(leftovers),
+      m_path(std::move(path)),
+      m_mode(0600),
+      m_like(like),
+      m_rights(rights)
 {
 }
 
@@ -101,12 +122,13 @@ std::error_code ReplacementFile::Put(const Filling& fill, const Former& former)
     const std::string path = FolderOf(m_path);
     if (const auto error = folder.OpenFolder(path))
         return error;
-    RemoveLeftovers(path);
+    m_leftovers.RemoveFrom(path);
     const std::string temporary = path + TemporaryName();
     FileHandle file(m_calls);
     if (const auto error = PutThrough(file, temporary, fill, former)) {
-        if (error != std::errc::file_exists && !m_isLost)
-            std::ignore = Retried([&] { return m_calls.Remove(temporary); });
+        if (error != std::errc::file_exists && !m_isLost &&
+            Retried([&] { return m_calls.Remove(temporary); }))
+            m_leftovers.Expect(path);
         return error;
     }
     m_isInPlace = true;
@@ -203,21 +225,6 @@ std::error_code ReplacementFile::TakeRights(const FileHandle& file) const
     if (!m_like)
         return {};
     return m_rights == Rights::All ? file.TakeRightsOf(*m_like) : file.TakePermissionsOf(*m_like);
-}
-
-/// Removes the temporary files of programs that are no more.
-void ReplacementFile::RemoveLeftovers(const std::string& folder) const
-{
-    std::vector<FolderEntry> entries;
-    if (Retried([&] { return m_calls.List(folder, entries); }))
-        return;
-    for (const FolderEntry& entry : entries) {
-        FileHandle leftover(m_calls);
-        if (!IsTemporaryName(entry.Name) ||
-            leftover.OpenRegular(folder + entry.Name, O_RDWR | O_NOFOLLOW) || leftover.Lock())
-            continue;
-        std::ignore = Retried([&] { return m_calls.Remove(folder + entry.Name); });
-    }
 }
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -36,15 +37,34 @@ bool IsRefusal(const std::error_code& error);
 [[nodiscard]] std::error_code RenameToFree(SystemCalls& calls, const std::string& from,
                                            const std::string& to);
 
+/// The temporary files that killed programs left behind. A folder is looked through once, since it
+/// may hold thousands of pages.
+class Leftovers
+{
+public:
+    explicit Leftovers(SystemCalls& calls) : m_calls(calls) {}
+
+    /// Removes those in a folder that was not looked through yet; its path ends in "/".
+    void RemoveFrom(const std::string& folder);
+
+    /// Lets the folder be looked through again: this program left one itself.
+    void Expect(const std::string& folder) { m_lookedThrough.erase(folder); }
+
+private:
+    SystemCalls& m_calls;
+    std::set<std::string> m_lookedThrough;
+};
+
 /// A whole new file that takes the place of a path in one step: it is written under a hidden name
 /// in the same folder, synced and renamed to the path, then the folder is synced. The hidden name
 /// cannot be guessed, and the file is locked while its writer runs; one that a killed program left
-/// behind is removed by the next ReplacementFile in that folder.
+/// behind is removed by the next program that puts a file into that folder.
 class ReplacementFile
 {
 public:
-    /// A file with the mode of a newly created one: `mode` less the umask.
-    ReplacementFile(SystemCalls& calls, std::string path, mode_t mode);
+    /// A file with the mode of a newly created one: `mode` less the umask. `leftovers` must outlive
+    /// the object.
+    ReplacementFile(SystemCalls& calls, Leftovers& leftovers, std::string path, mode_t mode);
 
     /// What the new file takes over from the file that it is like.
     enum class Rights
@@ -54,7 +74,8 @@ public:
     };
 
     /// A file with the rights of another.
-    ReplacementFile(SystemCalls& calls, std::string path, const FileStatus& like, Rights rights);
+    ReplacementFile(SystemCalls& calls, Leftovers& leftovers, std::string path,
+                    const FileStatus& like, Rights rights);
 
     /// What must have the path when the file takes its place.
     struct Former
@@ -89,9 +110,9 @@ private:
     std::error_code Exchange(const std::string& temporary) const;
     std::error_code GiveBack(FileStatus given, const std::string& temporary);
     std::error_code TakeRights(const FileHandle& file) const;
-    void RemoveLeftovers(const std::string& folder) const;
 
     SystemCalls& m_calls;
+    Leftovers& m_leftovers;
     std::string m_path;
     mode_t m_mode;
     std::optional<FileStatus> m_like;

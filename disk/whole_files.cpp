@@ -37,7 +37,7 @@ std::error_code ReadWhole(const FileHandle& file, std::string& bytes)
 } // namespace
 
 WholeFiles::WholeFiles(SystemCalls& calls, std::string stateFolder)
-    : m_calls(calls), m_inPlace(calls, std::move(stateFolder))
+    : m_calls(calls), m_leftovers(calls), m_inPlace(calls, m_leftovers, std::move(stateFolder))
 {
 }
 
@@ -115,7 +115,8 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
         ReplacementFile::Former former{};
         if (expected)
             former = {ReplacementFile::Former::Kind::File, *expected};
-        ReplacementFile file(m_calls, path, old.Status(), ReplacementFile::Rights::All);
+        ReplacementFile file(m_calls, m_leftovers, path, old.Status(),
+                             ReplacementFile::Rights::All);
         const auto error = file.Put(FillingWith(bytes), former);
         if (error && file.IsInPlace())
             PutBack(old, file);
@@ -139,7 +140,7 @@ std::error_code WholeFiles::PutNew(const std::string& path, const Filling& fill,
             return error;
     if (missing && like.empty())
         return PutWhereNoneIs(path, fill);
-    ReplacementFile file(m_calls, path, rights, ReplacementFile::Rights::Permissions);
+    ReplacementFile file(m_calls, m_leftovers, path, rights, ReplacementFile::Rights::Permissions);
     return PutOver(file, path, fill, old, missing);
 }
 
@@ -149,7 +150,7 @@ std::error_code WholeFiles::PutPrivate(const std::string& path, const Filling& f
     const auto missing = old.OpenRegular(path, O_RDONLY | O_NOFOLLOW);
     if (missing && !IsNoFile(missing))
         return missing;
-    ReplacementFile file(m_calls, path, 0600);
+    ReplacementFile file(m_calls, m_leftovers, path, 0600);
     return PutOver(file, path, fill, old, missing);
 }
 
@@ -161,7 +162,7 @@ std::error_code WholeFiles::PutIfFree(std::string path, const Filling& fill,
         return error;
     if (const auto error = FollowLinks(path))
         return error;
-    ReplacementFile file(m_calls, path, rights, ReplacementFile::Rights::Permissions);
+    ReplacementFile file(m_calls, m_leftovers, path, rights, ReplacementFile::Rights::Permissions);
     const auto error = file.Put(fill, {ReplacementFile::Former::Kind::Nothing, {}});
     if (error && file.IsInPlace())
         std::ignore = Retried([&] { return m_calls.Remove(path); });
@@ -177,7 +178,8 @@ std::error_code WholeFiles::PutOver(ReplacementFile& file, const std::string& pa
     const auto error = file.Put(fill);
     // A link that is gone stays so: the new file holds what was wanted.
     if (error && file.IsInPlace() && !missing) {
-        ReplacementFile before(m_calls, path, old.Status(), ReplacementFile::Rights::Permissions);
+        ReplacementFile before(m_calls, m_leftovers, path, old.Status(),
+                               ReplacementFile::Rights::Permissions);
         PutBack(old, before);
     } else if (error && file.IsInPlace() && missing == std::errc::no_such_file_or_directory) {
         std::ignore = Retried([&] { return m_calls.Remove(path); });
@@ -187,7 +189,7 @@ std::error_code WholeFiles::PutOver(ReplacementFile& file, const std::string& pa
 
 std::error_code WholeFiles::PutWhereNoneIs(const std::string& path, const Filling& fill)
 {
-    ReplacementFile file(m_calls, path, 0666);
+    ReplacementFile file(m_calls, m_leftovers, path, 0666);
     const auto error = file.Put(fill);
     if (error && file.IsInPlace())
         std::ignore = Retried([&] { return m_calls.Remove(path); });

@@ -62,6 +62,7 @@ private:
     std::error_code PutWhereNoneIs(const std::string& path, const Filling& fill);
 
     SystemCalls& m_calls;
+    Leftovers m_leftovers;
     InPlaceWriter m_inPlace;
 };
 

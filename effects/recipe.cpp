@@ -24,6 +24,8 @@ std::filesystem::path PathOf(TextView text)
     return ToUtf8(text);
 }
 
+constexpr TextView exampleColor = u"#0000ff";
+
 /// The path of a file as seen from a folder; a path that does not start at the root stays.
 Text SeenFrom(TextView folder, TextView path)
 {
@@ -97,6 +99,27 @@ bool Took(const DraftFields& draft, const std::string& name, const FieldTexts& g
     return name == draftFiles || std::equal(given.begin(), given.end(), found->second.begin());
 }
 
+/// The lines of one row that a list without any could have, as a comment; empty for other fields.
+Text ExampleOf(const FieldFacts& field)
+{
+    if (!field.Value.empty() ||
+        (field.Holds != FieldHolds::Rows && field.Holds != FieldHolds::List))
+        return {};
+    FieldTexts row = field.FreshRow;
+    std::vector<Text> names;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        names.push_back(FromUtf8(field.InRow[i].Name));
+        if (row[i].empty())
+            row[i] = field.InRow[i].IsColor ? exampleColor : names.back();
+    }
+    if (field.Holds == FieldHolds::List)
+        row = {Text(field.Name.IsColor ? exampleColor : u"text")};
+    const Text lines = DraftLines(field.Name, RowTexts{row});
+    const Text tells = names.empty() ? Text() : Join({u": ", Listed(names)});
+    return Join({u"\n# One row of the list ", FromUtf8(field.Name.Name), tells, u"\n#",
+                 ReplaceAll(lines.substr(0, lines.size() - 1), u"\n", u"\n#"), u"\n"});
+}
+
 /// The lines of a recipe that are fields, and what is wrong with the others.
 struct RecipeLines
 {
@@ -134,6 +157,16 @@ private:
 };
 
 } // namespace
+
+bool IsRecipeName(TextView path)
+{
+    return EqualIgnoringCase(Right(path, recipeEnding.size()), recipeEnding);
+}
+
+Text LineOf(const RecipeFault& fault)
+{
+    return fault.Line == 0 ? fault.Words : Join({NumberToText(fault.Line), u": ", fault.Words});
+}
 
 bool IsTypedSecret(const FieldFacts& field)
 {
@@ -184,8 +217,12 @@ std::vector<RecipeFault> SetGiven(AnyEffect& effect, const std::vector<GivenFiel
 Text WriteRecipe(AnyEffect effect, TextView folder)
 {
     effect.ForEachSource([&](Text& path) { path = SeenFrom(folder, path); });
-    return Join(
+    Text recipe = Join(
         {recipeHead, DraftLine(effectLine, RowOf(effect.Kind()).Title), u"\n", effect.Draft()});
+    for (const FieldFacts& field : effect.Fields())
+        if (!field.Name.IsSecret)
+            recipe += ExampleOf(field);
+    return recipe;
 }
 
 std::variant<AnyEffect, std::vector<RecipeFault>> ReadRecipe(TextView text, TextView folder)
@@ -205,6 +242,7 @@ std::variant<AnyEffect, std::vector<RecipeFault>> ReadRecipe(TextView text, Text
     }
     const auto faults = SetGiven(*effect, lines.Fields);
     lines.Faults.insert(lines.Faults.end(), faults.begin(), faults.end());
+    std::ranges::stable_sort(lines.Faults, {}, &RecipeFault::Line);
     if (!lines.Faults.empty())
         return lines.Faults;
     effect->ForEachSource([&](Text& path) {
@@ -212,6 +250,15 @@ std::variant<AnyEffect, std::vector<RecipeFault>> ReadRecipe(TextView text, Text
             path = FullPath(folder, path);
     });
     return *effect;
+}
+
+std::variant<AnyEffect, std::vector<RecipeFault>> ReadRecipeFile(const FileStore& files,
+                                                                 TextView path)
+{
+    const auto bytes = files.Read(path);
+    if (const Fault* fault = FaultIn(bytes))
+        return std::vector{RecipeFault{0, Text(Words(*fault))}};
+    return ReadRecipe(FromUtf8(ValueIn(bytes)), FolderOf(path));
 }
 
 } // namespace orvane

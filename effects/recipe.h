@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/file_store.h"
 #include "effects/effects.h"
 
 #include <optional>
@@ -22,6 +23,9 @@ namespace orvane {
 /// The ending of a recipe's name.
 inline constexpr TextView recipeEnding = u".ovr";
 
+/// Whether a file of this name is a recipe, its letters in any case.
+bool IsRecipeName(TextView path);
+
 /// A field as it was given by hand.
 struct GivenField
 {
@@ -38,6 +42,10 @@ struct RecipeFault
     bool operator==(const RecipeFault&) const = default;
 };
 
+/// The fault as a line tells it, such as "2: This effect has no field "x"."; without a line, the
+/// words alone.
+Text LineOf(const RecipeFault& fault);
+
 /// Sets fields of the effect; several of one name are a list, and a choice may be given by its
 /// name. Gives what is wrong: names of no field or of a secret one, and values that their fields
 /// cannot hold.
@@ -46,11 +54,16 @@ std::vector<RecipeFault> SetGiven(AnyEffect& effect, const std::vector<GivenFiel
 /// Whether the field is a secret that the author types, such as a password.
 bool IsTypedSecret(const FieldFacts& field);
 
-/// The text of the effect's recipe for a file in this folder.
+/// The text of the effect's recipe for a file in this folder. For each list that is empty it shows,
+/// as a comment, how a row is written.
 Text WriteRecipe(AnyEffect effect, TextView folder);
 
 /// The effect that the text of a recipe in this folder tells; fields that it lacks are fresh. Else
 /// all that is wrong with it.
 std::variant<AnyEffect, std::vector<RecipeFault>> ReadRecipe(TextView text, TextView folder);
+
+/// The same for the recipe with this full path; a file that cannot be read is one fault.
+std::variant<AnyEffect, std::vector<RecipeFault>> ReadRecipeFile(const FileStore& files,
+                                                                 TextView path);
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "preview/live_preview_panel.h"
 
 #include "core/file_names.h"
+#include "preview/page_pane_panel.h"
 #include "services/page_requests.h"
 #include "services/recent_files.h"
 #include "windows/controls.h"
@@ -56,15 +57,10 @@ LivePreviewPanel::LivePreviewPanel(Workbench& bench, QWidget* pane,
     connect(&m_soon, &QTimer::timeout, this, [this] { ShowPicture(); });
 }
 
-LivePreviewPanel::~LivePreviewPanel()
-{
-    GivePaneBack();
-}
-
 /// Not in the constructor: the window comes up without waiting for it.
 void LivePreviewPanel::Build()
 {
-    if (std::exchange(m_isBuilt, true))
+    if (m_page != nullptr)
         return;
     cboPreviewIn = new QComboBox;
     cboPreviewIn->setObjectName(QStringLiteral("cboPreviewIn"));
@@ -80,7 +76,12 @@ void LivePreviewPanel::Build()
     top->addWidget(new QLabel(QStringLiteral("In:")));
     top->addWidget(cboPreviewIn, 1);
     m_rows->addLayout(top);
-    m_rows->addStretch(1);
+    m_page = new PagePanePanel(m_bench, m_pane);
+    QSizePolicy policy = m_page->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_page->setSizePolicy(policy);
+    m_page->hide();
+    m_rows->addWidget(m_page, 1);
     m_rows->addWidget(lblPreviewCheck);
     BuildViews();
     ListPages();
@@ -118,7 +119,7 @@ void LivePreviewPanel::showEvent(QShowEvent* event)
     if (event->spontaneous())
         return;
     QTimer::singleShot(0, this, &LivePreviewPanel::Build);
-    QTimer::singleShot(m_isBuilt ? 0 : beginAfterMs, this, &LivePreviewPanel::Begin);
+    QTimer::singleShot(m_page != nullptr ? 0 : beginAfterMs, this, &LivePreviewPanel::Begin);
 }
 
 void LivePreviewPanel::hideEvent(QHideEvent* event)
@@ -128,7 +129,8 @@ void LivePreviewPanel::hideEvent(QHideEvent* event)
         return;
     m_soon.stop();
     m_shown.reset();
-    GivePaneBack();
+    if (m_page != nullptr)
+        m_page->hide();
 }
 
 void LivePreviewPanel::Begin()
@@ -136,43 +138,20 @@ void LivePreviewPanel::Begin()
     if (!isVisible())
         return;
     Build();
-    TakePane();
     ShowPicture();
-}
-
-void LivePreviewPanel::TakePane()
-{
-    if (std::exchange(m_holdsPane, true) || m_pane == nullptr)
-        return;
-    delete m_rows->takeAt(1); // the stretch that kept the pane's place
-    m_rows->insertWidget(1, m_pane, 1);
-    m_pane->show();
+    m_page->show();
     SetReadingOrder(*window());
-}
-
-void LivePreviewPanel::GivePaneBack()
-{
-    if (!std::exchange(m_holdsPane, false))
-        return;
-    m_bench.Pane.Clear();
-    if (m_pane == nullptr || m_pane->parentWidget() != this)
-        return;
-    m_pane->hide();
-    m_pane->setParent(nullptr);
-    m_rows->insertStretch(1, 1);
 }
 
 void LivePreviewPanel::Update()
 {
     // A running timer goes on, so that an author who types without a stop sees it too.
-    if (m_holdsPane && !m_soon.isActive())
+    if (m_page != nullptr && m_page->isVisible() && !m_soon.isActive())
         m_soon.start();
 }
 
 void LivePreviewPanel::ShowPicture(Again again)
 {
-    if (!m_holdsPane)
-        return;
     m_host.Read(m_bench.Files);
     const Deliverable made = m_effect();
     const auto* complaint = std::get_if<Complaint>(&made);
@@ -197,7 +176,7 @@ void LivePreviewPanel::Show(LivePage page, Again again)
     m_shown = page;
     page.ScrollsToMark = m_isHostNew && m_good.has_value();
     m_isHostNew = m_isHostNew && !m_good;
-    m_bench.Pane.ShowLive(page);
+    m_page->Show(page);
 }
 
 PaneView LivePreviewPanel::View() const

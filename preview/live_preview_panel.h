@@ -4,7 +4,6 @@
 #include "core/workbench.h"
 #include "preview/live_page.h"
 
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -17,6 +16,7 @@ class QVBoxLayout;
 
 namespace orvane {
 
+class PagePanePanel;
 class WizardForm;
 
 /// The live preview beside a wizard: the effect as it would be delivered with the fields as they
@@ -30,7 +30,6 @@ public:
     /// sight, without owning it. `effect` gives what the wizard would deliver. All of them must
     /// outlive the panel.
     LivePreviewPanel(Workbench& bench, QWidget* pane, std::function<Deliverable()> effect);
-    ~LivePreviewPanel() override;
 
     /// Shows the effect as it is now, in a moment.
     void Update();
@@ -50,8 +49,6 @@ private:
     void Build();
     void BuildViews();
     void Begin();
-    void TakePane();
-    void GivePaneBack();
     void ShowPicture(Again again = Again::No);
     void Show(LivePage page, Again again);
     PaneView View() const;
@@ -61,11 +58,10 @@ private:
     void GoTo(const Text& path);
 
     Workbench& m_bench;
-    QPointer<QWidget> m_pane;
+    QWidget* m_pane;
     std::function<Deliverable()> m_effect;
-    QTimer m_soon{this}; ///< runs while a change waits for its picture
-    bool m_isBuilt = false;
-    bool m_holdsPane = false;
+    QTimer m_soon{this};             ///< runs while a change waits for its picture
+    PagePanePanel* m_page = nullptr; ///< null until the panel was in sight for a moment
 
     HostFile m_host;
     bool m_isHostNew = false;          ///< no picture of the effect was shown in it yet

@@ -29,6 +29,7 @@ void PagePanePanel::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (event->spontaneous() || std::exchange(m_holdsPane, true))
         return;
+    m_bench.Pane.Pointed = [this](const PointedPlace& place) { emit Pointed(place); };
     if (m_pane != nullptr) {
         layout()->addWidget(m_pane);
         m_pane->show();
@@ -49,6 +50,7 @@ void PagePanePanel::GivePaneBack()
     if (!std::exchange(m_holdsPane, false))
         return;
     m_bench.Pane.Clear();
+    m_bench.Pane.Pointed = nullptr;
     if (m_pane == nullptr || m_pane->parentWidget() != this)
         return;
     m_pane->hide();

@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-/// Shows pages in the preview pane, which it holds while it is in sight.
+/// Shows live pages in the preview pane, which it holds while it is in sight.
 class PagePanePanel : public QWidget
 {
     Q_OBJECT
@@ -22,6 +22,10 @@ public:
 
     /// Shows the page, as soon as the panel is in sight.
     void Show(const LivePage& page);
+
+signals:
+    /// The author pointed to a place in the page.
+    void Pointed(const PointedPlace& place);
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -206,6 +206,12 @@ void QtPreviewPane::LivePageShown()
     emit LiveShown();
 }
 
+void QtPreviewPane::PlacePointed(const PointedPlace& place)
+{
+    if (Pointed)
+        Pointed(place);
+}
+
 void QtPreviewPane::PageNeeded()
 {
     // A page that cannot be put back fails to load, and the view shows that.

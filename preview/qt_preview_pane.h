@@ -57,6 +57,7 @@ private:
     PageBoxReply AnswerBox(const PageBox& box) override;
     bool MayOpenWindow() override;
     void LivePageShown() override;
+    void PlacePointed(const PointedPlace& place) override;
     void PageNeeded() override;
     void PageRead() override;
     void StatusWritten(TextView status) override;

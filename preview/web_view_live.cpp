@@ -1,5 +1,6 @@
 #include "preview/web_view_live.h"
 
+#include "preview/web_view_pointing.h"
 #include "windows/qt_text.h"
 
 #include <QStackedLayout>
@@ -95,6 +96,10 @@ void LiveView::MakePage(Sheet& sheet)
         if (&sheet == &Front() && sheet.Number != 0)
             m_context.Owner.StatusWritten(FromQt(status));
     };
+    sheet.Page->PlacePointed = [this, &sheet](const PointedPlace& place) {
+        if (&sheet == &Front() && sheet.Number != 0)
+            m_context.Owner.PlacePointed(place);
+    };
     sheet.Page->Drawn = [this, &sheet] {
         if (m_isLoading && &sheet == &Back())
             Exchange();
@@ -153,7 +158,8 @@ void LiveView::Load(const Wanted& wanted)
     const QUrl url = m_files.Add(m_number, wanted.Page, Front().Number);
     m_loaded = {{.Mark = wanted.Page.Mark,
                  .ScrollsToMark = wanted.Page.ScrollsToMark,
-                 .View = wanted.Page.View},
+                 .View = wanted.Page.View,
+                 .TakesPointing = wanted.Page.TakesPointing},
                 wanted.IsQuiet};
     sheet.Page->SetLeaving(false);
     sheet.Page->setAudioMuted(wanted.IsQuiet);
@@ -176,9 +182,12 @@ void LiveView::Loaded(Sheet& sheet, const QUrl& url)
     if (&sheet != &Back() || !m_isLoading)
         return;
     const QPointF scroll = Front().Page->scrollPosition() / Front().Page->zoomFactor();
-    sheet.Page->Draw(m_loaded.Page.ScrollsToMark
+    QString script = m_loaded.Page.ScrollsToMark
                          ? ScrollToMark(m_loaded.Page.Mark)
-                         : QStringLiteral("scrollTo(%1, %2)").arg(scroll.x()).arg(scroll.y()));
+                         : QStringLiteral("scrollTo(%1, %2)").arg(scroll.x()).arg(scroll.y());
+    if (m_loaded.Page.TakesPointing)
+        script += QLatin1Char(';') + PointingScript(m_context.Token);
+    sheet.Page->Draw(script);
 }
 
 void LiveView::Exchange()

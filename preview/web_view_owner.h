@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dialogs.h"
+#include "core/preview_pane.h"
 #include "core/text.h"
 
 namespace orvane {
@@ -26,6 +27,9 @@ public:
 
     /// A live page has taken the place of the page before it.
     virtual void LivePageShown() = 0;
+
+    /// The author pointed to a place in the live page.
+    virtual void PlacePointed(const PointedPlace& place) = 0;
 
     /// The page file is about to be read, for the first time or again, and must exist.
     virtual void PageNeeded() = 0;

@@ -1,5 +1,6 @@
 #include "preview/web_view_page.h"
 
+#include "preview/web_view_pointing.h"
 #include "preview/web_view_scheme.h"
 #include "preview/web_view_surface.h"
 #include "windows/qt_text.h"
@@ -206,6 +207,11 @@ void PreviewWebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, con
             m_drawnAtLast.stop();
             Drawn();
         }
+        return;
+    }
+    if (const auto place = PlaceIn(report)) {
+        if (PlacePointed)
+            PlacePointed(*place);
         return;
     }
     const bool isStatus = report.startsWith(u'=');

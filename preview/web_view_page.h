@@ -85,6 +85,9 @@ public:
     /// page begins.
     std::function<void(const QString&)> StatusWritten;
 
+    /// Called, if set, when the author points in a page that runs PointingScript().
+    std::function<void(const PointedPlace&)> PlacePointed;
+
     /// Called, if set, when Draw() has come to its end.
     std::function<void()> Drawn;
 

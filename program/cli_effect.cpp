@@ -65,18 +65,12 @@ void BringSecrets(AnyEffect& effect, const CliWorld& world, CliSecrets secrets)
 std::variant<CliRecipe, CliFaults> ReadRecipeFile(const CliWorld& world, TextView name)
 {
     const Text path = FullPathOf(world, name);
-    const auto bytes = world.Files.Read(path);
-    if (const Fault* fault = FaultIn(bytes))
-        return CliFaults{Join({path, u": ", Words(*fault)})};
-    const Text folder(FolderOf(path));
-    auto read = ReadRecipe(FromUtf8(ValueIn(bytes)), folder);
+    auto read = ReadRecipeFile(world.Files, path);
     if (auto* effect = std::get_if<AnyEffect>(&read))
-        return CliRecipe{std::move(*effect), folder};
+        return CliRecipe{std::move(*effect), Text(FolderOf(path))};
     CliFaults faults;
-    for (const RecipeFault& fault : std::get<std::vector<RecipeFault>>(read)) {
-        const Text line = fault.Line == 0 ? Text() : NumberToText(fault.Line) + u": ";
-        faults.push_back(Join({path, u":", fault.Line == 0 ? u" " : u"", line, fault.Words}));
-    }
+    for (const RecipeFault& fault : std::get<std::vector<RecipeFault>>(read))
+        faults.push_back(Join({path, fault.Line == 0 ? u": " : u":", LineOf(fault)}));
     return faults;
 }
 

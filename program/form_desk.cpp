@@ -130,7 +130,7 @@ FormDesk::Delivery FormDesk::ShowPreview(const EffectPayload& payload, WizardFor
     ShowModally(*preview);
     if (preview->WasDelivered()) {
         RememberFields(m_bench.Files, m_bench.StateFolder, Finish(payload), wizard.Fields());
-        wizard.DropDraft();
+        wizard.WasDelivered();
     }
     return {preview->End(), preview->Page()};
 }

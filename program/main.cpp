@@ -50,6 +50,15 @@ double DaysSince1900()
     return static_cast<double>(days) + now.time().msecsSinceStartOfDay() / 86400000.0;
 }
 
+/// Version, size and age of the program's file.
+orvane::Text BuildOf(const orvane::FileStore& files)
+{
+    const auto facts = files.Facts(orvane::FromQt(QCoreApplication::applicationFilePath()))
+                           .value_or(orvane::FileFacts());
+    return orvane::Join({ORVANE_VERSION, u" ", orvane::FromUtf8(std::to_string(facts.Size)), u" ",
+                         orvane::FromUtf8(std::to_string(facts.Written))});
+}
+
 /// Writes the answer where its reader looks for it, and gives the exit code.
 int Tell(const orvane::TerminalAnswer& answer)
 {
@@ -100,7 +109,7 @@ int main(int argc, char** argv)
     QTimer::singleShot(0, &program.Desk, [&] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
         RemovePreviewPages(disk.Files, program.Core);
-        InstallResources(disk.Files, dialogs, folders->Program);
+        InstallResources(disk.Files, dialogs, folders->Program, BuildOf(disk.Files));
         if (const Text& path = std::get<Text>(project); !path.empty())
             program.Desk.OpenProject(path);
     });

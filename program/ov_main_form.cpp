@@ -3,6 +3,7 @@
 #include "catalogue/catalogue_panel.h"
 #include "services/page_requests.h"
 #include "windows/file_drop.h"
+#include "windows/link_label.h"
 #include "windows/page_builder.h"
 #include "windows/qt_text.h"
 #include "windows/remember_place.h"
@@ -23,6 +24,7 @@ OVMainForm::OVMainForm(Workbench& bench) : m_bench(bench)
     auto* catalogue = new CataloguePanel(bench.Settings);
     connect(catalogue, &CataloguePanel::EffectWanted, this,
             [this](EffectKind kind) { OpenBy(*FindCommand(RowOf(kind).MenuCommand)); });
+    AddWays(*catalogue);
     setCentralWidget(catalogue);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     RememberPlace(*this, bench.Settings);
@@ -45,9 +47,9 @@ void OVMainForm::AddMenus()
 
     QMenu* edit = AddMenu(*menuBar(), "mnuEdit", u"&Edit");
     add(edit, "mnuEditApplet", u"&Edit Special Effect...", &OVMainForm::EditAppletWanted);
-    add(edit, "mnuPageEffects", u"E&ffects on a page...", [this] {
-        emit PageEffectsWanted({});
-    })->setShortcut(Qt::CTRL | Qt::Key_E);
+    m_pageEffects = add(edit, "mnuPageEffects", u"E&ffects on a page...",
+                        [this] { emit PageEffectsWanted({}); });
+    m_pageEffects->setShortcut(Qt::CTRL | Qt::Key_E);
     add(edit, "mnuPreferences", u"&Preferences...", &OVMainForm::PreferencesWanted);
 
     QMenu* effects = AddMenu(*menuBar(), "mnuAppletS", u"&Special Effects");
@@ -60,11 +62,24 @@ void OVMainForm::AddMenus()
     QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
     add(help, "mnuHelpContents", u"&Contents...",
         [this] { m_bench.Help.ShowTopic(help_topics::contents); });
-    add(help, "mnuSeeThemAll", u"&See them all", &OVMainForm::AllEffectsWanted)
-        ->setShortcut(Qt::CTRL | Qt::Key_G);
+    m_allEffects = add(help, "mnuSeeThemAll", u"&See them all", &OVMainForm::AllEffectsWanted);
+    m_allEffects->setShortcut(Qt::CTRL | Qt::Key_G);
     add(help, "mnuCheckForUpdate", u"Chec&k for update...", &OVMainForm::CheckForUpdate);
     help->addSeparator();
     add(help, "mnuHelpAbout", u"&About...", &OVMainForm::AboutWanted);
+}
+
+void OVMainForm::AddWays(CataloguePanel& catalogue)
+{
+    connect(catalogue.AddWay("lblMakeEffect", u"Make an effect",
+                             u"Goes to the pictures; Enter on one opens its wizard"),
+            &LinkLabel::Followed, &catalogue, &CataloguePanel::GoToEffects);
+    connect(catalogue.AddWay("lblChangeOnPage", u"Change what stands in a page",
+                             u"Lists the effects on a Web page (Ctrl+E)"),
+            &LinkLabel::Followed, m_pageEffects, &QAction::trigger);
+    connect(catalogue.AddWay("lblSeeThemAll", u"See them all",
+                             u"Shows every effect at work on one page (Ctrl+G)"),
+            &LinkLabel::Followed, m_allEffects, &QAction::trigger);
 }
 
 void OVMainForm::AddEffects(QMenu& menu, CataloguePage page)

@@ -5,9 +5,12 @@
 
 #include <QMainWindow>
 
+class QAction;
 class QMenu;
 
 namespace orvane {
+
+class CataloguePanel;
 
 /// The main window: the catalogue of effects, and menus with the same effects and all other
 /// commands.
@@ -35,11 +38,14 @@ protected:
 
 private:
     void AddMenus();
+    void AddWays(CataloguePanel& catalogue);
     void AddEffects(QMenu& menu, CataloguePage page);
     void OpenBy(const EffectCommand& command);
     void CheckForUpdate();
 
     Workbench& m_bench;
+    QAction* m_pageEffects = nullptr;
+    QAction* m_allEffects = nullptr;
 };
 
 } // namespace orvane

@@ -120,7 +120,7 @@ PutInEnd PageEffectsRoad::PutIn(const EffectPayload& effect, WizardForm& wizard,
     m_show(form);
     if (form.End() == PutInEnd::Written) {
         RememberFields(m_bench.Files, m_bench.StateFolder, payload, wizard.Fields());
-        wizard.DropDraft();
+        wizard.WasDelivered();
         PutRecentFile(m_bench.Settings, recentPages, m_page.Path());
         CopyFiles(payload);
     }
@@ -143,7 +143,12 @@ void PageEffectsRoad::CopyFiles(FinishedPayload payload)
     RequiredFiles& required = payload.Effect.Required;
     LeaveOutFilesThere(required, m_bench.Files, folder);
     DeliveryReport report;
-    const CopyJob job{payload, m_bench.Core.ProgramFolder, m_bench.Files, m_bench.Dialogs, report};
+    const CopyJob job{.Payload = payload,
+                      .ProgramFolder = m_bench.Core.ProgramFolder,
+                      .Files = m_bench.Files,
+                      .Dialogs = m_bench.Dialogs,
+                      .Report = report,
+                      .HasFileList = false};
     const bool copiesMore =
         std::ranges::any_of(required.RequiredFileNames, std::not_fn(&Text::empty)) ||
         std::ranges::any_of(payload.Effect.SupportFiles, std::not_fn(&Text::empty));

@@ -6,26 +6,49 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+
+#include <span>
+#include <string>
+#include <tuple>
 
 namespace orvane {
 
 namespace {
 
+/// Files of the resources whose names end so, and the folder below the program's own that they go
+/// to.
+struct Place
+{
+    const char* Resources;
+    const char* NameEnd;
+    Text Folder;
+
+    QFileInfoList Files() const
+    {
+        // A mask would load the library of regular expressions.
+        QFileInfoList files;
+        for (QDirIterator entry(QLatin1String(Resources), QDir::Files); entry.hasNext();)
+            if (entry.next().endsWith(QLatin1String(NameEnd)))
+                files.push_back(entry.fileInfo());
+        return files;
+    }
+};
+
 /// Writes every file of one resource folder into a folder of the disk.
-Done InstallFolder(FileStore& files, const QString& resources, const QString& masks,
-                   TextView folder)
+Done InstallFolder(FileStore& files, const Place& place)
 {
     // Previews and passwords lie there as well.
-    const Done made = MakeFolders(files, folder, Access::OwnerAlone);
+    const Done made = MakeFolders(files, place.Folder, Access::OwnerAlone);
     if (FaultIn(made))
         return made;
-    for (QDirIterator entry(resources, {masks}, QDir::Files); entry.hasNext();) {
-        QFile file(entry.next());
+    for (const QFileInfo& entry : place.Files()) {
+        QFile file(entry.filePath());
         if (!file.open(QIODevice::ReadOnly))
             continue;
         const QByteArray bytes = file.readAll();
         const Done installed =
-            InstallFile(files, PathIn(folder, FromQt(entry.fileName())),
+            InstallFile(files, PathIn(place.Folder, FromQt(entry.fileName())),
                         {bytes.constData(), static_cast<std::size_t>(bytes.size())});
         if (FaultIn(installed))
             return installed;
@@ -33,30 +56,42 @@ Done InstallFolder(FileStore& files, const QString& resources, const QString& ma
     return {};
 }
 
+/// What tells whether the files are still those that this build wrote, without opening one of them.
+std::string StampOf(const FileStore& files, std::span<const Place> places, TextView build)
+{
+    std::string stamp = ToUtf8(build) + '\n';
+    for (const Place& place : places)
+        for (const QFileInfo& entry : place.Files()) {
+            const Text path = PathIn(place.Folder, FromQt(entry.fileName()));
+            const FileFacts facts = files.Facts(path).value_or(FileFacts());
+            stamp += ToUtf8(path) + ' ' + std::to_string(facts.Size) + ' ' +
+                     std::to_string(facts.Written) + '\n';
+        }
+    return stamp;
+}
+
 } // namespace
 
-void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder)
+void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder, TextView build)
 {
-    /// Files of the resources, and the folder below the program's own that they go to.
-    struct Place
-    {
-        const char* Resources;
-        const char* Masks;
-        Text Folder;
-    };
-    const Place places[] = {{":/help", "*.hlp", Text(programFolder)},
-                            {":/help", "*.svg", PathIn(programFolder, u"help")},
-                            {":/applets", "*", Text(programFolder)},
-                            {":/runtime", "*", Text(programFolder)}};
+    const Place places[] = {{":/help", ".hlp", Text(programFolder)},
+                            {":/help", ".svg", PathIn(programFolder, u"help")},
+                            {":/applets", "", Text(programFolder)},
+                            {":/runtime", "", Text(programFolder)}};
+    const Text stampPath = PathIn(programFolder, u"installed.txt");
+    const auto stamp = files.Read(stampPath);
+    if (!FaultIn(stamp) && ValueIn(stamp) == StampOf(files, places, build))
+        return;
     for (const Place& place : places) {
-        const Done installed = InstallFolder(files, QLatin1String(place.Resources),
-                                             QLatin1String(place.Masks), place.Folder);
+        const Done installed = InstallFolder(files, place);
         if (const Fault* fault = FaultIn(installed)) {
             dialogs.Say(Join(
                 {u"Orvane cannot write to its folder ", programFolder, u".\r\n", Words(*fault)}));
             return;
         }
     }
+    // Without it the next start compares all of them again.
+    std::ignore = files.Replace(stampPath, StampOf(files, places, build));
 }
 
 } // namespace orvane

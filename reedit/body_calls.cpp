@@ -103,9 +103,9 @@ char QuoteOf(std::string_view page, CodeSpan attribute)
 
 } // namespace
 
-std::vector<BodyCall> CallsIn(std::string_view page, CodeSpan bodyTag)
+void ForEachCall(std::string_view page, CodeSpan bodyTag,
+                 const std::function<void(const BodyCall&)>& take)
 {
-    std::vector<BodyCall> calls;
     for (const EventAttribute& attribute : EventAttributesIn(page, bodyTag)) {
         const std::string_view value = CodeIn(page, attribute.Value);
         for (std::size_t at = 0; at < value.size();) {
@@ -114,13 +114,19 @@ std::vector<BodyCall> CallsIn(std::string_view page, CodeSpan bodyTag)
             const std::size_t last = value.substr(0, end).find_last_not_of(blanks);
             const std::size_t from = attribute.Value.Begin;
             if (begin < end)
-                calls.push_back({attribute.Event,
-                                 {from + begin, from + last + 1},
-                                 attribute.Value,
-                                 attribute.Whole});
+                take({attribute.Event,
+                      {from + begin, from + last + 1},
+                      attribute.Value,
+                      attribute.Whole});
             at = end + 1;
         }
     }
+}
+
+std::vector<BodyCall> CallsIn(std::string_view page, CodeSpan bodyTag)
+{
+    std::vector<BodyCall> calls;
+    ForEachCall(page, bodyTag, [&](const BodyCall& call) { calls.push_back(call); });
     return calls;
 }
 

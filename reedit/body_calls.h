@@ -2,6 +2,7 @@
 
 #include "reedit/page_splices.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,12 @@ struct BodyCall
     CodeSpan Attribute; ///< as a whole
 };
 
-/// The statements in the event attributes of a BODY tag, those that are dropped because another
-/// attribute of the name comes first among them.
+/// Calls `take` with each statement in the event attributes of a BODY tag, those that are dropped
+/// because another attribute of the name comes first among them.
+void ForEachCall(std::string_view page, CodeSpan bodyTag,
+                 const std::function<void(const BodyCall&)>& take);
+
+/// All of them.
 std::vector<BodyCall> CallsIn(std::string_view page, CodeSpan bodyTag);
 
 /// The name of the function in front of its "("; empty when the statement is no call of a function

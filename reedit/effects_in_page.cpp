@@ -68,28 +68,27 @@ public:
             TakePiece(std::move(piece));
     }
 
-    void TakeCalls(const std::vector<BodyCall>& calls)
+    void TakeCall(const BodyCall& call)
     {
-        for (const BodyCall& call : calls) {
-            const std::string_view code = CodeIn(m_page, call.Call);
-            const EffectPart part{call.Event == BodyEvent::OnLoad ? PartPlace::OnLoad
-                                                                  : PartPlace::OnUnload,
-                                  call.Call};
-            const auto owner = m_functions.find(FunctionOf(code));
-            const auto popup = m_popups.find(code);
-            if (owner != m_functions.end())
-                m_effects[owner->second].Parts.push_back(part);
-            else if (popup != m_popups.end())
-                m_effects[popup->second].Parts.push_back(part);
-            else if (IsPopupWindow(code))
-                NoteScript(AddEffect(Text(RowOf(EffectKind::PopupWindow).MarkerName), part), code);
-        }
+        const std::string_view code = CodeIn(m_page, call.Call);
+        const EffectPart part{
+            call.Event == BodyEvent::OnLoad ? PartPlace::OnLoad : PartPlace::OnUnload, call.Call};
+        const auto owner = m_functions.find(FunctionOf(code));
+        const auto popup = m_popups.find(code);
+        if (owner != m_functions.end())
+            m_effects[owner->second].Parts.push_back(part);
+        else if (popup != m_popups.end())
+            m_effects[popup->second].Parts.push_back(part);
+        else if (IsPopupWindow(code))
+            NoteScript(AddEffect(Text(RowOf(EffectKind::PopupWindow).MarkerName), part), code);
     }
 
     std::vector<EffectInPage> TakeEffects()
     {
+        const auto place = [](const EffectPart& part) { return part.Span.Begin; };
         for (EffectInPage& effect : m_effects)
-            std::ranges::sort(effect.Parts, {}, [](const auto& part) { return part.Span.Begin; });
+            if (!std::ranges::is_sorted(effect.Parts, {}, place))
+                std::ranges::sort(effect.Parts, {}, place);
         std::ranges::stable_sort(m_effects, {}, [](const EffectInPage& effect) {
             return effect.Parts.front().Span.Begin;
         });
@@ -166,7 +165,8 @@ std::vector<EffectInPage> EffectsIn(std::string_view page)
     EffectReader effects(page);
     effects.TakePieces(std::move(pieces.Pieces));
     if (pieces.BodyTag)
-        effects.TakeCalls(CallsIn(page, *pieces.BodyTag));
+        // Not a list of them: a page can make millions of calls that are no effect's.
+        ForEachCall(page, *pieces.BodyTag, [&](const BodyCall& call) { effects.TakeCall(call); });
     return effects.TakeEffects();
 }
 

@@ -1,5 +1,6 @@
 #include "reedit/page_parts.h"
 
+#include "core/preview_pane.h"
 #include "core/text.h"
 #include "reedit/effect_cuts.h"
 #include "reedit/page_places.h"
@@ -196,7 +197,7 @@ std::string WithPartNumbers(std::string_view page, const std::vector<PagePart>& 
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const std::string name = NameOf(CodeIn(page, parts[i].Tag));
         const std::size_t at = parts[i].Tag.Begin + 1 + name.size();
-        numbers.push_back({{at, at}, Join({" data-orvane-part=\"", std::to_string(i), "\""})});
+        numbers.push_back({{at, at}, Join({" ", partAttribute, "=\"", std::to_string(i), "\""})});
     }
     return Spliced(page, std::move(numbers));
 }

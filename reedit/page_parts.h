@@ -22,8 +22,8 @@ struct PagePart
 /// The parts of a page in the order of their tags, a part of another one behind it.
 std::vector<PagePart> PartsOf(std::string_view page);
 
-/// The page for the pane alone: each part's tag has its number, counted from 0, as the attribute
-/// "data-orvane-part". Expects PartsOf(page).
+/// The page for the pane alone: each part's tag has its number, by which the pane knows the part;
+/// the parts stay the same. Expects PartsOf(page).
 std::string WithPartNumbers(std::string_view page, const std::vector<PagePart>& parts);
 
 } // namespace orvane

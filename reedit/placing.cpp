@@ -18,24 +18,29 @@ Text NameOf(const FinishedPayload& payload)
     return NameInBeginMarker(payload.BeginMarker).value_or(Text());
 }
 
-/// The payload's texts as the page will hold them.
+/// The payload's texts in the page's encoding.
 struct PlacedCode
 {
     PlacedCode(std::string_view page, const EffectPayload& effect)
     {
         const PageEncoding encoding = EncodingOf(page);
-        LineEnd = LineEndOf(page);
-        HEAD = ReplaceAll(EncodeForPage(effect.HEADHTML, encoding), "\r\n", LineEnd);
-        BODY = ReplaceAll(EncodeForPage(effect.BODYHTML, encoding), "\r\n", LineEnd);
+        HEAD = EncodeForPage(effect.HEADHTML, encoding);
+        BODY = EncodeForPage(effect.BODYHTML, encoding);
         OnLoad = EncodeForAttribute(Join({effect.OnLoadFunc, effect.OnLoadArgs}), encoding);
         OnUnload = EncodeForAttribute(Join({effect.OnUnloadFunc, effect.OnUnloadArgs}), encoding);
     }
 
-    std::string LineEnd;
     std::string HEAD;
     std::string BODY;
     std::string OnLoad;
     std::string OnUnload;
+};
+
+/// What follows code that is put into a page.
+enum class Ending
+{
+    None,
+    Line,
 };
 
 /// Collects what is put into a page.
@@ -56,7 +61,7 @@ public:
         return !m_marks.BodyTag && !(m_code.OnLoad.empty() && m_code.OnUnload.empty());
     }
 
-    void PutHead(std::size_t otherwise, std::string_view ending)
+    void PutHead(std::size_t otherwise, Ending ending)
     {
         std::size_t at = otherwise;
         if (m_marks.HeadEnd)
@@ -68,12 +73,18 @@ public:
         Put({at, at}, m_code.HEAD, ending);
     }
 
-    void PutBody(std::size_t at, std::string_view ending) { Put({at, at}, m_code.BODY, ending); }
+    void PutBody(std::size_t at, Ending ending) { Put({at, at}, m_code.BODY, ending); }
 
-    void Put(CodeSpan old, std::string_view code, std::string_view ending)
+    /// Puts the code there with the line ends of what it replaces, or else of the page.
+    void Put(CodeSpan old, std::string_view code, Ending ending)
     {
-        if (!code.empty())
-            m_splices.push_back({old, Join({code, ending})});
+        if (code.empty())
+            return;
+        const std::string_view replaced = CodeIn(m_page, old);
+        const bool hasOwn = replaced.find_first_of("\r\n") != std::string_view::npos;
+        const std::string_view lineEnd = LineEndOf(hasOwn ? replaced : m_page);
+        const std::string put = ReplaceAll(std::string(code), "\r\n", lineEnd);
+        m_splices.push_back({old, ending == Ending::Line ? Join({put, lineEnd}) : put});
     }
 
     void Put(const std::vector<Splice>& splices)
@@ -155,21 +166,21 @@ PlacedPage WithEffect(std::string_view page, std::size_t at, const FinishedPaylo
     if (const auto reason = WhyNotAt(page, at, bare.Marks(), effects))
         return *reason;
     const auto sharing = SharingHead(effects, payload);
-    const auto placed = [&](std::string_view ending) {
+    const auto placed = [&](Ending ending) {
         Placing placing = bare;
         if (sharing)
-            placing.Put(sharing->Parts.front().Span, placing.Code().HEAD, {});
+            placing.Put(sharing->Parts.front().Span, placing.Code().HEAD, Ending::None);
         else
             placing.PutHead(at, ending);
         placing.PutBody(at, ending);
         placing.PutCalls(sharing ? CallsOf(page, *sharing) : std::vector<BodyCall>());
         return placing.Page();
     };
-    std::string result = placed(bare.Code().LineEnd);
+    std::string result = placed(Ending::Line);
     // By chance it may stand as if an insertion had put it there.
     const Text name = NameOf(payload);
     if (!sharing && !CanBeUndone(page, result, name))
-        if (std::string other = placed({}); CanBeUndone(page, other, name))
+        if (std::string other = placed(Ending::None); CanBeUndone(page, other, name))
             return other;
     return result;
 }
@@ -192,13 +203,13 @@ PlacedPage WithReplaced(std::string_view page, const EffectInPage& effect,
             if (put.empty())
                 cut.push_back(part);
             else if (old == first.value_or(old))
-                placing.Put(part.Span, put, {});
+                placing.Put(part.Span, put, Ending::None);
             first = first.value_or(old);
         }
         if (!first && place == PartPlace::Head)
-            placing.PutHead(TopOf(page), code.LineEnd);
+            placing.PutHead(TopOf(page), Ending::Line);
         else if (!first)
-            placing.PutBody(TopOf(page), code.LineEnd);
+            placing.PutBody(TopOf(page), Ending::Line);
     }
     placing.Put(CutsOfBlocks(page, cut));
     placing.PutCalls(CallsOf(page, effect));

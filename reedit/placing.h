@@ -26,10 +26,10 @@ std::optional<EffectInPage> SharingHead(const std::vector<EffectInPage>& effects
 /// script's lines come with it if the payload wants them.
 PlacedPage WithEffect(std::string_view page, std::size_t at, const FinishedPayload& payload);
 
-/// The page with the payload's HEAD code, BODY code and calls exactly where the effect's stand;
-/// what one of the two lacks is taken out, or put in as WithEffect() does. Of several blocks in the
-/// body, the first and its exact copies give way. Expects an effect of EffectsIn(page) that
-/// commands may touch.
+/// The page with the payload's HEAD code, BODY code and calls exactly where the effect's stand,
+/// with the line ends of the block that each takes the place of; what one of the two lacks is taken
+/// out, or put in as WithEffect() does. Of several blocks in the body, the first and its exact
+/// copies give way. Expects an effect of EffectsIn(page) that commands may touch.
 PlacedPage WithReplaced(std::string_view page, const EffectInPage& effect,
                         const FinishedPayload& payload);
 

@@ -2,6 +2,7 @@
 
 #include "preview/page_pane_panel.h"
 #include "reedit/effect_words.h"
+#include "reedit/page_parts.h"
 #include "windows/qt_text.h"
 #include "windows/shrinking.h"
 
@@ -38,10 +39,11 @@ PutInForm::PutInForm(Workbench& bench, PageEffects& page, PutInJob job, QWidget*
     const bool isNew = !m_job.Replaced;
     setWindowTitle(isNew ? QStringLiteral("Add an effect") : QStringLiteral("Change an effect"));
     SetHeading(isNew ? u"Put it in" : u"Put it back",
-               isNew ? u"Choose the part of your Web page in front of which or behind which the "
-                       u"special effect goes.  Nothing is written yet."
-                     : u"This is your Web page with the changed special effect.  Nothing is "
-                       u"written yet.");
+               isNew
+                   ? u"Click in your Web page on the part before or after which the special effect "
+                     u"goes, or choose that in the list.  Nothing is written yet."
+                   : u"This is your Web page with the changed special effect.  Nothing is "
+                     u"written yet.");
     SetHelpTopic(help_topics::pageEffects);
     PageBuilder rows = AddPage();
     if (isNew)
@@ -65,8 +67,9 @@ void PutInForm::AddPlaces(PageBuilder& rows)
     optPlace[0] = rows.Option("optPlace", 0, u"B&efore this part");
     optPlace[1] = rows.Option("optPlace", 1, u"&After this part");
     optPlace[0]->setChecked(true);
-    connect(lstPlaces, &QListWidget::currentRowChanged, this, &PutInForm::ShowPage);
-    connect(optPlace[0], &QRadioButton::toggled, this, &PutInForm::ShowPage);
+    connect(lstPlaces, &QListWidget::currentRowChanged, this, [this] { ShowPage(); });
+    connect(optPlace[0], &QRadioButton::toggled, this, [this] { ShowPage(); });
+    connect(m_pane, &PagePanePanel::Pointed, this, &PutInForm::GoTo);
 }
 
 /// Lists the parts of the page anew; the row that was chosen stays so.
@@ -76,15 +79,39 @@ void PutInForm::ListPlaces()
     const QSignalBlocker blocker(lstPlaces);
     lstPlaces->clear();
     m_places = PlacesToPoint(m_job.Page);
+    m_numbered = WithPartNumbers(m_job.Page, PartsOf(m_job.Page));
+    m_numberedPlaces = PlacesToPoint(m_numbered);
     for (const PlaceToPoint& place : m_places)
         lstPlaces->addItem(ToQt(place.Words));
     lstPlaces->setCurrentRow(std::min(chosen, lstPlaces->count() - 1));
 }
 
-std::size_t PutInForm::Place() const
+const PlaceToPoint& PutInForm::ChosenIn(const std::vector<PlaceToPoint>& places) const
 {
-    const PlaceToPoint& place = m_places.at(static_cast<std::size_t>(lstPlaces->currentRow()));
+    return places.at(static_cast<std::size_t>(lstPlaces->currentRow()));
+}
+
+std::size_t PutInForm::PlaceIn(const std::vector<PlaceToPoint>& places) const
+{
+    const PlaceToPoint& place = ChosenIn(places);
     return optPlace[0]->isChecked() ? place.Before : place.After;
+}
+
+/// Goes to the place at which the author pointed in the page that is shown.
+void PutInForm::GoTo(const PointedPlace& place)
+{
+    const int last = lstPlaces->count() - 1;
+    const int row = place.Part ? *place.Part + 1 : place.IsBehind ? last : 0;
+    // Another program may have written the page meanwhile.
+    if (place.Part && row >= last)
+        return;
+    {
+        const QSignalBlocker inList(lstPlaces), inOption(optPlace[0]);
+        lstPlaces->setCurrentRow(row);
+        optPlace[place.IsBehind ? 1 : 0]->setChecked(true);
+    }
+    ShowPage(Scrolling::Stays);
+    lstPlaces->setFocus();
 }
 
 void PutInForm::showEvent(QShowEvent* event)
@@ -123,32 +150,40 @@ void PutInForm::FollowPage()
 PlacedPage PutInForm::Edited(const FinishedPayload& payload) const
 {
     return m_job.Replaced ? WithReplaced(m_job.Page, *m_job.Replaced, payload)
-                          : WithEffect(m_job.Page, Place(), payload);
+                          : WithEffect(m_job.Page, PlaceIn(m_places), payload);
+}
+
+/// The same as the pane shows it.
+PlacedPage PutInForm::Shown(const FinishedPayload& payload) const
+{
+    return m_job.Replaced ? Edited(payload)
+                          : WithEffect(m_numbered, PlaceIn(m_numberedPlaces), payload);
 }
 
 /// Shows what Next() would write.
-void PutInForm::ShowPage()
+void PutInForm::ShowPage(Scrolling scrolling)
 {
     FinishedPayload marked = m_job.Payload;
     if (Text& code = marked.Effect.BODYHTML; !code.empty())
         code = Join({u"<!--", shownPlaceMark, u"-->", lstPlaces == nullptr ? u"" : frameBegin, code,
                      lstPlaces == nullptr ? u"" : frameEnd});
     if (lstPlaces != nullptr) {
-        const PlaceToPoint& place = m_places.at(static_cast<std::size_t>(lstPlaces->currentRow()));
+        const PlaceToPoint& place = ChosenIn(m_places);
         for (QRadioButton* option : optPlace)
             option->setEnabled(place.Before != place.After);
     }
     TextView words;
     if (!m_isThere) {
         words = u"The special effect that was to be changed does not stand in the page any more.";
-    } else if (PlacedPage page = Edited(marked); const auto* reason = std::get_if<NoPlace>(&page)) {
+    } else if (PlacedPage page = Shown(marked); const auto* reason = std::get_if<NoPlace>(&page)) {
         words = Words(*reason);
     } else {
         LivePicture picture =
             PictureWith(marked, HostPage{m_page.Path(), std::get<std::string>(std::move(page))},
                         m_bench.Files, m_bench.Core.ProgramFolder);
         picture.Page.Mark = shownPlaceMark;
-        picture.Page.ScrollsToMark = true;
+        picture.Page.ScrollsToMark = scrolling == Scrolling::ToEffect;
+        picture.Page.TakesPointing = lstPlaces != nullptr;
         m_pane->Show(picture.Page);
     }
     lblPutIn->setText(ToQtLines(words));

@@ -54,12 +54,22 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// Whether the page is scrolled to the effect.
+    enum class Scrolling
+    {
+        ToEffect,
+        Stays,
+    };
+
     void AddPlaces(PageBuilder& rows);
     void ListPlaces();
-    std::size_t Place() const;
+    const PlaceToPoint& ChosenIn(const std::vector<PlaceToPoint>& places) const;
+    std::size_t PlaceIn(const std::vector<PlaceToPoint>& places) const;
     PlacedPage Edited(const FinishedPayload& payload) const;
+    PlacedPage Shown(const FinishedPayload& payload) const;
     void FollowPage();
-    void ShowPage();
+    void GoTo(const PointedPlace& place);
+    void ShowPage(Scrolling scrolling = Scrolling::ToEffect);
     bool MayReplace() const;
 
     PageEffects& m_page;
@@ -67,6 +77,8 @@ private:
     bool m_isThere = true;
     PutInEnd m_end = PutInEnd::Closed;
     std::vector<PlaceToPoint> m_places;
+    std::string m_numbered; ///< the page, with a number at each of its parts
+    std::vector<PlaceToPoint> m_numberedPlaces;
     PagePanePanel* m_pane;
     QListWidget* lstPlaces = nullptr; ///< null where the place is known
     std::array<QRadioButton*, 2> optPlace{};

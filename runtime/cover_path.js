@@ -7,23 +7,28 @@ const blinds = 8;
 const rows = 12;
 const bars = 48;
 
-/** @param {number} count @param {(i: number) => Piece} piece @returns {Piece[]} */
+/**
+ * @template {any[]} T
+ * @param {number} count @param {(i: number) => T} piece @returns {T[]}
+ */
 const pieces = (count, piece) => Array.from({ length: count }, (_, i) => piece(i));
 
 /** The numbers below `count` in random order. @param {number} count */
 export const shuffled = (count) =>
-    Array.from({ length: count }, (_, i) => [Math.random(), i])
+    pieces(count, (i) => [Math.random(), i])
         .sort()
         .map(([, i]) => i);
 
-/** Strips at the upper and lower edge, `p / 2` high. @param {number} p @returns {Piece[]} */
+/**
+ * Strips at the upper and lower edge, `p / 2` high: all but what is between them, since a piece within
+ * another one is a hole.
+ * @param {number} p
+ * @returns {Piece[]}
+ */
 const edges = (p) => [
-    [0, 0, 1, p / 2],
-    [0, 1 - p / 2, 1, p / 2],
+    [0, 0, 1, 1],
+    [0, p / 2, 1, 1 - p],
 ];
-
-/** The frame along the edges, `p / 2` wide on each side. @param {number} p @returns {Piece[]} */
-const frame = (p) => [...edges(p), [0, p / 2, p / 2, 1 - p], [1 - p / 2, p / 2, p / 2, 1 - p]];
 
 /**
  * Squares that open from their left edge, every second row shifted to the right by half a square.
@@ -34,7 +39,7 @@ function checkers(p) {
     const w = 1 / blinds;
     return pieces(blinds * (blinds + 1), (i) => {
         const row = i % blinds;
-        return [(Math.floor(i / blinds) - (row % 2) / 2) * w, row * w, p * w, w];
+        return [(((i / blinds) | 0) - (row % 2) / 2) * w, row * w, p * w, w];
     });
 }
 
@@ -42,18 +47,16 @@ function checkers(p) {
 const turned = (from) => from.map(([x, y, w, h]) => [y, x, h, w]);
 
 /**
- * Rows that grow one after the other from the right edge to the left, or from the left edge.
- * @param {number} p
- * @param {boolean} left whether they grow to the left
- * @param {boolean} up whether the lowest row is the first
- * @returns {Piece[]}
+ * Rows that grow one after the other: 17 and 18 to the left, else to the right; with even numbers
+ * the lowest is the first.
+ * @param {number} p @param {number[]} _ @param {number} kind @returns {Piece[]}
  */
-const strips = (p, left, up) =>
+const strips = (p, _, kind) =>
     pieces(rows, (i) => {
         // Each begins a little later than the one before it.
-        const late = (up ? rows - 1 - i : i) / (rows - 1);
+        const late = (kind % 2 ? i : rows - 1 - i) / (rows - 1);
         const long = Math.min(Math.max(2 * p - late, 0), 1);
-        return [left ? 1 - long : 0, i / rows, long, 1 / rows];
+        return [kind < 19 ? 1 - long : 0, i / rows, long, 1 / rows];
     });
 
 /**
@@ -67,19 +70,23 @@ export const orderOf = (kind) => shuffled(kind === 12 ? 400 : bars);
  * @param {number[]} order @param {number} p @param {number} columns @returns {Piece[]}
  */
 function dots(order, p, columns) {
-    const [w, h] = [1 / columns, columns / order.length];
+    const w = 1 / columns;
+    const h = columns / order.length;
     return order
-        .slice(0, Math.round(p * order.length))
-        .map((i) => [(i % columns) * w, Math.floor(i / columns) * h, w, h]);
+        .slice(0, p * order.length)
+        .map((i) => [(i % columns) * w, ((i / columns) | 0) * h, w, h]);
 }
 
 /**
  * The parts of the new picture that are seen at the share `p` of the time, by the number of the
  * transition in the author's list. The circles, 2 and 3, are not here but in coverPath().
- * @type {Record<number, (p: number, order: number[]) => Piece[]>}
+ * @type {Record<number, (p: number, order: number[], kind: number) => Piece[]>}
  */
 const uncovered = {
-    0: frame,
+    0: (p) => [
+        [0, 0, 1, 1],
+        [p / 2, p / 2, 1 - p, 1 - p],
+    ],
     1: (p) => [[0.5 - p / 2, 0.5 - p / 2, p, p]],
     4: (p) => [[0, 1 - p, 1, p]],
     5: (p) => [[0, 0, 1, p]],
@@ -94,10 +101,10 @@ const uncovered = {
     14: (p) => [[0.5 - p / 2, 0, p, 1]],
     15: edges,
     16: (p) => [[0, 0.5 - p / 2, 1, p]],
-    17: (p) => strips(p, true, false),
-    18: (p) => strips(p, true, true),
-    19: (p) => strips(p, false, false),
-    20: (p) => strips(p, false, true),
+    17: strips,
+    18: strips,
+    19: strips,
+    20: strips,
     21: (p, order) => dots(order, p, 1),
     22: (p, order) => dots(order, p, bars),
 };
@@ -109,14 +116,15 @@ const uncovered = {
  */
 export function coverPath(kind, p, order, w, h) {
     const all = `M0 0H${w}V${h}H0Z`;
-    if (kind === 2 || kind === 3) {
+    const shape = uncovered[kind];
+    if (!shape) {
         const radius = (Math.hypot(w, h) / 2) * (kind === 2 ? 1 - p : p);
         const arc = (/** @type {number} */ dx) => `a${radius} ${radius} 0 1 0 ${dx} 0`;
         const circle = `M${w / 2 - radius} ${h / 2}${arc(2 * radius)}${arc(-2 * radius)}Z`;
         return kind === 2 ? circle : all + circle;
     }
     return (
-        uncovered[kind](p, order)
+        shape(p, order, kind)
             .map(([x, y, pw, ph]) => `M${x * w} ${y * h}h${pw * w}v${ph * h}h${-pw * w}Z`)
             .join("") + all
     );

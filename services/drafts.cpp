@@ -6,9 +6,23 @@
 
 namespace orvane {
 
+namespace {
+
+Text FileOf(ControlName effect, TextView folder)
+{
+    return PathIn(folder, Join({FromUtf8(effect), u".txt"}));
+}
+
+} // namespace
+
 Text DraftPathOf(TextView stateFolder, ControlName effect)
 {
-    return PathIn(PathIn(stateFolder, u"drafts"), Join({FromUtf8(effect), u".txt"}));
+    return FileOf(effect, PathIn(stateFolder, u"drafts"));
+}
+
+Text LastTimePathOf(TextView stateFolder, ControlName effect)
+{
+    return FileOf(effect, PathIn(stateFolder, u"last time"));
 }
 
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path)

@@ -10,6 +10,10 @@ namespace orvane {
 /// The full path of the draft of an effect; `effect` is the name of its menu command.
 Text DraftPathOf(TextView stateFolder, ControlName effect);
 
+/// The full path of the fields with which that effect was delivered last, which are kept as a draft
+/// is.
+Text LastTimePathOf(TextView stateFolder, ControlName effect);
+
 /// The text of the draft in this file; nothing when there is none that can be read.
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path);
 

@@ -20,7 +20,8 @@ constexpr int keepAfterMilliseconds = 500;
 WizardForm::WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent)
     : WizardFrame(name, bench, parent),
       m_keepTimer(new QTimer(this)),
-      lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off"))
+      lblTakeUp(AddOffer("lblTakeUp", u"Take up where you left off")),
+      lblAsLastTime(AddOffer("lblAsLastTime", u"As last time"))
 {
     SetEffect(kind);
     m_keepTimer->setSingleShot(true);
@@ -54,29 +55,45 @@ void WizardForm::GoTo(int page)
 
 void WizardForm::SetEffect(EffectKind kind)
 {
-    m_kind = kind;
-    if (const CatalogueRow* row = FindRow(kind))
+    const CatalogueRow* row = FindRow(kind);
+    m_effect = row == nullptr ? ControlName() : row->MenuCommand;
+    if (row != nullptr)
         setWindowTitle(ToQt(row->Title));
     SetHelpTopic(help_topics::firstEffect + static_cast<int>(kind));
 }
 
 Text WizardForm::DraftPath() const
 {
-    const CatalogueRow* row = FindRow(m_kind);
-    return DraftPathOf(m_bench.StateFolder, row == nullptr ? ControlName() : row->MenuCommand);
+    return DraftPathOf(m_bench.StateFolder, m_effect);
+}
+
+Text WizardForm::LastTimePath() const
+{
+    return LastTimePathOf(m_bench.StateFolder, m_effect);
 }
 
 void WizardForm::BeginDrafts(bool isFresh)
 {
     m_kept = Draft();
-    const auto draft = isFresh ? ReadDraftFile(m_bench.Files, DraftPath()) : std::nullopt;
-    lblTakeUp->setVisible(draft && *draft != m_kept);
-    if (!draft)
+    const auto kept = [&](const Text& path) {
+        return isFresh ? ReadDraftFile(m_bench.Files, path) : std::nullopt;
+    };
+    const auto draft = kept(DraftPath());
+    const auto lastTime = kept(LastTimePath());
+    Offer(*lblTakeUp, draft);
+    Offer(*lblAsLastTime, lastTime == draft ? std::nullopt : lastTime);
+}
+
+/// Offers these fields by the link, unless the window shows them already.
+void WizardForm::Offer(LinkLabel& offer, const std::optional<Text>& fields)
+{
+    offer.setVisible(fields && *fields != m_kept);
+    if (!fields)
         return;
-    connect(lblTakeUp, &LinkLabel::Followed, this, [this, text = *draft] {
+    connect(&offer, &LinkLabel::Followed, this, [this, &offer, text = *fields] {
         TakeDraft(text);
         m_kept = Draft();
-        lblTakeUp->hide();
+        offer.hide();
         focusNextChild();
     });
 }
@@ -99,10 +116,11 @@ void WizardForm::KeepDraft()
     m_kept = std::move(draft);
 }
 
-void WizardForm::DropDraft()
+void WizardForm::WasDelivered()
 {
     DropDraftFile(m_bench.Files, DraftPath());
     m_kept = Draft();
+    WriteDraftFile(m_bench.Files, LastTimePath(), m_kept);
 }
 
 void WizardForm::hideEvent(QHideEvent* event)

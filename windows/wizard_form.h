@@ -23,7 +23,8 @@ struct WizardPage
 /// The window of one effect, a wizard of one or more pages. Done hides it and keeps the fields as
 /// they are, Cancel closes it; what it produced is read with TakePayload(). Files that the effect
 /// makes are written before it hides. What the author entered is kept as a draft file until the
-/// effect was delivered, and is offered when the window opens the next time.
+/// effect was delivered, and is offered when the window opens the next time; so is what was
+/// delivered last.
 class WizardForm : public WizardFrame
 {
     Q_OBJECT
@@ -44,8 +45,9 @@ public:
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
 
-    /// Removes the draft; called when the effect was delivered.
-    void DropDraft();
+    /// Removes the draft, and keeps the fields for the next time; called when the effect was
+    /// delivered.
+    void WasDelivered();
 
 signals:
     /// Fields were changed. Comes from the event loop, once for all changes since the last time.
@@ -77,7 +79,8 @@ protected:
     /// catalogue row.
     void SetEffect(EffectKind kind);
 
-    /// From now on the fields as they are need no draft. Offers an earlier draft when `isFresh`.
+    /// From now on the fields as they are need no draft. When `isFresh`, offers an earlier draft
+    /// and the fields that were delivered last.
     void BeginDrafts(bool isFresh);
 
     /// Stores the fields as a draft in a moment, and when the window hides. Called when a field
@@ -94,14 +97,17 @@ protected:
 
 private:
     Text DraftPath() const;
+    Text LastTimePath() const;
     void KeepDraft();
+    void Offer(LinkLabel& offer, const std::optional<Text>& fields);
 
     std::vector<WizardPage> m_words;
     std::optional<EffectPayload> m_payload;
-    EffectKind m_kind = EffectKind::None;
+    ControlName m_effect; ///< its menu command, under which drafts are kept
     Text m_kept; ///< the draft as last stored, or the fields as the window opened with them
     QTimer* m_keepTimer;
     LinkLabel* lblTakeUp;
+    LinkLabel* lblAsLastTime;
 };
 
 } // namespace orvane

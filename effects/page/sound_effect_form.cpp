@@ -19,7 +19,7 @@ SoundEffectForm::SoundEffectForm(Workbench& bench, QWidget* parent)
         {u"Sound Effect",
          u"Choose a sound for the visitor's arrival, one for leaving the page by a link, or "
          u"both.  Most browsers wait with a sound until the visitor has clicked something.  "
-         u"Visitors can always stop it."});
+         u"Visitors can always stop it and set its volume."});
     AddSound(page, "txtSound", "SoundSource",
              {.Label = u"On &arrival:",
               .Tip = u"The sound of the page; Delete takes it away",
@@ -32,7 +32,7 @@ SoundEffectForm::SoundEffectForm(Workbench& bench, QWidget* parent)
               .Caption = u"Browse for sound..."});
     page.Slider("sldrVolume", u"V&olume:", u"Silent", u"Loud", {});
     AddTimes(page);
-    page.CheckBox("chkControls", u"&Show a player, which has a volume control");
+    page.CheckBox("chkControls", u"&Show the browser's player; else a button and a volume");
     page.ChoiceBox("cboIfBlocked", u"&Where it has to wait:", ifBlocked);
     page.CheckBox("chkRememberOff", u"&Remember in the visitor's own browser who stopped it");
     page.Fill();

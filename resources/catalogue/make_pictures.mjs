@@ -103,7 +103,8 @@ for (const name of names)
             const place = (frame - still + frames) % frames;
             const path = `${folder}/${String(place).padStart(2, "0")}.png`;
             // Between two pages there is nothing to be seen.
-            while (!(await tab.screenshot({ path, captureBeyondViewport: false }).catch(() => wait(20)))) continue;
+            for (let tries = 0; tries < 100; tries++)
+                if (await tab.screenshot({ path, captureBeyondViewport: false }).catch(() => wait(20))) break;
         }
         // On a busy machine a frame comes late, and stands in the picture for as long as it took.
         const delays = times.map((time, i) => Math.round(((times[i + 1] ?? time + every) - time) / 10));

@@ -4,7 +4,7 @@ import { sleep } from "./sleep.js";
 
 /** The look of the pause button: the sign is drawn, since fonts differ. */
 export const buttonCss =
-    "button{all:unset;flex:none;box-sizing:border-box;width:24px;height:24px;padding:6px 7px;" +
+    "button{all:unset;flex:none;width:10px;padding:6px 7px;" +
     "cursor:pointer}" +
     "button::before{content:'';display:block;height:12px;background:currentColor;" +
     "forced-color-adjust:none;clip-path:polygon(0 0,100% 50%,0 100%)}" +

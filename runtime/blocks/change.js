@@ -15,26 +15,34 @@ export function change(from, to, how, duration) {
     // What gives way is seen until the end, above or below.
     const above = fades ? to : from;
     above.style.zIndex = "1";
-    const old = from.animate({ opacity: [1, 1] }, duration);
-    const end = old.finished.then(() => (above.style.zIndex = ""));
+    from.style.opacity = "1";
+    // A clock that paints nothing.
+    const clock = from.animate([], { delay: duration });
+    const end = clock.finished.then(
+        () =>
+            (above.style.zIndex =
+                from.style.opacity =
+                from.style.clipPath =
+                to.style.clipPath =
+                    ""),
+    );
     if (fades) {
         to.animate({ opacity: [0, 1] }, duration);
         return end;
     }
-    const kind = Number(how) < 23 ? Number(how) : Math.floor(Math.random() * 23);
+    const kind = +how < 23 ? +how : (Math.random() * 23) | 0;
     const order = orderOf(kind);
     const { offsetWidth: w, offsetHeight: h } = from;
-    return new Promise((done) => {
-        const step = () => {
-            const time = Number(old.currentTime ?? duration);
-            const path = time < duration && coverPath(kind, time / duration, order, w, h);
-            // Both are clipped, since what is behind a text is seen through it.
-            from.style.clipPath = path ? `path(evenodd,"${path}")` : "";
-            to.style.clipPath = path ? `path(evenodd,"${path}M0 0H${w}V${h}H0Z")` : "";
-            // Thirty pictures a second are enough, and half the work.
-            if (path) setTimeout(step, 33);
-            else done(end);
-        };
-        step();
-    });
+    const step = () => {
+        const time = Number(clock.currentTime ?? duration);
+        if (time >= duration) return;
+        const path = coverPath(kind, time / duration, order, w, h);
+        // Both are clipped, since what is behind a text is seen through it.
+        from.style.clipPath = `path(evenodd,"${path}")`;
+        to.style.clipPath = `path(evenodd,"${path}M0 0H${w}V${h}H0Z")`;
+        // As many pictures as a film has are enough, and less than half the work.
+        setTimeout(step, 42);
+    };
+    step();
+    return end;
 }

@@ -3,8 +3,8 @@
 /** A box that is as large as its pictures. */
 export const framesCss =
     ".box{display:inline-block;position:relative;max-width:100%;vertical-align:top}" +
-    ".stage{isolation:isolate}li{display:grid;place-items:center}a{display:block}" +
-    "img{display:block;max-width:100%;height:auto}";
+    ".stage{isolation:isolate}li{display:grid;place-items:center}a,img{display:block}" +
+    "img{max-width:100%;height:auto}";
 
 /**
  * Lets the pictures of an item load, in the size that the author asks for.

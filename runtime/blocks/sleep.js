@@ -13,7 +13,7 @@ export function sleep(root, placed, tell) {
     on(document, "visibilitychange", report);
     if (!placed) return report();
     new IntersectionObserver((entries) => {
-        seen = entries[entries.length - 1].isIntersecting;
+        seen = !!entries.pop()?.isIntersecting;
         report();
     }).observe(root);
 }

@@ -40,7 +40,7 @@ export function fields(root, defaults) {
         const standard = defaults[name];
         if (Array.isArray(standard)) {
             const [value, least, most] = standard;
-            const number = parseFloat(text ?? "");
+            const number = parseFloat(/** @type {any} */ (text));
             values[name] = isNaN(number) ? value : Math.min(Math.max(number, least), most);
         } else values[name] = typeof standard === "boolean" && text != null ? text !== "no" : text || standard;
     }

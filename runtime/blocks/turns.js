@@ -23,7 +23,6 @@ export function turns(items, { pause, changes = 0, turn }, change, end) {
     let shown = items[0];
     let moves = false;
     let timer = 0;
-    shown.classList.add("shown");
 
     const behind = (/** @type {number} */ step) =>
         items[(items.indexOf(shown) + step + items.length) % items.length];
@@ -51,6 +50,7 @@ export function turns(items, { pause, changes = 0, turn }, change, end) {
         show(item);
         wait();
     };
+    show(shown);
     for (const item of items) on(item, "focusin", () => jump(item));
     return {
         /** Shows the item that stands so many behind what is shown. @param {number} step */

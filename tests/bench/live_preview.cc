@@ -6,6 +6,7 @@
 #include "windows/qt_text.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -90,7 +91,7 @@ Measured FindMeasured(const QByteArray& name, const Text& folder)
     if (name == "slideshow") {
         Slideshow show{.Rows = {{.FileName = u"a.gif"}, {.FileName = u"b.gif"}}};
         show.Required = pictures;
-        return {EffectKind::Slideshow, WriteDraft(show), "txtSlideDuration"};
+        return {EffectKind::Slideshow, WriteDraft(show), "chkRepeat"};
     }
     return {EffectKind::StatusBarTicker, WriteDraft(StatusBarTicker{u"Welcome"}),
             "txtStatusBarText"};
@@ -104,6 +105,8 @@ void PressKey(WizardForm& wizard, const char* name)
     auto* control = wizard.findChild<QWidget*>(QLatin1String(name));
     if (qobject_cast<QSlider*>(control) != nullptr)
         QTest::keyClick(control, isForth ? Qt::Key_Left : Qt::Key_Right);
+    else if (qobject_cast<QCheckBox*>(control) != nullptr)
+        QTest::keyClick(control, Qt::Key_Space);
     else
         QTest::keyClick(control, isForth ? Qt::Key_1 : Qt::Key_Backspace);
 }
@@ -187,11 +190,17 @@ void MeasureMemory()
             PressKey(*wizard, measured.Control);
             AwaitPicture(desk);
         }
-        QTest::qWait(5000);
-        std::printf("%ld ", Memory());
+        // The engine gives back in its own time what it does not need.
+        long least = Memory();
+        for (int second = 0; second < 15; ++second) {
+            QTest::qWait(1000);
+            least = std::min(least, Memory());
+        }
+        std::printf("%ld ", least);
     };
-    change(20); // what the engine makes once
-    change(500);
+    // What the engine makes once; both counts end where it begins with a new process for the page.
+    change(40);
+    change(480);
     std::printf("\n");
 }
 

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QTest>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -133,6 +134,40 @@ TEST_F(LivePaneBrowserTest, ScrollsToTheEffectOnceAndStaysWhereTheAuthorScrolled
     m_page.Pane.ShowLive(pageOf("second"));
     m_page.WaitUntil("document.querySelector('b').innerText == 'second'");
     EXPECT_EQ(m_page.Value("scrollY").toDouble(), 1234);
+}
+
+TEST_F(LivePaneBrowserTest, FramesThePartUnderTheMouseAndTellsWhereTheAuthorClicks)
+{
+    m_page.AddFile("frame.html", "<script>onclick = () => parent.status = 'frame'</script>");
+    LivePage page = m_page.Live(
+        "<!DOCTYPE html><style>* { margin: 0 } a, iframe { display: block; height: 60px }"
+        "orvane-pointing { display: none !important }</style>"
+        "<body onclick='status = 1' onmousedown='alert(1)'><div style='height: 60px'></div>"
+        "<a href=frame.html data-orvane-part=0><b>x</b></a>"
+        "<iframe src=frame.html data-orvane-part=1></iframe>"
+        "<p style='margin-top: 20px; height: 60px' data-orvane-part=12></p>");
+    page.TakesPointing = true;
+    m_page.Pane.ShowLive(page);
+    ASSERT_TRUE(WaitFor([&] { return m_page.LiveShown == 1; }));
+    std::vector<PointedPlace> places;
+    m_page.Pane.Pointed = [&](const PointedPlace& place) { places.push_back(place); };
+    const auto grabbed = [&] { return m_page.Surface().grab().toImage(); };
+    // Where the mouse is, where that is to be seen, and the place.
+    const std::vector<std::tuple<int, int, PointedPlace>> rows = {
+        {20, 61, {std::nullopt, false}}, {70, 70, {0, false}},  {110, 110, {0, true}},
+        {170, 170, {1, true}},           {185, 170, {1, true}}, {210, 210, {12, false}},
+        {400, 258, {std::nullopt, true}}};
+    for (const auto& [y, seen, place] : rows) {
+        QTest::mouseMove(&m_page.Surface(), {200, y});
+        EXPECT_TRUE(WaitFor([&] { return grabbed().pixelColor(200, seen) != Qt::white; })) << y;
+        QTest::mouseClick(&m_page.Surface(), Qt::LeftButton, {}, {200, y});
+        EXPECT_TRUE(WaitFor([&] { return places.size() == 1; })) << y;
+        EXPECT_EQ(std::exchange(places, {}), std::vector{place}) << y;
+    }
+    m_page.Value("document.querySelector('orvane-pointing').click()");
+    EXPECT_EQ(m_page.Status(), u"");
+    EXPECT_EQ(QuietLine(), u"");
+    EXPECT_TRUE(places.empty()) << "the page cannot point itself";
 }
 
 TEST_F(LivePaneBrowserTest, AProcessThatDiesOrHangsIsTold)

@@ -85,6 +85,7 @@ private:
         else
             QTest::keyClick(&m_page->Surface(), asked["key"] == "Tab"   ? Qt::Key_Tab
                                                 : asked["key"] == "Esc" ? Qt::Key_Escape
+                                                : asked["key"] == "Hom" ? Qt::Key_Home
                                                                         : Qt::Key_Return);
         return {};
     }

@@ -41,7 +41,7 @@ TEST(DeliveryFlowTest, VisitsTheseAndOnlyThesePagesThereAndBack)
         .HasEvents = true, .HasAttribute = true, .IsEditorKnown = true};
     const std::tuple<InsertMode, DeliveryFacts, std::vector<int>> paths[] = {
         {InsertMode::NewPage, everything, {1, 3, 4, 9}},
-        {InsertMode::AutoInsert, Without(&DeliveryFacts::IsEditorKnown), {1, 2, 3, 4, 9}},
+        {InsertMode::AutoInsert, Without(&DeliveryFacts::IsEditorKnown), {1, 3, 4, 9}},
         {manual, everything, {1, 3, 5, 6, 7, 8, 9}},
         {manual, Without(&DeliveryFacts::HasHead), {1, 3, 6, 7, 8, 9}},
         {manual, Without(&DeliveryFacts::HasBody), {1, 3, 5, 7, 8, 9}},
@@ -56,16 +56,16 @@ TEST(DeliveryFlowTest, VisitsTheseAndOnlyThesePagesThereAndBack)
     }
 }
 
-TEST(DeliveryFlowTest, EditorChosenThenBackKeepsTheFirstHeadingAndTheCountedStep)
+TEST(DeliveryFlowTest, AsksForTheEditorBehindTheMethodAndOnlyForCopyingByHand)
 {
+    constexpr auto manual = InsertMode::ManualCopy;
     DeliveryFacts facts = Without(&DeliveryFacts::IsEditorKnown);
-    DeliveryStep step = NextStep({}, InsertMode::AutoInsert, facts);
-    step = NextStep(step, InsertMode::AutoInsert, facts);
+    EXPECT_EQ(PagesForward(manual, facts), (std::vector{1, 3, 2, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(PreviousStep({2, 3}, manual, facts), (DeliveryStep{3, 2}));
     facts.IsEditorKnown = true;
-    step = PreviousStep(step, InsertMode::AutoInsert, facts);
-    EXPECT_EQ(step, (DeliveryStep{1, 2}));
-    EXPECT_EQ(DescribePage(step, InsertMode::AutoInsert).Heading,
-              u"Step 1: Preview your special effect");
+    EXPECT_EQ(NextStep({2, 3}, manual, facts), (DeliveryStep{5, 4}));
+    EXPECT_EQ(PreviousStep({5, 4}, manual, facts), (DeliveryStep{3, 3}));
+    EXPECT_EQ(DescribePage({1, 2}, manual).Heading, u"Step 1: Preview your special effect");
 }
 
 TEST(DeliveryFlowTest, PageForAnExistingAndForANewPageDiffer)

@@ -62,19 +62,19 @@ TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
     KnowEditor(u"");
     Open();
     Click(*m_form, "cmdNext");
-    EXPECT_EQ(Heading(), u"Step 2: Select your Web page Editor");
+    GoBy(1);
+    EXPECT_EQ(Heading(), u"Step 3: Select your Web page Editor");
     PressWhereItStands(Qt::Key_Return);
-    EXPECT_EQ(Heading(), u"Step 3: Select Method for Inserting your Special Effect");
+    EXPECT_EQ(Heading(), u"Step 4: Insert HEAD HTML code into your Web page");
     EXPECT_EQ(KnownEditor(), u"") << "a row that has the focus alone was not chosen";
     Click(*m_form, "cmdPrevious");
+    GoBy(1);
     PressWhereItStands(Qt::Key_Space);
     PressWhereItStands(Qt::Key_Return);
-    EXPECT_EQ(Heading(), u"Step 3: Select Method for Inserting your Special Effect");
+    EXPECT_EQ(Heading(), u"Step 5: Insert HEAD HTML code into your Web page");
     EXPECT_EQ(KnownEditor(), u"AOLPress");
-    Click(*m_form, "cmdPrevious");
-    EXPECT_EQ(Heading(), u"Step 1: Preview your special effect");
     KnowEditor(u"Other");
-    Click(*m_form, "cmdNext");
+    Click(*m_form, "cmdPrevious");
     EXPECT_EQ(KnownEditor(), u"Other") << "the selected row does not replace it";
 }
 

@@ -74,6 +74,12 @@ TEST_F(RequiredFilesTest, ANameWithoutKnownSourceIsMissingAndNeverAskedFor)
     EXPECT_EQ(disk.Contents[u"/site/Y.class"], "Y");
     EXPECT_EQ(dialogs.Said, Texts{Text(notAllCopied)});
     EXPECT_EQ(dialogs.LastTone, Tone::Exclamation);
+    dialogs.TakeSaid();
+    CopyJob elsewhere = Job();
+    elsewhere.HasFileList = false;
+    EXPECT_EQ(ValueIn(CopyRequiredFiles(elsewhere, u"/other/")), MissingFiles{u"a.gif"});
+    EXPECT_TRUE(dialogs.Said.at(0).ends_with(
+        u"\r\nPlease copy these files to the /other/ folder yourself: a.gif"));
 }
 
 TEST_F(RequiredFilesTest, AsksBeforeEachPictureThatItWouldOverwriteButNotForClassFiles)

@@ -380,5 +380,43 @@ TEST_F(DiskFileStoreTest, RemovesOnlyTemporaryFilesThatNobodyWrites)
                                     ".orvane-page.tmp", "page"}));
 }
 
+/// A disk on which nothing can be renamed or removed while it is stuck.
+class StuckCalls : public PosixCalls
+{
+public:
+    Error Rename(const std::string& from, const std::string& to, unsigned flags) override
+    {
+        return IsStuck ? std::make_error_code(std::errc::io_error)
+                       : PosixCalls::Rename(from, to, flags);
+    }
+    Error Remove(const std::string& path) override
+    {
+        return IsStuck ? std::make_error_code(std::errc::io_error) : PosixCalls::Remove(path);
+    }
+    Error List(const std::string& path, std::vector<FolderEntry>& entries) override
+    {
+        ++Lists;
+        return PosixCalls::List(path, entries);
+    }
+    bool IsStuck = false;
+    int Lists = 0;
+};
+
+TEST_F(DiskFileStoreTest, LooksThroughAFolderOnceUnlessItLeftATemporaryFileItself)
+{
+    StuckCalls calls;
+    DiskFileStore store(calls, u"");
+    const Text page = Folder.TextAt("page");
+    EXPECT_EQ(store.Replace(page, "one"), Done());
+    EXPECT_EQ(store.Replace(page, "two"), Done());
+    EXPECT_EQ(calls.Lists, 1);
+    calls.IsStuck = true;
+    EXPECT_NE(store.Replace(page, "three"), Done());
+    EXPECT_EQ(Folder.Names("").size(), 2u);
+    calls.IsStuck = false;
+    EXPECT_EQ(store.Replace(page, "three"), Done());
+    EXPECT_EQ(Folder.Names(""), std::vector<std::string>{"page"});
+}
+
 } // namespace
 } // namespace orvane::testing

@@ -233,7 +233,7 @@ TYPED_TEST(EveryEffectTest, HasItsPagesAndShrinksWithItsButtonsInSight)
     EXPECT_TRUE(this->m_form.rect().contains(cancel->geometry()));
 }
 
-TYPED_TEST(EveryEffectTest, CancelledWorkIsOfferedAndTakenUpByTheNextWindow)
+TYPED_TEST(EveryEffectTest, CancelledAndDeliveredWorkIsOfferedByTheNextWindow)
 {
     this->m_form.show();
     this->m_form.SetParameters(this->Changed());
@@ -244,11 +244,16 @@ TYPED_TEST(EveryEffectTest, CancelledWorkIsOfferedAndTakenUpByTheNextWindow)
     EXPECT_EQ(WriteDraft(next.Parameters()), WriteDraft(typename TestFixture::Effect()));
     Press(*Find<QWidget>(next, "lblTakeUp"), Qt::Key_Return);
     EXPECT_EQ(ToUtf8(WriteDraft(next.Parameters())), ToUtf8(before));
-    next.DropDraft();
+    next.WasDelivered();
     TypeParam last(this->m_desk.Bench);
+    last.show();
     EXPECT_TRUE(Find<QWidget>(last, "lblTakeUp")->isHidden());
-    last.Open(Recipe{before});
+    Press(*Find<QWidget>(last, "lblAsLastTime"), Qt::Key_Return);
     EXPECT_EQ(ToUtf8(WriteDraft(last.Parameters())), ToUtf8(before));
+    TypeParam opened(this->m_desk.Bench);
+    opened.Open(Recipe{before});
+    EXPECT_EQ(ToUtf8(WriteDraft(opened.Parameters())), ToUtf8(before));
+    EXPECT_TRUE(Find<QWidget>(opened, "lblAsLastTime")->isHidden());
 }
 
 } // namespace

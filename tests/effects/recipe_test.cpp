@@ -43,6 +43,29 @@ TEST(RecipeTest, GivesBackEveryEffectAsItWasWrittenAndNamesItsFilesFromItsFolder
     }
 }
 
+TEST(RecipeTest, ShowsByACommentHowARowOfAnEmptyListIsWritten)
+{
+    int lists = 0;
+    for (const CatalogueRow& row : Catalogue()) {
+        const auto fresh = AnyEffect::Fresh(row.Kind);
+        const Text recipe = fresh ? WriteRecipe(*fresh, folder) : Text();
+        const Text withRows = ReplaceAll(
+            ReplaceAll(ReplaceAll(recipe, u"\n# ", u"\n! "), u"\n#", u"\n"), u"\n! ", u"\n# ");
+        SCOPED_TRACE(ToUtf8(withRows));
+        if (!fresh || withRows == recipe)
+            continue;
+        const auto read = ReadRecipe(withRows, folder);
+        ASSERT_TRUE(std::holds_alternative<AnyEffect>(read))
+            << ToUtf8(std::get<1>(read).front().Words);
+        for (const FieldFacts& field : std::get<AnyEffect>(read).Fields())
+            if (field.Holds == FieldHolds::Rows && !field.Name.IsSecret) {
+                EXPECT_EQ(field.Value.size(), field.InRow.size()) << field.Name.Name;
+                ++lists;
+            }
+    }
+    EXPECT_GE(lists, 15);
+}
+
 TEST(RecipeTest, IsReadAsAPersonWritesIt)
 {
     const auto read = ReadRecipe(u"\uFEFF# Ann: 2\r\n\r\nEffect: popup-window\r\n"

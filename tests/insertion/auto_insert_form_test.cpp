@@ -1,4 +1,5 @@
 #include "effects/text/status_bar_ticker.h"
+#include "services/recent_files.h"
 #include "tests/support/qt_delivery.h"
 
 namespace orvane::testing {
@@ -67,6 +68,31 @@ TEST_F(AutoInsertFormTest, WhatCannotBeDoneAloneLeadsToTheCodeForTheHead)
     Click(*m_form, "cmdPrevious");
     EXPECT_EQ(Heading(), u"Step 3: Select Method for Inserting your Special Effect");
     EXPECT_TRUE(Find<QRadioButton>(*m_form, "optInsertMode(1)")->isChecked());
+}
+
+TEST_F(AutoInsertFormTest, TheLastPageIsOfferedAndTakesTheEffectInOneStep)
+{
+    PutRecentFile(m_desk.Settings, recentPages, u"/site/index.html");
+    KnowEditor(u"");
+    Open();
+    EXPECT_EQ(WordsOf(*m_form, "cmdPutInto"), u"P&ut it into index.html");
+    Click(*m_form, "cmdNext");
+    GoBy(0);
+    EXPECT_EQ(Find<QLineEdit>(*m_form, "txtFileName")->text(), "/site/index.html");
+    Click(*m_form, "cmdPrevious");
+    Click(*m_form, "cmdPrevious");
+    Click(*m_form, "cmdPutInto");
+    EXPECT_EQ(Heading(), u"Finished!");
+    EXPECT_NE(Bytes(u"/site/index.html").find("onload=\"scrollit_r2l(99)\""), std::string::npos);
+    Click(*m_form, "cmdPrevious");
+    EXPECT_EQ(Heading(), u"Step 3: Auto-Insert the special effect in your Web page");
+    m_desk.Dialogs.TakeSaid();
+
+    m_desk.Files.Contents[u"/site/index.html"] = "<body>no head</body>";
+    Open();
+    Click(*m_form, "cmdPutInto");
+    EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
+    EXPECT_EQ(Heading(), u"Step 4: Insert HEAD HTML code into your Web page");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "services/chosen_effects.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
+#include "windows/link_label.h"
 #include "windows/qt_text.h"
 
 #include <QAction>
@@ -90,6 +91,28 @@ TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndWelcomesElsewhere)
     EXPECT_EQ(WordsOf(m_form, "Label3"), u"");
     EXPECT_EQ(WordsOf(m_form, "Label2"), u"");
     EXPECT_NE(WordsOf(m_form, "lblWelcome"), u"");
+}
+
+TEST_F(OVMainFormTest, LeadsInByLinksBesideTheWelcome)
+{
+    int pages = 0;
+    QObject::connect(&m_form, &OVMainForm::PageEffectsWanted, [&] { ++pages; });
+    auto* toPage = Find<LinkLabel>(m_form, "lblChangeOnPage");
+    QTest::mouseClick(toPage, Qt::LeftButton, {}, toPage->rect().center());
+    Press(*toPage, Qt::Key_Return);
+    EXPECT_EQ(pages, 2);
+    bool sawAll = false;
+    QObject::connect(&m_form, &OVMainForm::AllEffectsWanted, [&] { sawAll = true; });
+    Press(*Find<LinkLabel>(m_form, "lblSeeThemAll"), Qt::Key_Return);
+    EXPECT_TRUE(sawAll);
+    auto* toEffects = Find<LinkLabel>(m_form, "lblMakeEffect");
+    for (const int tab : {1, 3}) {
+        Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
+        Press(*toEffects, Qt::Key_Return);
+        EXPECT_EQ(WordsOf(m_form, "Label3").empty(), tab == 3) << "no favorites yet";
+    }
+    EXPECT_EQ(m_form.focusWidget()->objectName(), QStringLiteral("txtSearch"));
+    EXPECT_TRUE(toEffects->isVisible()) << "beside a description, too";
 }
 
 TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)

@@ -1,5 +1,6 @@
 #include "program/startup.h"
 
+#include "program/qt_resources.h"
 #include "tests/support/doubles.h"
 
 #include <gtest/gtest.h>
@@ -37,6 +38,25 @@ TEST(StartUpTest, FailedGateOffersTheDownloadOrGoesOnWithAWarning)
     EXPECT_EQ(desk.Dialogs.Said,
               Texts{u"You can attempt to use Orvane without having Internet Explorer 4 or above "
                     u"installed on your computer, but it may not work correctly."});
+}
+
+TEST(InstallResourcesTest, OpensOneFileWhereAllAreAsTheSameBuildLeftThem)
+{
+    FakeDesk desk;
+    const auto install = [&](TextView build) {
+        desk.Files.Reads.clear();
+        InstallResources(desk.Files, desk.Dialogs, u"/program", build);
+        return desk.Files.Reads.size();
+    };
+    const std::size_t all = install(u"one");
+    const auto installed = desk.Files.Contents;
+    EXPECT_GT(all, 10u);
+    EXPECT_EQ(install(u"one"), 1u);
+    desk.Files.Contents.erase(u"/program/orvane.hlp");
+    desk.Files.Contents[u"/program/invisi.gif"] = "torn";
+    install(u"one");
+    EXPECT_EQ(desk.Files.Contents, installed);
+    EXPECT_EQ(install(u"two"), all);
 }
 
 } // namespace

@@ -1,25 +1,16 @@
 #include "reedit/effects_on_page_form.h"
 
 #include "core/effect_markers.h"
-#include "delivery/preview_form.h"
-#include "effects/text/status_bar_ticker_form.h"
-#include "program/choose_effect_form.h"
-#include "program/form_desk.h"
-#include "program/ov_main_form.h"
-#include "reedit/put_in_form.h"
+#include "services/recent_files.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
-#include "tests/support/qt_mouse.h"
 #include "windows/qt_text.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QFile>
-#include <QRadioButton>
-#include <QTemporaryDir>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
-#include <QToolButton>
 
 namespace orvane::testing {
 namespace {
@@ -102,6 +93,29 @@ TEST_F(EffectsOnPageFormTest, ListsEachEffectAndScrollsThePageToTheChosenOne)
     EXPECT_TRUE(m_desk.Dialogs.Asked.empty());
 }
 
+TEST_F(EffectsOnPageFormTest, OpensARecentPageAndTouchesNoneOfItsNestedEffects)
+{
+    Open("");
+    const Text nested = u"/site/nested.html";
+    const std::string bytes = head + Block(u"Slideshow", button) + tail;
+    m_desk.Files.Contents[nested] = bytes;
+    PutRecentFile(m_desk.Settings, recentPages, nested);
+    QMenu* menu = Find<QPushButton>(m_form, "cmdRecentPages")->menu();
+    emit menu->aboutToShow();
+    menu->actions().at(0)->trigger();
+    EXPECT_EQ(WordsOf(m_form, "txtPage"), nested);
+    const TextView state = u"\u00B7 tangled with another effect \u00B7 b.gif";
+    ASSERT_EQ(m_list->count(), 2);
+    for (const Text& row : RowsOf(m_form, "lstPageEffects"))
+        EXPECT_TRUE(row.ends_with(state)) << ToUtf8(row);
+    EXPECT_TRUE(Choose(Qt::Key_Down).find(u"stand inside each other") != Text::npos);
+    EXPECT_FALSE(IsEnabled("cmdChange"));
+    Press(*m_list, Qt::Key_Return);
+    Press(*m_list, Qt::Key_Delete);
+    EXPECT_TRUE(m_form.isVisible());
+    EXPECT_EQ(m_desk.Files.Contents[nested], bytes);
+}
+
 TEST_F(EffectsOnPageFormTest, TakesOutAfterOneQuestionAndBringsBackStepByStep)
 {
     Open(page);
@@ -182,267 +196,6 @@ TEST_F(EffectsOnPageFormTest, PutsThePageScriptInAndTakesItOut)
     EXPECT_EQ(Bytes(), ticker);
     EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u) << "there is no HEAD tag";
     EXPECT_FALSE(script->isChecked());
-}
-
-TEST(PageEffectsRoadOpeningTest, OpensByTheMenuByCtrlEAndByAPageThatIsDropped)
-{
-    FakeDesk desk;
-    FormDesk road(desk.Bench, nullptr);
-    road.Start();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(road.MainForm()));
-    QTemporaryDir folder;
-    const Text dropped = FromQt(folder.filePath(QStringLiteral("a.html")));
-    QFile file(ToQt(dropped));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    desk.Files.Contents[dropped] = page;
-    Texts pages;
-    const auto note = [&](EffectsOnPageForm& form) {
-        pages.push_back(WordsOf(form, "txtPage"));
-        EXPECT_EQ(Find<ActingList>(form, "lstPageEffects")->count(), pages.size() == 3 ? 3 : 0);
-        form.reject();
-    };
-    WhenInFront<EffectsOnPageForm>(note);
-    road.MainForm()->findChild<QAction*>(QStringLiteral("mnuPageEffects"))->trigger();
-    road.MainForm()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(road.MainForm()));
-    WhenInFront<EffectsOnPageForm>(note);
-    QTest::keyClick(road.MainForm(), Qt::Key_E, Qt::ControlModifier);
-    WhenInFront<EffectsOnPageForm>(note);
-    EXPECT_TRUE(DropFiles(*road.MainForm(), {dropped}));
-    QTRY_COMPARE(pages.size(), 3u);
-    EXPECT_EQ(pages, (Texts{u"", u"", dropped}));
-}
-
-class PageEffectsRoadTest : public ::testing::Test
-{
-protected:
-    PageEffectsRoadTest()
-    {
-        m_desk.Settings.Put(u"Misc", u"HTMLEditor", u"Other", u"Orvane");
-        m_desk.Files.Folders = {u"/state", u"/site"};
-        m_desk.Files.Contents[path] = bare;
-        m_desk.Files.Contents[u"/program/orvane.js"] = "script";
-        m_road.Start();
-    }
-    /// Puts a ticker with these words into the page as an author does.
-    void Deliver(TextView words)
-    {
-        WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& wizard) {
-            Type(wizard, "txtStatusBarText", words);
-            WhenInFront<PreviewForm>([&](PreviewForm& preview) {
-                m_desk.Dialogs.AnswerOpenFile(path);
-                Click(preview, "cmdNext");
-                Click(preview, "cmdNext");
-                Click(preview, "cmdBrowse");
-                Click(preview, "cmdAutoInsert");
-                WhenInFront<EffectsOnPageForm>([](EffectsOnPageForm& list) {
-                    EXPECT_EQ(WordsOf(list, "txtPage"), path);
-                    list.reject();
-                });
-                Click(preview, "cmdPageEffects");
-            });
-            Click(wizard, "cmdDone");
-        });
-        m_road.OpenEffect(EffectKind::StatusBarTicker);
-        m_desk.Dialogs.Said.clear();
-    }
-    /// Opens the first effect's wizard from the list, and leaves the list at the end.
-    void Change(const std::function<void(StatusBarTickerForm& wizard)>& action)
-    {
-        WhenInFront<EffectsOnPageForm>([&](EffectsOnPageForm& list) {
-            WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& wizard) {
-                action(wizard);
-                WhenInFront<EffectsOnPageForm>([](EffectsOnPageForm& again) { again.reject(); });
-            });
-            Press(*Find<ActingList>(list, "lstPageEffects"), Qt::Key_Return);
-        });
-        m_road.ShowPageEffects(path);
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    }
-    static void Enter(StatusBarTickerForm& wizard, TextView words)
-    {
-        Press(*Find<QWidget>(wizard, "txtStatusBarText"), Qt::Key_A, Qt::ControlModifier);
-        Type(wizard, "txtStatusBarText", words);
-    }
-    std::string& Bytes() { return m_desk.Files.Contents[path]; }
-
-    const std::string bare = "<html><head></head>\n<body onload='mine()'>\n<p>x</p></body></html>";
-    FakeDesk m_desk;
-    FormDesk m_road{m_desk.Bench, nullptr};
-};
-
-TEST_F(PageEffectsRoadTest, ChangesAnEffectWithTheFieldsThatItWasDeliveredWith)
-{
-    Deliver(u"first words");
-    const std::string before = Bytes();
-    Change([&](StatusBarTickerForm& wizard) {
-        EXPECT_EQ(wizard.Parameters().txtStatusBarText, u"first words");
-        Enter(wizard, u"other words");
-        WhenInFront<PutInForm>([&](PutInForm& first) {
-            ExpectAccessible(first);
-            WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& again) {
-                Enter(again, u"last words");
-                WhenInFront<PutInForm>([&](PutInForm& form) {
-                    EXPECT_NE(m_desk.Pane.Live.back().Bytes.find("last words"), std::string::npos);
-                    EXPECT_EQ(Bytes(), before);
-                    Press(*form.focusWidget(), Qt::Key_Return);
-                });
-                Click(again, "cmdDone");
-            });
-            Click(first, "cmdPrevious");
-        });
-        Click(wizard, "cmdDone");
-    });
-    EXPECT_EQ(Bytes(), ReplaceAll(before, "first words", "last words"));
-    EXPECT_EQ(m_desk.Files.Contents[u"/site/Backup of a.html"], before);
-    EXPECT_EQ(m_desk.Dialogs.Said, Texts());
-    Change([](StatusBarTickerForm& wizard) {
-        EXPECT_EQ(wizard.Parameters().txtStatusBarText, u"last words");
-        wizard.reject();
-    });
-}
-
-TEST_F(PageEffectsRoadTest, AsksBeforeWhatItDoesNotKnowGetsLost)
-{
-    Deliver(u"words");
-    const std::string mine = ReplaceAll(Bytes(), "</SCRIPT>", "  var mine = 1;\r\n</SCRIPT>");
-    Bytes() = mine;
-    for (const bool answer : {false, true}) {
-        Change([&](StatusBarTickerForm& wizard) {
-            EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-            EXPECT_EQ(wizard.Parameters().txtStatusBarText, u"");
-            Enter(wizard, u"words");
-            WhenInFront<PutInForm>([&](PutInForm& form) {
-                m_desk.Dialogs.ExpectAsk(
-                    u"Orvane does not know how this code in your Web page was made.  It gets lost "
-                    u"when the special effect is put back:\r\n\r\nvar mine = 1;\r\n\r\n"
-                    u"Do you want to replace it?",
-                    answer);
-                Click(form, "cmdPutBack");
-                if (!answer)
-                    form.reject();
-            });
-            Click(wizard, "cmdDone");
-        });
-        EXPECT_EQ(Bytes(), answer ? ReplaceAll(mine, "  var mine = 1;\r\n", "") : mine);
-    }
-}
-
-TEST_F(PageEffectsRoadTest, FindsTheEffectWhereAnotherProgramMovedIt)
-{
-    Deliver(u"words");
-    const std::string moved = ReplaceAll(Bytes(), "<html>", "<html lang=en>");
-    Change([&](StatusBarTickerForm& wizard) {
-        Enter(wizard, u"others");
-        WhenInFront<PutInForm>([&](PutInForm& form) {
-            Bytes() = moved;
-            Click(form, "cmdPutBack");
-            EXPECT_EQ(Bytes(), moved);
-            EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-            Click(form, "cmdPutBack");
-        });
-        Click(wizard, "cmdDone");
-    });
-    EXPECT_EQ(Bytes(), ReplaceAll(moved, "words", "others"));
-}
-
-TEST_F(PageEffectsRoadTest, AddsAnEffectOfTheCatalogue)
-{
-    WhenInFront<EffectsOnPageForm>([&](EffectsOnPageForm& list) {
-        WhenInFront<ChooseEffectForm>([&](ChooseEffectForm& choice) {
-            WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& wizard) {
-                Type(wizard, "txtStatusBarText", u"words");
-                WhenInFront<PutInForm>([&](PutInForm& form) {
-                    WhenInFront<EffectsOnPageForm>([&](EffectsOnPageForm& again) {
-                        EXPECT_EQ(RowsOf(again, "lstPageEffects").size(), 1u);
-                        again.reject();
-                    });
-                    Click(form, "cmdPutIn");
-                });
-                Click(wizard, "cmdDone");
-            });
-            Find<QToolButton>(choice, "cmdSpecialFX(9)")->click();
-        });
-        Click(list, "cmdAddEffect");
-    });
-    m_road.ShowPageEffects(path);
-    EXPECT_NE(Bytes().find("words"), std::string::npos);
-    EXPECT_NE(Bytes().find(";mine()"), std::string::npos);
-}
-
-TEST_F(PageEffectsRoadTest, OffersToPointWhereAutoInsertFindsNoPlace)
-{
-    const std::string rows[] = {"<!--" + std::string(40000, 'x') + "-->" + bare, "no tags at all"};
-    for (const std::string& row : rows) {
-        Bytes() = row;
-        WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& wizard) {
-            Type(wizard, "txtStatusBarText", u"words");
-            WhenInFront<PreviewForm>([&](PreviewForm& preview) {
-                m_desk.Dialogs.AnswerOpenFile(path);
-                Click(preview, "cmdNext");
-                Click(preview, "cmdNext");
-                Click(preview, "cmdBrowse");
-                EXPECT_FALSE(Find<LinkLabel>(preview, "lblPutByPointing")->isVisible());
-                Click(preview, "cmdAutoInsert");
-                EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
-                WhenInFront<PutInForm>([&](PutInForm& form) {
-                    if (row != rows[1])
-                        return Click(form, "cmdPutIn");
-                    EXPECT_FALSE(Find<QWidget>(form, "cmdPutIn")->isEnabled());
-                    EXPECT_TRUE(WordsOf(form, "lblPutIn").find(u"BODY tag") != Text::npos);
-                    form.reject();
-                });
-                auto* link = Find<LinkLabel>(preview, "lblPutByPointing");
-                EXPECT_TRUE(link->isVisible());
-                Press(*link, Qt::Key_Return);
-            });
-            Click(wizard, "cmdDone");
-        });
-        m_road.OpenEffect(EffectKind::StatusBarTicker);
-        EXPECT_EQ(Bytes().find("words") != std::string::npos, row != rows[1]);
-    }
-}
-
-TEST(PutInFormTest, PutsAnEffectBeforeOrBehindTheChosenPart)
-{
-    FakeDesk desk;
-    std::string& bytes = desk.Files.Contents[path];
-    bytes = "<html><head></head>\r\n<body onload='mine()'>\r\n<h1>Hel<b>lo</b></h1>\r\n"
-            "<img src=a.gif>\r\n" +
-            slides + "</body></html>";
-    PageEffects host(desk.Files, desk.Dialogs, BackupsPlaceIn(u"/state", u"2024-05-31"));
-    host.GoTo(path);
-    const EffectPayload effect{.Kind = EffectKind::VerticalScroller,
-                               .HEADHTML = u"<SCRIPT>function go(n) {}</SCRIPT>\r\n",
-                               .BODYHTML = u"<b>new</b>\r\n",
-                               .OnLoadFunc = u"go",
-                               .OnLoadArgs = u"(1)"};
-    PutInForm form(desk.Bench, host, {Finish(effect), host.Bytes()}, nullptr);
-    form.show();
-    form.resize(1000, 600);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-    ExpectAccessible(form);
-    EXPECT_EQ(
-        RowsOf(form, "lstPlaces"),
-        (Texts{u"At the top of the page", u"Line 3, heading: Hello", u"Line 4, picture: a.gif",
-               u"Line 5, special effect Slideshow", u"At the end of the page"}));
-    EXPECT_FALSE(Find<QWidget>(form, "optPlace(0)")->isEnabled());
-    auto* list = Find<QListWidget>(form, "lstPlaces");
-    EXPECT_EQ(form.focusWidget(), list);
-    const auto shownAt = [&](const char* text) { return desk.Pane.Live.back().Bytes.find(text); };
-    Press(*list, Qt::Key_Down);
-    EXPECT_LT(shownAt("outline:"), shownAt("<h1>"));
-    Find<QRadioButton>(form, "optPlace(1)")->click();
-    EXPECT_LT(shownAt("</h1>"), shownAt("outline:"));
-    EXPECT_LT(shownAt("outline:"), shownAt("a.gif"));
-    EXPECT_TRUE(desk.Pane.Live.back().ScrollsToMark);
-    list->setFocus();
-    Press(*list, Qt::Key_Return);
-    EXPECT_EQ(form.End(), PutInEnd::Written);
-    EXPECT_EQ(bytes.find("outline:"), std::string::npos);
-    EXPECT_LT(bytes.find("</h1>"), bytes.find("<b>new"));
-    EXPECT_LT(bytes.find("<b>new"), bytes.find("<img src=a.gif>\r\n<!--"));
-    EXPECT_NE(bytes.find("onload='go(1);mine()'"), std::string::npos);
 }
 
 } // namespace

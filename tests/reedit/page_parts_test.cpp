@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
+
 namespace orvane::testing {
 namespace {
 
@@ -40,6 +42,9 @@ TEST(PagePartsTest, AreWhereAnEffectCanStand)
         std::string page = marked;
         std::erase_if(page, [](char sign) { return sign == '(' || sign == ')'; });
         EXPECT_EQ(Marked(page), marked);
+        const std::string numbered = Marked(WithPartNumbers(page, PartsOf(page)));
+        EXPECT_EQ(std::regex_replace(numbered, std::regex(" data-orvane-part=\"\\d+\""), ""),
+                  marked);
     }
 }
 

@@ -81,7 +81,6 @@ TEST(PlacingTest, JoinsItsCallsWithWhatTheBodyTagDoesAlready)
 
 TEST(PlacingTest, TellsWhyThereIsNoPlace)
 {
-    const std::string here = ToBytes(sound.Effect.BODYHTML);
     EXPECT_EQ(PlacedAt("<body><p @>", sound), ToUtf8(Words(NoPlace::InsideMarkup)));
     EXPECT_EQ(PlacedAt("<body><script>@</script>", sound), ToUtf8(Words(NoPlace::InsideMarkup)));
     EXPECT_EQ(PlacedAt("<body>" + Code(sound.Effect.BODYHTML, "\n").insert(90, "@"), sound),
@@ -120,6 +119,12 @@ TEST(PlacingTest, ReplacesAnEffectExactlyWhereItStands)
     expected = ReplaceAll(expected, "<body onload=\"go('a');my()\"",
                           "<body onUnload=\"to(&#34;b&#34;)\" onload=\"my()\"");
     ExpectSameBytes(expected, Placed(WithReplaced(page, EffectsIn(page).at(0), other)));
+    const auto inOwnLineEnds = [](const std::string& code) {
+        return "\r" + ReplaceAll(code, "\r\n", "\n") + "\r\n";
+    };
+    const std::string mixed = inOwnLineEnds(page);
+    ExpectSameBytes(inOwnLineEnds(expected),
+                    Placed(WithReplaced(mixed, EffectsIn(mixed).at(0), other)));
     const std::string back = Placed(WithReplaced(expected, EffectsIn(expected).at(0), sound));
     EXPECT_EQ(back, "<head></head><body onload=\"my()\">a" +
                         ReplaceAll(ToUtf8(sound.Effect.BODYHTML), "\xC3\xA9", "\xE9") +

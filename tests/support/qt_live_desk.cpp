@@ -24,7 +24,7 @@ LiveDesk::LiveDesk()
             .Clock = m_fake.Bench.Clock}
 {
     m_fake.Core.ProgramFolder = FromQt(m_home.path());
-    InstallResources(m_files, Page.Dialogs, Folder());
+    InstallResources(m_files, Page.Dialogs, Folder(), u"tests");
     for (const char* picture : {"a.gif", "b.gif"})
         WriteFile(m_home.filePath(picture).toStdString(), GifBytes(200, 200));
     Page.Pane.hide();

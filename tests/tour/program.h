@@ -32,7 +32,7 @@ struct Program
 {
     Program()
     {
-        InstallResources(OnDisk.Files, Dialogs, Whole.Core.ProgramFolder);
+        InstallResources(OnDisk.Files, Dialogs, Whole.Core.ProgramFolder, u"tour");
         Whole.Bench.Settings.Put(settingKeys::defaultPath, FromQt(samplesFolder));
         Whole.Desk.Start();
         Guide.emplace(*Whole.Desk.MainForm(), Dialogs);

@@ -1,6 +1,6 @@
 /** Background Color Fading: the page's ground passes from one colour to another. */
-import { drive } from "../flight.js";
 import { onLeaving } from "../leaving.js";
+import { paced } from "../pace.js";
 import { fields, on, place, start } from "../start.js";
 
 start("background-1", (root) => {
@@ -15,8 +15,8 @@ start("background-1", (root) => {
     const { firstColor, lastColor, andBack, textColor, when } = field;
     const { body } = document;
     const reduced = matchMedia("(prefers-reduced-motion:reduce)");
-    /** @type {Animation[]} */
-    let fade = [];
+    /** @type {(moves: boolean) => void} */
+    let run = () => {};
     place(root, "");
     const shows = (/** @type {string} */ color) => {
         body.style.backgroundColor = color;
@@ -26,12 +26,15 @@ start("background-1", (root) => {
         const end = andBack ? firstColor : lastColor;
         if (when !== "leaving" && !reduced.matches) {
             const colors = andBack ? [firstColor, lastColor, firstColor] : [firstColor, lastColor];
-            fade = [body.animate({ backgroundColor: colors }, field.seconds * 1000)];
+            const duration = field.seconds * 1000;
+            const fade = body.animate({ backgroundColor: colors }, duration);
+            run = paced([fade], Math.min(100, duration / 25));
+            run(!document.hidden);
         }
         shows(when === "leaving" ? firstColor : end);
     };
     arrive();
-    on(document, "visibilitychange", () => drive(fade, !document.hidden));
+    on(document, "visibilitychange", () => run(!document.hidden));
     // Back from a page that was left.
     on(window, "pageshow", ({ persisted }) => persisted && arrive());
     if (when === "arrival" || reduced.matches) return;

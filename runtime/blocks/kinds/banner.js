@@ -6,7 +6,7 @@ import { turns, turnsCss } from "../turns.js";
 import { framesCss, sized } from "../pictures.js";
 
 const css =
-    ".arrow{top:50%;bottom:auto;margin-top:-12px}.back{right:auto;left:4px;transform:scaleX(-1)}" +
+    ".arrow{bottom:calc(50% - 12px)}.Previous{right:auto;left:4px;transform:scaleX(-1)}" +
     ".arrow::before{clip-path:polygon(0 0,100% 50%,0 100%,0 70%,50% 50%,0 30%)}";
 
 start("banner-1", (root) => {
@@ -23,7 +23,7 @@ start("banner-1", (root) => {
         target: "",
     });
     const items = rows(root, field.target);
-    if (field.randomFirst) items.push(...items.splice(0, Math.floor(Math.random() * items.length)));
+    if (field.randomFirst) items.push(...items.splice(0, Math.random() * items.length));
     const stage = make("ul", "stage", ...items);
     const box = make("div", "box");
     for (const item of items) sized(item, field);
@@ -33,9 +33,9 @@ start("banner-1", (root) => {
     );
     const { button, play, rest } = motion(root, "the banners", run);
     if (field.pauseOnHover) restUnder(stage, rest);
-    /** @param {string} name @param {string} look @param {number} step */
-    const arrow = (name, look, step) => {
-        const made = make("button", "arrow" + look);
+    /** @param {string} name @param {number} step */
+    const arrow = (name, step) => {
+        const made = make("button", "arrow " + name);
         made.title = name;
         on(made, "click", () => {
             play(false);
@@ -44,8 +44,9 @@ start("banner-1", (root) => {
         return made;
     };
     // Readers meet the buttons before what they change.
-    if (items[1]) box.append(button);
-    if (items[1] && field.arrows)
-        box.append(arrow("Previous", " back", -1), arrow("Next", "", 1));
+    if (items[1]) {
+        box.append(button);
+        if (field.arrows) box.append(arrow("Previous", -1), arrow("Next", 1));
+    }
     box.append(stage);
 });

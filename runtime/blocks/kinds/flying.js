@@ -6,7 +6,7 @@ import { fields, look, start, words } from "../start.js";
 
 /** How many letters may fly as letters; of a longer text the words fly. */
 const most = 80;
-const steps = 16;
+const steps = 24;
 
 /** How far a path turns on its way, in radians. @type {Record<string, number>} */
 const turn = { straight: 0, arc: 1.5, spiral: 9 };
@@ -14,31 +14,38 @@ const turn = { straight: 0, arc: 1.5, spiral: 9 };
 /**
  * The way of a letter to its place, which never leaves the window: so no scroll bars appear.
  * @param {HTMLElement} letter
- * @param {string} from
- * @param {string} path
+ * @param {number} late how long after the first it starts, in milliseconds
+ * @param {number} duration of all flights together
+ * @param {{from: string, path: string, flightSeconds: number}} asked
  */
-function way(letter, from, path) {
+function way(letter, late, duration, { from, path, flightSeconds }) {
     const { left, top, width, height } = letter.getBoundingClientRect();
     // A letter that turns needs a circle.
     const radius = Math.hypot(width, height) / 2;
-    const [x0, y0] = [left + width / 2, top + height / 2];
-    const [x1, y1] = [document.documentElement.clientWidth - x0, innerHeight - y0];
-    const room = [radius - x0, x1 - radius, radius - y0, y1 - radius];
+    const x0 = left + width / 2;
+    const y0 = top + height / 2;
+    const { clientWidth } = document.documentElement;
+    const room = [radius - x0, clientWidth - x0 - radius, radius - y0, innerHeight - y0 - radius];
     let side = ["left", "right", "above", "below"].indexOf(from);
-    if (side < 0) side = Math.floor(Math.random() * 4);
-    const [x, y] = side < 2 ? [room[side], 0] : [0, room[side]];
+    if (side < 0) side = (Math.random() * 4) | 0;
+    const x = side < 2 ? room[side] : 0;
+    const y = side < 2 ? 0 : room[side];
     const within = (/** @type {number} */ n, /** @type {number} */ at) =>
         // Its place may be nearer to the edge.
         (n && Math.max(room[at], Math.min(room[at + 1], n))) + "px";
-    return Array.from({ length: steps + 1 }, (_, i) => {
-        const rest = 1 - i / steps;
+    return Array.from({ length: steps + 2 }, (_, n) => {
+        // The first stands for the time before its start.
+        const i = n && n - 1;
+        const rest = (1 - i / steps) ** 3;
         const angle = rest * turn[path];
-        const [cos, sin] = [rest * Math.cos(angle), rest * Math.sin(angle)];
+        const cos = rest * Math.cos(angle);
+        const sin = rest * Math.sin(angle);
         return {
             transform:
                 `translate(${within(x * cos - y * sin, 0)},${within(x * sin + y * cos, 2)})` +
                 `rotate(${angle}rad)`,
             opacity: Math.min(1, i / 4),
+            offset: n && Math.min(1, (late + (flightSeconds * 1000 * i) / steps) / duration),
         };
     });
 }
@@ -53,6 +60,9 @@ start("flying-1", (root) => {
         ...look,
     });
     const { text, box } = words(root, lettersCss + buttonCss, field);
+    const { letterPause, againAfter } = field;
+    const last = letters(root, most).parts.length - 1;
+    const duration = field.flightSeconds * 1000 + last * letterPause;
     /** @type {Animation[]} */
     let flights = [];
     /** @type {ReturnType<typeof letters> | null} */
@@ -71,18 +81,12 @@ start("flying-1", (root) => {
         landed = false;
         const { copy, parts } = flock ?? gather();
         copy.style.opacity = "";
-        const ways = parts.map((letter) => way(letter, field.from, field.path));
-        flights = parts.map((letter, i) => {
-            return letter.animate(ways[i], {
-                duration: field.flightSeconds * 1000,
-                delay: i * field.letterPause,
-                easing: "cubic-bezier(.2,.6,.3,1)",
-                fill: "backwards",
-            });
-        });
-        flights[parts.length - 1].onfinish = () => {
+        const ways = parts.map((letter, i) => way(letter, i * letterPause, duration, field));
+        // The browser has to do something where one begins or ends, so all do it together.
+        flights = parts.map((letter, i) => letter.animate(ways[i], duration));
+        flights[0].onfinish = () => {
             land(true);
-            if (!field.againAfter) button.remove();
+            if (!againAfter) button.remove();
             wait();
         };
     };
@@ -94,7 +98,7 @@ start("flying-1", (root) => {
     };
     const wait = () => {
         clearTimeout(timer);
-        if (moves && landed && field.againAfter) timer = setTimeout(fly, field.againAfter * 1000);
+        if (moves && landed && againAfter) timer = setTimeout(fly, againAfter * 1000);
     };
     const run = (/** @type {boolean} */ moving, /** @type {boolean} */ still) => {
         moves = moving;
@@ -105,6 +109,5 @@ start("flying-1", (root) => {
         wait();
     };
     const { button } = motion(root, "the flying text", run);
-    const length = (letters(root, most).parts.length * field.letterPause) / 1000;
-    if (field.againAfter || length + field.flightSeconds > 5) box.append(button);
+    if (againAfter || duration > 5000) box.append(button);
 });

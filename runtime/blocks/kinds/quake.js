@@ -1,5 +1,5 @@
 /** Browser Window Earthquake: the page shakes for a moment. */
-import { drive } from "../flight.js";
+import { paced } from "../pace.js";
 import { fields, on, place, start } from "../start.js";
 
 start("quake-1", (root) => {
@@ -12,11 +12,11 @@ start("quake-1", (root) => {
     const { body, documentElement } = document;
     const reduced = matchMedia("(prefers-reduced-motion:reduce)");
     let timer = 0;
-    /** @type {Animation[]} */
-    let quake = [];
+    /** @type {((moves: boolean) => void) | null} */
+    let run = null;
     const shake = () => {
         clearTimeout(timer);
-        if (reduced.matches || document.hidden || quake[0]) return;
+        if (reduced.matches || document.hidden || run) return;
         const count = Math.round(field.seconds * 16);
         const move = () => (Math.random() * 2 - 1) * field.pixels + "px";
         // Fixed parts of the page stay where they are, which they do not under a transform.
@@ -26,24 +26,26 @@ start("quake-1", (root) => {
         }));
         const { position } = body.style;
         if (getComputedStyle(body).position === "static") body.style.position = "relative";
-        quake = [
-            documentElement.animate({ overflowX: ["clip", "clip"] }, field.seconds * 1000),
+        const quake = [
             body.animate(frames, field.seconds * 1000),
+            documentElement.animate({ overflowX: ["clip", "clip"] }, field.seconds * 1000),
         ];
-        quake[1].onfinish = () => {
+        quake[0].onfinish = () => {
             body.style.position = position;
-            quake = [];
+            run = null;
             again();
         };
+        run = paced(quake, 40);
+        run(true);
     };
     const again = () => {
         clearTimeout(timer);
-        if (field.againAfter && !quake[0] && !document.hidden && !reduced.matches)
+        if (field.againAfter && !run && !document.hidden && !reduced.matches)
             timer = setTimeout(shake, Math.max(field.againAfter, 5) * 1000);
     };
     place(root, "");
     on(document, "visibilitychange", () => {
-        drive(quake, !document.hidden);
+        run?.(!document.hidden);
         again();
     });
     if (field.when !== "click") shake();

@@ -6,7 +6,8 @@ import { store } from "../store.js";
 const css =
     "audio{display:block;max-width:100%}button{all:unset;font:inherit;cursor:pointer;" +
     "padding:.4em .9em;min-height:24px;box-sizing:border-box;border:1px solid;border-radius:4px}" +
-    "button:focus-visible{outline:2px solid}button[hidden]{display:none}@media print{:host{display:none!important}}";
+    "button:focus-visible{outline:2px solid}[hidden]{display:none}" +
+    "input{width:7em;height:24px;margin:0 .5em;vertical-align:middle;accent-color:currentColor}@media print{:host{display:none!important}}";
 
 start("sound-1", (root) => {
     const field = fields(root, {
@@ -31,6 +32,13 @@ start("sound-1", (root) => {
     const name = () => (button.textContent = sound.paused ? "Play the sound" : "Stop the sound");
     const play = () => sound.play().then(name);
     button.hidden = field.controls;
+    // The browser's player has one of its own.
+    const volume = make("input", "");
+    volume.type = "range";
+    volume.value = String(field.volume);
+    volume.title = volume.ariaLabel = "Volume";
+    volume.hidden = field.controls;
+    on(volume, "input", () => (sound.volume = volume.valueAsNumber / 100));
     on(sound, "play", () => {
         button.hidden = field.controls;
         name();
@@ -44,7 +52,7 @@ start("sound-1", (root) => {
         if (--left > 0) play();
     });
     on(button, "click", () => (sound.paused ? play().catch(() => {}) : sound.pause()));
-    place(root, css, ...(own.getAttribute("src") ? [sound, button] : []));
+    place(root, css, ...(own.getAttribute("src") ? [sound, button, volume] : []));
     on(window, "pagehide", () => (mine = false));
     if (get() !== "off" && own.getAttribute("src"))
         // Browsers refuse sounds before the visitor has done anything to the page.

@@ -1,7 +1,7 @@
 /** Swirly Text: a text whose colours run through it. */
 import { buttonCss, motion } from "../calm.js";
-import { drive } from "../flight.js";
 import { letters, lettersCss } from "../letters.js";
+import { paced } from "../pace.js";
 import { fields, look, start, words } from "../start.js";
 
 const css =
@@ -55,11 +55,11 @@ start("swirl-1", (root) => {
         swirls = [text.animate({ backgroundPosition: ["0 0", "200% 0"] }, timing)];
         end = () => text.classList.remove("swirl");
     }
-    drive(swirls, false);
+    const run = paced(swirls, 100);
     swirls[0].onfinish = () => {
         end();
         button.remove();
     };
-    const { button } = motion(root, "the swirling colors", (moves) => drive(swirls, moves));
+    const { button } = motion(root, "the swirling colors", run);
     box.append(button);
 });

@@ -397,6 +397,9 @@ export const kinds = [
                 (n) => inside("button:not([hidden])", n)?.textContent,
                 n,
             );
+            await tab.evaluate((n) => inside("input", n).focus(), n);
+            await tab.keyboard.press("Home");
+            await until(tab, 0, (n) => inside("audio", n).volume, n);
         },
     },
     {

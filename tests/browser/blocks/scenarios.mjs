@@ -248,6 +248,38 @@ export const scenarios = [
         },
     },
     {
+        name: "by keyboard, from block to block",
+        async run({ open, row, tab }) {
+            if (!row.parts) return;
+            await open({ before: sure });
+            await wait(500);
+            const wanted = await tab.evaluate(() =>
+                [...document.querySelectorAll("[data-orvane]")].flatMap((_, n) =>
+                    [...said(n).links, inside("button", n)?.title].flatMap((one) =>
+                        one ? `${n} ${one}` : [],
+                    ),
+                ),
+            );
+            const reached = [];
+            while (reached.length < 150 && !wanted.every((one) => reached.includes(one))) {
+                await tab.keyboard.press("Tab");
+                const at = await tab.evaluate(() => {
+                    const all = [...document.querySelectorAll("[data-orvane]")];
+                    const { activeElement: host } = document;
+                    const n = all.indexOf(host.closest("[data-orvane]"));
+                    const at = host.shadowRoot?.activeElement ?? host;
+                    if (at.closest("[aria-hidden=true]")) return `${n} a copy`;
+                    return `${n} ${at.getAttribute("href") ?? at.title}`;
+                });
+                reached.push(at);
+            }
+            assert.equal(wanted.filter((one) => !reached.includes(one)), []);
+            const order = reached.map((one) => parseInt(one)).filter((n) => n >= 0);
+            assert.equal(order, [...order].sort((a, b) => a - b));
+            assert.equal(reached.filter((one) => one.endsWith("a copy")), []);
+        },
+    },
+    {
         name: "by keyboard and touch, and in print",
         alone: true,
         async run({ open, row, tab, isChromium }) {
