@@ -4,6 +4,7 @@
 #include "catalogue/catalogue_pages.h"
 #include "catalogue/effect_button.h"
 #include "catalogue/effect_description.h"
+#include "catalogue/moving_picture.h"
 #include "core/catalogue_search.h"
 #include "windows/controls.h"
 #include "windows/link_label.h"
@@ -23,8 +24,11 @@ CataloguePanel::CataloguePanel(Settings& settings)
       m_head(new CatalogueHead),
       m_pages(new CataloguePages([this](ControlName group) { return MakerFor(group); }, settings)),
       m_description(new EffectDescription),
-      m_favorite(new QAction(this))
+      m_moving(new MovingPicture(settings)),
+      m_favorite(new QAction(this)),
+      m_moves(new QAction(QStringLiteral("&Moving Pictures"), this))
 {
+    m_moving->setParent(this);
     installEventFilter(this);
     for (QWidget* page : m_pages->Pages())
         page->installEventFilter(this);
@@ -71,6 +75,10 @@ void CataloguePanel::AddKeys()
         ToggleFavoriteOf(m_described != nullptr ? m_described.data() : focused);
     });
     addAction(m_favorite);
+    m_moves->setObjectName(QStringLiteral("mnuMovingPictures"));
+    m_moves->setCheckable(true);
+    m_moves->setChecked(m_moving->IsWanted());
+    connect(m_moves, &QAction::toggled, m_moving, &MovingPicture::SetWanted);
 }
 
 ButtonMaker CataloguePanel::MakerFor(ControlName group)
@@ -106,6 +114,7 @@ void CataloguePanel::Describe(EffectButton* button)
 {
     m_described = button;
     m_description->Show(button);
+    m_moving->RestOn(button);
 }
 
 void CataloguePanel::TakeButtonEvent(EffectButton& button, const QEvent& event)
@@ -188,6 +197,7 @@ void CataloguePanel::ShowMenu(EffectButton& button, const QPoint& place)
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(m_favorite);
+    menu->addAction(m_moves);
     menu->popup(place);
 }
 
@@ -202,6 +212,8 @@ void CataloguePanel::ToggleFavoriteOf(const EffectButton* button)
 void CataloguePanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        m_moving->RestOn(nullptr);
     // Back from a wizard, it is the effect used last.
     if (event->type() == QEvent::ActivationChange && m_pages->ShowsFavorites())
         Refresh();

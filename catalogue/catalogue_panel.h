@@ -16,6 +16,7 @@ class CatalogueHead;
 class CataloguePages;
 class EffectDescription;
 class LinkLabel;
+class MovingPicture;
 
 /// All effects as pictures on three tabs, the author's favorites on a fourth, a box that searches
 /// them all, and the title and description of the effect under the pointer or with the focus.
@@ -57,7 +58,9 @@ private:
     CatalogueHead* m_head;
     CataloguePages* m_pages;
     EffectDescription* m_description;
+    MovingPicture* m_moving;
     QAction* m_favorite;
+    QAction* m_moves;
     QPointer<EffectButton> m_described;
 };
 

@@ -1,8 +1,8 @@
 #include "catalogue/effect_button.h"
 
+#include "catalogue/effect_picture.h"
 #include "windows/qt_text.h"
 
-#include <QIcon>
 #include <QKeyEvent>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -15,7 +15,6 @@ namespace orvane {
 
 namespace {
 
-constexpr QSize pictureSize{48, 48};
 constexpr int lettersPerLine = 21;
 
 /// A title on two lines where it is long, so that the buttons stay narrow.
@@ -73,8 +72,19 @@ void EffectButton::SetFavorite(bool isFavorite)
 
 void EffectButton::DrawPicture()
 {
-    if (icon().isNull())
-        setIcon(QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(m_row.Picture))));
+    if (m_still.isNull())
+        m_still = QIcon(StillPicture(m_row, palette(), devicePixelRatioF()));
+    setIcon(m_still);
+}
+
+void EffectButton::ShowFrame(const QPixmap& frame)
+{
+    setIcon(QIcon(Edged(frame, palette())));
+}
+
+void EffectButton::ShowStill()
+{
+    setIcon(m_still);
 }
 
 QSize EffectButton::sizeHint() const
@@ -83,6 +93,15 @@ QSize EffectButton::sizeHint() const
     const QFontMetrics letters = fontMetrics();
     return QToolButton::sizeHint().expandedTo({lettersPerLine * letters.averageCharWidth(),
                                                pictureSize.height() + 3 * letters.lineSpacing()});
+}
+
+void EffectButton::changeEvent(QEvent* event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !m_still.isNull()) {
+        m_still = {};
+        DrawPicture();
+    }
 }
 
 void EffectButton::keyPressEvent(QKeyEvent* event)

@@ -2,11 +2,12 @@
 
 #include "core/catalogue.h"
 
+#include <QIcon>
 #include <QToolButton>
 
 namespace orvane {
 
-/// An effect as a picture with its title; one of the author's favorites has a star.
+/// An effect as a picture of it at work, with its title; one of the author's favorites has a star.
 class EffectButton : public QToolButton
 {
     Q_OBJECT
@@ -23,6 +24,11 @@ public:
     /// Loads the picture, unless it is there. The button has its full size without it too.
     void DrawPicture();
 
+    /// Shows a frame of the moving picture in place of the picture.
+    void ShowFrame(const QPixmap& frame);
+    /// Shows the picture again.
+    void ShowStill();
+
     QSize sizeHint() const override;
 
 signals:
@@ -30,6 +36,7 @@ signals:
     void EffectWanted(orvane::EffectKind kind);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -37,6 +44,7 @@ private:
     void Describe();
 
     const CatalogueRow& m_row;
+    QIcon m_still; ///< null until the picture is loaded
     bool m_isFavorite = false;
 };
 

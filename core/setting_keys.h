@@ -43,6 +43,8 @@ inline constexpr SettingKey overrideTick{u"Misc", u"Override", u"0"};
 /// Names of menu commands with a blank between two.
 inline constexpr SettingKey favorites{u"Catalogue", u"Favorites"};
 inline constexpr SettingKey recentEffects{u"Catalogue", u"Recent"};
+/// "0": the pictures of the catalogue keep still.
+inline constexpr SettingKey movingPictures{u"Catalogue", u"MovingPictures", u"1"};
 /// The live preview beside wizards: "1" when it is folded away, its width in pixels, and the full
 /// path of the page that it shows effects in, or empty for an empty page.
 inline constexpr SettingKey previewFolded{u"Preview", u"Folded", u"0"};

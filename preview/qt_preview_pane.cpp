@@ -232,6 +232,10 @@ void QtPreviewPane::StatusWritten(TextView status)
 
 void QtPreviewPane::OutsideWanted(TextView target, bool byAuthor)
 {
+    if (byAuthor && target.starts_with(ownLinkStart)) {
+        emit OwnLinkFollowed(Text(target.substr(ownLinkStart.size())));
+        return;
+    }
     // What the author did not click on is no reason for a box.
     if (m_isQuiet && !byAuthor)
         m_quietLine->Tell(Join({u"The page leads out of the preview, to: ", target}), false);

@@ -19,6 +19,9 @@ class QtPaneNote;
 class QtQuietLine;
 class QtStatusLine;
 
+/// How addresses begin that stand for something in the program itself; there is no such place.
+inline constexpr TextView ownLinkStart = u"http://orvane.invalid/";
+
 /// The preview pane: the web view, above it a note on what it cannot show, and below it the status
 /// line of the page. Of a live page that wants to show a box or a window, a line says so, with a
 /// link that runs it with them. Where nothing can be shown, a note in its place says why and what
@@ -46,6 +49,9 @@ public:
 signals:
     /// A live page has taken the place of the page before it.
     void LiveShown();
+    /// The author has clicked on a link to an address of the program's own; `end` is what follows
+    /// ownLinkStart in it.
+    void OwnLinkFollowed(const orvane::Text& end);
 
 private:
     PageBoxReply AnswerBox(const PageBox& box) override;

@@ -7,6 +7,7 @@
 #include "effects/effect_windows.h"
 #include "preview/live_preview_panel.h"
 #include "program/about_form.h"
+#include "program/all_effects_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
 #include "program/page_effects_road.h"
@@ -50,6 +51,7 @@ void FormDesk::ShowMainForm()
     connect(m_mainForm.get(), &OVMainForm::BringBackWanted, this,
             [this] { ShowBringBack({}, m_mainForm.get()); });
     connect(m_mainForm.get(), &OVMainForm::PageEffectsWanted, this, &FormDesk::ShowPageEffects);
+    connect(m_mainForm.get(), &OVMainForm::AllEffectsWanted, this, &FormDesk::ShowAllEffects);
     connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
         AboutForm about(m_bench, m_mainForm.get());
         ShowModally(about);
@@ -139,6 +141,20 @@ void FormDesk::EditApplet()
     ShowModally(form);
     if (const auto wanted = form.Wanted())
         OpenEffect(wanted->Kind, wanted->Tag);
+}
+
+void FormDesk::ShowAllEffects()
+{
+    std::optional<EffectKind> chosen;
+    {
+        AllEffectsForm all(m_bench, m_pane, m_mainForm.get());
+        ShowModally(all);
+        chosen = all.Chosen();
+    }
+    if (!chosen)
+        return;
+    SetModes(m_bench.Core, RowOf(*chosen).MenuCommand);
+    OpenEffect(*chosen);
 }
 
 void FormDesk::ShowPageEffects(TextView page)

@@ -51,6 +51,9 @@ public:
     /// page first. Returns when the window is closed.
     void ShowPageEffects(TextView page);
 
+    /// Shows every effect at work, and leads the author through the one that is chosen there.
+    void ShowAllEffects();
+
     /// The main window; null before Start(), and when the program opens with another one.
     OVMainForm* MainForm() const { return m_mainForm.get(); }
 

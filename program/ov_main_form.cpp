@@ -62,6 +62,8 @@ void OVMainForm::AddMenus()
     QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
     add(help, "mnuHelpContents", u"&Contents...",
         [this] { m_bench.Help.ShowTopic(help_topics::contents); });
+    m_allEffects = add(help, "mnuSeeThemAll", u"&See them all", &OVMainForm::AllEffectsWanted);
+    m_allEffects->setShortcut(Qt::CTRL | Qt::Key_G);
     add(help, "mnuCheckForUpdate", u"Chec&k for update...", &OVMainForm::CheckForUpdate);
     help->addSeparator();
     add(help, "mnuHelpAbout", u"&About...", &OVMainForm::AboutWanted);
@@ -75,6 +77,9 @@ void OVMainForm::AddWays(CataloguePanel& catalogue)
     connect(catalogue.AddWay("lblChangeOnPage", u"Change what stands in a page",
                              u"Lists the effects on a Web page (Ctrl+E)"),
             &LinkLabel::Followed, m_pageEffects, &QAction::trigger);
+    connect(catalogue.AddWay("lblSeeThemAll", u"See them all",
+                             u"Shows every effect at work on one page (Ctrl+G)"),
+            &LinkLabel::Followed, m_allEffects, &QAction::trigger);
 }
 
 void OVMainForm::AddEffects(QMenu& menu, CataloguePage page)

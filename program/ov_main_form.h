@@ -29,6 +29,8 @@ signals:
     void BringBackWanted();
     /// The author wants to see the effects on the page with this full path; empty for no page yet.
     void PageEffectsWanted(const orvane::Text& page);
+    /// The author wants to see every effect at work.
+    void AllEffectsWanted();
     void AboutWanted();
 
 protected:
@@ -43,6 +45,7 @@ private:
 
     Workbench& m_bench;
     QAction* m_pageEffects = nullptr;
+    QAction* m_allEffects = nullptr;
 };
 
 } // namespace orvane

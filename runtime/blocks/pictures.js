@@ -29,6 +29,7 @@ export function pictures(root) {
     const copies = [...root.querySelectorAll("img")].map((picture) => {
         const copy = /** @type {HTMLImageElement} */ (picture.cloneNode());
         copy.loading = "eager";
+        copy.hidden = false;
         return copy;
     });
     if (!copies[0]) throw 0;

@@ -100,6 +100,17 @@ TEST_F(LivePaneBrowserTest, BoxesAndWindowsAreALineUntilTheAuthorRunsThem)
     EXPECT_EQ(QuietLine(), u"");
 }
 
+TEST_F(LivePaneBrowserTest, ALinkOfTheProgramsOwnIsToldAndLeadsNowhere)
+{
+    Text followed;
+    QObject::connect(&m_page.Pane, &QtPreviewPane::OwnLinkFollowed,
+                     [&](const Text& end) { followed = end; });
+    m_page.Load("<body><a href='http://orvane.invalid/clock'>Clock</a>");
+    m_page.ClickOn("document.querySelector('a')");
+    EXPECT_TRUE(WaitFor([&] { return followed == u"clock"; }));
+    EXPECT_TRUE(m_page.Dialogs.Boxes.empty());
+}
+
 TEST_F(LivePaneBrowserTest, ScrollsToTheEffectOnceAndStaysWhereTheAuthorScrolled)
 {
     const std::string filler(5000000, ' ');

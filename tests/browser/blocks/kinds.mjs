@@ -301,7 +301,8 @@ export const kinds = [
         words: ["Our plums"],
         links: ["plums.html"],
         async sees(tab, n) {
-            const shown = (n) => inside(".shown", n).getAttribute("src");
+            const shown = (n) =>
+                inside(".shown", n).checkVisibility() && inside(".shown", n).getAttribute("src");
             await until(tab, "a.gif", shown, n);
             await wait(100);
             await tab.evaluate((n) => inside("a", n).focus(), n);

@@ -8,9 +8,9 @@ const programs = {
 };
 export const names = Object.keys(programs);
 
-/** Starts a browser by what is installed in `place`. */
-export async function launch(place, name) {
+/** Starts a browser by what is installed in `place`, with more options if need be. */
+export async function launch(place, name, more = {}) {
     const entry = createRequire(`${process.cwd()}/${place}/x.js`).resolve("puppeteer-core");
     const { default: puppeteer } = await import(pathToFileURL(entry).href);
-    return puppeteer.launch({ headless: true, ...programs[name] });
+    return puppeteer.launch({ headless: true, ...programs[name], ...more });
 }
