@@ -54,8 +54,6 @@ TEST(PagePartsTest, AnEffectIsOne)
     const std::string effect = ToBytes(Join({markers.Begin, u"\n<p>a</p><p>b</p>", markers.End}));
     const std::string page = "<body><p>x</p>" + effect + "\n<p>y</p>" + effect + "</body>";
     EXPECT_EQ(Marked(page), "<body>(<p>x</p>)(" + effect + "\n)(<p>y</p>)(" + effect + ")</body>");
-    EXPECT_EQ(WithPartNumbers("<body><P class=a>x", PartsOf("<body><P class=a>x")),
-              "<body><P data-orvane-part=\"0\" class=a>x");
 }
 
 } // namespace
