@@ -22,6 +22,7 @@ enum class FolderPurpose
     Sounds,
     Texts,
     Projects,
+    Recipes,
     Publishing, ///< where required files go
 };
 

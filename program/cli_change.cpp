@@ -1,7 +1,6 @@
 #include "core/catalogue.h"
 #include "insertion/page_encoding.h"
 #include "insertion/page_script.h"
-#include "insertion/page_writing.h"
 #include "program/cli_commands.h"
 #include "program/cli_delivery.h"
 #include "program/cli_effect.h"
@@ -48,15 +47,6 @@ PageEnd Untouchable(const EffectInPage& effect)
                                            : u"\" and another effect stand inside each other"})};
 }
 
-/// Writes the page in place of `shown`, after its backups; else tells why not.
-std::optional<PageEnd> Put(const CliWorld& world, FileStore& files, CliDialogs& dialogs,
-                           const Text& page, std::string_view shown, std::string_view edited)
-{
-    if (PutPage(files, dialogs, page, BackupsOf(world), shown, edited))
-        return std::nullopt;
-    return PageEnd{PageEnd::As::Failed, Listed(dialogs.TakeSaid(), u"  ")};
-}
-
 PageEnd RemoveFrom(const CliWorld& world, const NamedEffect& named, const Text& path,
                    FileStore& files, CliDialogs& dialogs)
 {
@@ -77,7 +67,7 @@ PageEnd RemoveFrom(const CliWorld& world, const NamedEffect& named, const Text& 
     }
     if (page == ValueIn(read))
         return {PageEnd::As::Kept};
-    return Put(world, files, dialogs, path, ValueIn(read), page)
+    return PutEdited(world, files, dialogs, path, ValueIn(read), page)
         .value_or(PageEnd{PageEnd::As::Written, u"taken out"});
 }
 
@@ -127,7 +117,7 @@ public:
                     return *failed;
         if (page == ValueIn(read))
             return {PageEnd::As::Kept};
-        if (auto failed = Put(m_world, files, dialogs, path, ValueIn(read), page))
+        if (auto failed = PutEdited(m_world, files, dialogs, path, ValueIn(read), page))
             return *failed;
         PageEnd end;
         for (CliPayload& payload : changed)

@@ -2,6 +2,7 @@
 
 #include "core/file_names.h"
 #include "insertion/page_script_lines.h"
+#include "insertion/page_writing.h"
 #include "reedit/remembered_fields.h"
 #include "services/made_files.h"
 #include "services/recorded_files.h"
@@ -10,9 +11,39 @@
 
 namespace orvane {
 
+namespace {
+
+/// Takes the files off the list that lie in the folder as they are, so that nobody is asked whether
+/// they may be overwritten.
+void LeaveOutSame(RequiredFiles& required, const FileStore& files, TextView folder)
+{
+    for (std::size_t i = 0; i < required.RequiredFileNames.size(); ++i) {
+        Text& name = required.RequiredFileNames[i];
+        Text& source = required.RequiredFileSources[i];
+        const Text copy = Join({folder, name});
+        if (name.empty() || source.empty() || !files.FileExists(copy))
+            continue;
+        const auto bytes = files.Read(source);
+        if (!FaultIn(bytes) && files.Read(copy) == bytes) {
+            name.clear();
+            source.clear();
+        }
+    }
+}
+
+} // namespace
+
 BackupsPlace BackupsOf(const CliWorld& world)
 {
     return BackupsPlaceIn(world.Folders.State, world.Today);
+}
+
+std::optional<PageEnd> PutEdited(const CliWorld& world, FileStore& files, CliDialogs& dialogs,
+                                 const Text& page, std::string_view shown, std::string_view edited)
+{
+    if (PutPage(files, dialogs, page, BackupsOf(world), shown, edited))
+        return std::nullopt;
+    return PageEnd{PageEnd::As::Failed, Listed(dialogs.TakeSaid(), u"  ")};
 }
 
 PageEnd CliDelivery::Finish(const Text& page, FileStore& files, CliDialogs& dialogs, TextView words)
@@ -42,6 +73,7 @@ Outcome<MissingFiles> CliDelivery::CopyTo(TextView folder, FileStore& files, Cli
 {
     FinishedPayload payload = m_ready.Payload;
     TakeSourcesFrom(payload.Effect.Required, files, m_sources.empty() ? folder : m_sources);
+    LeaveOutSame(payload.Effect.Required, files, folder);
     const Done brought = BringOwnFiles(files, payload.Effect);
     if (const Fault* fault = FaultIn(brought))
         return *fault;

@@ -15,6 +15,10 @@ namespace orvane {
 /// The place of the backups on that day.
 BackupsPlace BackupsOf(const CliWorld& world);
 
+/// Writes the page in place of `shown`, after its backups; else tells why not.
+std::optional<PageEnd> PutEdited(const CliWorld& world, FileStore& files, CliDialogs& dialogs,
+                                 const Text& page, std::string_view shown, std::string_view edited);
+
 /// Brings the files of one effect beside the pages that hold it, once to each
 /// folder.
 class CliDelivery

@@ -1,3 +1,4 @@
+#include "core/catalogue.h"
 #include "core/file_names.h"
 #include "insertion/auto_insert.h"
 #include "insertion/new_page.h"
@@ -5,6 +6,8 @@
 #include "program/cli_commands.h"
 #include "program/cli_delivery.h"
 #include "program/cli_pages.h"
+#include "reedit/effects_in_page.h"
+#include "reedit/placing.h"
 
 namespace orvane {
 
@@ -28,9 +31,71 @@ Text PrintedCode(const FinishedPayload& payload)
     return code;
 }
 
+/// What stands in a page of the effect that is to be put into it.
+struct Present
+{
+    bool IsSame = false; ///< with exactly the text that it has now
+    std::vector<std::string>
+        Edits; ///< for each of the others, the page with the effect in its place
+};
+
+Present PresentIn(std::string_view page, const FinishedPayload& payload)
+{
+    // The insertion puts in line ends of its own.
+    const auto lines = [](std::string_view bytes) { return ReplaceAll(bytes, "\r\n", "\n"); };
+    const std::string asItIs = lines(page);
+    Present present;
+    const TextView marker = RowOf(payload.Effect.Kind).MarkerName;
+    for (const EffectInPage& effect : EffectsIn(page)) {
+        if (!EqualIgnoringCase(effect.Name, marker) || !CanBeTouched(effect))
+            continue;
+        const PlacedPage placed = WithReplaced(page, effect, payload);
+        const auto* edited = std::get_if<std::string>(&placed);
+        present.IsSame = present.IsSame || (edited != nullptr && lines(*edited) == asItIs);
+        present.Edits.push_back(edited == nullptr ? std::string() : *edited);
+    }
+    return present;
+}
+
+/// Ends the work on a page that holds the effect already; nothing where it is to be put in.
+/// Effects that share a script in the HEAD are left to the insertion, which asks about them itself.
+std::optional<PageEnd> RenewIn(const CliWorld& world, CliDelivery& delivery, const Text& page,
+                               FileStore& files, CliDialogs& dialogs)
+{
+    const auto read = files.Read(page);
+    if (FaultIn(read))
+        return std::nullopt;
+    const std::string& bytes = ValueIn(read);
+    const Present present = PresentIn(bytes, delivery.Payload());
+    if (present.IsSame) {
+        PageEnd end = delivery.Finish(page, files, dialogs, u"unchanged");
+        end.Is = end.Is == PageEnd::As::Written ? PageEnd::As::Kept : end.Is;
+        return end;
+    }
+    if (present.Edits.empty() || SharingHead(EffectsIn(bytes), delivery.Payload()))
+        return std::nullopt;
+    const bool isReplaced = dialogs.Ask(
+        u"Your Web page has this special effect with other values already.  Do you want to change "
+        u"it in its place?  Else this one is added.",
+        {});
+    if (dialogs.Unanswered())
+        return PageEnd{PageEnd::As::Kept};
+    if (!isReplaced)
+        return std::nullopt;
+    if (present.Edits.size() > 1)
+        return PageEnd{PageEnd::As::Failed,
+                       u"it has this special effect several times: which one is to be changed?  "
+                       u"Take those out that are not wanted, or say --keep to add one"};
+    if (auto failed = PutEdited(world, files, dialogs, page, bytes, present.Edits.front()))
+        return failed;
+    return delivery.Finish(page, files, dialogs, u"changed");
+}
+
 PageEnd InsertInto(const CliWorld& world, CliDelivery& delivery, const Text& page, FileStore& files,
                    CliDialogs& dialogs)
 {
+    if (auto end = RenewIn(world, delivery, page, files, dialogs))
+        return *end;
     switch (AutoInsert(files, dialogs, page, delivery.Payload(), BackupsOf(world))) {
     case AutoInsertion::NothingDone:
         return {PageEnd::As::Failed, Listed(dialogs.TakeSaid(), u"  ")};

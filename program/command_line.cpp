@@ -8,10 +8,11 @@ namespace orvane {
 
 namespace {
 
-constexpr const char* usage = R"(Usage: orvane [PROJECT]
+constexpr const char* usage = R"(Usage: orvane [FILE]
 Makes special effects for Web pages.
 
-PROJECT       an animation saved before (*.ovn), shown in the animator
+FILE          a recipe (*.ovr), shown in the wizard of its effect, or an
+              animation saved before (*.ovn), shown in the animator
 -h, --help    these words
 --version     the program's version
 
@@ -31,7 +32,7 @@ std::optional<TerminalAnswer> AnswerOf(const QStringList& arguments, TextView ve
     return std::nullopt;
 }
 
-std::variant<Text, TerminalAnswer> ProjectOf(const QStringList& arguments)
+std::variant<Text, TerminalAnswer> FileOf(const QStringList& arguments)
 {
     if (arguments.isEmpty())
         return Text();

@@ -5,12 +5,15 @@
 #include "delivery/make_dir_form.h"
 #include "delivery/preview_form.h"
 #include "effects/effect_windows.h"
+#include "effects/recipe.h"
 #include "preview/live_preview_panel.h"
 #include "program/about_form.h"
 #include "program/all_effects_form.h"
 #include "program/options_form.h"
 #include "program/ov_main_form.h"
 #include "program/page_effects_road.h"
+#include "program/recipe_files.h"
+#include "program/recipe_menu.h"
 #include "program/startup.h"
 #include "reedit/applet_tag.h"
 #include "reedit/edit_applet_form.h"
@@ -50,6 +53,7 @@ void FormDesk::ShowMainForm()
             [this] { ShowOptions(m_mainForm.get()); });
     connect(m_mainForm.get(), &OVMainForm::BringBackWanted, this,
             [this] { ShowBringBack({}, m_mainForm.get()); });
+    connect(m_mainForm.get(), &OVMainForm::RecipeWanted, this, &FormDesk::OpenRecipeFile);
     connect(m_mainForm.get(), &OVMainForm::PageEffectsWanted, this, &FormDesk::ShowPageEffects);
     connect(m_mainForm.get(), &OVMainForm::AllEffectsWanted, this, &FormDesk::ShowAllEffects);
     connect(m_mainForm.get(), &OVMainForm::AboutWanted, this, [this] {
@@ -71,9 +75,18 @@ Text FormDesk::ListEffectsOfTags()
 
 void FormDesk::OpenEffect(EffectKind kind, Opening opening)
 {
+    auto next = OpenWizard(kind, std::move(opening));
+    while (next) {
+        SetModes(m_bench.Core, RowOf(next->Kind()).MenuCommand);
+        next = OpenWizard(next->Kind(), Recipe{next->Draft()});
+    }
+}
+
+std::optional<AnyEffect> FormDesk::OpenWizard(EffectKind kind, Opening opening)
+{
     const auto wizard = MakeWizard(kind, m_bench, m_mainForm.get());
     if (wizard == nullptr)
-        return;
+        return std::nullopt;
     RememberEffect(m_bench.Settings, kind);
     const OrvaneCore& core = m_bench.Core;
     // Stays as it is: after a pasted tag that opened no wizard, the next one that reads tags finds
@@ -81,15 +94,32 @@ void FormDesk::OpenEffect(EffectKind kind, Opening opening)
     if (core.EditMode && std::holds_alternative<FreshStart>(opening))
         opening = PastedTag{{}, core.AppletTextAfterCODE, core.AppletText};
     wizard->Open(opening);
+    std::optional<AnyEffect> other;
+    AddRecipeMenu(*wizard, m_bench, [&](AnyEffect effect) {
+        other = std::move(effect);
+        wizard->reject();
+    });
     AddLivePreview(*wizard, m_bench, m_pane);
     LeadThrough(*wizard);
+    return other;
 }
 
-void FormDesk::OpenProject(TextView path)
+void FormDesk::OpenRecipeFile(const Text& path)
 {
+    const auto effect = OpenRecipe(m_bench, path);
+    if (!effect)
+        return;
+    SetModes(m_bench.Core, RowOf(effect->Kind()).MenuCommand);
+    OpenEffect(effect->Kind(), Recipe{effect->Draft()});
+}
+
+void FormDesk::OpenFile(const Text& path)
+{
+    if (IsRecipeName(path))
+        return OpenRecipeFile(path);
     if (!m_bench.Files.FileExists(path))
         return m_bench.Dialogs.Say(Join({u"Orvane cannot find the file ", path, u"."}));
-    OpenEffect(EffectKind::AdvancedAnimator, ProjectFile{Text(path)});
+    OpenEffect(EffectKind::AdvancedAnimator, ProjectFile{path});
 }
 
 void FormDesk::LeadThrough(WizardForm& wizard)

@@ -13,6 +13,7 @@ class QDialog;
 
 namespace orvane {
 
+class AnyEffect;
 class OVMainForm;
 class PageEffectsRoad;
 class WizardForm;
@@ -39,9 +40,14 @@ public:
     /// closed; does nothing for an effect without a wizard.
     void OpenEffect(EffectKind kind, Opening opening = FreshStart());
 
-    /// The same with the animator's wizard, which opens with the project file of this full path.
-    /// When the file does not exist, the author is told and no wizard opens.
-    void OpenProject(TextView path);
+    /// The same with the wizard of a recipe, or with the animator's, which opens with the project
+    /// file of this full path. When the recipe is wrong or the project does not exist, the author
+    /// is told and no wizard opens.
+    void OpenFile(const Text& path);
+
+    /// The same with a recipe: that of this full path, or one that the author picks when it is
+    /// empty.
+    void OpenRecipeFile(const Text& path);
 
     /// Asks for a pasted applet tag and leads the author through its effect's wizard; none opens
     /// when the author cancels or the effect has no wizard.
@@ -62,6 +68,9 @@ signals:
     void WizardOpened();
 
 private:
+    /// Leads through one wizard; gives the effect of a recipe for another one that was opened in
+    /// it.
+    std::optional<AnyEffect> OpenWizard(EffectKind kind, Opening opening);
     void LeadThrough(WizardForm& wizard);
     void ShowModally(QDialog& window);
     /// How the delivery ended, and the page that goes with it.

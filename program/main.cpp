@@ -87,8 +87,8 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(ToQt(desktopId));
     QApplication::setQuitOnLastWindowClosed(false);
     EndOrderlyOnSignals(application);
-    const auto project = ProjectOf(QApplication::arguments().mid(1));
-    if (const auto* answer = std::get_if<TerminalAnswer>(&project))
+    const auto file = FileOf(QApplication::arguments().mid(1));
+    if (const auto* answer = std::get_if<TerminalAnswer>(&file))
         return Tell(*answer);
 
     PosixCalls calls;
@@ -110,8 +110,8 @@ int main(int argc, char** argv)
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
         RemovePreviewPages(disk.Files, program.Core);
         InstallResources(disk.Files, dialogs, folders->Program, BuildOf(disk.Files));
-        if (const Text& path = std::get<Text>(project); !path.empty())
-            program.Desk.OpenProject(path);
+        if (const Text& path = std::get<Text>(file); !path.empty())
+            program.Desk.OpenFile(path);
     });
     return QApplication::exec();
 }

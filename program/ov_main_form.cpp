@@ -1,6 +1,7 @@
 #include "program/ov_main_form.h"
 
 #include "catalogue/catalogue_panel.h"
+#include "effects/recipe.h"
 #include "services/page_requests.h"
 #include "windows/file_drop.h"
 #include "windows/link_label.h"
@@ -28,8 +29,14 @@ OVMainForm::OVMainForm(Workbench& bench) : m_bench(bench)
     setCentralWidget(catalogue);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     RememberPlace(*this, bench.Settings);
-    connect(new FileDrop(*this, pageMasks, bench, 1), &FileDrop::Dropped, this,
-            [this](const std::vector<Text>& pages) { emit PageEffectsWanted(pages.front()); });
+    const Text masks = Join({pageMasks, u";*", recipeEnding});
+    connect(new FileDrop(*this, masks, bench, 1), &FileDrop::Dropped, this,
+            [this](const std::vector<Text>& files) {
+                if (IsRecipeName(files.front()))
+                    emit RecipeWanted(files.front());
+                else
+                    emit PageEffectsWanted(files.front());
+            });
     OpenHelpOnF1(this, bench.Help, help_topics::mainWindow);
 }
 
@@ -41,6 +48,9 @@ void OVMainForm::AddMenus()
         return command;
     };
     QMenu* file = AddMenu(*menuBar(), "mnuFile", u"&File");
+    add(file, "mnuOpenRecipe", u"&Open recipe...", [this] {
+        emit RecipeWanted({});
+    })->setShortcut(QKeySequence::Open);
     add(file, "mnuBringBack", u"&Bring back a page...", &OVMainForm::BringBackWanted);
     file->addSeparator();
     add(file, "mnuFileExit", u"E&xit", &QWidget::close)->setShortcut(Qt::CTRL | Qt::Key_Q);

@@ -27,6 +27,8 @@ signals:
     void EditAppletWanted();
     void PreferencesWanted();
     void BringBackWanted();
+    /// The author wants to open the recipe with this full path; empty for one that is to be picked.
+    void RecipeWanted(const orvane::Text& path);
     /// The author wants to see the effects on the page with this full path; empty for no page yet.
     void PageEffectsWanted(const orvane::Text& page);
     /// The author wants to see every effect at work.

@@ -8,6 +8,7 @@
 #include "insertion/page_script.h"
 #include "preview/live_preview_panel.h"
 #include "program/choose_effect_form.h"
+#include "program/recipe_menu.h"
 #include "reedit/effects_on_page_form.h"
 #include "reedit/remembered_fields.h"
 #include "services/chosen_effects.h"
@@ -97,6 +98,7 @@ void PageEffectsRoad::Add()
 
 void PageEffectsRoad::LeadThrough(WizardForm& wizard, PutInJob job)
 {
+    AddRecipeMenu(wizard, m_bench);
     AddLivePreview(wizard, m_bench, m_pane);
     while (true) {
         m_show(wizard);

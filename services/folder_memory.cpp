@@ -19,6 +19,8 @@ TextView KeyOf(FolderPurpose purpose)
         return u"Texts";
     case FolderPurpose::Projects:
         return u"Projects";
+    case FolderPurpose::Recipes:
+        return u"Recipes";
     case FolderPurpose::Publishing:
         return u"Publishing";
     case FolderPurpose::Other:

@@ -56,6 +56,7 @@ public:
     void Open(const Opening& opening) override
     {
         if (const auto* recipe = std::get_if<Recipe>(&opening)) {
+            GoTo(0);
             TakeDraft(recipe->Draft);
             BeginDrafts(false);
         } else if constexpr (requires(Effect & effect) { ReadTag(effect, PastedTag()); }) {

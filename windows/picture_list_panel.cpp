@@ -32,7 +32,7 @@ constexpr RowListWords words{
 
 RowListLook LookOf(ControlName list, PictureWords pictureWords)
 {
-    RowListLook look{.Columns = {{list, u"Pict&ures:", &WithoutPercents}},
+    RowListLook look{.Columns = {{list, u"P&ictures:", &WithoutPercents}},
                      .Words = words,
                      .Buttons = {{RowCommand::Add, "cmdAddPictures", u"&Add pictures...",
                                   u"Adds one or more pictures; you can drop files and folders on "

@@ -33,11 +33,14 @@ public:
     /// The effect's row in the catalogue gives title and help topic.
     WizardForm(ControlName name, EffectKind kind, Workbench& bench, QWidget* parent);
 
-    /// Shows what the window opens with; without a call it is fresh. Called before it is shown.
+    /// Shows what the window opens with, on its first page; without a call it is fresh.
     virtual void Open(const Opening& opening) = 0;
 
     /// What Done would hand over with the fields as they stand. Changes and asks nothing.
     virtual Deliverable WouldDeliver() const = 0;
+
+    /// The effect that the window makes.
+    EffectKind Kind() const { return FindCommand(m_effect)->Kind; }
 
     /// What the fields hold as a draft's text, without the secret ones.
     Text Fields() const { return Draft(); }

@@ -99,12 +99,18 @@ void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
     FitToRows();
 }
 
+void WizardFrame::AddBesideHelp(QPushButton* button)
+{
+    m_buttons->insertWidget(1, button);
+    SetReadingOrder(*this);
+}
+
 void WizardFrame::AddSide(QWidget* side)
 {
     QPushButton* fold =
         MakeButton("cmdFoldPreview", u"Pre&view", u"Shows the effect as you make it (F12)");
     fold->setAutoDefault(false);
-    m_buttons->insertWidget(1, fold);
+    AddBesideHelp(fold);
     auto* content = new QWidget;
     content->setLayout(layout());
     auto* all = new QVBoxLayout(this);

@@ -27,6 +27,12 @@ public:
     /// "Preview". Called once, when the buttons are there and the window was not shown yet.
     void AddSide(QWidget* side);
 
+    /// Puts a button directly behind the help button. Called when the buttons are there.
+    void AddBesideHelp(QPushButton* button);
+
+    /// Shows short words beside the buttons, on what was done, for five seconds.
+    void Tell(TextView words) { m_note->Tell(words); }
+
 protected:
     /// Which buttons the window has besides the help button.
     enum class Buttons
@@ -62,9 +68,6 @@ protected:
     {
         orvane::ShowComplaint(*this, m_bench.Dialogs, complaint);
     }
-
-    /// Shows short words beside the buttons, on what was done, for five seconds.
-    void Tell(TextView words) { m_note->Tell(words); }
 
     /// Called for "Next" in a paged window and for "Done" in one with a single page.
     virtual void Next() = 0;

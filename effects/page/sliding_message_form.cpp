@@ -40,7 +40,7 @@ SlidingMessageForm::SlidingMessageForm(Workbench& bench, QWidget* parent)
     time.ChoiceBox("cboOnce", u"&How often:", howOften);
     AddSound(
         time, "txtSound", "SoundSource",
-        {.Label = u"So&und:",
+        {.Label = u"S&ound:",
          .Tip = u"The sound with which it comes, where the browser lets it; Delete takes it away",
          .Button = "cmdBrowseForSound",
          .Caption = u"Browse for sound..."});

@@ -18,7 +18,7 @@ SwirlyTextForm::SwirlyTextForm(Workbench& bench, QWidget* parent)
                                           u"that run through it."});
     swirl.MultiLineBox("txtText", u"&Text:", u"The text through which the colors run");
     swirl.Row(u"C&olors:", {new ColorList("lstColors", 7, bench)});
-    swirl.NumberBox("txtSeconds", u"One ro&und takes:", {}, u"seconds");
+    swirl.NumberBox("txtSeconds", u"One round ta&kes:", {}, u"seconds");
     AddDirection(swirl);
     swirl.NumberBox("txtRounds", u"&Rounds:", {}, u"0 is for ever");
     swirl.CheckBox("chkLetters", u"&Letter by letter, each in one color");

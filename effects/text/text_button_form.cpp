@@ -25,7 +25,7 @@ TextButtonForm::TextButtonForm(Workbench& bench, QWidget* parent)
     PageBuilder colors = AddPage({heading, u"Choose the colors of the button."});
     AddPageColor(colors, "cmdTextColor", u"&Text color:");
     AddPageColor(colors, "cmdBackColor", u"&Background color:");
-    AddPageColor(colors, "cmdHoverTextColor", u"Text color &under the mouse:");
+    AddPageColor(colors, "cmdHoverTextColor", u"Text c&olor under the mouse:");
     AddPageColor(colors, "cmdHoverBackColor", u"Back&ground color under the mouse:");
     colors.Fill();
 

@@ -3,11 +3,13 @@
 #include "core/numbers.h"
 #include "effects/effect_windows.h"
 #include "effects/effects.h"
+#include "program/recipe_menu.h"
 #include "tests/support/doubles.h"
 #include "tests/support/qt_controls.h"
 #include "windows/field_controls.h"
 #include "windows/qt_text.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QListWidget>
 #include <QRadioButton>
@@ -99,6 +101,8 @@ class EveryEffectTest : public ::testing::Test
 protected:
     using Effect = decltype(std::declval<Form>().Parameters());
 
+    EveryEffectTest() { AddRecipeMenu(m_form, m_desk.Bench); }
+
     Effect Changed()
     {
         Effect effect = m_form.Parameters();
@@ -169,6 +173,27 @@ TYPED_TEST(EveryEffectTest, GivesBackWhatItIsGivenWithEveryFieldChanged)
     this->m_form.SetParameters(changed);
     EXPECT_EQ(ToUtf8(WriteDraft(this->m_form.Parameters())), ToUtf8(WriteDraft(changed)));
     EXPECT_TRUE(this->m_form.Parameters() == changed);
+}
+
+TYPED_TEST(EveryEffectTest, SavesARecipeWithoutSecretsThatFillsAnotherWindow)
+{
+    auto changed = this->Changed();
+    ForEachSource(changed, [](Text& path) { path = path.empty() ? path : u"/pics/a.gif"; });
+    this->m_form.SetParameters(changed);
+    this->m_desk.Files.Folders = {u"/r"};
+    this->m_desk.Dialogs.AnswerSaveFile(u"/r/a.ovr");
+    this->m_form.template findChild<QAction*>(QStringLiteral("mnuSaveAsRecipe"))->trigger();
+    ForEachField(changed, [&](FieldName name, const auto&) {
+        const std::string line = "\n" + std::string(name.Name) + ":";
+        EXPECT_TRUE(!name.IsSecret ||
+                    this->m_desk.Files.Contents[u"/r/a.ovr"].find(line) == std::string::npos);
+    });
+    TypeParam next(this->m_desk.Bench);
+    AddRecipeMenu(next, this->m_desk.Bench);
+    this->m_desk.Dialogs.AnswerOpenFile(u"/r/a.ovr");
+    next.template findChild<QAction*>(QStringLiteral("mnuOpenRecipe"))->trigger();
+    EXPECT_EQ(ToUtf8(WriteDraft(next.Parameters())), ToUtf8(WriteDraft(changed)));
+    EXPECT_TRUE(this->m_desk.Dialogs.Said.empty());
 }
 
 TYPED_TEST(EveryEffectTest, GeneratedTextsHaveWholeLineEndsAndNoUnfilledMark)

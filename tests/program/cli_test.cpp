@@ -91,6 +91,9 @@ TEST_F(CliTest, DoesWhatItsWordsSayAndTellsSo)
     };
     const std::string question = "Orvane has found existing code for this special effect in your "
                                  "Web page.  Do you want to replace it?";
+    const std::string inPlaceQuestion =
+        "Your Web page has this special effect with other values already.  Do you want to change "
+        "it in its place?  Else this one is added.";
     const Step steps[] = {
         {u"check|alert.ovr|gate.ovr", 0, "", "", ""},
         {u"check|alert.ovr|bad.ovr", 1, "",
@@ -105,9 +108,10 @@ TEST_F(CliTest, DoesWhatItsWordsSayAndTellsSo)
          "orvane-cli: 2 failed of 3 pages\n",
          "Plums"},
         {u"make|ticker.ovr|--into|sub/c.htm", 0, "/site/sub/c.htm: put in\n", "", "Plums"},
-        {u"make|ticker.ovr|--into|sub/c.htm|--set|txtStatusBarText=Figs", 1, "",
+        {u"make|ticker.ovr|--into|sub/c.htm", 0, "/site/sub/c.htm: unchanged\n", "", "Plums"},
+        {u"make|ticker.ovr|--into|sub/c.htm|--set|txtStatusBarText=Pears", 1, "",
          "orvane-cli: /site/sub/c.htm: " + question + "  Say --replace or --keep.\n", "Plums"},
-        {u"make|ticker.ovr|--into|sub/c.htm|--set|txtStatusBarText=Figs|--keep", 0,
+        {u"make|ticker.ovr|--into|sub/c.htm|--set|txtStatusBarText=Pears|--keep", 0,
          "/site/sub/c.htm: kept as it is\n", "", "Plums"},
         {u"list|sub/c.htm", 0, "/site/sub/c.htm:2: Status Bar Text Ticker\n", "", "Plums"},
         {u"make|ticker.ovr|--into|sub/c.htm|--set|txtStatusBarText=Pears|--replace", 0,
@@ -119,7 +123,16 @@ TEST_F(CliTest, DoesWhatItsWordsSayAndTellsSo)
          "orvane-cli: /site/gone.html: File not found\n"
          "orvane-cli: 1 failed of 2 pages\n",
          "Plums"},
-        {u"make|alert.ovr|--into|a.html", 0, "/site/a.html: put in\n", "", "Plums"},
+        {u"make|alert.ovr|--into|a.html", 0, "/site/a.html: unchanged\n", "", "Plums"},
+        {u"make|alert.ovr|--into|a.html|--set|txtAlertText=Limes", 1, "",
+         "orvane-cli: /site/a.html: " + inPlaceQuestion + "  Say --replace or --keep.\n", "Plums"},
+        {u"make|alert.ovr|--into|a.html|--set|txtAlertText=Limes|--replace", 0,
+         "/site/a.html: changed\n", "", "Limes"},
+        {u"make|alert.ovr|--into|a.html|--keep", 0, "/site/a.html: put in\n", "", "Plums"},
+        {u"make|alert.ovr|--into|a.html|--set|txtAlertText=Nuts|--replace", 1, "",
+         "orvane-cli: /site/a.html: it has this special effect several times: which one is to be "
+         "changed?  Take those out that are not wanted, or say --keep to add one\n",
+         "Limes"},
         {u"change|a.html|--effect|popup alert box|--set|txtAlertText=Pears", 0,
          "/site/a.html: changed\n", "", "Pears"},
         {u"change|--folder|.|--effect|popupalertbox|--set|txtAlertText=Dates", 0,
@@ -189,6 +202,13 @@ TEST_F(CliTest, BringsTheFilesOfAnEffectBesideEachPageOnce)
     EXPECT_EQ(At(u"/out/a.gif"), "GIF");
     EXPECT_EQ(At(u"/out/orvane.js"), "/*! Orvane page script 1.0.0 */");
     EXPECT_NE(At(u"/out/e.html").find("orvane.js"), std::string::npos);
+    const std::string before = At(u"/out/e.html");
+    Run(u"make|show.ovr|--into|/out/d.html|/out/e.html|--today");
+    EXPECT_EQ(m_out, "/out/d.html: unchanged\n/out/e.html: unchanged\n") << m_error;
+    ExpectSameBytes(before, At(u"/out/e.html"));
+    m_files.Contents[u"/site/b.gif"] = "another";
+    Run(u"make|show.ovr|--into|/out/d.html|--today");
+    EXPECT_NE(m_error.find("b.gif already exists in this folder."), std::string::npos) << m_error;
 }
 
 TEST_F(CliTest, TakesSecretsFromTheEnvironmentOrAPromptAlone)

@@ -249,7 +249,8 @@ TEST_F(OVMainFormTest, MenuBarHasItsCaptionsInOrder)
     QStringList bar;
     for (const QAction* action : m_form.menuBar()->actions())
         bar += action->text() + u'(' + Captions(*action->menu()) + u')';
-    EXPECT_EQ(bar.join(u'\n').toStdString(), R"menu(&File(&Bring back a page...|-|E&xit)
+    EXPECT_EQ(bar.join(u'\n').toStdString(),
+              R"menu(&File(&Open recipe...|&Bring back a page...|-|E&xit)
 &Edit(&Edit Special Effect...|E&ffects on a page...|&Preferences...)
 &Special Effects(&Image Effects(&Advanced Animator...|Animated Bu&tton...|A&nimation Wizard...|&Banner/Billboard Wizard...|&Dynamic Button...|&Falling/Floating Images...|&Image Effects...|Image &Fade...|Image &Rollover...|I&mage Scroller|Image &Transitions...|&More Image Effects...|Mouse &Cursor Trail...|Random I&mage...|&Slideshow...|Thought &Bubbles...)|&Text Effects(&AntiSpam Email Protector...|Fading &Message...|&Flashing Text...|Fl&ying Text...|&Navigator Ticker...|&Random Quote...|S&haking Text...|Sm&ooth Scrolling Text Ticker...|Status &Bar Text Ticker...|&Swirly Text...|Te&xt Button...|T&ext Effects...|&Text Transitions...|Toolt&ip...|T&ypewriter Text...|&Vertical Scrolling Text...)|&Other Special Effects(&All-in-one Button...|Background Color &Fade-in/Fade-out...|Color Sc&rollbars...|&Day Calendar...|Digital &Clock...|&Earthquake window...|Page &Transitions...|&Password Protection...|Personali&zed Web page...|Pop&Up Alert box...|PopUp &Window...|Pu&lldown Menu...|Search Box...|Sou&nd Effect...|Sc&rolling Credits...|Sliding Instant Message Window...|Web Page Translator...))
 &Help(&Contents...|&See them all|Chec&k for update...|-|&About...))menu");

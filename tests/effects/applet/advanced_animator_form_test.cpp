@@ -151,7 +151,7 @@ TEST_F(AdvancedAnimatorFormTest, ProjectsAreSavedOpenedAndBegunAnewAndTheTitleTe
 TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith)
 {
     FormDesk road(m_desk.Bench, nullptr);
-    road.OpenProject(u"/film.ovn");
+    road.OpenFile(u"/film.ovn");
     EXPECT_EQ(m_desk.Dialogs.TakeSaid(), Texts{u"Orvane cannot find the file /film.ovn."});
 
     m_desk.Files.Contents[u"/film.ovn"] = ExpectedBytes("animator_project_two_images.ovn");
@@ -160,7 +160,7 @@ TEST_F(AdvancedAnimatorFormTest, OpensWithTheProjectThatTheProgramWasStartedWith
         image = wizard.Parameters().Rows.at(1).FileName;
         wizard.reject();
     });
-    road.OpenProject(u"/film.ovn");
+    road.OpenFile(u"/film.ovn");
     EXPECT_EQ(image, u"b.gif");
 }
 
