@@ -47,6 +47,12 @@ void WizardForm::GoTo(int page)
                                              : QStringLiteral("&Next >>"));
     }
     ShowPanel(page);
+    FocusOn(page);
+}
+
+void WizardForm::FocusOn(int page)
+{
+    const WizardPage& words = WordsOf(page);
     auto* control =
         words.Focus.empty() ? FirstControl(*PanelAt(page)) : findChild<QWidget*>(ToQt(words.Focus));
     if (control != nullptr)
@@ -121,6 +127,14 @@ void WizardForm::WasDelivered()
     DropDraftFile(m_bench.Files, DraftPath());
     m_kept = Draft();
     WriteDraftFile(m_bench.Files, LastTimePath(), m_kept);
+}
+
+void WizardForm::showEvent(QShowEvent* event)
+{
+    // Else what is typed at once would go to an offer above the page.
+    if (!event->spontaneous() && focusWidget() == nullptr)
+        FocusOn(Page());
+    WizardFrame::showEvent(event);
 }
 
 void WizardForm::hideEvent(QHideEvent* event)

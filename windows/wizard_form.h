@@ -96,9 +96,11 @@ protected:
     /// Fills the fields from such a text.
     virtual void TakeDraft(TextView draft) = 0;
 
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void FocusOn(int page);
     Text DraftPath() const;
     Text LastTimePath() const;
     void KeepDraft();

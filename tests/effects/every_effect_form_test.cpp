@@ -273,6 +273,7 @@ TYPED_TEST(EveryEffectTest, CancelledAndDeliveredWorkIsOfferedByTheNextWindow)
     TypeParam last(this->m_desk.Bench);
     last.show();
     EXPECT_TRUE(Find<QWidget>(last, "lblTakeUp")->isHidden());
+    EXPECT_NE(last.focusWidget()->objectName(), "lblAsLastTime") << "what is typed is not lost";
     Press(*Find<QWidget>(last, "lblAsLastTime"), Qt::Key_Return);
     EXPECT_EQ(ToUtf8(WriteDraft(last.Parameters())), ToUtf8(before));
     TypeParam opened(this->m_desk.Bench);
