@@ -68,7 +68,7 @@ bool IsShown(const FieldFacts& field)
     return !field.Name.IsSecret || IsTypedSecret(field);
 }
 
-std::string Json(const FieldFacts& field)
+std::string Json(const FieldFacts& field, TextView label)
 {
     std::vector<std::string> value;
     for (const Text& text : field.Value)
@@ -77,6 +77,7 @@ std::string Json(const FieldFacts& field)
     for (const Text& choice : ChoicesOf(field))
         choices.push_back(JsonText(choice));
     return JsonObject({{"name", JsonText(FromUtf8(field.Name.Name))},
+                       {"label", JsonText(label)},
                        {"holds", JsonText(FromUtf8(NameOf(field.Holds)))},
                        {"meaning", JsonText(MeaningOf(field))},
                        {"default", JsonArray(value)},
@@ -84,12 +85,12 @@ std::string Json(const FieldFacts& field)
                        {"secret", field.Name.IsSecret ? "true" : "false"}});
 }
 
-std::string Json(const CatalogueRow& row, bool withFields)
+std::string Json(const CatalogueRow& row, bool withFields, const CliWorld& world)
 {
     std::vector<std::string> fields;
     for (const FieldFacts& field : AnyEffect::Fresh(row.Kind)->Fields())
         if (withFields && IsShown(field))
-            fields.push_back(Json(field));
+            fields.push_back(Json(field, world.FieldLabel(row.Form, field.Name.Name)));
     const std::string effect = JsonObject({{"title", JsonText(row.Title)},
                                            {"name", JsonText(row.MarkerName)},
                                            {"description", JsonText(row.Description)}});
@@ -98,7 +99,7 @@ std::string Json(const CatalogueRow& row, bool withFields)
     return effect.substr(0, effect.size() - 1) + ", \"fields\": " + JsonArray(fields) + "}";
 }
 
-std::string Lines(const CatalogueRow& row, bool withFields)
+std::string Lines(const CatalogueRow& row, bool withFields, const CliWorld& world)
 {
     if (!withFields)
         return ToUtf8(Join({row.Title, u"\t", row.Description, u"\n"}));
@@ -106,7 +107,8 @@ std::string Lines(const CatalogueRow& row, bool withFields)
     for (const FieldFacts& field : AnyEffect::Fresh(row.Kind)->Fields())
         if (IsShown(field))
             lines += ToUtf8(Join({FromUtf8(field.Name.Name), u"\t", Listed(field.Value), u"\t",
-                                  MeaningOf(field), u"\n"}));
+                                  MeaningOf(field), u"\t",
+                                  world.FieldLabel(row.Form, field.Name.Name), u"\n"}));
     return lines;
 }
 
@@ -133,8 +135,8 @@ CliExit ShowEffects(const CliRequest& request, CliWorld& world)
     }
     std::vector<std::string> shown;
     for (const CatalogueRow* row : rows)
-        shown.push_back(request.Has("--json") ? Json(*row, named.has_value())
-                                              : Lines(*row, named.has_value()));
+        shown.push_back(request.Has("--json") ? Json(*row, named.has_value(), world)
+                                              : Lines(*row, named.has_value(), world));
     if (request.Has("--json"))
         world.Out(JsonArray(shown) + '\n');
     else

@@ -1,4 +1,5 @@
 #include "program/cli.h"
+#include "program/cli_field_labels.h"
 #include "program/cli_own_files.h"
 
 #include "disk/disk_file_store.h"
@@ -115,7 +116,8 @@ int main(int argc, char** argv)
                    .Variable = EnvironmentVariable,
                    // A terminal that shows what was done needs no other progress.
                    .ShowsProgress = isatty(STDERR_FILENO) == 1 && isatty(STDOUT_FILENO) != 1,
-                   .OwnFile = OwnFile};
+                   .OwnFile = OwnFile,
+                   .FieldLabel = FieldLabel};
     if (isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1) {
         world.Ask = Ask;
         world.AskSecret = AskSecret;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/complaint.h"
 #include "core/file_store.h"
 #include "disk/program_folder.h"
 
@@ -39,6 +40,8 @@ struct CliWorld
     /// The bytes of a file that travels inside the program, such as an applet's
     /// class; nothing for any other name.
     std::function<std::optional<std::string_view>(TextView name)> OwnFile;
+    /// What the effect window of this name calls a field; empty for a field without words.
+    std::function<TextView(ControlName form, ControlName field)> FieldLabel;
 };
 
 } // namespace orvane

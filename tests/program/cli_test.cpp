@@ -76,6 +76,9 @@ protected:
                          if (name == u"orvane.js")
                              return "/*! Orvane page script 1.0.0 */";
                          return std::nullopt;
+                     },
+                     .FieldLabel = [](ControlName form, ControlName field) -> TextView {
+                         return form == "PopupAlert" && field == "txtAlertText" ? u"Text" : u"";
                      }};
 };
 
@@ -153,7 +156,7 @@ TEST_F(CliTest, DoesWhatItsWordsSayAndTellsSo)
          "cmboAlertType: Simple Alert box\ntxtAlertText: \n",
          "", ""},
         {u"effects|--fields|popup alert box", 0,
-         "cmboAlertType\tSimple Alert box\ttext\ntxtAlertText\t\ttext\n", "", ""},
+         "cmboAlertType\tSimple Alert box\ttext\t\ntxtAlertText\t\ttext\tText\n", "", ""},
     };
     for (const Step& step : steps) {
         SCOPED_TRACE(ToUtf8(step.Words));
