@@ -14,7 +14,8 @@ export function paced(animations, step) {
     let timer = 0;
     const tick = () => {
         const now = performance.now();
-        time += now - before;
+        // What the page needs until the first picture is no part of the movement.
+        time += before && now - before;
         before = now;
         for (const one of animations) {
             if (time < end) one.currentTime = time;
@@ -25,7 +26,7 @@ export function paced(animations, step) {
     for (const one of animations) one.pause();
     return (moves) => {
         clearTimeout(timer);
-        before = performance.now();
-        if (moves && time < end) timer = setTimeout(tick, step);
+        before = 0;
+        if (moves && time < end) timer = setTimeout(tick);
     };
 }

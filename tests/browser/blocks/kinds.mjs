@@ -216,8 +216,9 @@ export const kinds = [
         async sees(tab, n) {
             const position = (n) => getComputedStyle(inside(".text", n)).backgroundPositionX;
             const before = await tab.evaluate(position, n);
-            await wait(300);
-            assert.notEqual(await tab.evaluate(position, n), before);
+            const rests = (n, before) =>
+                getComputedStyle(inside(".text", n)).backgroundPositionX === before;
+            await until(tab, false, rests, n, before);
         },
     },
     {

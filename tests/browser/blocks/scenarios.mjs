@@ -185,7 +185,7 @@ export const scenarios = [
             await open({ policy: true });
             await row.sees(tab, 0);
             if (row.parts) return;
-            await open({ before: refused });
+            await open({ before: sure + refused });
             await (row.keeps ? says(tab, row) : row.sees(tab, 0));
         },
     },
