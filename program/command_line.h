@@ -20,9 +20,9 @@ struct TerminalAnswer
 /// neither is there.
 std::optional<TerminalAnswer> AnswerOf(const QStringList& arguments, TextView version);
 
-/// The full path of the recipe or project that the arguments name, empty for none; an answer with the
-/// usage and exit code 2 when they are anything else. Expects the arguments without the program's
-/// name and the toolkit's own options.
+/// The full path of the recipe or project that the arguments name, empty for none; an answer with
+/// the usage and exit code 2 when they are anything else. Expects the arguments without the
+/// program's name and the toolkit's own options.
 std::variant<Text, TerminalAnswer> FileOf(const QStringList& arguments);
 
 } // namespace orvane
