@@ -1,5 +1,7 @@
 #include "preview/page_pane_panel.h"
 
+#include <QDialog>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -10,6 +12,13 @@ namespace orvane {
 PagePanePanel::PagePanePanel(Workbench& bench, QWidget* pane) : m_bench(bench), m_pane(pane)
 {
     (new QVBoxLayout(this))->setContentsMargins({});
+    // The page would keep the key to itself.
+    auto* escape = new QShortcut(QKeySequence::Cancel, this);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, this, [this] {
+        if (auto* dialog = qobject_cast<QDialog*>(window()))
+            dialog->reject();
+    });
 }
 
 PagePanePanel::~PagePanePanel()

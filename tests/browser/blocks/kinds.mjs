@@ -303,7 +303,7 @@ export const kinds = [
         links: ["plums.html"],
         async sees(tab, n) {
             const shown = (n) =>
-                inside(".shown", n).checkVisibility() && inside(".shown", n).getAttribute("src");
+                inside(".shown", n).offsetWidth && inside(".shown", n).getAttribute("src");
             await until(tab, "a.gif", shown, n);
             await wait(100);
             await tab.evaluate((n) => inside("a", n).focus(), n);
