@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
+#include <QLineEdit>
 #include <QProcess>
 #include <QSlider>
 #include <QTest>
@@ -103,6 +104,8 @@ void PressKey(WizardForm& wizard, const char* name)
     static int keys = 0;
     const bool isForth = ++keys % 20 < 10;
     auto* control = wizard.findChild<QWidget*>(QLatin1String(name));
+    if (auto* line = qobject_cast<QLineEdit*>(control))
+        line->end(false); // what opens selected would be replaced by the first key
     if (qobject_cast<QSlider*>(control) != nullptr)
         QTest::keyClick(control, isForth ? Qt::Key_Left : Qt::Key_Right);
     else if (qobject_cast<QCheckBox*>(control) != nullptr)
