@@ -23,6 +23,7 @@
 #include "windows/picked_files.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace orvane {
 
@@ -214,6 +215,8 @@ std::optional<Text> FormDesk::ShowBringBack(TextView page, QWidget* parent)
 void FormDesk::ShowModally(QDialog& window)
 {
     GiveFocusBack(window);
+    // Not every window manager gives the keys to a window that follows another one.
+    QTimer::singleShot(0, &window, &QWidget::activateWindow);
     window.exec();
 }
 

@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShowEvent>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -128,8 +127,6 @@ void PutInForm::showEvent(QShowEvent* event)
     if (lstPlaces != nullptr)
         first = lstPlaces;
     first->setFocus();
-    // The pane that comes into the window can cost it the keys.
-    QTimer::singleShot(0, this, &QWidget::activateWindow);
 }
 
 /// Looks for the effect in the page where another program has written that.
