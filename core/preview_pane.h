@@ -4,9 +4,11 @@
 #include "core/text.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -21,12 +23,33 @@ struct PanePage
     bool RunsInStatus = false; ///< the effect shows in the status line, outside the page
 };
 
+/// Bytes that do not change and that all copies share: an author's page may be large, and a new
+/// picture of it comes with every key.
+class SharedBytes
+{
+public:
+    SharedBytes() : SharedBytes(std::string()) {}
+    SharedBytes(std::string bytes) : m_bytes(std::make_shared<const std::string>(std::move(bytes)))
+    {
+    }
+    operator std::string_view() const { return *m_bytes; }
+    const std::string* operator->() const { return m_bytes.get(); }
+    const std::string& operator*() const { return *m_bytes; }
+    bool operator==(const SharedBytes& other) const
+    {
+        return m_bytes == other.m_bytes || *m_bytes == *other.m_bytes;
+    }
+
+private:
+    std::shared_ptr<const std::string> m_bytes; ///< never null
+};
+
 /// A file that a live page finds under a name beside it, wherever it lies.
 struct PaneFile
 {
     Text Name;
     Text Path;              ///< its full path; empty: it lies nowhere and holds these bytes
-    std::string Bytes = {}; ///< unless it has a path
+    SharedBytes Bytes = {}; ///< unless it has a path
     bool operator==(const PaneFile&) const = default;
 };
 
@@ -55,7 +78,7 @@ struct PointedPlace
 struct LivePage
 {
     Text Name;                   ///< its file name, for links to itself
-    std::string Bytes;           ///< what a file of it would hold
+    SharedBytes Bytes;           ///< what a file of it would hold
     Text Folder;                 ///< full path; the page can read what lies in it or below it
     std::vector<PaneFile> Files; ///< and these, in front of files of the same names there
     Text Note;                   ///< as in PanePage

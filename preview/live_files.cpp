@@ -51,7 +51,7 @@ const MimeRow* RowOfName(TextView name)
     return row == std::end(mimeRows) ? nullptr : &*row;
 }
 
-std::string Bytes(const LivePage& page, const std::string& bytes)
+SharedBytes Bytes(const LivePage& page, const SharedBytes& bytes)
 {
     return page.View.HasReducedMotion ? WithReducedMotion(bytes) : bytes;
 }

@@ -50,10 +50,9 @@ Text InsideOf(TextView comment)
 LivePage EmptyPage(const FinishedPayload& payload)
 {
     LivePage page = PictureOf(std::nullopt);
-    page.Bytes =
+    std::string bytes =
         EncodeForPage(PreviewPageText(payload, PreviewMode::Live), PageEncoding::Windows1252);
-    if (payload.WantsPageScript)
-        page.Bytes = WithPageScript(page.Bytes);
+    page.Bytes = payload.WantsPageScript ? WithPageScript(bytes) : std::move(bytes);
     return page;
 }
 

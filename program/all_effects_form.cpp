@@ -64,12 +64,13 @@ LivePage AllEffectsForm::Page() const
         return page;
     }
     const std::string ownLink = "<A HREF=\"" + ToUtf8(ownLinkStart);
+    std::string linked;
     std::string_view rest = ValueIn(bytes);
     for (std::size_t at; (at = rest.find(linkOfPage)) != rest.npos;) {
-        page.Bytes.append(rest.substr(0, at)).append(ownLink);
+        linked.append(rest.substr(0, at)).append(ownLink);
         rest.remove_prefix(at + linkOfPage.size());
     }
-    page.Bytes.append(rest);
+    page.Bytes = linked.append(rest);
     return page;
 }
 

@@ -100,10 +100,11 @@ std::optional<EffectInPage> SameEffect(std::string_view page, std::string_view o
 
 LivePage PictureOf(TextView path, const std::string& bytes, std::optional<std::size_t> place)
 {
-    LivePage page = PictureOf(HostPage{Text(path), bytes});
+    HostPage host{Text(path), bytes};
     if (!place)
-        return page;
-    page.Bytes.insert(*place, ToUtf8(Join({u"<!--", shownPlaceMark, u"-->"})));
+        return PictureOf(host);
+    host.Bytes.insert(*place, ToUtf8(Join({u"<!--", shownPlaceMark, u"-->"})));
+    LivePage page = PictureOf(host);
     page.Mark = shownPlaceMark;
     page.ScrollsToMark = true;
     return page;

@@ -126,7 +126,7 @@ void AwaitPicture(testing::LiveDesk& desk)
 /// Writes the page and its files, for a bare view to show.
 void Keep(const LivePage& page, const QString& folder)
 {
-    testing::WriteFile((folder + QStringLiteral("/page.html")).toStdString(), page.Bytes);
+    testing::WriteFile((folder + QStringLiteral("/page.html")).toStdString(), *page.Bytes);
     for (const PaneFile& file : page.Files)
         QFile::copy(ToQt(file.Path), folder + u'/' + ToQt(file.Name));
 }

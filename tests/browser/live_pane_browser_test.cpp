@@ -208,7 +208,7 @@ TEST_F(LivePaneBrowserTest, LooksAtThePageAsTheAuthorWants)
     EXPECT_EQ(shown({.Width = 390, .HasReducedMotion = true}), "true|390|rgb(1, 2, 3)");
     shown({.Width = 1280});
     EXPECT_EQ(shown({.Width = 1280}), "false|1280|rgb(0, 0, 0)");
-    page.Bytes = "<body><script>status = 'script'</script>";
+    page.Bytes = std::string("<body><script>status = 'script'</script>");
     shown({.RunsScript = false});
     EXPECT_EQ(m_page.Status(), u"");
     shown({});

@@ -23,7 +23,7 @@ protected:
 TEST_F(LivePageTest, ShowsTheAuthorsPageAsAutoInsertWouldLeaveIt)
 {
     const LivePicture picture = In("<html><head></head><body>\r\nOld</body></html>");
-    EXPECT_EQ(picture.Page.Bytes,
+    EXPECT_EQ(*picture.Page.Bytes,
               "<html><head></head><body>\r\r\n"
               "<!-- ***** Begin:Varlo Popup Alert special effect ***** -->\r\n<b>new</b>\r\n"
               "<!-- ***** End:Varlo Popup Alert special effect ***** -->\r\n\r\nOld</body></html>");
@@ -42,7 +42,7 @@ TEST_F(LivePageTest, ShowsAnEmptyPageWhereAutoInsertFindsNoPlaceAndSaysSo)
         EXPECT_EQ(picture.Line, Join({u"Auto-insert finds no place for the special effect in this "
                                       u"page, so it is shown in an empty one.",
                                       why}));
-        EXPECT_NE(picture.Page.Bytes.find("<b>new</b>"), std::string::npos);
+        EXPECT_NE(picture.Page.Bytes->find("<b>new</b>"), std::string::npos);
         EXPECT_EQ(picture.Page.Folder, u"") << "it is not the author's page";
     }
 }
@@ -51,7 +51,7 @@ TEST_F(LivePageTest, NamesTheButtonBesideTheFieldsAndLeavesTheEffectAsItIs)
 {
     m_effect.Kind = EffectKind::RandomQuote;
     m_effect.BODYHTML = u"My <b>Refresh</b>";
-    const std::string page = PictureOf(m_effect, std::nullopt, m_files, u"/program").Page.Bytes;
+    const std::string page(PictureOf(m_effect, std::nullopt, m_files, u"/program").Page.Bytes);
     EXPECT_NE(page.find("Click the <b>Run again</b> button"), std::string::npos);
     EXPECT_NE(page.find("My <b>Refresh</b>"), std::string::npos);
 }
@@ -68,7 +68,7 @@ TEST_F(LivePageTest, FindsItsFilesWhereTheyLieAndNamesTheOthers)
     const LivePicture picture = In("<head></head><body></body>");
     EXPECT_EQ(picture.Line, u"Shown as with 'Make it run in today's browsers'.");
     EXPECT_EQ(picture.Page.Note, u"Not found: gone.gif, typed.gif, password.cgi.");
-    EXPECT_EQ(FileOf(picture.Page, u"made.txt"), (PaneFile{u"made.txt", {}, "words"}));
+    EXPECT_EQ(FileOf(picture.Page, u"made.txt"), (PaneFile{u"made.txt", {}, std::string("words")}));
     EXPECT_EQ(FileOf(picture.Page, u"a.gif"), (PaneFile{u"a.gif", u"/pics/a.gif"}));
     EXPECT_EQ(FileOf(picture.Page, u"orvane.js"), (PaneFile{u"orvane.js", u"/program/orvane.js"}));
     EXPECT_EQ(FileOf(picture.Page, u"index.html")->Bytes, picture.Page.Bytes);

@@ -23,7 +23,7 @@ TEST(AllEffectsFormTest, CtrlGShowsThemAtWorkAndANameOpensItsWizard)
     bool wasOpened = false;
     WhenInFront<AllEffectsForm>([&](AllEffectsForm& all) {
         ExpectAccessible(all);
-        EXPECT_EQ(desk.Pane.Live.back().Bytes,
+        EXPECT_EQ(*desk.Pane.Live.back().Bytes,
                   "a <A HREF=\"http://orvane.invalid/clock\">Clock</A> "
                   "<A HREF=\"http://orvane.invalid/fade\">Fade</A>");
         Click(all, "cmdShowInBrowser");

@@ -119,7 +119,7 @@ TEST_F(PageEffectsRoadTest, ChangesAnEffectWithTheFieldsThatItWasDeliveredWith)
             WhenInFront<StatusBarTickerForm>([&](StatusBarTickerForm& again) {
                 Enter(again, u"last words");
                 WhenInFront<PutInForm>([&](PutInForm& form) {
-                    EXPECT_NE(m_desk.Pane.Live.back().Bytes.find("last words"), std::string::npos);
+                    EXPECT_NE(m_desk.Pane.Live.back().Bytes->find("last words"), std::string::npos);
                     EXPECT_EQ(Bytes(), before);
                     Press(*form.focusWidget(), Qt::Key_Return);
                 });

@@ -81,11 +81,11 @@ TEST_F(EffectsOnPageFormTest, ListsEachEffectAndScrollsThePageToTheChosenOne)
     EXPECT_EQ(m_list->item(1)->data(Qt::AccessibleTextRole).toString().toStdU16String(),
               u"Dynamic Button, in the body, line 7, whole, with the files b.gif.");
     EXPECT_FALSE(m_list->item(0)->icon().pixmap(32, 32).isNull());
-    EXPECT_TRUE(Shown().Bytes.starts_with(head + "<!--" + ToUtf8(Shown().Mark) + "-->" + slides));
+    EXPECT_TRUE(Shown().Bytes->starts_with(head + "<!--" + ToUtf8(Shown().Mark) + "-->" + slides));
     EXPECT_EQ(Shown().Folder, u"/site/");
     EXPECT_EQ(Choose(Qt::Key_Down), u"");
     EXPECT_TRUE(IsEnabled("cmdTakeOut"));
-    EXPECT_NE(Shown().Bytes.find("-->" + button), std::string::npos);
+    EXPECT_NE(Shown().Bytes->find("-->" + button), std::string::npos);
     EXPECT_TRUE(Choose(Qt::Key_Down).starts_with(u"One of the two comments"));
     EXPECT_FALSE(IsEnabled("cmdTakeOut"));
     Press(*m_list, Qt::Key_Delete);
@@ -127,7 +127,7 @@ TEST_F(EffectsOnPageFormTest, TakesOutAfterOneQuestionAndBringsBackStepByStep)
     Press(*m_list, Qt::Key_Delete);
     EXPECT_EQ(Bytes(), head + button + tail + half);
     EXPECT_EQ(m_desk.Files.Contents[u"/site/Backup of a.html"], page);
-    EXPECT_EQ(Shown().Bytes.find("a.gif"), std::string::npos);
+    EXPECT_EQ(Shown().Bytes->find("a.gif"), std::string::npos);
     EXPECT_EQ(m_form.focusWidget(), m_list);
     AnswerTakeOut(u"Dynamic Button", u"b.gif", true);
     Click(m_form, "cmdTakeOut");
@@ -153,7 +153,7 @@ TEST_F(EffectsOnPageFormTest, LeavesWhatAnotherProgramWroteMeanwhile)
     EXPECT_EQ(Bytes(), theirs);
     EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u);
     EXPECT_FALSE(IsEnabled("cmdBringBack")) << "it would undo what they wrote";
-    EXPECT_NE(Shown().Bytes.find("hers"), std::string::npos);
+    EXPECT_NE(Shown().Bytes->find("hers"), std::string::npos);
 
     Bytes() = "no effects";
     QEvent activation(QEvent::ActivationChange);

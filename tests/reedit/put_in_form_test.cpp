@@ -43,7 +43,7 @@ TEST(PutInFormTest, PutsAnEffectBeforeOrBehindThePartOfTheListOrOfTheClick)
     auto* list = Find<QListWidget>(form, "lstPlaces");
     EXPECT_EQ(form.focusWidget(), list);
     auto* cmdPutIn = Find<QWidget>(form, "cmdPutIn");
-    const auto shownAt = [&](const char* text) { return desk.Pane.Live.back().Bytes.find(text); };
+    const auto shownAt = [&](const char* text) { return desk.Pane.Live.back().Bytes->find(text); };
     Press(*list, Qt::Key_Down);
     EXPECT_LT(shownAt("outline:"), shownAt("<h1"));
     Find<QRadioButton>(form, "optPlace(1)")->click();
