@@ -3,6 +3,7 @@
 #include "core/file_names.h"
 #include "core/file_store.h"
 #include "windows/qt_text.h"
+#include "windows/shared_folder.h"
 
 #include <QEvent>
 #include <QImage>
@@ -79,7 +80,7 @@ QVariant TopicBrowser::Picture(TextView name) const
     const auto bytes = m_files.Read(PathIn(m_pictures, GetFileName(name)));
     // The pictures of windows are not copied into the program's folder.
     if (FaultIn(bytes) != nullptr)
-        return QImage(QStringLiteral(":/help/") + ToQt(GetFileName(name)));
+        return QImage(SharedFolder(QStringLiteral("help/")) + ToQt(GetFileName(name)));
     return QImage::fromData(QByteArray::fromStdString(ValueIn(bytes)));
 }
 

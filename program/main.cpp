@@ -6,6 +6,7 @@
 #include "program/qt_shell.h"
 #include "program/terminal.h"
 #include "windows/qt_text.h"
+#include "windows/shared_folder.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -48,6 +49,17 @@ double DaysSince1900()
     const QDateTime now = QDateTime::currentDateTime();
     const auto days = QDate(1899, 12, 30).daysTo(now.date());
     return static_cast<double>(days) + now.time().msecsSinceStartOfDay() / 86400000.0;
+}
+
+/// Of the desktop's pictures, since the drawing that they were made of takes a library to be read.
+QIcon WindowIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 64})
+        icon.addFile(QStringLiteral("%1/%2x%2/apps/%3.png")
+                         .arg(orvane::SharedFolder(QStringLiteral("../icons/hicolor")),
+                              QString::number(size), QGuiApplication::desktopFileName()));
+    return icon;
 }
 
 /// Version, size and age of the program's file.
@@ -105,9 +117,9 @@ int main(int argc, char** argv)
                          .Today = [] { return FromQt(QDate::currentDate().toString(Qt::ISODate)); },
                          .Clock = &DaysSince1900});
     program.Desk.Start();
-    // After the first paint of the window: the icon alone loads a library.
+    // After the first paint of the window.
     QTimer::singleShot(0, &program.Desk, [&] {
-        QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/orvane.svg")));
+        QApplication::setWindowIcon(WindowIcon());
         RemovePreviewPages(disk.Files, program.Core);
         InstallResources(disk.Files, dialogs, folders->Program, BuildOf(disk.Files));
         if (const Text& path = std::get<Text>(file); !path.empty())

@@ -10,6 +10,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 namespace orvane {
@@ -56,18 +57,41 @@ Done InstallFolder(FileStore& files, const Place& place)
     return {};
 }
 
-/// What tells whether the files are still those that this build wrote, without opening one of them.
-std::string StampOf(const FileStore& files, std::span<const Place> places, TextView build)
+/// A line of the stamp: the file and what tells, without opening it, whether it is still the one
+/// that was written.
+std::string StampLine(const FileStore& files, TextView path)
+{
+    const FileFacts facts = files.Facts(path).value_or(FileFacts());
+    return ToUtf8(path) + ' ' + std::to_string(facts.Size) + ' ' + std::to_string(facts.Written) +
+           '\n';
+}
+
+std::string Stamp(const FileStore& files, std::span<const Place> places, TextView build)
 {
     std::string stamp = ToUtf8(build) + '\n';
     for (const Place& place : places)
-        for (const QFileInfo& entry : place.Files()) {
-            const Text path = PathIn(place.Folder, FromQt(entry.fileName()));
-            const FileFacts facts = files.Facts(path).value_or(FileFacts());
-            stamp += ToUtf8(path) + ' ' + std::to_string(facts.Size) + ' ' +
-                     std::to_string(facts.Written) + '\n';
-        }
+        for (const QFileInfo& entry : place.Files())
+            stamp += StampLine(files, PathIn(place.Folder, FromQt(entry.fileName())));
     return stamp;
+}
+
+/// Whether this build wrote the stamp and every file in it is still as it was then. The program's
+/// own copies of the files are not looked at: that alone would read a good part of the program.
+bool IsInstalled(const FileStore& files, std::string_view stamp, TextView build)
+{
+    const std::string firstLine = ToUtf8(build) + '\n';
+    if (!stamp.starts_with(firstLine))
+        return false;
+    stamp.remove_prefix(firstLine.size());
+    while (!stamp.empty()) {
+        const std::string_view line = stamp.substr(0, stamp.find('\n') + 1);
+        const std::size_t size = line.find_last_of(' ', line.find_last_of(' ') - 1);
+        if (line.empty() || size == std::string_view::npos ||
+            line != StampLine(files, FromUtf8(line.substr(0, size))))
+            return false;
+        stamp.remove_prefix(line.size());
+    }
+    return true;
 }
 
 } // namespace
@@ -80,7 +104,7 @@ void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder
                             {":/runtime", "", Text(programFolder)}};
     const Text stampPath = PathIn(programFolder, u"installed.txt");
     const auto stamp = files.Read(stampPath);
-    if (!FaultIn(stamp) && ValueIn(stamp) == StampOf(files, places, build))
+    if (!FaultIn(stamp) && IsInstalled(files, ValueIn(stamp), build))
         return;
     for (const Place& place : places) {
         const Done installed = InstallFolder(files, place);
@@ -91,7 +115,7 @@ void InstallResources(FileStore& files, Dialogs& dialogs, TextView programFolder
         }
     }
     // Without it the next start compares all of them again.
-    std::ignore = files.Replace(stampPath, StampOf(files, places, build));
+    std::ignore = files.Replace(stampPath, Stamp(files, places, build));
 }
 
 } // namespace orvane
