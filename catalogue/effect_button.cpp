@@ -73,13 +73,13 @@ void EffectButton::SetFavorite(bool isFavorite)
 void EffectButton::DrawPicture()
 {
     if (m_still.isNull())
-        m_still = QIcon(StillPicture(m_row, palette(), devicePixelRatioF()));
+        m_still = StillPicture(m_row, palette(), devicePixelRatioF());
     setIcon(m_still);
 }
 
-void EffectButton::ShowFrame(const QPixmap& frame)
+void EffectButton::ShowFrame(const QImage& frame)
 {
-    setIcon(QIcon(Edged(frame, palette())));
+    setIcon(Edged(frame, palette()));
 }
 
 void EffectButton::ShowStill()

@@ -25,7 +25,7 @@ public:
     void DrawPicture();
 
     /// Shows a frame of the moving picture in place of the picture.
-    void ShowFrame(const QPixmap& frame);
+    void ShowFrame(const QImage& frame);
     /// Shows the picture again.
     void ShowStill();
 

@@ -3,57 +3,81 @@
 #include "windows/qt_text.h"
 #include "windows/shared_folder.h"
 
-#include <QIcon>
+#include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
 
+#include <utility>
+
 namespace orvane {
 
 namespace {
 
-constexpr QSize drawingSize{48, 48};
 constexpr double cornerRadius = 4;
+
+class EdgedPicture : public QIconEngine
+{
+public:
+    EdgedPicture(QImage picture, const QColor& edge) : m_picture(std::move(picture)), m_edge(edge)
+    {
+    }
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode, QIcon::State) override
+    {
+        const double pixels = place.width() / static_cast<double>(pictureSize.width());
+        const double half = pixels / 2;
+        QPainterPath edge;
+        edge.addRoundedRect(QRectF(place).adjusted(half, half, -half, -half), cornerRadius * pixels,
+                            cornerRadius * pixels);
+        painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter->setClipPath(edge);
+        painter->drawImage(place, m_picture);
+        painter->setClipping(false);
+        painter->setPen(QPen(m_edge, pixels));
+        painter->drawPath(edge);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap drawn(size);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        paint(&painter, QRect({}, size), mode, state);
+        return drawn;
+    }
+
+    QIconEngine* clone() const override { return new EdgedPicture(*this); }
+
+private:
+    QImage m_picture;
+    QColor m_edge;
+};
 
 } // namespace
 
-QString PictureFile(const CatalogueRow& row, const QPalette& colors)
+QString PictureFile(const CatalogueRow& row, const QPalette& colors, double pixels)
 {
     const bool isDark = colors.color(QPalette::Window).lightness() < 128;
-    return QStringLiteral("%1/%2_%3.gif")
+    return QStringLiteral("%1/%2_%3%4.gif")
         .arg(SharedFolder(QStringLiteral("catalogue")), ToQt(row.Picture),
-             isDark ? QStringLiteral("dark") : QStringLiteral("light"));
+             isDark ? QStringLiteral("dark") : QStringLiteral("light"),
+             pixels > 1 ? QStringLiteral("@2x") : QString());
 }
 
-QPixmap StillPicture(const CatalogueRow& row, const QPalette& colors, double pixels)
+QIcon StillPicture(const CatalogueRow& row, const QPalette& colors, double pixels)
 {
-    QImageReader reader(PictureFile(row, colors));
-    reader.setScaledSize(pictureSize * pixels);
-    QPixmap picture = QPixmap::fromImageReader(&reader);
+    // Named, its format is not looked for in the libraries of all others.
+    const QImage picture = QImageReader(PictureFile(row, colors, pixels), "gif").read();
     if (picture.isNull())
-        return QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(row.Picture)))
-            .pixmap(drawingSize, pixels);
-    picture.setDevicePixelRatio(pixels);
+        return QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(row.Picture)));
     return Edged(picture, colors);
 }
 
-QPixmap Edged(QPixmap picture, const QPalette& colors)
+QIcon Edged(const QImage& picture, const QPalette& colors)
 {
-    QPixmap edged(picture.size());
-    edged.setDevicePixelRatio(picture.devicePixelRatio());
-    edged.fill(Qt::transparent);
-    QPainter painter(&edged);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QPainterPath edge;
-    const QRectF inner = QRectF({}, picture.deviceIndependentSize()).adjusted(0.5, 0.5, -0.5, -0.5);
-    edge.addRoundedRect(inner, cornerRadius, cornerRadius);
-    painter.setClipPath(edge);
-    painter.drawPixmap(0, 0, picture);
-    painter.setClipping(false);
-    painter.setPen(colors.color(QPalette::Mid));
-    painter.drawPath(edge);
-    return edged;
+    return QIcon(new EdgedPicture(picture, colors.color(QPalette::Mid)));
 }
 
 } // namespace orvane

@@ -2,7 +2,8 @@
 
 #include "core/catalogue.h"
 
-#include <QPixmap>
+#include <QIcon>
+#include <QImage>
 #include <QString>
 
 class QPalette;
@@ -12,15 +13,16 @@ namespace orvane {
 /// How large effects are shown in the catalogue.
 inline constexpr QSize pictureSize{144, 90};
 
-/// The full path of the moving picture of an effect at work, for windows with these colors; the
-/// file may be missing.
-QString PictureFile(const CatalogueRow& row, const QPalette& colors);
+/// The full path of the moving picture of an effect at work, for windows with these colors on a
+/// screen with so many pixels to a point; the file may be missing.
+QString PictureFile(const CatalogueRow& row, const QPalette& colors, double pixels);
 
-/// What stands first in the file, else the drawing of the effect inside the program; for a screen
-/// with so many pixels to a point.
-QPixmap StillPicture(const CatalogueRow& row, const QPalette& colors, double pixels);
+/// What stands first in the file, as it stands on a button; else the drawing of the effect inside
+/// the program.
+QIcon StillPicture(const CatalogueRow& row, const QPalette& colors, double pixels);
 
-/// The picture as it stands on a button: with a thin edge and rounded corners.
-QPixmap Edged(QPixmap picture, const QPalette& colors);
+/// The picture as it stands on a button: with a thin edge and rounded corners, which are drawn when
+/// they are needed, so that a picture of few colors takes little memory.
+QIcon Edged(const QImage& picture, const QPalette& colors);
 
 } // namespace orvane

@@ -53,8 +53,8 @@ void MovingPicture::Begin()
 {
     if (m_button == nullptr || m_movie.state() == QMovie::Running)
         return;
-    m_movie.setFileName(PictureFile(m_button->Row(), m_button->palette()));
-    m_movie.setScaledSize(pictureSize * m_button->devicePixelRatioF());
+    m_movie.setFileName(
+        PictureFile(m_button->Row(), m_button->palette(), m_button->devicePixelRatioF()));
     m_movie.start();
     m_end.start();
 }
@@ -73,9 +73,7 @@ void MovingPicture::ShowFrame()
 {
     if (m_button == nullptr || m_movie.state() != QMovie::Running)
         return;
-    QPixmap frame = m_movie.currentPixmap();
-    frame.setDevicePixelRatio(m_button->devicePixelRatioF());
-    m_button->ShowFrame(frame);
+    m_button->ShowFrame(m_movie.currentImage());
 }
 
 } // namespace orvane

@@ -15,15 +15,16 @@
 namespace orvane::testing {
 namespace {
 
-TEST(EffectPictureTest, EveryEffectHasASmallOneForLightAndDarkWindows)
+TEST(EffectPictureTest, EveryEffectHasSmallOnesForEachScreenAndForLightAndDarkWindows)
 {
     for (const CatalogueRow& row : Catalogue()) {
         qint64 bytes = 0;
-        for (const QColor window : {Qt::white, Qt::black}) {
-            const QString file = PictureFile(row, QPalette(window));
-            bytes += QFileInfo(file).size();
-            EXPECT_EQ(QImageReader(file).size(), 2 * pictureSize) << file.toStdString();
-        }
+        for (const QColor window : {Qt::white, Qt::black})
+            for (const double pixels : {1.0, 2.0}) {
+                const QString file = PictureFile(row, QPalette(window), pixels);
+                bytes += QFileInfo(file).size();
+                EXPECT_EQ(QImageReader(file).size(), pixels * pictureSize) << file.toStdString();
+            }
         EXPECT_LE(bytes, 30000) << row.MenuCommand;
     }
 }
