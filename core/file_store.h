@@ -63,14 +63,16 @@ public:
     /// followed, permissions kept.
     [[nodiscard]] virtual Done Replace(TextView path, std::string_view bytes) = 0;
 
-    /// Does what Replace() does, provided that the file still holds `old`. Gives false, with the
-    /// file as another program saved it last, when it holds anything else or is gone. Where the
+    /// Does what Replace() does with `bytes` and, behind them, `rest`, provided that the file still
+    /// holds `old`. Gives false, with the file as another program saved it last, when it holds
+    /// anything else or is gone. Where the
     /// file system can exchange the names of two files, no file that another program saves
     /// meanwhile is lost; elsewhere the file is looked at directly before it is written, and what
     /// is saved between the two is lost. What a program writes into a file that it opened before
     /// may be lost anywhere.
     [[nodiscard]] virtual Outcome<bool> Exchange(TextView path, std::string_view old,
-                                                 std::string_view bytes) = 0;
+                                                 std::string_view bytes,
+                                                 std::string_view rest = {}) = 0;
 
     /// Puts a new file with these bytes under the name. A link of that name is replaced, not
     /// followed; a replaced file that has other names keeps its content under them. Nobody but its

@@ -111,13 +111,14 @@ Outcome<std::string> DiskFileStore::ReadItself(TextView path) const
 Done DiskFileStore::Replace(TextView path, std::string_view bytes)
 {
     const std::string name = PathBytes(path);
-    return DoneAt(name, m_files.Replace(name, bytes, {}));
+    return DoneAt(name, m_files.Replace(name, {bytes, {}}, {}));
 }
 
-Outcome<bool> DiskFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes)
+Outcome<bool> DiskFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes,
+                                      std::string_view rest)
 {
     const std::string name = PathBytes(path);
-    return UnlessCancelled(name, m_files.Replace(name, bytes, old));
+    return UnlessCancelled(name, m_files.Replace(name, {bytes, rest}, old));
 }
 
 Done DiskFileStore::PutNew(TextView path, std::string_view bytes, TextView like)

@@ -29,7 +29,8 @@ public:
     Outcome<std::string> Read(TextView path) const override;
     Outcome<std::string> ReadItself(TextView path) const override;
     Done Replace(TextView path, std::string_view bytes) override;
-    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
+    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes,
+                           std::string_view rest = {}) override;
     Done PutNew(TextView path, std::string_view bytes, TextView like) override;
     Done PutPrivate(TextView path, std::string_view bytes) override;
     Outcome<bool> PutIfFree(TextView path, std::string_view bytes, TextView like) override;

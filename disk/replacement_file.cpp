@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace orvane {
 
@@ -17,8 +18,10 @@ constexpr std::size_t digitCount = 16;
 
 std::string TemporaryName()
 {
-    std::random_device random;
-    std::uint64_t number = (std::uint64_t{random()} << 32) | random();
+    // Not std::random_device, which asks the processor for its features each time it is made.
+    std::uint64_t number = 0;
+    if (::getentropy(&number, sizeof number) != 0)
+        number = std::random_device()();
     std::string name(ownNameStart);
     for (std::size_t i = 0; i < digitCount; ++i, number /= digits.size())
         name.push_back(digits[number % digits.size()]);
@@ -36,7 +39,15 @@ bool IsUnknownCall(const std::error_code& error)
 
 Filling FillingWith(std::string_view bytes)
 {
-    return [bytes](const FileHandle& file) { return file.WriteAll(bytes); };
+    return FillingWith(Pieces{bytes, {}});
+}
+
+Filling FillingWith(Pieces content)
+{
+    return [content](const FileHandle& file) {
+        const auto error = file.WriteAll(content.First);
+        return error ? error : file.WriteAll(content.Second, content.First.size());
+    };
 }
 
 bool IsTemporaryName(std::string_view name)

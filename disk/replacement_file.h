@@ -14,8 +14,17 @@ namespace orvane {
 /// Writes the content of a new file, which is open for writing and empty.
 using Filling = std::function<std::error_code(const FileHandle& file)>;
 
+/// The content of a file: one piece and, behind it, another, so that what stays of a large page is
+/// not copied.
+struct Pieces
+{
+    std::string_view First;
+    std::string_view Second;
+};
+
 /// A Filling that writes these bytes, which it borrows.
 Filling FillingWith(std::string_view bytes);
+Filling FillingWith(Pieces content);
 
 /// The start of every name that the file store uses for its own files.
 inline constexpr std::string_view ownNameStart = ".orvane-";

@@ -58,14 +58,15 @@ Done UnwrittenFiles::Replace(TextView path, std::string_view bytes)
     return {};
 }
 
-Outcome<bool> UnwrittenFiles::Exchange(TextView path, std::string_view old, std::string_view bytes)
+Outcome<bool> UnwrittenFiles::Exchange(TextView path, std::string_view old, std::string_view bytes,
+                                       std::string_view rest)
 {
     const auto present = Read(path);
     if (const Fault* fault = FaultIn(present))
         return *fault;
     if (ValueIn(present) != old)
         return false;
-    m_changes[Text(path)] = std::string(bytes);
+    m_changes[Text(path)] = Join({bytes, rest});
     return true;
 }
 

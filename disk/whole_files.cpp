@@ -1,5 +1,7 @@
 #include "disk/whole_files.h"
 
+#include "core/text.h"
+
 #include <tuple>
 
 #include <fcntl.h>
@@ -92,7 +94,7 @@ std::error_code WholeFiles::MustBeCopy(const std::string& path, const std::strin
                                               : copy.MustHold(bytes);
 }
 
-std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
+std::error_code WholeFiles::Replace(std::string path, Pieces content,
                                     std::optional<std::string_view> expected)
 {
     if (const auto error = FollowLinks(path))
@@ -102,7 +104,7 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
         if (error != std::errc::no_such_file_or_directory)
             return error;
         return expected ? std::make_error_code(std::errc::operation_canceled)
-                        : PutWhereNoneIs(path, FillingWith(bytes));
+                        : PutWhereNoneIs(path, FillingWith(content));
     }
     if (const auto error = m_inPlace.Restore(path, old.Status()))
         return error;
@@ -117,13 +119,13 @@ std::error_code WholeFiles::Replace(std::string path, std::string_view bytes,
             former = {ReplacementFile::Former::Kind::File, *expected};
         ReplacementFile file(m_calls, m_leftovers, path, old.Status(),
                              ReplacementFile::Rights::All);
-        const auto error = file.Put(FillingWith(bytes), former);
+        const auto error = file.Put(FillingWith(content), former);
         if (error && file.IsInPlace())
             PutBack(old, file);
         if (!IsRefusal(error) || file.IsInPlace())
             return error;
     }
-    return m_inPlace.Write(old, path, bytes, expected);
+    return m_inPlace.Write(old, path, Join({content.First, content.Second}), expected);
 }
 
 std::error_code WholeFiles::PutNew(const std::string& path, const Filling& fill,

@@ -35,10 +35,10 @@ public:
     [[nodiscard]] std::error_code MustBeCopy(const std::string& path, const std::string& other,
                                              std::string_view bytes) const;
 
-    /// Makes the file, links followed, hold these bytes; a missing file is created unless something
-    /// is `expected`. operation_canceled when it does not hold what is expected: for a new file as
-    /// ReplacementFile::Put() tells it, for one written in place directly before.
-    [[nodiscard]] std::error_code Replace(std::string path, std::string_view bytes,
+    /// Makes the file, links followed, hold this content; a missing file is created unless
+    /// something is `expected`. operation_canceled when it does not hold what is expected: for a
+    /// new file as ReplacementFile::Put() tells it, for one written in place directly before.
+    [[nodiscard]] std::error_code Replace(std::string path, Pieces content,
                                           std::optional<std::string_view> expected);
 
     /// Puts a new file with this content under the name itself, in place of a link or of a file. It

@@ -69,10 +69,11 @@ AutoInsertion AutoInsert(FileStore& files, Dialogs& dialogs, TextView page,
         dialogs.Say(manualWords);
         return AutoInsertion::Manual;
     }
-    const std::string& edited = std::get<EditedPage>(edit).Bytes;
-    if (!WritePage(files, dialogs, page, *bytes, edited, insertionWords))
+    const EditedPage& edited = std::get<EditedPage>(edit);
+    const std::string_view rest = edited.RestOf(*bytes);
+    if (!WritePage(files, dialogs, page, *bytes, edited.Bytes, insertionWords, rest))
         return AutoInsertion::NothingDone;
-    if (payload.WantsPageScript && !HasPageScript(edited))
+    if (payload.WantsPageScript && !HasPageScript(edited.Bytes) && !HasPageScript(rest))
         dialogs.Say(Join({noHeadWords, LinesOfPageScript()}));
     return AutoInsertion::Inserted;
 }

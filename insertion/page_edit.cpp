@@ -11,10 +11,19 @@ namespace {
 
 /// Positions count from 1 and are signed 16-bit numbers; pages made with earlier versions rely on
 /// the limit.
+constexpr std::size_t lastPosition = 32767;
+
 bool Fits(std::size_t position)
 {
-    return position <= 32767;
+    return position <= lastPosition;
 }
+
+/// The start of a page, in which all edits lie: each of the four changes at most what stands up to
+/// the last position, and what stands there after them is still of this start.
+constexpr std::size_t startSize = 5 * (lastPosition + 1);
+
+/// Of the start's end, which no edit reaches: what is looked for in the rest may begin there.
+constexpr std::size_t overlap = 16;
 
 /// What ends the work on a page early, or nothing when it goes on.
 using Stop = std::optional<PageEdit>;
@@ -44,17 +53,6 @@ struct PageCode
     std::string EndMarker;
 };
 
-/// A copy of the page that grows by what an effect puts in without being copied once more.
-std::string CopyToEdit(std::string_view page, const PageCode& code)
-{
-    constexpr std::size_t pageScript = 1024; // the page script's lines, which may follow
-    std::string copy;
-    copy.reserve(page.size() + 2 * (code.HEADHTML.size() + code.BODYHTML.size()) +
-                 2 * (code.OnLoadArgs.size() + code.OnUnloadArgs.size()) + pageScript);
-    copy.append(page);
-    return copy;
-}
-
 /// The inside of an element: where its open tag ends, where its close tag begins, and the text
 /// between.
 struct Inside
@@ -64,26 +62,15 @@ struct Inside
     std::string_view Inner;
 };
 
-/// The inside of the element whose open tag begins at `tag`. Every element needs its close tag. An
-/// open tag without ">" ends at 0, and all goes on from there.
-Outcome<Inside> InsideOf(std::string_view page, std::size_t tag, std::string_view closeTag)
-{
-    const std::size_t tagEnd = Find(page, ">", tag);
-    const std::size_t closing = FindIgnoringCase(page, closeTag, tag);
-    if (!Fits(tagEnd) || !Fits(closing) || !Fits(tagEnd + 1))
-        return Fault::Overflow;
-    if (closing < tagEnd + 1)
-        return Fault::InvalidProcedureCall;
-    return Inside{tagEnd, closing, page.substr(tagEnd, closing - (tagEnd + 1))};
-}
-
 /// One page on its way through the three kinds of insertion.
 class PageRun
 {
 public:
-    PageRun(std::string page, const PageCode& code, bool replaceInBody,
+    PageRun(std::string_view page, const PageCode& code, bool replaceInBody,
             const ReplaceQuestion& askToReplace)
-        : m_page(std::move(page)),
+        : m_page(page.substr(0, startSize)),
+          m_kept(page.size() - m_page.size()),
+          m_rest(m_kept == 0 ? std::string_view() : page.substr(startSize - overlap)),
           m_begin(code.BeginMarker),
           m_end(code.EndMarker),
           m_replaceInBody(replaceInBody),
@@ -91,16 +78,16 @@ public:
     {
     }
 
-    std::string TakePage() { return std::move(m_page); }
+    EditedPage TakePage() { return {std::move(m_page), m_kept}; }
 
     Stop InsertIntoHead(std::string_view HEADHTML)
     {
-        const std::size_t headTag = FindIgnoringCase(m_page, "<head");
+        const std::size_t headTag = FindInPage("<head");
         if (!Fits(headTag))
             return Fault::Overflow;
         if (headTag == 0)
             return ManualFallback();
-        const auto head = InsideOf(m_page, headTag, "</head");
+        const auto head = InsideOf(headTag, "</head");
         if (const Fault* fault = FaultIn(head))
             return *fault;
         const auto& [tagEnd, closeTag, inner] = ValueIn(head);
@@ -116,12 +103,12 @@ public:
 
     Stop InsertIntoBody(std::string_view BODYHTML)
     {
-        const std::size_t bodyTag = FindIgnoringCase(m_page, "<body");
+        const std::size_t bodyTag = FindInPage("<body");
         if (!Fits(bodyTag))
             return Fault::Overflow;
         if (bodyTag == 0)
             return ManualFallback();
-        const auto body = InsideOf(m_page, bodyTag, "</body");
+        const auto body = InsideOf(bodyTag, "</body");
         if (const Fault* fault = FaultIn(body))
             return *fault;
         const auto& [tagEnd, closeTag, inner] = ValueIn(body);
@@ -136,11 +123,13 @@ public:
 
     Stop InsertAttribute(std::string_view word, std::string_view Func, std::string_view Args)
     {
-        const std::size_t bodyTag = FindIgnoringCase(m_page, "<body");
+        const std::size_t bodyTag = FindInPage("<body");
         if (bodyTag == 0)
             return {};
-        const std::size_t tagEnd = Find(m_page, ">", bodyTag);
-        if (!Fits(bodyTag) || !Fits(tagEnd))
+        if (!Fits(bodyTag))
+            return Fault::Overflow;
+        const std::size_t tagEnd = FindInPage(">", bodyTag);
+        if (!Fits(tagEnd))
             return Fault::Overflow;
         if (tagEnd < bodyTag)
             return Fault::InvalidProcedureCall;
@@ -160,6 +149,28 @@ public:
     }
 
 private:
+    /// The position where these words stand, in upper or lower case: one that does not fit when
+    /// that is in the rest of the page, 0 when they stand nowhere.
+    std::size_t FindInPage(std::string_view words, std::size_t from = 1) const
+    {
+        const std::size_t place = FindIgnoringCase(m_page, words, from);
+        return place == 0 && FindIgnoringCase(m_rest, words) != 0 ? lastPosition + 1 : place;
+    }
+
+    /// The inside of the element whose open tag begins at `tag`. Every element needs its close tag.
+    /// An open tag without ">" ends at 0, and all goes on from there.
+    Outcome<Inside> InsideOf(std::size_t tag, std::string_view closeTag) const
+    {
+        const std::size_t tagEnd = FindInPage(">", tag);
+        const std::size_t closing = FindInPage(closeTag, tag);
+        if (!Fits(tagEnd) || !Fits(closing) || !Fits(tagEnd + 1))
+            return Fault::Overflow;
+        if (closing < tagEnd + 1)
+            return Fault::InvalidProcedureCall;
+        const std::string_view page = m_page;
+        return Inside{tagEnd, closing, page.substr(tagEnd, closing - (tagEnd + 1))};
+    }
+
     /// Stays as it is: the character behind the tag is kept in front of the inserted text and comes
     /// again behind it, so that a tag with CR LF behind it gets a lone CR.
     void PutBehindTag(std::size_t tagEnd, std::string_view text, std::size_t goOnFrom)
@@ -177,7 +188,9 @@ private:
         return {};
     }
 
-    std::string m_page;
+    std::string m_page;      ///< its start
+    std::size_t m_kept;      ///< bytes of the page that follow it
+    std::string_view m_rest; ///< these, and a bit before them
     std::string_view m_begin;
     std::string_view m_end;
     bool m_replaceInBody;
@@ -191,7 +204,7 @@ PageEdit EditPage(std::string_view page, const FinishedPayload& payload,
                   const ReplaceQuestion& askToReplace)
 {
     const PageCode code(payload, EncodingOf(page));
-    PageRun run(CopyToEdit(page, code), code, payload.ReplaceInBody, askToReplace);
+    PageRun run(page, code, payload.ReplaceInBody, askToReplace);
     Stop stop;
     if (!code.HEADHTML.empty())
         stop = run.InsertIntoHead(code.HEADHTML);
@@ -203,7 +216,7 @@ PageEdit EditPage(std::string_view page, const FinishedPayload& payload,
         stop = run.InsertAttribute("onunload", code.OnUnloadFunc, code.OnUnloadArgs);
     if (stop)
         return *stop;
-    return EditedPage{run.TakePage()};
+    return run.TakePage();
 }
 
 bool FindEffectInExistingCode(std::string_view code, std::string_view begin, std::string_view end)

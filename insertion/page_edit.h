@@ -14,10 +14,15 @@ namespace orvane {
 /// for Yes.
 using ReplaceQuestion = std::function<bool()>;
 
-/// The page with the effect in it.
+/// The page with the effect in it: `Bytes` and, behind them, the last `Kept` bytes of the page that
+/// was edited. None are kept of a page of usual size; of a long one all that no effect reaches.
 struct EditedPage
 {
     std::string Bytes;
+    std::size_t Kept = 0;
+
+    /// What is kept of the page that was edited.
+    std::string_view RestOf(std::string_view page) const { return page.substr(page.size() - Kept); }
     bool operator==(const EditedPage&) const = default;
 };
 

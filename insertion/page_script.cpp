@@ -111,6 +111,10 @@ PageEdit EditPageAndScript(std::string_view page, const FinishedPayload& payload
     const EventCalls known =
         AllCalls(payload, EncodingOf(page), lines ? lines->Carried : EventCalls());
     std::string& bytes = edited->Bytes;
+    constexpr std::size_t linesSize = 1024;
+    bytes.reserve(bytes.size() + edited->Kept + linesSize);
+    bytes.append(edited->RestOf(code));
+    edited->Kept = 0;
     if (const auto head = HeadTag(bytes))
         bytes.insert(head->End, lines && lines->IsChanged ? lines->Code : MakeLines(bytes, known));
     return edit;

@@ -50,9 +50,9 @@ bool BackUpPage(FileStore& files, Dialogs& dialogs, TextView page, const Backups
 }
 
 bool WritePage(FileStore& files, Dialogs& dialogs, TextView page, std::string_view bytes,
-               std::string_view edited, const PageWritingWords& words)
+               std::string_view edited, const PageWritingWords& words, std::string_view rest)
 {
-    const auto written = files.Exchange(page, bytes, edited);
+    const auto written = files.Exchange(page, bytes, edited, rest);
     if (const Fault* fault = FaultIn(written))
         TellFault(dialogs, *fault, words);
     else if (!ValueIn(written))

@@ -29,10 +29,10 @@ std::optional<std::string> ReadPage(const FileStore& files, Dialogs& dialogs, Te
 bool BackUpPage(FileStore& files, Dialogs& dialogs, TextView page, const BackupsPlace& place,
                 std::string_view bytes, const PageWritingWords& words);
 
-/// Writes the page in place of `bytes`; false, and the author is told why, when it still holds its
-/// old bytes or what another program wrote.
+/// Writes the edited page and, behind it, `rest` in place of `bytes`; false, and the author is told
+/// why, when the page still holds its old bytes or what another program wrote.
 bool WritePage(FileStore& files, Dialogs& dialogs, TextView page, std::string_view bytes,
-               std::string_view edited, const PageWritingWords& words);
+               std::string_view edited, const PageWritingWords& words, std::string_view rest = {});
 
 /// Writes a page in place of `shown`, the bytes that the author looked at, after the backups that
 /// an insertion makes; false, and the author is told why, when the page is not written. Whatever

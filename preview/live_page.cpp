@@ -62,7 +62,7 @@ LivePicture InHost(const FinishedPayload& payload, const HostPage& host)
     PageEdit edit = EditPageAndScript(host.Bytes, payload, [] { return true; });
     if (auto* edited = std::get_if<EditedPage>(&edit)) {
         LivePage page = PictureOf(HostPage{host.Path, {}});
-        page.Bytes = std::move(edited->Bytes);
+        page.Bytes = std::move(edited->Bytes.append(edited->RestOf(host.Bytes)));
         return {std::move(page), {}};
     }
     Text why(noPlace);

@@ -133,8 +133,11 @@ void LiveView::GoOn()
     // The engine reports the end of the load that it breaks off for another as that of the other.
     if (Back().IsEmptying)
         return;
-    if (!WaitsForBox([this] { GoOn(); }))
-        Load(*std::exchange(m_next, {}));
+    if (WaitsForBox([this] { GoOn(); }))
+        return;
+    const Wanted wanted = *std::move(m_next);
+    m_next.reset();
+    Load(wanted);
 }
 
 /// Whether a page shows a box, which has to be answered before any page goes; `action` follows

@@ -161,10 +161,11 @@ TEST_F(AutoInsertTest, TellsTheFaultOfThePageItself)
 class BusyFileStore : public FakeFileStore
 {
 public:
-    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override
+    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes,
+                           std::string_view rest) override
     {
         Contents[Text(path)] = "saved meanwhile";
-        return FakeFileStore::Exchange(path, old, bytes);
+        return FakeFileStore::Exchange(path, old, bytes, rest);
     }
 };
 

@@ -18,10 +18,10 @@ struct EditRow
     std::string Answers = {};
 };
 
-std::string Shown(const PageEdit& edit)
+std::string Shown(const PageEdit& edit, std::string_view page = {})
 {
-    if (const auto* page = std::get_if<EditedPage>(&edit))
-        return page->Bytes;
+    if (const auto* edited = std::get_if<EditedPage>(&edit))
+        return Join({edited->Bytes, edited->RestOf(page)});
     if (const auto* fault = std::get_if<Fault>(&edit))
         return *fault == Fault::Overflow ? "overflow" : ToUtf8(Words(*fault));
     return "manual";
@@ -87,7 +87,7 @@ void ExpectEdits(const FinishedPayload& payload, const std::vector<EditRow>& row
         for (const std::string code : {"h", "b"})
             for (std::size_t at; (at = expected.find("«" + code + "»")) != std::string::npos;)
                 expected.replace(at, 5, "\r\n<!--B-->" + code + "<!--E-->\r\n");
-        ExpectSameBytes(expected, Shown(Edit(page, payload, answers)));
+        ExpectSameBytes(expected, Shown(Edit(page, payload, answers), page));
     }
 }
 
@@ -138,6 +138,31 @@ TEST(HeadEditTest, HasNoPositionBehind32767)
                          {Fill(32767) + "<head", "overflow"},
                          {Fill(32766) + "<head", invalid},
                          {Fill(40000), "manual"}});
+}
+
+TEST(PageEditTest, LeavesTheRestOfALongPageWhereItIsButSearchesIt)
+{
+    const std::string start = "<head>x</head><body>y";
+    const std::string rest = Fill(163840 - 6 - start.size()) + "</BO" + Fill(40000);
+    const PageEdit edit = Edit(start + rest, Head());
+    EXPECT_GT(std::get<EditedPage>(edit).Kept, 39000u);
+    ExpectEdits(Head(), {{start + rest, "<head>x«h»x</head><body>y" + rest},
+                         {"<head>x<!--B-->" + Fill(32700) + "<!--E--></head>" + rest,
+                          "<head>x\r\nx<!--B-->h<!--E-->\r\n</head>" + rest, "Y"}});
+    const std::string cut = Fill(163840 - 4 - start.size()); // in the middle of the close tag
+    ExpectEdits(Body(true), {{start + cut + "</body>" + rest, "overflow"},
+                             {start + rest + "</body>", "overflow"},
+                             {start + rest, invalid},
+                             {rest + "<body>", "overflow"},
+                             {rest, "manual"}});
+    // Positions count in the page as the edits before left it.
+    FinishedPayload both = Head();
+    both.Effect.BODYHTML = u"<!--B-->b<!--E-->";
+    ExpectEdits(
+        both,
+        {{"<head>x<!--B-->" + Fill(32700) + "<!--E--></head>" + Fill(900) + "<body>y</body>" + rest,
+          "<head>x\r\nx<!--B-->h<!--E-->\r\n</head>" + Fill(900) + "<body>y«b»y</body>" + rest,
+          "Y"}});
 }
 
 TEST(BodyEditTest, NeedsNoHeadAndAsksWhereASearchIsMade)

@@ -146,12 +146,13 @@ Done FakeFileStore::Replace(TextView path, std::string_view bytes)
     return {};
 }
 
-Outcome<bool> FakeFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes)
+Outcome<bool> FakeFileStore::Exchange(TextView path, std::string_view old, std::string_view bytes,
+                                      std::string_view rest)
 {
     const auto found = Contents.find(Text(path));
     if (found == Contents.end() || found->second != old)
         return false;
-    const Done done = Replace(path, bytes);
+    const Done done = Replace(path, Join({bytes, rest}));
     if (const Fault* fault = FaultIn(done))
         return *fault;
     return true;

@@ -113,7 +113,8 @@ public:
     Outcome<std::string> Read(TextView path) const override;
     Outcome<std::string> ReadItself(TextView path) const override { return Read(path); }
     Done Replace(TextView path, std::string_view bytes) override;
-    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes) override;
+    Outcome<bool> Exchange(TextView path, std::string_view old, std::string_view bytes,
+                           std::string_view rest = {}) override;
     Done PutNew(TextView path, std::string_view bytes, TextView) override
     {
         return Replace(path, bytes);
