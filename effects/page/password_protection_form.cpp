@@ -108,6 +108,8 @@ void PasswordProtectionForm::Previous()
 void PasswordProtectionForm::TakeDraft(TextView draft)
 {
     EffectForm::TakeDraft(draft);
+    // A recipe leads from the server page back to the first one.
+    SetEffect(Page() == server ? EffectKind::PasswordServer : EffectKind::PasswordScript);
     m_keepsOption = true;
 }
 
