@@ -4,8 +4,10 @@
 #include "program/recipe_files.h"
 #include "windows/wizard_form.h"
 
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPushButton>
+#include <QTimer>
 
 #include <memory>
 #include <utility>
@@ -58,6 +60,11 @@ void AddRecipeMenu(WizardForm& wizard, Workbench& bench,
             return openOther(*std::move(effect));
         bench.Dialogs.Say(Join({u"This recipe is of another special effect, \"",
                                 RowOf(effect->Kind()).Title, u"\"."}));
+    });
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] {
+        // Opened by a key, it waits for a key: Enter takes the first row.
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            QTimer::singleShot(0, menu, [menu] { menu->setActiveAction(menu->actions().front()); });
     });
     button->setMenu(menu);
     wizard.AddBesideHelp(button);
