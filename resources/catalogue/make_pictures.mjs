@@ -14,14 +14,20 @@ const point = (x = 144, y = 90) => ({ frames: 8, every: 300, still: 4, async act
     if (frame === 2) await tab.mouse.move(x, y);
     if (frame === 6) await tab.mouse.move(1, 1);
 }});
+/** A field gets the focus, and these letters. */
+const type = (letters) => ({ frames: letters.length + 4, every: 250, still: letters.length + 3, async act(tab, frame) {
+    if (frame === 1) await tab.focus("input:not([type=hidden],[type=submit],[type=button])");
+    if (frame > 1 && frame < letters.length + 2) await tab.keyboard.type(letters[frame - 2]);
+}});
 const still = { frames: 1 };
 /**
  * How each effect is visited where it is not twelve frames, one every quarter of a second, half a second
  * after it is loaded: `still` is the frame that stands first, `act` what the visitor does before a frame.
  */
 const visits = {
-    anti_spam: still, day_calendar: still, google_search: still, google_translate: still, password: still,
-    popup_alert: still, pop_up_window: still, sound_fx: still,
+    anti_spam: still, day_calendar: still, google_translate: still, password: still, popup_alert: still,
+    pop_up_window: still, sound_fx: still,
+    google_search: type("plums"),
     other_button: { ...still, scale: 2 },
     pulldown: { ...still, scale: 1.5 },
     anim_button: point(), text_button: point(), tooltip: point(),
