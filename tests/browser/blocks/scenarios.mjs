@@ -368,8 +368,9 @@ export async function cost({ open, tab }) {
         ).value;
     await wait(1500);
     const before = await worked();
-    await wait(4000);
-    return ((await worked()) - before) / 0.004;
+    // As long as a fresh transition and its pause, so that there is one of them.
+    await wait(5000);
+    return ((await worked()) - before) / 0.005;
 }
 
 /** The text of a page with a row's block; `code` gives the script of a kind. */
