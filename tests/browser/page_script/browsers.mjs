@@ -26,7 +26,8 @@ const setMedium = (type) =>
 
 /** A new tab, which can be touched and shown as it is printed in Firefox, too. */
 export async function newTab(browser) {
-    const tab = await browser.newPage();
+    // In Firefox a tab that closes may take the next one with it.
+    const tab = await browser.newPage().catch(() => browser.newPage());
     const isChromium = (await browser.version()).startsWith("Chrome");
     if (isChromium) return { tab, isChromium };
     const send = async (what, asked) => (await browser.connection.send(what, asked)).result;
