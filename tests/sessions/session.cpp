@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <exception>
+#include <iostream>
 
 namespace orvane::testing {
 
@@ -45,8 +47,12 @@ public:
 
     void Run()
     {
-        while (m_hands.Steps < stepsOfSession && !HasFailed())
-            RunProgram();
+        try {
+            while (m_hands.Steps < stepsOfSession && !HasFailed())
+                RunProgram();
+        } catch (const std::exception& thrown) {
+            ADD_FAILURE() << thrown.what();
+        }
         if (HasFailed())
             ADD_FAILURE() << "after these steps:" << m_hands.Log;
     }
@@ -226,6 +232,7 @@ TEST(SessionTest, LeavesPagesListsDraftsAndWindowsAsTheyShouldBe)
     const int count = qEnvironmentVariableIntValue("ORVANE_SESSIONS");
     for (int seed = first; seed < first + std::max(count, 1) && !HasFailure(); ++seed) {
         SCOPED_TRACE("again by ORVANE_SEED=" + std::to_string(seed));
+        std::cout << "session " << seed << std::endl; // a crash tells nothing else
         Session(static_cast<unsigned>(seed)).Run();
     }
 }

@@ -7,7 +7,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QKeySequence>
-#include <QListWidget>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -28,8 +28,9 @@ constexpr const char* commands[] = {"mnuPageEffects", "mnuBringBack",   "mnuOpen
                                     "mnuSeeThemAll",  "mnuPreferences", "mnuEditApplet",
                                     "mnuHelpAbout"};
 
-constexpr const char* keys[] = {"Tab", "Tab",    "Shift+Backtab", "Return", "Space", "Down", "Up",
-                                "P",   "Delete", "F12",           "Ctrl+Z", "Alt+N", "Alt+D"};
+constexpr const char* keys[] = {
+    "Tab", "Tab",    "Shift+Backtab", "Return", "Space", "Down",  "Up",
+    "P",   "Delete", "F12",           "Ctrl+Z", "Alt+N", "Alt+D", "Alt+N, Return"};
 
 const char* OneOf(const auto& names, SessionAuthor& author)
 {
@@ -150,14 +151,16 @@ bool SessionHands::Fill(WizardForm& wizard, bool anew)
 void SessionHands::PressKey(QWidget& front)
 {
     const char* name = OneOf(keys, m_author);
-    const QKeyCombination key = QKeySequence(QString::fromUtf8(name))[0];
-    QWidget& focus = FocusIn(front);
-    if (IsOffer(focus))
-        return;
-    Note(front, name + (" in " + focus.objectName().toStdString()));
-    // A button acts a moment after its access key.
-    Deed = {.MayWrite = true, .ActsLater = key.keyboardModifiers() == Qt::AltModifier};
-    QTest::keyClick(&focus, key.key(), key.keyboardModifiers());
+    const QPointer<QWidget> window = &front;
+    Note(front, name + (" in " + FocusIn(front).objectName().toStdString()));
+    const QKeySequence sequence(QString::fromUtf8(name));
+    for (int i = 0; i < sequence.count() && window && !IsOffer(FocusIn(front)); ++i) {
+        const QKeyCombination key = sequence[static_cast<uint>(i)];
+        // A button acts a moment after its access key.
+        Deed.ActsLater = Deed.ActsLater || key.keyboardModifiers() == Qt::AltModifier;
+        Deed.MayWrite = true;
+        QTest::keyClick(&FocusIn(front), key.key(), key.keyboardModifiers());
+    }
 }
 
 /// Presses a button or a link that can be seen, or a key in a list.
