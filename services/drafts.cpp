@@ -22,7 +22,7 @@ Text DraftPathOf(TextView stateFolder, ControlName effect)
 
 Text LastTimePathOf(TextView stateFolder, ControlName effect)
 {
-    return FileOf(effect, PathIn(stateFolder, u"last time"));
+    return FileOf(effect, PathIn(stateFolder, u"last-time"));
 }
 
 std::optional<Text> ReadDraftFile(const FileStore& files, TextView path)

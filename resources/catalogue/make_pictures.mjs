@@ -14,22 +14,56 @@ const point = (x = 144, y = 90) => ({ frames: 8, every: 300, still: 4, async act
     if (frame === 2) await tab.mouse.move(x, y);
     if (frame === 6) await tab.mouse.move(1, 1);
 }});
-/** A field gets the focus, and these letters. */
-const type = (letters) => ({ frames: letters.length + 4, every: 250, still: letters.length + 3, async act(tab, frame) {
-    if (frame === 1) await tab.focus("input:not([type=hidden],[type=submit],[type=button])");
-    if (frame > 1 && frame < letters.length + 2) await tab.keyboard.type(letters[frame - 2]);
+/** The mouse comes, presses and goes. */
+const press = (x, y) => ({ frames: 8, every: 300, still: 2, async act(tab, frame) {
+    if (frame === 1) await tab.mouse.move(x, y);
+    if (frame === 4) await tab.mouse.down();
+    if (frame === 6) await tab.mouse.move(1, 2 * y - 1);
 }});
-const still = { frames: 1 };
+/** A word is typed into the field at a place. */
+const type = (x, y) => async (tab, frame) => {
+    if (frame === 1) await tab.mouse.click(x, y);
+    if (frame > 1) await tab.keyboard.type("plums"[frame - 2] ?? "");
+};
+/** Each frame takes the next choice of the first list. */
+const choose = async (tab, frame) => {
+    if (frame > 0) await tab.keyboard.press(frame === 1 ? "Tab" : "ArrowDown");
+};
+/** Runs in the page: each load is a day after the one before. */
+const oneDayLater = () => {
+    const today = Date;
+    const days = (sessionStorage.days = Number(sessionStorage.days ?? 0) + 1);
+    window.Date = class extends today {
+        constructor(...given) {
+            super(...(given.length ? given : [today.now() + days * 24 * 60 * 60 * 1000]));
+        }
+    };
+};
 /**
  * How each effect is visited where it is not twelve frames, one every quarter of a second, half a second
  * after it is loaded: `still` is the frame that stands first, `act` what the visitor does before a frame.
  */
 const visits = {
-    anti_spam: still, day_calendar: still, google_translate: still, password: still, popup_alert: still,
-    pop_up_window: still, sound_fx: still,
-    google_search: type("plums"),
-    other_button: { ...still, scale: 2 },
-    pulldown: { ...still, scale: 1.5 },
+    anti_spam: { frames: 1 },
+    day_calendar: { frames: 6, every: 500, async act(tab, frame) {
+        if (frame === 0) await tab.evaluateOnNewDocument(oneDayLater);
+        else await tab.reload();
+    }},
+    google_search: { frames: 8, every: 300, still: 7, act: type(115, 95) },
+    google_translate: { frames: 6, every: 400, act: choose },
+    password: { frames: 8, every: 300, still: 7, act: type(110, 128) },
+    popup_alert: { frames: 6, every: 400, async act(tab, frame) {
+        if (frame === 4) await tab.mouse.click(240, 123);
+    }},
+    pop_up_window: { frames: 6, every: 400, still: 3, async act(tab, frame) {
+        if (frame === 0) await tab.evaluate(() => document.querySelector("iframe").parentNode.remove());
+        if (frame === 3) await tab.reload();
+    }},
+    sound_fx: { frames: 8, every: 200, async act(tab, frame) {
+        if (frame === 1) await tab.mouse.click(144, 117);
+    }},
+    other_button: { ...press(72, 45), scale: 2 },
+    pulldown: { frames: 6, every: 400, scale: 1.5, act: choose },
     anim_button: point(), text_button: point(), tooltip: point(),
     bubbles: { frames: 8, every: 300, still: 4, async act(tab, frame) {
         if (frame === 2 || frame === 6) await tab.mouse.click(144, 101);
@@ -47,11 +81,7 @@ const visits = {
     shake_text: { first: 0, frames: 14, every: 60 },
     fade: { first: 0, still: 3 },
     sliding_im_window: { first: 0, every: 120, still: 11 },
-    applets_dyna_but: { frames: 8, every: 300, still: 2, async act(tab, frame) {
-        if (frame === 1) await tab.mouse.move(144, 90);
-        if (frame === 4) await tab.mouse.down();
-        if (frame === 6) await tab.mouse.move(1, 179);
-    }},
+    applets_dyna_but: press(144, 90),
     page_transitions: { from: "news.html", first: 0, every: 150, still: 5, async act(tab, frame) {
         if (frame === 1) await tab.evaluate(() => void setTimeout(() => (location.href = "page_transitions.html")));
     }},
