@@ -72,7 +72,10 @@ QIcon StillPicture(const CatalogueRow& row, const QPalette& colors, double pixel
     const QImage picture = QImageReader(PictureFile(row, colors, pixels), "gif").read();
     if (picture.isNull())
         return QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(row.Picture)));
-    return Edged(picture, colors);
+    // Without transparency its few colors become a palette as they are.
+    return Edged(
+        picture.convertToFormat(QImage::Format_RGB32).convertToFormat(QImage::Format_Indexed8),
+        colors);
 }
 
 QIcon Edged(const QImage& picture, const QPalette& colors)

@@ -88,8 +88,8 @@ Text LinesOfPageScript(const EventCalls& calls)
 
 std::optional<PageScriptLines> FindPageScriptLines(std::string_view page, std::size_t from)
 {
-    // Most pages have none, and a page may be long.
-    if (page.find(beginLine, from) == std::string_view::npos)
+    // Most pages have none, and a page may be long; it has fewer of this letter than of "<".
+    if (page.find(beginLine.substr(beginLine.find('B')), from) == std::string_view::npos)
         return std::nullopt;
     for (Markup markup = NextMarkup(page, from); markup.Whole.Begin < page.size();
          markup = NextMarkup(page, markup.Next))

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <malloc.h>
+
 namespace orvane {
 
 namespace {
@@ -23,22 +25,8 @@ constexpr int loadAtLastMs = 12000;
 /// As many pages as one process shows: something of each stays behind in it.
 constexpr int mostPages = 40;
 
-/// Scrolls to what stands behind the effect's first comment in the body.
-QString ScrollToMark(const Text& mark)
-{
-    QString quoted = ToQt(mark);
-    quoted.replace(u'\\', QLatin1String("\\\\")).replace(u'\'', QLatin1String("\\'"));
-    return QStringLiteral(R"js({
-    const walker = document.createTreeWalker(document.body ?? document, NodeFilter.SHOW_COMMENT);
-    while (walker.nextNode() && !walker.currentNode.data.includes('%1'));
-    let part = walker.currentNode.nextElementSibling;
-    while (part && !part.getClientRects().length && part.nextElementSibling)
-        part = part.nextElementSibling;
-    if (walker.currentNode.data?.includes('%1'))
-        (part ?? walker.currentNode.parentElement).scrollIntoView({block: 'center'});
-})js")
-        .arg(quoted);
-}
+/// Without another page; the author reads or does something else.
+constexpr int restMs = 2000;
 
 } // namespace
 
@@ -57,6 +45,10 @@ LiveView::LiveView(QWebEngineProfile& profile, FolderGuard& guard, WebViewOwner&
     m_loadAtLast.setSingleShot(true);
     m_loadAtLast.setInterval(loadAtLastMs);
     connect(&m_loadAtLast, &QTimer::timeout, this, &LiveView::EndLateLoad);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(restMs);
+    // Many pages leave a third of this program's memory free, but not given back.
+    connect(&m_rest, &QTimer::timeout, this, [] { ::malloc_trim(0); });
     for (Sheet& sheet : m_sheets)
         MakeSheet(sheet);
     Front().View->SetSeen(true);
@@ -186,7 +178,7 @@ void LiveView::Loaded(Sheet& sheet, const QUrl& url)
         return;
     const QPointF scroll = Front().Page->scrollPosition() / Front().Page->zoomFactor();
     QString script = m_loaded.Page.ScrollsToMark
-                         ? ScrollToMark(m_loaded.Page.Mark)
+                         ? ScrollingScript(m_loaded.Page.Mark)
                          : QStringLiteral("scrollTo(%1, %2)").arg(scroll.x()).arg(scroll.y());
     if (m_loaded.Page.TakesPointing)
         script += QLatin1Char(';') + PointingScript(m_context.Token);
@@ -208,6 +200,7 @@ void LiveView::Exchange()
     Empty(former);
     m_isLoading = false;
     m_loadAtLast.stop();
+    m_rest.start();
     m_context.Owner.StatusWritten(FromQt(Front().Status));
     m_context.Owner.LivePageShown();
     GoOn();

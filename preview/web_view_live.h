@@ -77,6 +77,7 @@ private:
     int m_fitted = 0; ///< the width of window that the zoom is made for; 0: the author's own zoom
     bool m_isLoading = false;
     QTimer m_loadAtLast;   ///< runs while a page is wanted that is not there yet
+    QTimer m_rest;         ///< since the last page was shown
     bool m_isHung = false; ///< the process that ends now was stopped
     Wanted m_loaded;       ///< the page of that number, without its bytes
     std::optional<Wanted> m_next;

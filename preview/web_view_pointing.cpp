@@ -1,5 +1,7 @@
 #include "preview/web_view_pointing.h"
 
+#include "windows/qt_text.h"
+
 #include <QStringList>
 
 namespace orvane {
@@ -105,6 +107,22 @@ QString PointingScript(const QString& token)
     return QString::fromLatin1(pointingScript)
         .arg(QLatin1String(partAttribute.data(), static_cast<int>(partAttribute.size())),
              token + placeReport);
+}
+
+QString ScrollingScript(const Text& mark)
+{
+    QString quoted = ToQt(mark);
+    quoted.replace(u'\\', QLatin1String("\\\\")).replace(u'\'', QLatin1String("\\'"));
+    return QStringLiteral(R"js({
+    const walker = document.createTreeWalker(document.body ?? document, NodeFilter.SHOW_COMMENT);
+    while (walker.nextNode() && !walker.currentNode.data.includes('%1'));
+    let part = walker.currentNode.nextElementSibling;
+    while (part && !part.getClientRects().length && part.nextElementSibling)
+        part = part.nextElementSibling;
+    if (walker.currentNode.data?.includes('%1'))
+        (part ?? walker.currentNode.parentElement).scrollIntoView({block: 'center'});
+})js")
+        .arg(quoted);
 }
 
 std::optional<PointedPlace> PlaceIn(const QString& report)

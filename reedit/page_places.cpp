@@ -13,6 +13,14 @@ bool IsInside(std::size_t at, CodeSpan span)
     return at > span.Begin && at < span.End;
 }
 
+/// The place behind the line end that stands there, if one does.
+std::size_t BehindLineEnd(std::string_view page, std::size_t at)
+{
+    if (page.substr(at, 2) == "\r\n")
+        return at + 2;
+    return at < page.size() && (page[at] == '\n' || page[at] == '\r') ? at + 1 : at;
+}
+
 } // namespace
 
 TextView Words(NoPlace reason)
@@ -55,8 +63,9 @@ Landmarks LandmarksOf(std::string_view page)
 std::size_t TopOf(std::string_view page)
 {
     const Landmarks marks = LandmarksOf(page);
+    // The line end stays with the tag: an insertion repeats the character behind that.
     if (marks.BodyTag)
-        return marks.BodyTag->End;
+        return BehindLineEnd(page, marks.BodyTag->End);
     if (marks.HeadEnd)
         return marks.HeadEnd->End;
     if (const auto tag = FindTag(page, "<html"))

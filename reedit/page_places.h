@@ -35,8 +35,8 @@ struct Landmarks
 /// The tags of a page, as a browser sees them.
 Landmarks LandmarksOf(std::string_view page);
 
-/// The place "at the top" of what the page shows: behind its BODY tag or, where it has none, its
-/// HEAD, its HTML tag or its DOCTYPE.
+/// The place "at the top" of what the page shows: behind its BODY tag and the line end that
+/// follows it or, where it has none, its HEAD, its HTML tag or its DOCTYPE.
 std::size_t TopOf(std::string_view page);
 
 /// The place "at the end" of what the page shows: in front of the close tag of its BODY, or of the

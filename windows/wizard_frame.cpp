@@ -91,7 +91,11 @@ void WizardFrame::AddButtons(Buttons buttons, ControlName helpName)
         cmdNext = AddButton("cmdDone", u"&Done", line);
     }
     cmdNext->setDefault(true);
-    connect(cmdNext, &QPushButton::clicked, this, [this] { Next(); });
+    // Pressed by its key it acts a moment later, when the window may have gone on by another key.
+    connect(cmdNext, &QPushButton::clicked, this, [this] {
+        if (cmdNext->isEnabled() && isVisible())
+            Next();
+    });
     cmdCancel = AddButton("cmdCancel", u"&Cancel", line);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     static_cast<QVBoxLayout*>(layout())->addLayout(line);

@@ -1,5 +1,6 @@
 /** The change from one item of a stage to another. */
 import { coverPath, orderOf } from "../cover_path.js";
+import { settle } from "./turns.js";
 
 /**
  * Shows how one item gives way to another, which is the one that is shown from now on.
@@ -7,42 +8,29 @@ import { coverPath, orderOf } from "../cover_path.js";
  * @param {HTMLElement} to
  * @param {string} how "cut", "fade" or the number of one of the 24 transitions
  * @param {number} duration in milliseconds
- * @returns {Promise<any> | void}
  */
-export function change(from, to, how, duration) {
+export async function change(from, to, how, duration) {
     if (how === "cut" || from === to) return;
-    const fades = how === "fade";
-    // What gives way is seen until the end, above or below.
-    const above = fades ? to : from;
-    above.style.zIndex = "1";
-    from.style.opacity = "1";
-    // A clock that paints nothing.
-    const clock = from.animate([], { delay: duration });
-    const end = clock.finished.then(
-        () =>
-            (above.style.zIndex =
-                from.style.opacity =
-                from.style.clipPath =
-                to.style.clipPath =
-                    ""),
-    );
-    if (fades) {
-        to.animate({ opacity: [0, 1] }, duration);
-        return end;
+    // What gives way is seen until the end, below or above.
+    from.style.opacity = from.style.zIndex = "1";
+    if (how === "fade") {
+        from.style.zIndex = "-1";
+        await to.animate({ opacity: [0, 1] }, duration).finished;
+    } else {
+        const kind = +how < 23 ? +how : (Math.random() * 23) | 0;
+        const order = orderOf(kind);
+        const { offsetWidth: w, offsetHeight: h } = from;
+        const begin = Date.now();
+        // Who ends the change early takes the layer back.
+        for (let p; (p = (Date.now() - begin) / duration) < 1 && from.style.zIndex; ) {
+            const path = coverPath(kind, p, order, w, h);
+            // Both are clipped, since what is behind a text is seen through it.
+            from.style.clipPath = `path(evenodd,"${path}")`;
+            to.style.clipPath = `path(evenodd,"${path}M0 0H${w}V${h}H0Z")`;
+            // Each picture is work for the page: fifteen are enough for a second.
+            await new Promise((done) => setTimeout(done, Math.min(duration / 6, 66)));
+        }
     }
-    const kind = +how < 23 ? +how : (Math.random() * 23) | 0;
-    const order = orderOf(kind);
-    const { offsetWidth: w, offsetHeight: h } = from;
-    const step = () => {
-        const time = Number(clock.currentTime ?? duration);
-        if (time >= duration) return;
-        const path = coverPath(kind, time / duration, order, w, h);
-        // Both are clipped, since what is behind a text is seen through it.
-        from.style.clipPath = `path(evenodd,"${path}")`;
-        to.style.clipPath = `path(evenodd,"${path}M0 0H${w}V${h}H0Z")`;
-        // As many pictures as a film has are enough, and less than half the work.
-        setTimeout(step, 42);
-    };
-    step();
-    return end;
+    settle(from);
+    settle(to);
 }

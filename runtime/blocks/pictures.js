@@ -3,7 +3,7 @@
 /** A box that is as large as its pictures. */
 export const framesCss =
     ".box{display:inline-block;position:relative;max-width:100%;vertical-align:top}" +
-    ".stage{isolation:isolate}li{display:grid;place-items:center}a,img{display:block}" +
+    "li{display:grid;place-items:center}a,img{display:block}" +
     "img{max-width:100%;height:auto}";
 
 /**

@@ -3,9 +3,15 @@ import { on } from "./start.js";
 
 /** All items lie in one cell, so that the largest gives the size; those of a list are all printed. */
 export const turnsCss =
-    ".stage{display:grid;min-width:0}.stage>*{grid-area:1/1;min-width:0}" +
+    ".stage{display:grid;min-width:0;isolation:isolate}.stage>*{grid-area:1/1;min-width:0}" +
     ".stage>:not(.shown){opacity:0;pointer-events:none}" +
     "@media print{.stage>li{grid-area:auto;opacity:1!important;clip-path:none!important}}";
+
+/** Ends what is seen of an item's change. @param {HTMLElement} item */
+export function settle(item) {
+    for (const run of item.getAnimations()) run.finish();
+    item.style.zIndex = item.style.opacity = item.style.clipPath = "";
+}
 
 /**
  * Lets items that are in one stage take turns; the first is shown now. An item that gets the focus
@@ -15,7 +21,7 @@ export const turnsCss =
  *     changes in milliseconds, how many there are until the end (0 or none: for ever), and the
  *     numbers of the items that come, else one after the other
  * @param {(from: HTMLElement, to: HTMLElement) => Promise<any> | void} change what is seen of a
- *     change, by animations alone
+ *     change, which ends when its items are settled
  * @param {() => void} [end] called when they have had their turns
  */
 export function turns(items, { pause, changes = 0, turn }, change, end) {
@@ -46,7 +52,7 @@ export function turns(items, { pause, changes = 0, turn }, change, end) {
         shown.classList.add("shown");
     };
     const jump = (/** @type {HTMLElement} */ item) => {
-        for (const one of items) for (const run of one.getAnimations()) run.finish();
+        items.forEach(settle);
         show(item);
         wait();
     };

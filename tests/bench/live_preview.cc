@@ -170,14 +170,15 @@ void MeasureOpening()
     std::printf("\n");
 }
 
-/// The memory of this process and those that it started, in kB.
+/// The memory of this process and those that it started, in kB; not that of program files, of which
+/// each has a share as large as few other programs use them.
 long Memory()
 {
     QProcess ps;
     ps.start(QStringLiteral("bash"),
              {QStringLiteral("-c"),
               QStringLiteral("cat $(pgrep -g 0 | sed 's#.*#/proc/&/smaps_rollup#') "
-                             "| awk '/^Pss:/ {sum += $2} END {print sum}'")});
+                             "| awk '/^Pss_(Anon|Shmem):/ {sum += $2} END {print sum}'")});
     ps.waitForFinished();
     return ps.readAllStandardOutput().trimmed().toLong();
 }

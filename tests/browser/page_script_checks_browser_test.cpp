@@ -74,6 +74,8 @@ private:
             return Value(asked["code"].toString().toStdString());
         else if (what == "script")
             return QStringView(BlockScript(asked["kind"].toString().toStdU16String())).toString();
+        else if (what == "axe")
+            return Axe();
         else if (what == "pixels")
             return m_page->ColorsAt(asked["points"].toList());
         else if (what == "mouse")
@@ -88,6 +90,13 @@ private:
                                                 : asked["key"] == "Hom" ? Qt::Key_Home
                                                                         : Qt::Key_Return);
         return {};
+    }
+
+    /// The script that looks for what bars readers, if `other_browsers` names it; else nothing.
+    static QString Axe()
+    {
+        const QString path = qEnvironmentVariable("ORVANE_AXE");
+        return path.isEmpty() ? path : QString::fromStdString(BytesOf(path));
     }
 
     /// Moves the mouse, which may stand there since the page before.

@@ -156,7 +156,9 @@ TEST_F(PreviewFormTest, EnterAllTheWayDoesTheWorkInsteadOfPassingIt)
     EXPECT_EQ(Focused(), u"txtFileName");
     PressWhereItStands(Qt::Key_Return);
     EXPECT_EQ(m_desk.Dialogs.TakeSaid().size(), 1u) << "the page's name is asked for";
+    Find<QPushButton>(*m_form, "cmdNext")->animateClick(); // as its key does
     Click(*m_form, "cmdNext");
+    QTest::qWait(150);
     EXPECT_EQ(Heading(), u"Finished!");
     EXPECT_EQ(WordsOf(*m_form, "lblReport"), u"Nothing was delivered: no Web page was written, no "
                                              u"HTML code was copied and no file was published.");

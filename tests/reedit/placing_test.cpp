@@ -94,6 +94,7 @@ TEST(PlacingTest, KnowsTopAndEnd)
 {
     const std::pair<std::string, std::string> rows[] = {
         {"<html><head></head><body>^x</body>y$</body></html>", "<body>x</body>"},
+        {"<body>\r\n^\r\n$</body>", ""},
         {"<head></head>^<p>$</html>", ""},
         {"<html>^x$", ""},
         {"\xEF\xBB\xBF\n<!DOCTYPE html>^<p>$", ""},

@@ -26,16 +26,16 @@ start("quake-1", (root) => {
         }));
         const { position } = body.style;
         if (getComputedStyle(body).position === "static") body.style.position = "relative";
-        const quake = [
-            body.animate(frames, field.seconds * 1000),
-            documentElement.animate({ overflowX: ["clip", "clip"] }, field.seconds * 1000),
-        ];
-        quake[0].onfinish = () => {
+        const quake = body.animate(frames, field.seconds * 1000);
+        const clip = documentElement.animate({ overflowX: ["clip", "clip"] }, 1);
+        clip.pause();
+        quake.onfinish = () => {
+            clip.cancel();
             body.style.position = position;
             run = null;
             again();
         };
-        run = paced(quake, 50);
+        run = paced([quake], 1000 / 16);
         run(true);
     };
     const again = () => {

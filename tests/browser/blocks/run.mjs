@@ -5,7 +5,7 @@
  * the folder that is named first.
  */
 import { readFileSync } from "node:fs";
-import { launch, names } from "../page_script/browsers.mjs";
+import { launch, names, newTab } from "../page_script/browsers.mjs";
 import { serve } from "../page_script/server.mjs";
 import { classics } from "./classics.mjs";
 import { kinds, scrollbars, together, transitions } from "./kinds.mjs";
@@ -25,8 +25,7 @@ let opened = 0;
 
 /** What keeps a block from passing in a fresh tab, or null. */
 async function faultOf(browser, row, scenario, doctype) {
-    const tab = await browser.newPage();
-    const isChromium = (await browser.version()).startsWith("Chrome");
+    const { tab, isChromium } = await newTab(browser);
     const height = row.parts ? 2400 : 600;
     await tab.setViewport({ width: 800, height, hasTouch: isChromium });
     const errors = [];

@@ -20,7 +20,8 @@ const ask = (what, values = {}) =>
 
 /** Evaluates in the page, a function with its values or a text. */
 async function evaluate(take, ...values) {
-    const code = typeof take === "string" ? take : `(${take})(...${JSON.stringify(values)})`;
+    // A script is asked for as an expression.
+    const code = typeof take === "string" ? take.replace(/;\s*$/, "") : `(${take})(...${JSON.stringify(values)})`;
     const { value, fault } = JSON.parse(await ask("value", { code }));
     if (fault) throw new Error(fault);
     return value;
@@ -80,7 +81,7 @@ async function blockChecks() {
     const codes = {};
     for (const { kind } of together.parts) codes[kind] = await ask("script", { kind });
     const loaded = () => performance.getEntriesByType("resource").map(({ name }) => name);
-    const told = { row: together, requests: () => evaluate(loaded) };
+    const told = { row: together, requests: () => evaluate(loaded), axe: await ask("axe") };
     const check = ({ name, run }) => ({
         effect: "Blocks",
         name,
