@@ -2,12 +2,15 @@
 
 #include "core/dialogs.h"
 #include "core/help_viewer.h"
+#include "windows/number_box.h"
 #include "windows/qt_text.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -155,7 +158,16 @@ void ShowComplaint(QWidget& window, Dialogs& dialogs, const Complaint& complaint
         return;
     for (auto* control : window.findChildren<QWidget*>(ToQt(complaint.Control)))
         if (control->isVisibleTo(&window))
-            control->setFocus(Qt::OtherFocusReason);
+            LeadTo(*control);
+}
+
+void LeadTo(QWidget& control)
+{
+    control.setFocus(Qt::OtherFocusReason);
+    if (auto* number = qobject_cast<NumberBox*>(&control))
+        number->selectAll();
+    else if (auto* choice = qobject_cast<QComboBox*>(&control); choice && choice->isEditable())
+        choice->lineEdit()->selectAll();
 }
 
 void LeaveAltToAccessKeys(QWidget& field)

@@ -45,6 +45,10 @@ void OpenHelpOnF1(QWidget* window, HelpViewer& help, int topic);
 /// control, or none that is on the page that is shown.
 void ShowComplaint(QWidget& window, Dialogs& dialogs, const Complaint& complaint);
 
+/// Gives the control the focus. A number or choice in it is selected, so that what the author types
+/// replaces it.
+void LeadTo(QWidget& control);
+
 /// Keeps a letter that is pressed together with Alt out of a field, whether or not it is an access
 /// key of the window at present.
 void LeaveAltToAccessKeys(QWidget& field);

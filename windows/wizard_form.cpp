@@ -56,7 +56,7 @@ void WizardForm::FocusOn(int page)
     auto* control =
         words.Focus.empty() ? FirstControl(*PanelAt(page)) : findChild<QWidget*>(ToQt(words.Focus));
     if (control != nullptr)
-        control->setFocus(Qt::OtherFocusReason);
+        LeadTo(*control);
 }
 
 void WizardForm::SetEffect(EffectKind kind)

@@ -109,6 +109,9 @@ TEST_F(VocabularyTest, AChoiceIsReadByTheValueBehindItsCaption)
     Text typed;
     controls.Read("cboOpen", typed);
     EXPECT_EQ(typed, u"0");
+    auto* open = Find<QComboBox>(m_window, "cboOpen");
+    LeadTo(*open);
+    EXPECT_EQ(open->lineEdit()->selectedText(), QStringLiteral("For ever"));
 }
 
 TEST_F(VocabularyTest, NumbersStepWithinTheirBoundsAndTakeAnyText)
@@ -129,6 +132,8 @@ TEST_F(VocabularyTest, NumbersStepWithinTheirBoundsAndTakeAnyText)
         Click(m_window, "txtUp");
         EXPECT_EQ(TextIn("txt"), up);
     }
+    ShowComplaint(m_window, m_desk.Dialogs, {u"Too much.", "txt"});
+    EXPECT_EQ(Find<QLineEdit>(m_window, "txt")->selectedText(), QStringLiteral("11"));
 }
 
 TEST_F(VocabularyTest, ATextBoxTakesWhateverLength)
