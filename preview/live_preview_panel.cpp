@@ -25,7 +25,7 @@ namespace {
 constexpr int beginAfterMs = 400;
 
 /// Of a change that waits; what follows it until then comes with it.
-constexpr int pictureAfterMs = 30;
+constexpr int pictureAfterMs = 12;
 
 constexpr TextView emptyPage = u"an empty page";
 constexpr TextView browse = u"Browse...";

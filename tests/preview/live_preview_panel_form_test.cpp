@@ -99,7 +99,7 @@ TEST_F(LivePreviewPanelFormTest, ShowsOneOfManyChangesWhileTheyGoOn)
         static_cast<void>(WaitFor([] { return false; }, 10));
     }
     EXPECT_GE(m_asked, 3) << "a slider is followed while it is dragged";
-    EXPECT_LE(m_asked, watch.elapsed() / 30 + 2);
+    EXPECT_LE(m_asked, watch.elapsed() / 12 + 2);
 }
 
 TEST_F(LivePreviewPanelFormTest, ShowsTheEffectInARecentPageWhichItOnlyReads)
