@@ -5,23 +5,26 @@
 
 #include <QStackedWidget>
 
+#include <array>
 #include <functional>
-#include <vector>
 
 namespace orvane {
 
 class FavoritesPage;
+class PageArea;
+
+/// Gives what makes the buttons of a group name.
+using MakerFinder = std::function<ButtonMaker(ControlName group)>;
 
 /// The pages of the catalogue: one for each kind of effects, one of the author's favorites and one
-/// of the effects that a search found. The buttons of the other kinds come right behind the first
-/// show, and each gets its picture when its page is shown for the first time.
+/// of the effects that a search found. Each is made when it is shown for the first time.
 class CataloguePages : public QStackedWidget
 {
 public:
     /// `makerFor` gives what makes buttons of a group name; `settings` store the favorites and the
-    /// effects used last, and must outlive this object.
-    CataloguePages(const std::function<ButtonMaker(ControlName group)>& makerFor,
-                   const Settings& settings);
+    /// effects used last; `watcher` is asked about the events of the widgets on which the buttons
+    /// lie. All must outlive this object.
+    CataloguePages(MakerFinder makerFor, const Settings& settings, QObject& watcher);
 
     /// Shows the page of a tab, counted from 0, and drops what a search found.
     void ShowTab(int tab);
@@ -42,17 +45,16 @@ public:
     /// Scrolls the page that is shown until the button can be seen.
     void BringIntoView(EffectButton& button);
 
-    /// The widgets on which the buttons lie, page by page.
-    std::vector<QWidget*> Pages() const;
-
 private:
-    void AddSecondButtons(const ButtonMaker& make);
-    void FillKind(int tab);
+    void Show(std::size_t index);
+    QWidget* MakePage(std::size_t index);
 
+    MakerFinder m_makerFor;
     const Settings& m_settings;
-    std::vector<EffectSection*> m_kinds;
-    FavoritesPage* m_favorites;
-    EffectSection* m_results;
+    QObject& m_watcher;
+    std::array<PageArea*, 5> m_areas{}; ///< null until it is shown, as the two parts of them
+    FavoritesPage* m_favorites = nullptr;
+    EffectSection* m_results = nullptr;
 };
 
 } // namespace orvane

@@ -22,7 +22,8 @@ namespace orvane {
 CataloguePanel::CataloguePanel(Settings& settings)
     : m_settings(settings),
       m_head(new CatalogueHead),
-      m_pages(new CataloguePages([this](ControlName group) { return MakerFor(group); }, settings)),
+      m_pages(new CataloguePages([this](ControlName group) { return MakerFor(group); }, settings,
+                                 *this)),
       m_description(new EffectDescription),
       m_moving(new MovingPicture(settings)),
       m_favorite(new QAction(this)),
@@ -30,8 +31,6 @@ CataloguePanel::CataloguePanel(Settings& settings)
 {
     m_moving->setParent(this);
     installEventFilter(this);
-    for (QWidget* page : m_pages->Pages())
-        page->installEventFilter(this);
     auto* lines = new QVBoxLayout(this);
     lines->addWidget(m_head);
     lines->addWidget(m_pages, 1);

@@ -17,29 +17,36 @@ constexpr TextView welcome =
     u"your Web page. To find an effect, just type what you are looking for (Ctrl+F). Ctrl+D on an "
     u"effect keeps it among your favorites.";
 
+/// Words that are not measured: they take the room that there is.
+class FittingWords : public QLabel
+{
+public:
+    FittingWords()
+    {
+        setWordWrap(true);
+        setAlignment(Qt::AlignTop);
+    }
+    QSize sizeHint() const override { return {}; }
+    QSize minimumSizeHint() const override { return {}; }
+    bool hasHeightForWidth() const override { return false; }
+};
+
 } // namespace
 
 EffectDescription::EffectDescription()
     : Label3(new QLabel),
       Label2(new QLabel),
       m_greeting(new QLabel(QStringLiteral("Welcome to Orvane"))),
-      m_welcome(new QLabel),
+      m_welcome(new FittingWords),
       m_ways(new QHBoxLayout)
 {
     Label3->setObjectName(QStringLiteral("Label3"));
-    QFont bold = Label3->font();
-    bold.setBold(true);
-    Label3->setFont(bold);
-    m_greeting->setFont(bold);
     Label2->setObjectName(QStringLiteral("Label2"));
     Label2->setWordWrap(true);
     Label2->setAlignment(Qt::AlignTop);
     m_welcome->setObjectName(QStringLiteral("lblWelcome"));
-    m_welcome->setWordWrap(true);
-    m_welcome->setAlignment(Qt::AlignTop);
     // Room for the longest description whatever is shown, so that the window stays still under the
     // mouse.
-    m_welcome->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     Label2->setMinimumHeight(3 * Label2->fontMetrics().lineSpacing());
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins({});
@@ -55,6 +62,11 @@ EffectDescription::EffectDescription()
 
 void EffectDescription::Show(const EffectButton* button)
 {
+    // The first window waits for no second font.
+    if (QFont bold = Label3->font(); button != nullptr && !bold.bold()) {
+        bold.setBold(true);
+        Label3->setFont(bold);
+    }
     Label3->setText(button == nullptr ? QString() : ToQt(button->Row().Title));
     Label2->setText(button == nullptr ? QString() : ToQt(button->Row().Description));
     m_greeting->setVisible(button == nullptr);

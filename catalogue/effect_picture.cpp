@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QResource>
 
 #include <utility>
 
@@ -16,6 +17,13 @@ namespace orvane {
 namespace {
 
 constexpr double cornerRadius = 4;
+
+int users = 0; ///< of the file with the pictures
+
+QString PicturesFile()
+{
+    return SharedFolder(QStringLiteral("catalogue.rcc"));
+}
 
 class EdgedPicture : public QIconEngine
 {
@@ -57,19 +65,31 @@ private:
 
 } // namespace
 
-QString PictureFile(const CatalogueRow& row, const QPalette& colors, double pixels)
+OpenPictures::OpenPictures()
+{
+    if (users++ == 0)
+        QResource::registerResource(PicturesFile());
+}
+
+OpenPictures::~OpenPictures()
+{
+    if (--users == 0)
+        QResource::unregisterResource(PicturesFile());
+}
+
+QString PictureName(const CatalogueRow& row, const QPalette& colors, double pixels)
 {
     const bool isDark = colors.color(QPalette::Window).lightness() < 128;
-    return QStringLiteral("%1/%2_%3%4.gif")
-        .arg(SharedFolder(QStringLiteral("catalogue")), ToQt(row.Picture),
-             isDark ? QStringLiteral("dark") : QStringLiteral("light"),
+    return QStringLiteral(":/catalogue/%1_%2%3.gif")
+        .arg(ToQt(row.Picture), isDark ? QStringLiteral("dark") : QStringLiteral("light"),
              pixels > 1 ? QStringLiteral("@2x") : QString());
 }
 
 QIcon StillPicture(const CatalogueRow& row, const QPalette& colors, double pixels)
 {
+    const OpenPictures open;
     // Named, its format is not looked for in the libraries of all others.
-    const QImage picture = QImageReader(PictureFile(row, colors, pixels), "gif").read();
+    const QImage picture = QImageReader(PictureName(row, colors, pixels), "gif").read();
     if (picture.isNull())
         return QIcon(QStringLiteral(":/pictures/%1.svg").arg(ToQt(row.Picture)));
     // Without transparency its few colors become a palette as they are.

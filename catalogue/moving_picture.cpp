@@ -1,7 +1,6 @@
 #include "catalogue/moving_picture.h"
 
 #include "catalogue/effect_button.h"
-#include "catalogue/effect_picture.h"
 
 namespace orvane {
 
@@ -53,8 +52,9 @@ void MovingPicture::Begin()
 {
     if (m_button == nullptr || m_movie.state() == QMovie::Running)
         return;
+    m_pictures.emplace();
     m_movie.setFileName(
-        PictureFile(m_button->Row(), m_button->palette(), m_button->devicePixelRatioF()));
+        PictureName(m_button->Row(), m_button->palette(), m_button->devicePixelRatioF()));
     m_movie.start();
     m_end.start();
 }
@@ -65,6 +65,7 @@ void MovingPicture::End()
     m_end.stop();
     m_movie.stop();
     m_movie.setFileName({});
+    m_pictures.reset();
     if (m_button != nullptr)
         m_button->ShowStill();
 }

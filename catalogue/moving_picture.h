@@ -1,11 +1,14 @@
 #pragma once
 
 #include "catalogue/calm_desktop.h"
+#include "catalogue/effect_picture.h"
 #include "core/settings.h"
 
 #include <QMovie>
 #include <QPointer>
 #include <QTimer>
+
+#include <optional>
 
 namespace orvane {
 
@@ -37,6 +40,7 @@ private:
     QPointer<EffectButton> m_button;
     QTimer m_begin;
     QTimer m_end;
+    std::optional<OpenPictures> m_pictures; ///< while one moves
     QMovie m_movie;
 };
 

@@ -25,7 +25,8 @@ enum class Access
 struct FileFacts
 {
     std::uint64_t Size = 0;   ///< in bytes
-    std::int64_t Written = 0; ///< when the content was last written, in seconds since 1970
+    std::int64_t Written = 0; ///< when the content was last written, in nanoseconds since 1970
+    std::uint64_t Number = 0; ///< what the disk knows it by; a file put in its place has another
     bool IsLink = false;      ///< the name itself is a link
     bool operator==(const FileFacts&) const = default;
 };

@@ -96,6 +96,9 @@ class PreviewPane
 public:
     virtual ~PreviewPane() = default;
 
+    /// Whether a page comes at once: the browser, which takes a moment to load, is there.
+    virtual bool IsReady() const = 0;
+
     /// Writes the page file, shows it, and deletes it once the browser has read it. Gives the fault
     /// when it cannot be written; then the pane still shows what it showed. While a file is left to
     /// the author's browser, the page is written to a file of another name in the same folder.
@@ -112,6 +115,9 @@ public:
 
     /// Unloads the page, with its sounds and windows, and ends what LeaveFile() began.
     virtual void Clear() = 0;
+
+    /// Called, if set, when a page that was navigated to is read, or cannot be.
+    std::function<void()> Loaded;
 
     /// Called, if set, when the author clicks in a live page that takes pointing.
     std::function<void(const PointedPlace&)> Pointed;

@@ -17,7 +17,7 @@ namespace {
 
 QString DateOf(const PageBackup& backup)
 {
-    return QDateTime::fromSecsSinceEpoch(backup.Facts.Written)
+    return QDateTime::fromMSecsSinceEpoch(backup.Facts.Written / 1'000'000)
         .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 

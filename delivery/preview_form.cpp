@@ -65,6 +65,7 @@ PreviewForm::PreviewForm(Workbench& bench, const EffectPayload& effect, QWidget*
 
 PreviewForm::~PreviewForm()
 {
+    m_bench.Pane.Loaded = nullptr;
     m_bench.Pane.Clear();
     // It is gone already when the embedded browser was the last to show it.
     std::ignore = m_bench.Files.Remove(PreviewPagePath(m_bench.Core));
@@ -134,13 +135,16 @@ void PreviewForm::ConnectPanels()
             [this] { FinishCopying(PreviewAfterCopying()); });
 }
 
-void PreviewForm::showEvent(QShowEvent* event)
+void PreviewForm::setVisible(bool isVisible)
 {
-    WizardFrame::showEvent(event);
-    if (std::exchange(m_isPreviewed, true))
-        return;
-    // Once the window is on screen, since the engine may take a moment.
-    QTimer::singleShot(0, this, [this] { BeginPreview(); });
+    if (isVisible && !std::exchange(m_isPreviewed, true)) {
+        // The page loads while the window comes up, or behind it where the browser takes a moment.
+        if (m_bench.Pane.IsReady())
+            BeginPreview();
+        else
+            QTimer::singleShot(0, this, &PreviewForm::BeginPreview);
+    }
+    WizardFrame::setVisible(isVisible);
 }
 
 void PreviewForm::Next()
@@ -307,9 +311,9 @@ void PreviewForm::BeginPreview()
 {
     const MissingFiles missing = CopyRequiredFilesForPreview(Job());
     if (missing.empty()) {
+        // Not sooner: the engine takes its steps with the page in this thread.
+        m_bench.Pane.Loaded = [this] { QTimer::singleShot(0, this, &PreviewForm::BuildPanels); };
         Preview(PreviewMode::Inline);
-        // While the engine loads the page there is time to build the others.
-        QTimer::singleShot(0, this, &PreviewForm::BuildPanels);
         return;
     }
     SetHeading(missingForPreviewHeading, missingForPreviewSubHeading);

@@ -54,13 +54,15 @@ public:
     /// The full path of the page that goes with the last two of the ends.
     const Text& Page() const { return m_page; }
 
+    /// Begins the preview as well, the first time.
+    void setVisible(bool isVisible) override;
+
     /// Whether the effect stands in a page or its code was put on the clipboard.
     bool WasDelivered() const { return m_report.HasDelivered(); }
 
 protected:
     void Next() override;
     void Previous() override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     /// Adds the pages after the preview, unless they are there. They are built only after the

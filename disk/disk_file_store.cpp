@@ -86,7 +86,8 @@ std::optional<FileFacts> DiskFileStore::Facts(TextView path) const
     std::string target;
     const bool isLink = !Retried([&] { return m_calls.ReadLink(name, target); });
     return FileFacts{.Size = static_cast<std::uint64_t>(status.st_size),
-                     .Written = status.st_mtim.tv_sec,
+                     .Written = status.st_mtim.tv_sec * 1'000'000'000 + status.st_mtim.tv_nsec,
+                     .Number = status.st_ino,
                      .IsLink = isLink};
 }
 

@@ -3,7 +3,9 @@
 #include "core/escapes.h"
 #include "core/file_names.h"
 
+#include <chrono>
 #include <tuple>
+#include <utility>
 
 namespace orvane {
 
@@ -22,6 +24,14 @@ std::size_t FindSign(TextView line, char16_t sign)
             return i;
     }
     return TextView::npos;
+}
+
+/// Whether the file was written so long ago that a further writing gives it another time.
+bool IsSettled(const FileFacts& facts)
+{
+    using std::chrono::system_clock;
+    const std::chrono::nanoseconds written(facts.Written);
+    return system_clock::now().time_since_epoch() - written > std::chrono::seconds(1);
 }
 
 } // namespace
@@ -63,12 +73,29 @@ SettingsFile::SettingsFile(FileStore& files, Text folder)
 Text SettingsFile::Get(TextView section, TextView key, TextView otherwise,
                        TextView application) const
 {
-    const auto bytes = m_files.Read(PathOf(application));
-    if (FaultIn(bytes))
+    const SettingsTable* settings = Find(PathOf(application));
+    if (settings == nullptr)
         return Text(otherwise);
-    const SettingsTable settings = ReadSettings(ValueIn(bytes));
-    const auto found = settings.find({Text(section), Text(key)});
-    return found == settings.end() ? Text(otherwise) : found->second;
+    const auto found = settings->find({Text(section), Text(key)});
+    return found == settings->end() ? Text(otherwise) : found->second;
+}
+
+/// The settings in the file as it is now; null when it cannot be read. They last until the next
+/// call.
+const SettingsTable* SettingsFile::Find(const Text& path) const
+{
+    const auto facts = m_files.Facts(path);
+    if (facts && *facts == m_known.Facts && path == m_known.Path)
+        return &m_known.Settings;
+    const auto bytes = m_files.Read(path);
+    m_known = {};
+    if (FaultIn(bytes))
+        return nullptr;
+    m_known.Settings = ReadSettings(ValueIn(bytes));
+    // One written just now may be written again without its time telling.
+    if (facts && IsSettled(*facts))
+        std::tie(m_known.Path, m_known.Facts) = std::pair(path, *facts);
+    return &m_known.Settings;
 }
 
 void SettingsFile::Put(TextView section, TextView key, TextView value, TextView application)

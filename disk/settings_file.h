@@ -20,9 +20,10 @@ SettingsTable ReadSettings(std::string_view bytes);
 /// stand for the line ends; a backslash, "=", "[" and "]" have a backslash in front.
 std::string WriteSettings(const SettingsTable& settings);
 
-/// Settings kept in one file per application, "«application».conf" in a folder. Each Get() reads
-/// the file anew, so that two running programs see what the other stored; where the folder can be
-/// locked, neither loses a setting when both store at the same time.
+/// Settings kept in one file per application, "«application».conf" in a folder. Each Get() sees
+/// what another running program stored, since it reads the file anew unless that is still as it was
+/// read last; where the folder can be locked, neither loses a setting when both store at the same
+/// time.
 class SettingsFile : public Settings
 {
 public:
@@ -34,10 +35,20 @@ public:
     void Put(TextView section, TextView key, TextView value, TextView application) override;
 
 private:
+    /// What a file held when it was read last.
+    struct Known
+    {
+        Text Path;
+        FileFacts Facts;
+        SettingsTable Settings;
+    };
+
     Text PathOf(TextView application) const;
+    const SettingsTable* Find(const Text& path) const;
 
     FileStore& m_files;
     Text m_folder;
+    mutable Known m_known;
 };
 
 } // namespace orvane

@@ -64,7 +64,7 @@ void QtPreviewPane::BuildViewPage()
 
 Done QtPreviewPane::Navigate(const PanePage& page)
 {
-    PageRead();
+    EndFile();
     m_live.reset();
     m_isQuiet = false;
     const Done written = m_file.Begin(page);
@@ -104,7 +104,7 @@ void QtPreviewPane::Clear()
     lblPageStatus->clear();
     m_quietLine->hide();
     m_live.reset();
-    PageRead();
+    EndFile();
     m_file.End();
 }
 
@@ -219,6 +219,14 @@ void QtPreviewPane::PageNeeded()
 }
 
 void QtPreviewPane::PageRead()
+{
+    EndFile();
+    if (Loaded)
+        Loaded();
+}
+
+/// Removes the file of the page that was shown last, which the engine needs no longer.
+void QtPreviewPane::EndFile()
 {
     // The engine puts in the part that takes the keys with its first page.
     SetReadingOrder(*window());

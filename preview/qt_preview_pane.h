@@ -34,6 +34,7 @@ public:
     QtPreviewPane(Dialogs& dialogs, Shell& shell, FileStore& files, QWidget* parent = nullptr);
     ~QtPreviewPane() override;
 
+    bool IsReady() const override { return m_view != nullptr; }
     /// As PreviewPane says; a note stands in place of the page when the web view cannot be used.
     [[nodiscard]] Done Navigate(const PanePage& page) override;
     void ShowLive(const LivePage& page) override;
@@ -64,6 +65,7 @@ private:
     void OutsideWanted(TextView target, bool byAuthor) override;
     void PageEnded(PageEnd end) override;
 
+    void EndFile();
     void BuildViewPage();
     void ShowNote(const Text& words, bool canTryAgain);
     void ShowPage();

@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
 
 namespace orvane {
 
@@ -63,11 +64,15 @@ void OVMainForm::AddMenus()
     add(edit, "mnuPreferences", u"&Preferences...", &OVMainForm::PreferencesWanted);
 
     QMenu* effects = AddMenu(*menuBar(), "mnuAppletS", u"&Special Effects");
-    AddEffects(*AddMenu(*effects, "mnuImageEffectsMain", u"&Image Effects"),
-               CataloguePage::ImageEffects);
-    AddEffects(*AddMenu(*effects, "mnuTextEffects", u"&Text Effects"), CataloguePage::TextEffects);
-    AddEffects(*AddMenu(*effects, "mnuOtherEffects", u"&Other Special Effects"),
-               CataloguePage::OtherEffects);
+    QMenu* image = AddMenu(*effects, "mnuImageEffectsMain", u"&Image Effects");
+    QMenu* text = AddMenu(*effects, "mnuTextEffects", u"&Text Effects");
+    QMenu* other = AddMenu(*effects, "mnuOtherEffects", u"&Other Special Effects");
+    // Behind the first paint, which their fifty rows would hold up.
+    QTimer::singleShot(0, this, [=, this] {
+        AddEffects(*image, CataloguePage::ImageEffects);
+        AddEffects(*text, CataloguePage::TextEffects);
+        AddEffects(*other, CataloguePage::OtherEffects);
+    });
 
     QMenu* help = AddMenu(*menuBar(), "mnuHelp", u"&Help");
     add(help, "mnuHelpContents", u"&Contents...",

@@ -3,23 +3,33 @@
 #include "windows/qt_text.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 
 namespace orvane {
 
 LinkLabel::LinkLabel(ControlName name, TextView words, QWidget* parent) : QLabel(parent)
 {
     setObjectName(ToQt(name));
-    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    setTextFormat(Qt::PlainText);
+    setForegroundRole(QPalette::Link);
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    setFont(underlined);
+    setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     SetWords(words);
-    connect(this, &QLabel::linkActivated, this, &LinkLabel::Followed);
 }
 
 void LinkLabel::SetWords(TextView words)
 {
-    m_words = words;
     setAccessibleName(ToQt(words));
-    setText(QStringLiteral("<a href=\"#\">%1</a>").arg(ToQt(words).toHtmlEscaped()));
+    setText(ToQt(words));
+}
+
+Text LinkLabel::Words() const
+{
+    return FromQt(text());
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event)
@@ -29,6 +39,27 @@ void LinkLabel::keyPressEvent(QKeyEvent* event)
         emit Followed();
     else
         QLabel::keyPressEvent(event);
+}
+
+void LinkLabel::mousePressEvent(QMouseEvent* event)
+{
+    event->setAccepted(event->button() == Qt::LeftButton);
+}
+
+void LinkLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit Followed();
+}
+
+void LinkLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, frame);
 }
 
 } // namespace orvane

@@ -16,7 +16,7 @@ public:
 
     /// Shows other words, which are plain text.
     void SetWords(TextView words);
-    Text Words() const { return m_words; }
+    Text Words() const;
 
 signals:
     /// The author followed the link.
@@ -24,9 +24,9 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    Text m_words;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace orvane

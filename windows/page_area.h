@@ -10,6 +10,8 @@ class PageArea : public QScrollArea
 public:
     explicit PageArea(QWidget* page)
     {
+        // Of a size that is set it does not measure what is to be fitted into the window anyway.
+        page->resize(page->size());
         setWidget(page);
         setWidgetResizable(true);
         setFrameShape(QFrame::NoFrame);

@@ -17,11 +17,12 @@ namespace {
 
 TEST(EffectPictureTest, EveryEffectHasSmallOnesForEachScreenAndForLightAndDarkWindows)
 {
+    const OpenPictures open;
     for (const CatalogueRow& row : Catalogue()) {
         qint64 bytes = 0;
         for (const QColor window : {Qt::white, Qt::black})
             for (const double pixels : {1.0, 2.0}) {
-                const QString file = PictureFile(row, QPalette(window), pixels);
+                const QString file = PictureName(row, QPalette(window), pixels);
                 bytes += QFileInfo(file).size();
                 EXPECT_EQ(QImageReader(file).size(), pixels * pictureSize) << file.toStdString();
             }

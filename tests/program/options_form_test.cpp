@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
 #include <algorithm>
 
@@ -131,7 +132,7 @@ TEST(AboutFormTest, TellsTheVersionAndOpensTheMakersSite)
     AboutForm about(desk.Bench);
     about.show();
     EXPECT_EQ(WordsOf(about, "lblVersionInfo"), u"Version 1.2.3 for Windows 95/98/NT/ME/2000/XP");
-    emit Find<QLabel>(about, "lblLink")->linkActivated({});
+    QTest::mouseClick(Find<QLabel>(about, "lblLink"), Qt::LeftButton);
     EXPECT_EQ(desk.Shell.Opened, Texts{u"http://www.varlo.example"});
     Click(about, "cmdOK");
     EXPECT_FALSE(about.isVisible());

@@ -51,6 +51,8 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
     std::vector<EffectKind> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
                      [&](EffectKind kind) { wanted.push_back(kind); });
+    for (const int tab : {1, 2, 0})
+        Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
     for (const CatalogueRow& row : Catalogue()) {
         ASSERT_NE(ButtonOf(row), nullptr) << ToUtf8(row.Title);
         ButtonOf(row)->click();
@@ -58,8 +60,6 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
     }
     EXPECT_EQ(all, 50);
     EXPECT_EQ(std::ranges::count(wanted, EffectKind::PasswordScript), 2);
-    for (const int tab : {0, 1, 2})
-        Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
     int buttons = 0;
     for (const CatalogueRow& row : Catalogue()) {
         const QToolButton* button = ButtonOf(row);
@@ -136,8 +136,7 @@ TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffect)
     std::vector<EffectKind> wanted;
     QObject::connect(&m_form, &OVMainForm::EffectWanted,
                      [&](EffectKind kind) { wanted.push_back(kind); });
-    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(2);
-    QToolButton* button = ButtonOf(*FindRow(EffectKind::Sound));
+    QAbstractButton* button = EffectButtonIn(m_form, EffectKind::Sound);
     button->setFocus();
     EXPECT_EQ(WordsOf(m_form, "Label3"), u"Sound Effect");
     Press(*button, Qt::Key_Return);
@@ -145,7 +144,7 @@ TEST_F(OVMainFormTest, ReturnAndCommandOpenAnEffect)
     EXPECT_EQ(wanted, std::vector<EffectKind>(2, EffectKind::Sound));
     Command("mnuImageTransitions")->trigger();
     EXPECT_TRUE(m_desk.Core.TransitionsImageMode);
-    ButtonOf(*FindRow(EffectKind::TextTransitions))->click();
+    EffectButtonIn(m_form, EffectKind::TextTransitions)->click();
     EXPECT_FALSE(m_desk.Core.TransitionsImageMode);
     Command("mnuRandomQuote")->trigger();
     EXPECT_EQ(m_desk.Core.RandomMode, u"quote");

@@ -197,7 +197,7 @@ TEST_F(PageEffectsRoadTest, AddsAnEffectOfTheCatalogue)
                 });
                 Click(wizard, "cmdDone");
             });
-            Find<QToolButton>(choice, "cmdSpecialFX(9)")->click();
+            EffectButtonIn(choice, EffectKind::StatusBarTicker)->click();
         });
         Click(list, "cmdAddEffect");
     });

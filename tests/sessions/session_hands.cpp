@@ -107,10 +107,9 @@ void SessionHands::UseMainWindow(QWidget& window)
 void SessionHands::OpenWizard(QWidget& catalogue)
 {
     const SessionEffect& effect = sessionEffects.at(m_author.Pick(sessionEffects.size()));
-    const QString name = QStringLiteral("cmdSpecialFX(%1)").arg(static_cast<int>(effect.Kind));
     Note(catalogue, effect.Title());
     Deed.OpensFresh = true;
-    catalogue.findChild<QAbstractButton*>(name)->click();
+    EffectButtonIn(catalogue, effect.Kind)->click();
 }
 
 void SessionHands::LetTimePass(QWidget& front)

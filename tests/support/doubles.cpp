@@ -173,7 +173,8 @@ std::optional<FileFacts> FakeFileStore::Facts(TextView path) const
     const auto found = Contents.find(Text(path));
     if (found == Contents.end())
         return std::nullopt;
-    return FileFacts{.Size = found->second.size()};
+    return FileFacts{.Size = found->second.size(),
+                     .Number = std::hash<std::string>{}(found->second)};
 }
 
 Done FakeFileStore::Copy(TextView from, TextView to, Progress* progress)

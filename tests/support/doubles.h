@@ -186,11 +186,15 @@ class FakePreviewPane : public PreviewPane
 public:
     Texts Navigated;
     std::vector<PanePage> Pages;
+    bool IsLoaded = false;   ///< what IsReady() gives
     bool IsFileLeft = false; ///< whether LeaveFile() was called
+    bool IsReady() const override { return IsLoaded; }
     Done Navigate(const PanePage& page) override
     {
         Navigated.push_back(page.Path);
         Pages.push_back(page);
+        if (Loaded)
+            Loaded();
         return {};
     }
     std::vector<LivePage> Live;

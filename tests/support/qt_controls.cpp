@@ -3,7 +3,6 @@
 #include "windows/multi_line_box.h"
 #include "windows/qt_text.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -11,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QTabBar>
 #include <QTimer>
 
 #include <map>
@@ -173,6 +173,14 @@ int SelectedRowOf(QWidget& window, const char* name)
     if (list == nullptr || list->selectedItems().isEmpty())
         return -1;
     return list->row(list->selectedItems().constFirst());
+}
+
+QAbstractButton* EffectButtonIn(QWidget& catalogue, EffectKind kind)
+{
+    const CataloguePage page = FindCommand(RowOf(kind).MenuCommand)->Page;
+    Find<QTabBar>(catalogue, "TabStrip1")->setCurrentIndex(static_cast<int>(page));
+    const std::string name = "cmdSpecialFX(" + std::to_string(static_cast<int>(kind)) + ")";
+    return Find<QAbstractButton>(catalogue, name.c_str());
 }
 
 void LetRun()

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "core/catalogue.h"
 #include "core/text.h"
 
-#include <QWidget>
+#include <QAbstractButton>
 
 #include <gtest/gtest.h>
 
@@ -26,6 +27,9 @@ Control* Find(QWidget& window, const char* name)
     EXPECT_NE(found, nullptr) << "no control " << name;
     return found;
 }
+
+/// Opens the catalogue's page with this effect and gives the effect's button.
+QAbstractButton* EffectButtonIn(QWidget& catalogue, EffectKind kind);
 
 /// Types into a text box as the author would, at the cursor; the text that is there stays.
 void Type(QWidget& window, const char* name, TextView text);
