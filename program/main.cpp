@@ -1,6 +1,7 @@
 #include "preview/preview_page.h"
 #include "program/command_line.h"
 #include "program/composition.h"
+#include "program/late_arrow_style.h"
 #include "program/qt_dialogs.h"
 #include "program/qt_resources.h"
 #include "program/qt_shell.h"
@@ -94,6 +95,7 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     QuietEngines();
+    QApplication::setStyle(new LateArrowStyle);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setDesktopFileName(ToQt(desktopId));

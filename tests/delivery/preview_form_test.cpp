@@ -58,6 +58,20 @@ TEST_F(PreviewFormTest, OpensWithThePreviewOnItsFirstPage)
     EXPECT_EQ(m_desk.Shell.Opened, std::vector<Text>{u"/program/ov-prvw.htm"});
 }
 
+TEST_F(PreviewFormTest, ThePageLoadsWhileTheWindowComesUpOnceTheBrowserIsThere)
+{
+    for (const bool isLoaded : {false, true}) {
+        m_form.reset();
+        m_desk.Pane.IsLoaded = isLoaded;
+        m_desk.Pane.Navigated.clear();
+        m_form = std::make_unique<PreviewForm>(m_desk.Bench, m_payload, nullptr, m_windows);
+        m_form->show();
+        EXPECT_EQ(m_desk.Pane.Navigated.size(), isLoaded ? 1u : 0u);
+        LetRun();
+        EXPECT_EQ(m_desk.Pane.Navigated.size(), 1u);
+    }
+}
+
 TEST_F(PreviewFormTest, KeepsTheChosenEditorForThisAndLaterRuns)
 {
     KnowEditor(u"");

@@ -43,6 +43,29 @@ TEST(SettingsFileTest, PassesOverWhatIsNoSetting)
     EXPECT_EQ(table.at({u"X", u"A"}), u"2");
 }
 
+TEST(SettingsFileTest, SeesWhatOthersStoreAndReadsAnUnchangedFileOnce)
+{
+    FakeFileStore memory;
+    memory.Contents[u"/c/Orvane.conf"] = "[Misc]\nA=1\n";
+    SettingsFile stored(memory, u"/c");
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(stored.Get(u"Misc", u"A", u"", orvane), u"1");
+    EXPECT_EQ(memory.Reads.size(), 1u);
+    memory.Contents.clear();
+    EXPECT_EQ(stored.Get(u"Misc", u"A", u"none", orvane), u"none");
+
+    // Written again at once, in place and as long as before, a file may keep its time.
+    const TestFolder folder;
+    PosixCalls calls;
+    DiskFileStore files(calls, u"");
+    const SettingsFile settings(files, folder.TextAt(""));
+    for (int i = 0; i < 100; ++i) {
+        const char digit = static_cast<char>('0' + i % 10);
+        folder.Put("Orvane.conf", std::string("[Misc]\nA=") + digit + "\n");
+        EXPECT_EQ(settings.Get(u"Misc", u"A", u"", orvane), Text(1, digit));
+    }
+}
+
 TEST(SettingsFileTest, UnreadableFileIsNeverWrittenOver)
 {
     FakeFileStore files;
