@@ -175,7 +175,7 @@ bool CataloguePanel::TakeButtonKey(EffectButton& button, const QKeyEvent& key)
 bool CataloguePanel::eventFilter(QObject* watched, QEvent* event)
 {
     auto* button = qobject_cast<EffectButton*>(watched);
-    if (event->type() == QEvent::KeyPress && watched != this) {
+    if (event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         if (button != nullptr && TakeButtonKey(*button, key))
             return true;

@@ -27,7 +27,7 @@ public:
     QIconEngine* clone() const override { return new LateArrow(*this); }
 
 private:
-    const QStyle& m_style; ///< of the desktop; it lives as long as the program's
+    const QStyle& m_style; ///< lives until all windows are gone
 };
 
 } // namespace

@@ -95,8 +95,8 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     QuietEngines();
-    QApplication::setStyle(new LateArrowStyle);
     QApplication application(argc, argv);
+    QApplication::setStyle(new LateArrowStyle(QApplication::style()));
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setDesktopFileName(ToQt(desktopId));
     QApplication::setQuitOnLastWindowClosed(false);

@@ -115,6 +115,11 @@ TEST_F(OVMainFormTest, LeadsInByLinksBesideTheWelcome)
     EXPECT_TRUE(toEffects->isVisible()) << "beside a description, too";
     QTest::keyClick(toPage, Qt::Key_P);
     EXPECT_EQ(WordsOf(m_form, "txtSearch"), u"p");
+    QTest::keyClick(m_form.focusWidget(), Qt::Key_Escape);
+    EffectButtonIn(m_form, EffectKind::Slideshow)->setFocus();
+    Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(3);
+    QTest::keyClick(m_form.focusWidget(), Qt::Key_F);
+    EXPECT_EQ(WordsOf(m_form, "txtSearch"), u"f") << "from a page without anything to choose";
 }
 
 TEST_F(OVMainFormTest, ShrinksWithItsDescriptionInSight)
