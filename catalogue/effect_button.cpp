@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QPainterPath>
+#include <QStyle>
 #include <QStyleOption>
 #include <QStylePainter>
 
@@ -89,10 +90,17 @@ void EffectButton::ShowStill()
 
 QSize EffectButton::sizeHint() const
 {
-    // Every button is as large as one with two lines of words, so that all pages look alike.
+    // Every button is as large as one with two lines of words, so that all pages look alike. The
+    // words themselves are not measured, which would hold up the first window.
+    ensurePolished();
     const QFontMetrics letters = fontMetrics();
-    return QToolButton::sizeHint().expandedTo({lettersPerLine * letters.averageCharWidth(),
-                                               pictureSize.height() + 3 * letters.lineSpacing()});
+    const QSize content = pictureSize.grownBy({0, 0, 0, 2 * letters.lineSpacing()});
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    return style()
+        ->sizeFromContents(QStyle::CT_ToolButton, &option, content, this)
+        .expandedTo({lettersPerLine * letters.averageCharWidth(),
+                     pictureSize.height() + 3 * letters.lineSpacing()});
 }
 
 void EffectButton::changeEvent(QEvent* event)

@@ -137,14 +137,18 @@ void PreviewForm::ConnectPanels()
 
 void PreviewForm::setVisible(bool isVisible)
 {
-    if (isVisible && !std::exchange(m_isPreviewed, true)) {
-        // The page loads while the window comes up, or behind it where the browser takes a moment.
-        if (m_bench.Pane.IsReady())
-            BeginPreview();
-        else
-            QTimer::singleShot(0, this, &PreviewForm::BeginPreview);
-    }
+    // The page loads while the window comes up.
+    if (isVisible && m_bench.Pane.IsReady() && !std::exchange(m_isPreviewed, true))
+        BeginPreview();
     WizardFrame::setVisible(isVisible);
+}
+
+void PreviewForm::paintEvent(QPaintEvent* event)
+{
+    WizardFrame::paintEvent(event);
+    // The browser takes a moment to load.
+    if (!std::exchange(m_isPreviewed, true))
+        QTimer::singleShot(0, this, &PreviewForm::BeginPreview);
 }
 
 void PreviewForm::Next()

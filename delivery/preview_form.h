@@ -54,13 +54,15 @@ public:
     /// The full path of the page that goes with the last two of the ends.
     const Text& Page() const { return m_page; }
 
-    /// Begins the preview as well, the first time.
+    /// Begins the preview as well, the first time, where the browser is there.
     void setVisible(bool isVisible) override;
 
     /// Whether the effect stands in a page or its code was put on the clipboard.
     bool WasDelivered() const { return m_report.HasDelivered(); }
 
 protected:
+    /// Begins the preview otherwise, behind the first sight of the window.
+    void paintEvent(QPaintEvent* event) override;
     void Next() override;
     void Previous() override;
 

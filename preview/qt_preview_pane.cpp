@@ -118,10 +118,12 @@ void QtPreviewPane::ShowPage()
     lblPageStatus->clear();
     const PanePage& page = m_file.Page();
     ShowNotes(page.Note, page.RunsInStatus);
-    if (CanShow())
-        m_view->ShowPage(page.Path, page.Files);
-    else
-        PageRead();
+    const bool isFirst = m_view == nullptr;
+    if (!CanShow())
+        return PageRead();
+    if (isFirst)
+        m_held.Begin(*window());
+    m_view->ShowPage(page.Path, page.Files);
 }
 
 /// Begins a new page, with what is told beside it.
@@ -220,6 +222,7 @@ void QtPreviewPane::PageNeeded()
 
 void QtPreviewPane::PageRead()
 {
+    m_held.End();
     EndFile();
     if (Loaded)
         Loaded();

@@ -3,6 +3,7 @@
 #include "core/preview_pane.h"
 #include "preview/outside_links.h"
 #include "preview/page_boxes.h"
+#include "preview/qt_held_drawing.h"
 #include "preview/shown_file.h"
 #include "preview/web_view.h"
 
@@ -78,6 +79,7 @@ private:
     ShownFile m_file;
     PageBoxes m_boxes;
     OutsideLinks m_outside;
+    QtHeldDrawing m_held;
 
     std::optional<LivePage> m_live; ///< while a live page is shown, and not one of a file
     bool m_isQuiet = false;         ///< the live page shows no boxes and opens no windows

@@ -21,7 +21,7 @@ int main(int argc, char** argv)
     }
     window.setCentralWidget(content);
     window.setWindowTitle(QStringLiteral("bare"));
-    window.resize(760, 560);
+    window.resize(950, 541);
     window.show();
     return QApplication::exec();
 }

@@ -30,6 +30,17 @@ TEST(EffectPictureTest, EveryEffectHasSmallOnesForEachScreenAndForLightAndDarkWi
     }
 }
 
+TEST(EffectPictureTest, AButtonHasRoomForItsWordsAndIsAsLargeBeforeItsPictureComes)
+{
+    for (const CatalogueRow& row : Catalogue()) {
+        EffectButton button(row, QString());
+        const QSize room = button.sizeHint();
+        EXPECT_LE(button.fontMetrics().size(0, button.text()).width(), room.width() - 6);
+        button.DrawPicture();
+        EXPECT_EQ(button.sizeHint(), room);
+    }
+}
+
 class MovingPictureTest : public ::testing::Test
 {
 protected:

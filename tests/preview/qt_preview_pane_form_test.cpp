@@ -1,3 +1,4 @@
+#include "preview/qt_held_drawing.h"
 #include "preview/qt_preview_pane.h"
 
 #include "tests/support/doubles.h"
@@ -5,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -33,6 +35,25 @@ TEST(QtPreviewPaneFormTest, PointsToTheAuthorsBrowserWhereTheWebViewIsMissing)
     ExpectAccessible(pane);
     desk.Files.FailOn(path, Fault::DiskFull);
     EXPECT_EQ(pane.Navigate({.Path = path, .Bytes = "<body>"}), Done(Fault::DiskFull));
+}
+
+TEST(QtHeldDrawingFormTest, HoldsAWindowUntilTheEndOrForAMoment)
+{
+    QWidget window;
+    QtHeldDrawing held;
+    held.Begin(window);
+    EXPECT_FALSE(window.updatesEnabled());
+    held.End();
+    EXPECT_TRUE(window.updatesEnabled());
+    {
+        QWidget closedMeanwhile;
+        QtHeldDrawing ofAPaneThatIsGone;
+        ofAPaneThatIsGone.Begin(window);
+        held.Begin(closedMeanwhile);
+    }
+    held.End();
+    EXPECT_FALSE(window.updatesEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.updatesEnabled(); }));
 }
 
 } // namespace
