@@ -1,5 +1,6 @@
 #include "core/utf8.h"
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -102,11 +103,12 @@ std::size_t Utf8Length(std::string_view bytes)
 
 std::size_t FindAboveAscii(std::string_view bytes, std::size_t from)
 {
-    // Pages are long and most of them ASCII: eight bytes at a time.
+    // Pages are long and most of them ASCII: 32 bytes at a time.
     constexpr std::uint64_t topBits = 0x8080808080808080;
-    for (std::uint64_t eight = 0; from + sizeof eight <= bytes.size(); from += sizeof eight) {
-        std::memcpy(&eight, bytes.data() + from, sizeof eight);
-        if ((eight & topBits) != 0)
+    for (std::array<std::uint64_t, 4> some; from + sizeof some <= bytes.size();
+         from += sizeof some) {
+        std::memcpy(some.data(), bytes.data() + from, sizeof some);
+        if (((some[0] | some[1] | some[2] | some[3]) & topBits) != 0)
             break;
     }
     while (from < bytes.size() && static_cast<unsigned char>(bytes[from]) < 0x80)

@@ -82,8 +82,12 @@ std::string Encode(TextView code, PageEncoding encoding, ScriptTracker scripts)
     std::string bytes;
     bytes.reserve(code.size());
     for (std::size_t i = 0; i < code.size(); ++i) {
+        if (code[i] < 0x80) {
+            bytes.push_back(static_cast<char>(code[i]));
+            continue;
+        }
         const auto byte = Windows1252Byte(code[i]);
-        if (byte && (encoding == PageEncoding::Windows1252 || code[i] < 0x80)) {
+        if (byte && encoding == PageEncoding::Windows1252) {
             bytes.push_back(*byte);
         } else if (scripts.IsInScript(i)) {
             bytes += ScriptEscape(code[i]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QScrollArea>
 
 namespace orvane {
@@ -26,6 +27,26 @@ public:
         return wanted;
     }
     QSize minimumSizeHint() const override { return {80, 60}; }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+            FitBar();
+        return QScrollArea::event(event);
+    }
+
+private:
+    /// Takes the scroll bar away where the page has room without it. The toolkit does not: it
+    /// measures the page beside the bar, once there is one.
+    void FitBar()
+    {
+        const QSize room = maximumViewportSize();
+        const QWidget* page = widget();
+        const bool fits =
+            page->hasHeightForWidth() && page->heightForWidth(room.width()) <= room.height();
+        setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    }
 };
 
 } // namespace orvane

@@ -11,6 +11,9 @@
 #include <QEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTest>
 #include <QToolButton>
@@ -74,6 +77,17 @@ TEST_F(OVMainFormTest, ShowsAPictureAndATitleForEveryEffect)
               "Picture1(0)");
     EXPECT_EQ(ButtonOf(*FindRow(EffectKind::DigitalClock))->parentWidget()->objectName(),
               "Picture1(2)");
+}
+
+TEST_F(OVMainFormTest, EveryTabFitsIntoTheWindowAsItOpens)
+{
+    m_form.resize(m_form.sizeHint());
+    for (const int tab : {1, 2, 0}) {
+        Find<QTabBar>(m_form, "TabStrip1")->setCurrentIndex(tab);
+        LetRun();
+        const auto* area = m_form.findChild<QStackedWidget*>()->currentWidget();
+        EXPECT_FALSE(static_cast<const QScrollArea*>(area)->verticalScrollBar()->isVisible());
+    }
 }
 
 TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndWelcomesElsewhere)
