@@ -1,6 +1,8 @@
 #include "core/utf8.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -64,7 +66,13 @@ std::u16string FromUtf8(std::string_view bytes)
 {
     std::u16string text;
     text.reserve(bytes.size());
-    while (!bytes.empty()) {
+    while (true) {
+        const std::size_t length = FindAboveAscii(bytes, 0);
+        text.resize(text.size() + length);
+        std::copy_n(bytes.data(), length, text.end() - static_cast<std::ptrdiff_t>(length));
+        bytes.remove_prefix(length);
+        if (bytes.empty())
+            return text;
         const Utf8Sequence sequence = ReadUtf8(bytes);
         if (sequence.Point >= 0x10000) {
             const char32_t offset = sequence.Point - 0x10000;
@@ -76,7 +84,6 @@ std::u16string FromUtf8(std::string_view bytes)
         // Of an ill-formed sequence one byte counts.
         bytes.remove_prefix(sequence.Length == 0 ? 1 : sequence.Length);
     }
-    return text;
 }
 
 std::string ToUtf8(std::u16string_view text)
@@ -84,6 +91,10 @@ std::string ToUtf8(std::u16string_view text)
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] < 0x80) {
+            bytes.push_back(static_cast<char>(text[i]));
+            continue;
+        }
         char32_t point = text[i];
         if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
             point = 0x10000 + ((point - 0xD800) << 10) + (text[i + 1] - 0xDC00u);
