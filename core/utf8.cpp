@@ -91,10 +91,6 @@ std::string ToUtf8(std::u16string_view text)
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] < 0x80) {
-            bytes.push_back(static_cast<char>(text[i]));
-            continue;
-        }
         char32_t point = text[i];
         if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
             point = 0x10000 + ((point - 0xD800) << 10) + (text[i + 1] - 0xDC00u);

@@ -43,8 +43,9 @@ private:
     {
         const QSize room = maximumViewportSize();
         const QWidget* page = widget();
-        const bool fits =
-            page->hasHeightForWidth() && page->heightForWidth(room.width()) <= room.height();
+        const bool fits = page->hasHeightForWidth() &&
+                          page->minimumSizeHint().width() <= room.width() &&
+                          page->heightForWidth(room.width()) <= room.height();
         setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     }
 };
