@@ -43,7 +43,7 @@ std::size_t FindInIgnoringCase(View text, View sought, std::size_t from)
         return from;
     if (sought.size() > text.size())
         return 0;
-    // Pages are searched again and again: most places are out by their first character.
+    // Most places are out by their first character.
     const char16_t first = ToLower(CharacterOf(sought.front()));
     const char16_t upper = ToUpper(first);
     const std::size_t last = text.size() - sought.size();
@@ -113,7 +113,21 @@ std::size_t FindIgnoringCase(TextView text, TextView sought, std::size_t from)
 
 std::size_t FindIgnoringCase(std::string_view bytes, std::string_view sought, std::size_t from)
 {
-    return FindInIgnoringCase(bytes, sought, from);
+    if (from == 0 || sought.empty() || CharacterOf(sought.front()) >= 0x80)
+        return FindInIgnoringCase(bytes, sought, from);
+    // Pages are long and searched again and again; the library passes over many bytes at once.
+    const char lower = static_cast<char>(ToLower(CharacterOf(sought.front())));
+    const char upper = static_cast<char>(ToUpper(CharacterOf(sought.front())));
+    std::size_t lowerAt = bytes.find(lower, from - 1);
+    for (std::size_t at = from - 1;; ++at) {
+        if (lowerAt < at)
+            lowerAt = bytes.find(lower, at);
+        at = std::min(lowerAt, bytes.substr(0, lowerAt).find(upper, at));
+        if (at == std::string_view::npos)
+            return 0;
+        if (AreEqualIgnoringCase(bytes.substr(at, sought.size()), sought))
+            return at + 1;
+    }
 }
 
 std::size_t FindLast(TextView text, TextView sought)

@@ -60,6 +60,22 @@ Utf8Sequence ReadUtf8(std::string_view bytes)
     return {length, point};
 }
 
+/// The place of the first unit with one of the bits that `high` has in each of its units. Pages are
+/// long and most of them ASCII: 32 bytes at a time.
+template <class Unit, std::uint64_t high>
+std::size_t FindAbove7Bits(std::basic_string_view<Unit> units, std::size_t from)
+{
+    constexpr std::size_t atOnce = 32 / sizeof(Unit);
+    for (std::array<std::uint64_t, 4> some; from + atOnce <= units.size(); from += atOnce) {
+        std::memcpy(some.data(), units.data() + from, sizeof some);
+        if (((some[0] | some[1] | some[2] | some[3]) & high) != 0)
+            break;
+    }
+    while (from < units.size() && (units[from] & Unit(high)) == 0)
+        ++from;
+    return from;
+}
+
 } // namespace
 
 std::u16string FromUtf8(std::string_view bytes)
@@ -90,17 +106,24 @@ std::string ToUtf8(std::u16string_view text)
 {
     std::string bytes;
     bytes.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t point = text[i];
-        if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
-            point = 0x10000 + ((point - 0xD800) << 10) + (text[i + 1] - 0xDC00u);
-            ++i;
-        } else if (IsHighSurrogate(text[i]) || IsLowSurrogate(text[i])) {
-            point = replacementCharacter;
-        }
-        AppendUtf8(bytes, point);
+    while (true) {
+        const std::size_t length = FindAboveAscii(text, 0);
+        bytes.resize(bytes.size() + length);
+        std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(length),
+                       bytes.end() - static_cast<std::ptrdiff_t>(length),
+                       [](char16_t unit) { return static_cast<char>(unit); });
+        text.remove_prefix(length);
+        if (text.empty())
+            return bytes;
+        const bool isPair = text.size() > 1 && IsHighSurrogate(text[0]) && IsLowSurrogate(text[1]);
+        if (isPair)
+            AppendUtf8(bytes, 0x10000 + ((text[0] - 0xD800u) << 10) + (text[1] - 0xDC00u));
+        else if (IsHighSurrogate(text[0]) || IsLowSurrogate(text[0]))
+            AppendUtf8(bytes, replacementCharacter);
+        else
+            AppendUtf8(bytes, text[0]);
+        text.remove_prefix(isPair ? 2 : 1);
     }
-    return bytes;
 }
 
 std::size_t Utf8Length(std::string_view bytes)
@@ -110,17 +133,12 @@ std::size_t Utf8Length(std::string_view bytes)
 
 std::size_t FindAboveAscii(std::string_view bytes, std::size_t from)
 {
-    // Pages are long and most of them ASCII: 32 bytes at a time.
-    constexpr std::uint64_t topBits = 0x8080808080808080;
-    for (std::array<std::uint64_t, 4> some; from + sizeof some <= bytes.size();
-         from += sizeof some) {
-        std::memcpy(some.data(), bytes.data() + from, sizeof some);
-        if (((some[0] | some[1] | some[2] | some[3]) & topBits) != 0)
-            break;
-    }
-    while (from < bytes.size() && static_cast<unsigned char>(bytes[from]) < 0x80)
-        ++from;
-    return from;
+    return FindAbove7Bits<char, std::uint64_t{0x8080808080808080}>(bytes, from);
+}
+
+std::size_t FindAboveAscii(std::u16string_view text, std::size_t from)
+{
+    return FindAbove7Bits<char16_t, std::uint64_t{0xFF80FF80FF80FF80}>(text, from);
 }
 
 } // namespace orvane

@@ -25,8 +25,9 @@ std::string ToUtf8(std::u16string_view text);
 /// The length in bytes of the well-formed character at the start of `bytes`; 0 when there is none.
 std::size_t Utf8Length(std::string_view bytes);
 
-/// The place, counted from 0, of the first byte above 127 at or behind `from`; the size of `bytes`
-/// when there is none.
+/// The place, counted from 0, of the first byte or character above 127 at or behind `from`; the
+/// size when there is none.
 std::size_t FindAboveAscii(std::string_view bytes, std::size_t from);
+std::size_t FindAboveAscii(std::u16string_view text, std::size_t from);
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #include "insertion/page_charset.h"
 
+#include "core/text.h"
 #include "insertion/page_markup.h"
 
 #include <algorithm>
@@ -166,7 +167,11 @@ std::optional<DeclaredCharset> CharsetInXmlDeclaration(std::string_view start)
 
 DeclaredCharset DeclaredCharsetOf(std::string_view page)
 {
-    std::string start(page.substr(0, lookAt));
+    page = page.substr(0, lookAt);
+    // Most pages that declare none do not even have the word and need no closer look.
+    if (FindIgnoringCase(page, "charset") == 0 && !page.starts_with("<?"))
+        return DeclaredCharset::None;
+    std::string start(page);
     std::transform(start.begin(), start.end(), start.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
     auto charset = CharsetSearch(start).Run();

@@ -77,7 +77,7 @@ private:
 /// `scripts` for the script, elsewhere for the markup.
 std::string Encode(TextView code, PageEncoding encoding, ScriptTracker scripts)
 {
-    if (encoding == PageEncoding::Utf8)
+    if (encoding == PageEncoding::Utf8 || FindAboveAscii(code, 0) == code.size())
         return ToUtf8(code);
     std::string bytes;
     bytes.reserve(code.size());

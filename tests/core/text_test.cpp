@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <random>
 #include <vector>
 
 namespace orvane::testing {
@@ -18,6 +19,25 @@ TEST(TextTest, FindCountsFromOneAndGivesZeroForNothing)
     EXPECT_EQ(FindIgnoringCase(u"a<HEAD>", u"<head"), 2u);
     EXPECT_EQ(FindIgnoringCase(u"abc", u"C", 4), 0u);
     EXPECT_EQ(FindLast(u"a/b/c", u"/"), 4u);
+}
+
+TEST(TextTest, BytesAreFoundWhereTheirCharactersAre)
+{
+    constexpr std::string_view signs = "aAbB<>\xC9\xE9\xFF";
+    std::mt19937 random(20261123);
+    const auto make = [&](std::size_t longest) {
+        std::string bytes(random() % (longest + 1), ' ');
+        for (char& byte : bytes)
+            byte = signs[random() % signs.size()];
+        return bytes;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const std::string bytes = make(12), sought = make(3);
+        const std::size_t from = random() % 15;
+        EXPECT_EQ(FindIgnoringCase(bytes, sought, from),
+                  FindIgnoringCase(FromBytes(bytes), FromBytes(sought), from))
+            << "\"" << bytes << "\" \"" << sought << "\" " << from;
+    }
 }
 
 TEST(TextTest, CutsStayInsideTheText)
