@@ -21,8 +21,9 @@ constexpr std::chrono::seconds longestWait{1};
 std::string PathBytes(TextView path)
 {
     std::string bytes = ToUtf8(path);
-    const bool isPath = path.find(u'\0') == TextView::npos && FromUtf8(bytes) == path;
-    return isPath ? bytes : std::string();
+    // Where each character became one byte, none was lost.
+    const bool isKept = bytes.size() == path.size() || FromUtf8(bytes) == path;
+    return isKept && path.find(u'\0') == TextView::npos ? bytes : std::string();
 }
 
 /// The folder's bytes with one "/" at their end; empty as PathBytes() is.

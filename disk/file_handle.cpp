@@ -68,11 +68,11 @@ std::error_code FileHandle::ReadAll(std::string& bytes) const
             bytes.resize(std::max(static_cast<std::size_t>(m_status.st_size), done * 2) + 1);
         std::size_t count = 0;
         const auto error = ReadSome(done, std::span(bytes).subspan(done), count);
-        if (error || count == 0) {
+        done += count;
+        if (error || IsEnd(done, count, bytes.size() == done)) {
             bytes.resize(done);
             return error;
         }
-        done += count;
     }
 }
 
@@ -83,13 +83,21 @@ std::error_code FileHandle::MustHold(std::string_view bytes) const
         std::size_t count = 0;
         if (const auto error = ReadSome(done, buffer, count))
             return error;
-        const bool isEnd = count == 0 && done == bytes.size();
-        if (isEnd)
-            return {};
-        if (count == 0 || bytes.substr(done, count) != std::string_view(buffer.data(), count))
+        if (bytes.substr(done, count) != std::string_view(buffer.data(), count))
             return std::make_error_code(std::errc::operation_canceled);
         done += count;
+        if (IsEnd(done, count, count == buffer.size()))
+            return done == bytes.size() ? std::error_code()
+                                        : std::make_error_code(std::errc::operation_canceled);
     }
+}
+
+/// Whether a read that gave `count` bytes, all that were wanted if `isFull`, and ended at `done`
+/// came to the end of the file. Some file systems stop a read early, but not where the file ends by
+/// its size.
+bool FileHandle::IsEnd(std::size_t done, std::size_t count, bool isFull) const
+{
+    return count == 0 || (!isFull && done == static_cast<std::size_t>(m_status.st_size));
 }
 
 std::error_code FileHandle::ReadSome(std::size_t from, std::span<char> buffer,
@@ -176,6 +184,8 @@ std::error_code FileHandle::TakePermissionsOf(const FileStatus& other) const
         mode &= ~mode_t{070} | ((mode & 07) << 3);
     else if (error)
         return error;
+    if ((m_status.st_mode & 07777) == mode)
+        return {};
     error = Retried([&] { return m_calls.ChangeMode(m_descriptor, mode); });
     const bool cannot =
         error == std::errc::operation_not_permitted || error == std::errc::not_supported;

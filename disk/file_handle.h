@@ -103,6 +103,7 @@ private:
         return m_status.st_uid == other.st_uid && m_status.st_gid == other.st_gid;
     }
     std::error_code TakeOwnerOf(const FileStatus& other) const;
+    bool IsEnd(std::size_t done, std::size_t count, bool isFull) const;
     std::error_code ReadSome(std::size_t from, std::span<char> buffer, std::size_t& count) const;
 
     SystemCalls& m_calls;

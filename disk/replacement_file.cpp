@@ -28,6 +28,15 @@ std::string TemporaryName()
     return name.append(ownNameEnd);
 }
 
+/// The mode of a file that becomes like another one: read and written by its owner, and read by all
+/// where all may read the other one, so that nobody ever has more rights than there.
+mode_t FirstModeOf(const FileStatus& like)
+{
+    constexpr mode_t readByAll = S_IRUSR | S_IRGRP | S_IROTH;
+    constexpr mode_t ownersOwn = S_IRUSR | S_IWUSR;
+    return (like.st_mode & readByAll) == readByAll ? ownersOwn | readByAll : ownersOwn;
+}
+
 /// Whether a call failed because the system or this file system does not have it.
 bool IsUnknownCall(const std::error_code& error)
 {
@@ -120,7 +129,7 @@ ReplacementFile::ReplacementFile(SystemCalls& calls, Leftovers& leftovers, std::
     : m_calls(calls),
       m_leftovers(leftovers),
       m_path(std::move(path)),
-      m_mode(0600),
+      m_mode(FirstModeOf(like)),
       m_like(like),
       m_rights(rights)
 {

@@ -58,11 +58,23 @@ std::error_code WholeFiles::FollowLinks(std::string& path) const
     return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }
 
+/// Opens the regular file that a path leads to, and turns the path of a symbolic link into that of
+/// what it leads to, which may be missing.
+std::error_code WholeFiles::OpenFollowed(std::string& path, int flags, FileHandle& file) const
+{
+    // Most paths are no links, and their links need not be read.
+    auto error = file.OpenRegular(path, flags | O_NOFOLLOW);
+    if (error == std::errc::too_many_symbolic_link_levels) {
+        error = FollowLinks(path);
+        if (!error)
+            error = file.OpenRegular(path, flags);
+    }
+    return error;
+}
+
 std::error_code WholeFiles::Open(std::string path, FileHandle& file) const
 {
-    if (const auto error = FollowLinks(path))
-        return error;
-    if (const auto error = file.OpenRegular(path, O_RDONLY))
+    if (const auto error = OpenFollowed(path, O_RDONLY, file))
         return error;
     return m_inPlace.Restore(path, file.Status());
 }
@@ -97,11 +109,9 @@ std::error_code WholeFiles::MustBeCopy(const std::string& path, const std::strin
 std::error_code WholeFiles::Replace(std::string path, Pieces content,
                                     std::optional<std::string_view> expected)
 {
-    if (const auto error = FollowLinks(path))
-        return error;
     FileHandle old(m_calls);
-    if (const auto error = old.OpenRegular(path, O_RDWR)) {
-        if (error != std::errc::no_such_file_or_directory)
+    if (const auto error = OpenFollowed(path, O_RDWR, old)) {
+        if (error != std::errc::no_such_file_or_directory || path.empty())
             return error;
         return expected ? std::make_error_code(std::errc::operation_canceled)
                         : PutWhereNoneIs(path, FillingWith(content));

@@ -57,6 +57,7 @@ public:
 
 private:
     std::error_code FollowLinks(std::string& path) const;
+    std::error_code OpenFollowed(std::string& path, int flags, FileHandle& file) const;
     std::error_code PutOver(ReplacementFile& file, const std::string& path, const Filling& fill,
                             const FileHandle& old, const std::error_code& missing);
     std::error_code PutWhereNoneIs(const std::string& path, const Filling& fill);

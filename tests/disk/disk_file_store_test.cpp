@@ -299,7 +299,7 @@ TEST_F(DiskFileStoreTest, WorksWhereNamesCannotBeExchangedAndPermissionsNotSet)
     PoorCalls calls;
     DiskFileStore store(calls, u"");
     const Text page = Folder.TextAt("page");
-    Folder.Put("page", "old");
+    Folder.Put("page", "old", 0640);
     EXPECT_EQ(store.PutNew(Folder.TextAt("backup"), "old", page), Done());
     EXPECT_EQ(Folder.Status("backup").st_mode & 07777, 0600u);
     EXPECT_EQ(ValueIn(store.Exchange(page, "old", "new")), true);
@@ -307,6 +307,32 @@ TEST_F(DiskFileStoreTest, WorksWhereNamesCannotBeExchangedAndPermissionsNotSet)
     EXPECT_EQ(ValueIn(store.PutIfFree(Folder.TextAt("second"), "new", page)), true);
     EXPECT_EQ(Folder.Get("page"), Folder.Get("second"));
     EXPECT_EQ(Folder.Names("").size(), 3u);
+}
+
+/// A disk that keeps the modes with which temporary files were made.
+class ModesOfFiles : public PosixCalls
+{
+public:
+    std::vector<mode_t> Modes;
+    Error Open(const std::string& path, int flags, mode_t mode, int& descriptor) override
+    {
+        if (IsTemporaryName(path.substr(path.rfind('/') + 1)))
+            Modes.push_back(mode);
+        return PosixCalls::Open(path, flags, mode, descriptor);
+    }
+};
+
+TEST_F(DiskFileStoreTest, WhoMayNotReadAPageMayNotReadItWhileItIsWritten)
+{
+    for (const mode_t mode : {0644u, 0664u, 0640u, 0604u, 0600u}) {
+        ModesOfFiles calls;
+        DiskFileStore store(calls, u"");
+        Folder.Put("page", "old", mode);
+        EXPECT_EQ(ValueIn(store.Exchange(Folder.TextAt("page"), "old", "new")), true);
+        EXPECT_EQ(Folder.Status("page").st_mode & 07777, mode);
+        ASSERT_FALSE(calls.Modes.empty());
+        EXPECT_EQ(calls.Modes.front(), (mode & 0444) == 0444 ? 0644u : 0600u);
+    }
 }
 
 /// A disk on which somebody guesses the name of a temporary file and lays a link there.
