@@ -88,6 +88,18 @@ TEST_F(OVMainFormTest, EveryTabFitsIntoTheWindowAsItOpens)
         const auto* area = m_form.findChild<QStackedWidget*>()->currentWidget();
         EXPECT_FALSE(static_cast<const QScrollArea*>(area)->verticalScrollBar()->isVisible());
     }
+    // A window with less room, be it below or beside, scrolls what it cannot show.
+    const QSize whole = m_form.size();
+    const auto* area =
+        static_cast<const QScrollArea*>(m_form.findChild<QStackedWidget*>()->currentWidget());
+    for (const QSize size : {QSize(whole.width(), 400), QSize(600, whole.height())}) {
+        m_form.resize(size);
+        LetRun();
+        EXPECT_TRUE(area->verticalScrollBar()->isVisible()) << size.width();
+        m_form.resize(whole);
+        LetRun();
+        EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << size.width();
+    }
 }
 
 TEST_F(OVMainFormTest, DescribesTheEffectUnderTheMouseAndWelcomesElsewhere)
