@@ -19,6 +19,15 @@ bool AreSameFile(const FileStatus& one, const FileStatus& other)
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
+bool AreUnchanged(const FileStatus& one, const FileStatus& other)
+{
+    const auto isAt = [](const timespec& time, const timespec& otherTime) {
+        return time.tv_sec == otherTime.tv_sec && time.tv_nsec == otherTime.tv_nsec;
+    };
+    return AreSameFile(one, other) && one.st_size == other.st_size &&
+           isAt(one.st_mtim, other.st_mtim) && isAt(one.st_ctim, other.st_ctim);
+}
+
 FileHandle::~FileHandle()
 {
     if (m_descriptor != -1)

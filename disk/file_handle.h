@@ -28,6 +28,10 @@ std::string FolderOf(std::string_view path);
 /// Whether both describe the same file, by device and inode.
 bool AreSameFile(const FileStatus& one, const FileStatus& other);
 
+/// Whether nothing was done to a file between two looks at it, as far as its size and times tell.
+/// A change that follows another at once may leave the times as they are.
+bool AreUnchanged(const FileStatus& one, const FileStatus& other);
+
 /// An open file or folder, closed with the object. Interrupted calls are repeated, and reads and
 /// writes that stop early are continued. Failures of closing are ignored: what must be on the disk
 /// was synced before.

@@ -184,14 +184,17 @@ std::error_code ReplacementFile::TakePlace(const FileHandle& file, const std::st
                                                : error;
     }
     // Most saves are seen here, before anybody meets the new file.
-    if (const auto error = MustHold(m_path, former.Bytes))
+    auto error = IsAsRead(former.AsRead) ? std::error_code() : MustHold(m_path, former.Bytes);
+    if (error)
         return error;
-    const auto exchanged = Exchange(temporary);
-    if (IsUnknownCall(exchanged))
-        return rename();
-    if (exchanged)
-        return exchanged;
-    auto error = MustHold(temporary, former.Bytes);
+    error = Exchange(temporary);
+    if (IsUnknownCall(error)) {
+        error = MustHold(m_path, former.Bytes);
+        return error ? error : rename();
+    }
+    if (error)
+        return error;
+    error = MustHold(temporary, former.Bytes);
     if (!error)
         error = Retried([&] { return m_calls.Remove(temporary); });
     if (!error)
@@ -199,6 +202,13 @@ std::error_code ReplacementFile::TakePlace(const FileHandle& file, const std::st
     const auto lost = GiveBack(file.Status(), temporary);
     m_isLost = static_cast<bool>(lost);
     return m_isLost ? lost : error;
+}
+
+/// Whether the path has a file that is as it was then by its size and times, which is no proof.
+bool ReplacementFile::IsAsRead(const FileStatus& status) const
+{
+    FileStatus now{};
+    return !Retried([&] { return m_calls.StatusAt(m_path, now); }) && AreUnchanged(now, status);
 }
 
 /// operation_canceled when the path does not have a file with these bytes.

@@ -97,12 +97,13 @@ public:
         };
         Kind Is;
         std::string_view Bytes;
+        FileStatus AsRead; ///< when the file had these bytes, if that is known
     };
 
     /// Puts a file with this content at the path. No temporary file is left after a failure; a
     /// missing folder gives not_a_directory. operation_canceled when the path has anything else
     /// than it must have. An expected file gives way by an exchange of names: when what came out is
-    /// not what was expected, it gets its name back. Where names cannot be exchanged, the path is
+    /// not what was expected, it gets its name back. Where names cannot be exchanged, the bytes are
     /// looked at directly before the renaming.
     [[nodiscard]] std::error_code Put(const Filling& fill, const Former& former = {});
 
@@ -115,6 +116,7 @@ private:
                                const Former& former);
     std::error_code TakePlace(const FileHandle& file, const std::string& temporary,
                               const Former& former);
+    bool IsAsRead(const FileStatus& status) const;
     std::error_code MustHold(const std::string& path, std::string_view bytes) const;
     std::error_code Exchange(const std::string& temporary) const;
     std::error_code GiveBack(FileStatus given, const std::string& temporary);

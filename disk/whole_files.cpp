@@ -82,8 +82,10 @@ std::error_code WholeFiles::Open(std::string path, FileHandle& file) const
 std::error_code WholeFiles::Read(const std::string& path, std::string& bytes) const
 {
     FileHandle file(m_calls);
-    const auto error = Open(path, file);
-    return error ? error : ReadWhole(file, bytes);
+    if (const auto error = Open(path, file))
+        return error;
+    m_lastRead = file.Status();
+    return ReadWhole(file, bytes);
 }
 
 std::error_code WholeFiles::ReadItself(const std::string& path, std::string& bytes) const
@@ -126,7 +128,7 @@ std::error_code WholeFiles::Replace(std::string path, Pieces content,
         std::ignore = old.Lock();
         ReplacementFile::Former former{};
         if (expected)
-            former = {ReplacementFile::Former::Kind::File, *expected};
+            former = {ReplacementFile::Former::Kind::File, *expected, m_lastRead};
         ReplacementFile file(m_calls, m_leftovers, path, old.Status(),
                              ReplacementFile::Rights::All);
         const auto error = file.Put(FillingWith(content), former);
@@ -175,7 +177,7 @@ std::error_code WholeFiles::PutIfFree(std::string path, const Filling& fill,
     if (const auto error = FollowLinks(path))
         return error;
     ReplacementFile file(m_calls, m_leftovers, path, rights, ReplacementFile::Rights::Permissions);
-    const auto error = file.Put(fill, {ReplacementFile::Former::Kind::Nothing, {}});
+    const auto error = file.Put(fill, {ReplacementFile::Former::Kind::Nothing, {}, {}});
     if (error && file.IsInPlace())
         std::ignore = Retried([&] { return m_calls.Remove(path); });
     return error;

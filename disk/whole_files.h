@@ -65,6 +65,7 @@ private:
     SystemCalls& m_calls;
     Leftovers m_leftovers;
     InPlaceWriter m_inPlace;
+    mutable FileStatus m_lastRead{}; ///< of the file that was read last, right before
 };
 
 } // namespace orvane

@@ -299,14 +299,38 @@ TEST_F(DiskFileStoreTest, WorksWhereNamesCannotBeExchangedAndPermissionsNotSet)
     PoorCalls calls;
     DiskFileStore store(calls, u"");
     const Text page = Folder.TextAt("page");
-    Folder.Put("page", "old", 0640);
-    EXPECT_EQ(store.PutNew(Folder.TextAt("backup"), "old", page), Done());
+    Folder.Put("page", "old");
+    Folder.Put("shut", "old", 0640);
+    EXPECT_EQ(store.PutNew(Folder.TextAt("backup"), "old", Folder.TextAt("shut")), Done());
     EXPECT_EQ(Folder.Status("backup").st_mode & 07777, 0600u);
+    EXPECT_EQ(ValueIn(store.Exchange(Folder.TextAt("shut"), "old", "new")), true);
+    EXPECT_EQ(ValueIn(store.Read(page)), "old");
+    EXPECT_EQ(ValueIn(store.Exchange(page, "OLD", "new")), false);
     EXPECT_EQ(ValueIn(store.Exchange(page, "old", "new")), true);
     EXPECT_EQ(ValueIn(store.PutIfFree(page, "newer", page)), false);
     EXPECT_EQ(ValueIn(store.PutIfFree(Folder.TextAt("second"), "new", page)), true);
     EXPECT_EQ(Folder.Get("page"), Folder.Get("second"));
-    EXPECT_EQ(Folder.Names("").size(), 3u);
+    EXPECT_EQ(Folder.Get("page"), Folder.Get("shut"));
+    EXPECT_EQ(Folder.Names("").size(), 4u);
+}
+
+TEST_F(DiskFileStoreTest, SavesAfterTheReadingAreSeenWhateverTheyKeep)
+{
+    PosixCalls calls;
+    DiskFileStore store(calls, u"");
+    const Text page = Folder.TextAt("page");
+    Folder.Put("page", "old");
+    EXPECT_EQ(ValueIn(store.Read(page)), "old");
+    EXPECT_EQ(ValueIn(store.Exchange(page, "OLD", "new")), false) << "never read so";
+    EXPECT_EQ(Folder.Get("page"), "old");
+
+    EXPECT_EQ(ValueIn(store.Read(page)), "old");
+    const auto time = std::filesystem::last_write_time(Folder.At("page"));
+    Folder.Put("page", "ALD");
+    std::filesystem::last_write_time(Folder.At("page"), time);
+    EXPECT_EQ(ValueIn(store.Exchange(page, "old", "new")), false) << "size and time are kept";
+    EXPECT_EQ(Folder.Get("page"), "ALD");
+    EXPECT_EQ(Folder.Names("").size(), 1u);
 }
 
 /// A disk that keeps the modes with which temporary files were made.
