@@ -1,7 +1,10 @@
 #include "insertion/page_edit.h"
 
+#include "core/utf8.h"
 #include "insertion/page_encoding.h"
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -27,6 +30,17 @@ constexpr std::size_t overlap = 16;
 
 /// What ends the work on a page early, or nothing when it goes on.
 using Stop = std::optional<PageEdit>;
+
+/// Whether all of the payload's text has the same bytes in each encoding.
+bool IsAscii(const FinishedPayload& payload)
+{
+    const EffectPayload& effect = payload.Effect;
+    const std::array<TextView, 8> texts = {
+        effect.HEADHTML,     effect.BODYHTML,     effect.OnLoadFunc,   effect.OnLoadArgs,
+        effect.OnUnloadFunc, effect.OnUnloadArgs, payload.BeginMarker, payload.EndMarker};
+    return std::ranges::all_of(
+        texts, [](TextView text) { return FindAboveAscii(text, 0) == text.size(); });
+}
 
 /// The payload's texts, each as the bytes that the page will hold.
 struct PageCode
@@ -203,7 +217,8 @@ private:
 PageEdit EditPage(std::string_view page, const FinishedPayload& payload,
                   const ReplaceQuestion& askToReplace)
 {
-    const PageCode code(payload, EncodingOf(page));
+    // A page may be long, and is not read for its encoding where that makes no difference.
+    const PageCode code(payload, IsAscii(payload) ? PageEncoding::AsciiOnly : EncodingOf(page));
     PageRun run(page, code, payload.ReplaceInBody, askToReplace);
     Stop stop;
     if (!code.HEADHTML.empty())
