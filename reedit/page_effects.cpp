@@ -42,11 +42,11 @@ bool PageEffects::Refresh()
         return false;
     auto read = m_files.Read(m_path);
     const Fault* fault = FaultIn(read);
-    m_unread = fault ? std::optional(*fault) : std::nullopt;
+    const auto wasUnread = std::exchange(m_unread, fault ? std::optional(*fault) : std::nullopt);
     m_facts = fault ? std::nullopt : facts;
     std::string bytes = fault ? std::string() : std::get<std::string>(std::move(read));
     if (bytes == m_bytes)
-        return false;
+        return m_unread != wasUnread;
     m_earlier.clear();
     Take(std::move(bytes));
     return true;

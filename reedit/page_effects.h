@@ -25,7 +25,8 @@ public:
     void GoTo(TextView path);
 
     /// Reads the page again if it was written since it was read; gives whether it is another one
-    /// now. The versions before what another program wrote are then forgotten.
+    /// now, or cannot be read for another reason. The versions before what another program wrote
+    /// are then forgotten.
     bool Refresh();
 
     const Text& Path() const { return m_path; }

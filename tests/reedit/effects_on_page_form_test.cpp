@@ -167,6 +167,10 @@ TEST_F(EffectsOnPageFormTest, LeavesWhatAnotherProgramWroteMeanwhile)
     Click(m_form, "cmdBrowseForPage");
     EXPECT_EQ(WordsOf(m_form, "lblEffect"), u"File not found");
     EXPECT_TRUE(m_desk.Files.Contents.empty());
+    m_desk.Files.Contents[u"/site/gone.html"] = "";
+    QApplication::sendEvent(&m_form, &activation);
+    EXPECT_EQ(WordsOf(m_form, "lblEffect"),
+              u"No special effect of Orvane stands in this Web page.");
 }
 
 TEST_F(EffectsOnPageFormTest, PutsThePageScriptInAndTakesItOut)

@@ -35,8 +35,10 @@ public:
              {"orvane.js", "Typewriter9.class", "AudioLoader3.class", "CoolTool3.class"})
             m_home.Put(std::string("home/") + file, file);
         m_disk.BeforeRename = [this](const std::string& to) {
-            if (to == m_home.At("site/a.html") && std::exchange(m_isSavedNext, false))
-                m_pages.SaveByOthers("a.html");
+            if (to != m_home.At("site/a.html") || !std::exchange(m_isSavedNext, false))
+                return;
+            m_pages.SaveByOthers("a.html");
+            m_step.IsOvertaken = true;
         };
         SessionProgram program(m_disk, m_home, m_author);
         program.Settings.Put(u"Misc", u"HTMLEditor", u"Other", u"Orvane");
@@ -120,6 +122,7 @@ private:
     {
         m_step.BringsBack = front.objectName() == QStringLiteral("BringBack");
         m_isPuttingIn = front.objectName() == QStringLiteral("PutIn");
+        m_isTagPasted = m_program->Core.EditMode;
         const std::size_t dice = m_author.Pick(100);
         if (dice < 3) {
             m_hands.Note(front, "others save the page when it is written next");
@@ -154,7 +157,9 @@ private:
         m_step.MayWrite = deed.MayWrite;
         m_step.SavesNewPage = std::exchange(m_author.SavesNewPage, false);
         m_step.IsTroubled = m_disk.Struck() && !std::exchange(m_isTroubleSeen, m_disk.Struck());
+        m_step.IsKilled = IsDead();
         const bool isWritten = m_pages.Look(m_step);
+        m_step.IsOvertaken = false;
         const bool isCopied = !std::exchange(m_program->Clipboard.Content, {}).empty();
         if (IsDead())
             return m_drafts.Forget();
@@ -168,7 +173,7 @@ private:
         if (isWritten || isCopied || (m_isPuttingIn && deed.MayWrite))
             m_drafts.Forget();
         if (!front.inherits("QMenu"))
-            m_drafts.Look(wizard, deed.OpensFresh && !m_step.IsTroubled);
+            m_drafts.Look(wizard, deed.OpensFresh && !m_isTagPasted && !m_step.IsTroubled);
         if (deed.LetsTimePass && wizard != nullptr)
             m_drafts.Keep();
         if (m_step.IsTroubled)
@@ -188,6 +193,9 @@ private:
         const std::string words =
             fields.substr(fields.find(effect->Fields.front() + std::string(": ")));
         m_step.Name = effect->Name();
+        m_step.Words.clear();
+        if (fields.find("ReadFromFile: yes") != std::string::npos)
+            return; // they lie in a file
         m_step.Words = words.substr(words.find(' ') + 1,
                                     words.find_first_of("\xC3\\\n") - words.find(' ') - 1);
     }
@@ -201,6 +209,9 @@ private:
         if (std::exchange(m_isAway, false)) {
             QEvent back(QEvent::ActivationChange);
             QApplication::sendEvent(&front, &back);
+            m_isAway = m_disk.Struck() && !m_isTroubleSeen;
+            if (m_isAway)
+                return; // that trouble is looked at after the next step
         }
         std::vector<std::string> titles;
         for (const Text& row : RowsOf(front, "lstPageEffects"))
@@ -221,6 +232,7 @@ private:
     int m_escapes = 0;            ///< since the program is left
     bool m_isKill = false;        ///< the trouble to come is a kill
     bool m_isTroubleSeen = false; ///< what struck was seen
+    bool m_isTagPasted = false;   ///< the next wizard opens with a tag
     bool m_isSavedNext = false;   ///< others save the page in the moment in which it is written
     bool m_isPuttingIn = false;   ///< the page may get the bytes that it has
     bool m_isAway = false;        ///< the author is in another program's window

@@ -124,6 +124,13 @@ bool IsWithLineEnds(std::string_view authors, std::string_view found)
     return authors.empty();
 }
 
+/// In a page that the program made, line ends come and go with the effect.
+std::string WithoutLineEnds(std::string authors)
+{
+    std::erase_if(authors, [](char sign) { return sign == '\r' || sign == '\n'; });
+    return authors;
+}
+
 /// The blocks of the first that are not among those of the second.
 std::vector<Block> Without(const std::vector<Block>& first, const std::vector<Block>& second)
 {
@@ -153,7 +160,7 @@ bool SessionPages::Look(const SessionStep& step)
         isWritten = true;
         EXPECT_TRUE(step.MayWrite) << name;
         if (versions.empty() || (step.SavesNewPage && name == "new.html"))
-            versions = {{*bytes, OutsideReading(*bytes).Authors}};
+            versions = {{*bytes, WithoutLineEnds(OutsideReading(*bytes).Authors)}};
         else
             LookAt(name, versions, *bytes, step);
     }
@@ -166,6 +173,9 @@ bool SessionPages::Look(const SessionStep& step)
 void SessionPages::LookAt(const std::string& name, Versions& versions, const std::string& bytes,
                           const SessionStep& step) const
 {
+    // The others' page has left its place already, and nobody is there to give it back.
+    if (step.IsKilled && step.IsOvertaken && IsLeftOver(versions.back().Bytes))
+        versions.pop_back();
     const Version before = versions.back();
     const auto earlier = std::ranges::find(versions, bytes, &Version::Bytes);
     const bool isEarlier = earlier != versions.end();
@@ -219,6 +229,14 @@ bool SessionPages::IsKept(const std::string& name, const std::string& bytes) con
            std::ranges::any_of(m_home.Names(place), [&](const std::string& day) {
                return m_home.Get(place + day + m_home.At("site/" + name)) == bytes;
            });
+}
+
+/// Whether a file with these bytes lies beside the page, under a name of the program's own.
+bool SessionPages::IsLeftOver(const std::string& bytes) const
+{
+    return std::ranges::any_of(m_home.Names("site"), [&](const std::string& name) {
+        return name.starts_with(".orvane-") && m_home.Get("site/" + name) == bytes;
+    });
 }
 
 void SessionPages::LookForLitter() const

@@ -32,6 +32,8 @@ struct SessionStep
     bool BringsBack = false;   ///< it may bring back a backup
     bool SavesNewPage = false; ///< it may make a page anew
     bool IsTroubled = false;   ///< trouble struck during it
+    bool IsOvertaken = false;  ///< others saved the page in the moment in which it was written
+    bool IsKilled = false;     ///< the program died in it
     std::string Name = {};     ///< of the effect that was made last, in its comments
     std::string Words = {};    ///< that this effect's code holds
 };
@@ -63,6 +65,7 @@ private:
     void LookAt(const std::string& name, Versions& versions, const std::string& bytes,
                 const SessionStep& step) const;
     bool IsKept(const std::string& name, const std::string& bytes) const;
+    bool IsLeftOver(const std::string& bytes) const;
     void LookForLitter() const;
 
     const TestFolder& m_home;
