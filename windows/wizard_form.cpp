@@ -81,7 +81,6 @@ Text WizardForm::LastTimePath() const
 void WizardForm::BeginDrafts(bool isFresh)
 {
     m_kept = Draft();
-    m_isDraftOurs = false;
     const auto kept = [&](const Text& path) {
         return isFresh ? ReadDraftFile(m_bench.Files, path) : std::nullopt;
     };
@@ -100,7 +99,6 @@ void WizardForm::Offer(LinkLabel& offer, const std::optional<Text>& fields)
     connect(&offer, &LinkLabel::Followed, this, [this, &offer, text = *fields] {
         TakeDraft(text);
         m_kept = Draft();
-        m_isDraftOurs = m_isDraftOurs || &offer == lblTakeUp;
         offer.hide();
         focusNextChild();
     });
@@ -122,12 +120,11 @@ void WizardForm::KeepDraft()
         return;
     WriteDraftFile(m_bench.Files, DraftPath(), draft);
     m_kept = std::move(draft);
-    m_isDraftOurs = true;
 }
 
 void WizardForm::WasDelivered()
 {
-    if (std::exchange(m_isDraftOurs, false))
+    if (ReadDraftFile(m_bench.Files, DraftPath()) == m_kept)
         DropDraftFile(m_bench.Files, DraftPath());
     m_kept = Draft();
     WriteDraftFile(m_bench.Files, LastTimePath(), m_kept);

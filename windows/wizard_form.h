@@ -48,8 +48,8 @@ public:
     /// The payload of a Done since the last call; nothing when there was none, as after Cancel.
     std::optional<EffectPayload> TakePayload();
 
-    /// Keeps the fields for the next time, and removes the draft if this window stored it or took
-    /// it up, which else is other work of the author; called when the effect was delivered.
+    /// Keeps the fields for the next time, and removes the draft unless it is other work than this
+    /// window's; called when the effect was delivered.
     void WasDelivered();
 
 signals:
@@ -110,7 +110,6 @@ private:
     std::optional<EffectPayload> m_payload;
     ControlName m_effect; ///< its menu command, under which drafts are kept
     Text m_kept; ///< the draft as last stored, or the fields as the window opened with them
-    bool m_isDraftOurs = false; ///< the draft was stored or taken up here
     QTimer* m_keepTimer;
     LinkLabel* lblTakeUp;
     LinkLabel* lblAsLastTime;
